@@ -27,7 +27,9 @@ void AppendCodePoint(Text& text, char32_t point) {
 }
 
 void AppendUtf8(std::string& bytes, char32_t point) {
-    const auto put = [&bytes](char32_t value) { bytes += static_cast<char>(static_cast<std::uint8_t>(value)); };
+    const auto put = [&bytes](char32_t value) {
+        bytes += static_cast<char>(static_cast<std::uint8_t>(value));
+    };
     if (point < 0x80) {
         put(point);
     } else if (point < 0x800) {
@@ -93,7 +95,8 @@ Text FromAscii(std::string_view ascii) {
 Text FromUtf8(std::string_view utf8) {
     Text text;
     text.reserve(utf8.size());
-    for (std::size_t at = 0; at < utf8.size();) AppendCodePoint(text, NextCodePoint(utf8, at));
+    for (std::size_t at = 0; at < utf8.size();)
+        AppendCodePoint(text, NextCodePoint(utf8, at));
     return text;
 }
 

@@ -49,7 +49,8 @@ TEST(Text, IllFormedUtf8BecomesReplacementCharacters) {
 
 TEST(Text, LoneSurrogateBecomesReplacementInUtf8) {
     EXPECT_EQ(ToUtf8(Text(1, 0xD800)), "\xEF\xBF\xBD");
-    EXPECT_EQ(ToUtf8(Text(1, 0xDC00) + u"a"), "\xEF\xBF\xBD" "a");
+    EXPECT_EQ(ToUtf8(Text(1, 0xDC00) + u"a"), "\xEF\xBF\xBD"
+                                              "a");
 }
 
 TEST(Text, NumberTextHasNoLeadingBlank) {

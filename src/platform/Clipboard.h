@@ -1,0 +1,16 @@
+#pragma once
+
+#include "common/Text.h"
+
+namespace korvane {
+
+class Clipboard {
+public:
+    virtual ~Clipboard() = default;
+    virtual bool HasText() const = 0;
+    virtual Text GetText() const = 0;
+    virtual void SetText(TextView text) = 0;
+    virtual void Clear() = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "common/DateTime.h"
+
+#include <chrono>
+
+namespace korvane {
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    /// Local date and time.
+    virtual DateTime Now() const = 0;
+    /// Holds the caller for so long without letting messages run.
+    virtual void Wait(std::chrono::milliseconds time) = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "common/Units.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+/// A place on the screen in twips.
+struct Rect {
+    Twips left, top, width, height;
+    bool operator==(const Rect&) const = default;
+};
+
+enum class Pointer : std::uint8_t { Default, Hourglass, Hand };
+
+class Screen {
+public:
+    virtual ~Screen() = default;
+    /// The primary screen without task bars.
+    virtual Rect WorkArea() const = 0;
+    virtual void SetPointer(Pointer pointer) = 0;
+    /// Lets pending messages run once.
+    virtual void ProcessMessages() = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+/// What the table's routines ask of the tab that shows the table.
+class TableHost {
+public:
+    virtual ~TableHost() = default;
+    /// Sets the slider and the box of the row height.
+    virtual void ShowRowHeight(std::int16_t height) = 0;
+    virtual void SetTabCaption(TextView caption) = 0;
+    /// Clears the `Dirty` flag of the tab's slot.
+    virtual void ClearDirty() = 0;
+};
+
+} // namespace korvane

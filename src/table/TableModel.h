@@ -1,0 +1,60 @@
+#pragma once
+
+#include "common/Text.h"
+#include "common/Units.h"
+#include "platform/Grid.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+namespace korvane {
+
+/// One text per column of a file, numbered from 1 to `MaxColumns`. What lies outside reads as empty and isn't
+/// written.
+class ColumnTexts {
+public:
+    const Text& operator[](Col col) const { return Holds(col) ? texts_[Index(col)] : empty_; }
+    void Set(Col col, Text text) {
+        if (Holds(col)) texts_[Index(col)] = std::move(text);
+    }
+    void Clear() { texts_.fill({}); }
+
+private:
+    static bool Holds(Col col) { return col >= Col{1} && col <= MaxColumns; }
+    static std::size_t Index(Col col) { return static_cast<std::size_t>(col.Number() - 1); }
+
+    std::array<Text, 24> texts_{};
+    Text empty_;
+};
+
+/// What a tab knows of its table beside the rows and columns, which live in the grid.
+class TableModel {
+public:
+    /// The grid is the tab's and outlives the model.
+    explicit TableModel(Grid& grid) : grid_(grid) {}
+
+    Grid& GridStore() { return grid_; }
+    const Grid& GridStore() const { return grid_; }
+
+    /// Full path of the file; empty for a table that has none.
+    Text TxtDbFile;
+    /// 1 when the table has changes that aren't on disk.
+    std::int16_t TableAltered = 0;
+    // Nothing until a load, a design or the user sets them; they count as 0 and empty then.
+    std::optional<std::int16_t> SetRowHeight;
+    std::optional<Colour> TableBackColour;
+    std::optional<Text> TableFontName;
+    std::optional<std::int16_t> TableFontSize;
+    /// Names as read or designed: no mirror of the grid's headers.
+    ColumnTexts ColumnNames;
+    /// Used only between reading the column lines of a file and creating the columns.
+    ColumnTexts ColumnWidths;
+
+private:
+    Grid& grid_;
+};
+
+} // namespace korvane
