@@ -1,0 +1,84 @@
+#pragma once
+
+#include "common/Settings.h"
+#include "common/Text.h"
+#include "context/ListerRequest.h"
+#include "platform/Grid.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace korvane {
+
+class Clipboard;
+class Clock;
+class FilePicker;
+class FileSystem;
+class FormHost;
+
+class InstanceChannel;
+class MainWindow;
+class MessageBoxes;
+class Screen;
+class Shell;
+
+/// What every window reaches: the settings, the values through which windows tell each other things, the
+/// outside and the ports. One per process; a test makes a fresh one.
+class App {
+public:
+    /// The outside. Everything outlives the App.
+    struct Platform {
+        FileSystem& files;
+        MessageBoxes& messages;
+        Clipboard& clipboard;
+        Clock& clock;
+        Screen& screen;
+        Shell& shell;
+        InstanceChannel& instance;
+        FormHost& forms;
+        std::function<std::unique_ptr<Grid>()> makeGrid;
+    };
+
+    explicit App(Platform platform) : platform_(std::move(platform)) {}
+    App(const App&) = delete;
+    App& operator=(const App&) = delete;
+
+    FileSystem& Files() const { return platform_.files; }
+    MessageBoxes& Messages() const { return platform_.messages; }
+    korvane::Clipboard& Clipboard() const { return platform_.clipboard; }
+    korvane::Clock& Clock() const { return platform_.clock; }
+    korvane::Screen& Screen() const { return platform_.screen; }
+    korvane::Shell& Shell() const { return platform_.shell; }
+    InstanceChannel& Instance() const { return platform_.instance; }
+    FormHost& Forms() const { return platform_.forms; }
+    std::unique_ptr<Grid> MakeGrid() const { return platform_.makeGrid(); }
+
+    korvane::Settings Settings;
+    /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.
+    std::int16_t DialogResult = 0;
+    /// 1 while the closing question of a tab runs its save.
+    std::int16_t ClosingTabSave = 0;
+    ListerRequest Lister;
+
+    /// 1 only in a start that found a running copy: nothing is saved then.
+    std::int16_t SecondInstance = 0;
+    /// -1 once a file arrived from a second start.
+    std::int16_t LoadedByCommand = 0;
+    /// -1 from the load of the main window to its first activation.
+    std::int16_t FirstLoadPending = 0;
+    Text HelpFilePath;
+    Text IniFilePath;
+    Text RecFilePath;
+
+    // The ports are set while the program is put together; nullptr where nobody answers, and the step that
+    // asks then has no effect.
+    korvane::FilePicker* FilePicker = nullptr;
+    korvane::MainWindow* MainWindow = nullptr;
+
+private:
+    Platform platform_;
+};
+
+} // namespace korvane

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace korvane {
+
+/// The request block of the file chooser: what the caller asks, and what came of it.
+struct ListerRequest {
+    /// 0 load, 1 save.
+    std::int16_t ListerMode = 0;
+    /// Patterns such as "*.tbx", separated by semicolons.
+    Text FileDialogFilter;
+    Text FileDialogCaption;
+    Text FileDialogDefaultName;
+
+    /// Empty when nothing was chosen. Callers clear it beforehand.
+    Text ChosenFilePath;
+    /// Index from 1; entry 0 is never used.
+    std::vector<Text> ChosenFiles{2};
+    std::int16_t ChosenFileCount = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "controls/Control.h"
+
+namespace korvane {
+
+class CommandButton : public Control {
+public:
+    CommandButton(Form& owner, std::string_view name, TextView caption = {}, TextView toolTip = {});
+
+    /// "&" marks the mnemonic.
+    Property<Text> Caption{*this, Aspect::Caption};
+    /// Whether Esc in the window presses the button.
+    bool Cancel = false;
+    /// Whether Return in the window presses the button.
+    bool Default = false;
+
+    std::function<void()> Click;
+
+    /// What the user does: nothing happens while the button is disabled or hidden.
+    void Press();
+};
+
+} // namespace korvane

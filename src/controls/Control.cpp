@@ -1,0 +1,11 @@
+#include "controls/Control.h"
+
+#include "controls/Form.h"
+
+namespace korvane {
+
+Control::Control(Form& owner, std::string_view name) : owner_(owner), name_(name) {
+    owner.Adopt(*this);
+}
+
+} // namespace korvane

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "common/Text.h"
+#include "common/Units.h"
+#include "controls/KeyEvent.h"
+#include "controls/Observed.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+class Form;
+
+/// The font of a control; an empty name and size 0 leave the system's own.
+struct FontSpec {
+    Text name;
+    int size = 0;
+    bool bold = false;
+    bool operator==(const FontSpec&) const = default;
+};
+
+/// A named part of a window. It joins its window's list of controls when it is made, in the order of
+/// declaration.
+class Control : public Observed {
+public:
+    Control(Form& owner, std::string_view name);
+
+    const std::string& Name() const { return name_; }
+    Form& Owner() const { return owner_; }
+
+    Property<bool> Enabled{*this, Aspect::Enabled, true};
+    Property<bool> Visible{*this, Aspect::Visible, true};
+    Property<Text> ToolTipText{*this, Aspect::ToolTip};
+    Property<FontSpec> Font{*this, Aspect::Font};
+    /// For the window's own use; nothing is shown of it.
+    Text Tag;
+
+    void SetFocus() { Notify(Aspect::Focus); }
+
+    std::function<void(KeyEvent&)> KeyDown;
+    std::function<void()> GotFocus;
+
+private:
+    Form& owner_;
+    std::string name_;
+};
+
+} // namespace korvane

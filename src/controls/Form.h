@@ -1,0 +1,73 @@
+#pragma once
+
+#include "common/Text.h"
+#include "common/Units.h"
+#include "controls/FormHost.h"
+#include "controls/KeyEvent.h"
+#include "controls/Observed.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+class Control;
+
+/// A window: a set of named controls and the handlers of a subclass. It knows nothing of how it is drawn.
+class Form : public Observed {
+public:
+    /// `name` is the window's class name, by which its look is found. The host outlives the form.
+    Form(FormHost& host, std::string_view name, TextView caption);
+    /// A form that is still shown goes from the screen without its closing handlers.
+    ~Form() override;
+
+    const std::string& Name() const { return name_; }
+    FormHost& Host() const { return host_; }
+
+    Property<Text> Caption{*this, Aspect::Caption};
+    // The window's place on the screen. All zero until it is shown or placed.
+    Property<Twips> Left{*this, Aspect::Place};
+    Property<Twips> Top{*this, Aspect::Place};
+    Property<Twips> Width{*this, Aspect::Place};
+    Property<Twips> Height{*this, Aspect::Place};
+    Text Tag;
+
+    /// The controls in the order of their declaration. They live and die with the form.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    /// nullptr when there is no such control.
+    Control* Find(std::string_view name) const;
+
+    /// Returns when the window has closed.
+    void ShowModal();
+    void Show();
+    bool Shown() const { return shown_; }
+    /// Asks `QueryUnload`; when it agrees, runs `Unload` and takes the window from the screen. False when
+    /// refused.
+    bool Close();
+
+    // Handlers.
+
+    /// Once, before the window is shown first.
+    virtual void Load() {}
+    /// False keeps the window open.
+    virtual bool QueryUnload() { return true; }
+    virtual void Unload() {}
+    virtual void Activate() {}
+    virtual void Resize() {}
+    /// Sees each key before the control that has the focus.
+    virtual void KeyDown(KeyEvent&) {}
+
+private:
+    friend class Control;
+    void Adopt(Control& control) { controls_.push_back(&control); }
+    void LoadOnce();
+
+    FormHost& host_;
+    std::string name_;
+    std::vector<Control*> controls_;
+    bool loaded_ = false;
+    bool shown_ = false;
+};
+
+} // namespace korvane

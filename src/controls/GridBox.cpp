@@ -1,0 +1,30 @@
+#include "controls/GridBox.h"
+
+namespace korvane {
+
+GridBox::GridBox(Form& owner, std::string_view name, std::unique_ptr<Grid> store)
+    : Control(owner, name), store_(std::move(store)) {}
+
+void GridBox::CommitEdit(Row row, Col col, TextView text) {
+    if (!store_->HasRow(row) || !store_->HasCol(col) || store_->CellValue(row, col) == text) return;
+    store_->SetCellValue(row, col, text);
+    if (AfterEdit) AfterEdit(row, col);
+}
+
+void GridBox::ClickCheck(Row row) {
+    if (!store_->HasRow(row) || !store_->CellCheckShown(row)) return;
+    store_->SetCellCheck(row, store_->CellCheck(row) == 1 ? 0 : 1);
+    if (AfterEdit) AfterEdit(row, Col{1});
+}
+
+void GridBox::ClickHeader(Col col) {
+    if (!store_->HasCol(col)) return;
+    if (HeaderClick) HeaderClick(col);
+    if (!store_->SortOnHeaderClick()) return;
+    const bool turn = col == sortedBy_ && order_ == SortOrder::Ascending;
+    order_ = turn ? SortOrder::Descending : SortOrder::Ascending;
+    sortedBy_ = col;
+    store_->SortByColumn(col, order_);
+}
+
+} // namespace korvane

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "controls/Control.h"
+#include "platform/Grid.h"
+
+#include <memory>
+
+namespace korvane {
+
+enum class MouseButton : std::uint8_t { Left, Right, Middle };
+
+/// The grid of a window: owns the store and tells what the user does to it. What the shown grid must follow
+/// it hears from the store itself (`GridListener`).
+class GridBox : public Control {
+public:
+    GridBox(Form& owner, std::string_view name, std::unique_ptr<Grid> store);
+
+    Grid& Store() { return *store_; }
+    const Grid& Store() const { return *store_; }
+
+    /// The user typed a new value into the cell and committed it; the store holds it already.
+    std::function<void(Row, Col)> AfterEdit;
+    /// Before the grid sorts, which it does when `SortOnHeaderClick` is true afterwards.
+    std::function<void(Col)> HeaderClick;
+    std::function<void(MouseButton)> MouseUp;
+
+    // What the user does.
+
+    /// Writes the cell and raises `AfterEdit`; nothing happens when the text is the same.
+    void CommitEdit(Row row, Col col, TextView text);
+    /// Ticks or unticks the row's box, which counts as a committed edit.
+    void ClickCheck(Row row);
+    /// A second click on the same header turns the order round.
+    void ClickHeader(Col col);
+
+private:
+    std::unique_ptr<Grid> store_;
+    Col sortedBy_;
+    SortOrder order_ = SortOrder::Ascending;
+};
+
+} // namespace korvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "controls/Control.h"
+
+namespace korvane {
+
+class Label : public Control {
+public:
+    Label(Form& owner, std::string_view name, TextView caption = {});
+
+    Property<Text> Caption{*this, Aspect::Caption};
+};
+
+/// A part of a window that holds other controls: a frame, a picture box, a tool bar.
+class Panel : public Control {
+public:
+    using Control::Control;
+};
+
+} // namespace korvane

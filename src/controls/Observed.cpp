@@ -1,0 +1,11 @@
+#include "controls/Observed.h"
+
+namespace korvane {
+
+void Observed::Notify(Aspect aspect) {
+    // The view first: a handler may look at the screen, and may even close the window it belongs to.
+    if (view_ != nullptr) view_->Follow(*this, aspect);
+    Changed(aspect);
+}
+
+} // namespace korvane

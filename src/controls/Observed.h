@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+namespace korvane {
+
+class Observed;
+
+/// What of a control or window changed, so that its widget can follow.
+enum class Aspect : std::uint8_t {
+    Text,
+    Caption,
+    Enabled,
+    Visible,
+    ToolTip,
+    Place,
+    Font,
+    Colours,
+    Items,
+    Selection,
+    Value,
+    Range,
+    /// The keyboard focus is wanted; nothing is stored.
+    Focus,
+};
+
+/// The shown side of a control or window.
+class View {
+public:
+    virtual ~View() = default;
+    virtual void Follow(Observed& observed, Aspect aspect) = 0;
+};
+
+/// Something whose properties reach the screen: at most one view follows it.
+class Observed {
+public:
+    Observed(const Observed&) = delete;
+    Observed& operator=(const Observed&) = delete;
+    virtual ~Observed() = default;
+
+    /// nullptr takes the view away. The caller owns it.
+    void SetView(View* view) { view_ = view; }
+    /// Called by the properties: the view follows, then the control's own rules run.
+    void Notify(Aspect aspect);
+
+protected:
+    Observed() = default;
+    /// The control's own consequences of a change, such as its `Change` event.
+    virtual void Changed(Aspect) {}
+
+private:
+    View* view_ = nullptr;
+};
+
+/// A value of a control: writing another value tells the control and its view.
+template <class T>
+class Property {
+public:
+    Property(Observed& owner, Aspect aspect, T value = {})
+        : owner_(owner), aspect_(aspect), value_(std::move(value)) {}
+    Property(const Property&) = delete;
+
+    const T& Get() const { return value_; }
+    operator const T&() const { return value_; } // NOLINT: a property reads like its value
+    Property& operator=(T value) {
+        if (value == value_) return *this;
+        value_ = std::move(value);
+        owner_.Notify(aspect_);
+        return *this;
+    }
+    Property& operator=(const Property& other) { return *this = other.value_; }
+
+private:
+    Observed& owner_;
+    Aspect aspect_;
+    T value_;
+};
+
+} // namespace korvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controls/Control.h"
+
+#include <vector>
+
+namespace korvane {
+
+/// The child windows of a main window, one tab each, in the order of their creation, with their captions.
+class TabStrip : public Control {
+public:
+    using Control::Control;
+
+    /// False holds the painting of the strip.
+    Property<bool> AllowDrawing{*this, Aspect::Visible, true};
+    /// The switch that start-up turns on and the end of the program turns off.
+    Property<bool> On{*this, Aspect::Enabled};
+    Property<int> Style{*this, Aspect::Colours};
+
+    /// Appends the child's tab and makes it the active one.
+    void Add(Form& child);
+    void Remove(Form& child);
+    const std::vector<Form*>& Children() const { return children_; }
+    /// nullptr when no tab stands.
+    Form* ActiveChild() const { return active_; }
+    /// Shows the child and runs its `Activate`. What the user does as well.
+    void Select(Form& child);
+
+    /// A click with the context button on a tab.
+    std::function<void()> TabContextClick;
+    /// The same on the free strip.
+    std::function<void()> ContextMenu;
+    /// The user wants the tab closed.
+    std::function<void(Form&)> CloseWanted;
+
+private:
+    std::vector<Form*> children_;
+    Form* active_ = nullptr;
+};
+
+} // namespace korvane

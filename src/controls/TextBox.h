@@ -1,0 +1,28 @@
+#pragma once
+
+#include "controls/Control.h"
+
+namespace korvane {
+
+/// A field of text. `Change` fires whenever the text becomes another, also when the program sets it.
+class TextBox : public Control {
+public:
+    TextBox(Form& owner, std::string_view name, TextView text = {}, TextView toolTip = {});
+
+    Property<korvane::Text> Text{*this, Aspect::Text};
+    Property<bool> Locked{*this, Aspect::Enabled};
+    // The selection in units of the text, counted from 0.
+    Property<int> SelStart{*this, Aspect::Selection};
+    Property<int> SelLength{*this, Aspect::Selection};
+
+    std::function<void()> Change;
+
+    void SelectAll();
+    /// What the user does.
+    void Type(TextView text);
+
+protected:
+    void Changed(Aspect aspect) override;
+};
+
+} // namespace korvane
