@@ -148,8 +148,4 @@ TextView Trim(TextView text) {
     return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
-Text NumberText(long long number) {
-    return FromAscii(std::to_string(number));
-}
-
 } // namespace korvane

@@ -31,7 +31,4 @@ std::size_t InStrRev(TextView text, TextView part);
 /// Without leading and trailing blanks (0x20 only).
 TextView Trim(TextView text);
 
-/// The number in decimal without a leading blank.
-Text NumberText(long long number);
-
 } // namespace korvane

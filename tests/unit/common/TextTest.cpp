@@ -53,10 +53,5 @@ TEST(Text, LoneSurrogateBecomesReplacementInUtf8) {
                                               "a");
 }
 
-TEST(Text, NumberTextHasNoLeadingBlank) {
-    EXPECT_EQ(NumberText(0), u"0");
-    EXPECT_EQ(NumberText(-12), u"-12");
-}
-
 } // namespace
 } // namespace korvane
