@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/CodePage.h"
 #include "common/Settings.h"
 #include "common/Text.h"
 #include "context/ListerRequest.h"
@@ -39,6 +40,8 @@ public:
         InstanceChannel& instance;
         FormHost& forms;
         std::function<std::unique_ptr<Grid>()> makeGrid;
+        /// In which all files stand.
+        CodePage codePage = CodePage::Windows1252();
     };
 
     explicit App(Platform platform) : platform_(std::move(platform)) {}
@@ -54,6 +57,7 @@ public:
     InstanceChannel& Instance() const { return platform_.instance; }
     FormHost& Forms() const { return platform_.forms; }
     std::unique_ptr<Grid> MakeGrid() const { return platform_.makeGrid(); }
+    const CodePage& Page() const { return platform_.codePage; }
 
     korvane::Settings Settings;
     /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.

@@ -11,6 +11,7 @@ Form::Form(FormHost& host, std::string_view name, TextView caption) : host_(host
 }
 
 Form::~Form() {
+    LeaveLoaded();
     if (shown_) host_.Hide(*this);
 }
 
@@ -21,13 +22,13 @@ Control* Form::Find(std::string_view name) const {
 }
 
 void Form::ShowModal() {
-    LoadOnce();
+    EnsureLoaded();
     shown_ = true;
     host_.RunModal(*this);
 }
 
 void Form::Show() {
-    LoadOnce();
+    EnsureLoaded();
     shown_ = true;
     host_.Show(*this);
 }
@@ -35,6 +36,7 @@ void Form::Show() {
 bool Form::Close() {
     if (!QueryUnload()) return false;
     Unload();
+    LeaveLoaded();
     if (shown_) {
         shown_ = false;
         host_.Hide(*this);
@@ -42,10 +44,16 @@ bool Form::Close() {
     return true;
 }
 
-void Form::LoadOnce() {
+void Form::EnsureLoaded() {
     if (loaded_) return;
     loaded_ = true;
+    host_.loaded_.push_back(this);
     Load();
+}
+
+void Form::LeaveLoaded() {
+    loaded_ = false;
+    std::erase(host_.loaded_, this);
 }
 
 } // namespace korvane

@@ -38,12 +38,15 @@ public:
     /// nullptr when there is no such control.
     Control* Find(std::string_view name) const;
 
+    /// Runs `Load` unless it has run. Showing the window does so too; a window that stands inside another one
+    /// is loaded only.
+    void EnsureLoaded();
     /// Returns when the window has closed.
     void ShowModal();
     void Show();
     bool Shown() const { return shown_; }
     /// Asks `QueryUnload`; when it agrees, runs `Unload` and takes the window from the screen. False when
-    /// refused.
+    /// refused. Shown again afterwards, the window loads anew.
     bool Close();
 
     // Handlers.
@@ -61,7 +64,7 @@ public:
 private:
     friend class Control;
     void Adopt(Control& control) { controls_.push_back(&control); }
-    void LoadOnce();
+    void LeaveLoaded();
 
     FormHost& host_;
     std::string name_;

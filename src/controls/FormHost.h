@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 namespace korvane {
 
 class Form;
@@ -18,6 +20,13 @@ public:
     virtual void PopUp(Menu& menu) = 0;
     /// Brings the window to the front with the keyboard.
     virtual void Raise(Form& form) = 0;
+
+    /// The windows that have run their `Load` and not yet closed, in this order.
+    const std::vector<Form*>& LoadedForms() const { return loaded_; }
+
+private:
+    friend class Form;
+    std::vector<Form*> loaded_;
 };
 
 } // namespace korvane

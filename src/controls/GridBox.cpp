@@ -27,4 +27,11 @@ void GridBox::ClickHeader(Col col) {
     store_->SortByColumn(col, order_);
 }
 
+void GridBox::ClickCell(Row row, Col col) {
+    if (!store_->HasRow(row) || !store_->HasCol(col)) return;
+    store_->SetCurRow(row);
+    store_->SetCurCol(col);
+    if (CellClick) CellClick(row, col);
+}
+
 } // namespace korvane

@@ -2,6 +2,7 @@
 
 #include "controls/Control.h"
 #include "platform/Grid.h"
+#include "platform/Screen.h"
 
 #include <memory>
 
@@ -23,6 +24,16 @@ public:
     /// Before the grid sorts, which it does when `SortOnHeaderClick` is true afterwards.
     std::function<void(Col)> HeaderClick;
     std::function<void(MouseButton)> MouseUp;
+    /// The cell is the current one by then.
+    std::function<void(Row, Col)> CellClick;
+    /// The mouse pointer came over the grid (true) or left it.
+    std::function<void(bool)> Hover;
+
+    /// How the current row is drawn; `kNoColour` leaves it to the look of the grid.
+    Property<Colour> HighlightBackColor{*this, Aspect::Colours};
+    Property<Colour> HighlightForeColor{*this, Aspect::Colours};
+    /// What the mouse pointer is over the grid.
+    Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
 
     // What the user does.
 
@@ -32,6 +43,8 @@ public:
     void ClickCheck(Row row);
     /// A second click on the same header turns the order round.
     void ClickHeader(Col col);
+    /// Makes the cell the current one and raises `CellClick`.
+    void ClickCell(Row row, Col col);
 
 private:
     std::unique_ptr<Grid> store_;

@@ -21,6 +21,7 @@ enum class Aspect : std::uint8_t {
     Selection,
     Value,
     Range,
+    Pointer,
     /// The keyboard focus is wanted; nothing is stored.
     Focus,
 };

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace korvane {
+
+class App;
+class TableHost;
+class TableModel;
+
+/// What a command of a tab works on. All of it outlives the command.
+struct TabContext {
+    App& app;
+    TableModel& table;
+    TableHost& host;
+};
+
+} // namespace korvane
