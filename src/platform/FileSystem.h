@@ -47,7 +47,8 @@ public:
     virtual std::optional<std::int64_t> Size(TextView path) const = 0;
     virtual std::optional<DateTime> Modified(TextView path) const = 0;
 
-    /// The system's words for the last failure; empty when there was none.
+    /// The system's words for why the last `ChangeDir`, `ReadAll`, `OpenRaw` or `Remove` failed, or a write
+    /// since; empty when nothing did.
     virtual Text LastErrorText() const = 0;
 
     /// The folder of the state files and of the files that ship with the program.

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+/// What can be made to fail on a disk in memory.
+enum class FileStep : std::uint8_t { OpenToRead, OpenToWrite, Write, Close, Remove };
+
+/// Failures to order. Each strikes once.
+class FileFaults {
+public:
+    /// The `nth` step of this kind from now on fails, the next one being 1, with `errorText` as the system's
+    /// words.
+    void FailNth(FileStep step, int nth, TextView errorText = u"Input/output error");
+
+    /// Counts one step; the words of the failure ordered for it, nothing when it is to succeed.
+    std::optional<Text> Strike(FileStep step);
+
+private:
+    struct Fault {
+        FileStep step;
+        int stepsLeft;
+        Text errorText;
+    };
+    std::vector<Fault> faults_;
+};
+
+} // namespace korvane

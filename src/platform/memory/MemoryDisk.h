@@ -1,0 +1,98 @@
+#pragma once
+
+#include "common/DateTime.h"
+#include "common/PathStyle.h"
+#include "common/Text.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+/// A file, folder or symbolic link of a disk in memory.
+struct MemoryNode {
+    enum class Kind : std::uint8_t { File, Dir, Link };
+
+    Kind kind = Kind::Dir;
+    /// As it was written when the node was made.
+    Text name;
+    DateTime modified;
+    bool readOnly = false;
+    /// Of a file.
+    std::string bytes;
+    /// Of a link: the path that it names, relative ones starting at the link's folder.
+    Text target;
+    /// Of a folder, under their names as the disk compares them.
+    std::map<Text, std::shared_ptr<MemoryNode>> children;
+};
+
+/// A drive on Windows, the whole tree elsewhere.
+struct MemoryVolume {
+    std::shared_ptr<MemoryNode> root = std::make_shared<MemoryNode>();
+    /// Where relative paths on this volume start.
+    std::vector<Text> currentDir;
+    bool readOnly = false;
+    /// How many more bytes the volume takes; without limit when nothing is given.
+    std::optional<std::int64_t> freeBytes;
+};
+
+enum class LastLink : std::uint8_t { Follow, Keep };
+
+/// Folders and files in memory, and the ways of a path style to name them.
+class MemoryDisk {
+public:
+    /// Starts with drive C or the root folder, and nothing in it.
+    explicit MemoryDisk(const PathStyle& style);
+
+    /// What a path leads to.
+    struct Place {
+        MemoryVolume* volume = nullptr;
+        /// The folder that holds the node, or would; null when there is no such folder, and for a root.
+        std::shared_ptr<MemoryNode> folder;
+        /// The node's name in this folder.
+        Text name;
+        /// Null when there is no such node.
+        std::shared_ptr<MemoryNode> node;
+    };
+    Place Find(TextView path, LastLink lastLink = LastLink::Follow);
+
+    Text FullPath(TextView path) const;
+    Text CurrentDir() const;
+    /// Makes the folder current, and its drive.
+    bool ChangeDir(TextView path);
+
+    /// Puts a node in the place, over one that stands there.
+    std::shared_ptr<MemoryNode> Put(const Place& place, MemoryNode::Kind kind);
+    void Erase(const Place& place);
+    /// Makes the folder and those above it as far as they are missing.
+    void MakeDirs(TextView path);
+
+    void AddDrive(char16_t letter);
+    /// The volume that a path is on; null for a drive that isn't there.
+    MemoryVolume* VolumeOf(TextView path);
+
+    const PathStyle& Style() const { return style_; }
+
+private:
+    struct SplitPath {
+        Text root;
+        std::vector<Text> names;
+        bool namesFolder = false;
+    };
+    SplitPath Split(TextView path) const;
+    SplitPath SplitWindows(TextView path) const;
+    SplitPath SplitPosix(TextView path) const;
+    const std::vector<Text>& CurrentDirOf(const Text& root) const;
+    Text Join(const Text& root, const std::vector<Text>& names) const;
+    Place Walk(const SplitPath& path, LastLink lastLink);
+
+    PathStyle style_;
+    Text currentRoot_;
+    std::map<Text, MemoryVolume> volumes_;
+};
+
+} // namespace korvane
