@@ -1,0 +1,50 @@
+#pragma once
+
+#include "controls/Control.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+/// A box that holds 1 (ticked) or 0. `Click` fires whenever the value becomes another, also when the program
+/// sets it.
+class CheckBox : public Control {
+public:
+    CheckBox(Form& owner, std::string_view name, TextView caption = {}, TextView toolTip = {});
+
+    /// "&" marks the mnemonic.
+    Property<Text> Caption{*this, Aspect::Caption};
+    Property<std::int16_t> Value{*this, Aspect::Value};
+
+    std::function<void()> Click;
+
+    /// What the user does: nothing happens while the box is disabled or hidden.
+    void Press();
+
+protected:
+    void Changed(Aspect aspect) override;
+};
+
+/// One of several of which a single one is on: the buttons of a window that share a group name.
+class OptionButton : public Control {
+public:
+    OptionButton(Form& owner, std::string_view name, std::string_view group, TextView caption = {});
+
+    Property<Text> Caption{*this, Aspect::Caption};
+    /// Turning one on turns the others of its group off; `Click` fires for the one that comes on.
+    Property<bool> Value{*this, Aspect::Value};
+
+    const std::string& Group() const { return group_; }
+
+    std::function<void()> Click;
+
+    void Press();
+
+protected:
+    void Changed(Aspect aspect) override;
+
+private:
+    std::string group_;
+};
+
+} // namespace korvane

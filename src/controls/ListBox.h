@@ -1,0 +1,59 @@
+#pragma once
+
+#include "controls/Control.h"
+
+#include <vector>
+
+namespace korvane {
+
+/// A list of lines of which one is current. Rows count from 0, as list indexes do; -1 is none.
+class ListBox : public Control {
+public:
+    using Control::Control;
+
+    int ListCount() const { return static_cast<int>(items_.size()); }
+    /// Empty outside the list.
+    Text List(int index) const;
+    void SetList(int index, TextView text);
+    void AddItem(TextView text);
+    void InsertItem(int index, TextView text);
+    void RemoveItem(int index);
+    void Clear();
+
+    /// Fires `Click` when it becomes another. An index outside the list has no effect.
+    int ListIndex() const { return listIndex_; }
+    void SetListIndex(int index);
+
+    // The check marks of a list that has them, and the picks of one that takes several.
+    bool Selected(int index) const;
+    void SetSelected(int index, bool selected);
+
+    std::function<void()> Click;
+    std::function<void()> DblClick;
+    /// A check mark or pick changed.
+    std::function<void(int index)> ItemCheck;
+
+    // What the user does.
+    void Select(int index) { SetListIndex(index); }
+    void DoubleClick(int index);
+
+private:
+    struct Item {
+        Text text;
+        bool selected = false;
+    };
+    bool Holds(int index) const { return index >= 0 && index < ListCount(); }
+
+    std::vector<Item> items_;
+    int listIndex_ = -1;
+};
+
+/// A list that drops down from a field with the chosen line.
+class ComboBox : public ListBox {
+public:
+    using ListBox::ListBox;
+    /// The chosen line; empty when none is.
+    Text Chosen() const { return List(ListIndex()); }
+};
+
+} // namespace korvane
