@@ -17,7 +17,8 @@ if(NOT WIN32)
 endif()
 
 add_library(korvane_options INTERFACE)
-target_compile_options(korvane_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow=local)
+target_compile_options(korvane_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
+    $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>)
 if(KORVANE_WERROR)
     target_compile_options(korvane_options INTERFACE -Werror)
 endif()
