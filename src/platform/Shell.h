@@ -2,15 +2,39 @@
 
 #include "common/Text.h"
 
+#include <cstdint>
+#include <vector>
+
 namespace korvane {
+
+/// How the window of a started program comes up. A normal one gets the focus.
+enum class WindowState : std::uint8_t { Normal, Minimised };
+
+/// A file or folder that the desktop is to open, with its own program for that kind of thing.
+struct OpenRequest {
+    Text verb = u"Open";
+    /// A path; "explorer.exe" stands for the desktop's file manager.
+    Text file;
+    Text parameters;
+    Text directory;
+
+    bool operator==(const OpenRequest&) const = default;
+};
 
 /// What the desktop does for the program.
 class Shell {
 public:
     virtual ~Shell() = default;
+    /// Starts a program, which gets each argument as it stands: no command interpreter reads them. The task
+    /// number; 0 when the program didn't start, as an empty one never does.
+    virtual int Run(TextView program, const std::vector<Text>& arguments, WindowState window) = 0;
+    /// What can't be opened is passed over.
+    virtual void Open(const OpenRequest& request) = 0;
     /// Shows a folder in the desktop's file manager.
     virtual void Explore(TextView folder) = 0;
     virtual void ToggleDesktop() = 0;
+    /// Sounds the system's bell.
+    virtual void Beep() = 0;
 };
 
 } // namespace korvane

@@ -3,13 +3,15 @@
 #include "platform/Shell.h"
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace korvane {
 
 /// One call that the desktop got.
 struct ShellCall {
-    enum class Kind : std::uint8_t { Explore, ToggleDesktop };
+    enum class Kind : std::uint8_t { Explore, ToggleDesktop, Beep };
 
     Kind kind;
     /// The folder of `Explore`; empty for the others.
@@ -18,17 +20,43 @@ struct ShellCall {
     bool operator==(const ShellCall&) const = default;
 };
 
+/// One program that was to be started.
+struct ProgramStart {
+    Text program;
+    std::vector<Text> arguments;
+    WindowState window = WindowState::Normal;
+
+    bool operator==(const ProgramStart&) const = default;
+};
+
 /// A desktop that does nothing but remember what it was asked for.
 class MemoryShell final : public Shell {
 public:
+    int Run(TextView program, const std::vector<Text>& arguments, WindowState window) override {
+        starts_.push_back({Text(program), arguments, window});
+        const bool started = !program.empty() && (!startable_ || startable_(program));
+        return started ? static_cast<int>(starts_.size()) : 0;
+    }
+    void Open(const OpenRequest& request) override { opened_.push_back(request); }
     void Explore(TextView folder) override { calls_.push_back({ShellCall::Kind::Explore, Text(folder)}); }
     void ToggleDesktop() override { calls_.push_back({ShellCall::Kind::ToggleDesktop, {}}); }
+    void Beep() override { calls_.push_back({ShellCall::Kind::Beep, {}}); }
 
-    /// All calls so far, in order.
+    /// Which programs can be started; every one until it is told.
+    void SetStartable(std::function<bool(TextView program)> startable) { startable_ = std::move(startable); }
+
+    /// All calls so far but starts and openings, in order.
     const std::vector<ShellCall>& Calls() const { return calls_; }
+    /// All starts so far, also those that failed, in order.
+    const std::vector<ProgramStart>& Starts() const { return starts_; }
+    /// All that was to be opened so far, in order.
+    const std::vector<OpenRequest>& Opened() const { return opened_; }
 
 private:
     std::vector<ShellCall> calls_;
+    std::vector<ProgramStart> starts_;
+    std::vector<OpenRequest> opened_;
+    std::function<bool(TextView program)> startable_;
 };
 
 } // namespace korvane

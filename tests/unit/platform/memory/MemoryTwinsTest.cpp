@@ -159,5 +159,29 @@ TEST(MemoryInstanceChannelTest, BringsPathsToTheCopyThatListens) {
     EXPECT_EQ(activations, 1);
 }
 
+TEST(MemoryShellTest, RemembersStartsAndCountsTheirTaskNumbers) {
+    MemoryShell shell;
+    EXPECT_EQ(shell.Run(u"C:\\a.exe", {u"one", u"two"}, WindowState::Normal), 1);
+    EXPECT_EQ(shell.Run(u"C:\\b.exe", {}, WindowState::Minimised), 2);
+    EXPECT_THAT(shell.Starts(), ElementsAre(ProgramStart{u"C:\\a.exe", {u"one", u"two"}, WindowState::Normal},
+                                            ProgramStart{u"C:\\b.exe", {}, WindowState::Minimised}));
+}
+
+TEST(MemoryShellTest, StartsNeitherAnEmptyProgramNorOneThatCantBeStarted) {
+    MemoryShell shell;
+    shell.SetStartable([](TextView program) { return program == u"there"; });
+    EXPECT_EQ(shell.Run(u"", {}, WindowState::Normal), 0);
+    EXPECT_EQ(shell.Run(u"lost", {}, WindowState::Normal), 0);
+    EXPECT_EQ(shell.Run(u"there", {}, WindowState::Normal), 3);
+}
+
+TEST(MemoryShellTest, RemembersWhatWasOpenedAndTheBell) {
+    MemoryShell shell;
+    shell.Open({u"explore", u"C:\\Data", {}, u"C:\\Data"});
+    shell.Beep();
+    EXPECT_THAT(shell.Opened(), ElementsAre(OpenRequest{u"explore", u"C:\\Data", {}, u"C:\\Data"}));
+    EXPECT_THAT(shell.Calls(), ElementsAre(ShellCall{ShellCall::Kind::Beep, {}}));
+}
+
 } // namespace
 } // namespace korvane
