@@ -100,6 +100,15 @@ Text FromUtf8(std::string_view utf8) {
     return text;
 }
 
+bool IsUtf8(std::string_view bytes) {
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t start = at;
+        // A replacement character that stands in the bytes itself takes three of them.
+        if (NextCodePoint(bytes, at) == kReplacement && at - start == 1) return false;
+    }
+    return true;
+}
+
 std::string ToUtf8(TextView text) {
     std::string bytes;
     bytes.reserve(text.size());

@@ -15,6 +15,8 @@ inline constexpr TextView kCrLf = u"\r\n";
 Text FromAscii(std::string_view ascii);
 /// UTF-8 to Text; an ill-formed byte becomes U+FFFD, a character outside the 16-bit plane a pair of units.
 Text FromUtf8(std::string_view utf8);
+/// Whether every byte belongs to a well-formed UTF-8 character.
+bool IsUtf8(std::string_view bytes);
 /// Text to UTF-8; a lone surrogate becomes U+FFFD.
 std::string ToUtf8(TextView text);
 

@@ -34,6 +34,15 @@ TEST(Text, TrimTakesBlanksOnlyAndLeavesTabs) {
     EXPECT_EQ(Trim(u"   "), u"");
 }
 
+TEST(Text, IsUtf8TakesWellFormedCharactersOnly) {
+    EXPECT_TRUE(IsUtf8(""));
+    EXPECT_TRUE(IsUtf8("a\xC3\xA9\xF0\x9F\x98\x80"));
+    EXPECT_TRUE(IsUtf8("\xEF\xBF\xBD")) << "a replacement character of its own";
+    EXPECT_FALSE(IsUtf8("caf\xE9"));
+    EXPECT_FALSE(IsUtf8("\xC3"));
+    EXPECT_FALSE(IsUtf8("\xED\xA0\x80")) << "a surrogate";
+}
+
 TEST(Text, Utf8ComesBackUnchanged) {
     const Text text = u"aé€😀";
     EXPECT_EQ(FromUtf8(ToUtf8(text)), text);

@@ -1,0 +1,110 @@
+#include "tbx/CommandLine.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr std::array kOptions{
+    OptionSpec{'d', "delimiter", "CHAR",
+               "character between the fields of CSV, or \"tab\" (normally a comma)"},
+    OptionSpec{'p', "code-page", "NUMBER",
+               "code page of .tbx files: 874 or 1250 to 1258 (normally your language's)"},
+    OptionSpec{'h', "help", "", "show help, of a command when one is named"},
+    OptionSpec{'V', "version", "", "show the version"},
+};
+
+template <class Predicate>
+const OptionSpec* FindOption(Predicate fits) {
+    const auto found = std::find_if(kOptions.begin(), kOptions.end(), fits);
+    return found == kOptions.end() ? nullptr : &*found;
+}
+
+/// Walks over the arguments and sorts them into the command line.
+class Parser {
+public:
+    Parser(std::span<const std::string> arguments, CommandLine& line) : rest_(arguments), line_(line) {}
+
+    void Parse() {
+        bool wordsOnly = false;
+        while (!rest_.empty() && line_.fault.empty()) {
+            const std::string_view argument = TakeNext();
+            if (wordsOnly || argument.size() < 2 || argument[0] != '-')
+                line_.words.emplace_back(argument);
+            else if (argument == "--")
+                wordsOnly = true;
+            else if (argument.starts_with("--"))
+                ParseLong(argument.substr(2));
+            else
+                ParseLetters(argument.substr(1));
+        }
+    }
+
+private:
+    std::string_view TakeNext() {
+        const std::string_view next = rest_.front();
+        rest_ = rest_.subspan(1);
+        return next;
+    }
+
+    void ParseLong(std::string_view argument) {
+        const std::size_t equals = argument.find('=');
+        const std::string_view name = argument.substr(0, equals);
+        const OptionSpec* option = FindOption([&](const auto& spec) { return spec.name == name; });
+        if (!option)
+            Fail("there is no option --" + std::string(name));
+        else if (equals == argument.npos)
+            Store(*option);
+        else if (option->value.empty())
+            Fail("the option --" + std::string(name) + " takes no value");
+        else
+            line_.options[option->letter] = argument.substr(equals + 1);
+    }
+
+    void ParseLetters(std::string_view letters) {
+        while (!letters.empty() && line_.fault.empty()) {
+            const char letter = letters.front();
+            letters.remove_prefix(1);
+            const OptionSpec* option = FindOption([&](const auto& spec) { return spec.letter == letter; });
+            if (!option) {
+                Fail(std::string("there is no option -") + letter);
+            } else if (option->value.empty() || letters.empty()) {
+                Store(*option);
+            } else {
+                line_.options[letter] = letters;
+                return;
+            }
+        }
+    }
+
+    /// Stores an option whose value, if it takes one, is the next argument.
+    void Store(const OptionSpec& option) {
+        if (option.value.empty())
+            line_.options[option.letter] = {};
+        else if (rest_.empty())
+            Fail("the option --" + std::string(option.name) + " needs a value");
+        else
+            line_.options[option.letter] = TakeNext();
+    }
+
+    void Fail(std::string fault) { line_.fault = std::move(fault); }
+
+    std::span<const std::string> rest_;
+    CommandLine& line_;
+};
+
+} // namespace
+
+std::span<const OptionSpec> OptionSpecs() {
+    return kOptions;
+}
+
+CommandLine ParseCommandLine(std::span<const std::string> arguments) {
+    CommandLine line;
+    Parser(arguments, line).Parse();
+    return line;
+}
+
+} // namespace korvane

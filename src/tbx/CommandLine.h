@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+/// An option that commands can take. It is known by its letter: `-p 1250`, `-p1250`, `--code-page 1250` and
+/// `--code-page=1250` are the same.
+struct OptionSpec {
+    char letter;
+    std::string_view name;
+    /// What stands for the value in the help; empty for an option without one.
+    std::string_view value;
+    std::string_view summary;
+};
+
+std::span<const OptionSpec> OptionSpecs();
+
+/// The arguments taken apart. Options may stand before, between and behind the words; behind `--` all are
+/// words, and so is a lone `-`.
+struct CommandLine {
+    std::vector<std::string> words;
+    /// Value by letter; of an option given twice the last counts.
+    std::map<char, std::string> options;
+    /// What is wrong with the arguments; empty when nothing is.
+    std::string fault;
+};
+
+CommandLine ParseCommandLine(std::span<const std::string> arguments);
+
+} // namespace korvane

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+enum class CsvFault { UnclosedQuote, TextBehindQuote };
+
+/// Takes the bytes of a CSV file (RFC 4180) apart, record by record. A record ends at CR LF, a lone LF or a
+/// lone CR, or at the end of the file; a field in quotes may hold line breaks, delimiters and doubled quotes,
+/// all of which come out as they stand. A quote inside a field that doesn't begin with one is a character
+/// like any other. A UTF-8 byte-order mark in front is passed over.
+class CsvReader {
+public:
+    /// The bytes have to live as long as the reader. The delimiter is neither a quote nor CR or LF.
+    explicit CsvReader(std::string_view bytes, char delimiter = ',');
+
+    /// Puts the fields of the next record in `fields`; an empty line is a record of one empty field. False at
+    /// the end of the bytes, and at a fault, behind which nothing more is read.
+    bool ReadRecord(std::vector<std::string>& fields);
+
+    /// The line, counted from 1, on which the last record began.
+    std::size_t RecordLine() const { return recordLine_; }
+    std::optional<CsvFault> Fault() const { return fault_; }
+    /// The line of the fault: that of the quote.
+    std::size_t FaultLine() const { return faultLine_; }
+
+private:
+    bool AtEnd() const { return at_ == bytes_.size(); }
+    bool AtFieldEnd() const;
+    bool Take(char byte);
+    void TakeLineEnd();
+    std::string ReadField();
+    std::string ReadQuotedField();
+    void CountLines(std::string_view piece);
+    void Stop(CsvFault fault, std::size_t line);
+
+    std::string_view bytes_;
+    char delimiter_;
+    std::size_t at_ = 0;
+    std::size_t line_ = 1;
+    std::size_t recordLine_ = 0;
+    std::optional<CsvFault> fault_;
+    std::size_t faultLine_ = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tbx/RowFormat.h"
+
+namespace korvane {
+
+/// CSV (RFC 4180): a first record of the headers, every record ended by CR LF. A field is put in quotes where
+/// it would not be read back otherwise; so is the empty field of a one-column table, which would leave an
+/// empty line. A table without columns gives nothing.
+class CsvRows final : public RowFormat {
+public:
+    explicit CsvRows(char delimiter = ',') : delimiter_(delimiter) {}
+
+    void Begin(const std::vector<Text>& headers, std::string& out) override { AddRow(headers, out); }
+    void AddRow(const std::vector<Text>& cells, std::string& out) override;
+    void End(std::string&) override {}
+
+private:
+    bool NeedsQuotes(std::string_view field) const;
+    void AddField(std::string_view field, std::string& out) const;
+
+    char delimiter_;
+};
+
+} // namespace korvane

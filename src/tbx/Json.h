@@ -1,0 +1,16 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <string>
+
+namespace korvane {
+
+/// Puts the text as a JSON string at the end of `json`, in ASCII alone: quote and backslash behind a
+/// backslash, any unit outside 0x20 to 0x7E as \uXXXX with small hexadecimal letters.
+void AppendAsciiJson(TextView text, std::string& json);
+
+/// The same in UTF-8, with only the control characters escaped, the usual ones by their letter.
+void AppendUtf8Json(TextView text, std::string& json);
+
+} // namespace korvane

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "tbx/RowFormat.h"
+
+namespace korvane {
+
+/// A JSON array with one object for each row, one to a line, whose keys are the headers in their order.
+/// Since the keys of an object have to differ, an empty header becomes "column N" with the number of its
+/// column, and one that stood before takes the first free number from 2 on behind it: "Name", "Name 2".
+class JsonRows final : public RowFormat {
+public:
+    void Begin(const std::vector<Text>& headers, std::string& out) override;
+    void AddRow(const std::vector<Text>& cells, std::string& out) override;
+    void End(std::string& out) override;
+
+private:
+    /// Each key as JSON with the colon behind it.
+    std::vector<std::string> keys_;
+    bool first_ = true;
+};
+
+/// One key for each header, all different.
+std::vector<Text> DistinctKeys(const std::vector<Text>& headers);
+
+} // namespace korvane

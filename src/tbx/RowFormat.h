@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+/// A format in which the rows of a table leave the program. Each call puts its bytes, UTF-8, at the end of
+/// `out`: `Begin` once, then `AddRow` for each row with one text per header, then `End`.
+class RowFormat {
+public:
+    virtual ~RowFormat() = default;
+    virtual void Begin(const std::vector<Text>& headers, std::string& out) = 0;
+    virtual void AddRow(const std::vector<Text>& cells, std::string& out) = 0;
+    virtual void End(std::string& out) = 0;
+};
+
+} // namespace korvane
