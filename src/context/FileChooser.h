@@ -1,0 +1,33 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+class FileSystem;
+
+enum class ChooserMode : std::int16_t { Load = 0, Save = 1 };
+
+/// Lets the user choose files and returns when the chooser has closed. What came of it stands in
+/// `App::Lister`: `ChosenFilePath` is empty when nothing was chosen. `defaultName` is the name proposed for a
+/// save.
+void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView caption,
+                     TextView defaultName = {});
+
+/// Goes back, at the end of its life, to the drive and directory that were the current ones at its start.
+class KeepCurrentDir {
+public:
+    explicit KeepCurrentDir(FileSystem& files);
+    KeepCurrentDir(const KeepCurrentDir&) = delete;
+    KeepCurrentDir& operator=(const KeepCurrentDir&) = delete;
+    ~KeepCurrentDir();
+
+private:
+    FileSystem& files_;
+    Text savedDir_;
+};
+
+} // namespace korvane

@@ -1,0 +1,62 @@
+#include "context/StandardMessages.h"
+
+#include "context/App.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+
+namespace korvane {
+
+namespace {
+
+const Text kBlankLine = u"\r\n\r\n";
+
+void ShowBox(App& app, const Text& text, MessageIcon icon) {
+    app.Messages().Show({text, icon});
+}
+
+Text QuotedReason(TextView reason) {
+    return reason.empty() ? u"(unknown)" : u"\"" + Text(reason) + u"\"";
+}
+
+} // namespace
+
+void ShowCannotLoad(App& app, TextView file) {
+    ShowBox(app,
+            u"Cannot load the following file:" + kBlankLine + Text(file) + kBlankLine + u"Current dir.: " +
+                app.Files().CurrentDir(),
+            MessageIcon::Exclamation);
+}
+
+void ShowCannotLocate(App& app, TextView file) {
+    const Text shown(file.empty() ? u"( Filename empty! )" : file);
+    ShowBox(app,
+            u"Cannot locate the following program/file:" + kBlankLine + shown + kBlankLine +
+                u"Check the path before the name and see whether\r\n"
+                u"the program/file exists on your hard disk.",
+            MessageIcon::Stop);
+    app.Screen().SetPointer(Pointer::Default);
+}
+
+void ShowCannotAccess(App& app, TextView file, FileAccess access) {
+    // Before the box: what runs behind it may touch the disk.
+    const Text reason = QuotedReason(app.Files().LastErrorText());
+    const Text shown(Trim(file).empty() ? u"( no name specified or name is empty ! )" : file);
+    ShowBox(app,
+            Text(u"Cannot ") + (access == FileAccess::Save ? u"save" : u"delete") + u" this file :" +
+                kBlankLine + shown + kBlankLine +
+                u"The error was probably triggered for the following reason : " + kBlankLine + reason +
+                kBlankLine,
+            MessageIcon::Stop);
+}
+
+void ShowPasteHint(App& app) {
+    ShowBox(app, u"You can retrieve this text by pressing Ctrl-V or using the \"Paste\" option.",
+            MessageIcon::Information);
+}
+
+void DeleteFileQuietly(App& app, TextView file) {
+    if (!file.empty() && app.Files().FileExists(file)) app.Files().Remove(file);
+}
+
+} // namespace korvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+
+/// Tells that a file can't be loaded, and which directory is the current one.
+void ShowCannotLoad(App& app, TextView file);
+
+/// Tells that a program or file isn't there. The mouse pointer goes back to the default, since callers often
+/// come with the hourglass on.
+void ShowCannotLocate(App& app, TextView file);
+
+enum class FileAccess : std::uint8_t { Save, Delete };
+
+/// Tells that a file can't be written or deleted, with the words of the file system's last failure.
+void ShowCannotAccess(App& app, TextView file, FileAccess access = FileAccess::Save);
+
+/// Tells how to get at a text that was put in the clipboard.
+void ShowPasteHint(App& app);
+
+/// Deletes the file if it is there. A failure has no consequence.
+void DeleteFileQuietly(App& app, TextView file);
+
+} // namespace korvane

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "context/ListerRequest.h"
+#include "context/Ports.h"
+#include "controls/Form.h"
+#include "controls/FormHost.h"
+#include "platform/memory/ScriptedMessageBoxes.h"
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace korvane {
+
+/// Plays the user without a screen: windows, message boxes, file choosers and pop-up menus are answered from
+/// one script, in the order in which they come. What nobody scripted, what comes out of turn, what a script
+/// leaves open and what never came fails the test and names itself.
+class ScriptedUser final : public FormHost, public MessageBoxes, public FilePicker {
+public:
+    ScriptedUser() = default;
+    ScriptedUser(const ScriptedUser&) = delete;
+    ScriptedUser& operator=(const ScriptedUser&) = delete;
+    ~ScriptedUser() override;
+
+    // The script.
+
+    /// The next to come is a window of class `Window`. A modal one has to be closed at the end of `script`.
+    template <class Window, class Script>
+    void On(Script script) {
+        steps_.push_back(WindowStep{[script = std::move(script)](Form& form) {
+            auto* window = dynamic_cast<Window*>(&form);
+            if (window != nullptr) script(*window);
+            return window != nullptr;
+        }});
+    }
+    /// The next to come is any message box that has this button.
+    void Answer(korvane::Answer answer) { steps_.push_back(BoxStep{std::nullopt, answer}); }
+    /// The next to come is exactly this message box.
+    void Answer(const Message& expected, korvane::Answer answer) {
+        steps_.push_back(BoxStep{expected, answer});
+    }
+    /// The next to come is the file chooser; `choose` fills in what comes of it.
+    void OnChooser(std::function<void(ListerRequest&)> choose) {
+        steps_.push_back(ChooserStep{std::move(choose)});
+    }
+    void ChooseFile(const Text& path);
+    void ChooseFiles(const std::vector<Text>& paths);
+    void CancelChooser();
+    /// The next to come is a pop-up menu, of which this entry is chosen; none for an empty name.
+    void ChooseFromPopUp(std::string entry) { steps_.push_back(PopUpStep{std::move(entry)}); }
+
+    // What came.
+
+    const std::vector<Message>& Messages() const { return messages_; }
+    /// The requests as they reached the file chooser.
+    const std::vector<ListerRequest>& Requests() const { return requests_; }
+    /// The names of all pop-up menus that were shown.
+    const std::vector<std::string>& PopUps() const { return popUps_; }
+    /// The names of all windows that were brought to the front.
+    const std::vector<std::string>& Raised() const { return raised_; }
+    /// The windows that stand open and aren't modal.
+    const std::vector<Form*>& Shown() const { return shown_; }
+
+    // The outside.
+
+    void RunModal(Form& form) override;
+    void Show(Form& form) override;
+    void Hide(Form& form) override;
+    void PopUp(Menu& menu) override;
+    void Raise(Form& form) override;
+    korvane::Answer Show(const Message& message) override;
+    void Choose(ListerRequest& request) override;
+
+private:
+    struct WindowStep {
+        /// False when the window is of another class.
+        std::function<bool(Form&)> run;
+    };
+    struct BoxStep {
+        std::optional<Message> expected;
+        korvane::Answer answer;
+    };
+    struct ChooserStep {
+        std::function<void(ListerRequest&)> choose;
+    };
+    struct PopUpStep {
+        std::string entry;
+    };
+    using Step = std::variant<WindowStep, BoxStep, ChooserStep, PopUpStep>;
+
+    /// The next step when it is of this kind; otherwise fails the test with `what` came.
+    template <class Kind>
+    std::optional<Kind> Take(const std::string& what);
+    /// Whether the script had this window next.
+    bool PlayWindow(Form& form);
+
+    std::deque<Step> steps_;
+    std::vector<Message> messages_;
+    std::vector<ListerRequest> requests_;
+    std::vector<std::string> popUps_;
+    std::vector<std::string> raised_;
+    std::vector<Form*> shown_;
+};
+
+} // namespace korvane

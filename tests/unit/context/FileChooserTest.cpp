@@ -1,0 +1,56 @@
+#include "context/FileChooser.h"
+
+#include "support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+TEST(FileChooser, HandsOverTheRequestAndClearsAnEarlierChoice) {
+    TestApp t;
+    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    t.user.CancelChooser();
+    ShowFileChooser(t.app, ChooserMode::Save, u"*.tbx", u"Save database to disk", u"C:\\a.tbx");
+    const ListerRequest& request = t.user.Requests().at(0);
+    EXPECT_EQ(request.ListerMode, 1);
+    EXPECT_EQ(request.FileDialogFilter, u"*.tbx");
+    EXPECT_EQ(request.FileDialogCaption, u"Save database to disk");
+    EXPECT_EQ(request.FileDialogDefaultName, u"C:\\a.tbx");
+    EXPECT_EQ(request.ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
+}
+
+TEST(FileChooser, LeavesLoadModeAndAFilterOfZeroAlsoInTheSettings) {
+    TestApp t;
+    t.user.ChooseFile(u"C:\\b.tbx");
+    ShowFileChooser(t.app, ChooserMode::Save, u"*.tbx", u"Save database to disk");
+    EXPECT_EQ(t.app.Lister.ListerMode, 0);
+    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Lister.FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"C:\\b.tbx");
+}
+
+TEST(FileChooser, ChoosesNothingWhereNobodyAnswers) {
+    TestApp t;
+    t.app.FilePicker = nullptr;
+    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
+    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
+}
+
+TEST(KeepCurrentDir, GoesBackToDriveAndDirectory) {
+    TestApp t;
+    t.files.AddDir(u"C:\\Here");
+    t.files.AddDrive(u'D');
+    t.files.ChangeDir(u"C:\\Here");
+    {
+        const KeepCurrentDir keep(t.app.Files());
+        t.files.ChangeDir(u"D:\\");
+    }
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\Here");
+}
+
+} // namespace
+} // namespace korvane
