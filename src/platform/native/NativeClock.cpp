@@ -1,0 +1,25 @@
+#include "platform/native/NativeClock.h"
+
+#include "platform/native/SystemCalls.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace korvane {
+
+DateTime NativeClock::Now() const {
+    return ToLocalDateTime(std::time(nullptr));
+}
+
+void NativeClock::Wait(std::chrono::milliseconds time) {
+    std::this_thread::sleep_for(time);
+}
+
+DateTime ToLocalDateTime(std::time_t time) {
+    const std::tm local = system_calls::LocalTime(time);
+    // A leap second is counted with the one before it: no minute has a second 60.
+    const int second = std::min(local.tm_sec, 59);
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, second};
+}
+
+} // namespace korvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <ctime>
+
+namespace korvane {
+
+/// The computer's clock, in local time.
+class NativeClock final : public Clock {
+public:
+    DateTime Now() const override;
+    void Wait(std::chrono::milliseconds time) override;
+};
+
+/// The local date and time of a moment counted by the system.
+DateTime ToLocalDateTime(std::time_t time);
+
+} // namespace korvane

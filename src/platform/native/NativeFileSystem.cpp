@@ -1,0 +1,159 @@
+#include "platform/native/NativeFileSystem.h"
+
+#include "platform/native/NativeClock.h"
+#include "platform/native/NativePath.h"
+#include "platform/native/ReadFile.h"
+#include "platform/native/SystemFile.h"
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Whether a ".." behind the path takes back no more than its last name: behind a link it leads up from where
+/// the link points to.
+bool EndsInOwnName(const fs::path& path) {
+    std::error_code error;
+    return path.filename() != ".." && !fs::is_symlink(path, error);
+}
+
+/// Drops "." and what ".." takes back.
+fs::path WithoutDetours(const fs::path& path) {
+    fs::path plain;
+    for (const fs::path& part : path) {
+        if (part.empty() || part == ".") continue;
+        if (part == ".." && EndsInOwnName(plain)) {
+            plain = plain.parent_path();
+        } else {
+            plain /= part;
+        }
+    }
+    return plain;
+}
+
+} // namespace
+
+class NativeFileSystem::Writer final : public FileWriter {
+public:
+    Writer(SystemFile file, std::error_code& lastError) : file_(std::move(file)), lastError_(lastError) {}
+
+    bool Write(std::string_view bytes) override {
+        std::error_code error;
+        file_.Write(bytes, error);
+        return Note(error);
+    }
+
+    bool Close() override {
+        std::error_code error;
+        file_.Close(error);
+        Note(error);
+        return complete_;
+    }
+
+private:
+    bool Note(const std::error_code& error) {
+        if (!error) return true;
+        lastError_ = error;
+        complete_ = false;
+        return false;
+    }
+
+    SystemFile file_;
+    std::error_code& lastError_;
+    bool complete_ = true;
+};
+
+PathStyle NativeFileSystem::Style() const {
+    return fs::path::preferred_separator == '/' ? PathStyle::Posix : PathStyle::Windows;
+}
+
+bool NativeFileSystem::FileExists(TextView path) const {
+    std::error_code error;
+    const fs::file_status status = fs::status(ToNativePath(path), error);
+    return fs::exists(status) && !fs::is_directory(status);
+}
+
+bool NativeFileSystem::DirExists(TextView path) const {
+    std::error_code error;
+    return fs::is_directory(ToNativePath(path), error);
+}
+
+Text NativeFileSystem::CurrentDir() const {
+    std::error_code error;
+    return FromNativePath(fs::current_path(error));
+}
+
+bool NativeFileSystem::ChangeDir(TextView path) {
+    fs::current_path(ToNativePath(path), lastError_);
+    return !lastError_;
+}
+
+Text NativeFileSystem::FullPath(TextView path) const {
+    if (path.empty()) return {};
+    std::error_code error;
+    return FromNativePath(WithoutDetours(fs::absolute(ToNativePath(path), error)));
+}
+
+std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
+    return ReadFile(ToNativePath(path), lastError_);
+}
+
+std::unique_ptr<FileWriter> NativeFileSystem::OpenRaw(TextView path) {
+    const fs::path native = ToNativePath(path);
+    if (fs::exists(native, lastError_) && !system_calls::IsWritable(native)) {
+        lastError_ = LastSystemError();
+        return nullptr;
+    }
+    SystemFile file = SystemFile::OpenToWrite(native, RightsToRestore(native), lastError_);
+    if (!file.IsOpen()) return nullptr;
+    removed_ = {};
+    return std::make_unique<Writer>(std::move(file), lastError_);
+}
+
+bool NativeFileSystem::Remove(TextView path) {
+    const fs::path native = ToNativePath(path);
+    if (!CanRemove(native)) return false;
+    std::error_code ignored;
+    if (fs::is_symlink(native, ignored)) return Empty(native);
+    const auto rights = system_calls::RightsOf(native);
+    if (!fs::remove(native, lastError_)) return false;
+    removed_ = {native, rights};
+    return true;
+}
+
+/// The system alone would let a file go that can't be written: it asks the folder, not the file.
+bool NativeFileSystem::CanRemove(const fs::path& path) {
+    const bool writable = system_calls::IsWritable(path);
+    lastError_ = writable ? std::error_code() : LastSystemError();
+    std::error_code ignored;
+    if (fs::is_directory(path, ignored)) lastError_ = std::make_error_code(std::errc::is_a_directory);
+    return !lastError_;
+}
+
+bool NativeFileSystem::Empty(const fs::path& path) {
+    return SystemFile::OpenToWrite(path, std::nullopt, lastError_).IsOpen();
+}
+
+std::optional<system_calls::FileRights> NativeFileSystem::RightsToRestore(const fs::path& path) const {
+    return path == removed_.path ? removed_.rights : std::nullopt;
+}
+
+std::optional<std::int64_t> NativeFileSystem::Size(TextView path) const {
+    std::error_code error;
+    const auto size = fs::file_size(ToNativePath(path), error);
+    if (error) return std::nullopt;
+    return static_cast<std::int64_t>(size);
+}
+
+std::optional<DateTime> NativeFileSystem::Modified(TextView path) const {
+    const auto time = system_calls::ModifiedTime(ToNativePath(path));
+    if (!time) return std::nullopt;
+    return ToLocalDateTime(*time);
+}
+
+Text NativeFileSystem::LastErrorText() const {
+    return lastError_ ? FromUtf8(lastError_.message()) : Text();
+}
+
+} // namespace korvane

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/native/SystemCalls.h"
+
+#include <filesystem>
+#include <optional>
+#include <system_error>
+
+namespace korvane {
+
+/// The real disk. The current directory is that of the process.
+class NativeFileSystem final : public FileSystem {
+public:
+    explicit NativeFileSystem(TextView programDir) : programDir_(programDir) {}
+
+    PathStyle Style() const override;
+    bool FileExists(TextView path) const override;
+    bool DirExists(TextView path) const override;
+    Text CurrentDir() const override;
+    bool ChangeDir(TextView path) override;
+    /// Links stay as they are: the path is the one that the user knows.
+    Text FullPath(TextView path) const override;
+    std::optional<SharedBytes> ReadAll(TextView path) override;
+    /// A file that `Remove` has taken away last comes back with the rights that it had.
+    std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
+    bool Remove(TextView path) override;
+    std::optional<std::int64_t> Size(TextView path) const override;
+    std::optional<DateTime> Modified(TextView path) const override;
+    Text LastErrorText() const override;
+    Text ProgramDir() const override { return programDir_; }
+
+private:
+    class Writer;
+    struct Removed {
+        std::filesystem::path path;
+        std::optional<system_calls::FileRights> rights;
+    };
+
+    bool CanRemove(const std::filesystem::path& path);
+    bool Empty(const std::filesystem::path& path);
+    std::optional<system_calls::FileRights> RightsToRestore(const std::filesystem::path& path) const;
+
+    Text programDir_;
+    std::error_code lastError_;
+    Removed removed_;
+};
+
+} // namespace korvane

@@ -1,0 +1,113 @@
+#include "platform/native/SystemCalls.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace korvane::system_calls {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t kRightsBits = 0777;
+constexpr mode_t kGroupBits = 0070;
+constexpr mode_t kOthersBits = 0007;
+constexpr mode_t kAnybodyMayWrite = 0222;
+constexpr mode_t kNewFile = 0666;
+constexpr mode_t kOwnersFile = 0600;
+constexpr mode_t kOwnersDir = 0700;
+constexpr uid_t kSameUser = static_cast<uid_t>(-1);
+
+/// Rights of a group that can't be kept are not handed to the group that the new file has.
+mode_t WithoutGroup(mode_t mode) {
+    const mode_t everybody = mode & kOthersBits;
+    return (mode & ~kGroupBits) | (mode & (everybody << 3));
+}
+
+void GiveRights(int file, const FileRights& rights) {
+    // The owner first: a change of owner takes rights away.
+    const bool groupKept =
+        fchown(file, rights.user, rights.group) == 0 || fchown(file, kSameUser, rights.group) == 0;
+    const mode_t mode = rights.mode & kRightsBits;
+    // When this fails the file stays its owner's alone, and is none the worse written.
+    [[maybe_unused]] const int result = fchmod(file, groupKept ? mode : WithoutGroup(mode));
+}
+
+} // namespace
+
+int OpenToRead(const fs::path& path) {
+    return open(path.c_str(), O_RDONLY | O_CLOEXEC);
+}
+
+int OpenToWrite(const fs::path& path, const std::optional<FileRights>& rights) {
+    const int file =
+        open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, rights ? kOwnersFile : kNewFile);
+    if (file != kNoFile && rights) GiveRights(file, *rights);
+    return file;
+}
+
+std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size) {
+    return read(file, buffer, size);
+}
+
+std::ptrdiff_t WriteSome(int file, const char* bytes, std::size_t size) {
+    return write(file, bytes, size);
+}
+
+bool Close(int file) {
+    return close(file) == 0;
+}
+
+std::size_t SizeOf(int file) {
+    struct stat status {};
+    if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode)) return 0;
+    return static_cast<std::size_t>(status.st_size);
+}
+
+bool IsWritable(const fs::path& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return false;
+    if ((status.st_mode & kAnybodyMayWrite) == 0) {
+        errno = EACCES;
+        return false;
+    }
+    return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+std::optional<FileRights> RightsOf(const fs::path& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return std::nullopt;
+    return FileRights{status.st_mode, status.st_uid, status.st_gid};
+}
+
+std::optional<std::time_t> ModifiedTime(const fs::path& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return std::nullopt;
+    return status.st_mtime;
+}
+
+bool MakePrivateDir(const fs::path& path) {
+    return mkdir(path.c_str(), kOwnersDir) == 0;
+}
+
+void PreferLargePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) {
+#ifdef MADV_HUGEPAGE
+    // The rest behind the last whole page isn't worth one: it would hold up to 2 MB that nobody uses.
+    madvise(block, size - size % kLargePage, MADV_HUGEPAGE);
+#endif
+}
+
+std::tm LocalTime(std::time_t time) {
+    std::tm local{};
+    localtime_r(&time, &local);
+    return local;
+}
+
+fs::path ExecutablePath() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error);
+}
+
+} // namespace korvane::system_calls

@@ -1,0 +1,55 @@
+#include "platform/native/ProgramFolder.h"
+
+#include "platform/native/SystemCalls.h"
+
+#include <cstdlib>
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto kSettingsName = "Korvane.ini";
+constexpr auto kConfigName = "korvane";
+
+std::string EnvironmentValue(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+bool KeepsState(const fs::path& folder) {
+    std::error_code error;
+    return fs::exists(folder / kSettingsName, error) || system_calls::IsWritable(folder);
+}
+
+/// Empty when the user has no such folder. A relative path in the environment counts as none.
+fs::path ConfigHome(const Surroundings& surroundings) {
+    const fs::path given = surroundings.configHome;
+    if (given.is_absolute()) return given;
+    const fs::path home = surroundings.home;
+    return home.is_absolute() ? home / ".config" : fs::path();
+}
+
+bool MakePrivateDirs(const fs::path& path) {
+    std::error_code error;
+    if (fs::is_directory(path, error)) return true;
+    return MakePrivateDirs(path.parent_path()) && system_calls::MakePrivateDir(path);
+}
+
+} // namespace
+
+Surroundings OwnSurroundings() {
+    return {system_calls::ExecutablePath(), EnvironmentValue("XDG_CONFIG_HOME"), EnvironmentValue("HOME")};
+}
+
+fs::path FindProgramFolder(const Surroundings& surroundings) {
+    const fs::path beside = surroundings.executable.parent_path();
+    if (KeepsState(beside)) return beside;
+    const fs::path configHome = ConfigHome(surroundings);
+    if (configHome.empty()) return beside;
+    const fs::path folder = configHome / kConfigName;
+    return MakePrivateDirs(folder) ? folder : beside;
+}
+
+} // namespace korvane

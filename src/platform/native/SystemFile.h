@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/native/SystemCalls.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+namespace korvane {
+
+/// An open file without a buffer of its own. Closes itself.
+class SystemFile {
+public:
+    /// Not open, with the reason in `error`, when it can't be.
+    static SystemFile OpenToRead(const std::filesystem::path& path, std::error_code& error);
+    static SystemFile OpenToWrite(const std::filesystem::path& path,
+                                  const std::optional<system_calls::FileRights>& rights,
+                                  std::error_code& error);
+
+    SystemFile(SystemFile&& other) noexcept;
+    SystemFile& operator=(SystemFile&& other) = delete;
+    ~SystemFile();
+
+    bool IsOpen() const { return file_ != system_calls::kNoFile; }
+    /// 0 for what has no size, such as a pipe.
+    std::size_t Size() const { return system_calls::SizeOf(file_); }
+    /// The number of bytes read: fewer than `size` only at the end and after an error.
+    std::size_t Read(char* buffer, std::size_t size, std::error_code& error);
+    void Write(std::string_view bytes, std::error_code& error);
+    void Close(std::error_code& error);
+
+private:
+    SystemFile(int file, std::error_code& error);
+
+    int file_;
+};
+
+/// The reason for which the last system call failed.
+std::error_code LastSystemError();
+
+} // namespace korvane

@@ -1,0 +1,87 @@
+#include "platform/native/SystemCalls.h"
+
+#include <direct.h>
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+
+namespace korvane::system_calls {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kMayWrite = 2;
+
+/// The calls count in 32 bits.
+unsigned AtOnce(std::size_t size) {
+    return static_cast<unsigned>(std::min<std::size_t>(size, 1u << 30));
+}
+
+} // namespace
+
+int OpenToRead(const fs::path& path) {
+    return _wopen(path.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+}
+
+int OpenToWrite(const fs::path& path, const std::optional<FileRights>&) {
+    return _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_TRUNC | _O_BINARY | _O_NOINHERIT,
+                  _S_IREAD | _S_IWRITE);
+}
+
+std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size) {
+    return _read(file, buffer, AtOnce(size));
+}
+
+std::ptrdiff_t WriteSome(int file, const char* bytes, std::size_t size) {
+    return _write(file, bytes, AtOnce(size));
+}
+
+bool Close(int file) {
+    return _close(file) == 0;
+}
+
+std::size_t SizeOf(int file) {
+    struct _stat64 status {};
+    if (_fstat64(file, &status) != 0 || (status.st_mode & _S_IFMT) != _S_IFREG) return 0;
+    return static_cast<std::size_t>(status.st_size);
+}
+
+bool IsWritable(const fs::path& path) {
+    return _waccess(path.c_str(), kMayWrite) == 0;
+}
+
+std::optional<FileRights> RightsOf(const fs::path&) {
+    return std::nullopt;
+}
+
+std::optional<std::time_t> ModifiedTime(const fs::path& path) {
+    struct _stat64 status {};
+    if (_wstat64(path.c_str(), &status) != 0) return std::nullopt;
+    return status.st_mtime;
+}
+
+bool MakePrivateDir(const fs::path& path) {
+    // A user's folders are their own by inheritance.
+    return _wmkdir(path.c_str()) == 0;
+}
+
+void PreferLargePages(void*, std::size_t) {}
+
+std::tm LocalTime(std::time_t time) {
+    std::tm local{};
+    localtime_s(&local, &time);
+    return local;
+}
+
+fs::path ExecutablePath() {
+    std::array<wchar_t, 32768> buffer{};
+    const DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
+    return std::wstring(buffer.data(), length);
+}
+
+} // namespace korvane::system_calls

@@ -1,0 +1,70 @@
+#include "platform/native/ProgramFolder.h"
+
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// An executable in a folder that nobody can write to, and a home.
+struct ProgramFolder : testing::Test {
+    ProgramFolder() {
+        fs::create_directories(dir / "bin");
+        fs::create_directories(dir / "home");
+        surroundings = {dir / "bin/korvane", "", (dir / "home").string()};
+        fs::permissions(dir / "bin", static_cast<fs::perms>(0555));
+    }
+    ~ProgramFolder() override { fs::permissions(dir / "bin", fs::perms::owner_all); }
+
+    TempDir dir;
+    Surroundings surroundings;
+};
+
+TEST_F(ProgramFolder, IsTheExecutablesWhenThatCanBeWritten) {
+    fs::permissions(dir / "bin", fs::perms::owner_all);
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    EXPECT_FALSE(fs::exists(dir / "home/.config"));
+}
+
+TEST_F(ProgramFolder, IsTheExecutablesWhenThatHoldsTheSettings) {
+    fs::permissions(dir / "bin", fs::perms::owner_all);
+    WriteBytes(dir / "bin/Korvane.ini", "");
+    fs::permissions(dir / "bin", static_cast<fs::perms>(0555));
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+}
+
+TEST_F(ProgramFolder, IsOtherwiseMadeInTheUsersConfigurationForTheUserAlone) {
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+    EXPECT_EQ(fs::status(dir / "home/.config/korvane").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(dir / "home/.config").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+}
+
+TEST_F(ProgramFolder, FollowsTheEnvironmentToTheConfiguration) {
+    surroundings.configHome = (dir / "conf").string();
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "conf/korvane");
+    EXPECT_TRUE(fs::is_directory(dir / "conf/korvane"));
+}
+
+TEST_F(ProgramFolder, TakesARelativePathInTheEnvironmentForNone) {
+    surroundings.configHome = "conf";
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+}
+
+TEST_F(ProgramFolder, IsTheExecutablesAllTheSameWithoutAnotherPlace) {
+    surroundings.home = "";
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    WriteBytes(dir / "file", "");
+    surroundings.home = (dir / "file").string();
+    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+}
+
+TEST(OwnSurroundingsTest, KnowTheRunningProgram) {
+    EXPECT_EQ(OwnSurroundings().executable.filename(), "platform_native_test");
+}
+
+} // namespace
+} // namespace korvane
