@@ -1,0 +1,47 @@
+#include "platform/memory/CellTable.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace korvane {
+
+void CellTable::SetRows(std::size_t rows) {
+    chunks_.resize((rows + kChunkRows - 1) / kChunkRows);
+    const bool shrinksInChunk = rows < rows_ && rows % kChunkRows != 0;
+    if (shrinksInChunk && !chunks_.back().empty()) {
+        const auto kept = static_cast<std::ptrdiff_t>(IndexOf(rows, 0));
+        std::fill(chunks_.back().begin() + kept, chunks_.back().end(), TextHandle());
+    }
+    rows_ = rows;
+}
+
+template <class Source>
+void CellTable::Rebuild(std::size_t cols, const Source& source) {
+    CellTable rebuilt;
+    rebuilt.cols_ = cols;
+    rebuilt.SetRows(rows_);
+    for (std::size_t row = 0; row < rows_; ++row)
+        for (std::size_t col = 0; col < cols && source(col) < cols_; ++col)
+            rebuilt.Set(row, col, At(row, source(col)));
+    *this = std::move(rebuilt);
+}
+
+void CellTable::SetCols(std::size_t cols) {
+    Rebuild(cols, [](std::size_t col) { return col; });
+}
+
+void CellTable::EraseCol(std::size_t erased) {
+    Rebuild(cols_ - 1, [erased](std::size_t col) { return col < erased ? col : col + 1; });
+}
+
+void CellTable::Permute(std::span<const std::size_t> order) {
+    CellTable permuted;
+    permuted.cols_ = cols_;
+    permuted.SetRows(rows_);
+    for (std::size_t row = 0; row < rows_; ++row)
+        for (std::size_t col = 0; col < cols_; ++col)
+            permuted.Set(row, col, At(order[row], col));
+    *this = std::move(permuted);
+}
+
+} // namespace korvane

@@ -1,0 +1,296 @@
+#include "platform/memory/MemoryGrid.h"
+
+#include "platform/memory/Permuted.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace korvane {
+
+// Rows and columns.
+
+void MemoryGrid::SetRowCount(Row count) {
+    count = std::min(count, kMaxRows);
+    if (count < Row{0} || count == RowCount()) return;
+    const auto rows = static_cast<std::size_t>(count.Number());
+    GiveUpTexts(rows);
+    rows_.resize(rows);
+    cells_.SetRows(rows);
+    looks_.SetRows(rows);
+    KeepCurrentCellInside();
+    notifier_.TableChanged();
+    PackTextsIfWorthwhile();
+}
+
+void MemoryGrid::SetColCount(Col count) {
+    if (count < Col{0} || count == ColCount()) return;
+    GiveUpTexts(count + 1, ColCount());
+    cols_.resize(static_cast<std::size_t>(count.Number()));
+    cells_.SetCols(cols_.size());
+    looks_.SetCols(cols_.size());
+    if (count == Col{0}) ForgetChecks();
+    ColsChanged();
+}
+
+void MemoryGrid::AddCol(TextView key, TextView header) {
+    if (!key.empty() && std::ranges::find(cols_, key, &Column::key) != cols_.end()) return;
+    cols_.push_back({Text(key), Text(header)});
+    cells_.SetCols(cols_.size());
+    looks_.SetCols(cols_.size());
+    ColsChanged();
+}
+
+void MemoryGrid::RemoveCol(Col col) {
+    if (!HasCol(col)) return;
+    GiveUpTexts(col, col);
+    cols_.erase(cols_.begin() + (col.Number() - 1));
+    cells_.EraseCol(Index(col));
+    looks_.EraseCol(Index(col));
+    if (col == Col{1}) ForgetChecks();
+    ColsChanged();
+}
+
+void MemoryGrid::ColsChanged() {
+    KeepCurrentCellInside();
+    notifier_.TableChanged();
+    PackTextsIfWorthwhile();
+}
+
+/// The check boxes live in the cells of column 1 and go with it.
+void MemoryGrid::ForgetChecks() {
+    for (RowState& row : rows_) {
+        row.check = 0;
+        row.checkShown = false;
+    }
+}
+
+void MemoryGrid::KeepCurrentCellInside() {
+    const CellPosition before{curRow_, curCol_};
+    curRow_ = std::min(curRow_, RowCount());
+    curCol_ = std::min(curCol_, ColCount());
+    if (before != CellPosition{curRow_, curCol_}) notifier_.CurrentCellChanged();
+}
+
+void MemoryGrid::SetCurRow(Row row) {
+    if (!HasRow(row) || row == curRow_) return;
+    curRow_ = row;
+    notifier_.CurrentCellChanged();
+}
+
+void MemoryGrid::SetCurCol(Col col) {
+    if (!HasCol(col) || col == curCol_) return;
+    curCol_ = col;
+    notifier_.CurrentCellChanged();
+}
+
+template <class Field, class Value>
+void MemoryGrid::SetColumn(Col col, Field Column::*field, const Value& value) {
+    if (!HasCol(col) || cols_[Index(col)].*field == value) return;
+    cols_[Index(col)].*field = value;
+    notifier_.ColumnChanged(col);
+}
+
+Text MemoryGrid::ColKey(Col col) const {
+    return HasCol(col) ? cols_[Index(col)].key : Text();
+}
+
+Text MemoryGrid::ColHeaderText(Col col) const {
+    return HasCol(col) ? cols_[Index(col)].header : Text();
+}
+
+void MemoryGrid::SetColHeaderText(Col col, TextView header) {
+    SetColumn(col, &Column::header, header);
+}
+
+int MemoryGrid::ColWidth(Col col) const {
+    return HasCol(col) ? cols_[Index(col)].width : kDefaultColWidth;
+}
+
+void MemoryGrid::SetColWidth(Col col, int width) {
+    SetColumn(col, &Column::width, width);
+}
+
+int MemoryGrid::RowHeight(Row row) const {
+    return HasRow(row) ? rows_[Index(row)].height : kDefaultRowHeight;
+}
+
+void MemoryGrid::SetRowHeight(Row row, int height) {
+    if (!HasRow(row)) return;
+    RowState& state = rows_[Index(row)];
+    state.hasHeight = true;
+    if (std::exchange(state.height, height) != height) notifier_.TableChanged();
+}
+
+bool MemoryGrid::HasRowHeight(Row row) const {
+    return HasRow(row) && rows_[Index(row)].hasHeight;
+}
+
+bool MemoryGrid::RowVisible(Row row) const {
+    return !HasRow(row) || rows_[Index(row)].visible;
+}
+
+void MemoryGrid::SetRowVisible(Row row, bool visible) {
+    if (!HasRow(row)) return;
+    if (std::exchange(rows_[Index(row)].visible, visible) != visible) notifier_.TableChanged();
+}
+
+// Texts.
+
+Text MemoryGrid::CellValue(Row row, Col col) const {
+    return HasCell(row, col) ? texts_.ToText(HandleAt(row, col)) : Text();
+}
+
+void MemoryGrid::SetCellValue(Row row, Col col, TextView value) {
+    if (!HasCell(row, col) || texts_.Equals(HandleAt(row, col), value)) return;
+    PutHandle(row, col, texts_.Put(value));
+    PackTextsIfWorthwhile();
+}
+
+void MemoryGrid::PutHandle(Row row, Col col, TextHandle handle) {
+    texts_.GiveUp(HandleAt(row, col));
+    cells_.Set(Index(row), Index(col), handle);
+    notifier_.RowChanged(row);
+}
+
+void MemoryGrid::AdoptBytes(SharedBytes bytes) {
+    if (texts_.HasAdopted()) texts_.Pack([this](const auto& visit) { cells_.ForEach(visit); }, true);
+    texts_.Adopt(std::move(bytes));
+}
+
+void MemoryGrid::SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) {
+    if (!HasCell(row, col)) return;
+    if (const auto handle = texts_.Slice(offset, length)) PutHandle(row, col, *handle);
+}
+
+std::optional<std::string_view> MemoryGrid::CellBytes(Row row, Col col) const {
+    if (!HasCell(row, col)) return std::string_view();
+    return texts_.Bytes(HandleAt(row, col));
+}
+
+void MemoryGrid::GiveUpTexts(std::size_t firstRow) {
+    cells_.ForEach([this](TextHandle& handle) { texts_.GiveUp(handle); }, firstRow);
+}
+
+void MemoryGrid::GiveUpTexts(Col firstCol, Col lastCol) {
+    for (Row row{1}; row <= RowCount(); ++row)
+        for (Col col = firstCol; col <= lastCol; ++col)
+            texts_.GiveUp(HandleAt(row, col));
+}
+
+/// Not inside a bracket: a load may have given up texts there and still be about to point to the adopted
+/// bytes.
+void MemoryGrid::PackTextsIfWorthwhile() {
+    if (notifier_.IsOpen() || !texts_.WantsPacking()) return;
+    texts_.Pack([this](const auto& visit) { cells_.ForEach(visit); });
+}
+
+// Looks.
+
+template <class Change>
+void MemoryGrid::ChangeCellLook(Row row, Col col, const Change& change) {
+    if (HasCell(row, col) && looks_.ChangeCell(Index(row), Index(col), change)) notifier_.RowChanged(row);
+}
+
+template <class Change>
+void MemoryGrid::ChangeRowLook(Row row, const Change& change) {
+    if (HasRow(row) && looks_.ChangeRow(Index(row), change)) notifier_.RowChanged(row);
+}
+
+Colour MemoryGrid::CellBackColor(Row row, Col col) const {
+    return LookAt(row, col).back;
+}
+
+void MemoryGrid::SetCellBackColor(Row row, Col col, Colour colour) {
+    ChangeCellLook(row, col, [colour](CellLook& look) { look.back = colour; });
+}
+
+Colour MemoryGrid::CellForeColor(Row row, Col col) const {
+    return LookAt(row, col).fore;
+}
+
+void MemoryGrid::SetCellForeColor(Row row, Col col, Colour colour) {
+    ChangeCellLook(row, col, [colour](CellLook& look) { look.fore = colour; });
+}
+
+bool MemoryGrid::CellFontFlag(Row row, Col col, CellFlag flag) const {
+    return LookAt(row, col).Has(flag);
+}
+
+void MemoryGrid::SetCellFontFlag(Row row, Col col, CellFlag flag, bool on) {
+    ChangeCellLook(row, col, [=](CellLook& look) { look.Set(flag, on); });
+}
+
+void MemoryGrid::SetRowBackColor(Row row, Colour colour) {
+    ChangeRowLook(row, [colour](CellLook& look) { look.back = colour; });
+}
+
+void MemoryGrid::SetRowForeColor(Row row, Colour colour) {
+    ChangeRowLook(row, [colour](CellLook& look) { look.fore = colour; });
+}
+
+void MemoryGrid::SetRowFontFlag(Row row, CellFlag flag, bool on) {
+    ChangeRowLook(row, [=](CellLook& look) { look.Set(flag, on); });
+}
+
+// Nothing reads the mode back and nothing is drawn by it, so there is nothing to keep.
+void MemoryGrid::SetCellColourMode(Row, Col, int) {}
+
+int MemoryGrid::CellCheck(Row row) const {
+    return HasCheck(row) ? rows_[Index(row)].check : 0;
+}
+
+void MemoryGrid::SetCellCheck(Row row, int check) {
+    if (!HasCheck(row)) return;
+    if (std::exchange(rows_[Index(row)].check, check) != check) notifier_.RowChanged(row);
+}
+
+bool MemoryGrid::CellCheckShown(Row row) const {
+    return HasCheck(row) && rows_[Index(row)].checkShown;
+}
+
+void MemoryGrid::SetCellCheckShown(Row row, bool shown) {
+    if (!HasCheck(row)) return;
+    if (std::exchange(rows_[Index(row)].checkShown, shown) != shown) notifier_.RowChanged(row);
+}
+
+// The grid as a whole.
+
+void MemoryGrid::GridEndUpdate() {
+    notifier_.Close();
+    PackTextsIfWorthwhile();
+}
+
+void MemoryGrid::GridSetFocus() {
+    notifier_.CloseAll();
+    PackTextsIfWorthwhile();
+    notifier_.FocusWanted();
+}
+
+void MemoryGrid::EnsureRowVisible(Row row) {
+    if (HasRow(row)) notifier_.RowWantedInView(row);
+}
+
+std::vector<std::size_t> MemoryGrid::SortedOrder(Col col, SortOrder order) const {
+    std::vector<std::size_t> rows(rows_.size());
+    std::iota(rows.begin(), rows.end(), std::size_t{0});
+    const auto handle = [&](std::size_t row) { return cells_.At(row, Index(col)); };
+    const auto comesBefore = [&](std::size_t a, std::size_t b) {
+        const auto comparison = texts_.Compare(handle(a), handle(b));
+        return order == SortOrder::Ascending ? comparison < 0 : comparison > 0;
+    };
+    std::ranges::stable_sort(rows, comesBefore);
+    return rows;
+}
+
+void MemoryGrid::SortByColumn(Col col, SortOrder order) {
+    if (!HasCol(col)) return;
+    const std::vector<std::size_t> rows = SortedOrder(col, order);
+    if (std::ranges::is_sorted(rows)) return;
+    cells_.Permute(rows);
+    looks_.Permute(rows);
+    rows_ = Permuted(rows_, rows);
+    notifier_.TableChanged();
+}
+
+} // namespace korvane
