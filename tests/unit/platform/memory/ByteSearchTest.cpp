@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace korvane {
 namespace {
 
 TEST(ByteSearch, FindsThePartWhereverItStands) {
-    for (const std::string part : {"x", "xy", "x23456789y", std::string(100, 'x').c_str()}) {
+    const std::vector<std::string> parts{"x", "xy", "x23456789y", std::string(100, 'x')};
+    for (const std::string& part : parts) {
         for (std::size_t length = part.size(); length < 300; ++length) {
             for (const std::size_t at : {std::size_t{0}, (length - part.size()) / 2, length - part.size()}) {
                 std::string bytes(length, '.');
