@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
+
 namespace korvane::system_calls {
 
 namespace {
@@ -103,6 +105,14 @@ std::tm LocalTime(std::time_t time) {
     std::tm local{};
     localtime_r(&time, &local);
     return local;
+}
+
+int AnsiCodePage() {
+    return 0;
+}
+
+void PrepareStandardStreams() {
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 fs::path ExecutablePath() {

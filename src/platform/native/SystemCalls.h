@@ -46,6 +46,11 @@ inline constexpr std::size_t kLargePage = std::size_t{2} << 20;
 void PreferLargePages(void* block, std::size_t size);
 
 std::tm LocalTime(std::time_t time);
+/// The number of the code page that the system itself keeps texts in; 0 where it has none.
+int AnsiCodePage();
+/// Lets the standard streams carry bytes as they are, and a write to a pipe that nobody reads any more fail
+/// instead of ending the program.
+void PrepareStandardStreams();
 /// The file of the running program; empty when the system doesn't tell.
 std::filesystem::path ExecutablePath();
 

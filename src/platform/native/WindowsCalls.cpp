@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 namespace korvane::system_calls {
 
@@ -76,6 +77,15 @@ std::tm LocalTime(std::time_t time) {
     std::tm local{};
     localtime_s(&local, &time);
     return local;
+}
+
+int AnsiCodePage() {
+    return static_cast<int>(GetACP());
+}
+
+void PrepareStandardStreams() {
+    for (std::FILE* stream : {stdin, stdout, stderr})
+        _setmode(_fileno(stream), _O_BINARY);
 }
 
 fs::path ExecutablePath() {
