@@ -1,0 +1,99 @@
+#include "platform/native/InstancePlace.h"
+
+#include "platform/native/SystemCalls.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdlib>
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t kOthersRights = 0077;
+constexpr mode_t kOwnersFile = 0600;
+
+/// The path ends with a null in the socket's address.
+constexpr std::size_t kLongestSocketPath = sizeof(sockaddr_un::sun_path) - 1;
+
+/// Whether it is a folder, not a link to one, and the user's alone.
+bool IsPrivateDir(const fs::path& path) {
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
+           (status.st_mode & kOthersRights) == 0;
+}
+
+/// The same for the same path in every build of the program (FNV-1a, 64 bits).
+std::string Fingerprint(const std::string& bytes) {
+    std::uint64_t hash = 0xCBF29CE484222325u;
+    for (const char byte : bytes)
+        hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3u;
+    std::string digits;
+    for (int shift = 60; shift >= 0; shift -= 4)
+        digits += "0123456789abcdef"[(hash >> shift) & 0xF];
+    return digits;
+}
+
+InstancePlace PlaceIn(const fs::path& folder, const fs::path& executable) {
+    const std::string name = "korvane-" + Fingerprint(executable.string());
+    return {folder / (name + ".socket"), folder / (name + ".lock")};
+}
+
+std::optional<InstancePlace> PrivatePlaceIn(const fs::path& folder, const fs::path& executable) {
+    InstancePlace place = PlaceIn(folder, executable);
+    const bool usable = IsPrivateDir(folder) && place.socket.native().size() <= kLongestSocketPath;
+    return usable ? std::optional(std::move(place)) : std::nullopt;
+}
+
+int OpenLocked(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kOwnersFile);
+    if (file < 0) return file;
+    int result = 0;
+    do {
+        result = flock(file, LOCK_EX);
+    } while (result != 0 && errno == EINTR);
+    if (result == 0) return file;
+    close(file);
+    return -1;
+}
+
+} // namespace
+
+InstanceSurroundings OwnInstanceSurroundings() {
+    const char* runtimeDir = std::getenv("XDG_RUNTIME_DIR");
+    std::error_code error;
+    return {runtimeDir ? runtimeDir : "", fs::temp_directory_path(error), system_calls::ExecutablePath()};
+}
+
+std::optional<InstancePlace> FindInstancePlace(const InstanceSurroundings& surroundings) {
+    const fs::path runtimeDir = surroundings.runtimeDir;
+    if (runtimeDir.is_absolute()) {
+        if (auto place = PrivatePlaceIn(runtimeDir, surroundings.executable)) return place;
+    }
+    const fs::path own = surroundings.tempDir / ("korvane-" + std::to_string(geteuid()));
+    system_calls::MakePrivateDir(own);
+    return PrivatePlaceIn(own, surroundings.executable);
+}
+
+StartLock::StartLock(const fs::path& path) : file_(OpenLocked(path)) {}
+
+StartLock::~StartLock() {
+    if (Held()) close(file_);
+}
+
+bool IsOwnPeer(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && peer.uid == geteuid();
+}
+
+} // namespace korvane
