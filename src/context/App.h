@@ -6,6 +6,7 @@
 #include "context/ListerRequest.h"
 #include "platform/Grid.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -75,6 +76,11 @@ public:
     Text HelpFilePath;
     Text IniFilePath;
     Text RecFilePath;
+
+    /// By the byte of a character: whether it ends a word in the text find.
+    std::array<bool, 257> DelimiterTable{};
+    /// The characters behind which a title goes on with a capital.
+    Text TitlePunctuation;
 
     // The ports are set while the program is put together; nullptr where nobody answers, and the step that
     // asks then has no effect.

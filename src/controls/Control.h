@@ -34,6 +34,8 @@ public:
     Property<bool> Visible{*this, Aspect::Visible, true};
     Property<Text> ToolTipText{*this, Aspect::ToolTip};
     Property<FontSpec> Font{*this, Aspect::Font};
+    /// 0 leaves the width to the layout of the window.
+    Property<Twips> Width{*this, Aspect::Place};
     /// For the window's own use; nothing is shown of it.
     Text Tag;
 

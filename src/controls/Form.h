@@ -6,6 +6,7 @@
 #include "controls/KeyEvent.h"
 #include "controls/Observed.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,8 @@
 namespace korvane {
 
 class Control;
+
+enum class FormState : std::uint8_t { Normal, Minimised, Maximised };
 
 /// A window: a set of named controls and the handlers of a subclass. It knows nothing of how it is drawn.
 class Form : public Observed {
@@ -31,6 +34,7 @@ public:
     Property<Twips> Top{*this, Aspect::Place};
     Property<Twips> Width{*this, Aspect::Place};
     Property<Twips> Height{*this, Aspect::Place};
+    Property<FormState> State{*this, Aspect::State, FormState::Normal};
     Text Tag;
 
     /// The controls in the order of their declaration. They live and die with the form.

@@ -15,6 +15,7 @@ enum class Aspect : std::uint8_t {
     Visible,
     ToolTip,
     Place,
+    State,
     Font,
     Colours,
     Items,

@@ -4,10 +4,13 @@
 #include "platform/memory/MemoryClipboard.h"
 #include "platform/memory/MemoryClock.h"
 #include "platform/memory/MemoryFileSystem.h"
+#include "platform/memory/MemoryGrid.h"
 #include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/memory/MemoryScreen.h"
 #include "platform/memory/MemoryShell.h"
 #include "support/ScriptedUser.h"
+
+#include <memory>
 
 namespace korvane {
 
@@ -25,7 +28,8 @@ public:
     MemoryShell shell;
     MemoryInstanceChannel instance;
     ScriptedUser user;
-    App app{{files, user, clipboard, clock, screen, shell, instance, user, [] { return nullptr; }}};
+    App app{{files, user, clipboard, clock, screen, shell, instance, user,
+             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
 };
 
 } // namespace korvane

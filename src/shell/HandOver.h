@@ -1,0 +1,13 @@
+#pragma once
+
+#include "common/Text.h"
+
+namespace korvane {
+
+class App;
+
+/// A second start gives its file to the copy that runs already; nothing is given when there is no such file.
+/// Sets `App::SecondInstance`. False when the running copy didn't answer, and the process has to end at once.
+bool HandOver(App& app, const Text& startFile);
+
+} // namespace korvane

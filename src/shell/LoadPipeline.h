@@ -1,0 +1,40 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+class RecentRecord;
+class Tabs;
+
+enum class LoadInto : std::uint8_t { ActiveTab, NewTab };
+
+/// The way of files from wherever they come into tabs.
+class LoadPipeline {
+public:
+    /// All outlive the pipeline.
+    LoadPipeline(App& app, Tabs& tabs, RecentRecord& recents) : app_(app), tabs_(tabs), recents_(recents) {}
+
+    /// Loads the file; for an empty path, those that the user chooses. Each file gets a tab of its own with
+    /// `NewTab`. Stops at a file that is open already. False when no file came of it.
+    bool OpenDatabase(const Text& path, LoadInto into);
+
+private:
+    /// False when the load stops here.
+    bool TakeFiles(const Text& path);
+    bool ChooseFiles();
+    bool ConfirmSeveral();
+    bool IsLoaded(const Text& file);
+    /// `number` is the file's place in the list of this load.
+    void LoadFile(int number, const Text& file, LoadInto into);
+    void ReadIntoActiveTab(const Text& file);
+
+    App& app_;
+    Tabs& tabs_;
+    RecentRecord& recents_;
+};
+
+} // namespace korvane

@@ -1,0 +1,76 @@
+#include "shell/MainRoutines.h"
+
+#include "context/App.h"
+#include "context/ShellHelpers.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "shell/frmMDIChild.h"
+#include "shell/frmMDIParent.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+void mnuFile_Open(frmMDIParent& main) {
+    const Text caption = main.Caption;
+    if (!main.Pipeline().OpenDatabase({}, LoadInto::NewTab)) main.Caption = caption;
+}
+
+void mnuFile_SaveAll(frmMDIParent& main) {
+    Text list;
+    for (int slot = 1; slot <= main.TheTabs().TabState.UpperBound(); ++slot) {
+        frmMDIChild* tab = main.TheTabs().Document(slot);
+        if (tab == nullptr) continue;
+        tab->Invoke("SaveThisTable");
+        list += tab->Caption.Get() + Text(kCrLf);
+    }
+    if (list.empty()) return;
+    main.TheApp().Messages().Show({u"Databases saved to disk: \r\n\r\n" + list, MessageIcon::Information});
+}
+
+void mnuFile_Close(frmMDIParent& main) {
+    if (frmMDIChild* tab = main.TheTabs().Active()) main.CloseTab(*tab);
+}
+
+void mnuSideBar(frmMDIParent& main) {
+    std::int16_t& visible = main.TheApp().Settings.SideBarVisible;
+    visible = visible == 1 ? 0 : 1;
+    main.Resize();
+}
+
+void ExploreCaptionFolder(frmMDIParent& main) {
+    ExploreFolder(main.TheApp(), main.TheApp().Files().Style().FolderPart(main.Caption.Get()));
+}
+
+struct NamedRoutine {
+    std::string_view name;
+    void (*run)(frmMDIParent&);
+};
+
+constexpr std::array kRoutines{
+    NamedRoutine{"mnuFile_Open", &mnuFile_Open},
+    NamedRoutine{"mnuFile_SaveAll", &mnuFile_SaveAll},
+    NamedRoutine{"mnuFile_Close", &mnuFile_Close},
+    NamedRoutine{"mnuFile_Exit", [](frmMDIParent& main) { main.Close(); }},
+    NamedRoutine{"mnuFile_SwitchTabsForward", [](frmMDIParent& main) { main.TheTabs().SwitchForward(); }},
+    NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},
+    NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
+    NamedRoutine{"mnuSideBar", &mnuSideBar},
+    NamedRoutine{"mnuSwitchFocus", [](frmMDIParent& main) { main.mnuSwitchFocus_Click(); }},
+    NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.SetSideBarWidth(true); }},
+    NamedRoutine{"ToggleDesktop", [](frmMDIParent& main) { ShowDesktop(main.TheApp()); }},
+    NamedRoutine{"ExploreCaptionFolder", &ExploreCaptionFolder},
+};
+
+} // namespace
+
+void RunMainRoutine(frmMDIParent& main, std::string_view name) {
+    const auto found = std::find_if(kRoutines.begin(), kRoutines.end(),
+                                    [name](const NamedRoutine& routine) { return routine.name == name; });
+    if (found != kRoutines.end()) found->run(main);
+}
+
+} // namespace korvane

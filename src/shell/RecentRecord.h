@@ -1,0 +1,44 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace korvane {
+
+class App;
+struct DateTime;
+
+/// The files that were loaded last, one line each, as they stand in Korvane.rec:
+/// `<path> | <offset>*<yyyy.mm.dd>   <hh:mm>`.
+class RecentRecord {
+public:
+    /// The entries are numbered from 1, the newest first; 0 is never used, the last is a margin.
+    static constexpr int kEntries = 72;
+    std::array<Text, kEntries + 2> RecentEntries;
+    /// One more than the number of lines in use, as the rules of the record count them.
+    std::int16_t RecentNext = 1;
+
+    // What the list of recent files hands over to the load.
+    std::int16_t LoadFromRecent = 0;
+    int RecentOffset = 0;
+    std::vector<int> RecentOffsets;
+
+    /// Reads `RecFilePath`; a record that isn't there or can't be read is passed over silently.
+    void Read(App& app);
+    /// Writes the entries that aren't empty to `RecFilePath`; says so when it can't.
+    void Write(App& app) const;
+
+    /// Notes a load. A path that is in the record keeps its place.
+    void AddToRecent(TextView path, int offset, const DateTime& now);
+
+private:
+    void TrimWhenFull();
+    bool Update(TextView path, const Text& line);
+    void MakeRoom();
+    Text& Entry(int number) { return RecentEntries[static_cast<std::size_t>(number)]; }
+};
+
+} // namespace korvane

@@ -1,0 +1,60 @@
+#include "shell/TabCommands.h"
+
+#include "context/App.h"
+#include "context/Ports.h"
+#include "context/ShellHelpers.h"
+#include "platform/FileSystem.h"
+#include "table/SaveCommands.h"
+#include "table/TabContext.h"
+#include "table/TableFile.h"
+#include "table/TableModel.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+void ExploreTableFolder(const TabContext& tab) {
+    const PathStyle style = tab.app.Files().Style();
+    ExploreFolder(tab.app, style.DirectoryForChange(style.FolderPart(tab.table.TxtDbFile)));
+}
+
+void RunOnMainWindow(const TabContext& tab, std::string_view command) {
+    if (tab.app.MainWindow != nullptr) tab.app.MainWindow->RunCommand(command);
+}
+
+void mnuSidebarWidth_Clack(const TabContext& tab) {
+    RunOnMainWindow(tab, "NextSideBarWidth");
+}
+
+void mnuFile_Exit_Clack(const TabContext& tab) {
+    RunOnMainWindow(tab, "mnuFile_Exit");
+}
+
+struct NamedCommand {
+    std::string_view name;
+    TabCommand run;
+};
+
+constexpr std::array kTabCommands{
+    NamedCommand{"ReadTableData", &ReadTableData},
+    NamedCommand{"SaveThisTable", &SaveThisTable},
+    NamedCommand{"mnuFile_Save_Clack", &mnuFile_Save_Clack},
+    NamedCommand{"mnuFile_SaveAs_Clack", &mnuFile_SaveAs_Clack},
+    NamedCommand{"mnuFile_FileInfo_Clack", &mnuFile_FileInfo_Clack},
+    NamedCommand{"mnuSidebarWidth_Clack", &mnuSidebarWidth_Clack},
+    NamedCommand{"mnuFile_Exit_Clack", &mnuFile_Exit_Clack},
+    NamedCommand{"ExploreTableFolder", &ExploreTableFolder},
+};
+
+} // namespace
+
+TabCommand FindTabCommand(std::string_view name) {
+    const auto found = std::find_if(kTabCommands.begin(), kTabCommands.end(),
+                                    [name](const NamedCommand& command) { return command.name == name; });
+    return found == kTabCommands.end() ? nullptr : found->run;
+}
+
+} // namespace korvane

@@ -1,0 +1,67 @@
+#include "shell/WindowFitting.h"
+
+#include "controls/Form.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr Twips kOwnGap{300};
+constexpr Twips kOthersGap{600};
+constexpr Twips kDefaultWidth{4800};
+constexpr Twips kDefaultHeight{3200};
+
+Twips operator+(Twips a, Twips b) {
+    return a + b.Number();
+}
+
+Twips Less(Twips a, Twips b) {
+    return Twips{a - b};
+}
+
+/// One direction of the fitting: from left to right, or from top to bottom.
+struct Axis {
+    Property<Twips>& start;
+    Property<Twips>& length;
+    Twips& storedStart;
+    Twips& storedLength;
+    Twips areaStart;
+    Twips areaLength;
+    Twips defaultLength;
+};
+
+/// What was never stored. The stored values stay 0, so that the further steps leave the window alone.
+void GiveDefaults(const Axis& axis, Twips gap) {
+    if (axis.storedStart == Twips{0}) axis.start = axis.areaStart + gap;
+    if (axis.storedLength == Twips{0}) axis.length = axis.defaultLength;
+}
+
+void Shrink(const Axis& axis, Twips gap) {
+    if (axis.storedLength <= axis.areaLength) return;
+    axis.start = axis.areaStart + gap;
+    axis.length = Less(axis.areaLength, gap + gap);
+    axis.storedStart = axis.start;
+    axis.storedLength = axis.length;
+}
+
+void MoveBack(const Axis& axis, Twips gap) {
+    // Without the start of the work area, on a screen whose task bar is at the left or top too. Deliberate.
+    if (axis.storedStart + axis.storedLength <= axis.areaLength) return;
+    axis.start = Less(Less(axis.areaStart + axis.areaLength, axis.storedLength), gap);
+}
+
+} // namespace
+
+void FitWindowToWorkArea(const Rect& workArea, const Form& owner, Form& window, Rect& place) {
+    const Twips gap = owner.Name() == window.Name() ? kOwnGap : kOthersGap;
+    const Axis across{window.Left,   window.Width,   place.left,   place.width,
+                      workArea.left, workArea.width, kDefaultWidth};
+    const Axis down{window.Top,   window.Height,   place.top,     place.height,
+                    workArea.top, workArea.height, kDefaultHeight};
+    for (const auto step : {&GiveDefaults, &Shrink, &MoveBack}) {
+        step(across, gap);
+        step(down, gap);
+    }
+}
+
+} // namespace korvane

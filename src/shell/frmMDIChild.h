@@ -1,0 +1,69 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/GridBox.h"
+#include "controls/Label.h"
+#include "controls/Slider.h"
+#include "controls/TextBox.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace korvane {
+
+class TabStates;
+
+/// A tab: one open table in its grid, and the strip above it. It stands inside the main window.
+class frmMDIChild : public Form, private TableHost {
+public:
+    /// All arguments outlive the tab.
+    frmMDIChild(App& app, TabStates& states);
+
+    Panel Picture1{*this, "Picture1"};
+    TextBox txtFindString{*this, "txtFindString"};
+    CommandButton cmdFind{*this, "cmdFind", u"", u"Find string in database"};
+    TextBox txtRowHeight{*this, "txtRowHeight", u"", u"Row height (set with Ctrl-Shift+Return)"};
+    Slider ZoomSlider{*this, "ZoomSlider", 13, 360, u"Move to change row height"};
+    CommandButton cmdWebsites{*this, "cmdWebsites", u"Websites"};
+    CommandButton cmdWallpaper{*this, "cmdWallpaper", u"Wallpaper"};
+    CommandButton cmdSettings{*this, "cmdSettings", u"Settings"};
+    CommandButton cmdHelp{*this, "cmdHelp", u"Help"};
+    Panel Frame1{*this, "Frame1"};
+    GridBox iGrid1;
+
+    TableModel& Table() { return table_; }
+    Grid& GridStore() { return iGrid1.Store(); }
+    /// What commands of this tab work on.
+    TabContext Context();
+    /// Runs a routine of the tab by its name; nothing happens when there is none.
+    void Invoke(std::string_view routine);
+    /// The number of the tab's slot, which stands in its `Tag`.
+    int Slot() const;
+
+    void Load() override;
+    bool QueryUnload() override;
+    void Activate() override;
+
+private:
+    void iGrid1_AfterEdit();
+    void iGrid1_HeaderClick();
+    void iGrid1_MouseUp(MouseButton button);
+    void iGrid1_KeyDown(KeyEvent& key);
+    /// Makes the button run a command of the main window.
+    void ForwardToMainWindow(CommandButton& button, std::string_view command);
+    void RunOnMainWindow(std::string_view command);
+
+    void ShowRowHeight(std::int16_t height) override;
+    void SetTabCaption(TextView caption) override;
+    void ClearDirty() override;
+
+    App& app_;
+    TabStates& states_;
+    TableModel table_;
+};
+
+} // namespace korvane
