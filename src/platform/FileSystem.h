@@ -4,6 +4,7 @@
 #include "common/PathStyle.h"
 #include "common/Text.h"
 #include "platform/Grid.h"
+#include "platform/Volume.h"
 
 #include <cstdint>
 #include <memory>
@@ -46,6 +47,10 @@ public:
 
     virtual std::optional<std::int64_t> Size(TextView path) const = 0;
     virtual std::optional<DateTime> Modified(TextView path) const = 0;
+
+    /// What the path stands on: a drive ("D:\") or a mounted file system. Nothing when there is none, and on
+    /// a disk that doesn't know its volumes.
+    virtual std::optional<VolumeInfo> Volume(TextView /*path*/) const { return std::nullopt; }
 
     /// The system's words for why the last `ChangeDir`, `ReadAll`, `OpenRaw` or `Remove` failed, or a write
     /// since; empty when nothing did.

@@ -10,13 +10,18 @@ namespace korvane {
 /// How the window of a started program comes up. A normal one gets the focus.
 enum class WindowState : std::uint8_t { Normal, Minimised };
 
+/// The file of an `OpenRequest` that is the desktop's file manager.
+inline constexpr TextView kFileManager = u"explorer.exe";
+/// The parameters that make the file manager show the recycle store.
+inline constexpr TextView kRecycleStoreParameters = u"/root,::{645FF040-5081-101B-9F08-00AA002F954E}";
+
 /// A file or folder that the desktop is to open, with its own program for that kind of thing.
 struct OpenRequest {
     Text verb = u"Open";
-    /// A path; "explorer.exe" stands for the desktop's file manager.
-    Text file;
-    Text parameters;
-    Text directory;
+    /// A path, or `kFileManager`, which takes a path as its parameters, or none.
+    Text file{};
+    Text parameters{};
+    Text directory{};
 
     bool operator==(const OpenRequest&) const = default;
 };

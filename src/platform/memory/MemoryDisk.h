@@ -3,6 +3,7 @@
 #include "common/DateTime.h"
 #include "common/PathStyle.h"
 #include "common/Text.h"
+#include "platform/Volume.h"
 
 #include <cstdint>
 #include <map>
@@ -35,6 +36,7 @@ struct MemoryVolume {
     std::shared_ptr<MemoryNode> root = std::make_shared<MemoryNode>();
     /// Where relative paths on this volume start.
     std::vector<Text> currentDir;
+    VolumeInfo info{.type = DriveType::Fixed};
     bool readOnly = false;
     /// How many more bytes the volume takes; without limit when nothing is given.
     std::optional<std::int64_t> freeBytes;

@@ -142,6 +142,14 @@ std::optional<DateTime> MemoryFileSystem::Modified(TextView path) const {
     return place.node->modified;
 }
 
+std::optional<VolumeInfo> MemoryFileSystem::Volume(TextView path) const {
+    const MemoryVolume* volume = disk_.VolumeOf(path);
+    if (volume == nullptr) return std::nullopt;
+    VolumeInfo info = volume->info;
+    info.freeBytes = volume->freeBytes.value_or(info.freeBytes);
+    return info;
+}
+
 void MemoryFileSystem::AddFile(TextView path, std::string_view bytes) {
     Place place = MakePlace(path);
     if (!place.folder) return;
@@ -158,6 +166,10 @@ void MemoryFileSystem::AddLink(TextView path, TextView target) {
 void MemoryFileSystem::SetFileReadOnly(TextView path, bool readOnly) {
     const Place place = Find(path);
     if (place.node) place.node->readOnly = readOnly;
+}
+
+void MemoryFileSystem::SetVolume(TextView path, const VolumeInfo& info) {
+    if (MemoryVolume* volume = disk_.VolumeOf(path)) volume->info = info;
 }
 
 void MemoryFileSystem::SetModified(TextView path, const DateTime& time) {

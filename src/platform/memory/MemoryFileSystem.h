@@ -29,12 +29,15 @@ public:
     bool Remove(TextView path) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
+    std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override { return lastErrorText_; }
     Text ProgramDir() const override { return programDir_; }
 
     // Setting the stage. None of this meets a failure or a permission; missing folders are made.
 
     void AddDrive(char16_t letter) { disk_.AddDrive(letter); }
+    /// What is told of the drive that the path is on; a fixed one without a name until it is set.
+    void SetVolume(TextView path, const VolumeInfo& info);
     void AddDir(TextView path) { disk_.MakeDirs(path); }
     /// Makes the file or replaces it.
     void AddFile(TextView path, std::string_view bytes = {});

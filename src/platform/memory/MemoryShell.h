@@ -23,7 +23,7 @@ struct ShellCall {
 /// One program that was to be started.
 struct ProgramStart {
     Text program;
-    std::vector<Text> arguments;
+    std::vector<Text> arguments{};
     WindowState window = WindowState::Normal;
 
     bool operator==(const ProgramStart&) const = default;

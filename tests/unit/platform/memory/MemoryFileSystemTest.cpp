@@ -320,5 +320,27 @@ TEST_F(PosixDisk, AFileCanVanishBetweenTestAndOpen) {
     EXPECT_EQ(Read(u"/a.tbx"), "new");
 }
 
+TEST(MemoryVolumes, AreFixedWithoutANameUntilTheyAreSet) {
+    const MemoryClock clock;
+    MemoryFileSystem files(PathStyle::Windows, clock);
+    EXPECT_EQ(files.Volume(u"C:\\Data"), (VolumeInfo{.type = DriveType::Fixed}));
+    EXPECT_EQ(files.Volume(u"D:\\"), std::nullopt);
+
+    files.AddDrive(u'D');
+    const VolumeInfo disc{.type = DriveType::CdRom, .ready = false, .name = u"Music", .totalBytes = 700};
+    files.SetVolume(u"D:\\", disc);
+    EXPECT_EQ(files.Volume(u"D:\\x"), disc);
+    EXPECT_EQ(files.Volume(u"C:\\"), (VolumeInfo{.type = DriveType::Fixed}));
+}
+
+TEST(MemoryVolumes, TellTheFreeBytesThatADiskStillTakes) {
+    const MemoryClock clock;
+    MemoryFileSystem files(PathStyle::Posix, clock);
+    files.SetVolume(u"/", {.type = DriveType::Fixed, .freeBytes = 100});
+    EXPECT_EQ(files.Volume(u"/x")->freeBytes, 100);
+    files.SetFreeBytes(5);
+    EXPECT_EQ(files.Volume(u"/x")->freeBytes, 5);
+}
+
 } // namespace
 } // namespace korvane
