@@ -76,6 +76,11 @@ public:
     Text HelpFilePath;
     Text IniFilePath;
     Text RecFilePath;
+    /// The system's folder of programs, ending in a backslash; empty where there is none.
+    Text ProgramFilesDir;
+    /// Of the last drive that `ReadDriveInfo` looked at.
+    Text DriveTypeText;
+    Text DriveLabel;
 
     /// By the byte of a character: whether it ends a word in the text find.
     std::array<bool, 257> DelimiterTable{};

@@ -16,6 +16,9 @@ struct ListerRequest {
     Text FileDialogCaption;
     Text FileDialogDefaultName;
 
+    /// The folder in which the next save starts; empty for none.
+    Text CurrentFolderHint;
+
     /// Empty when nothing was chosen. Callers clear it beforehand.
     Text ChosenFilePath;
     /// Index from 1; entry 0 is never used.

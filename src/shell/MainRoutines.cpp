@@ -1,7 +1,7 @@
 #include "shell/MainRoutines.h"
 
 #include "context/App.h"
-#include "context/ShellHelpers.h"
+#include "context/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "shell/frmMDIChild.h"

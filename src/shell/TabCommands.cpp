@@ -1,8 +1,8 @@
 #include "shell/TabCommands.h"
 
 #include "context/App.h"
+#include "context/Desktop.h"
 #include "context/Ports.h"
-#include "context/ShellHelpers.h"
 #include "platform/FileSystem.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+
+/// The programs that go with this one.
+enum class Companion : std::uint8_t {
+    Abrill,     ///< calculator
+    Dunmark,    ///< text tool
+    Nimbrel,    ///< plays sounds
+    Tessaly,    ///< shows pictures
+    Lorrit,     ///< lists folders
+    Wexley,     ///< clipboard viewer
+    TolmereSet, ///< the other tools
+    Ostrel,     ///< finds text
+    Veldan,     ///< finds files
+};
+
+/// Starts a companion as `LaunchProgram` does, its argument being one file or folder or nothing. Where it
+/// can't be started, the desktop's own program for texts, sounds, pictures, folders or sums stands in for it;
+/// the others fail without a word.
+void LaunchCompanion(App& app, Companion companion, TextView argument = {});
+
+void LaunchLorrit(App& app, TextView folder);
+void LaunchDunmark(App& app, TextView file);
+
+} // namespace korvane

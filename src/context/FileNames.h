@@ -1,0 +1,12 @@
+#pragma once
+
+#include "common/Text.h"
+
+namespace korvane {
+
+class App;
+
+/// Whether the name can be a file's. A box tells the first character that forbids it.
+bool CheckFileName(App& app, TextView name);
+
+} // namespace korvane

@@ -1,0 +1,95 @@
+#include "context/Launching.h"
+
+#include "common/CommandLine.h"
+#include "common/DriveForms.h"
+#include "common/PathStyle.h"
+#include "context/App.h"
+#include "context/StoredPaths.h"
+#include "platform/FileSystem.h"
+#include "platform/Shell.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr TextView kProgramExtension = u".exe";
+
+/// The folder in which the tools stand side by side.
+Text InCompanionSet(const PathStyle& style, TextView name) {
+    return style.JoinPath(u"C:\\TolmereSet", name);
+}
+
+/// Where no drives are, programs go by their name without ".exe" too.
+Text InProgramFolder(const FileSystem& files, TextView name) {
+    const Text path = files.Style().JoinPath(files.ProgramDir(), name);
+    if (files.Style().HasDrives() || !HasExtension(name, kProgramExtension) || files.FileExists(path))
+        return path;
+    return path.substr(0, path.size() - kProgramExtension.size());
+}
+
+/// Without drives a path in Windows form is the name of a program and nothing else: a file in the current
+/// directory that happens to be called "G:\a.exe" is none.
+Text FindByName(const FileSystem& files, TextView windowsPath) {
+    return InProgramFolder(files, windowsPath.substr(windowsPath.find_last_of(u"\\/") + 1));
+}
+
+Text FindProgram(const FileSystem& files, TextView program) {
+    const PathStyle style = files.Style();
+    if (!style.HasDrives() && HasWindowsForm(program)) return FindByName(files, program);
+    const Text mapped = MapDrivePath(files, program);
+    if (mapped.empty() || files.FileExists(mapped)) return mapped;
+    const TextView name = style.NamePart(mapped);
+    const Text inSet = InCompanionSet(style, name);
+    return style.HasDrives() && files.FileExists(inSet) ? inSet : InProgramFolder(files, name);
+}
+
+struct OfficeProgram {
+    TextView name;
+    Text Settings::*location;
+};
+constexpr std::array<OfficeProgram, 5> kOfficePrograms{{
+    {u"WINWORD.EXE", &Settings::WordPath},
+    {u"MSPUB.EXE", &Settings::PublisherPath},
+    {u"MSACCESS.EXE", &Settings::AccessPath},
+    {u"EXCEL.EXE", &Settings::ExcelPath},
+    {u"POWERPNT.EXE", &Settings::PowerPointPath},
+}};
+
+// From the newest on; the last is taken untested.
+constexpr std::array<TextView, 4> kOfficeFolders{u"OFFICE16", u"OFFICE12", u"OFFICE11", u"Office"};
+
+/// The location that the user set for the program; empty for none.
+Text LocationSet(const Settings& settings, TextView name) {
+    const auto* found = std::ranges::find(kOfficePrograms, name, &OfficeProgram::name);
+    return found == kOfficePrograms.end() ? Text() : settings.*found->location;
+}
+
+} // namespace
+
+TextView BareArgument(TextView argument) {
+    if (argument.find(u'"') != TextView::npos) argument = Mid(argument.substr(0, argument.size() - 1), 2);
+    return Trim(argument);
+}
+
+int LaunchProgram(App& app, TextView program, TextView argument) {
+    return app.Shell().Run(FindProgram(app.Files(), program), SplitCommandLine(BareArgument(argument)),
+                           WindowState::Normal);
+}
+
+Text FindOfficeProgram(const App& app, TextView name) {
+    const FileSystem& files = app.Files();
+    const Text set = LocationSet(app.Settings, name);
+    if (!set.empty() && files.FileExists(set)) return set;
+    Text path;
+    for (const TextView folder : kOfficeFolders) {
+        // The folder of programs ends in a backslash already; the system takes two for one.
+        path = app.ProgramFilesDir + u"\\Microsoft Office\\" + Text(folder) + u"\\" + Text(name);
+        if (files.FileExists(path)) break;
+    }
+    return path;
+}
+
+} // namespace korvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "common/Text.h"
+
+namespace korvane {
+
+class App;
+class FileSystem;
+
+// Paths that stand in lists and settings, on the disk in force. What the two forms of a path are and how they
+// are exchanged is told in common/DriveForms.h.
+
+Text MapDrivePath(const FileSystem& files, TextView path);
+Text SwapDriveForm(const FileSystem& files, TextView path);
+
+/// The folder, or its other form when it isn't there; it becomes `CurrentFolderHint`. When neither is there,
+/// a beep and a box say so and the hint stays. A blank path or one that starts with "-" is left alone.
+Text MapFolderPath(App& app, TextView path);
+
+} // namespace korvane
