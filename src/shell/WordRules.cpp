@@ -1,5 +1,6 @@
 #include "shell/WordRules.h"
 
+#include "common/Names.h"
 #include "context/App.h"
 
 namespace korvane {
@@ -7,7 +8,6 @@ namespace korvane {
 namespace {
 
 constexpr TextView kDelimiters = u"'\",.;:#/()[]{} \t\f\n\r";
-constexpr TextView kTitlePunctuation = u"\"'`´!?.:,;-_";
 
 } // namespace
 
