@@ -2,6 +2,7 @@
 
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativePath.h"
+#include "platform/native/NativeVolume.h"
 #include "platform/native/ReadFile.h"
 #include "platform/native/SystemFile.h"
 
@@ -150,6 +151,10 @@ std::optional<DateTime> NativeFileSystem::Modified(TextView path) const {
     const auto time = system_calls::ModifiedTime(ToNativePath(path));
     if (!time) return std::nullopt;
     return ToLocalDateTime(*time);
+}
+
+std::optional<VolumeInfo> NativeFileSystem::Volume(TextView path) const {
+    return VolumeAt(ToNativePath(path));
 }
 
 Text NativeFileSystem::LastErrorText() const {

@@ -27,6 +27,7 @@ public:
     bool Remove(TextView path) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
+    std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override;
     Text ProgramDir() const override { return programDir_; }
 

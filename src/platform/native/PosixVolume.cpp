@@ -1,0 +1,37 @@
+#include "platform/native/MountTable.h"
+#include "platform/native/NativePath.h"
+#include "platform/native/NativeVolume.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string MountTable() {
+    std::ifstream file("/proc/self/mounts", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace
+
+std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
+    std::error_code error;
+    const fs::path plain = fs::weakly_canonical(fs::absolute(path, error), error);
+    const auto mount = MountOf(MountTable(), plain.native());
+    if (!mount) return std::nullopt;
+    VolumeInfo info{.type = TypeOf(*mount), .name = FromNativePath(NameOf(*mount))};
+    const fs::space_info space = fs::space(mount->point, error);
+    if (error) {
+        info.ready = false;
+        return info;
+    }
+    info.totalBytes = static_cast<std::int64_t>(space.capacity);
+    info.freeBytes = static_cast<std::int64_t>(space.available);
+    return info;
+}
+
+} // namespace korvane
