@@ -1,6 +1,7 @@
 #include "shell/MainRoutines.h"
 
 #include "context/App.h"
+#include "context/Companions.h"
 #include "context/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
@@ -57,7 +58,15 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_Exit", [](frmMDIParent& main) { main.Close(); }},
     NamedRoutine{"mnuFile_SwitchTabsForward", [](frmMDIParent& main) { main.TheTabs().SwitchForward(); }},
     NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},
+    NamedRoutine{"mnuMisc_Calc",
+                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Abrill); }},
     NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
+    NamedRoutine{"mnuHelpText",
+                 [](frmMDIParent& main) { LaunchDunmark(main.TheApp(), main.TheApp().HelpFilePath); }},
+    NamedRoutine{"LoadFindText",
+                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Ostrel); }},
+    NamedRoutine{"LoadFindFiles",
+                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Veldan); }},
     NamedRoutine{"mnuSideBar", &mnuSideBar},
     NamedRoutine{"mnuSwitchFocus", [](frmMDIParent& main) { main.mnuSwitchFocus_Click(); }},
     NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.SetSideBarWidth(true); }},
