@@ -1,0 +1,115 @@
+#include "platform/windows/Win32WindowList.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace korvane {
+
+namespace {
+
+constexpr DWORD kRestMilliseconds = 10;
+constexpr std::size_t kLongestPath = 32768;
+
+HWND ToHwnd(WindowHandle window) {
+    return reinterpret_cast<HWND>(window);
+}
+
+WindowHandle ToHandle(HWND window) {
+    return reinterpret_cast<WindowHandle>(window);
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<WindowHandle>*>(list)->push_back(ToHandle(window));
+    return TRUE;
+}
+
+/// A name for the executable that can stand in the system's table of names, where "\" is taken.
+std::wstring ExecutableName() {
+    std::wstring path(kLongestPath, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
+    std::replace(path.begin(), path.end(), L'\\', L'/');
+    // The table's names are shorter than paths can be; what tells two places apart stands at the end.
+    constexpr std::size_t kMostKept = 200;
+    return path.substr(path.size() - std::min(path.size(), kMostKept));
+}
+
+} // namespace
+
+/// A name in the system's table that is there for as long as a copy of the executable runs.
+class Win32WindowList::InstanceMark {
+public:
+    InstanceMark() : mutex_(CreateMutexW(nullptr, FALSE, (L"Local\\Korvane-" + ExecutableName()).c_str())) {
+        others_ = mutex_ != nullptr && GetLastError() == ERROR_ALREADY_EXISTS;
+    }
+    InstanceMark(const InstanceMark&) = delete;
+    InstanceMark& operator=(const InstanceMark&) = delete;
+    ~InstanceMark() {
+        if (mutex_) CloseHandle(mutex_);
+    }
+
+    bool WasThere() const { return others_; }
+
+private:
+    HANDLE mutex_;
+    bool others_ = false;
+};
+
+Win32WindowList::Win32WindowList() : mark_(std::make_unique<InstanceMark>()) {}
+
+Win32WindowList::~Win32WindowList() = default;
+
+bool Win32WindowList::AnotherCopyRuns() {
+    return mark_->WasThere();
+}
+
+std::vector<WindowHandle> Win32WindowList::TopLevel() const {
+    std::vector<WindowHandle> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
+bool Win32WindowList::IsOwn(WindowHandle window) const {
+    DWORD process = 0;
+    GetWindowThreadProcessId(ToHwnd(window), &process);
+    return process == GetCurrentProcessId();
+}
+
+WindowHandle Win32WindowList::FirstChild(WindowHandle parent) const {
+    return ToHandle(GetWindow(ToHwnd(parent), GW_CHILD));
+}
+
+WindowHandle Win32WindowList::NextSibling(WindowHandle window) const {
+    return ToHandle(GetWindow(ToHwnd(window), GW_HWNDNEXT));
+}
+
+std::string Win32WindowList::ClassName(WindowHandle window, std::size_t room) const {
+    std::string name(room, '\0');
+    name.resize(static_cast<std::size_t>(GetClassNameA(ToHwnd(window), name.data(), static_cast<int>(room))));
+    return name;
+}
+
+std::string Win32WindowList::WindowText(WindowHandle window, std::size_t room) const {
+    std::string text(room, '\0');
+    text.resize(
+        static_cast<std::size_t>(GetWindowTextA(ToHwnd(window), text.data(), static_cast<int>(room))));
+    return text;
+}
+
+std::intptr_t Win32WindowList::Send(WindowHandle window, unsigned message, const char* text) {
+    return SendMessageA(ToHwnd(window), message, 0, reinterpret_cast<LPARAM>(text));
+}
+
+void Win32WindowList::Activate(WindowHandle window) {
+    if (IsIconic(ToHwnd(window))) ShowWindow(ToHwnd(window), SW_RESTORE);
+    SetForegroundWindow(ToHwnd(window));
+}
+
+void Win32WindowList::Rest() {
+    Sleep(kRestMilliseconds);
+}
+
+} // namespace korvane
