@@ -15,16 +15,21 @@
 namespace korvane {
 
 class Clipboard;
+class ClipboardView;
 class Clock;
 class FilePicker;
 class FileSystem;
+class FontPicker;
 class FormHost;
-
+class InsertTools;
 class InstanceChannel;
 class MainWindow;
+class MarkupPicker;
 class MessageBoxes;
 class Screen;
 class Shell;
+class TextWindow;
+class WordList;
 
 /// What every window reaches: the settings, the values through which windows tell each other things, the
 /// outside and the ports. One per process; a test makes a fresh one.
@@ -66,6 +71,8 @@ public:
     /// 1 while the closing question of a tab runs its save.
     std::int16_t ClosingTabSave = 0;
     ListerRequest Lister;
+    /// The check box of `frmDelimiterType` that adds line breaks, 1 or 0: kept as long as the program runs.
+    std::int16_t BreakAfterFieldThree = 0;
 
     /// 1 only in a start that found a running copy: nothing is saved then.
     std::int16_t SecondInstance = 0;
@@ -91,6 +98,12 @@ public:
     // asks then has no effect.
     korvane::FilePicker* FilePicker = nullptr;
     korvane::MainWindow* MainWindow = nullptr;
+    korvane::TextWindow* TextWindow = nullptr;
+    korvane::ClipboardView* ClipboardView = nullptr;
+    korvane::WordList* WordList = nullptr;
+    korvane::InsertTools* InsertTools = nullptr;
+    korvane::MarkupPicker* MarkupPicker = nullptr;
+    korvane::FontPicker* FontPicker = nullptr;
 
 private:
     Platform platform_;

@@ -2,10 +2,14 @@
 
 #include "common/Text.h"
 #include "context/ListerRequest.h"
+#include "controls/Control.h"
 
+#include <optional>
 #include <string_view>
 
 namespace korvane {
+
+class TextBox;
 
 /// Lets the user choose files by the request block; returns when the choice is made or cancelled.
 class FilePicker {
@@ -24,6 +28,60 @@ public:
     virtual void ShowPopupMenu() = 0;
     /// Runs a command as if it were chosen in the menu.
     virtual void RunCommand(std::string_view name) = 0;
+};
+
+/// The rich-text window, for those who write into it.
+class TextWindow {
+public:
+    virtual ~TextWindow() = default;
+    /// Puts the text in place of the window's selection and shows the window. One that wasn't open is opened
+    /// before the text goes in, and this returns when it has closed; one that stands comes to the front.
+    virtual void TextWindowInsert(TextView text) = 0;
+};
+
+/// The window that shows what the clipboard holds. Modal.
+class ClipboardView {
+public:
+    virtual ~ClipboardView() = default;
+    virtual void Show() = 0;
+    /// Leaves what becomes of the contents to the caller: true when the user retrieved them.
+    virtual bool Choose() = 0;
+};
+
+/// The list of words and phrases for repeated use.
+class WordList {
+public:
+    virtual ~WordList() = default;
+    /// What the user took from the list; nothing when the list was only closed.
+    virtual std::optional<Text> Choose() = 0;
+};
+
+/// The small windows that put characters and dates into a text. `target` outlives the call.
+class InsertTools {
+public:
+    virtual ~InsertTools() = default;
+    /// A date, a time or both as text; nothing when the window was only closed.
+    virtual std::optional<Text> ChooseDateTime() = 0;
+    /// The table of the code page's characters, which writes at the selection of `target`.
+    virtual void ShowCharacters(TextBox& target) = 0;
+    /// Shapes and symbols, which are written at the selection of `target`.
+    virtual void ShowElements(TextBox& target) = 0;
+};
+
+/// Offers the markup tags.
+class MarkupPicker {
+public:
+    virtual ~MarkupPicker() = default;
+    /// Puts the chosen pair of tags round the selection of `target`, which outlives the call.
+    virtual void InsertTagPair(TextBox& target) = 0;
+};
+
+/// The font dialog of the program.
+class FontPicker {
+public:
+    virtual ~FontPicker() = default;
+    /// The chosen font, in which what the user left open is as in `present`; nothing on a cancel.
+    virtual std::optional<FontSpec> Choose(const FontSpec& present) = 0;
 };
 
 } // namespace korvane

@@ -3,7 +3,18 @@
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace korvane {
+
+namespace {
+
+std::size_t AtLeastZero(int number) {
+    return static_cast<std::size_t>(std::max(number, 0));
+}
+
+} // namespace
 
 Label::Label(Form& owner, std::string_view name, TextView caption) : Control(owner, name) {
     Caption = Text(caption);
@@ -27,6 +38,21 @@ TextBox::TextBox(Form& owner, std::string_view name, TextView text, TextView too
 void TextBox::SelectAll() {
     SelStart = 0;
     SelLength = static_cast<int>(Text.Get().size());
+}
+
+korvane::Text TextBox::SelText() const {
+    return korvane::Text(Mid(Text.Get(), AtLeastZero(SelStart) + 1, AtLeastZero(SelLength)));
+}
+
+void TextBox::SetSelText(TextView text) {
+    const TextView before = Left(Text.Get(), AtLeastZero(SelStart));
+    const TextView behind = Mid(Text.Get(), before.size() + AtLeastZero(SelLength) + 1);
+    korvane::Text joined;
+    joined.append(before).append(text).append(behind);
+    const auto cursor = static_cast<int>(before.size() + text.size());
+    Text = std::move(joined);
+    SelStart = cursor;
+    SelLength = 0;
 }
 
 void TextBox::Type(TextView text) {

@@ -14,10 +14,15 @@ public:
     // The selection in units of the text, counted from 0.
     Property<int> SelStart{*this, Aspect::Selection};
     Property<int> SelLength{*this, Aspect::Selection};
+    /// `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
 
     std::function<void()> Change;
 
     void SelectAll();
+    korvane::Text SelText() const;
+    /// Puts the text in place of the selection, with the cursor behind it.
+    void SetSelText(TextView text);
     /// What the user does.
     void Type(TextView text);
 
