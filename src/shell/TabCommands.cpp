@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/Ports.h"
+#include "dbops/TabCommands.h"
 #include "platform/FileSystem.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"
@@ -52,9 +53,12 @@ constexpr std::array kTabCommands{
 } // namespace
 
 TabCommand FindTabCommand(std::string_view name) {
-    const auto found = std::find_if(kTabCommands.begin(), kTabCommands.end(),
-                                    [name](const NamedCommand& command) { return command.name == name; });
-    return found == kTabCommands.end() ? nullptr : found->run;
+    const auto find = [name](const auto& commands) -> TabCommand {
+        const auto found = std::ranges::find_if(commands, [name](auto& each) { return each.name == name; });
+        return found == commands.end() ? nullptr : found->run;
+    };
+    const TabCommand ofTheTab = find(kTabCommands);
+    return ofTheTab != nullptr ? ofTheTab : find(DbOpsCommands());
 }
 
 } // namespace korvane

@@ -3,6 +3,7 @@
 #include "common/Number.h"
 #include "context/App.h"
 #include "context/Ports.h"
+#include "dbops/TableSearch.h"
 #include "shell/GridKeys.h"
 #include "shell/TabCommands.h"
 #include "shell/TabStates.h"
@@ -16,6 +17,8 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
       app_(app),
       states_(states),
       table_(iGrid1.Store()) {
+    cmdFind.Click = [this] { cmdFind_Click(); };
+    txtFindString.KeyDown = [this](KeyEvent& key) { txtFindString_KeyDown(key); };
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
@@ -53,6 +56,16 @@ bool frmMDIChild::QueryUnload() {
 
 void frmMDIChild::Activate() {
     GridStore().GridSetFocus();
+}
+
+void frmMDIChild::cmdFind_Click() {
+    FindFromBox(Context(), txtFindString.Text.Get());
+}
+
+void frmMDIChild::txtFindString_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Return, Mask::None)) return;
+    key.consumed = true;
+    cmdFind_Click();
 }
 
 void frmMDIChild::iGrid1_AfterEdit() {

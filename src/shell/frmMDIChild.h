@@ -49,6 +49,8 @@ public:
     void Activate() override;
 
 private:
+    void cmdFind_Click();
+    void txtFindString_KeyDown(KeyEvent& key);
     void iGrid1_AfterEdit();
     void iGrid1_HeaderClick();
     void iGrid1_MouseUp(MouseButton button);
