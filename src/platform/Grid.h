@@ -113,6 +113,7 @@ public:
     virtual void SetRowBackColor(Row row, Colour colour) = 0;
     virtual void SetRowForeColor(Row row, Colour colour) = 0;
     virtual void SetRowFontFlag(Row row, CellFlag flag, bool on) = 0;
+    virtual void SetRowColourMode(Row row, int mode) = 0;
 
     virtual Colour GridBackColor() const = 0;
     virtual void SetGridBackColor(Colour colour) = 0;
@@ -131,6 +132,7 @@ public:
     virtual void GridBeginUpdate() = 0;
     virtual void GridEndUpdate() = 0;
     virtual void GridRefresh() = 0;
+    /// Commands end with this call: a bracket that a stopped one left open is closed.
     virtual void GridSetFocus() = 0;
     virtual void EnsureRowVisible(Row row) = 0;
 

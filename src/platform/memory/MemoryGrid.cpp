@@ -235,6 +235,7 @@ void MemoryGrid::SetRowFontFlag(Row row, CellFlag flag, bool on) {
 
 // Nothing reads the mode back and nothing is drawn by it, so there is nothing to keep.
 void MemoryGrid::SetCellColourMode(Row, Col, int) {}
+void MemoryGrid::SetRowColourMode(Row, int) {}
 
 int MemoryGrid::CellCheck(Row row) const {
     return HasCheck(row) ? rows_[Index(row)].check : 0;

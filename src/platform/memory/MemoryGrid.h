@@ -63,6 +63,7 @@ public:
     void SetRowBackColor(Row row, Colour colour) override;
     void SetRowForeColor(Row row, Colour colour) override;
     void SetRowFontFlag(Row row, CellFlag flag, bool on) override;
+    void SetRowColourMode(Row row, int mode) override;
 
     Colour GridBackColor() const override { return look_.back; }
     void SetGridBackColor(Colour colour) override { SetLook(look_.back, colour); }
@@ -80,8 +81,6 @@ public:
     void GridBeginUpdate() override { notifier_.Open(); }
     void GridEndUpdate() override;
     void GridRefresh() override { notifier_.TableChanged(); }
-    /// Commands end with this call, so no bracket is open rightly any more: one that a stopped load left open
-    /// is closed here.
     void GridSetFocus() override;
     void EnsureRowVisible(Row row) override;
 

@@ -122,6 +122,7 @@ TEST_F(MemoryGridListenerTest, WhatChangesNothingIsNotTold) {
     grid.SetCellFontFlag(Row{1}, Col{1}, CellFlag::Bold, false);
     grid.SetRowFontFlag(Row{1}, CellFlag::Bold, false);
     grid.SetCellColourMode(Row{1}, Col{1}, 1);
+    grid.SetRowColourMode(Row{1}, 1);
     grid.SetCellValue(Row{1}, Col{1}, u"");
     grid.SetCellCheck(Row{1}, 0);
     grid.SetCellCheckShown(Row{1}, false);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+namespace korvane {
+
+/// Gathers what is written to a file, so that the system is asked once for many small pieces. What the file
+/// doesn't take is lost.
+class ChunkedOutput {
+public:
+    explicit ChunkedOutput(FileWriter& file);
+
+    void Put(std::string_view bytes) {
+        if (bytes.size() > kChunk - filled_) return PutPastChunk(bytes);
+        bytes.copy(chunk_.get() + filled_, bytes.size());
+        filled_ += bytes.size();
+    }
+    /// Hands over what is gathered. Nothing does so by itself at the end.
+    void Flush();
+
+private:
+    // Small enough to stay in the processor's cache between the gathering and the handing over.
+    static constexpr std::size_t kChunk = 256 * 1024;
+
+    void PutPastChunk(std::string_view bytes);
+
+    FileWriter& file_;
+    std::unique_ptr<char[]> chunk_;
+    std::size_t filled_ = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,99 @@
+#include "table/TableFile.h"
+
+#include "common/Number.h"
+#include "context/App.h"
+#include "context/StandardMessages.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+#include "table/TbxReader.h"
+#include "table/TbxWriter.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+namespace korvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds kWaitAfterSave{500};
+
+void EndLoad(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    grid.SetGridVisible(true);
+    grid.SetCurRow(Row{1});
+    grid.SetCurCol(Col{1});
+    tab.table.TableAltered = 0;
+    tab.app.Screen().ProcessMessages();
+    grid.GridSetFocus();
+    tab.host.ClearDirty();
+    tab.app.Screen().SetPointer(Pointer::Default);
+}
+
+/// The update bracket stays open and the end of the load doesn't come: the tab is left as it is.
+void EndStoppedLoad(App& app) {
+    // Two blanks before the number, as the message has always had.
+    app.Messages().Show(
+        {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
+         MessageIcon::Stop});
+    app.Screen().SetPointer(Pointer::Default);
+}
+
+/// The height of the current row stands for all rows of the file. Where no row is current the first one
+/// speaks, and a table without rows keeps what it has.
+void TakeRowHeight(TableModel& table) {
+    const Grid& grid = table.GridStore();
+    const Row row = std::max(grid.CurRow(), Row{1});
+    if (!grid.HasRow(row)) return;
+    std::int16_t height = 0;
+    if (StoreRounded(grid.RowHeight(row), height)) table.SetRowHeight = height;
+}
+
+} // namespace
+
+void ReadTableData(const TabContext& tab) {
+    App& app = tab.app;
+    const Text& path = tab.table.TxtDbFile;
+    if (path.empty() || !app.Files().FileExists(path)) return;
+    app.Screen().SetPointer(Pointer::Hourglass);
+    const auto bytes = app.Files().ReadAll(path);
+    if (!bytes) {
+        ShowCannotLoad(app, path);
+        return EndLoad(tab);
+    }
+    Grid& grid = tab.table.GridStore();
+    grid.GridBeginUpdate();
+    TbxReader reader(tab.table, tab.host, app.Settings.AllowSorting == 1, *bytes);
+    if (reader.Read() == TbxReader::Outcome::TooManyColumns) return EndStoppedLoad(app);
+    grid.GridEndUpdate();
+    EndLoad(tab);
+}
+
+void SaveThisTable(const TabContext& tab) {
+    App& app = tab.app;
+    TableModel& table = tab.table;
+    // Nothing is moved aside: from here on the old contents are gone, whether or not the new ones arrive.
+    DeleteFileQuietly(app, table.TxtDbFile);
+    const auto file = app.Files().OpenRaw(table.TxtDbFile);
+    if (!file) {
+        ShowCannotAccess(app, table.TxtDbFile);
+        table.GridStore().GridSetFocus();
+        return;
+    }
+    app.Screen().SetPointer(Pointer::Hourglass);
+    app.Screen().ProcessMessages();
+    TakeRowHeight(table);
+    TbxWriter(table, *file).Write();
+    file->Close();
+    table.TableAltered = 0;
+    app.Clock().Wait(kWaitAfterSave);
+    app.Screen().SetPointer(Pointer::Default);
+    table.GridStore().GridSetFocus();
+}
+
+} // namespace korvane

@@ -1,0 +1,230 @@
+#include "table/TbxReader.h"
+
+#include "common/CodePage.h"
+#include "common/Number.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+#include "table/TbxFormat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kHeaderLines = 4;
+constexpr Colour kDataColour{0xC00000};
+/// In a colour line: leave the colour alone.
+constexpr double kKeepColour = -999;
+
+struct FlagLetter {
+    std::size_t at;
+    char letter;
+    CellFlag flag;
+};
+constexpr FlagLetter kFlagLetters[] = {
+    {2, 'I', CellFlag::Italic}, {3, 'B', CellFlag::Bold}, {4, 'X', CellFlag::Strikethrough}};
+
+/// Sets the field to the numeric value; one that doesn't fit leaves it unset.
+template <class Int>
+void StoreNumber(double number, std::optional<Int>& field) {
+    Int stored{};
+    if (StoreRounded(number, stored)) field = stored;
+}
+
+/// The text of a cell some lines of which end in a lone CR: CR LF in their place.
+std::string WithFullLineEnds(std::string_view slice) {
+    std::string text;
+    text.reserve(slice.size());
+    for (std::size_t at = 0; at < slice.size(); ++at) {
+        text += slice[at];
+        const bool lone = slice[at] == '\r' && (at + 1 == slice.size() || slice[at + 1] != '\n');
+        if (lone) text += '\n';
+    }
+    return text;
+}
+
+} // namespace
+
+TbxReader::TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes)
+    : table_(table),
+      host_(host),
+      grid_(table.GridStore()),
+      sortOnHeaderClick_(sortOnHeaderClick),
+      bytes_(bytes.View()),
+      lines_(bytes_) {
+    grid_.AdoptBytes(bytes);
+}
+
+TbxReader::Outcome TbxReader::Read() {
+    while (!lines_.AtEnd()) {
+        if (!std::exchange(pushedBack_, false)) lines_.Next();
+        if (!TakeLine()) return Outcome::TooManyColumns;
+    }
+    return Outcome::Done;
+}
+
+/// False when the table can't hold what the line asks for.
+bool TbxReader::TakeLine() {
+    const std::string_view line = lines_.Line();
+    if (line.starts_with(tbx::kComment)) return true;
+    // The header lines aren't known by their mark: the first four are the header, whatever they begin with.
+    if (headerCount_ <= kHeaderLines)
+        TakeHeaderLine(line.substr(std::min<std::size_t>(line.size(), 1)));
+    else if (line.starts_with(tbx::kValue))
+        return TakeColumnLine(line.substr(1));
+    else
+        TakeDataLine(line);
+    return true;
+}
+
+void TbxReader::TakeHeaderLine(std::string_view value) {
+    switch (headerCount_++) {
+    case 1:
+        if (Colour colour; ReadNumber(value, colour.value)) table_.TableBackColour = colour;
+        break;
+    case 2:
+        table_.TableFontName = grid_.Page().ToText(value);
+        break;
+    case 3:
+        StoreNumber(Val(value), table_.TableFontSize);
+        break;
+    default:
+        StoreNumber(Val(value) / tbx::kHeightScale, table_.SetRowHeight);
+        host_.ShowRowHeight(table_.SetRowHeight.value_or(std::int16_t{0}));
+    }
+}
+
+/// Names and widths take turns. A column line among the data starts the rows anew.
+bool TbxReader::TakeColumnLine(std::string_view value) {
+    if (!expectWidth_) {
+        ++columnCount_;
+        table_.ColumnNames.Set(columnCount_, grid_.Page().ToText(value));
+    } else if (const double width = Val(value) / tbx::kWidthScale; std::isfinite(width)) {
+        table_.ColumnWidths.Set(columnCount_, NumberText(width));
+    }
+    expectWidth_ = !expectWidth_;
+    if (columnCount_ > MaxColumns) return false;
+    row_ = Row{0};
+    columnsStand_ = false;
+    return true;
+}
+
+void TbxReader::TakeDataLine(std::string_view line) {
+    if (row_ == Row{0})
+        SetUpColumns();
+    else
+        HideGrid();
+    if (line.starts_with(tbx::kRow))
+        StartRow();
+    else if (line.starts_with(tbx::kTick))
+        TakeTick(line);
+    else if (line.starts_with(tbx::kColour))
+        TakeColour(line.substr(1));
+    else if (line.starts_with(tbx::kCol)) {
+        ++col_;
+        inCell_ = true;
+    } else
+        TakeOther();
+}
+
+/// Every line before the first row asks for this; without a column line since, there is nothing to do.
+void TbxReader::SetUpColumns() {
+    if (std::exchange(columnsStand_, true)) return;
+    for (Col col{1}; col <= columnCount_; ++col)
+        SetUpColumn(col);
+    grid_.SetSortOnHeaderClick(sortOnHeaderClick_);
+    grid_.SetGridForeColor(kDataColour);
+    grid_.SetGridBackColor(table_.TableBackColour.value_or(Colour{0}));
+    grid_.SetGridFontName(table_.TableFontName.value_or(Text()));
+    grid_.SetGridFontSize(table_.TableFontSize.value_or(std::int16_t{0}));
+}
+
+void TbxReader::SetUpColumn(Col col) {
+    grid_.AddCol(NumberText(col.Number()) + u"no", table_.ColumnNames[col]);
+    std::int32_t width = 0;
+    if (ReadNumber(TextView(table_.ColumnWidths[col]), width)) grid_.SetColWidth(col, width);
+}
+
+void TbxReader::HideGrid() {
+    if (!std::exchange(gridHidden_, true)) grid_.SetGridVisible(false);
+}
+
+void TbxReader::StartRow() {
+    colourLineSeen_ = false;
+    col_ = Col{0};
+    // Behind the last row that a table can have, what comes belongs to none.
+    row_ = std::min(row_ + 1, kMaxRows + 1);
+    if (row_ <= kMaxRows) grid_.SetRowCount(row_);
+    rowDressed_ = false;
+    inCell_ = false;
+}
+
+void TbxReader::TakeTick(std::string_view line) {
+    const auto letterAt = [line](std::size_t at) { return at < line.size() ? line[at] : '\0'; };
+    if (letterAt(1) == '1') grid_.SetCellCheck(row_, 1);
+    if (letterAt(1) == '0') grid_.SetCellCheck(row_, 0);
+    for (const auto& [at, letter, flag] : kFlagLetters)
+        if (letterAt(at) == letter) grid_.SetRowFontFlag(row_, flag, true);
+    inCell_ = false;
+}
+
+/// The first colour line of a row is the background; each further one is the text colour.
+void TbxReader::TakeColour(std::string_view value) {
+    const bool isBack = !std::exchange(colourLineSeen_, true);
+    inCell_ = false;
+    const double number = Val(value);
+    Colour colour;
+    if (number == kKeepColour || !StoreRounded(number, colour.value)) return;
+    if (isBack) {
+        grid_.SetRowBackColor(row_, colour);
+        return;
+    }
+    grid_.SetRowForeColor(row_, colour);
+    grid_.SetRowColourMode(row_, 1);
+}
+
+void TbxReader::TakeOther() {
+    if (!inCell_ || col_ > columnCount_) return;
+    CollectCell();
+    DressRow();
+    inCell_ = false;
+}
+
+/// A cell goes on until a line begins with a mark, and a last line of the file isn't part of it. Its text is
+/// a slice of the file unless a lone CR stands in it.
+void TbxReader::CollectCell() {
+    const std::size_t begin = lines_.Begin();
+    std::size_t end = begin;
+    bool loneCr = false;
+    for (bool lastLineLone = false; !CellEndsHere(); lines_.Next()) {
+        loneCr = loneCr || lastLineLone;
+        lastLineLone = lines_.EndsInLoneCr();
+        end = lines_.End();
+    }
+    pushedBack_ = true;
+    if (!loneCr)
+        grid_.SetCellSlice(row_, col_, begin, end - begin);
+    else {
+        const std::string text = WithFullLineEnds(bytes_.substr(begin, end - begin));
+        grid_.SetCellValue(row_, col_, grid_.Page().ToText(text));
+    }
+}
+
+bool TbxReader::CellEndsHere() const {
+    return lines_.AtEnd() || lines_.StartsWith(tbx::kAt) || lines_.StartsWith(tbx::kTick) ||
+           lines_.StartsWith(tbx::kComment) || lines_.StartsWith(tbx::kColour);
+}
+
+/// Each cell asks for this, and one time for a row does it.
+void TbxReader::DressRow() {
+    if (std::exchange(rowDressed_, true)) return;
+    grid_.SetRowHeight(row_, table_.SetRowHeight.value_or(std::int16_t{0}));
+    grid_.SetCellCheckShown(row_, true);
+}
+
+} // namespace korvane

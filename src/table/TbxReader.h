@@ -1,0 +1,67 @@
+#pragma once
+
+#include "common/Units.h"
+#include "platform/Grid.h"
+#include "table/TbxLines.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace korvane {
+
+class TableHost;
+class TableModel;
+
+/// Fills a table from the bytes of a `.tbx` file, in one pass over its lines. It takes any bytes: each line
+/// does what its first characters say, whatever comes before and behind.
+class TbxReader {
+public:
+    enum class Outcome : std::uint8_t { Done, TooManyColumns };
+
+    /// The grid is expected to be empty; it keeps the bytes. `sortOnHeaderClick` is what it gets for that
+    /// switch.
+    TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes);
+
+    /// Stops where the column is named that a table can't have any more; what was read until then stays.
+    Outcome Read();
+
+private:
+    bool TakeLine();
+    void TakeHeaderLine(std::string_view value);
+    bool TakeColumnLine(std::string_view value);
+    void TakeDataLine(std::string_view line);
+    void SetUpColumns();
+    void SetUpColumn(Col col);
+    void HideGrid();
+    void StartRow();
+    void TakeTick(std::string_view line);
+    void TakeColour(std::string_view value);
+    void TakeOther();
+    void CollectCell();
+    bool CellEndsHere() const;
+    void DressRow();
+
+    TableModel& table_;
+    TableHost& host_;
+    Grid& grid_;
+    const bool sortOnHeaderClick_;
+    const std::string_view bytes_;
+    TbxLines lines_;
+
+    /// The line at hand is to be taken once more.
+    bool pushedBack_ = false;
+    int headerCount_ = 1;
+    Col columnCount_;
+    bool expectWidth_ = false;
+    /// No column line has come since the columns were set up.
+    bool columnsStand_ = false;
+    bool gridHidden_ = false;
+    Row row_;
+    Col col_;
+    /// The row has its height and its check box.
+    bool rowDressed_ = false;
+    bool colourLineSeen_ = false;
+    bool inCell_ = false;
+};
+
+} // namespace korvane

@@ -1,0 +1,131 @@
+#include "table/TbxWriter.h"
+
+#include "common/Number.h"
+#include "table/TableModel.h"
+#include "table/TbxFormat.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <string>
+
+namespace korvane {
+
+namespace {
+
+/// A whole number in decimal.
+class Decimal {
+public:
+    explicit Decimal(std::int64_t number)
+        : end_(std::to_chars(digits_.data(), digits_.data() + digits_.size(), number).ptr) {}
+
+    std::string_view View() const { return {digits_.data(), end_}; }
+
+private:
+    std::array<char, 24> digits_;
+    const char* end_;
+};
+
+std::string_view WithoutFinalLineEnd(std::string_view text) {
+    if (text.ends_with(tbx::kLineEnd)) text.remove_suffix(tbx::kLineEnd.size());
+    return text;
+}
+
+} // namespace
+
+TbxWriter::TbxWriter(const TableModel& table, FileWriter& file)
+    : table_(table), grid_(table.GridStore()), output_(file) {
+    for (Col col{1}; col <= grid_.ColCount(); ++col)
+        cellHeads_.push_back("@col_" + std::to_string(col.Number()) + "\r\n");
+}
+
+void TbxWriter::Write() {
+    // The header holds no cell width, whatever its comment says.
+    PutComment("; Values for colour, font type, font size, cell height, cell width");
+    PutHeader();
+    PutComment("; Column names");
+    PutColumns();
+    PutComment("; File data");
+    for (Row row{1}; row <= grid_.RowCount(); ++row)
+        if (CellBytes(row, Col{1}) != tbx::kDeleteMark) PutRow(row);
+    PutComment("; End of File: " + ToBytes(table_.TxtDbFile));
+    output_.Flush();
+}
+
+void TbxWriter::PutComment(std::string_view text) {
+    output_.Put(";\r\n");
+    output_.Put(text);
+    output_.Put("\r\n;\r\n");
+}
+
+void TbxWriter::PutValue(std::string_view value) {
+    output_.Put({&tbx::kValue, 1});
+    output_.Put(value);
+    output_.Put(tbx::kLineEnd);
+}
+
+void TbxWriter::PutHeader() {
+    const double height = table_.SetRowHeight.value_or(std::int16_t{0}) * tbx::kHeightScale;
+    PutValue(Decimal(table_.TableBackColour.value_or(Colour{0}).value).View());
+    PutValue(ToBytes(table_.TableFontName.value_or(Text())));
+    PutValue(Decimal(table_.TableFontSize.value_or(std::int16_t{0})).View());
+    PutValue(ToBytes(NumberText(height)));
+}
+
+void TbxWriter::PutColumns() {
+    for (Col col{1}; col <= grid_.ColCount(); ++col) {
+        PutValue(ToBytes(grid_.ColHeaderText(col)));
+        PutValue(Decimal(std::int64_t{grid_.ColWidth(col)} * tbx::kWidthScale).View());
+    }
+}
+
+void TbxWriter::PutRow(Row row) {
+    output_.Put("@row_");
+    output_.Put(Decimal(row.Number()).View());
+    output_.Put(tbx::kLineEnd);
+    PutAttributes(row);
+    PutCells(row);
+}
+
+/// Column 1 speaks for the row. A check box that is neither ticked nor unticked has no line, and then the
+/// flags have none either.
+void TbxWriter::PutAttributes(Row row) {
+    const auto flag = [&](CellFlag which, char letter) {
+        return grid_.CellFontFlag(row, Col{1}, which) ? letter : '0';
+    };
+    const int check = grid_.CellCheck(row);
+    if (check == 0 || check == 1) {
+        const char line[] = {tbx::kTick,
+                             static_cast<char>('0' + check),
+                             flag(CellFlag::Italic, 'I'),
+                             flag(CellFlag::Bold, 'B'),
+                             flag(CellFlag::Strikethrough, 'X'),
+                             '\r',
+                             '\n'};
+        output_.Put({line, sizeof line});
+    }
+    for (const Colour colour : {grid_.CellBackColor(row, Col{1}), grid_.CellForeColor(row, Col{1})}) {
+        output_.Put({&tbx::kColour, 1});
+        output_.Put(Decimal(colour.value).View());
+        output_.Put(tbx::kLineEnd);
+    }
+}
+
+void TbxWriter::PutCells(Row row) {
+    Col col{1};
+    for (const std::string& head : cellHeads_) {
+        output_.Put(head);
+        output_.Put(WithoutFinalLineEnd(CellBytes(row, col)));
+        output_.Put(tbx::kLineEnd);
+        ++col;
+    }
+}
+
+/// Valid until the next call.
+std::string_view TbxWriter::CellBytes(Row row, Col col) {
+    if (const auto bytes = grid_.CellBytes(row, col)) return *bytes;
+    converted_ = ToBytes(grid_.CellText(row, col));
+    return converted_;
+}
+
+} // namespace korvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/CodePage.h"
+#include "common/Units.h"
+#include "platform/Grid.h"
+#include "table/ChunkedOutput.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+class FileWriter;
+class TableModel;
+
+/// Writes a table in the form of `.tbx` files. Colour, font and row height of the table come from the model,
+/// all else from the grid.
+class TbxWriter {
+public:
+    TbxWriter(const TableModel& table, FileWriter& file);
+
+    void Write();
+
+private:
+    void PutComment(std::string_view text);
+    void PutHeader();
+    void PutColumns();
+    void PutRow(Row row);
+    void PutAttributes(Row row);
+    void PutCells(Row row);
+    void PutValue(std::string_view value);
+    std::string_view CellBytes(Row row, Col col);
+    std::string ToBytes(TextView text) const { return grid_.Page().ToBytes(text); }
+
+    const TableModel& table_;
+    const Grid& grid_;
+    ChunkedOutput output_;
+    /// For each column what stands before its text in a row.
+    std::vector<std::string> cellHeads_;
+    /// The bytes of a text that the code page can't hold in full.
+    std::string converted_;
+};
+
+} // namespace korvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "common/CodePage.h"
+#include "platform/memory/MemoryGrid.h"
+#include "support/TestApp.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace korvane {
+
+/// A tab that remembers what it is asked.
+class RecordingTableHost final : public TableHost {
+public:
+    void ShowRowHeight(std::int16_t height) override { shownRowHeights.push_back(height); }
+    void SetTabCaption(TextView caption) override { captions.emplace_back(caption); }
+    void ClearDirty() override { ++dirtyCleared; }
+
+    std::vector<std::int16_t> shownRowHeights;
+    std::vector<Text> captions;
+    int dirtyCleared = 0;
+};
+
+/// An empty table on a tab, in a program in memory with a scripted user in front of it.
+class TestTable {
+public:
+    explicit TestTable(const PathStyle& style = PathStyle::Windows,
+                       const CodePage& page = CodePage::Windows1252())
+        : program(style), grid(page) {}
+
+    TestApp program;
+    MemoryGrid grid;
+    TableModel model{grid};
+    RecordingTableHost host;
+    TabContext tab{program.app, model, host};
+};
+
+} // namespace korvane
