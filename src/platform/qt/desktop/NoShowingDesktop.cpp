@@ -1,0 +1,7 @@
+#include "platform/qt/desktop/ShowingDesktop.h"
+
+namespace korvane {
+
+void ToggleShowingDesktop() {}
+
+} // namespace korvane

@@ -1,0 +1,64 @@
+#include "platform/qt/desktop/QtShell.h"
+
+#include "platform/DesktopTarget.h"
+#include "platform/qt/desktop/ShowingDesktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QProcess>
+#include <QUrl>
+
+namespace korvane {
+
+namespace {
+
+QString ToQString(TextView text) {
+    return QStringView(text).toString();
+}
+
+/// A file's name is never read as an address, whatever it looks like.
+QUrl FileUrl(TextView path) {
+    return QUrl::fromLocalFile(QDir::current().absoluteFilePath(ToQString(path)));
+}
+
+QUrl UrlOf(const DesktopTarget& target) {
+    switch (target.kind) {
+    case DesktopTarget::Kind::Home:
+        return QUrl::fromLocalFile(QDir::homePath());
+    case DesktopTarget::Kind::RecycleStore:
+        return QUrl(QStringLiteral("trash:///"));
+    case DesktopTarget::Kind::Path:
+        break;
+    }
+    return target.path.empty() ? QUrl() : FileUrl(target.path);
+}
+
+} // namespace
+
+int QtShell::Run(TextView program, const std::vector<Text>& arguments, WindowState) {
+    if (program.empty()) return 0;
+    QStringList words;
+    for (const Text& argument : arguments)
+        words += ToQString(argument);
+    return QProcess::startDetached(ToQString(program), words) ? 1 : 0;
+}
+
+void QtShell::Open(const OpenRequest& request) {
+    const QUrl url = UrlOf(TargetOf(request));
+    if (!url.isEmpty()) QDesktopServices::openUrl(url);
+}
+
+void QtShell::Explore(TextView folder) {
+    if (!folder.empty()) QDesktopServices::openUrl(FileUrl(folder));
+}
+
+void QtShell::ToggleDesktop() {
+    ToggleShowingDesktop();
+}
+
+void QtShell::Beep() {
+    QApplication::beep();
+}
+
+} // namespace korvane
