@@ -1,0 +1,39 @@
+#pragma once
+
+#include "common/Text.h"
+#include "platform/Grid.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+/// One text made of many cells, at the speed of copying bytes: what the table's code page holds is put
+/// together as bytes and decoded in large pieces.
+class CellsText {
+public:
+    /// The grid outlives the object.
+    explicit CellsText(const Grid& grid);
+
+    void AppendCell(Row row, Col col);
+    void Append(TextView text);
+    bool EndsInCrLf();
+    /// All that was appended.
+    Text Take() &&;
+
+private:
+    /// Bytes are decoded when so many have come together: few enough to stay in the processor's cache.
+    static constexpr std::size_t kPiece = 16 * 1024;
+
+    void AppendBytes(std::string_view bytes);
+    void AppendWide(TextView text);
+    void Decode();
+
+    const Grid& grid_;
+    Text text_;
+    /// Stands behind `text_`.
+    std::string bytes_;
+};
+
+} // namespace korvane

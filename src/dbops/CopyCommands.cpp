@@ -1,0 +1,132 @@
+#include "dbops/CopyCommands.h"
+
+#include "context/App.h"
+#include "context/Ports.h"
+#include "dbops/CellsText.h"
+#include "dbops/DeleteMark.h"
+#include "dbops/Dialogs.h"
+#include "dbops/Rows.h"
+#include "dbops/frmChooseRange.h"
+#include "dbops/frmDelimiterType.h"
+#include "platform/Clipboard.h"
+#include "table/TableModel.h"
+
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+enum class RowsToCopy : std::uint8_t { Ticked, All };
+
+void ShowClipboard(App& app) {
+    if (app.ClipboardView != nullptr) app.ClipboardView->Show();
+}
+
+void PutInClipboard(App& app, const Text& text) {
+    app.Clipboard().Clear();
+    app.Clipboard().SetText(text);
+    ShowClipboard(app);
+}
+
+void PutInTextWindow(App& app, const Text& text) {
+    if (app.TextWindow != nullptr) app.TextWindow->TextWindowInsert(text);
+}
+
+/// A record: the included cells with the delimiter behind each but the table's last column, which ends the
+/// line, and an empty line. Without the last column the record ends in its delimiter. Deliberate: what
+/// reads these texts counts on both.
+void AppendRecord(CellsText& text, const Grid& grid, Row row, const ColumnsIncluded& included,
+                  TextView delimiter) {
+    for (Col col{1}; col <= grid.ColCount(); ++col) {
+        if (!included[col]) continue;
+        text.AppendCell(row, col);
+        text.Append(col < grid.ColCount() ? delimiter : kCrLf);
+    }
+    if (!text.EndsInCrLf()) text.Append(kCrLf);
+    text.Append(kCrLf);
+}
+
+/// Rows marked for deletion and hidden ones are copied like others. Deliberate: they are in the table until
+/// it is saved.
+Text RecordsText(const TabContext& tab, RowsToCopy rows, const ColumnsIncluded& included) {
+    const Grid& grid = tab.table.GridStore();
+    CellsText text(grid);
+    ForEachRow(grid, [&](Row row) {
+        if (rows == RowsToCopy::Ticked && !IsTicked(grid, row)) return;
+        AppendRecord(text, grid, row, included, tab.app.Settings.DelimiterString);
+    });
+    return std::move(text).Take();
+}
+
+int CountRowsToCopy(const Grid& grid, RowsToCopy rows) {
+    if (rows == RowsToCopy::All) return grid.RowCount().Number();
+    return CountRows(grid, [&grid](Row row) { return IsTicked(grid, row); });
+}
+
+void CopyRows(const TabContext& tab, RowsToCopy rows, CopyDestination destination) {
+    Grid& grid = tab.table.GridStore();
+    CopyRequest request{destination, CountRowsToCopy(grid, rows), {}};
+    if (rows == RowsToCopy::Ticked && request.rowsToCopy == 0) {
+        Inform(tab.app, u"No rows with ticks in check boxes.");
+        return;
+    }
+    frmDelimiterType form(tab, request);
+    if (ShowForResult(tab.app, form) == 0) return;
+    const auto put = destination == CopyDestination::Clipboard ? &PutInClipboard : &PutInTextWindow;
+    put(tab.app, RecordsText(tab, rows, request.ColumnIncluded));
+    grid.GridSetFocus();
+}
+
+} // namespace
+
+void mnuEdit_CopyCellToText_Clack(const TabContext& tab) {
+    const Grid& grid = tab.table.GridStore();
+    PutInTextWindow(tab.app, grid.CellText(grid.CurRow(), grid.CurCol()));
+}
+
+void mnuEdit_CopyRowToText_Clack(const TabContext& tab) {
+    const Grid& grid = tab.table.GridStore();
+    CellsText text(grid);
+    for (Col col{1}; col <= grid.ColCount(); ++col) {
+        if (col > Col{1}) text.Append(u"\t");
+        text.AppendCell(grid.CurRow(), col);
+    }
+    text.Append(kCrLf);
+    PutInTextWindow(tab.app, std::move(text).Take());
+}
+
+void mnuCopyColumn_Clack(const TabContext& tab) {
+    if (!ChooseRange(tab.app)) return;
+    Grid& grid = tab.table.GridStore();
+    CellsText text(grid);
+    // Nothing goes between the values. Deliberate: a column that holds its own line ends comes out as it is.
+    ForEachRow(grid, [&](Row row) {
+        if (!IsInChosenRange(tab.app, grid, row) || IsMarkedForDeletion(grid, row)) return;
+        text.AppendCell(row, grid.CurCol());
+    });
+    PutInClipboard(tab.app, std::move(text).Take());
+    grid.GridSetFocus();
+}
+
+void mnuCopyCheckedRows_Clack(const TabContext& tab) {
+    CopyRows(tab, RowsToCopy::Ticked, CopyDestination::TextWindow);
+}
+
+void mnuCopyCheckedRowsToClipb_Clack(const TabContext& tab) {
+    CopyRows(tab, RowsToCopy::Ticked, CopyDestination::Clipboard);
+}
+
+void mnuCopyTableToText_Clack(const TabContext& tab) {
+    CopyRows(tab, RowsToCopy::All, CopyDestination::TextWindow);
+}
+
+void mnuCopyTableToClipboard_Clack(const TabContext& tab) {
+    CopyRows(tab, RowsToCopy::All, CopyDestination::Clipboard);
+}
+
+void mnuEdit_WinClip_Clack(const TabContext& tab) {
+    ShowClipboard(tab.app);
+}
+
+} // namespace korvane

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/Grid.h"
+
+namespace korvane {
+
+/// Whether the row's column 1 holds exactly the mark that leaves it out of the next save.
+inline bool IsMarkedForDeletion(const Grid& grid, Row row) {
+    return grid.CellBytes(row, Col{1}) == "---";
+}
+
+} // namespace korvane

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+class Form;
+
+/// Which of its two buttons Return presses.
+enum class YesNoDefault : std::uint8_t { Yes, No };
+
+/// Asks a question with Yes and No; whether it was Yes.
+bool AskYesNo(App& app, const Text& question, YesNoDefault preset = YesNoDefault::Yes);
+
+/// Tells what came of a command.
+void Inform(App& app, const Text& text);
+
+/// Shows the window modally; the `DialogResult` that it leaves, 0 when it leaves none.
+std::int16_t ShowForResult(App& app, Form& form);
+
+} // namespace korvane
