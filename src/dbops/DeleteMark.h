@@ -1,12 +1,13 @@
 #pragma once
 
 #include "platform/Grid.h"
+#include "table/TbxFormat.h"
 
 namespace korvane {
 
 /// Whether the row's column 1 holds exactly the mark that leaves it out of the next save.
 inline bool IsMarkedForDeletion(const Grid& grid, Row row) {
-    return grid.CellBytes(row, Col{1}) == "---";
+    return grid.CellBytes(row, Col{1}) == tbx::kDeleteMark;
 }
 
 } // namespace korvane
