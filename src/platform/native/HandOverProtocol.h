@@ -19,7 +19,7 @@
 namespace korvane::hand_over {
 
 /// The longest line that is listened to, without its end.
-inline constexpr std::size_t kLongestLine = 16 * 1024;
+inline constexpr std::size_t kLongestLine = 16'384;
 
 inline constexpr std::string_view kSlotRequest = "SLOT\n";
 inline constexpr std::string_view kActivateRequest = "ACTIVATE\n";

@@ -25,7 +25,7 @@ bool KeepsState(const fs::path& folder) {
 
 /// Empty when the user has no such folder. A relative path in the environment counts as none.
 fs::path ConfigHome(const Surroundings& surroundings) {
-    const fs::path given = surroundings.configHome;
+    fs::path given = surroundings.configHome;
     if (given.is_absolute()) return given;
     const fs::path home = surroundings.home;
     return home.is_absolute() ? home / ".config" : fs::path();
@@ -44,7 +44,7 @@ Surroundings OwnSurroundings() {
 }
 
 fs::path FindProgramFolder(const Surroundings& surroundings) {
-    const fs::path beside = surroundings.executable.parent_path();
+    fs::path beside = surroundings.executable.parent_path();
     if (KeepsState(beside)) return beside;
     const fs::path configHome = ConfigHome(surroundings);
     if (configHome.empty()) return beside;

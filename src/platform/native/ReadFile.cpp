@@ -13,7 +13,7 @@ namespace korvane {
 namespace {
 
 constexpr std::size_t kMostBytes = 0x7FFFFFFF;
-constexpr std::size_t kFirstGuess = 64 * 1024;
+constexpr std::size_t kFirstGuess = 65'536;
 
 struct FreeBuffer {
     std::align_val_t alignment{};

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
 namespace korvane::hand_over {
 namespace {
 
@@ -146,6 +149,30 @@ TEST(HandOverHolds, NoMoreThanOneLineWhileItWaitsForTheSlot) {
     EXPECT_EQ(conversation.Receive("x"), 0u);
     EXPECT_FALSE(conversation.Next(false));
     EXPECT_TRUE(conversation.Next(true));
+}
+
+TEST(HandOverHolds, WhateverComesAndHoweverItIsCut) {
+    // Fragments of requests in every order and cut, from a generator that is the same in every run.
+    const std::string_view fragments[] = {"SLOT", "PATH ", "/a",       "%41",  "%", "ACTIVATE",
+                                          "\n",   "\n",    "\xC3\xA4", "\xFF", "x"};
+    std::minstd_rand random(1);
+    int paths = 0;
+    for (int round = 0; round < 20'000; ++round) {
+        Conversation conversation;
+        int steps = 0;
+        for (int i = 0; i < 12; ++i) {
+            conversation.Receive(fragments[random() % std::size(fragments)]);
+            while (const auto step = conversation.Next(random() % 2 == 0)) {
+                ++steps;
+                if (step->kind != Kind::TakePath) continue;
+                ++paths;
+                EXPECT_TRUE(step->path.starts_with(u'/'));
+                EXPECT_TRUE(PathRequest(step->path));
+            }
+        }
+        ASSERT_LE(steps, 3);
+    }
+    EXPECT_GT(paths, 0);
 }
 
 TEST(PathRequestTest, IsUnderstoodWhateverTheName) {
