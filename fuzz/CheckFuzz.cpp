@@ -1,0 +1,45 @@
+// Any bytes as a table's file: a file that is found to be sound is the same table after a rewrite.
+
+#include "tbx/FileCheck.h"
+#include "tbx/TableCheck.h"
+#include "tbx/TableDump.h"
+#include "tbx/Workbench.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+namespace korvane {
+namespace {
+
+SharedBytes Share(std::string_view bytes) {
+    const std::shared_ptr<char[]> copy(new char[bytes.size() + 1]);
+    std::memcpy(copy.get(), bytes.data(), bytes.size());
+    return {copy, bytes.size()};
+}
+
+std::string DumpOf(const Workbench& workbench) {
+    StringOutput out;
+    WriteTableDump(workbench.Table(), workbench.Messages(), out);
+    out.Flush();
+    return out.Bytes();
+}
+
+void CheckAndRewrite(std::string_view bytes) {
+    const CodePage page = CodePage::Windows1252();
+    Workbench first(PathStyle::Posix, page);
+    first.Load(u"/a.tbx", Share(bytes));
+    const std::string dump = DumpOf(first);
+    const bool sound = CheckFile(bytes, page).empty() && CheckTable(first.Grid()).empty();
+    Workbench again(PathStyle::Posix, page);
+    again.Load(u"/a.tbx", Share(first.Save(u"/a.tbx")));
+    if (sound && DumpOf(again) != dump) std::abort();
+}
+
+} // namespace
+} // namespace korvane
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    korvane::CheckAndRewrite({reinterpret_cast<const char*>(data), size});
+    return 0;
+}

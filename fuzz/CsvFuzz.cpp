@@ -1,0 +1,53 @@
+// Any bytes as a CSV file: the reader comes to an end, and it reads again what the writer makes of what it
+// has read.
+
+#include "tbx/CsvReader.h"
+#include "tbx/CsvRows.h"
+
+#include <cstdint>
+#include <cstdlib>
+
+namespace korvane {
+namespace {
+
+using Record = std::vector<Text>;
+
+struct Outcome {
+    std::vector<Record> records;
+    bool sound = false;
+};
+
+Outcome Read(std::string_view bytes, char delimiter) {
+    CsvReader reader(bytes, delimiter);
+    Outcome outcome;
+    for (std::vector<std::string> fields; reader.ReadRecord(fields);) {
+        Record& record = outcome.records.emplace_back();
+        for (const std::string& field : fields)
+            record.push_back(FromUtf8(field));
+    }
+    outcome.sound = !reader.Fault();
+    return outcome;
+}
+
+std::string Write(const std::vector<Record>& records, char delimiter) {
+    CsvRows format(delimiter);
+    std::string bytes;
+    for (const Record& record : records)
+        format.AddRow(record, bytes);
+    return bytes;
+}
+
+void ReadWriteRead(std::string_view bytes) {
+    const char delimiter = bytes.size() % 2 == 0 ? ',' : ';';
+    const Outcome first = Read(bytes, delimiter);
+    const Outcome again = Read(Write(first.records, delimiter), delimiter);
+    if (!again.sound || again.records != first.records) std::abort();
+}
+
+} // namespace
+} // namespace korvane
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    korvane::ReadWriteRead({reinterpret_cast<const char*>(data), size});
+    return 0;
+}

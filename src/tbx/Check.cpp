@@ -1,0 +1,31 @@
+#include "tbx/FileCheck.h"
+#include "tbx/Files.h"
+#include "tbx/TableCheck.h"
+#include "tbx/Workbench.h"
+
+namespace korvane {
+
+namespace {
+
+void WriteFindings(const std::vector<Finding>& findings, Output& out) {
+    for (const Finding& finding : findings)
+        out.Write(FindingText(finding) + "\n");
+}
+
+} // namespace
+
+ExitStatus RunCheck(const Call& call, Environment& environment) {
+    const std::string& name = call.operands.front();
+    const auto bytes = ReadInput(name, environment);
+    if (!bytes) return ExitStatus::Error;
+    Workbench workbench(environment.files.Style(), call.page);
+    workbench.Load(PathOfArgument(name, environment), *bytes);
+    // The load itself is what the first looks at, the save after it what the second does.
+    const auto inFile = CheckFile(bytes->View(), call.page);
+    const auto inTable = CheckTable(workbench.Grid());
+    WriteFindings(inFile, environment.out);
+    WriteFindings(inTable, environment.out);
+    return inFile.empty() && inTable.empty() ? ExitStatus::Success : ExitStatus::Problem;
+}
+
+} // namespace korvane

@@ -1,0 +1,325 @@
+#include "tbx/FileCheck.h"
+
+#include "common/Number.h"
+#include "table/TbxFormat.h"
+#include "table/TbxLines.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kHeaderValues = 4;
+constexpr std::int32_t kLeaveColour = -999;
+constexpr std::array<std::string_view, 4> kComments{
+    ";", "; Values for colour, font type, font size, cell height, cell width", "; Column names",
+    "; File data"};
+constexpr std::string_view kTrailerPath = "; End of File: ";
+
+bool IsMarkerByte(char first) {
+    return first == tbx::kAt || first == tbx::kTick || first == tbx::kComment || first == tbx::kColour;
+}
+
+bool StartsWithMarker(std::string_view text) {
+    return !text.empty() && IsMarkerByte(text.front());
+}
+
+/// Whether the bytes are the three lines with which a file ends.
+bool IsTrailer(std::string_view bytes) {
+    TbxLines lines(bytes);
+    const auto next = [&lines] {
+        if (lines.AtEnd()) return std::string_view();
+        lines.Next();
+        return lines.Line();
+    };
+    return next() == ";" && next().starts_with(kTrailerPath) && next() == ";" && lines.AtEnd();
+}
+
+template <class Int>
+std::string Rounded(double number, Int otherwise) {
+    Int field = otherwise;
+    StoreRounded(number, field);
+    return std::to_string(field);
+}
+
+// A stored number as the next save writes it.
+
+std::string SavedColour(std::string_view value) {
+    return Rounded<std::int32_t>(Val(value), 0);
+}
+
+std::string SavedSize(std::string_view value) {
+    return Rounded<std::int16_t>(Val(value), 0);
+}
+
+std::string SavedHeight(std::string_view value) {
+    std::int16_t height = 0;
+    StoreRounded(Val(value) / tbx::kHeightScale, height);
+    return ToUtf8(NumberText(height * tbx::kHeightScale));
+}
+
+std::string SavedWidth(std::string_view value) {
+    std::int32_t width = 0;
+    StoreRounded(Val(value) / tbx::kWidthScale, width);
+    return std::to_string(static_cast<std::int64_t>(width) * tbx::kWidthScale);
+}
+
+std::string SavedRowColour(std::string_view value) {
+    const std::string saved = Rounded<std::int32_t>(Val(value), kNoColour.value);
+    return saved == std::to_string(kLeaveColour) ? std::to_string(kNoColour.value) : saved;
+}
+
+std::string SavedRowState(std::string_view line) {
+    const auto at = [line](std::size_t i) { return i < line.size() ? line[i] : '\0'; };
+    std::string saved = "?0000";
+    if (at(1) == '1') saved[1] = '1';
+    if (at(2) == 'I') saved[2] = 'I';
+    if (at(3) == 'B') saved[3] = 'B';
+    if (at(4) == 'X') saved[4] = 'X';
+    return saved;
+}
+
+/// Goes over the lines of one file in the steps of the reader, and notes where they leave the writer's form.
+class FileCheck {
+public:
+    FileCheck(std::string_view bytes, const CodePage& page) : bytes_(bytes), page_(page), lines_(bytes) {}
+
+    std::vector<Finding> Check() {
+        const bool hasCr = bytes_.find('\r') != bytes_.npos;
+        if (!hasCr && bytes_.find('\n') != bytes_.npos) {
+            AddForFile("the lines end in LF alone: all of the file is read as one line");
+            return std::move(findings_);
+        }
+        CheckEncoding();
+        while (!stopped_ && !trailerReached_ && !lines_.AtEnd()) {
+            lines_.Next();
+            line_ = lines_.Line();
+            ++lineNumber_;
+            CheckLine();
+        }
+        if (!stopped_) CheckEnd();
+        return std::move(findings_);
+    }
+
+private:
+    /// How far the lines between a row's start and its cells have come.
+    enum class RowPart { Elsewhere, Start, State, BackColour, TextColour };
+
+    void CheckEncoding() {
+        const bool ascii =
+            std::all_of(bytes_.begin(), bytes_.end(), [](char byte) { return (byte & 0x80) == 0; });
+        if (!ascii && IsUtf8(bytes_))
+            AddForFile("the file is in UTF-8, but is read in code page " + std::to_string(page_.Number()));
+    }
+
+    void CheckLine() {
+        CheckBytes();
+        cutCell_ = collecting_ && StartsWithMarker(line_);
+        if (collecting_ && !cutCell_) {
+            TakeCellLine();
+            return;
+        }
+        if (cutCell_) collecting_ = inCell_ = false;
+        if (cutCell_ && lines_.AtEnd())
+            Add("is the last line of the file, right behind a cell, and is dropped");
+        else if (line_.starts_with(tbx::kComment))
+            TakeComment();
+        else if (headerCount_ < kHeaderValues)
+            TakeHeader();
+        else if (line_.starts_with(tbx::kValue))
+            TakeColumnLine();
+        else
+            TakeDataLine();
+    }
+
+    void CheckBytes() {
+        if (lines_.EndsInLoneCr()) Add("ends in a lone CR, which comes back as CR LF");
+        const auto stray = std::find_if(line_.begin(), line_.end(), [this](char byte) {
+            const auto code = static_cast<unsigned char>(byte);
+            return code >= 0x80 && code < 0xA0 && page_.Decode(code) == code;
+        });
+        if (stray != line_.end())
+            Add("holds a byte without a character in code page " + std::to_string(page_.Number()));
+    }
+
+    void TakeComment() {
+        if (IsTrailer(bytes_.substr(lines_.Begin())))
+            trailerReached_ = true;
+        else if (inData_)
+            Add("begins with \";\" and is dropped as a comment" + CutText());
+        else if (std::find(kComments.begin(), kComments.end(), line_) == kComments.end())
+            Add("is a comment that a save leaves out");
+    }
+
+    void TakeHeader() {
+        ++headerCount_;
+        if (!line_.starts_with(tbx::kValue))
+            Add("is taken for value " + std::to_string(headerCount_) +
+                " of the header and loses its first character");
+        const std::string_view value = line_.substr(std::min<std::size_t>(1, line_.size()));
+        if (headerCount_ == 1) CompareSaved(value, SavedColour(value));
+        if (headerCount_ == 3) CompareSaved(value, SavedSize(value));
+        if (headerCount_ == 4) CompareSaved(value, SavedHeight(value));
+    }
+
+    void TakeColumnLine() {
+        const std::string_view value = line_.substr(1);
+        if (inData_)
+            Add(std::string("begins with \"!\" and is read as a column line") +
+                (row_ > 0 ? "; the rows before it are lost" : ""));
+        if (expectWidth_)
+            CompareSaved(value, SavedWidth(value));
+        else
+            ++columnCount_;
+        expectWidth_ = !expectWidth_;
+        row_ = 0;
+        if (columnCount_ > MaxColumns.Number()) {
+            Add("names column 25, where a load stops: there can be no more than 24");
+            stopped_ = true;
+        }
+    }
+
+    void TakeDataLine() {
+        if (!inData_ && expectWidth_) Add("stands where the width of the last column is missing");
+        inData_ = true;
+        if (line_.starts_with(tbx::kRow))
+            TakeRowLine();
+        else if (line_.starts_with(tbx::kTick))
+            TakeStateLine();
+        else if (line_.starts_with(tbx::kColour))
+            TakeColourLine();
+        else if (line_.starts_with(tbx::kCol))
+            TakeColLine();
+        else
+            TakeTextLine();
+    }
+
+    void TakeRowLine() {
+        const std::string_view number = line_.substr(std::min<std::size_t>(5, line_.size()));
+        const bool digits = !number.empty() && number.find_first_not_of("0123456789") == number.npos;
+        if (!line_.starts_with("@row_") || !digits)
+            Add("begins with \"@row\" and is read as the start of a row" + CutText());
+        CheckRowEnd();
+        ++row_;
+        col_ = 0;
+        inCell_ = rowHasCell_ = false;
+        part_ = RowPart::Start;
+        if (row_ > kMaxRows.Number()) {
+            AddForFile("rows past 32767 don't arrive");
+            stopped_ = true;
+        }
+    }
+
+    void TakeStateLine() {
+        if (part_ != RowPart::Start)
+            Add("begins with \"?\" and is read as a row's tick and font" + CutText());
+        else
+            CompareSaved(line_, columnCount_ > 0 ? SavedRowState(line_) : "?0000");
+        part_ = part_ == RowPart::Start ? RowPart::State : RowPart::Elsewhere;
+        inCell_ = false;
+    }
+
+    void TakeColourLine() {
+        const std::string_view value = line_.substr(1);
+        if (part_ == RowPart::Elsewhere || part_ == RowPart::TextColour)
+            Add("begins with \"\xC2\xA7\" and is read as a row's colour" + CutText());
+        else
+            CompareSaved(value, columnCount_ > 0 ? SavedRowColour(value) : std::to_string(kNoColour.value));
+        part_ =
+            part_ == RowPart::Start || part_ == RowPart::State ? RowPart::BackColour : RowPart::TextColour;
+        inCell_ = false;
+    }
+
+    void TakeColLine() {
+        ++col_;
+        inCell_ = true;
+        part_ = RowPart::Elsewhere;
+        if (row_ == 0)
+            Add("begins a cell before the first row, which is dropped" + CutText());
+        else if (col_ > columnCount_)
+            Add("begins a cell past the last column, which is dropped" + CutText());
+        else if (line_ != "@col_" + std::to_string(col_))
+            Add("is read as column " + std::to_string(col_) + CutText());
+    }
+
+    void TakeTextLine() {
+        part_ = RowPart::Elsewhere;
+        if (!inCell_) {
+            // An empty line ahead of the first row is nothing that could be missed.
+            if (row_ > 0 || !line_.empty()) Add("stands in no cell and is dropped" + CutText());
+            return;
+        }
+        if (col_ > columnCount_) return;
+        rowHasCell_ = true;
+        if (!line_.starts_with(tbx::kAt)) {
+            TakeCellLine();
+            return;
+        }
+        Add("begins with \"@\" and is dropped");
+        inCell_ = false;
+    }
+
+    void TakeCellLine() {
+        // The empty line of an empty cell may go: the cell stays the same.
+        if (lines_.AtEnd() && (collecting_ || !line_.empty()))
+            Add("is the end of the file inside a cell and is dropped");
+        collecting_ = true;
+    }
+
+    /// What the writer never leaves out: the reader gives a row its height and its box with its first cell.
+    void CheckRowEnd() {
+        if (row_ > 0 && columnCount_ > 0 && !rowHasCell_)
+            findings_.push_back({{Row(row_), Col{0}}, 0, "the row has no cell"});
+    }
+
+    void CheckEnd() {
+        CheckRowEnd();
+        if (headerCount_ < kHeaderValues) AddForFile("the file ends before the fourth value of its header");
+        if (!inData_ && columnCount_ > 0) AddForFile("there is no row, and so the columns don't arrive");
+    }
+
+    void CompareSaved(std::string_view value, std::string_view saved) {
+        if (value != saved) Add("holds a value that comes back as \"" + std::string(saved) + "\"");
+    }
+
+    /// What a marker does to the cell in whose text it stands.
+    std::string CutText() const { return cutCell_ ? "; the cell ends before it" : ""; }
+
+    void Add(std::string what) {
+        findings_.push_back({{Row(row_), Col(row_ > 0 ? col_ : 0)}, lineNumber_, std::move(what)});
+    }
+    void AddForFile(std::string what) { findings_.push_back({{}, 0, std::move(what)}); }
+
+    std::string_view bytes_;
+    CodePage page_;
+    TbxLines lines_;
+    std::string_view line_;
+    std::size_t lineNumber_ = 0;
+    std::vector<Finding> findings_;
+
+    int headerCount_ = 0;
+    int columnCount_ = 0;
+    int row_ = 0;
+    int col_ = 0;
+    RowPart part_ = RowPart::Elsewhere;
+    bool expectWidth_ = false;
+    bool inData_ = false;
+    bool inCell_ = false;
+    bool collecting_ = false;
+    bool cutCell_ = false;
+    bool rowHasCell_ = false;
+    bool trailerReached_ = false;
+    /// What follows doesn't arrive, whatever it is.
+    bool stopped_ = false;
+};
+
+} // namespace
+
+std::vector<Finding> CheckFile(std::string_view bytes, const CodePage& page) {
+    return FileCheck(bytes, page).Check();
+}
+
+} // namespace korvane

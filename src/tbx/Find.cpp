@@ -1,0 +1,44 @@
+#include "tbx/LoadedTable.h"
+
+namespace korvane {
+
+namespace {
+
+/// Line breaks as \r and \n, so that every find is one line; all else stands as it is.
+std::string OnOneLine(TextView text) {
+    std::string line;
+    for (const char byte : ToUtf8(text)) {
+        if (byte == '\r')
+            line += "\\r";
+        else if (byte == '\n')
+            line += "\\n";
+        else
+            line += byte;
+    }
+    return line;
+}
+
+void WriteFind(const Grid& grid, CellPosition at, Output& out) {
+    out.Write(std::to_string(at.row.Number()) + ":" + std::to_string(at.col.Number()) + ": " +
+              OnOneLine(grid.CellText(at.row, at.col)) + "\n");
+}
+
+} // namespace
+
+ExitStatus RunFind(const Call& call, Environment& environment) {
+    const Text part = FromUtf8(call.operands[1]);
+    if (part.empty()) return Fail(environment, "the text to find is empty");
+    const auto workbench = LoadTable(call, environment);
+    if (!workbench) return ExitStatus::Error;
+    const Grid& grid = workbench->Grid();
+    bool found = false;
+    for (auto at = grid.FindText(part, {Row{1}, Col{1}}); at && environment.out.Works();
+         at = grid.FindText(part, {at->row, at->col + 1})) {
+        WriteFind(grid, *at, environment.out);
+        found = true;
+    }
+    ReportMessages(*workbench, environment);
+    return found ? ExitStatus::Success : ExitStatus::Problem;
+}
+
+} // namespace korvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "tbx/Verb.h"
+
+#include <string>
+
+namespace korvane {
+
+/// What the command prints about itself; every text ends in a line break.
+std::string GeneralHelp();
+std::string VerbHelp(const Verb& verb);
+std::string VersionText();
+
+/// "tbx find [-p NUMBER] FILE TEXT", without a line break.
+std::string UsageLine(const Verb& verb);
+
+} // namespace korvane

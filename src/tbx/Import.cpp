@@ -1,0 +1,74 @@
+#include "common/Number.h"
+#include "tbx/CsvTable.h"
+#include "tbx/Files.h"
+#include "tbx/TableCheck.h"
+#include "tbx/Workbench.h"
+
+namespace korvane {
+
+namespace {
+
+// A new table looks as the program makes one.
+constexpr int kColWidth = 240;
+constexpr std::int16_t kRowHeight = 24;
+constexpr std::int16_t kFontSize = 12;
+constexpr TextView kFontName = u"Calibri";
+constexpr Colour kBackColour{0xFFFFFF};
+
+void SetLook(TableModel& table) {
+    table.SetRowHeight = kRowHeight;
+    table.TableBackColour = kBackColour;
+    table.TableFontName = kFontName;
+    table.TableFontSize = kFontSize;
+}
+
+void AddColumns(const std::vector<Text>& headers, Grid& grid) {
+    for (const Text& header : headers) {
+        const Col col = grid.ColCount() + 1;
+        grid.AddCol(NumberText(col.Number()) + u"no", header);
+        grid.SetColWidth(col, kColWidth);
+    }
+}
+
+void AddRows(const std::vector<std::vector<Text>>& rows, Grid& grid) {
+    grid.SetRowCount(Row(static_cast<int>(rows.size())));
+    Row row;
+    for (const auto& cells : rows) {
+        ++row;
+        grid.SetRowHeight(row, kRowHeight);
+        grid.SetCellCheckShown(row, true);
+        Col col;
+        for (const Text& cell : cells)
+            grid.SetCellValue(row, ++col, cell);
+    }
+    grid.SetCurRow(Row{1});
+}
+
+/// Tells what of the table a load of the new file won't bring back.
+ExitStatus ReportLosses(const std::string& name, const Grid& grid, Environment& environment) {
+    const auto findings = CheckTable(grid);
+    for (const Finding& finding : findings)
+        Complain(environment, Quoted(name) + ": " + FindingText(finding));
+    return findings.empty() ? ExitStatus::Success : ExitStatus::Problem;
+}
+
+} // namespace
+
+ExitStatus RunImport(const Call& call, Environment& environment) {
+    const std::string& in = call.operands[0];
+    const std::string& out = call.operands[1];
+    const auto bytes = ReadInput(in, environment);
+    if (!bytes) return ExitStatus::Error;
+    const CsvTable csv = ReadCsvTable(bytes->View(), call.delimiter, call.page);
+    if (!csv.fault.empty()) return Fail(environment, Quoted(in) + ": " + csv.fault);
+
+    Workbench workbench(environment.files.Style(), call.page);
+    SetLook(workbench.Table());
+    AddColumns(csv.headers, workbench.Grid());
+    AddRows(csv.rows, workbench.Grid());
+    if (!WriteOutput(out, workbench.Save(PathOfArgument(out, environment)), environment))
+        return ExitStatus::Error;
+    return ReportLosses(out, workbench.Grid(), environment);
+}
+
+} // namespace korvane

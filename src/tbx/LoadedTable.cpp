@@ -1,0 +1,22 @@
+#include "tbx/LoadedTable.h"
+
+#include "tbx/Files.h"
+
+namespace korvane {
+
+std::unique_ptr<Workbench> LoadTable(const Call& call, Environment& environment) {
+    const std::string& name = call.operands.front();
+    auto bytes = ReadInput(name, environment);
+    if (!bytes) return nullptr;
+    auto workbench = std::make_unique<Workbench>(environment.files.Style(), call.page);
+    workbench->Load(PathOfArgument(name, environment), *std::move(bytes));
+    return workbench;
+}
+
+ExitStatus ReportMessages(const Workbench& workbench, Environment& environment) {
+    for (const Message& message : workbench.Messages())
+        Complain(environment, ToUtf8(message.text));
+    return workbench.Messages().empty() ? ExitStatus::Success : ExitStatus::Problem;
+}
+
+} // namespace korvane

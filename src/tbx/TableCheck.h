@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Grid.h"
+#include "tbx/Finding.h"
+
+#include <vector>
+
+namespace korvane {
+
+/// What of the table in memory won't be in it any more after it was saved and loaded.
+std::vector<Finding> CheckTable(const Grid& grid);
+
+} // namespace korvane

@@ -1,0 +1,110 @@
+#include "tbx/Tbx.h"
+
+#include "tbx/CommandLine.h"
+#include "tbx/Help.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace korvane {
+
+namespace {
+
+const Verb* FindVerb(std::string_view name) {
+    const auto verbs = Verbs();
+    const auto found =
+        std::find_if(verbs.begin(), verbs.end(), [&](const Verb& v) { return v.name == name; });
+    return found == verbs.end() ? nullptr : &*found;
+}
+
+std::optional<CodePage> ReadCodePage(const std::string& value) {
+    int number = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (error != std::errc{} || end != value.data() + value.size()) return std::nullopt;
+    return CodePage::ForNumber(number);
+}
+
+std::optional<char> ReadDelimiter(const std::string& value) {
+    if (value == "tab") return '\t';
+    const bool usable = value.size() == 1 &&
+                        std::string_view("\"\r\n").find(value[0]) == std::string_view::npos &&
+                        static_cast<unsigned char>(value[0]) < 0x80;
+    return usable ? std::optional(value[0]) : std::nullopt;
+}
+
+/// Tests the arguments of one command and runs it.
+class VerbCall {
+public:
+    VerbCall(const Verb& verb, const CommandLine& line, Environment& environment)
+        : verb_(verb),
+          line_(line),
+          environment_(environment),
+          call_{{line.words.begin() + 1, line.words.end()}, environment.page} {}
+
+    ExitStatus Run() {
+        std::string fault = OptionFault();
+        if (fault.empty()) fault = OperandFault();
+        if (fault.empty()) fault = ReadOptions();
+        return fault.empty() ? verb_.run(call_, environment_) : Fail(environment_, fault);
+    }
+
+private:
+    std::string OptionFault() const {
+        for (const OptionSpec& option : OptionSpecs()) {
+            const bool given = line_.options.contains(option.letter);
+            if (given && verb_.options.find(option.letter) == verb_.options.npos)
+                return std::string(verb_.name) + " takes no option --" + std::string(option.name);
+        }
+        return {};
+    }
+
+    std::string OperandFault() const {
+        if (call_.operands.size() == verb_.OperandCount()) return {};
+        const bool tooFew = call_.operands.size() < verb_.OperandCount();
+        return std::string(tooFew ? "too few" : "too many") + " arguments; usage: " + UsageLine(verb_);
+    }
+
+    std::string ReadOptions() {
+        for (const auto& [letter, value] : line_.options) {
+            if (letter == 'p') {
+                const auto page = ReadCodePage(value);
+                if (!page) return "the code page has to be 874 or 1250 to 1258, not \"" + value + "\"";
+                call_.page = *page;
+            } else if (letter == 'd') {
+                const auto delimiter = ReadDelimiter(value);
+                if (!delimiter) return "the delimiter has to be one character, not \"" + value + "\"";
+                call_.delimiter = *delimiter;
+            }
+        }
+        return {};
+    }
+
+    const Verb& verb_;
+    const CommandLine& line_;
+    Environment& environment_;
+    Call call_;
+};
+
+} // namespace
+
+ExitStatus RunTbx(std::span<const std::string> arguments, Environment& environment) {
+    const CommandLine line = ParseCommandLine(arguments);
+    if (!line.fault.empty()) return Fail(environment, line.fault);
+    if (line.options.contains('V')) {
+        environment.out.Write(VersionText());
+        return ExitStatus::Success;
+    }
+    const bool help = line.options.contains('h');
+    if (line.words.empty() && !help) return Fail(environment, "no command given; try tbx --help");
+    const Verb* verb = line.words.empty() ? nullptr : FindVerb(line.words.front());
+    if (!verb && !line.words.empty())
+        return Fail(environment, "there is no command \"" + line.words.front() + "\"; try tbx --help");
+    if (help) {
+        environment.out.Write(verb ? VerbHelp(*verb) : GeneralHelp());
+        return ExitStatus::Success;
+    }
+    return VerbCall(*verb, line, environment).Run();
+}
+
+} // namespace korvane

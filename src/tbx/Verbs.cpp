@@ -1,0 +1,66 @@
+#include "tbx/Verb.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr std::array kVerbs{
+    Verb{"dump", "FILE", "p", "Write everything a load leaves in the table as one line of JSON",
+         "The line is ASCII, with its keys in a fixed order, so that dumps can be compared\n"
+         "byte for byte. null stands where the load never set a value; \"messages\" are the\n"
+         "message boxes that the load would have shown.\n",
+         RunDump},
+    Verb{"rewrite", "IN OUT", "p", "Load IN and save it as OUT, as the program does",
+         "The end of OUT names OUT. When the load would have shown a message, it is told\n"
+         "and the exit status is 1; OUT is then what the program would have saved, unless\n"
+         "that would take the place of IN itself.\n",
+         RunRewrite},
+    Verb{"csv", "FILE", "dp", "Write the rows as CSV",
+         "As in RFC 4180: UTF-8, the column names in the first record, CR LF behind each\n"
+         "record, quotes where a field needs them.\n",
+         RunCsv},
+    Verb{"tsv", "FILE", "p", "Write the rows as tab-separated values",
+         "UTF-8, the column names in the first line, LF behind each line. In a field a tab\n"
+         "is written as \\t, LF as \\n, CR as \\r and a backslash as \\\\.\n",
+         RunTsv},
+    Verb{"json", "FILE", "p", "Write the rows as a JSON array of objects",
+         "UTF-8, one object to a line, its keys the column names. An empty name becomes\n"
+         "\"column N\" with the number of its column, and a name that stood before gets the\n"
+         "first free number behind it, from 2 on.\n",
+         RunJson},
+    Verb{"import", "FILE.csv OUT", "dp", "Make a new table of a CSV file",
+         "The first record names the columns. The file is UTF-8, or else in the code page.\n"
+         "Records end in CR LF, LF or CR. Line breaks in quoted fields become CR LF, in\n"
+         "column names a blank. Short records are filled up, and empty lines are passed\n"
+         "over unless there is just one column. Too long a record, more than 24 columns\n"
+         "or more than 32767 rows are errors, and no OUT is written then. What a load of\n"
+         "OUT won't bring back is told, as by check, and the exit status is 1.\n",
+         RunImport},
+    Verb{"find", "FILE TEXT", "p", "Write the cells that hold TEXT, each as \"row:col: text\"",
+         "Capital and small letters differ. Line breaks in the cell are written as \\r and\n"
+         "\\n. The exit status is 1 when no cell holds TEXT.\n",
+         RunFind},
+    Verb{"info", "FILE", "p", "Write name, path, rows, columns, size and date of the file", "", RunInfo},
+    Verb{"check", "FILE", "p", "Write every place that won't survive a load or a save",
+         "Each line begins with \"row:col:\" and \"line N:\" as far as they are known. The exit\n"
+         "status is 1 when there is any. Checked are: cell lines that are read as markers\n"
+         "or dropped, final line breaks, lone CRs, rows marked \"---\", more than 24 columns,\n"
+         "rows past 32767, characters outside the code page, comments, and numbers that\n"
+         "come back as others.\n",
+         RunCheck},
+};
+
+} // namespace
+
+std::size_t Verb::OperandCount() const {
+    return static_cast<std::size_t>(std::count(operands.begin(), operands.end(), ' ')) + 1;
+}
+
+std::span<const Verb> Verbs() {
+    return kVerbs;
+}
+
+} // namespace korvane

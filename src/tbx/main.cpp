@@ -1,0 +1,51 @@
+#include "platform/native/NativeFileSystem.h"
+#include "platform/native/SystemCalls.h"
+#include "platform/native/UserCodePage.h"
+#include "tbx/Tbx.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <vector>
+
+namespace korvane {
+namespace {
+
+std::string ReadAllOf(std::FILE* stream) {
+    std::string bytes;
+    char piece[64 * 1024];
+    for (std::size_t count = 0; (count = std::fread(piece, 1, sizeof piece, stream)) > 0;)
+        bytes.append(piece, count);
+    return bytes;
+}
+
+/// Writes what is left. A reader that went away has seen all that it wanted; any other failure is told.
+ExitStatus Finish(ExitStatus status, StreamOutput& out, Environment& environment) {
+    if (out.Flush() || out.Error() == EPIPE) return status;
+    return Fail(environment,
+                std::string("cannot write to the standard output: ") + std::strerror(out.Error()));
+}
+
+ExitStatus Run(const std::vector<std::string>& arguments) {
+    StreamOutput out(stdout);
+    StreamOutput err(stderr);
+    NativeFileSystem files({});
+    Environment environment{files, out, err, [] { return ReadAllOf(stdin); }, UserCodePage()};
+    ExitStatus status = ExitStatus::Error;
+    try {
+        status = Finish(RunTbx(arguments, environment), out, environment);
+    } catch (const std::exception& failure) {
+        Complain(environment, failure.what());
+    }
+    err.Flush();
+    return status;
+}
+
+} // namespace
+} // namespace korvane
+
+int main(int argc, char** argv) {
+    korvane::system_calls::PrepareStandardStreams();
+    return static_cast<int>(korvane::Run({argv + (argc > 0 ? 1 : 0), argv + argc}));
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/memory/MemoryClock.h"
+#include "platform/memory/MemoryFileSystem.h"
+#include "tbx/Tbx.h"
+
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+/// The command in a world of its own, whose disk is in memory.
+class TbxHarness {
+public:
+    MemoryClock clock;
+    MemoryFileSystem files{PathStyle::Posix, clock};
+    std::string input;
+    CodePage page = CodePage::Windows1252();
+
+    /// What the last run left.
+    std::string out;
+    std::string err;
+
+    ExitStatus Run(const std::vector<std::string>& arguments) {
+        StringOutput outBytes;
+        StringOutput errBytes;
+        Environment environment{files, outBytes, errBytes, [this] { return input; }, page};
+        const ExitStatus status = RunTbx(arguments, environment);
+        outBytes.Flush();
+        errBytes.Flush();
+        out = outBytes.Bytes();
+        err = errBytes.Bytes();
+        return status;
+    }
+};
+
+/// A `.tbx` file in the writer's form: two columns "Name" and "Note", the rows and the end. Line ends are CR
+/// LF.
+std::string TbxFile(const std::vector<std::string>& dataLines);
+
+/// The lines of one row with these cells, each one line.
+std::vector<std::string> RowLines(int number, const std::vector<std::string>& cells);
+
+} // namespace korvane
