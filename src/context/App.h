@@ -70,6 +70,10 @@ public:
     std::int16_t DialogResult = 0;
     /// 1 while the closing question of a tab runs its save.
     std::int16_t ClosingTabSave = 0;
+    // What `frmMyInputBox` asks, the text that it offers, and the answer.
+    Text InputCaption;
+    Text InputInitial;
+    Text InputResult;
     ListerRequest Lister;
     /// The check box of `frmDelimiterType` that adds line breaks, 1 or 0: kept as long as the program runs.
     std::int16_t BreakAfterFieldThree = 0;

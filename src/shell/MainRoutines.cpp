@@ -5,6 +5,7 @@
 #include "context/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
+#include "shell/frmAbout.h"
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
 
@@ -46,6 +47,11 @@ void ExploreCaptionFolder(frmMDIParent& main) {
     ExploreFolder(main.TheApp(), main.TheApp().Files().Style().FolderPart(main.Caption.Get()));
 }
 
+template <class Window>
+void ShowWindow(frmMDIParent& main) {
+    Window(main.TheApp()).ShowModal();
+}
+
 struct NamedRoutine {
     std::string_view name;
     void (*run)(frmMDIParent&);
@@ -63,6 +69,7 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
     NamedRoutine{"mnuHelpText",
                  [](frmMDIParent& main) { LaunchDunmark(main.TheApp(), main.TheApp().HelpFilePath); }},
+    NamedRoutine{"mnuMisc_About", &ShowWindow<frmAbout>},
     NamedRoutine{"LoadFindText",
                  [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Ostrel); }},
     NamedRoutine{"LoadFindFiles",

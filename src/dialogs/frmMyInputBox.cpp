@@ -1,0 +1,56 @@
+#include "dialogs/frmMyInputBox.h"
+
+#include "context/App.h"
+#include "context/Desktop.h"
+#include "platform/FileSystem.h"
+#include "platform/Shell.h"
+
+namespace korvane {
+
+frmMyInputBox::frmMyInputBox(App& app) : Form(app.Forms(), "frmMyInputBox", u"Korvane"), app_(app) {
+    txtBoxText.KeyDown = [this](KeyEvent& key) { txtBoxText_KeyDown(key); };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
+    cmdCancel.Cancel = true;
+    cmdDesktop.Click = [this] { ShowDesktop(app_); };
+    cmdExplorer.Click = [this] { cmdExplorer_Click(); };
+}
+
+void frmMyInputBox::Load() {
+    txtBoxText.Text = app_.InputInitial;
+    txtBoxText.SelectAll();
+    txtBoxCaption.Caption = app_.InputCaption;
+    app_.InputResult.clear();
+}
+
+void frmMyInputBox::txtBoxText_KeyDown(KeyEvent& key) {
+    if (key.code != Key::Return) return;
+    key.consumed = true;
+    cmdOk_Click();
+}
+
+void frmMyInputBox::cmdOk_Click() {
+    app_.InputResult = txtBoxText.Text;
+    app_.DialogResult = 1;
+    Close();
+}
+
+void frmMyInputBox::cmdCancel_Click() {
+    app_.DialogResult = 0;
+    Close();
+}
+
+void frmMyInputBox::cmdExplorer_Click() {
+    const Text here = app_.Files().CurrentDir();
+    app_.Shell().Open({.verb = u"explore", .file = here, .directory = here});
+}
+
+Text AskForText(App& app, TextView caption, TextView initial) {
+    app.InputCaption = Text(caption);
+    app.InputInitial = Text(initial);
+    app.DialogResult = 0;
+    frmMyInputBox(app).ShowModal();
+    return app.InputResult;
+}
+
+} // namespace korvane

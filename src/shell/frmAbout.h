@@ -1,0 +1,21 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+
+namespace korvane {
+
+class App;
+
+/// Tells what this program is. Modal.
+class frmAbout : public Form {
+public:
+    explicit frmAbout(App& app);
+
+    Label lblTitle{*this, "lblTitle", u"Korvane"};
+    Label lblPurpose{*this, "lblPurpose", u"A database of text tables, with a text window and file tools"};
+    CommandButton cmdClose{*this, "cmdClose", u"&Close"};
+};
+
+} // namespace korvane
