@@ -19,7 +19,8 @@ namespace {
 
 void ExploreTableFolder(const TabContext& tab) {
     const PathStyle style = tab.app.Files().Style();
-    ExploreFolder(tab.app, style.DirectoryForChange(style.FolderPart(tab.table.TxtDbFile)));
+    const TextView folder = style.FolderPart(tab.table.TxtDbFile);
+    ExploreFolder(tab.app, folder.empty() ? Text() : style.DirectoryForChange(folder));
 }
 
 void RunOnMainWindow(const TabContext& tab, std::string_view command) {

@@ -60,10 +60,10 @@ void frmMDIParent::InvokeOnActiveTab(std::string_view routine) {
 }
 
 void frmMDIParent::RunCommand(std::string_view name) {
+    ReleaseClosedTabs();
     ++commandDepth_;
     Route(name);
     --commandDepth_;
-    if (commandDepth_ == 0) tabs_.ReleaseClosed();
 }
 
 void frmMDIParent::Route(std::string_view name) {
@@ -107,7 +107,12 @@ void frmMDIParent::SetSideBarWidth(bool advance) {
 }
 
 void frmMDIParent::CloseTab(Form& child) {
+    ReleaseClosedTabs();
     tabs_.Close(child);
+}
+
+void frmMDIParent::ReleaseClosedTabs() {
+    // Where a command starts on its own, no handler of a tab that an earlier one closed runs any more.
     if (commandDepth_ == 0) tabs_.ReleaseClosed();
 }
 

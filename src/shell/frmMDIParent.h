@@ -67,6 +67,7 @@ private:
     void Wire();
     void txtCommand_Change();
     void Route(std::string_view name);
+    void ReleaseClosedTabs();
     void StorePlace();
     void CloseOtherWindows();
 

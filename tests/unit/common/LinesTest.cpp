@@ -11,7 +11,8 @@ namespace {
 std::vector<std::string> Split(std::string_view bytes, LineEnds ends) {
     LineReader reader(bytes, ends);
     std::vector<std::string> lines;
-    for (std::string_view line; reader.Next(line);) lines.emplace_back(line);
+    for (std::string_view line; reader.Next(line);)
+        lines.emplace_back(line);
     return lines;
 }
 

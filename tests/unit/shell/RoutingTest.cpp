@@ -1,0 +1,162 @@
+#include "shell/Commands.h"
+#include "support/TestProgram.h"
+#include "table/frmTxtDbInfo.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+class Routing : public testing::Test {
+protected:
+    TestProgram p;
+};
+
+TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothing) {
+    p.StartWith({});
+    for (const Command& command : Commands()) {
+        if (command.target == CommandTarget::Tab) p.Main().RunCommand(command.name);
+    }
+    EXPECT_TRUE(p.Captions().empty());
+    EXPECT_TRUE(p.user.Messages().empty());
+}
+
+TEST_F(Routing, UnknownCommandsDoNothing) {
+    p.StartWith({});
+    p.Main().RunCommand("mnuEdit_Edit");
+    p.Main().RunCommand("mnuFile");
+    EXPECT_TRUE(p.user.Messages().empty());
+}
+
+TEST_F(Routing, ACommandReachesTheTabThatIsActiveAtTheTime) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.AddTable(u"C:\\b.tbx", {"b"});
+    p.StartWith({}, u"C:\\a.tbx");
+    p.Open(u"C:\\b.tbx");
+    p.Tab(1).iGrid1.CommitEdit(Row{1}, Col{1}, u"A");
+    p.Tab(2).iGrid1.CommitEdit(Row{1}, Col{1}, u"B");
+    p.PressKey('S', Mask::Ctrl);
+    EXPECT_EQ(p.FileBytes(u"C:\\b.tbx"), NameTable(u"C:\\b.tbx", {"B"}));
+    EXPECT_EQ(p.FileBytes(u"C:\\a.tbx"), NameTable(u"C:\\a.tbx", {"a"}));
+    p.Choose("mnuFile_SwitchTabsForward");
+    p.PressKey('S', Mask::Ctrl);
+    EXPECT_EQ(p.FileBytes(u"C:\\a.tbx"), NameTable(u"C:\\a.tbx", {"A"}));
+}
+
+TEST_F(Routing, DesignMakesItsOwnTabAlsoWhereNoneIsOpen) {
+    p.StartWith({});
+    p.Choose("mnuEdit_DesignDb");
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
+    p.Choose("mnuImport_Clip");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
+}
+
+TEST_F(Routing, SaveAllRewritesEveryTabAndListsAll) {
+    for (const char* name : {"a", "b", "c", "d"}) {
+        const Text path = u"C:\\" + FromAscii(name) + u".tbx";
+        p.AddTable(path, {name});
+    }
+    p.StartWith({}, u"C:\\a.tbx");
+    for (const TextView path : {u"C:\\b.tbx", u"C:\\c.tbx", u"C:\\d.tbx"})
+        p.Open(Text(path));
+    p.Tab(2).iGrid1.CommitEdit(Row{1}, Col{1}, u"B");
+    p.Tab(3).iGrid1.CommitEdit(Row{1}, Col{1}, u"C");
+    p.files.AddFile(u"C:\\d.tbx", "changed by somebody else");
+    p.user.Answer(
+        {u"Databases saved to disk: \r\n\r\na.tbx\r\nb.tbx\r\nc.tbx\r\nd.tbx\r\n", MessageIcon::Information},
+        Answer::Ok);
+    p.PressKey(Key::F(11), Mask::Ctrl);
+    EXPECT_EQ(p.FileBytes(u"C:\\b.tbx"), NameTable(u"C:\\b.tbx", {"B"}));
+    EXPECT_EQ(p.FileBytes(u"C:\\c.tbx"), NameTable(u"C:\\c.tbx", {"C"}));
+    EXPECT_EQ(p.FileBytes(u"C:\\d.tbx"), NameTable(u"C:\\d.tbx", {"d"}));
+    EXPECT_EQ(p.Tab(2).Table().TableAltered, 0);
+}
+
+TEST_F(Routing, SaveAllWithoutTabsSaysNothing) {
+    p.StartWith({});
+    p.Choose("mnuFile_SaveAll");
+    EXPECT_TRUE(p.user.Messages().empty());
+}
+
+TEST_F(Routing, SaveAllListsATabWithoutAFileThoughItCannotBeSaved) {
+    p.StartWith({});
+    p.Choose("mnuEdit_DesignDb");
+    p.user.Answer(Answer::Ok);
+    p.user.Answer({u"Databases saved to disk: \r\n\r\nUntitled_1.tbx\r\n", MessageIcon::Information},
+                  Answer::Ok);
+    p.Choose("mnuFile_SaveAll");
+    EXPECT_TRUE(p.user.Messages().at(0).text.starts_with(
+        u"Cannot save this file :\r\n\r\n( no name specified or name is empty ! )"));
+}
+
+TEST_F(Routing, TheFocusGoesToTheSidebarAndBackToTheGrid) {
+    Settings settings;
+    settings.SideBarVisible = 1;
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith(settings, u"C:\\a.tbx");
+    FocusCounter bar(p.Main().iGridListBar.Store());
+    FocusCounter grid(p.Tab(1).GridStore());
+    EXPECT_TRUE(p.PressKey('X', Mask::Alt));
+    EXPECT_EQ(bar.Count(), 1);
+    EXPECT_EQ(grid.Count(), 0);
+    EXPECT_TRUE(p.PressSideBarKey('S', Mask::Ctrl | Mask::Alt));
+    EXPECT_EQ(grid.Count(), 1);
+    EXPECT_TRUE(p.PressKey('X', Mask::Alt));
+    EXPECT_TRUE(p.PressSideBarKey('X', Mask::Alt));
+    EXPECT_EQ(bar.Count(), 2);
+    EXPECT_EQ(grid.Count(), 2);
+}
+
+TEST_F(Routing, TheFocusTurnsAlsoWhereTheSidebarIsHidden) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith({}, u"C:\\a.tbx");
+    FocusCounter bar(p.Main().iGridListBar.Store());
+    FocusCounter grid(p.Tab(1).GridStore());
+    p.PressKey('X', Mask::Alt);
+    EXPECT_EQ(bar.Count() + grid.Count(), 0);
+    p.PressKey('X', Mask::Alt);
+    EXPECT_EQ(grid.Count(), 1);
+}
+
+TEST_F(Routing, EveryToolBarButtonStandsUnderItsNameAndRunsItsCommand) {
+    p.StartWith({});
+    const auto button = [this](std::string_view name) {
+        return dynamic_cast<CommandButton*>(p.Main().Find(name));
+    };
+    for (const ToolBarButton& entry : ToolBarButtons()) {
+        ASSERT_NE(button(entry.name), nullptr) << entry.name;
+        EXPECT_EQ(button(entry.name)->ToolTipText.Get(), entry.toolTip);
+    }
+    button("cmdDesignDb")->Press();
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
+    button("cmdClose")->Press();
+    EXPECT_TRUE(p.Captions().empty());
+    button("cmdDesktop")->Press();
+    EXPECT_EQ(p.shell.Calls().at(0).kind, ShellCall::Kind::ToggleDesktop);
+}
+
+TEST_F(Routing, TheExplorerCommandOpensTheDesktopsFileManager) {
+    p.StartWith({});
+    p.PressKey(Key::F(9), Mask::Ctrl | Mask::Shift);
+    EXPECT_EQ(p.shell.Opened(), (std::vector<OpenRequest>{{u"Open", u"explorer.exe", u"", u"0"}}));
+}
+
+TEST_F(Routing, TheTabStripShowsFileInfoOnATabAndTheWindowMenuBesideIt) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith({}, u"C:\\a.tbx");
+    p.user.On<frmTxtDbInfo>([](frmTxtDbInfo& info) { info.cmdClose.Press(); });
+    p.Main().MDITabs1.TabContextClick();
+    p.user.ChooseFromPopUp("");
+    p.Main().MDITabs1.ContextMenu();
+    EXPECT_EQ(p.user.PopUps(), std::vector<std::string>{"mnuWindow"});
+}
+
+TEST_F(Routing, TheMainCaptionIsPutBackWhenNothingWasOpened) {
+    p.StartWith({});
+    p.user.OnChooser([this](ListerRequest&) { p.Main().Caption = u"changed"; });
+    p.Choose("mnuFile_Open");
+    EXPECT_EQ(p.Main().Caption.Get(), u"Korvane");
+}
+
+} // namespace
+} // namespace korvane

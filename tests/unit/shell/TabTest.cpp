@@ -1,0 +1,198 @@
+#include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+const Text kFile = u"C:\\Data\\a.tbx";
+
+class TabTest : public testing::Test {
+protected:
+    TabTest() { p.AddTable(kFile, {"pear", "apple"}); }
+    void Start(const Settings& settings = {}) { p.StartWith(settings, kFile); }
+    frmMDIChild& Tab() { return p.Tab(1); }
+    Text Cell(int row) { return Tab().GridStore().CellText(Row{row}, Col{1}); }
+
+    TestProgram p;
+};
+
+TEST_F(TabTest, AnEditAltersTheTable) {
+    Start();
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+    Tab().iGrid1.CommitEdit(Row{1}, Col{1}, u"plum");
+    EXPECT_EQ(Cell(1), u"plum");
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
+TEST_F(TabTest, ATickAltersTheTable) {
+    Start();
+    Tab().iGrid1.ClickCheck(Row{2});
+    EXPECT_EQ(Tab().GridStore().CellCheck(Row{2}), 1);
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
+TEST_F(TabTest, AHeaderClickSortsAndAltersWhenSortingIsAllowed) {
+    Settings settings;
+    settings.AllowSorting = 1;
+    Start(settings);
+    Tab().iGrid1.ClickHeader(Col{1});
+    EXPECT_EQ(Cell(1), u"apple");
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
+TEST_F(TabTest, AHeaderClickDoesNothingWhenSortingIsntAllowed) {
+    Start();
+    Tab().iGrid1.ClickHeader(Col{1});
+    EXPECT_EQ(Cell(1), u"pear");
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTab) {
+    Settings settings;
+    settings.AllowSorting = 1;
+    Start(settings);
+    Tab().iGrid1.ClickHeader(Col{1});
+    p.app.Settings.AllowSorting = 0;
+    Tab().Table().TableAltered = 0;
+    Tab().iGrid1.ClickHeader(Col{1});
+    EXPECT_EQ(Cell(1), u"pear");
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
+TEST_F(TabTest, TheRightButtonShowsTheTablesMenu) {
+    Start();
+    p.user.ChooseFromPopUp("");
+    Tab().iGrid1.MouseUp(MouseButton::Right);
+    Tab().iGrid1.MouseUp(MouseButton::Left);
+    EXPECT_EQ(p.user.PopUps(), std::vector<std::string>{"mnuPopupMenu"});
+}
+
+TEST_F(TabTest, ACommandOfTheTablesMenuRuns) {
+    Start();
+    p.user.ChooseFromPopUp("mnuFile_SaveAs");
+    p.user.CancelChooser();
+    Tab().iGrid1.MouseUp(MouseButton::Right);
+    EXPECT_EQ(p.user.Requests().at(0).FileDialogCaption, u"Save database to disk");
+}
+
+TEST_F(TabTest, F10SavesUnderANewNameAlsoWithCtrl) {
+    Start();
+    p.user.CancelChooser();
+    p.user.CancelChooser();
+    EXPECT_TRUE(p.PressKey(Key::F(10)));
+    EXPECT_TRUE(p.PressKey(Key::F(10), Mask::Ctrl));
+    EXPECT_EQ(p.user.Requests().size(), 2u);
+}
+
+TEST_F(TabTest, CtrlAltDTogglesTheDesktop) {
+    Start();
+    EXPECT_TRUE(p.PressKey('D', Mask::Ctrl | Mask::Alt));
+    ASSERT_EQ(p.shell.Calls().size(), 1u);
+    EXPECT_EQ(p.shell.Calls()[0].kind, ShellCall::Kind::ToggleDesktop);
+}
+
+TEST_F(TabTest, CtrlAltXExploresTheFolderOfTheFile) {
+    Start();
+    EXPECT_TRUE(p.PressKey('X', Mask::Ctrl | Mask::Alt));
+    EXPECT_EQ(p.shell.Calls().at(0).argument, u"C:\\Data");
+}
+
+TEST_F(TabTest, CtrlAltXExploresTheCurrentDirectoryWhereTheFolderIsGone) {
+    Start();
+    p.files.Erase(u"C:\\Data");
+    p.PressKey('X', Mask::Ctrl | Mask::Alt);
+    Tab().Table().TxtDbFile.clear();
+    p.PressKey('X', Mask::Ctrl | Mask::Alt);
+    EXPECT_EQ(p.shell.Calls().at(0).argument, u"C:\\");
+    EXPECT_EQ(p.shell.Calls().at(1).argument, u"C:\\");
+}
+
+TEST_F(TabTest, KeysWhoseCommandIsntThereAreSwallowedWithoutEffect) {
+    Start();
+    EXPECT_TRUE(p.PressKey('V', Mask::Ctrl | Mask::Alt));
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, CtrlAltQReachesTheGrid) {
+    Start();
+    EXPECT_FALSE(p.PressKey('Q', Mask::Ctrl | Mask::Alt));
+    EXPECT_FALSE(p.PressKey(Key::Down));
+}
+
+TEST_F(TabTest, AltShiftF7WidensTheSidebarAndGivesTheGridTheFocus) {
+    Start();
+    FocusCounter focus(Tab().GridStore());
+    EXPECT_TRUE(p.PressKey(Key::F(7), Mask::Shift | Mask::Alt));
+    EXPECT_EQ(p.app.Settings.SideBarWidthStep, 1);
+    EXPECT_EQ(focus.Count(), 1);
+}
+
+TEST_F(TabTest, ActivationGivesTheGridTheFocus) {
+    Start();
+    FocusCounter focus(Tab().GridStore());
+    Tab().Activate();
+    EXPECT_EQ(focus.Count(), 1);
+}
+
+TEST_F(TabTest, ShowsTheRowHeightOfItsFile) {
+    Start();
+    EXPECT_EQ(Tab().txtRowHeight.Text.Get(), u"24");
+    EXPECT_EQ(Tab().ZoomSlider.Value, 24);
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, ALoadClearsTheDirtyFlagOfItsSlot) {
+    Start();
+    p.AllTabs().TabState[1].Dirty = -1;
+    Tab().Invoke("ReadTableData");
+    EXPECT_EQ(p.AllTabs().TabState[1].Dirty, 0);
+}
+
+TEST_F(TabTest, TakesOverTheFindTextOfTheTabThatWasClosedLast) {
+    Settings settings;
+    settings.LastDbFindText = u"plum";
+    Start(settings);
+    EXPECT_EQ(Tab().txtFindString.Text.Get(), u"plum");
+    Tab().txtFindString.Type(u"fig");
+    p.Choose("mnuFile_Close");
+    EXPECT_EQ(p.app.Settings.LastDbFindText, u"fig");
+    p.Choose("mnuEdit_DesignDb");
+    EXPECT_EQ(Tab().txtFindString.Text.Get(), u"fig");
+}
+
+TEST_F(TabTest, ANewTabIsEmpty) {
+    p.StartWith({});
+    p.Choose("mnuEdit_DesignDb");
+    EXPECT_EQ(Tab().GridStore().RowCount(), Row{0});
+    EXPECT_EQ(Tab().GridStore().CurRow(), Row{0});
+    EXPECT_EQ(Tab().Table().TxtDbFile, u"");
+    EXPECT_EQ(Tab().Table().ColumnNames[Col{1}], u"");
+    EXPECT_EQ(Tab().Tag, u"1");
+}
+
+TEST_F(TabTest, AnUnknownRoutineIsNoError) {
+    Start();
+    Tab().Invoke("mnuEdit_Edit_Clack");
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, ExitByNameEndsTheProgram) {
+    Start();
+    Tab().Invoke("mnuFile_Exit_Clack");
+    EXPECT_FALSE(p.Main().Shown());
+}
+
+TEST_F(TabTest, CaptionsAndToolTips) {
+    Start();
+    EXPECT_EQ(Tab().cmdWebsites.Caption.Get(), u"Websites");
+    EXPECT_EQ(Tab().cmdWallpaper.Caption.Get(), u"Wallpaper");
+    EXPECT_EQ(Tab().cmdSettings.Caption.Get(), u"Settings");
+    EXPECT_EQ(Tab().cmdHelp.Caption.Get(), u"Help");
+    EXPECT_EQ(Tab().cmdFind.ToolTipText.Get(), u"Find string in database");
+    EXPECT_EQ(Tab().txtRowHeight.ToolTipText.Get(), u"Row height (set with Ctrl-Shift+Return)");
+    EXPECT_EQ(Tab().ZoomSlider.ToolTipText.Get(), u"Move to change row height");
+}
+
+} // namespace
+} // namespace korvane
