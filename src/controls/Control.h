@@ -39,7 +39,8 @@ public:
     /// For the window's own use; nothing is shown of it.
     Text Tag;
 
-    void SetFocus() { Notify(Aspect::Focus); }
+    /// A window that isn't shown yet keeps the wish until it is.
+    void SetFocus();
 
     std::function<void(KeyEvent&)> KeyDown;
     std::function<void()> GotFocus;

@@ -12,7 +12,8 @@ Form::Form(FormHost& host, std::string_view name, TextView caption) : host_(host
 
 Form::~Form() {
     LeaveLoaded();
-    if (shown_) host_.Hide(*this);
+    // A window inside another one was never shown by itself, but has its widgets too.
+    host_.Hide(*this);
 }
 
 Control* Form::Find(std::string_view name) const {

@@ -41,6 +41,10 @@ public:
     const std::vector<Control*>& Controls() const { return controls_; }
     /// nullptr when there is no such control.
     Control* Find(std::string_view name) const;
+    /// The control that has, or on showing will have, the keyboard; nullptr when none was ever given it.
+    Control* Focused() const { return focused_; }
+    /// The keyboard went to the control, whoever moved it there.
+    void FocusMoved(Control& control) { focused_ = &control; }
 
     /// Runs `Load` unless it has run. Showing the window does so too; a window that stands inside another one
     /// is loaded only.
@@ -73,6 +77,7 @@ private:
     FormHost& host_;
     std::string name_;
     std::vector<Control*> controls_;
+    Control* focused_ = nullptr;
     bool loaded_ = false;
     bool shown_ = false;
 };

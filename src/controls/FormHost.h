@@ -14,7 +14,8 @@ public:
     /// Shows the window and returns when it has closed.
     virtual void RunModal(Form& form) = 0;
     virtual void Show(Form& form) = 0;
-    /// The window has closed, or its object is going away: it leaves the screen.
+    /// The window has closed, or its object is going away: it leaves the screen. Nothing happens for one that
+    /// isn't there.
     virtual void Hide(Form& form) = 0;
     /// Shows the menu at the mouse pointer; its entries are chosen as the user does.
     virtual void PopUp(Menu& menu) = 0;

@@ -18,6 +18,9 @@ public:
 
     Grid& Store() { return *store_; }
     const Grid& Store() const { return *store_; }
+    /// The column and the order of the last sort by a header; column 0 before the first.
+    Col SortedBy() const { return sortedBy_; }
+    SortOrder Order() const { return order_; }
 
     /// The user typed a new value into the cell and committed it; the store holds it already.
     std::function<void(Row, Col)> AfterEdit;

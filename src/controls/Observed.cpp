@@ -2,6 +2,10 @@
 
 namespace korvane {
 
+Observed::~Observed() {
+    if (view_ != nullptr) view_->Gone();
+}
+
 void Observed::Notify(Aspect aspect) {
     // The view first: a handler may look at the screen, and may even close the window it belongs to.
     if (view_ != nullptr) view_->Follow(*this, aspect);

@@ -32,6 +32,8 @@ class View {
 public:
     virtual ~View() = default;
     virtual void Follow(Observed& observed, Aspect aspect) = 0;
+    /// What it follows is going away. The derived part of it has gone already.
+    virtual void Gone() = 0;
 };
 
 /// Something whose properties reach the screen: at most one view follows it.
@@ -39,7 +41,7 @@ class Observed {
 public:
     Observed(const Observed&) = delete;
     Observed& operator=(const Observed&) = delete;
-    virtual ~Observed() = default;
+    virtual ~Observed();
 
     /// nullptr takes the view away. The caller owns it.
     void SetView(View* view) { view_ = view; }
