@@ -1,0 +1,91 @@
+#include "platform/qt/CellLook.h"
+
+#include "platform/qt/Convert.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvane {
+
+namespace {
+
+/// Below this a text is hard to read.
+constexpr double kReadable = 3.0;
+
+double Linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& colour) {
+    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
+           0.0722 * Linear(colour.blueF());
+}
+
+constexpr Colour kWhite{0xFFFFFF};
+
+bool IsDark(const QColor& colour) {
+    return Luminance(colour) < 0.18;
+}
+
+Colour FirstSet(Colour first, Colour second) {
+    return first == kNoColour ? second : first;
+}
+
+/// The colour that the table has of its own; none where it goes with the palette.
+Colour OwnTableBack(const Grid& store, const QPalette& palette) {
+    const Colour back = store.GridBackColor();
+    return back == kWhite && IsDark(palette.color(QPalette::Base)) ? kNoColour : back;
+}
+
+/// The palette's text colour if it can be read on `back`, else black or white.
+QColor TextFor(const QColor& back, const QPalette& palette) {
+    const QColor text = palette.color(QPalette::Text);
+    if (Contrast(text, back) >= kReadable) return text;
+    return Contrast(Qt::black, back) >= Contrast(Qt::white, back) ? Qt::black : Qt::white;
+}
+
+/// A text colour of the data on a background that isn't of the data: the same hue, as light or dark as it
+/// takes.
+QColor Readable(const QColor& text, const QColor& back) {
+    if (Contrast(text, back) >= kReadable) return text;
+    const QColor aim = IsDark(back) ? Qt::white : Qt::black;
+    QColor result = text;
+    for (int step = 1; step <= 10 && Contrast(result, back) < kReadable; ++step) {
+        result = Blend(text, aim, step / 10.0);
+    }
+    return result;
+}
+
+} // namespace
+
+double Contrast(const QColor& text, const QColor& back) {
+    const double a = Luminance(text);
+    const double b = Luminance(back);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor Blend(const QColor& colour, const QColor& other, double share) {
+    const auto mix = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
+    return QColor(mix(colour.red(), other.red()), mix(colour.green(), other.green()),
+                  mix(colour.blue(), other.blue()));
+}
+
+QColor TableBack(const Grid& store, const QPalette& palette) {
+    const Colour own = OwnTableBack(store, palette);
+    return own == kNoColour ? palette.color(QPalette::Base) : ToQColor(own);
+}
+
+QColor GridLine(const QColor& back) {
+    return Blend(back, IsDark(back) ? Qt::white : Qt::black, IsDark(back) ? 0.16 : 0.14);
+}
+
+CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette) {
+    const Colour back = FirstSet(store.CellBackColor(row, col), OwnTableBack(store, palette));
+    const Colour text = FirstSet(store.CellForeColor(row, col), store.GridForeColor());
+    const QColor shownBack = back == kNoColour ? palette.color(QPalette::Base) : ToQColor(back);
+    if (text == kNoColour) return {shownBack, TextFor(shownBack, palette)};
+    if (back == kNoColour) return {shownBack, Readable(ToQColor(text), shownBack)};
+    return {shownBack, ToQColor(text)};
+}
+
+} // namespace korvane

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/Grid.h"
+
+#include <QColor>
+#include <QPalette>
+
+namespace korvane {
+
+struct CellColours {
+    QColor back;
+    QColor text;
+};
+
+/// How a cell is coloured: by its own colours, else the table's, else the palette's. Where only one of the
+/// two comes from the data, the other is chosen so that the text can be read.
+CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette);
+
+/// The background of the table. White is what a table has whose colour nobody chose: where the palette is
+/// dark, it is the palette's own.
+QColor TableBack(const Grid& store, const QPalette& palette);
+
+/// The lines between cells, to be seen on any background without standing out.
+QColor GridLine(const QColor& back);
+
+/// How well `text` can be read on `back`, from 1 (not at all) to 21.
+double Contrast(const QColor& text, const QColor& back);
+
+/// `colour` with `share` (0 to 1) of `other` in it.
+QColor Blend(const QColor& colour, const QColor& other, double share);
+
+} // namespace korvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+class QWidget;
+
+namespace korvane {
+
+/// The icon `:/icons/<name>.svg` in the colours of the palette, sharp at every size; a null icon when there
+/// is none.
+QIcon TintedIcon(const QString& name);
+/// The same in one colour.
+QIcon TintedIcon(const QString& name, const QColor& colour);
+
+/// Gives each button and action of the window the icon of its name, or of its
+/// property "iconName".
+void SetIcons(QWidget& window);
+
+} // namespace korvane

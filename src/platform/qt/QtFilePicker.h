@@ -1,0 +1,13 @@
+#pragma once
+
+#include "context/Ports.h"
+
+namespace korvane {
+
+/// Lets the user choose files in the dialog of the desktop.
+class QtFilePicker final : public FilePicker {
+public:
+    void Choose(ListerRequest& request) override;
+};
+
+} // namespace korvane

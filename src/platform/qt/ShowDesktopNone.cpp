@@ -1,0 +1,7 @@
+#include "platform/qt/ShowDesktop.h"
+
+namespace korvane {
+
+void ToggleShowingDesktop() {}
+
+} // namespace korvane

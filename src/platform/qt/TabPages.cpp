@@ -1,0 +1,68 @@
+#include "platform/qt/TabPages.h"
+
+#include <QVBoxLayout>
+
+namespace korvane {
+
+namespace {
+
+/// What a tab shows of a caption: an ampersand is one.
+QString TabText(const QString& caption) {
+    return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+TabPages::TabPages(QWidget* parent)
+    : QWidget(parent), tabs_(new QTabBar(this)), stack_(new QStackedWidget(this)), hint_(new QLabel(stack_)) {
+    tabs_->setObjectName("plainTabs");
+    tabs_->setAccessibleName(tr("Open databases"));
+    tabs_->setDocumentMode(true);
+    tabs_->setExpanding(false);
+    tabs_->setMovable(false);
+    tabs_->setTabsClosable(true);
+    tabs_->setUsesScrollButtons(true);
+    tabs_->setElideMode(Qt::ElideMiddle);
+    tabs_->setFocusPolicy(Qt::TabFocus);
+
+    stack_->setObjectName("plainStack");
+    hint_->setObjectName("plainHint");
+    hint_->setAlignment(Qt::AlignCenter);
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->setWordWrap(true);
+    hint_->setForegroundRole(QPalette::PlaceholderText);
+    stack_->addWidget(hint_);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabs_);
+    column->addWidget(stack_, 1);
+}
+
+void TabPages::Add(QWidget& page, const QString& caption) {
+    pages_.append(&page);
+    stack_->addWidget(&page);
+    tabs_->addTab(QString());
+    SetCaption(Count() - 1, caption);
+}
+
+void TabPages::Remove(int index) {
+    QWidget* page = pages_.takeAt(index);
+    stack_->removeWidget(page);
+    page->hide();
+    tabs_->removeTab(index);
+    if (pages_.isEmpty()) stack_->setCurrentWidget(hint_);
+}
+
+void TabPages::SetCaption(int index, const QString& caption) {
+    tabs_->setTabText(index, TabText(caption));
+    tabs_->setTabToolTip(index, Qt::mightBeRichText(caption) ? caption.toHtmlEscaped() : caption);
+}
+
+void TabPages::ShowPage(int index) {
+    stack_->setCurrentWidget(pages_.at(index));
+    tabs_->setCurrentIndex(index);
+}
+
+} // namespace korvane

@@ -1,0 +1,76 @@
+#include "platform/qt/CellLook.h"
+
+#include "QtSupport.h"
+#include "platform/qt/Convert.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+constexpr double kReadable = 3.0;
+constexpr Row kRow{1};
+constexpr Col kCol{1};
+
+QPalette Dark() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor(30, 30, 34));
+    palette.setColor(QPalette::Text, QColor(230, 230, 230));
+    return palette;
+}
+
+class CellLookTest : public testing::Test {
+protected:
+    std::unique_ptr<Grid> store = test::MakeStore(1, 1);
+};
+
+TEST_F(CellLookTest, AnUncolouredCellTakesThePalette) {
+    const CellColours colours = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_EQ(colours.back, QColor(30, 30, 34));
+    EXPECT_EQ(colours.text, QColor(230, 230, 230));
+}
+
+TEST_F(CellLookTest, TheTableIsBehindItsCells) {
+    store->SetGridBackColor(Colour{0xC0FFFF});
+    store->SetGridForeColor(Colour{0x800000});
+    const CellColours colours = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_EQ(colours.back, QColor(0xFF, 0xFF, 0xC0));
+    EXPECT_EQ(colours.text, QColor(0, 0, 128));
+}
+
+TEST_F(CellLookTest, AWhiteTableIsDarkInTheDarkAndItsTextReadable) {
+    store->SetGridBackColor(Colour{0xFFFFFF});
+    store->SetGridForeColor(Colour{0xC00000});
+    const CellColours dark = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_EQ(dark.back, QColor(30, 30, 34));
+    EXPECT_GE(Contrast(dark.text, dark.back), kReadable);
+    EXPECT_EQ(TableBack(*store, Dark()), dark.back);
+    const CellColours light = ColoursOf(*store, kRow, kCol, QPalette());
+    EXPECT_EQ(light.back, QColor(Qt::white));
+    EXPECT_EQ(light.text, QColor(0, 0, 0xC0));
+}
+
+TEST_F(CellLookTest, ALightCellWithoutATextColourStaysReadableInTheDark) {
+    store->SetCellBackColor(kRow, kCol, Colour{0xC0FFFF});
+    const CellColours colours = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_EQ(colours.back, ToQColor(Colour{0xC0FFFF}));
+    EXPECT_GE(Contrast(colours.text, colours.back), kReadable);
+}
+
+TEST_F(CellLookTest, ADarkTextWithoutABackgroundStaysReadableInTheDark) {
+    store->SetCellForeColor(kRow, kCol, Colour{0x800000});
+    const CellColours colours = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_GE(Contrast(colours.text, colours.back), kReadable);
+    EXPECT_GT(colours.text.blue(), colours.text.red());
+}
+
+TEST_F(CellLookTest, TwoColoursOfTheDataStandAsTheyAre) {
+    store->SetCellBackColor(kRow, kCol, Colour{0x101010});
+    store->SetCellForeColor(kRow, kCol, Colour{0x202020});
+    const CellColours colours = ColoursOf(*store, kRow, kCol, QPalette());
+    EXPECT_EQ(colours.back, QColor(0x10, 0x10, 0x10));
+    EXPECT_EQ(colours.text, QColor(0x20, 0x20, 0x20));
+}
+
+} // namespace
+} // namespace korvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "common/CodePage.h"
+#include "common/Number.h"
+#include "platform/memory/MemoryGrid.h"
+
+#include <QApplication>
+#include <QTest>
+#include <memory>
+
+namespace korvane::test {
+
+/// Lets everything happen that is due.
+inline void Settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// An empty store with so many rows and columns; the cells are empty.
+inline std::unique_ptr<Grid> MakeStore(int rows, int columns) {
+    auto store = std::make_unique<MemoryGrid>(CodePage::Windows1252());
+    for (int col = 1; col <= columns; ++col) {
+        store->AddCol(NumberText(col) + u"no", u"Column " + NumberText(col));
+    }
+    store->SetRowCount(Row{rows});
+    return store;
+}
+
+} // namespace korvane::test
