@@ -33,7 +33,7 @@ public:
     virtual ~View() = default;
     virtual void Follow(Observed& observed, Aspect aspect) = 0;
     /// What it follows is going away. The derived part of it has gone already.
-    virtual void Gone() = 0;
+    virtual void Gone() {}
 };
 
 /// Something whose properties reach the screen: at most one view follows it.

@@ -49,6 +49,7 @@ void frmMDIParent::Wire() {
     for (Menu* menu : {&OfficeMenu1, &mnuPopupMenu, &mnuWindow}) {
         menu->Chosen = [this](std::string_view entry) { RunCommand(entry); };
     }
+    txtCommand.Visible = false;
     txtCommand.Change = [this] { txtCommand_Change(); };
     MDITabs1.TabContextClick = [this] { RunCommand("mnuFile_FileInfo"); };
     MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace korvane {
+
+/// What the program was started with.
+struct CommandLine {
+    /// All that isn't an option, joined with one blank: it counts as one path.
+    Text path;
+    /// `--render FILE`: where the picture of the main window goes; empty for a usual start.
+    QString picture;
+    /// `--dark`, with `--render` only.
+    bool dark = false;
+};
+
+/// Options count only in front, so that a file may have any name behind them.
+CommandLine ReadCommandLine(const QStringList& arguments);
+
+} // namespace korvane

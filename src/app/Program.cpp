@@ -1,0 +1,52 @@
+#include "app/Program.h"
+
+#include "platform/memory/MemoryGrid.h"
+#include "platform/native/NativePath.h"
+#include "platform/native/ProgramFolder.h"
+#include "platform/native/UserCodePage.h"
+#include "shell/frmMDIParent.h"
+
+#include <QApplication>
+#include <QPixmap>
+
+namespace korvane {
+
+namespace {
+
+App::Platform WithGrids(App::Platform platform) {
+    platform.codePage = UserCodePage();
+    platform.makeGrid = [page = platform.codePage] { return std::make_unique<MemoryGrid>(page); };
+    return platform;
+}
+
+} // namespace
+
+Program::Program(InstanceChannel& channel)
+    : files_(FromNativePath(FindProgramFolder(OwnSurroundings()))),
+      forms_(KorvaneForms()),
+      app_(WithGrids({files_, messages_, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr})) {
+    app_.FilePicker = &filePicker_;
+}
+
+int Program::Run(const Text& path) {
+    frmMDIParent main(app_, path);
+    main.EnsureLoaded();
+    if (app_.SecondInstance == 1) return 0;
+    main.Show();
+    forms_.RunUntilClosed(main);
+    return 0;
+}
+
+int Program::Render(const Text& path, const QString& picture) {
+    frmMDIParent main(app_, path);
+    main.EnsureLoaded();
+    main.Show();
+    QWidget* window = forms_.WidgetOf(main);
+    if (window == nullptr) return 1;
+    screen_.ProcessMessages();
+    if (window->grab().save(picture)) return 0;
+    qWarning("Cannot write %s", qPrintable(picture));
+    return 1;
+}
+
+} // namespace korvane

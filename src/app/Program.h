@@ -1,0 +1,41 @@
+#pragma once
+
+#include "context/App.h"
+#include "platform/native/NativeClock.h"
+#include "platform/native/NativeFileSystem.h"
+#include "platform/qt/QtClipboard.h"
+#include "platform/qt/QtFilePicker.h"
+#include "platform/qt/QtFormHost.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtScreen.h"
+#include "platform/qt/QtShell.h"
+
+#include <QString>
+
+namespace korvane {
+
+/// The program put together from its real parts.
+class Program {
+public:
+    /// The channel outlives the program.
+    explicit Program(InstanceChannel& channel);
+
+    /// Runs until the main window closes, or, in a second start, until its file is handed over. The exit
+    /// status.
+    int Run(const Text& path);
+    /// Draws the main window with the file into a picture, and ends without a trace. The exit status.
+    int Render(const Text& path, const QString& picture);
+
+private:
+    NativeFileSystem files_;
+    QtMessageBoxes messages_;
+    QtClipboard clipboard_;
+    NativeClock clock_;
+    QtScreen screen_;
+    QtShell shell_;
+    QtFormHost forms_;
+    QtFilePicker filePicker_;
+    App app_;
+};
+
+} // namespace korvane
