@@ -37,13 +37,6 @@ Colour OwnTableBack(const Grid& store, const QPalette& palette) {
     return back == kWhite && IsDark(palette.color(QPalette::Base)) ? kNoColour : back;
 }
 
-/// The palette's text colour if it can be read on `back`, else black or white.
-QColor TextFor(const QColor& back, const QPalette& palette) {
-    const QColor text = palette.color(QPalette::Text);
-    if (Contrast(text, back) >= kReadable) return text;
-    return Contrast(Qt::black, back) >= Contrast(Qt::white, back) ? Qt::black : Qt::white;
-}
-
 /// A text colour of the data on a background that isn't of the data: the same hue, as light or dark as it
 /// takes.
 QColor Readable(const QColor& text, const QColor& back) {
@@ -62,6 +55,12 @@ double Contrast(const QColor& text, const QColor& back) {
     const double a = Luminance(text);
     const double b = Luminance(back);
     return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor TextFor(const QColor& back, const QPalette& palette) {
+    const QColor text = palette.color(QPalette::Text);
+    if (Contrast(text, back) >= kReadable) return text;
+    return Contrast(Qt::black, back) >= Contrast(Qt::white, back) ? Qt::black : Qt::white;
 }
 
 QColor Blend(const QColor& colour, const QColor& other, double share) {

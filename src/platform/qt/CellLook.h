@@ -26,6 +26,9 @@ QColor GridLine(const QColor& back);
 /// How well `text` can be read on `back`, from 1 (not at all) to 21.
 double Contrast(const QColor& text, const QColor& back);
 
+/// The palette's text colour if it can be read on `back`, else black or white.
+QColor TextFor(const QColor& back, const QPalette& palette);
+
 /// `colour` with `share` (0 to 1) of `other` in it.
 QColor Blend(const QColor& colour, const QColor& other, double share);
 

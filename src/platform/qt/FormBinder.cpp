@@ -2,6 +2,7 @@
 
 #include "platform/qt/GridAdaptor.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/ListAdaptors.h"
 #include "platform/qt/MenuAdaptor.h"
 #include "platform/qt/SimpleAdaptors.h"
 #include "platform/qt/TabStripAdaptor.h"
@@ -36,6 +37,10 @@ constexpr Maker kMakers[] = {
     Make<Panel, QWidget, PanelAdaptor>,
     Make<TextBox, QLineEdit, LineAdaptor>,
     Make<TextBox, QPlainTextEdit, LinesAdaptor>,
+    Make<ComboBox, QComboBox, ComboBoxAdaptor>,
+    Make<ListBox, QListWidget, ListBoxAdaptor>,
+    Make<ListView, QTreeWidget, ListViewAdaptor>,
+    Make<TreeView, QTreeWidget, TreeViewAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<Menu, QMenuBar, MenuAdaptor>,

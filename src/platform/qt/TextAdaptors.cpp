@@ -1,11 +1,27 @@
 #include "platform/qt/TextAdaptors.h"
 
+#include "platform/qt/CellLook.h"
 #include "platform/qt/Convert.h"
 
+#include <QApplication>
 #include <QScopedValueRollback>
 #include <QTextDocument>
 
 namespace korvane {
+
+namespace {
+
+/// Colours of its own for a field; without one it goes with its window.
+void WriteBackColour(QWidget& field, Colour back) {
+    if (back == kNoColour) return field.setPalette(QPalette());
+    QPalette palette = field.palette();
+    const QColor colour = ToQColor(back);
+    palette.setColor(QPalette::Base, colour);
+    palette.setColor(QPalette::Text, TextFor(colour, QApplication::palette()));
+    field.setPalette(palette);
+}
+
+} // namespace
 
 QString DocumentText(const QTextDocument& document) {
     QString text = document.toRawText();
@@ -27,6 +43,7 @@ void LineAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Text && widget_.text() != text) widget_.setText(text);
     if (aspect == Aspect::Selection && !reading_) WriteSelection();
     if (aspect == Aspect::Enabled) widget_.setReadOnly(control_.Locked);
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor);
     AdaptorOf::Write(aspect);
 }
 
@@ -66,6 +83,7 @@ void LinesAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Text) WriteText();
     if (aspect == Aspect::Selection && !reading_) WriteSelection();
     if (aspect == Aspect::Enabled) widget_.setReadOnly(control_.Locked);
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor);
     AdaptorOf::Write(aspect);
 }
 
