@@ -1,0 +1,274 @@
+#include "QtSupport.h"
+#include "platform/qt/Convert.h"
+#include "platform/qt/QtClipboard.h"
+#include "platform/qt/QtFilePicker.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtScreen.h"
+#include "platform/qt/QtShell.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace korvane {
+namespace {
+
+// ---- Message boxes ------------------------------------------------------------------------------------
+
+class QtMessageBoxesTest : public testing::Test {
+protected:
+    /// Does something with the box as soon as it stands, and tells what was answered.
+    Answer Show(const Message& message, const std::function<void(QMessageBox&)>& act) {
+        bool seen = false;
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            seen = true;
+            act(*box);
+        });
+        const Answer answer = boxes.Show(message);
+        EXPECT_TRUE(seen);
+        return answer;
+    }
+    static void Press(QMessageBox& box, Qt::Key key) { QTest::keyClick(&box, key); }
+
+    QtMessageBoxes boxes;
+};
+
+TEST_F(QtMessageBoxesTest, ShowsTheTextAsItStandsUnderTheProgramsName) {
+    const Message message{u"<b>a</b>\r\nb", MessageIcon::Stop};
+    const Answer answer = Show(message, [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), QString("Korvane"));
+        EXPECT_EQ(box.text(), QString("<b>a</b>\nb"));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.buttons().size(), 1);
+        Press(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(answer, Answer::Ok);
+}
+
+TEST_F(QtMessageBoxesTest, EachIconIsItsOwn) {
+    const std::pair<MessageIcon, QMessageBox::Icon> icons[] = {
+        {MessageIcon::None, QMessageBox::NoIcon},       {MessageIcon::Information, QMessageBox::Information},
+        {MessageIcon::Question, QMessageBox::Question}, {MessageIcon::Exclamation, QMessageBox::Warning},
+        {MessageIcon::Stop, QMessageBox::Critical},
+    };
+    for (const auto& [icon, shown] : icons) {
+        Show({u"text", icon}, [shown = shown](QMessageBox& box) {
+            EXPECT_EQ(box.icon(), shown);
+            box.reject();
+        });
+    }
+}
+
+TEST_F(QtMessageBoxesTest, ReturnPressesTheDefaultButton) {
+    const Answer answers[] = {Answer::Yes, Answer::No, Answer::Cancel};
+    for (int button = 1; button <= 3; ++button) {
+        const Message message{u"text", MessageIcon::Question, MessageButtons::YesNoCancel, button};
+        EXPECT_EQ(Show(message, [](QMessageBox& box) { Press(box, Qt::Key_Return); }), answers[button - 1]);
+    }
+}
+
+TEST_F(QtMessageBoxesTest, EscAnswersWhatHarmsLeast) {
+    const auto esc = [](QMessageBox& box) { Press(box, Qt::Key_Escape); };
+    EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::Ok}, esc), Answer::Ok);
+    EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::YesNo}, esc), Answer::No);
+    EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::YesNoCancel}, esc), Answer::Cancel);
+}
+
+TEST_F(QtMessageBoxesTest, TheCloseBoxIsEsc) {
+    EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::YesNo}, [](QMessageBox& box) { box.close(); }),
+              Answer::No);
+}
+
+TEST_F(QtMessageBoxesTest, AClickAnswers) {
+    const Message message{u"text", MessageIcon::Question, MessageButtons::YesNo};
+    const Answer answer = Show(
+        message, [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton); });
+    EXPECT_EQ(answer, Answer::No);
+}
+
+// ---- Clipboard ----------------------------------------------------------------------------------------
+
+TEST(QtClipboardTest, HoldsTheTextExactly) {
+    QtClipboard clipboard;
+    clipboard.SetText(u"a\tb\r\nc\u00A0");
+    EXPECT_TRUE(clipboard.HasText());
+    EXPECT_EQ(clipboard.GetText(), u"a\tb\r\nc\u00A0");
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("a\tb\r\nc\u00A0"));
+    clipboard.Clear();
+    EXPECT_FALSE(clipboard.HasText());
+    EXPECT_EQ(clipboard.GetText(), u"");
+}
+
+TEST(QtClipboardTest, LinesOfOtherProgramsEndInCrLf) {
+    QApplication::clipboard()->setText("a\tb\nc\r\nd\n");
+    EXPECT_EQ(QtClipboard().GetText(), u"a\tb\r\nc\r\nd\r\n");
+}
+
+// ---- Screen -------------------------------------------------------------------------------------------
+
+TEST(QtScreenTest, TellsTheWorkAreaInTwips) {
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    const Rect told = QtScreen().WorkArea();
+    EXPECT_EQ(told.width, Twips{area.width() * 15});
+    EXPECT_EQ(told.height, Twips{area.height() * 15});
+}
+
+TEST(QtScreenTest, ThePointerChangesOnceAndComesBack) {
+    QtScreen screen;
+    screen.SetPointer(Pointer::Hourglass);
+    screen.SetPointer(Pointer::Hourglass);
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    screen.SetPointer(Pointer::Default);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    screen.SetPointer(Pointer::Default);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(QtScreenTest, LetsMessagesRun) {
+    bool ran = false;
+    QTimer::singleShot(0, [&ran] { ran = true; });
+    QtScreen().ProcessMessages();
+    EXPECT_TRUE(ran);
+}
+
+// ---- Shell --------------------------------------------------------------------------------------------
+
+/// Catches what would go to the desktop.
+class OpenedUrls : public QObject {
+    Q_OBJECT
+
+public:
+    OpenedUrls() {
+        for (const char* scheme : {"file", "https", "trash"}) {
+            QDesktopServices::setUrlHandler(scheme, this, "Take");
+        }
+    }
+    ~OpenedUrls() override {
+        for (const char* scheme : {"file", "https", "trash"})
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+    QStringList urls;
+
+public slots:
+    void Take(const QUrl& url) { urls << url.toString(); }
+};
+
+TEST(QtShellTest, OpensFoldersFilesAndPages) {
+    OpenedUrls opened;
+    QtShell shell;
+    shell.Explore(u"/tmp/a b");
+    shell.Open({.file = u"/tmp/x.txt"});
+    shell.Open({.file = u"https://example.org/"});
+    shell.Open({.file = Text(kFileManager), .parameters = u"/tmp"});
+    shell.Open({.file = Text(kFileManager)});
+    shell.Open({.file = Text(kFileManager), .parameters = Text(kRecycleStoreParameters)});
+    EXPECT_EQ(opened.urls, (QStringList{"file:///tmp/a b", "file:///tmp/x.txt", "https://example.org/",
+                                        "file:///tmp", "file://" + QDir::homePath(), "trash:///"}));
+}
+
+TEST(QtShellTest, StartsAProgramWithItsArgumentsAsTheyStand) {
+    const QTemporaryDir dir;
+    const QString file = dir.filePath("a 'b' $HOME.txt");
+    QtShell shell;
+    EXPECT_GT(shell.Run(u"/usr/bin/touch", {ToText(file)}, WindowState::Normal), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&file] { return QFile::exists(file); }));
+}
+
+TEST(QtShellTest, AProgramThatIsNotThereDoesNotStart) {
+    QtShell shell;
+    EXPECT_EQ(shell.Run(u"", {}, WindowState::Normal), 0);
+    EXPECT_EQ(shell.Run(u"/nowhere/program", {}, WindowState::Normal), 0);
+}
+
+// ---- File dialog --------------------------------------------------------------------------------------
+
+class QtFilePickerTest : public testing::Test {
+protected:
+    void SetUp() override {
+        for (const char* name : {"one.tbx", "two.tbx", "other.txt"}) {
+            QFile file(dir.filePath(name));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+        request.FileDialogCaption = u"Load database";
+        request.FileDialogFilter = u"*.tbx";
+        request.FileDialogDefaultName = ToText(dir.filePath("present.tbx"));
+    }
+
+    void Choose(const std::function<void(QFileDialog&)>& act) {
+        QTimer::singleShot(0, [act] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+        });
+        picker.Choose(request);
+    }
+    static void Accept(QFileDialog& dialog) { QMetaObject::invokeMethod(&dialog, "accept"); }
+
+    QTemporaryDir dir;
+    QtFilePicker picker;
+    ListerRequest request;
+};
+
+TEST_F(QtFilePickerTest, OffersWhatTheRequestAsksFor) {
+    Choose([this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QString("Load database"));
+        EXPECT_EQ(dialog.nameFilters(), QStringList{"*.tbx"});
+        EXPECT_EQ(dialog.directory(), QDir(dir.path()));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        dialog.reject();
+    });
+    EXPECT_EQ(request.ChosenFilePath, u"");
+    EXPECT_EQ(request.ChosenFileCount, 0);
+}
+
+TEST_F(QtFilePickerTest, AllFilesAreAlsoThoseWithoutAPoint) {
+    request.FileDialogFilter = u"*.tbx;*.*";
+    Choose([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.nameFilters(), QStringList{"*.tbx *"});
+        dialog.reject();
+    });
+}
+
+TEST_F(QtFilePickerTest, TellsAllChosenFiles) {
+    Choose([this](QFileDialog& dialog) {
+        dialog.selectFile(dir.filePath("one.tbx"));
+        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"one.tbx\" \"two.tbx\"");
+        Accept(dialog);
+    });
+    ASSERT_EQ(request.ChosenFileCount, 2);
+    EXPECT_EQ(request.ChosenFilePath, ToText(dir.filePath("one.tbx")));
+    EXPECT_EQ(request.ChosenFiles[1], ToText(dir.filePath("one.tbx")));
+    EXPECT_EQ(request.ChosenFiles[2], ToText(dir.filePath("two.tbx")));
+}
+
+TEST_F(QtFilePickerTest, ASaveTakesTheNameAsItIsGiven) {
+    request.ListerMode = 1;
+    Choose([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_EQ(name->text(), QString("present.tbx"));
+        name->setText("new name");
+        Accept(dialog);
+    });
+    EXPECT_EQ(request.ChosenFilePath, ToText(dir.filePath("new name")));
+    EXPECT_EQ(request.ChosenFileCount, 1);
+}
+
+} // namespace
+} // namespace korvane
+
+#include "PlatformTest.moc"
