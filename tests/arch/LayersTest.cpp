@@ -2,6 +2,8 @@
 // header of the toolkit or of one system outside the folders that stand at the edge, fails with file and
 // line.
 
+#include "SourceTree.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>

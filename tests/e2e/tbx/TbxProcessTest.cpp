@@ -1,5 +1,6 @@
 // The command as a process: exit statuses, streams and files as a shell sees them.
 
+#include "SourceTree.h"
 #include "support/TempDir.h"
 
 #include <gmock/gmock.h>

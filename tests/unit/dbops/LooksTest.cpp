@@ -1,5 +1,6 @@
 // Holds the windows against the Designer files beside them, as far as that goes without a display.
 
+#include "SourceTree.h"
 #include "dbops/frmChooseRange.h"
 #include "dbops/frmDelimiterType.h"
 #include "dbops/frmFindReplace.h"

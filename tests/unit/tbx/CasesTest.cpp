@@ -1,6 +1,7 @@
 // Each folder of tests/cases/tbx holds a file, input.tbx, and what the commands have to make of it, byte for
 // byte.
 
+#include "SourceTree.h"
 #include "support/TempDir.h"
 #include "unit/tbx/TbxHarness.h"
 

@@ -1,5 +1,7 @@
 #include "tbx/Output.h"
 
+#include "SourceTree.h"
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
