@@ -7,7 +7,7 @@ namespace korvane {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("korvane"));
-    setApplicationDisplayName(QStringLiteral("Korvane"));
+    // Without a display name, which the toolkit would add to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
     setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
     setStyle(QStringLiteral("Fusion"));

@@ -61,8 +61,13 @@ void TabPages::SetCaption(int index, const QString& caption) {
 }
 
 void TabPages::ShowPage(int index) {
-    stack_->setCurrentWidget(pages_.at(index));
+    QWidget& page = *pages_.at(index);
+    stack_->setCurrentWidget(&page);
     tabs_->setCurrentIndex(index);
+    // Also in a window that isn't on the screen yet: its page has the keyboard when it comes up.
+    QWidget* wanted = page.focusWidget();
+    if (wanted == nullptr) wanted = page.nextInFocusChain();
+    if (page.isAncestorOf(wanted)) wanted->setFocus(Qt::OtherFocusReason);
 }
 
 } // namespace korvane

@@ -1,0 +1,94 @@
+#include "e2e/Desk.h"
+
+#include "SourceTree.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <sstream>
+
+namespace korvane::e2e {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string FirstLine(int descriptor) {
+    std::string line;
+    for (char c = 0; read(descriptor, &c, 1) == 1 && c != '\n';)
+        line += c;
+    return line;
+}
+
+} // namespace
+
+Desk::Desk()
+    : environment_{{"PATH", std::getenv("PATH")},
+                   {"HOME", folder_.Path().string()},
+                   {"XDG_RUNTIME_DIR", (folder_ / "run").string()},
+                   {"LANG", "C.UTF-8"},
+                   {"QT_QPA_PLATFORM", "xcb"},
+                   {"DISPLAY", ""}} {
+    fs::create_directory(folder_ / "run");
+    fs::permissions(folder_ / "run", fs::perms::owner_all);
+    // The program keeps its state beside itself: each desk has its own.
+    fs::copy_file(KORVANE_BINARY_DIR "/bin/korvane", folder_ / "korvane");
+    fs::copy_file(KORVANE_SOURCE_DIR "/packaging/Korvane.ini", folder_ / "Korvane.ini");
+    StartDisplay();
+}
+
+void Desk::StartDisplay() {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
+    display_ = std::make_unique<Process>(
+        std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", "1280x900x24",
+                                 "-nolisten", "tcp", "-noreset"},
+        environment_, ends[1]);
+    close(ends[1]);
+    const std::string number = FirstLine(ends[0]);
+    close(ends[0]);
+    if (!number.empty()) environment_["DISPLAY"] = ":" + number;
+}
+
+std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments) const {
+    std::vector<std::string> command{(folder_ / "korvane").string()};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return std::make_unique<Process>(command, environment_);
+}
+
+std::string Desk::Find(const std::string& title, const std::string& except) const {
+    const auto found = Output({"xdotool", "search", "--onlyvisible", "--name", title}, environment_);
+    std::istringstream windows(found.value_or(""));
+    for (std::string window; std::getline(windows, window);) {
+        if (window != except) return window;
+    }
+    return "";
+}
+
+std::string Desk::GoTo(const std::string& title, const std::string& except) const {
+    std::string window;
+    const bool there = Until([&] {
+        window = Find(title, except);
+        if (window.empty() || !Output({"xdotool", "windowfocus", window}, environment_)) return false;
+        return Output({"xdotool", "getwindowfocus"}, environment_) == window;
+    });
+    return there ? window : "";
+}
+
+bool Desk::Gone(const std::string& title, const std::string& except) const {
+    return Until([&] { return Find(title, except).empty(); });
+}
+
+void Desk::Press(const std::vector<std::string>& keys) const {
+    std::vector<std::string> command{"xdotool", "key", "--clearmodifiers"};
+    command.insert(command.end(), keys.begin(), keys.end());
+    Output(command, environment_);
+}
+
+void Desk::Type(const std::string& text) const {
+    Output({"xdotool", "type", text}, environment_);
+}
+
+} // namespace korvane::e2e

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace korvane::e2e {
+
+/// Looks again and again until `holds` does; false when it doesn't within half a minute.
+bool Until(const std::function<bool()>& holds);
+
+/// A child process. It is killed when this goes away before its end.
+class Process {
+public:
+    using Environment = std::map<std::string, std::string>;
+
+    /// `inherited` is a file descriptor that stays open in the child; -1 for none.
+    Process(const std::vector<std::string>& command, const Environment& environment, int inherited = -1);
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+    ~Process();
+
+    bool Running();
+    /// Waits for the end; nothing when it doesn't come within half a minute, or came by a signal.
+    std::optional<int> ExitStatus();
+
+private:
+    void Reap(int options);
+
+    pid_t id_ = -1;
+    bool ended_ = false;
+    int status_ = 0;
+};
+
+/// What a command prints, without line ends behind it; nothing when it fails.
+std::optional<std::string> Output(const std::vector<std::string>& command,
+                                  const Process::Environment& environment);
+
+} // namespace korvane::e2e
