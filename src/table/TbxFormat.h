@@ -17,6 +17,16 @@ inline constexpr std::string_view kRow = "@row";
 inline constexpr std::string_view kCol = "@col";
 inline constexpr std::string_view kLineEnd = "\r\n";
 
+// Each section begins with a title between two lines of no more than the comment mark, and so does the end.
+inline constexpr std::string_view kCommentLine = ";";
+/// The header holds no cell width, whatever its title says.
+inline constexpr std::string_view kHeaderTitle =
+    "; Values for colour, font type, font size, cell height, cell width";
+inline constexpr std::string_view kColumnsTitle = "; Column names";
+inline constexpr std::string_view kDataTitle = "; File data";
+/// The file's path follows.
+inline constexpr std::string_view kEndTitle = "; End of File: ";
+
 /// Sizes stand in files in finer units than the grid's.
 inline constexpr double kHeightScale = 15.5;
 inline constexpr int kWidthScale = 8;

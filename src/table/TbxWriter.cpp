@@ -40,22 +40,22 @@ TbxWriter::TbxWriter(const TableModel& table, FileWriter& file)
 }
 
 void TbxWriter::Write() {
-    // The header holds no cell width, whatever its comment says.
-    PutComment("; Values for colour, font type, font size, cell height, cell width");
+    PutTitle(tbx::kHeaderTitle);
     PutHeader();
-    PutComment("; Column names");
+    PutTitle(tbx::kColumnsTitle);
     PutColumns();
-    PutComment("; File data");
+    PutTitle(tbx::kDataTitle);
     for (Row row{1}; row <= grid_.RowCount(); ++row)
         if (CellBytes(row, Col{1}) != tbx::kDeleteMark) PutRow(row);
-    PutComment("; End of File: " + ToBytes(table_.TxtDbFile));
+    PutTitle(std::string(tbx::kEndTitle) + ToBytes(table_.TxtDbFile));
     output_.Flush();
 }
 
-void TbxWriter::PutComment(std::string_view text) {
-    output_.Put(";\r\n");
-    output_.Put(text);
-    output_.Put("\r\n;\r\n");
+void TbxWriter::PutTitle(std::string_view title) {
+    for (const std::string_view line : {tbx::kCommentLine, title, tbx::kCommentLine}) {
+        output_.Put(line);
+        output_.Put(tbx::kLineEnd);
+    }
 }
 
 void TbxWriter::PutValue(std::string_view value) {

@@ -23,7 +23,7 @@ public:
     void Write();
 
 private:
-    void PutComment(std::string_view text);
+    void PutTitle(std::string_view title);
     void PutHeader();
     void PutColumns();
     void PutRow(Row row);

@@ -1,23 +1,18 @@
 #include "tbx/FileCheck.h"
 
-#include "common/Number.h"
 #include "table/TbxFormat.h"
 #include "table/TbxLines.h"
+#include "tbx/SavedValues.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 
 namespace korvane {
 
 namespace {
 
 constexpr int kHeaderValues = 4;
-constexpr std::int32_t kLeaveColour = -999;
-constexpr std::array<std::string_view, 4> kComments{
-    ";", "; Values for colour, font type, font size, cell height, cell width", "; Column names",
-    "; File data"};
-constexpr std::string_view kTrailerPath = "; End of File: ";
+constexpr std::array kComments{tbx::kCommentLine, tbx::kHeaderTitle, tbx::kColumnsTitle, tbx::kDataTitle};
 
 bool IsMarkerByte(char first) {
     return first == tbx::kAt || first == tbx::kTick || first == tbx::kComment || first == tbx::kColour;
@@ -35,51 +30,8 @@ bool IsTrailer(std::string_view bytes) {
         lines.Next();
         return lines.Line();
     };
-    return next() == ";" && next().starts_with(kTrailerPath) && next() == ";" && lines.AtEnd();
-}
-
-template <class Int>
-std::string Rounded(double number, Int otherwise) {
-    Int field = otherwise;
-    StoreRounded(number, field);
-    return std::to_string(field);
-}
-
-// A stored number as the next save writes it.
-
-std::string SavedColour(std::string_view value) {
-    return Rounded<std::int32_t>(Val(value), 0);
-}
-
-std::string SavedSize(std::string_view value) {
-    return Rounded<std::int16_t>(Val(value), 0);
-}
-
-std::string SavedHeight(std::string_view value) {
-    std::int16_t height = 0;
-    StoreRounded(Val(value) / tbx::kHeightScale, height);
-    return ToUtf8(NumberText(height * tbx::kHeightScale));
-}
-
-std::string SavedWidth(std::string_view value) {
-    std::int32_t width = 0;
-    StoreRounded(Val(value) / tbx::kWidthScale, width);
-    return std::to_string(static_cast<std::int64_t>(width) * tbx::kWidthScale);
-}
-
-std::string SavedRowColour(std::string_view value) {
-    const std::string saved = Rounded<std::int32_t>(Val(value), kNoColour.value);
-    return saved == std::to_string(kLeaveColour) ? std::to_string(kNoColour.value) : saved;
-}
-
-std::string SavedRowState(std::string_view line) {
-    const auto at = [line](std::size_t i) { return i < line.size() ? line[i] : '\0'; };
-    std::string saved = "?0000";
-    if (at(1) == '1') saved[1] = '1';
-    if (at(2) == 'I') saved[2] = 'I';
-    if (at(3) == 'B') saved[3] = 'B';
-    if (at(4) == 'X') saved[4] = 'X';
-    return saved;
+    return next() == tbx::kCommentLine && next().starts_with(tbx::kEndTitle) && next() == tbx::kCommentLine &&
+           lines.AtEnd();
 }
 
 /// Goes over the lines of one file in the steps of the reader, and notes where they leave the writer's form.
@@ -161,8 +113,8 @@ private:
                 " of the header and loses its first character");
         const std::string_view value = line_.substr(std::min<std::size_t>(1, line_.size()));
         if (headerCount_ == 1) CompareSaved(value, SavedColour(value));
-        if (headerCount_ == 3) CompareSaved(value, SavedSize(value));
-        if (headerCount_ == 4) CompareSaved(value, SavedHeight(value));
+        if (headerCount_ == 3) CompareSaved(value, SavedFontSize(value));
+        if (headerCount_ == 4) CompareSaved(value, SavedRowHeight(value));
     }
 
     void TakeColumnLine() {
@@ -171,7 +123,7 @@ private:
             Add(std::string("begins with \"!\" and is read as a column line") +
                 (row_ > 0 ? "; the rows before it are lost" : ""));
         if (expectWidth_)
-            CompareSaved(value, SavedWidth(value));
+            CompareSaved(value, SavedColumnWidth(value));
         else
             ++columnCount_;
         expectWidth_ = !expectWidth_;
@@ -217,7 +169,7 @@ private:
         if (part_ != RowPart::Start)
             Add("begins with \"?\" and is read as a row's tick and font" + CutText());
         else
-            CompareSaved(line_, columnCount_ > 0 ? SavedRowState(line_) : "?0000");
+            CompareSaved(line_, SavedRowState(columnCount_ > 0 ? line_ : std::string_view()));
         part_ = part_ == RowPart::Start ? RowPart::State : RowPart::Elsewhere;
         inCell_ = false;
     }
@@ -227,7 +179,7 @@ private:
         if (part_ == RowPart::Elsewhere || part_ == RowPart::TextColour)
             Add("begins with \"\xC2\xA7\" and is read as a row's colour" + CutText());
         else
-            CompareSaved(value, columnCount_ > 0 ? SavedRowColour(value) : std::to_string(kNoColour.value));
+            CompareSaved(value, columnCount_ > 0 ? SavedRowColour(value) : SavedNoColour());
         part_ =
             part_ == RowPart::Start || part_ == RowPart::State ? RowPart::BackColour : RowPart::TextColour;
         inCell_ = false;

@@ -19,6 +19,13 @@ void ComplainOfFile(std::string_view step, const std::string& name, Environment&
              "cannot " + std::string(step) + " " + Quoted(name) + (reason.empty() ? "" : ": " + reason));
 }
 
+std::optional<SharedBytes> ReadStandardInput(Environment& environment) {
+    auto bytes = environment.readInput();
+    if (bytes) return Share(*std::move(bytes));
+    Complain(environment, "cannot read the standard input");
+    return std::nullopt;
+}
+
 bool WriteFile(TextView path, std::string_view bytes, FileSystem& files) {
     const std::unique_ptr<FileWriter> writer = files.OpenRaw(path);
     return writer && writer->Write(bytes) && writer->Close();
@@ -27,7 +34,7 @@ bool WriteFile(TextView path, std::string_view bytes, FileSystem& files) {
 } // namespace
 
 std::optional<SharedBytes> ReadInput(const std::string& name, Environment& environment) {
-    if (name == kStandardStream) return Share(environment.readInput());
+    if (name == kStandardStream) return ReadStandardInput(environment);
     auto bytes = environment.files.ReadAll(FromUtf8(name));
     if (!bytes) ComplainOfFile("read", name, environment);
     return bytes;

@@ -49,7 +49,7 @@ std::string GeneralHelp() {
         AddColumns(std::string(verb.name) + " " + std::string(verb.operands), 24, verb.summary, text);
     AddOptions(text, [](const OptionSpec&) { return true; });
     return text + "\nFILE may be - for the standard input, OUT for the standard output.\n"
-                  "Exit status: 0 done, 1 a problem or nothing found, 2 bad arguments or a file error.\n"
+                  "Exit status: 0 done, 1 a problem or nothing found, 2 wrong use or file error.\n"
                   "tbx COMMAND --help tells more about a command.\n";
 }
 

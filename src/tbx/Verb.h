@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,8 +30,8 @@ struct Environment {
     Output& out;
     /// For the lines that say what is wrong.
     Output& err;
-    /// Reads all of the standard input.
-    std::function<std::string()> readInput;
+    /// Reads all of the standard input; nothing when that fails.
+    std::function<std::optional<std::string>()> readInput;
     /// The code page of files for which none is named.
     CodePage page;
 };

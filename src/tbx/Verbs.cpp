@@ -8,7 +8,7 @@ namespace korvane {
 namespace {
 
 constexpr std::array kVerbs{
-    Verb{"dump", "FILE", "p", "Write everything a load leaves in the table as one line of JSON",
+    Verb{"dump", "FILE", "p", "Write all that a load leaves as a line of JSON",
          "The line is ASCII, with its keys in a fixed order, so that dumps can be compared\n"
          "byte for byte. null stands where the load never set a value; \"messages\" are the\n"
          "message boxes that the load would have shown.\n",
@@ -39,17 +39,18 @@ constexpr std::array kVerbs{
          "or more than 32767 rows are errors, and no OUT is written then. What a load of\n"
          "OUT won't bring back is told, as by check, and the exit status is 1.\n",
          RunImport},
-    Verb{"find", "FILE TEXT", "p", "Write the cells that hold TEXT, each as \"row:col: text\"",
+    Verb{"find", "FILE TEXT", "p", "Write the cells with TEXT as \"row:col: text\"",
          "Capital and small letters differ. Line breaks in the cell are written as \\r and\n"
          "\\n. The exit status is 1 when no cell holds TEXT.\n",
          RunFind},
-    Verb{"info", "FILE", "p", "Write name, path, rows, columns, size and date of the file", "", RunInfo},
-    Verb{"check", "FILE", "p", "Write every place that won't survive a load or a save",
-         "Each line begins with \"row:col:\" and \"line N:\" as far as they are known. The exit\n"
-         "status is 1 when there is any. Checked are: cell lines that are read as markers\n"
-         "or dropped, final line breaks, lone CRs, rows marked \"---\", more than 24 columns,\n"
-         "rows past 32767, characters outside the code page, comments, and numbers that\n"
-         "come back as others.\n",
+    Verb{"info", "FILE", "p", "Write what the file information window shows",
+         "Name, path, number of rows and columns, size, and the time of the last change.\n", RunInfo},
+    Verb{"check", "FILE", "p", "Write what won't survive a load or a save",
+         "Each line begins with \"row:col:\" and \"line N:\" as far as they are known. The\n"
+         "exit status is 1 when there is any. Found are cell lines that are read as\n"
+         "markers or dropped, final line breaks, lone CRs, rows marked \"---\", more than\n"
+         "24 columns, rows past 32767, characters outside the code page, comments, and\n"
+         "numbers that come back as others.\n",
          RunCheck},
 };
 

@@ -3,20 +3,24 @@
 #include "platform/native/UserCodePage.h"
 #include "tbx/Tbx.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <exception>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace korvane {
 namespace {
 
-std::string ReadAllOf(std::FILE* stream) {
+std::optional<std::string> ReadAllOf(std::FILE* stream) {
     std::string bytes;
-    char piece[64 * 1024];
-    for (std::size_t count = 0; (count = std::fread(piece, 1, sizeof piece, stream)) > 0;)
-        bytes.append(piece, count);
+    std::array<char, 64 * 1024> piece;
+    while (const std::size_t count = std::fread(piece.data(), 1, piece.size(), stream))
+        bytes.append(piece.data(), count);
+    if (std::ferror(stream) != 0) return std::nullopt;
     return bytes;
 }
 

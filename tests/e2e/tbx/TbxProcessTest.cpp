@@ -99,6 +99,13 @@ TEST_F(TbxProcess, ADashStandsForTheStandardStreams) {
     EXPECT_EQ(out, ReadBytes(kCases / "two-rows-of-the-usual-form/rows.tsv"));
 }
 
+TEST_F(TbxProcess, AStandardInputThatCannotBeReadIsAnError) {
+    for (const char* input : {"<.", "<&-"}) {
+        EXPECT_EQ(Shell(std::string("tbx dump - ") + input), 2) << input;
+        EXPECT_EQ(err, "tbx: cannot read the standard input\n");
+    }
+}
+
 TEST_F(TbxProcess, ARewrittenFileNamesItsFullPath) {
     EXPECT_EQ(Shell("mkdir sub && tbx rewrite people.tbx sub/../out.tbx"), 0);
     const std::string path = (fs::canonical(folder_.Path()) / "out.tbx").string();

@@ -4,6 +4,7 @@
 #include "platform/memory/MemoryFileSystem.h"
 #include "tbx/Tbx.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@ class TbxHarness {
 public:
     MemoryClock clock;
     MemoryFileSystem files{PathStyle::Posix, clock};
-    std::string input;
+    /// Nothing when the standard input can't be read.
+    std::optional<std::string> input = "";
     CodePage page = CodePage::Windows1252();
 
     /// What the last run left.

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-
 namespace korvane {
 namespace {
 
@@ -87,7 +85,7 @@ TEST_F(Tbx, NoLineOfHelpIsWiderThanATerminal) {
     }
     for (std::size_t start = 0; start < help.size();) {
         const std::size_t end = help.find('\n', start);
-        EXPECT_LE(end - start, 100u) << help.substr(start, end - start);
+        EXPECT_LE(end - start, 80u) << help.substr(start, end - start);
         start = end + 1;
     }
 }
@@ -119,6 +117,12 @@ TEST_F(Tbx, ADashReadsTheStandardInput) {
     run.input = TbxFile(RowLines(1, {"Anna", "x"}));
     EXPECT_EQ(run.Run({"dump", "-"}), ExitStatus::Success);
     EXPECT_EQ(run.out, dump);
+}
+
+TEST_F(Tbx, AStandardInputThatCannotBeReadIsAnError) {
+    run.input.reset();
+    ExpectRefusal({"dump", "-"}, "cannot read the standard input");
+    ExpectRefusal({"import", "-", "/data/out.tbx"}, "cannot read the standard input");
 }
 
 TEST_F(Tbx, TheCodePageRulesTheCharacters) {
