@@ -34,7 +34,7 @@ Desk::Desk()
     fs::create_directory(folder_ / "run");
     fs::permissions(folder_ / "run", fs::perms::owner_all);
     // The program keeps its state beside itself: each desk has its own.
-    fs::copy_file(KORVANE_BINARY_DIR "/bin/korvane", folder_ / "korvane");
+    fs::copy_file(KORVANE_PROGRAM, folder_ / "korvane");
     fs::copy_file(KORVANE_SOURCE_DIR "/packaging/Korvane.ini", folder_ / "Korvane.ini");
     StartDisplay();
 }
