@@ -28,6 +28,7 @@ class MarkupPicker;
 class MessageBoxes;
 class Screen;
 class Shell;
+class SystemFolders;
 class TextWindow;
 class WordList;
 
@@ -48,6 +49,8 @@ public:
         std::function<std::unique_ptr<Grid>()> makeGrid;
         /// In which all files stand.
         CodePage codePage = CodePage::Windows1252();
+        /// Optional.
+        const SystemFolders* folders = nullptr;
     };
 
     explicit App(Platform platform) : platform_(std::move(platform)) {}
@@ -64,6 +67,8 @@ public:
     FormHost& Forms() const { return platform_.forms; }
     std::unique_ptr<Grid> MakeGrid() const { return platform_.makeGrid(); }
     const CodePage& Page() const { return platform_.codePage; }
+    /// nullptr where nobody knows the system's folders.
+    const SystemFolders* Folders() const { return platform_.folders; }
 
     korvane::Settings Settings;
     /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.
@@ -87,8 +92,12 @@ public:
     Text HelpFilePath;
     Text IniFilePath;
     Text RecFilePath;
-    /// The system's folder of programs, ending in a backslash; empty where there is none.
+    // The system's folders, each with a separator at its end; empty where there is none.
     Text ProgramFilesDir;
+    Text WindowsDir;
+    Text SystemDir;
+    Text FontsDir;
+    Text DocumentsDir;
     /// Of the last drive that `ReadDriveInfo` looked at.
     Text DriveTypeText;
     Text DriveLabel;

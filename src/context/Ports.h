@@ -28,6 +28,9 @@ public:
     virtual void ShowPopupMenu() = 0;
     /// Runs a command as if it were chosen in the menu.
     virtual void RunCommand(std::string_view name) = 0;
+    /// The folder that the active tab's caption names; empty when it names none, and, with a message, when no
+    /// tab is open.
+    virtual Text GetActiveFolder() = 0;
 };
 
 /// The rich-text window, for those who write into it.

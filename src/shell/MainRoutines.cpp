@@ -3,6 +3,8 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
+#include "context/Launching.h"
+#include "context/StandardMessages.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "shell/frmAbout.h"
@@ -52,6 +54,21 @@ void ShowWindow(frmMDIParent& main) {
     Window(main.TheApp()).ShowModal();
 }
 
+void mnuMisc_Browser(frmMDIParent& main) {
+    App& app = main.TheApp();
+    LaunchProgram(app, Text(app.Settings.WebListA));
+}
+
+void CustomBrowser(frmMDIParent& main) {
+    App& app = main.TheApp();
+    const Text browser = app.Settings.CustomBrowserPath;
+    if (browser.empty() || !app.Files().FileExists(browser)) {
+        ShowCannotLocate(app, browser);
+    } else {
+        LaunchProgram(app, browser);
+    }
+}
+
 struct NamedRoutine {
     std::string_view name;
     void (*run)(frmMDIParent&);
@@ -66,6 +83,7 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},
     NamedRoutine{"mnuMisc_Calc",
                  [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Abrill); }},
+    NamedRoutine{"mnuMisc_Browser", &mnuMisc_Browser},
     NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
     NamedRoutine{"mnuHelpText",
                  [](frmMDIParent& main) { LaunchDunmark(main.TheApp(), main.TheApp().HelpFilePath); }},
@@ -79,6 +97,7 @@ constexpr std::array kRoutines{
     NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.SetSideBarWidth(true); }},
     NamedRoutine{"ToggleDesktop", [](frmMDIParent& main) { ShowDesktop(main.TheApp()); }},
     NamedRoutine{"ExploreCaptionFolder", &ExploreCaptionFolder},
+    NamedRoutine{"CustomBrowser", &CustomBrowser},
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "platform/InstanceChannel.h"
 #include "platform/Screen.h"
 #include "shell/HandOver.h"
+#include "shell/LocateSystemFolders.h"
 #include "shell/QuotedPath.h"
 #include "shell/SettingsFile.h"
 #include "shell/WindowFitting.h"
@@ -75,6 +76,7 @@ void EndSecondStart(frmMDIParent& main, const Text& startFile) {
 void StartUp(frmMDIParent& main) {
     App& app = main.TheApp();
     SetStartValues(app);
+    LocateSystemFolders(app);
     ReadSettings(app);
     ApplySettings(main);
     main.Recents().Read(app);

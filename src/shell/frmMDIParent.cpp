@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 #include "shell/Commands.h"
 #include "shell/MainRoutines.h"
@@ -95,6 +96,14 @@ void frmMDIParent::mnuSwitchFocus_Click() {
     }
     if (Picture2.Visible) sideBar_.TakeFocus();
     focusOnSideBar_ = 0;
+}
+
+Text frmMDIParent::GetActiveFolder() {
+    if (const frmMDIChild* tab = tabs_.Active()) {
+        return Text(app_.Files().Style().FolderPart(tab->Caption.Get()));
+    }
+    app_.Messages().Show({u"No form loaded."});
+    return {};
 }
 
 void frmMDIParent::SetSideBarWidth(bool advance) {

@@ -51,6 +51,7 @@ public:
     void RunCommand(std::string_view name) override;
     void ShowPopupMenu() override;
     void mnuSwitchFocus_Click() override;
+    Text GetActiveFolder() override;
     /// Takes the sidebar's width from its step, the next one when told to advance.
     void SetSideBarWidth(bool advance);
     /// Closes a tab, which may refuse.

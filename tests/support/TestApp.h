@@ -8,6 +8,7 @@
 #include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/memory/MemoryScreen.h"
 #include "platform/memory/MemoryShell.h"
+#include "platform/memory/MemorySystemFolders.h"
 #include "support/ScriptedUser.h"
 
 #include <memory>
@@ -27,9 +28,11 @@ public:
     MemoryScreen screen;
     MemoryShell shell;
     MemoryInstanceChannel instance;
+    MemorySystemFolders folders;
     ScriptedUser user;
     App app{{files, user, clipboard, clock, screen, shell, instance, user,
-             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             &folders}};
 };
 
 } // namespace korvane

@@ -158,5 +158,52 @@ TEST_F(Routing, TheMainCaptionIsPutBackWhenNothingWasOpened) {
     EXPECT_EQ(p.Main().Caption.Get(), u"Korvane");
 }
 
+TEST_F(Routing, AltBStartsTheCustomBrowser) {
+    p.files.AddFile(u"C:\\Web\\fox.exe");
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    Settings settings;
+    settings.CustomBrowserPath = u"C:\\Web\\fox.exe";
+    p.StartWith(settings, u"C:\\a.tbx");
+    EXPECT_TRUE(p.PressKey('B', Mask::Alt));
+    EXPECT_EQ(p.shell.Starts(), (std::vector<ProgramStart>{{u"C:\\Web\\fox.exe"}}));
+}
+
+TEST_F(Routing, AltBTellsABrowserThatIsntThereAndLeavesTheSettingAlone) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith({}, u"C:\\a.tbx");
+    p.user.Answer(Answer::Ok);
+    EXPECT_TRUE(p.PressKey('B', Mask::Alt));
+    EXPECT_TRUE(p.user.Messages().at(0).text.starts_with(
+        u"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n"));
+    EXPECT_EQ(p.app.Settings.CustomBrowserPath, u"");
+    EXPECT_TRUE(p.shell.Starts().empty());
+}
+
+TEST_F(Routing, TheBrowserOfTheMenuIsTheFirstOfTheWebsiteList) {
+    p.files.AddFile(u"C:\\Web\\first.exe");
+    Settings settings;
+    settings.WebListA = u"C:\\Web\\first.exe";
+    settings.CustomBrowserPath = u"C:\\Web\\fox.exe";
+    p.StartWith(settings);
+    p.Choose("mnuMisc_Browser");
+    EXPECT_EQ(p.shell.Starts(), (std::vector<ProgramStart>{{u"C:\\Web\\first.exe"}}));
+}
+
+TEST_F(Routing, TheActiveFolderStandsInTheCaptionOfTheTab) {
+    p.AddTable(u"C:\\Data\\a.tbx", {"a"});
+    Settings settings;
+    settings.ShowFullPath = 1;
+    p.StartWith(settings, u"C:\\Data\\a.tbx");
+    EXPECT_EQ(p.Main().GetActiveFolder(), u"C:\\Data");
+    p.Tab(1).Caption = u"a.tbx";
+    EXPECT_EQ(p.Main().GetActiveFolder(), u"");
+}
+
+TEST_F(Routing, WithoutATabTheActiveFolderIsEmptyAndTold) {
+    p.StartWith({});
+    p.user.Answer({u"No form loaded.", MessageIcon::None}, Answer::Ok);
+    EXPECT_EQ(p.Main().GetActiveFolder(), u"");
+}
+
 } // namespace
 } // namespace korvane

@@ -61,6 +61,25 @@ TEST_F(StartUpTest, TheFilesOfTheProgramAreNamed) {
     EXPECT_EQ(p.app.RecFilePath, u"C:\\Korvane\\Korvane.rec");
 }
 
+TEST_F(StartUpTest, TheSystemsFoldersEndInABackslash) {
+    p.folders.programFiles = Text(u"C:\\Program Files\0rest", 21);
+    p.folders.windows = u"C:\\Windows";
+    p.folders.documents = u"C:\\Users\\me\\Documents\\";
+    p.StartWith({});
+    EXPECT_EQ(p.app.ProgramFilesDir, u"C:\\Program Files\\");
+    EXPECT_EQ(p.app.WindowsDir, u"C:\\Windows\\");
+    EXPECT_EQ(p.app.DocumentsDir, u"C:\\Users\\me\\Documents\\");
+    EXPECT_EQ(p.app.FontsDir, u"");
+}
+
+TEST_F(StartUpTest, WithoutTheRegistrysEntryDriveCStandsForTheFolderOfPrograms) {
+    p.StartWith({});
+    EXPECT_EQ(p.app.ProgramFilesDir, u"C:\\");
+    TestProgram posix(PathStyle::Posix);
+    posix.StartWith({});
+    EXPECT_EQ(posix.app.ProgramFilesDir, u"");
+}
+
 TEST_F(StartUpTest, TheRecordIsRead) {
     p.files.AddFile(u"C:\\Korvane\\Korvane.rec", "one\r\ntwo\r\n");
     p.StartWith({});
