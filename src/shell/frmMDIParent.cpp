@@ -10,6 +10,8 @@
 #include "shell/StartUp.h"
 #include "shell/frmMDIChild.h"
 
+#include <algorithm>
+
 namespace korvane {
 
 namespace {
@@ -187,7 +189,9 @@ void frmMDIParent::CloseOtherWindows() {
     // settings are written at one place only.
     const std::vector<Form*> loaded = Host().LoadedForms();
     for (auto form = loaded.rbegin(); form != loaded.rend(); ++form) {
-        if (*form != this) (*form)->Close();
+        // One that closes may take others with it.
+        const bool stands = std::ranges::count(Host().LoadedForms(), *form) > 0;
+        if (stands && *form != this) (*form)->Close();
     }
 }
 

@@ -226,6 +226,24 @@ TEST_F(Closing, WindowsThatStillStandCloseAfterwardsTheLastOneFirstAndCannotStop
     EXPECT_EQ(p.FileBytes(kIni).find("4711"), std::string::npos);
 }
 
+TEST_F(Closing, AWindowThatTakesAnotherWithItIsNoTrouble) {
+    class Owner : public Form {
+    public:
+        explicit Owner(App& app) : Form(app.Forms(), "Owner", u"") {}
+        void Unload() override { owned.reset(); }
+        std::unique_ptr<Form> owned;
+    };
+    p.StartWith({});
+    auto owned = std::make_unique<Form>(p.app.Forms(), "Owned", u"");
+    owned->EnsureLoaded();
+    Owner owner(p.app);
+    owner.owned = std::move(owned);
+    owner.EnsureLoaded();
+    p.Choose("mnuFile_Exit");
+    EXPECT_EQ(owner.owned, nullptr);
+    EXPECT_TRUE(p.user.LoadedForms().empty());
+}
+
 TEST_F(Closing, AFileThatArrivesDuringTheQuestionIsLoadedInBetween) {
     Start();
     p.AddTable(u"C:\\Data\\d.tbx", {"x"});
