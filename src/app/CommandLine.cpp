@@ -4,9 +4,16 @@
 
 namespace korvane {
 
+QStringList Arguments(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return arguments;
+}
+
 CommandLine ReadCommandLine(const QStringList& arguments) {
     CommandLine line;
-    QStringList rest = arguments.mid(1);
+    QStringList rest = arguments;
     if (rest.size() >= 2 && rest.first() == QLatin1String("--render")) {
         line.picture = rest.at(1);
         rest = rest.mid(2);

@@ -17,6 +17,8 @@ struct CommandLine {
     bool dark = false;
 };
 
+/// The arguments behind the program's name, as text.
+QStringList Arguments(int argc, char** argv);
 /// Options count only in front, so that a file may have any name behind them.
 CommandLine ReadCommandLine(const QStringList& arguments);
 

@@ -21,10 +21,10 @@ App::Platform WithGrids(App::Platform platform) {
 
 } // namespace
 
-Program::Program(InstanceChannel& channel)
+Program::Program(InstanceChannel& channel, MessageBoxes& messages)
     : files_(FromNativePath(FindProgramFolder(OwnSurroundings()))),
       forms_(KorvaneForms()),
-      app_(WithGrids({files_, messages_, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr})) {
+      app_(WithGrids({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr})) {
     app_.FilePicker = &filePicker_;
 }
 

@@ -6,9 +6,8 @@
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtFormHost.h"
-#include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtScreen.h"
-#include "platform/qt/QtShell.h"
+#include "platform/qt/desktop/QtShell.h"
 
 #include <QString>
 
@@ -17,8 +16,8 @@ namespace korvane {
 /// The program put together from its real parts.
 class Program {
 public:
-    /// The channel outlives the program.
-    explicit Program(InstanceChannel& channel);
+    /// Both outlive the program.
+    Program(InstanceChannel& channel, MessageBoxes& messages);
 
     /// Runs until the main window closes, or, in a second start, until its file is handed over. The exit
     /// status.
@@ -28,7 +27,6 @@ public:
 
 private:
     NativeFileSystem files_;
-    QtMessageBoxes messages_;
     QtClipboard clipboard_;
     NativeClock clock_;
     QtScreen screen_;

@@ -1,21 +1,38 @@
 #include "app/Application.h"
 #include "app/CommandLine.h"
+#include "app/PrintedMessages.h"
 #include "app/Program.h"
 #include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/qt/Palettes.h"
+#include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/instance/LocalSocketChannel.h"
+
+namespace korvane {
+namespace {
+
+/// A picture is taken beside whatever runs, and nobody is there to answer a box.
+int Render(const CommandLine& line) {
+    if (line.dark) Application::setPalette(DarkPalette());
+    MemoryInstanceChannel nobody;
+    PrintedMessages messages;
+    return Program(nobody, messages).Render(line.path, line.picture);
+}
+
+int Run(const CommandLine& line) {
+    FollowDesktopPalette();
+    LocalSocketChannel channel(FindInstancePlace(OwnInstanceSurroundings()));
+    QtMessageBoxes messages;
+    return Program(channel, messages).Run(line.path);
+}
+
+} // namespace
+} // namespace korvane
 
 int main(int argc, char** argv) {
     using namespace korvane;
-    Application application(argc, argv);
-    const CommandLine line = ReadCommandLine(Application::arguments());
-    if (!line.picture.isEmpty()) {
-        if (line.dark) Application::setPalette(DarkPalette());
-        // A picture is taken beside whatever runs.
-        MemoryInstanceChannel nobody;
-        return Program(nobody).Render(line.path, line.picture);
-    }
-    FollowDesktopPalette();
-    LocalSocketChannel channel(FindInstancePlace(OwnInstanceSurroundings()));
-    return Program(channel).Run(line.path);
+    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    // The toolkit sees no argument, lest it take the file's name for an option of its own.
+    int own = 1;
+    const Application application(own, argv);
+    return line.picture.isEmpty() ? Run(line) : Render(line);
 }

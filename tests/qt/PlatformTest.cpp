@@ -4,7 +4,6 @@
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtScreen.h"
-#include "platform/qt/QtShell.h"
 
 #include <gtest/gtest.h>
 
@@ -145,55 +144,6 @@ TEST(QtScreenTest, LetsMessagesRun) {
     EXPECT_TRUE(ran);
 }
 
-// ---- Shell --------------------------------------------------------------------------------------------
-
-/// Catches what would go to the desktop.
-class OpenedUrls : public QObject {
-    Q_OBJECT
-
-public:
-    OpenedUrls() {
-        for (const char* scheme : {"file", "https", "trash"}) {
-            QDesktopServices::setUrlHandler(scheme, this, "Take");
-        }
-    }
-    ~OpenedUrls() override {
-        for (const char* scheme : {"file", "https", "trash"})
-            QDesktopServices::unsetUrlHandler(scheme);
-    }
-    QStringList urls;
-
-public slots:
-    void Take(const QUrl& url) { urls << url.toString(); }
-};
-
-TEST(QtShellTest, OpensFoldersFilesAndPages) {
-    OpenedUrls opened;
-    QtShell shell;
-    shell.Explore(u"/tmp/a b");
-    shell.Open({.file = u"/tmp/x.txt"});
-    shell.Open({.file = u"https://example.org/"});
-    shell.Open({.file = Text(kFileManager), .parameters = u"/tmp"});
-    shell.Open({.file = Text(kFileManager)});
-    shell.Open({.file = Text(kFileManager), .parameters = Text(kRecycleStoreParameters)});
-    EXPECT_EQ(opened.urls, (QStringList{"file:///tmp/a b", "file:///tmp/x.txt", "https://example.org/",
-                                        "file:///tmp", "file://" + QDir::homePath(), "trash:///"}));
-}
-
-TEST(QtShellTest, StartsAProgramWithItsArgumentsAsTheyStand) {
-    const QTemporaryDir dir;
-    const QString file = dir.filePath("a 'b' $HOME.txt");
-    QtShell shell;
-    EXPECT_GT(shell.Run(u"/usr/bin/touch", {ToText(file)}, WindowState::Normal), 0);
-    EXPECT_TRUE(QTest::qWaitFor([&file] { return QFile::exists(file); }));
-}
-
-TEST(QtShellTest, AProgramThatIsNotThereDoesNotStart) {
-    QtShell shell;
-    EXPECT_EQ(shell.Run(u"", {}, WindowState::Normal), 0);
-    EXPECT_EQ(shell.Run(u"/nowhere/program", {}, WindowState::Normal), 0);
-}
-
 // ---- File dialog --------------------------------------------------------------------------------------
 
 class QtFilePickerTest : public testing::Test {
@@ -271,4 +221,3 @@ TEST_F(QtFilePickerTest, ASaveTakesTheNameAsItIsGiven) {
 } // namespace
 } // namespace korvane
 
-#include "PlatformTest.moc"

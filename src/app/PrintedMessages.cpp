@@ -1,0 +1,20 @@
+#include "app/PrintedMessages.h"
+
+#include <cstdio>
+
+namespace korvane {
+
+Answer PrintedMessages::Show(const Message& message) {
+    std::fprintf(stderr, "%s\n", ToUtf8(message.text).c_str());
+    switch (message.buttons) {
+    case MessageButtons::YesNo:
+        return Answer::No;
+    case MessageButtons::YesNoCancel:
+        return Answer::Cancel;
+    case MessageButtons::Ok:
+        break;
+    }
+    return Answer::Ok;
+}
+
+} // namespace korvane

@@ -1,7 +1,0 @@
-#include "platform/qt/ShowDesktop.h"
-
-namespace korvane {
-
-void ToggleShowingDesktop() {}
-
-} // namespace korvane

@@ -1,0 +1,25 @@
+#include "app/PrintedMessages.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+Answer AnswerTo(MessageButtons buttons) {
+    return PrintedMessages().Show({u"Größe?", MessageIcon::Question, buttons});
+}
+
+TEST(PrintedMessages, AreAnsweredAsEscWould) {
+    EXPECT_EQ(AnswerTo(MessageButtons::Ok), Answer::Ok);
+    EXPECT_EQ(AnswerTo(MessageButtons::YesNo), Answer::No);
+    EXPECT_EQ(AnswerTo(MessageButtons::YesNoCancel), Answer::Cancel);
+}
+
+TEST(PrintedMessages, StandOnTheErrorStream) {
+    testing::internal::CaptureStderr();
+    AnswerTo(MessageButtons::Ok);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Größe?\n");
+}
+
+} // namespace
+} // namespace korvane
