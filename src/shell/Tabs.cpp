@@ -64,6 +64,7 @@ void Tabs::NewDocument() {
 void Tabs::AddNewTab() {
     strip_.AllowDrawing = false;
     NewDocument();
+    // The strip lays itself out when it may draw again: the window needs no nudge.
     strip_.AllowDrawing = true;
 }
 

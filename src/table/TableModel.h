@@ -26,7 +26,7 @@ private:
     static bool Holds(Col col) { return col >= Col{1} && col <= MaxColumns; }
     static std::size_t Index(Col col) { return static_cast<std::size_t>(col.Number() - 1); }
 
-    std::array<Text, 24> texts_{};
+    std::array<Text, MaxColumns.Number()> texts_{};
     Text empty_;
 };
 

@@ -128,7 +128,13 @@ bool NativeFileSystem::CanRemove(const fs::path& path) {
     const bool writable = system_calls::IsWritable(path);
     lastError_ = writable ? std::error_code() : LastSystemError();
     std::error_code ignored;
-    if (fs::is_directory(path, ignored)) lastError_ = std::make_error_code(std::errc::is_a_directory);
+    const fs::file_status status = fs::status(path, ignored);
+    if (fs::is_directory(status)) {
+        lastError_ = std::make_error_code(std::errc::is_a_directory);
+    } else if (fs::exists(status) && !fs::is_regular_file(status)) {
+        // A device or a pipe is written to and never taken away.
+        lastError_ = std::make_error_code(std::errc::operation_not_permitted);
+    }
     return !lastError_;
 }
 

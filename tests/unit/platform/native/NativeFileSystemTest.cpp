@@ -160,6 +160,13 @@ TEST_F(NativeFiles, AFolderIsNotRemoved) {
     EXPECT_TRUE(fs::is_directory(dir / "empty"));
 }
 
+TEST_F(NativeFiles, APipeIsNotRemoved) {
+    ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files.Remove(At("pipe")));
+    EXPECT_TRUE(fs::exists(dir / "pipe"));
+    EXPECT_NE(files.LastErrorText(), u"");
+}
+
 TEST_F(NativeFiles, RemovingALinkEmptiesItsFileAndKeepsTheLink) {
     WriteBytes(dir / "a.tbx", "old");
     fs::create_symlink("a.tbx", dir / "link.tbx");
