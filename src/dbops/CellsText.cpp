@@ -6,7 +6,8 @@
 
 namespace korvane {
 
-CellsText::CellsText(const Grid& grid) : grid_(grid) {
+CellsText::CellsText(const Grid& grid, std::size_t expectedLength) : grid_(grid) {
+    text_.reserve(expectedLength);
     bytes_.reserve(kPiece);
 }
 

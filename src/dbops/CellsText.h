@@ -13,8 +13,8 @@ namespace korvane {
 /// together as bytes and decoded in large pieces.
 class CellsText {
 public:
-    /// The grid outlives the object.
-    explicit CellsText(const Grid& grid);
+    /// The grid outlives the object. With `expectedLength`, at least so much goes in without growing.
+    explicit CellsText(const Grid& grid, std::size_t expectedLength = 0);
 
     void AppendCell(Row row, Col col);
     void Append(TextView text);

@@ -11,6 +11,7 @@
 #include "platform/Clipboard.h"
 #include "table/TableModel.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace korvane {
@@ -23,41 +24,80 @@ void ShowClipboard(App& app) {
     if (app.ClipboardView != nullptr) app.ClipboardView->Show();
 }
 
-void PutInClipboard(App& app, const Text& text) {
+void PutInClipboard(App& app, Text text) {
     app.Clipboard().Clear();
-    app.Clipboard().SetText(text);
+    app.Clipboard().SetText(std::move(text));
     ShowClipboard(app);
 }
 
-void PutInTextWindow(App& app, const Text& text) {
+void PutInTextWindow(App& app, Text text) {
     if (app.TextWindow != nullptr) app.TextWindow->TextWindowInsert(text);
 }
 
-/// A record: the included cells with the delimiter behind each but the table's last column, which ends the
-/// line, and an empty line. Without the last column the record ends in its delimiter. Deliberate: what
-/// reads these texts counts on both.
-void AppendRecord(CellsText& text, const Grid& grid, Row row, const ColumnsIncluded& included,
-                  TextView delimiter) {
-    for (Col col{1}; col <= grid.ColCount(); ++col) {
-        if (!included[col]) continue;
-        text.AppendCell(row, col);
-        text.Append(col < grid.ColCount() ? delimiter : kCrLf);
-    }
-    if (!text.EndsInCrLf()) text.Append(kCrLf);
-    text.Append(kCrLf);
+std::size_t CellLength(const Grid& grid, Row row, Col col) {
+    const auto bytes = grid.CellBytes(row, col);
+    return bytes ? bytes->size() : grid.CellText(row, col).size();
 }
 
-/// Rows marked for deletion and hidden ones are copied like others. Deliberate: they are in the table until
-/// it is saved.
-Text RecordsText(const TabContext& tab, RowsToCopy rows, const ColumnsIncluded& included) {
-    const Grid& grid = tab.table.GridStore();
-    CellsText text(grid);
-    ForEachRow(grid, [&](Row row) {
-        if (rows == RowsToCopy::Ticked && !IsTicked(grid, row)) return;
-        AppendRecord(text, grid, row, included, tab.app.Settings.DelimiterString);
-    });
-    return std::move(text).Take();
-}
+/// Rows on their way out as text, one record for each.
+class Records {
+public:
+    /// The request outlives the object.
+    Records(const TabContext& tab, RowsToCopy rows, const ColumnsIncluded& included)
+        : grid_(tab.table.GridStore()),
+          rows_(rows),
+          included_(included),
+          delimiter_(tab.app.Settings.DelimiterString) {}
+
+    /// Rows marked for deletion and hidden ones are copied like others. Deliberate: they are in the table
+    /// until it is saved.
+    Text MakeText() const {
+        CellsText text(grid_, LengthAtMost());
+        ForEachRowToCopy([&](Row row) { Append(text, row); });
+        return std::move(text).Take();
+    }
+
+private:
+    /// The included cells with the delimiter behind each but the table's last column, which ends the line,
+    /// and an empty line. Without the last column the record ends in its delimiter. Deliberate: what reads
+    /// these texts counts on both.
+    void Append(CellsText& text, Row row) const {
+        ForEachColumnToCopy([&](Col col) {
+            text.AppendCell(row, col);
+            text.Append(col < grid_.ColCount() ? delimiter_ : kCrLf);
+        });
+        if (!text.EndsInCrLf()) text.Append(kCrLf);
+        text.Append(kCrLf);
+    }
+
+    std::size_t LengthAtMost() const {
+        const std::size_t behindCell = std::max(delimiter_.size(), kCrLf.size());
+        std::size_t length = 0;
+        ForEachRowToCopy([&](Row row) {
+            ForEachColumnToCopy([&](Col col) { length += CellLength(grid_, row, col) + behindCell; });
+            length += 2 * kCrLf.size();
+        });
+        return length;
+    }
+
+    template <class Visit>
+    void ForEachRowToCopy(const Visit& visit) const {
+        ForEachRow(grid_, [&](Row row) {
+            if (rows_ == RowsToCopy::All || IsTicked(grid_, row)) visit(row);
+        });
+    }
+    template <class Visit>
+    void ForEachColumnToCopy(const Visit& visit) const {
+        for (Col col{1}; col <= grid_.ColCount(); ++col) {
+            if (included_[col]) visit(col);
+        }
+    }
+
+    const Grid& grid_;
+    RowsToCopy rows_;
+    const ColumnsIncluded& included_;
+    TextView delimiter_;
+};
 
 int CountRowsToCopy(const Grid& grid, RowsToCopy rows) {
     if (rows == RowsToCopy::All) return grid.RowCount().Number();
@@ -74,7 +114,7 @@ void CopyRows(const TabContext& tab, RowsToCopy rows, CopyDestination destinatio
     frmDelimiterType form(tab, request);
     if (ShowForResult(tab.app, form) == 0) return;
     const auto put = destination == CopyDestination::Clipboard ? &PutInClipboard : &PutInTextWindow;
-    put(tab.app, RecordsText(tab, rows, request.ColumnIncluded));
+    put(tab.app, Records(tab, rows, request.ColumnIncluded).MakeText());
     grid.GridSetFocus();
 }
 

@@ -9,7 +9,7 @@ public:
     virtual ~Clipboard() = default;
     virtual bool HasText() const = 0;
     virtual Text GetText() const = 0;
-    virtual void SetText(TextView text) = 0;
+    virtual void SetText(Text text) = 0;
     virtual void Clear() = 0;
 };
 

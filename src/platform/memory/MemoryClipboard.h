@@ -3,6 +3,7 @@
 #include "platform/Clipboard.h"
 
 #include <optional>
+#include <utility>
 
 namespace korvane {
 
@@ -11,7 +12,7 @@ class MemoryClipboard final : public Clipboard {
 public:
     bool HasText() const override { return text_.has_value(); }
     Text GetText() const override { return text_.value_or(Text()); }
-    void SetText(TextView text) override { text_ = Text(text); }
+    void SetText(Text text) override { text_ = std::move(text); }
     void Clear() override { text_.reset(); }
 
 private:
