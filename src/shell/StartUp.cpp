@@ -1,6 +1,7 @@
 #include "shell/StartUp.h"
 
 #include "context/App.h"
+#include "context/WindowFitting.h"
 #include "platform/FileSystem.h"
 #include "platform/InstanceChannel.h"
 #include "platform/Screen.h"
@@ -8,7 +9,6 @@
 #include "shell/LocateSystemFolders.h"
 #include "shell/QuotedPath.h"
 #include "shell/SettingsFile.h"
-#include "shell/WindowFitting.h"
 #include "shell/WordRules.h"
 #include "shell/frmMDIParent.h"
 
@@ -47,7 +47,7 @@ void PlaceWindow(frmMDIParent& main) {
     main.Left = place.left;
     main.Height = place.height;
     main.Width = place.width;
-    FitWindowToWorkArea(main.TheApp().Screen().WorkArea(), main, main, place);
+    FitWindowToWorkArea(main.TheApp().Screen().WorkArea(), main, place, kMainWindowGap);
 }
 
 void BuildSideBar(frmMDIParent& main) {

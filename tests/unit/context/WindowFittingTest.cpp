@@ -1,7 +1,7 @@
-#include "shell/WindowFitting.h"
+#include "context/WindowFitting.h"
 
 #include "controls/Form.h"
-#include "support/ScriptedUser.h"
+#include "support/TestApp.h"
 
 #include <gtest/gtest.h>
 
@@ -21,13 +21,13 @@ protected:
         window.Width = stored.width;
         window.Height = stored.height;
         place = stored;
-        FitWindowToWorkArea(area, main, window, place);
+        FitWindowToWorkArea(area, window, place, &window == &main ? kMainWindowGap : kWindowGap);
         return {window.Left, window.Top, window.Width, window.Height};
     }
 
-    ScriptedUser user;
-    Form main{user, "frmMDIParent", u""};
-    Form other{user, "frmLoadList", u""};
+    TestApp t;
+    Form main{t.user, "frmMDIParent", u""};
+    Form other{t.user, "frmLoadList", u""};
     Rect area = Place(150, 60, 20000, 15000);
     Rect place;
 };
@@ -63,6 +63,32 @@ TEST_F(WindowFitting, AWindowPartlyOffTheEdgeMovesBackWithItsSize) {
 TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkArea) {
     // Its right edge lies inside the work area, and yet it moves.
     EXPECT_EQ(Fit(main, Place(11001, 2000, 9000, 8000)), Place(10850, 2000, 9000, 8000));
+}
+
+constexpr StoredPlace kLoadList{&Settings::LoadListLeft, &Settings::LoadListTop, &Settings::LoadListWidth,
+                                &Settings::LoadListHeight};
+
+TEST_F(WindowFitting, AWindowKeepsItsPlaceInTheSettings) {
+    other.Left = Twips{11};
+    other.Top = Twips{12};
+    other.Width = Twips{5000};
+    other.Height = Twips{4000};
+    StorePlace(t.app, other, kLoadList);
+    EXPECT_EQ(t.app.Settings.LoadListLeft, 11);
+    EXPECT_EQ(t.app.Settings.LoadListTop, 12);
+    EXPECT_EQ(t.app.Settings.LoadListWidth, 5000);
+    EXPECT_EQ(t.app.Settings.LoadListHeight, 4000);
+    Form again(t.user, "frmLoadList", u"");
+    RestorePlace(t.app, again, kLoadList);
+    EXPECT_EQ(Rect(again.Left, again.Top, again.Width, again.Height), Place(11, 12, 5000, 4000));
+}
+
+TEST_F(WindowFitting, AWindowWithoutAStoredPlaceComesUpInsideTheWorkArea) {
+    const Rect screen = t.app.Screen().WorkArea();
+    RestorePlace(t.app, other, kLoadList);
+    EXPECT_EQ(Rect(other.Left, other.Top, other.Width, other.Height),
+              Rect(screen.left + 600, screen.top + 600, Twips{4800}, Twips{3200}));
+    EXPECT_EQ(t.app.Settings.LoadListWidth, 0);
 }
 
 } // namespace

@@ -1,13 +1,12 @@
-#include "shell/WindowFitting.h"
+#include "context/WindowFitting.h"
 
+#include "context/App.h"
 #include "controls/Form.h"
 
 namespace korvane {
 
 namespace {
 
-constexpr Twips kOwnGap{300};
-constexpr Twips kOthersGap{600};
 constexpr Twips kDefaultWidth{4800};
 constexpr Twips kDefaultHeight{3200};
 
@@ -52,8 +51,7 @@ void MoveBack(const Axis& axis, Twips gap) {
 
 } // namespace
 
-void FitWindowToWorkArea(const Rect& workArea, const Form& owner, Form& window, Rect& place) {
-    const Twips gap = owner.Name() == window.Name() ? kOwnGap : kOthersGap;
+void FitWindowToWorkArea(const Rect& workArea, Form& window, Rect& place, Twips gap) {
     const Axis across{window.Left,   window.Width,   place.left,   place.width,
                       workArea.left, workArea.width, kDefaultWidth};
     const Axis down{window.Top,   window.Height,   place.top,     place.height,
@@ -62,6 +60,24 @@ void FitWindowToWorkArea(const Rect& workArea, const Form& owner, Form& window, 
         step(across, gap);
         step(down, gap);
     }
+}
+
+void RestorePlace(const App& app, Form& window, const StoredPlace& stored) {
+    const Settings& settings = app.Settings;
+    Rect place{Twips{settings.*stored.left}, Twips{settings.*stored.top}, Twips{settings.*stored.width},
+               Twips{settings.*stored.height}};
+    window.Left = place.left;
+    window.Top = place.top;
+    window.Width = place.width;
+    window.Height = place.height;
+    FitWindowToWorkArea(app.Screen().WorkArea(), window, place);
+}
+
+void StorePlace(App& app, const Form& window, const StoredPlace& stored) {
+    app.Settings.*stored.left = window.Left.Get().Number();
+    app.Settings.*stored.top = window.Top.Get().Number();
+    app.Settings.*stored.width = window.Width.Get().Number();
+    app.Settings.*stored.height = window.Height.Get().Number();
 }
 
 } // namespace korvane
