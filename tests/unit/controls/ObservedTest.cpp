@@ -39,6 +39,7 @@ TEST_F(PropertyTest, TellsTheViewBeforeTheOwnRulesRun) {
     Recorder view(log);
     counter.SetView(&view);
     counter.Value = 4;
+    counter.SetView(nullptr);
     EXPECT_EQ(log, "followed changed ");
 }
 
