@@ -26,7 +26,7 @@ Text QtClipboard::GetText() const {
     return ToText(WithCrLf(QGuiApplication::clipboard()->text()));
 }
 
-void QtClipboard::SetText(TextView text) {
+void QtClipboard::SetText(Text text) {
     QGuiApplication::clipboard()->setText(ToQString(text));
 }
 

@@ -9,7 +9,7 @@ class QtClipboard final : public Clipboard {
 public:
     bool HasText() const override;
     Text GetText() const override;
-    void SetText(TextView text) override;
+    void SetText(Text text) override;
     void Clear() override;
 };
 
