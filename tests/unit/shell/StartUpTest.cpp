@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 namespace korvane {
 namespace {
 
@@ -126,6 +128,22 @@ TEST_F(StartUpTest, AFirstRunHasTheBuiltInDelimiters) {
     p.user.Answer(Answer::Ok);
     p.Start();
     EXPECT_EQ(p.app.Settings.WordDelimiters, u"'\",.;:#/()[]{} \t\f\n\r");
+}
+
+TEST_F(StartUpTest, ThePunctuationOfTitlesIsBuiltIn) {
+    p.StartWith({});
+    EXPECT_EQ(p.app.TitlePunctuation, u"\"'`\u00B4!?.:,;-_");
+}
+
+TEST_F(StartUpTest, ASecondStartsSlotIsTheFirstTextBoxOfTheFirstPanel) {
+    p.StartWith({});
+    const auto first = [this]<class Kind>(std::type_identity<Kind>) {
+        for (Control* control : p.Main().Controls())
+            if (auto* found = dynamic_cast<Kind*>(control)) return found;
+        return static_cast<Kind*>(nullptr);
+    };
+    EXPECT_EQ(first(std::type_identity<Panel>()), &p.Main().picToolbar);
+    EXPECT_EQ(first(std::type_identity<TextBox>()), &p.Main().txtCommand);
 }
 
 TEST_F(StartUpTest, TheFirstActivationEndsTheFirstLoad) {
