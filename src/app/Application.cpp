@@ -1,5 +1,7 @@
 #include "app/Application.h"
 
+#include "platform/qt/CalmStyle.h"
+
 #include <QIcon>
 #include <exception>
 
@@ -10,7 +12,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     // Without a display name, which the toolkit would add to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
     setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
-    setStyle(QStringLiteral("Fusion"));
+    setStyle(new CalmStyle);
     setQuitOnLastWindowClosed(false);
 }
 

@@ -198,6 +198,16 @@ TEST_F(GridViewTest, TheEditorOfALongTextGrowsWithinTheGrid) {
     EXPECT_EQ(Editor()->geometry().bottom(), View().viewport()->rect().bottom());
 }
 
+TEST_F(GridViewTest, TheEditorGrowsWhileItIsTypedInto) {
+    Key(Qt::Key_F2);
+    const int before = Editor()->height();
+    for (int line = 0; line < 4; ++line)
+        Key(Qt::Key_Return, Qt::AltModifier);
+    EXPECT_GE(Editor()->height(), before + 3 * Editor()->fontMetrics().lineSpacing());
+    EXPECT_EQ(Editor()->verticalScrollBar()->value(), 0);
+    EXPECT_FALSE(Editor()->verticalScrollBar()->isVisible());
+}
+
 TEST_F(GridViewTest, AShortTextKeepsTheEditorAtItsCell) {
     Key(Qt::Key_F2);
     EXPECT_EQ(Editor()->geometry(), Cell(1, 1));

@@ -88,8 +88,8 @@ void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& opt
     box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
     box.state |= Store().CellCheck(row) == 1 ? QStyle::State_On : QStyle::State_Off;
     // The row's colours, so that the box is seen on a light row of a dark window.
-    box.palette.setColor(QPalette::Base, Blend(colours.back, Qt::white, 0.35));
-    box.palette.setColor(QPalette::Window, Blend(colours.back, colours.text, 0.25));
+    box.palette.setColor(QPalette::Base, Blend(colours.back, Qt::white, 0.15));
+    box.palette.setColor(QPalette::Window, Blend(colours.back, colours.text, 0.45));
     box.palette.setColor(QPalette::Text, colours.text);
     option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, &painter,
                                           option.widget);

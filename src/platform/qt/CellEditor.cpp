@@ -2,16 +2,18 @@
 
 #include "platform/qt/TextAdaptors.h"
 
-#include <QAbstractItemView>
+#include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QTextBlock>
+#include <QScrollBar>
+#include <QtMath>
 
 namespace korvane {
 
 namespace {
 
-constexpr int kMargin = 2;
+constexpr int kMargin = 1;
+constexpr int kBorder = 2;
 
 bool IsReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -27,15 +29,17 @@ bool Finishes(const QKeyEvent& event) {
 
 CellEditor::CellEditor(QWidget& viewport, const QFont& font) : QPlainTextEdit(&viewport) {
     setFont(font);
-    setFrameShape(QFrame::NoFrame);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // The text stands where the cell's own does.
+    setStyleSheet(QStringLiteral("korvane--CellEditor { border: 2px solid palette(highlight); padding: 0 2px;"
+                                 " background: palette(base); }"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setTabChangesFocus(false);
     setContextMenuPolicy(Qt::DefaultContextMenu);
     document()->setDocumentMargin(kMargin);
     setAccessibleName(tr("Cell"));
-    connect(this, &QPlainTextEdit::textChanged, this, &CellEditor::Grow);
+    connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            [this] { Grow(); });
 }
 
 void CellEditor::SetCell(const QRect& cell) {
@@ -82,18 +86,20 @@ bool CellEditor::event(QEvent* event) {
 }
 
 int CellEditor::TextHeight() const {
-    int lines = 0;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        lines += std::max(1, block.layout()->lineCount());
-    }
-    return lines * fontMetrics().lineSpacing() + 2 * kMargin + 1;
+    // A document of plain text is as many lines high.
+    const int lines = qCeil(document()->size().height());
+    return lines * fontMetrics().lineSpacing() + 2 * (kMargin + kBorder);
 }
 
 void CellEditor::Grow() {
-    const int space = parentWidget()->height() - cell_.top();
-    const int height = std::clamp(TextHeight(), cell_.height(), std::max(cell_.height(), space));
-    const QRect place(cell_.topLeft(), QSize(cell_.width(), height));
+    const int space = std::max(cell_.height(), parentWidget()->height() - cell_.top());
+    const int wanted = std::max(cell_.height(), TextHeight());
+    const bool fits = wanted <= space;
+    setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    const QRect place(cell_.topLeft(), QSize(cell_.width(), std::min(wanted, space)));
     if (place != geometry()) setGeometry(place);
+    // Before it grew, the field may have scrolled to its cursor.
+    if (fits) verticalScrollBar()->setValue(0);
 }
 
 void FinishTyping() {

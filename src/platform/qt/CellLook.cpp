@@ -3,6 +3,7 @@
 #include "platform/qt/Convert.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace korvane {
@@ -11,14 +12,26 @@ namespace {
 
 /// Below this a text is hard to read.
 constexpr double kReadable = 3.0;
+/// What a text gets that was hard to read.
+constexpr double kComfortable = 6.0;
 
-double Linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+/// The light that each value of a channel gives. Every cell that is painted asks for some.
+std::array<double, 256> MakeLinear() {
+    std::array<double, 256> linear{};
+    for (std::size_t value = 0; value < linear.size(); ++value) {
+        const double channel = static_cast<double>(value) / 255;
+        linear[value] = channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    }
+    return linear;
+}
+
+double Linear(int channel) {
+    static const std::array<double, 256> linear = MakeLinear();
+    return linear[static_cast<std::size_t>(channel)];
 }
 
 double Luminance(const QColor& colour) {
-    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
-           0.0722 * Linear(colour.blueF());
+    return 0.2126 * Linear(colour.red()) + 0.7152 * Linear(colour.green()) + 0.0722 * Linear(colour.blue());
 }
 
 constexpr Colour kWhite{0xFFFFFF};
@@ -43,7 +56,7 @@ QColor Readable(const QColor& text, const QColor& back) {
     if (Contrast(text, back) >= kReadable) return text;
     const QColor aim = IsDark(back) ? Qt::white : Qt::black;
     QColor result = text;
-    for (int step = 1; step <= 10 && Contrast(result, back) < kReadable; ++step) {
+    for (int step = 1; step <= 10 && Contrast(result, back) < kComfortable; ++step) {
         result = Blend(text, aim, step / 10.0);
     }
     return result;

@@ -3,7 +3,6 @@
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/CellLook.h"
 #include "platform/qt/Convert.h"
-#include "platform/qt/HeaderStyle.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -48,9 +47,6 @@ GridView::~GridView() {
 
 void GridView::SetUpHeaders() {
     QHeaderView& columns = *horizontalHeader();
-    auto* style = new HeaderStyle;
-    style->setParent(&columns);
-    columns.setStyle(style);
     columns.setSectionsClickable(true);
     columns.setHighlightSections(true);
     columns.setMinimumSectionSize(kSmallestColumn);

@@ -1,6 +1,5 @@
 #include "platform/qt/Icons.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QBuffer>
 #include <QFile>
@@ -10,6 +9,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
+#include <QToolButton>
 #include <QWidget>
 
 namespace korvane {
@@ -104,7 +104,7 @@ QIcon TintedIcon(const QString& name, const QColor& colour) {
 
 void SetIcons(QWidget& window) {
     SetIconsOf<QAction>(window);
-    SetIconsOf<QAbstractButton>(window);
+    SetIconsOf<QToolButton>(window);
 }
 
 } // namespace korvane

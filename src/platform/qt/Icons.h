@@ -13,7 +13,7 @@ QIcon TintedIcon(const QString& name);
 /// The same in one colour.
 QIcon TintedIcon(const QString& name, const QColor& colour);
 
-/// Gives each button and action of the window the icon of its name, or of its
+/// Gives each tool button and action of the window the icon of its name, or of its
 /// property "iconName".
 void SetIcons(QWidget& window);
 

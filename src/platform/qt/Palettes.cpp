@@ -21,7 +21,7 @@ constexpr RoleColour kDark[] = {
     {QPalette::AlternateBase, 0xff212429},
     {QPalette::Text, 0xffe4e7eb},
     {QPalette::PlaceholderText, 0xff8b939e},
-    {QPalette::Button, 0xff2d3137},
+    {QPalette::Button, 0xff3a4049},
     {QPalette::ButtonText, 0xffe4e7eb},
     {QPalette::BrightText, 0xffff6b6b},
     {QPalette::ToolTipBase, 0xff32363d},
