@@ -2,8 +2,8 @@
 
 namespace korvane {
 
-ChunkedOutput::ChunkedOutput(FileWriter& file)
-    : file_(file), chunk_(std::make_unique_for_overwrite<char[]>(kChunk)) {}
+ChunkedOutput::ChunkedOutput(FileWriter& file, std::size_t chunkSize)
+    : file_(file), chunkSize_(chunkSize), chunk_(std::make_unique_for_overwrite<char[]>(chunkSize)) {}
 
 void ChunkedOutput::Flush() {
     if (filled_ > 0) file_.Write({chunk_.get(), filled_});
@@ -12,7 +12,7 @@ void ChunkedOutput::Flush() {
 
 void ChunkedOutput::PutPastChunk(std::string_view bytes) {
     Flush();
-    if (bytes.size() > kChunk)
+    if (bytes.size() > chunkSize_)
         file_.Write(bytes);
     else
         Put(bytes);

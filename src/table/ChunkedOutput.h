@@ -12,10 +12,13 @@ namespace korvane {
 /// doesn't take is lost.
 class ChunkedOutput {
 public:
-    explicit ChunkedOutput(FileWriter& file);
+    // Small enough to stay in the processor's cache between the gathering and the handing over.
+    static constexpr std::size_t kUsualChunk = 256 * 1024;
+
+    explicit ChunkedOutput(FileWriter& file, std::size_t chunkSize = kUsualChunk);
 
     void Put(std::string_view bytes) {
-        if (bytes.size() > kChunk - filled_) return PutPastChunk(bytes);
+        if (bytes.size() > chunkSize_ - filled_) return PutPastChunk(bytes);
         bytes.copy(chunk_.get() + filled_, bytes.size());
         filled_ += bytes.size();
     }
@@ -23,12 +26,10 @@ public:
     void Flush();
 
 private:
-    // Small enough to stay in the processor's cache between the gathering and the handing over.
-    static constexpr std::size_t kChunk = 256 * 1024;
-
     void PutPastChunk(std::string_view bytes);
 
     FileWriter& file_;
+    std::size_t chunkSize_;
     std::unique_ptr<char[]> chunk_;
     std::size_t filled_ = 0;
 };

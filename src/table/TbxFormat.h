@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstring>
 #include <string_view>
 
 namespace korvane::tbx {
@@ -26,6 +27,12 @@ inline constexpr std::string_view kColumnsTitle = "; Column names";
 inline constexpr std::string_view kDataTitle = "; File data";
 /// The file's path follows.
 inline constexpr std::string_view kEndTitle = "; End of File: ";
+
+/// Whether the line begins with the mark. With a mark known to the compiler this is one comparison of a
+/// number.
+inline bool Begins(std::string_view line, std::string_view mark) {
+    return line.size() >= mark.size() && std::memcmp(line.data(), mark.data(), mark.size()) == 0;
+}
 
 /// Sizes stand in files in finer units than the grid's.
 inline constexpr double kHeightScale = 15.5;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
@@ -17,7 +20,7 @@ public:
     /// Reads the next line. Not at the end.
     void Next();
 
-    std::string_view Line() const { return bytes_.substr(begin_, end_ - begin_); }
+    std::string_view Line() const { return {bytes_.data() + begin_, end_ - begin_}; }
     bool StartsWith(char mark) const { return begin_ < end_ && bytes_[begin_] == mark; }
     /// Where the line stands in the file, its end without the line end.
     std::size_t Begin() const { return begin_; }
@@ -25,22 +28,38 @@ public:
     bool EndsInLoneCr() const { return next_ - end_ == 1; }
 
 private:
+    std::size_t FindCr() const;
+
     std::string_view bytes_;
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
     std::size_t next_ = 0;
 };
 
+/// Where the first CR stands from `begin_` on; the end of the file without one. Every other line is a short
+/// mark, for which a search made for long stretches takes longer to begin than to search: hence the first
+/// eight bytes are looked at as one number.
+inline std::size_t TbxLines::FindCr() const {
+    constexpr std::uint64_t kOnes = 0x0101010101010101;
+    const char* const line = bytes_.data() + begin_;
+    const std::size_t left = bytes_.size() - begin_;
+    if (std::uint64_t eight = 0; std::endian::native == std::endian::little && left >= sizeof eight) {
+        std::memcpy(&eight, line, sizeof eight);
+        // A byte that is CR becomes 0, and the lowest byte that is 0 gets its highest bit set.
+        const std::uint64_t crIsZero = eight ^ (kOnes * '\r');
+        const std::uint64_t found = (crIsZero - kOnes) & ~crIsZero & (kOnes << 7);
+        if (found != 0) return begin_ + static_cast<std::size_t>(std::countr_zero(found)) / 8;
+    }
+    const void* const cr = std::memchr(line, '\r', left);
+    return cr == nullptr ? bytes_.size()
+                         : static_cast<std::size_t>(static_cast<const char*>(cr) - bytes_.data());
+}
+
 inline void TbxLines::Next() {
     begin_ = next_;
-    const void* const cr = std::memchr(bytes_.data() + begin_, '\r', bytes_.size() - begin_);
-    if (cr == nullptr) {
-        end_ = next_ = bytes_.size();
-        return;
-    }
-    end_ = static_cast<std::size_t>(static_cast<const char*>(cr) - bytes_.data());
-    next_ = end_ + 1;
-    if (next_ < bytes_.size() && bytes_[next_] == '\n') ++next_;
+    end_ = FindCr();
+    next_ = std::min(end_ + 1, bytes_.size());
+    if (end_ < next_ && next_ < bytes_.size() && bytes_[next_] == '\n') ++next_;
 }
 
 } // namespace korvane

@@ -19,7 +19,7 @@ namespace {
 constexpr int kHeaderLines = 4;
 constexpr Colour kDataColour{0xC00000};
 /// In a colour line: leave the colour alone.
-constexpr double kKeepColour = -999;
+constexpr Colour kKeepColour{-999};
 
 struct FlagLetter {
     std::size_t at;
@@ -117,18 +117,18 @@ bool TbxReader::TakeColumnLine(std::string_view value) {
 void TbxReader::TakeDataLine(std::string_view line) {
     if (row_ == Row{0})
         SetUpColumns();
-    else
-        HideGrid();
-    if (line.starts_with(tbx::kRow))
+    else if (!std::exchange(gridHidden_, true))
+        grid_.SetGridVisible(false);
+    if (tbx::Begins(line, tbx::kCol)) {
+        ++col_;
+        inCell_ = true;
+    } else if (tbx::Begins(line, tbx::kRow))
         StartRow();
     else if (line.starts_with(tbx::kTick))
         TakeTick(line);
     else if (line.starts_with(tbx::kColour))
         TakeColour(line.substr(1));
-    else if (line.starts_with(tbx::kCol)) {
-        ++col_;
-        inCell_ = true;
-    } else
+    else
         TakeOther();
 }
 
@@ -148,10 +148,6 @@ void TbxReader::SetUpColumn(Col col) {
     grid_.AddCol(NumberText(col.Number()) + u"no", table_.ColumnNames[col]);
     std::int32_t width = 0;
     if (ReadNumber(TextView(table_.ColumnWidths[col]), width)) grid_.SetColWidth(col, width);
-}
-
-void TbxReader::HideGrid() {
-    if (!std::exchange(gridHidden_, true)) grid_.SetGridVisible(false);
 }
 
 void TbxReader::StartRow() {
@@ -177,9 +173,8 @@ void TbxReader::TakeTick(std::string_view line) {
 void TbxReader::TakeColour(std::string_view value) {
     const bool isBack = !std::exchange(colourLineSeen_, true);
     inCell_ = false;
-    const double number = Val(value);
     Colour colour;
-    if (number == kKeepColour || !StoreRounded(number, colour.value)) return;
+    if (!ReadNumber(value, colour.value) || colour == kKeepColour) return;
     if (isBack) {
         grid_.SetRowBackColor(row_, colour);
         return;

@@ -32,7 +32,6 @@ private:
     void TakeDataLine(std::string_view line);
     void SetUpColumns();
     void SetUpColumn(Col col);
-    void HideGrid();
     void StartRow();
     void TakeTick(std::string_view line);
     void TakeColour(std::string_view value);

@@ -33,8 +33,8 @@ std::string_view WithoutFinalLineEnd(std::string_view text) {
 
 } // namespace
 
-TbxWriter::TbxWriter(const TableModel& table, FileWriter& file)
-    : table_(table), grid_(table.GridStore()), output_(file) {
+TbxWriter::TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize)
+    : table_(table), grid_(table.GridStore()), output_(file, chunkSize) {
     for (Col col{1}; col <= grid_.ColCount(); ++col)
         cellHeads_.push_back("@col_" + std::to_string(col.Number()) + "\r\n");
 }

@@ -5,6 +5,7 @@
 #include "platform/Grid.h"
 #include "table/ChunkedOutput.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,7 @@ class TableModel;
 /// all else from the grid.
 class TbxWriter {
 public:
-    TbxWriter(const TableModel& table, FileWriter& file);
+    TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize = ChunkedOutput::kUsualChunk);
 
     void Write();
 

@@ -21,27 +21,24 @@ void CellTable::Rebuild(std::size_t cols, const Source& source) {
     rebuilt.cols_ = cols;
     rebuilt.SetRows(rows_);
     for (std::size_t row = 0; row < rows_; ++row)
-        for (std::size_t col = 0; col < cols && source(col) < cols_; ++col)
-            rebuilt.Set(row, col, At(row, source(col)));
+        for (std::size_t col = 0; col < cols; ++col)
+            if (const TextHandle handle = source(row, col); !handle.IsEmpty())
+                rebuilt.Place(row, col) = handle;
     *this = std::move(rebuilt);
 }
 
 void CellTable::SetCols(std::size_t cols) {
-    Rebuild(cols, [](std::size_t col) { return col; });
+    Rebuild(cols,
+            [this](std::size_t row, std::size_t col) { return col < cols_ ? At(row, col) : TextHandle(); });
 }
 
 void CellTable::EraseCol(std::size_t erased) {
-    Rebuild(cols_ - 1, [erased](std::size_t col) { return col < erased ? col : col + 1; });
+    Rebuild(cols_ - 1,
+            [=, this](std::size_t row, std::size_t col) { return At(row, col < erased ? col : col + 1); });
 }
 
 void CellTable::Permute(std::span<const std::size_t> order) {
-    CellTable permuted;
-    permuted.cols_ = cols_;
-    permuted.SetRows(rows_);
-    for (std::size_t row = 0; row < rows_; ++row)
-        for (std::size_t col = 0; col < cols_; ++col)
-            permuted.Set(row, col, At(order[row], col));
-    *this = std::move(permuted);
+    Rebuild(cols_, [=, this](std::size_t row, std::size_t col) { return At(order[row], col); });
 }
 
 } // namespace korvane

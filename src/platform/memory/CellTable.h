@@ -27,13 +27,12 @@ public:
         const Chunk& chunk = chunks_[row / kChunkRows];
         return chunk.empty() ? TextHandle() : chunk[IndexOf(row, col)];
     }
-    void Set(std::size_t row, std::size_t col, TextHandle handle) {
+    /// The handle of the cell, to be changed.
+    TextHandle& Place(std::size_t row, std::size_t col) {
         Chunk& chunk = chunks_[row / kChunkRows];
-        if (chunk.empty()) {
-            if (handle.IsEmpty()) return;
+        if (chunk.empty()) [[unlikely]]
             chunk.resize(kChunkRows * cols_);
-        }
-        chunk[IndexOf(row, col)] = handle;
+        return chunk[IndexOf(row, col)];
     }
 
     /// The cells of a row; none when no row of its chunk holds a text.
@@ -53,7 +52,7 @@ public:
 
 private:
     using Chunk = std::vector<TextHandle>;
-    static constexpr std::size_t kChunkRows = 256;
+    static constexpr std::size_t kChunkRows = 64;
 
     std::size_t IndexOf(std::size_t row, std::size_t col) const { return row % kChunkRows * cols_ + col; }
     TextHandle* Find(std::size_t row, std::size_t col) {

@@ -148,8 +148,10 @@ void MemoryGrid::SetCellValue(Row row, Col col, TextView value) {
 }
 
 void MemoryGrid::PutHandle(Row row, Col col, TextHandle handle) {
-    texts_.GiveUp(HandleAt(row, col));
-    cells_.Set(Index(row), Index(col), handle);
+    if (handle.IsEmpty() && HandleAt(row, col).IsEmpty()) return;
+    TextHandle& place = cells_.Place(Index(row), Index(col));
+    if (!place.IsEmpty()) texts_.GiveUp(place);
+    place = handle;
     notifier_.RowChanged(row);
 }
 
@@ -159,8 +161,8 @@ void MemoryGrid::AdoptBytes(SharedBytes bytes) {
 }
 
 void MemoryGrid::SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) {
-    if (!HasCell(row, col)) return;
-    if (const auto handle = texts_.Slice(offset, length)) PutHandle(row, col, *handle);
+    if (HasCell(row, col) && texts_.HasSlice(offset, length))
+        PutHandle(row, col, texts_.Slice(offset, length));
 }
 
 std::optional<std::string_view> MemoryGrid::CellBytes(Row row, Col col) const {

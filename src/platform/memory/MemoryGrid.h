@@ -22,9 +22,9 @@ public:
 
     explicit MemoryGrid(const CodePage& page) : texts_(page) {}
 
-    Row RowCount() const override { return Row(static_cast<int>(rows_.size())); }
+    Row RowCount() const override { return Row(static_cast<int>(cells_.Rows())); }
     void SetRowCount(Row count) override;
-    Col ColCount() const override { return Col(static_cast<int>(cols_.size())); }
+    Col ColCount() const override { return Col(static_cast<int>(cells_.Cols())); }
     void SetColCount(Col count) override;
     void AddCol(TextView key, TextView header) override;
     void RemoveCol(Col col) override;

@@ -2,7 +2,7 @@
 #include "platform/memory/MemoryGrid.h"
 
 #include <algorithm>
-#include <string>
+#include <string_view>
 
 namespace korvane {
 
@@ -15,13 +15,10 @@ struct Stretch {
     std::size_t used = 0;
     bool hasOthers = false; // texts that lie elsewhere
 
+    /// For every cell of every row, hence without a branch.
     void Include(TextHandle handle) {
-        if (handle.IsEmpty()) return;
-        if (handle.GetKind() != TextHandle::Kind::Adopted) {
-            hasOthers = true;
-            return;
-        }
-        begin = std::min(begin, handle.Offset());
+        hasOthers |= handle.GetKind() != TextHandle::Kind::Adopted;
+        begin = std::min(begin, handle.IsEmpty() ? begin : handle.Offset());
         end = std::max(end, handle.Offset() + handle.Length());
         used += handle.Length();
     }
@@ -44,17 +41,17 @@ class MemoryGrid::Finder {
 public:
     Finder(const MemoryGrid& grid, TextView part) : texts_(grid.texts_), part_(part) {
         const CodePage& page = texts_.Page();
-        if (page.Holds(part)) partBytes_ = page.ToBytes(part);
+        if (page.Holds(part)) pattern_.emplace(page.ToBytes(part), texts_.AdoptedBytes());
     }
 
     /// Whether any text of the table can hold the part.
-    bool CanFind() const { return partBytes_ || texts_.HasWideTexts(); }
+    bool CanFind() const { return pattern_ || texts_.HasWideTexts(); }
 
     /// The number of the first cell that holds the part, among those from `first` on; as many as there are
     /// when none does.
     std::size_t FindIn(std::span<const TextHandle> cells, std::size_t first) const {
         if (!MayBeIn(cells)) return cells.size();
-        while (first < cells.size() && !texts_.Contains(cells[first], part_, partBytes_))
+        while (first < cells.size() && !texts_.Contains(cells[first], part_, pattern_))
             ++first;
         return first;
     }
@@ -65,13 +62,13 @@ private:
     bool MayBeIn(std::span<const TextHandle> cells) const {
         const Stretch stretch = StretchOf(cells);
         if (stretch.hasOthers) return true;
-        if (!partBytes_ || stretch.used == 0) return false;
-        return !stretch.IsDense() || ContainsBytes(stretch.Of(texts_.AdoptedBytes()), *partBytes_);
+        if (!pattern_ || stretch.used == 0) return false;
+        return !stretch.IsDense() || pattern_->IsIn(stretch.Of(texts_.AdoptedBytes()));
     }
 
     const TextBlocks& texts_;
     TextView part_;
-    std::optional<std::string> partBytes_;
+    std::optional<BytePattern> pattern_;
 };
 
 std::optional<CellPosition> MemoryGrid::FindText(TextView part, CellPosition from) const {

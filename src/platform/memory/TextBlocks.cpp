@@ -1,7 +1,5 @@
 #include "platform/memory/TextBlocks.h"
 
-#include "platform/memory/ByteSearch.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -77,11 +75,10 @@ std::strong_ordering TextBlocks::Compare(TextHandle a, TextHandle b) const {
     return page_.Decode(static_cast<unsigned char>(*aAt)) <=> page_.Decode(static_cast<unsigned char>(*bAt));
 }
 
-bool TextBlocks::Contains(TextHandle handle, TextView part,
-                          const std::optional<std::string>& partBytes) const {
+bool TextBlocks::Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const {
     const auto bytes = Bytes(handle);
     if (!bytes) return WideAt(PlaceOf(handle)).find(part) != TextView::npos;
-    return partBytes && ContainsBytes(*bytes, *partBytes);
+    return pattern && pattern->IsIn(*bytes);
 }
 
 bool TextBlocks::WantsPacking() const {

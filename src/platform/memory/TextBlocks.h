@@ -3,6 +3,7 @@
 #include "common/CodePage.h"
 #include "common/Text.h"
 #include "platform/Grid.h"
+#include "platform/memory/ByteSearch.h"
 #include "platform/memory/TextHandle.h"
 
 #include <compare>
@@ -29,8 +30,13 @@ public:
     bool HasAdopted() const { return adopted_.size > 0; }
     std::string_view AdoptedBytes() const { return adopted_.View(); }
 
-    /// A part of the adopted bytes; nothing when it reaches past them.
-    std::optional<TextHandle> Slice(std::size_t offset, std::size_t length);
+    bool HasSlice(std::size_t offset, std::size_t length) const {
+        return offset <= adopted_.size && length <= adopted_.size - offset;
+    }
+    /// A part of the adopted bytes, one that they have.
+    TextHandle Slice(std::size_t offset, std::size_t length) {
+        return HandleOf({TextHandle::Kind::Adopted, offset, length});
+    }
     TextHandle Put(TextView text);
     /// The text isn't used any more: its place is garbage until the next `Pack`.
     void GiveUp(TextHandle handle);
@@ -41,8 +47,8 @@ public:
     bool Equals(TextHandle handle, TextView text) const;
     /// By character code.
     std::strong_ordering Compare(TextHandle a, TextHandle b) const;
-    /// Whether the text holds `part`; `partBytes` is the same in bytes, or nothing.
-    bool Contains(TextHandle handle, TextView part, const std::optional<std::string>& partBytes) const;
+    /// Whether the text holds `part`; `pattern` is the same in bytes, or nothing.
+    bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;
     bool HasWideTexts() const { return wideTexts_ > 0; }
 
     /// Whether the garbage outweighs what is alive, so that packing frees half of the memory at least.
@@ -93,11 +99,6 @@ private:
     Use ownUse_;
     std::size_t wideTexts_ = 0;
 };
-
-inline std::optional<TextHandle> TextBlocks::Slice(std::size_t offset, std::size_t length) {
-    if (offset > adopted_.size || length > adopted_.size - offset) return std::nullopt;
-    return HandleOf({TextHandle::Kind::Adopted, offset, length});
-}
 
 inline TextHandle TextBlocks::HandleOf(const Place& place) {
     if (place.length == 0) return {};

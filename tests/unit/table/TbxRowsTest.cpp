@@ -108,6 +108,12 @@ TEST_F(TbxRowsTest, Minus999LeavesTheColourAlone) {
     EXPECT_EQ(grid.CellForeColor(Row{2}, Col{1}), Colour{6});
 }
 
+TEST_F(TbxRowsTest, AFractionIsRoundedBeforeItIsTakenForMinus999) {
+    ReadData("@row_1\n§-999.4\n§-998.4\n@col_1\na\n");
+    EXPECT_EQ(grid.CellBackColor(Row{1}, Col{1}), kNoColour);
+    EXPECT_EQ(grid.CellForeColor(Row{1}, Col{1}), Colour{-998});
+}
+
 TEST_F(TbxRowsTest, Minus999CountsAsAColourLine) {
     ReadData("@row_1\n§-999\n§7\n@col_1\na\n");
     EXPECT_EQ(grid.CellBackColor(Row{1}, Col{1}), kNoColour);

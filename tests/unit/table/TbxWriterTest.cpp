@@ -175,6 +175,17 @@ TEST_F(TbxWriterTest, ManyRowsTakeFewWrites) {
     EXPECT_GT(file.bytes.size(), 500000u);
 }
 
+TEST_F(TbxWriterTest, TheFileIsTheSameInChunksOfAnySize) {
+    Resize(3, 2);
+    grid.SetCellValue(Row{1}, Col{2}, Text(50, u'x'));
+    const std::string whole = Write();
+    for (std::size_t chunkSize = 1; chunkSize < 100; ++chunkSize) {
+        StringWriter file;
+        TbxWriter(table.model, file, chunkSize).Write();
+        EXPECT_EQ(file.bytes, whole) << chunkSize;
+    }
+}
+
 TEST_F(TbxWriterTest, ATextLargerThanAChunkIsWrittenInItsPlace) {
     Resize(1, 2);
     grid.SetCellValue(Row{1}, Col{1}, Text(1000000, u'x'));

@@ -1,0 +1,79 @@
+#include "TbxFixtures.h"
+#include "support/PlainTbxReader.h"
+
+#include <random>
+
+namespace korvane {
+namespace {
+
+constexpr std::string_view kParts[] = {
+    "@row_1",
+    "@row",
+    "@col_1",
+    "@col",
+    "@other",
+    "?1IBX",
+    "?0",
+    "?",
+    "\xA7"
+    "255",
+    "\xA7-999",
+    "\xA7",
+    ";",
+    "; x",
+    "!Name",
+    "!80",
+    "!",
+    "text",
+    "a\nb",
+    "---",
+    "",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r\n",
+    "\r",
+    "\n",
+    " ",
+    "\x80",
+    "\x81",
+    "@",
+    "@ro",
+    "12",
+    "-1.5",
+    "9999999999",
+};
+
+/// Parts of table files in any order, most of them behind a usual beginning.
+std::string RandomFile(std::mt19937& random) {
+    std::string file;
+    if (random() % 8 != 0) file = kHeader;
+    if (random() % 4 != 0) file += kTwoColumns;
+    for (auto left = random() % 60; left > 0; --left)
+        file += kParts[random() % std::size(kParts)];
+    return file;
+}
+
+class TbxAgainstPlainReaderTest : public testing::TestWithParam<unsigned> {};
+
+TEST_P(TbxAgainstPlainReaderTest, AnyFileGivesTheTableOfThePlainReader) {
+    std::mt19937 random(GetParam());
+    for (int round = 0; round < 2000; ++round) {
+        const std::string file = RandomFile(random);
+        TestTable table;
+        TestTable plain;
+        const bool done =
+            TbxReader(table.model, table.host, false, Share(file)).Read() == TbxReader::Outcome::Done;
+        ASSERT_EQ(done, ReadPlainly(file, plain.model)) << file;
+        ASSERT_EQ(DifferenceBetween(table.model, plain.model), "") << file;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TbxAgainstPlainReaderTest, testing::Range(1u, 6u));
+
+} // namespace
+} // namespace korvane
