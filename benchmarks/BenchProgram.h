@@ -1,0 +1,72 @@
+#pragma once
+
+#include "common/CodePage.h"
+#include "context/App.h"
+#include "controls/FormHost.h"
+#include "platform/memory/MemoryClipboard.h"
+#include "platform/memory/MemoryClock.h"
+#include "platform/memory/MemoryGrid.h"
+#include "platform/memory/MemoryInstanceChannel.h"
+#include "platform/memory/MemoryScreen.h"
+#include "platform/memory/MemoryShell.h"
+#include "platform/memory/ScriptedMessageBoxes.h"
+#include "platform/native/NativeFileSystem.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+
+#include <string>
+
+namespace korvane::bench {
+
+/// A screen without windows.
+class NoForms final : public FormHost {
+public:
+    void RunModal(Form&) override {}
+    void Show(Form&) override {}
+    void Hide(Form&) override {}
+    void PopUp(Menu&) override {}
+    void Raise(Form&) override {}
+};
+
+class NoHost final : public TableHost {
+public:
+    void ShowRowHeight(std::int16_t) override {}
+    void SetTabCaption(TextView) override {}
+    void ClearDirty() override {}
+};
+
+/// The program with one tab, on the real disk; its clock stands still, so that nothing waits.
+class BenchProgram {
+public:
+    MemoryClock clock;
+    NativeFileSystem files{u"/nowhere"};
+    ScriptedMessageBoxes messages;
+    MemoryClipboard clipboard;
+    MemoryScreen screen;
+    MemoryShell shell;
+    MemoryInstanceChannel instance;
+    NoForms forms;
+    App app{{files, messages, clipboard, clock, screen, shell, instance, forms, [] { return nullptr; }}};
+
+    MemoryGrid grid{CodePage::Windows1252()};
+    TableModel table{grid};
+    NoHost host;
+    TabContext tab{app, table, host};
+
+    /// Loads the table at the limit. Ends the program when that fails: no figure would mean anything.
+    void Load();
+    void Load(const std::string& path);
+};
+
+/// Seconds of processor time that the calling thread has used.
+double ThreadSeconds();
+
+template <class Work>
+double SecondsOf(const Work& work) {
+    const double start = ThreadSeconds();
+    work();
+    return ThreadSeconds() - start;
+}
+
+} // namespace korvane::bench
