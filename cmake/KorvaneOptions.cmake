@@ -31,10 +31,6 @@ if(KORVANE_SANITIZE)
     # With the sanitizers' checks in between, GCC loses sight of what the standard library initialises.
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
-if(KORVANE_FUZZ)
-    # Tells the fuzzer which ways through the code its inputs take.
-    add_compile_options(-fsanitize=fuzzer-no-link)
-endif()
 if(KORVANE_COVERAGE)
     add_compile_options(--coverage)
     add_link_options(--coverage)

@@ -1,0 +1,103 @@
+// Any bytes as a table's file: the table is that of a plain reader, and comes back from what is written of
+// it.
+
+#include "common/CodePage.h"
+#include "platform/FileSystem.h"
+#include "platform/memory/MemoryGrid.h"
+#include "support/PlainTbxReader.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+#include "table/TbxReader.h"
+#include "table/TbxWriter.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+namespace korvane {
+namespace {
+
+/// Small, so that what doesn't fit into one comes up.
+constexpr std::size_t kChunk = 64;
+
+class NoHost final : public TableHost {
+public:
+    void ShowRowHeight(std::int16_t) override {}
+    void SetTabCaption(TextView) override {}
+    void ClearDirty() override {}
+};
+
+class StringWriter final : public FileWriter {
+public:
+    bool Write(std::string_view part) override {
+        bytes += part;
+        return true;
+    }
+    bool Close() override { return true; }
+
+    std::string bytes;
+};
+
+struct Table {
+    MemoryGrid grid{CodePage::Windows1252()};
+    TableModel model{grid};
+};
+
+void Require(bool holds, const char* what) {
+    if (holds) return;
+    std::fprintf(stderr, "broken: %s\n", what);
+    std::abort();
+}
+
+bool Load(std::string_view bytes, Table& table) {
+    const std::shared_ptr<char[]> copy(new char[bytes.size()]);
+    bytes.copy(copy.get(), bytes.size());
+    NoHost host;
+    TbxReader reader(table.model, host, false, {copy, bytes.size()});
+    return reader.Read() == TbxReader::Outcome::Done;
+}
+
+std::string Save(const Table& table) {
+    StringWriter file;
+    TbxWriter(table.model, file, kChunk).Write();
+    return file.bytes;
+}
+
+/// Whether the table comes back from a file as it is: no row is marked, no text ends in a line break, and
+/// there is a row, without which no columns are made.
+bool Survives(const Grid& grid) {
+    for (Row row{1}; row <= grid.RowCount(); ++row) {
+        if (grid.CellBytes(row, Col{1}) == "---") return false;
+        for (Col col{1}; col <= grid.ColCount(); ++col)
+            if (grid.CellBytes(row, col)->ends_with("\r\n")) return false;
+    }
+    return grid.RowCount() >= Row{1};
+}
+
+void Check(std::string_view bytes) {
+    Table table;
+    Table plain;
+    const bool done = Load(bytes, table);
+    Require(done == ReadPlainly(bytes, plain.model), "the outcome is that of the plain reader");
+    Require(DifferenceBetween(table.model, plain.model).empty(), "the table is that of the plain reader");
+    Require(table.grid.RowCount() <= kMaxRows && table.grid.ColCount() <= MaxColumns, "the limits are kept");
+
+    const std::string first = Save(table);
+    Table again;
+    Require(Load(first, again), "what is written can be read");
+    const std::string second = Save(again);
+    if (!Survives(again.grid)) return;
+    Table third;
+    Require(Load(second, third), "what is written can be read again");
+    Require(Save(third) == second, "a rewritten file is rewritten the same");
+}
+
+} // namespace
+} // namespace korvane
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    korvane::Check({reinterpret_cast<const char*>(data), size});
+    return 0;
+}
