@@ -13,7 +13,7 @@ namespace korvane {
 class ChunkedOutput {
 public:
     // Small enough to stay in the processor's cache between the gathering and the handing over.
-    static constexpr std::size_t kUsualChunk = 256 * 1024;
+    static constexpr std::size_t kUsualChunk = std::size_t{256} * 1024;
 
     explicit ChunkedOutput(FileWriter& file, std::size_t chunkSize = kUsualChunk);
 

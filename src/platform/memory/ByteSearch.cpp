@@ -11,7 +11,7 @@ namespace korvane {
 
 namespace {
 
-constexpr std::size_t kSample = 16 * 1024;
+constexpr std::size_t kSample = std::size_t{16} * 1024;
 /// Where a byte occurs less often than this, looking for it alone is the fastest.
 constexpr std::size_t kRareDistance = 1024;
 

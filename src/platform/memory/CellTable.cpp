@@ -28,6 +28,10 @@ void CellTable::Rebuild(std::size_t cols, const Source& source) {
 }
 
 void CellTable::SetCols(std::size_t cols) {
+    if (std::ranges::all_of(chunks_, &Chunk::empty)) {
+        cols_ = cols;
+        return;
+    }
     Rebuild(cols,
             [this](std::size_t row, std::size_t col) { return col < cols_ ? At(row, col) : TextHandle(); });
 }

@@ -3,6 +3,7 @@
 #include "platform/memory/Permuted.h"
 
 #include <algorithm>
+#include <compare>
 #include <numeric>
 #include <utility>
 
@@ -280,7 +281,7 @@ std::vector<std::size_t> MemoryGrid::SortedOrder(Col col, SortOrder order) const
     const auto handle = [&](std::size_t row) { return cells_.At(row, Index(col)); };
     const auto comesBefore = [&](std::size_t a, std::size_t b) {
         const auto comparison = texts_.Compare(handle(a), handle(b));
-        return order == SortOrder::Ascending ? comparison < 0 : comparison > 0;
+        return order == SortOrder::Ascending ? std::is_lt(comparison) : std::is_gt(comparison);
     };
     std::ranges::stable_sort(rows, comesBefore);
     return rows;

@@ -8,7 +8,7 @@ namespace korvane {
 namespace {
 
 /// Less garbage than this isn't worth a walk over all cells.
-constexpr std::size_t kLeastGarbage = 64 * 1024;
+constexpr std::size_t kLeastGarbage = std::size_t{64} * 1024;
 
 } // namespace
 
