@@ -17,8 +17,10 @@ namespace korvane {
 class Clipboard;
 class ClipboardView;
 class Clock;
+class ColourPicker;
 class FilePicker;
 class FileSystem;
+class FileViewer;
 class FontPicker;
 class FormHost;
 class InsertTools;
@@ -28,9 +30,19 @@ class MarkupPicker;
 class MessageBoxes;
 class Screen;
 class Shell;
+class SystemFileDialog;
 class SystemFolders;
 class TextWindow;
 class WordList;
+
+/// What is to become of an altered file.
+enum class MsgAnswer : std::int16_t {
+    /// The closing stops. What asks sets this beforehand.
+    Cancel = -1,
+    DoNotSave = 0,
+    SaveUnderAName = 1,
+    SaveDirectly = 100,
+};
 
 /// What every window reaches: the settings, the values through which windows tell each other things, the
 /// outside and the ports. One per process; a test makes a fresh one.
@@ -75,11 +87,16 @@ public:
     std::int16_t DialogResult = 0;
     /// 1 while the closing question of a tab runs its save.
     std::int16_t ClosingTabSave = 0;
+    /// What is to become of an altered file, and which file that is: the question of `frmMyMsgBox`.
+    korvane::MsgAnswer MsgAnswer = korvane::MsgAnswer::Cancel;
+    Text MsgFilePath;
     // What `frmMyInputBox` asks, the text that it offers, and the answer.
     Text InputCaption;
     Text InputInitial;
     Text InputResult;
     ListerRequest Lister;
+    /// The name of the file at hand, for those that work on one file.
+    Text FileOpName;
     /// The check box of `frmDelimiterType` that adds line breaks, 1 or 0: kept as long as the program runs.
     std::int16_t BreakAfterFieldThree = 0;
 
@@ -117,6 +134,9 @@ public:
     korvane::InsertTools* InsertTools = nullptr;
     korvane::MarkupPicker* MarkupPicker = nullptr;
     korvane::FontPicker* FontPicker = nullptr;
+    korvane::ColourPicker* ColourPicker = nullptr;
+    korvane::SystemFileDialog* SystemFileDialog = nullptr;
+    korvane::FileViewer* FileViewer = nullptr;
 
 private:
     Platform platform_;

@@ -17,6 +17,9 @@ enum class ChooserMode : std::int16_t { Load = 0, Save = 1 };
 void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView caption,
                      TextView defaultName = {});
 
+/// Shows the file chooser as the lister of directories that it is, in the mode in which it was left last.
+void ShowDirectoryLister(App& app);
+
 /// Goes back, at the end of its life, to the drive and directory that were the current ones at its start.
 class KeepCurrentDir {
 public:

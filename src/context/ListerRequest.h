@@ -19,6 +19,9 @@ struct ListerRequest {
     /// The folder in which the next save starts; empty for none.
     Text CurrentFolderHint;
 
+    /// The folder that the chooser shows.
+    Text ListerFolder;
+
     /// Empty when nothing was chosen. Callers clear it beforehand.
     Text ChosenFilePath;
     /// Index from 1; entry 0 is never used.

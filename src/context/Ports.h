@@ -4,6 +4,7 @@
 #include "context/ListerRequest.h"
 #include "controls/Control.h"
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -79,12 +80,54 @@ public:
     virtual void InsertTagPair(TextBox& target) = 0;
 };
 
+/// The colour dialog.
+class ColourPicker {
+public:
+    /// What the dialog opens with: the ready colours alone, or what mixes others as well.
+    enum class Extent : std::uint8_t { Simple, Full };
+
+    virtual ~ColourPicker() = default;
+    /// Opens on `start`; nothing on a cancel.
+    virtual std::optional<Colour> Choose(Colour start, Extent extent) = 0;
+};
+
 /// The font dialog of the program.
 class FontPicker {
 public:
     virtual ~FontPicker() = default;
     /// The chosen font, in which what the user left open is as in `present`; nothing on a cancel.
     virtual std::optional<FontSpec> Choose(const FontSpec& present) = 0;
+};
+
+/// The system's own dialog for choosing one file.
+class SystemFileDialog {
+public:
+    enum class Purpose : std::uint8_t { Open, Save };
+    struct Request {
+        Purpose purpose = Purpose::Open;
+        /// Pairs of a name and its patterns, all separated by bars: "Programs (*.exe)|*.exe".
+        Text filter;
+        Text title;
+        /// The name offered; empty for none.
+        Text name{};
+
+        bool operator==(const Request&) const = default;
+    };
+
+    virtual ~SystemFileDialog() = default;
+    /// The path of the chosen file; nothing on a cancel.
+    virtual std::optional<Text> Choose(const Request& request) = 0;
+};
+
+/// Shows files by their type.
+class FileViewer {
+public:
+    virtual ~FileViewer() = default;
+    /// Shows a file that is there in what is right for its type, mostly the text window, and returns when
+    /// that has closed.
+    virtual void View(TextView path) = 0;
+    /// Lets the user choose one of his programs, which then opens the file.
+    virtual void OpenWith(TextView path) = 0;
 };
 
 } // namespace korvane

@@ -10,6 +10,8 @@ public:
 
     /// "&" marks the mnemonic.
     Property<Text> Caption{*this, Aspect::Caption};
+    /// `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
     /// Whether Esc in the window presses the button.
     bool Cancel = false;
     /// Whether Return in the window presses the button.

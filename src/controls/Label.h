@@ -9,12 +9,17 @@ public:
     Label(Form& owner, std::string_view name, TextView caption = {});
 
     Property<Text> Caption{*this, Aspect::Caption};
+    /// `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
 };
 
 /// A part of a window that holds other controls: a frame, a picture box, a tool bar.
 class Panel : public Control {
 public:
     using Control::Control;
+
+    /// `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
 };
 
 } // namespace korvane

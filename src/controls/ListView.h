@@ -16,10 +16,13 @@ struct ListRow {
     bool selected = false;
     /// A number that the window keeps with the row; nothing is shown of it.
     int tag = 0;
+    /// Which of the window's images stands in front of the row; 0 for none.
+    int image = 0;
 };
 
 struct ListColumn {
     Text header;
+    /// 0 hides the column.
     Twips width;
     bool operator==(const ListColumn&) const = default;
 };

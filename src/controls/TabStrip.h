@@ -15,7 +15,10 @@ public:
     Property<bool> AllowDrawing{*this, Aspect::Visible, true};
     /// The switch that start-up turns on and the end of the program turns off.
     Property<bool> On{*this, Aspect::Enabled};
+    /// A number of `TabStyles`.
     Property<int> Style{*this, Aspect::Colours};
+    /// Whether a line is drawn around the strip.
+    Property<bool> Framed{*this, Aspect::Colours};
 
     /// Appends the child's tab and makes it the active one.
     void Add(Form& child);

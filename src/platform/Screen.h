@@ -19,6 +19,8 @@ public:
     virtual ~Screen() = default;
     /// The primary screen without task bars.
     virtual Rect WorkArea() const = 0;
+    /// Whether the desktop's windows have light text on dark.
+    virtual bool IsDark() const { return false; }
     virtual void SetPointer(Pointer pointer) = 0;
     /// Lets pending messages run once.
     virtual void ProcessMessages() = 0;

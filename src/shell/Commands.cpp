@@ -99,6 +99,7 @@ constexpr std::array kCommands{
     Command{kNotInMenu, "mnuRowDown", u"", "", Tab},
     Command{kNotInMenu, "mnuSwitchFocus", u"", "", Main},
     Command{kNotInMenu, "NextSideBarWidth", u"", "", Main},
+    Command{kNotInMenu, "SetWindowSize", u"", "", Main},
     Command{kNotInMenu, "StyleBack", u"", "", Main},
     Command{kNotInMenu, "StyleForward", u"", "", Main},
     Command{kNotInMenu, "ToggleDesktop", u"", "", Main},

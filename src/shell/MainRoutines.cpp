@@ -3,13 +3,20 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
+#include "context/FileChooser.h"
 #include "context/Launching.h"
+#include "context/Ports.h"
 #include "context/StandardMessages.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
+#include "shell/RecentFiles.h"
+#include "shell/Styles.h"
 #include "shell/frmAbout.h"
+#include "shell/frmLoadList.h"
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
+#include "shell/frmSetYourProg.h"
+#include "shell/frmSettings.h"
 
 #include <algorithm>
 #include <array>
@@ -49,6 +56,23 @@ void ExploreCaptionFolder(frmMDIParent& main) {
     ExploreFolder(main.TheApp(), main.TheApp().Files().Style().FolderPart(main.Caption.Get()));
 }
 
+void SetWindowSize(frmMDIParent& main) {
+    if (!ChooseWindowSize(main.TheApp(), main.WindowSize, main)) return;
+    frmMDIChild* tab = main.TheTabs().Active();
+    if (tab == nullptr) return;
+    tab->Resize();
+    tab->GridStore().GridSetFocus();
+}
+
+void ViewAndPaste(frmMDIParent& main) {
+    if (main.TheApp().ClipboardView != nullptr) main.TheApp().ClipboardView->Show();
+}
+
+template <int Index>
+void mnuStyle(frmMDIParent& main) {
+    ChooseTabStyle(main, Index);
+}
+
 template <class Window>
 void ShowWindow(frmMDIParent& main) {
     Window(main.TheApp()).ShowModal();
@@ -78,6 +102,8 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_Open", &mnuFile_Open},
     NamedRoutine{"mnuFile_SaveAll", &mnuFile_SaveAll},
     NamedRoutine{"mnuFile_Close", &mnuFile_Close},
+    NamedRoutine{"mnuFile_Recent", &ShowRecentFiles},
+    NamedRoutine{"mnuFile_AreLoaded", &ShowLoadedFiles},
     NamedRoutine{"mnuFile_Exit", [](frmMDIParent& main) { main.Close(); }},
     NamedRoutine{"mnuFile_SwitchTabsForward", [](frmMDIParent& main) { main.TheTabs().SwitchForward(); }},
     NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},
@@ -85,9 +111,13 @@ constexpr std::array kRoutines{
                  [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Abrill); }},
     NamedRoutine{"mnuMisc_Browser", &mnuMisc_Browser},
     NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
+    NamedRoutine{"mnuFile_DirLister", [](frmMDIParent& main) { ShowDirectoryLister(main.TheApp()); }},
+    NamedRoutine{"ViewAndPaste", &ViewAndPaste},
     NamedRoutine{"mnuHelpText",
                  [](frmMDIParent& main) { LaunchDunmark(main.TheApp(), main.TheApp().HelpFilePath); }},
     NamedRoutine{"mnuMisc_About", &ShowWindow<frmAbout>},
+    NamedRoutine{"mnuMisc_Settings", [](frmMDIParent& main) { frmSettings(main).ShowModal(); }},
+    NamedRoutine{"mnuMisc_YourProgram", &ShowWindow<frmSetYourProg>},
     NamedRoutine{"LoadFindText",
                  [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Ostrel); }},
     NamedRoutine{"LoadFindFiles",
@@ -95,6 +125,16 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuSideBar", &mnuSideBar},
     NamedRoutine{"mnuSwitchFocus", [](frmMDIParent& main) { main.mnuSwitchFocus_Click(); }},
     NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.SetSideBarWidth(true); }},
+    NamedRoutine{"SetWindowSize", &SetWindowSize},
+    NamedRoutine{"StyleBack", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Back); }},
+    NamedRoutine{"StyleForward", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Forward); }},
+    NamedRoutine{"mnuStyle2", &mnuStyle<2>},
+    NamedRoutine{"mnuStyle3", &mnuStyle<3>},
+    NamedRoutine{"mnuStyle5", &mnuStyle<5>},
+    NamedRoutine{"mnuStyle7", &mnuStyle<7>},
+    NamedRoutine{"mnuStyle8", &mnuStyle<8>},
+    NamedRoutine{"mnuStyle9", &mnuStyle<9>},
+    NamedRoutine{"mnuStyle11", &mnuStyle<11>},
     NamedRoutine{"ToggleDesktop", [](frmMDIParent& main) { ShowDesktop(main.TheApp()); }},
     NamedRoutine{"ExploreCaptionFolder", &ExploreCaptionFolder},
     NamedRoutine{"CustomBrowser", &CustomBrowser},

@@ -57,6 +57,24 @@ void RecentRecord::AddToRecent(TextView path, int offset, const DateTime& now) {
     Entry(1) = line;
 }
 
+void RecentRecord::CutWhenFull() {
+    constexpr std::size_t kKept = 16;
+    if (EmptyWhenFull == 1 && !Trim(Entry(kEntries)).empty())
+        std::fill(RecentEntries.begin() + kKept + 1, RecentEntries.end(), Text());
+}
+
+void RecentRecord::Forget(TextView path) {
+    // Every entry contains an empty path: a line that is none of the record's would take all others along.
+    if (path.empty()) return;
+    for (int i = 1; i <= kEntries; ++i) {
+        if (ContainsIgnoringCase(Entry(i), path)) Entry(i).clear();
+    }
+}
+
+void RecentRecord::Empty() {
+    std::fill(RecentEntries.begin() + 1, RecentEntries.begin() + kEntries + 1, Text());
+}
+
 void RecentRecord::TrimWhenFull() {
     if (RecentNext < kEntries) return;
     // From the far end: the oldest entries stay, in reverse order, and at the next load of a full record they

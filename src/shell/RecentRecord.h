@@ -23,8 +23,12 @@ public:
 
     // What the list of recent files hands over to the load.
     std::int16_t LoadFromRecent = 0;
+    std::vector<Text> RecentPicks;
     int RecentOffset = 0;
     std::vector<int> RecentOffsets;
+
+    /// 1 when a full record is cut to its first entries as soon as it is shown. Not saved.
+    std::int16_t EmptyWhenFull = 0;
 
     /// Reads `RecFilePath`; a record that isn't there or can't be read is passed over silently.
     void Read(App& app);
@@ -33,6 +37,12 @@ public:
 
     /// Notes a load. A path that is in the record keeps its place.
     void AddToRecent(TextView path, int offset, const DateTime& now);
+
+    /// Empties all entries but the first 16 when the record is full and is to be cut then.
+    void CutWhenFull();
+    /// Empties the entries that contain the path, case ignored; the others keep their places.
+    void Forget(TextView path);
+    void Empty();
 
 private:
     void TrimWhenFull();

@@ -31,6 +31,10 @@ void mnuSidebarWidth_Clack(const TabContext& tab) {
     RunOnMainWindow(tab, "NextSideBarWidth");
 }
 
+void mnuWindowSize_Clack(const TabContext& tab) {
+    RunOnMainWindow(tab, "SetWindowSize");
+}
+
 void mnuFile_Exit_Clack(const TabContext& tab) {
     RunOnMainWindow(tab, "mnuFile_Exit");
 }
@@ -47,6 +51,7 @@ constexpr std::array kTabCommands{
     NamedCommand{"mnuFile_SaveAs_Clack", &mnuFile_SaveAs_Clack},
     NamedCommand{"mnuFile_FileInfo_Clack", &mnuFile_FileInfo_Clack},
     NamedCommand{"mnuSidebarWidth_Clack", &mnuSidebarWidth_Clack},
+    NamedCommand{"mnuWindowSize_Clack", &mnuWindowSize_Clack},
     NamedCommand{"mnuFile_Exit_Clack", &mnuFile_Exit_Clack},
     NamedCommand{"ExploreTableFolder", &ExploreTableFolder},
 };

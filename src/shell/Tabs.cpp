@@ -41,16 +41,14 @@ frmMDIChild* Tabs::Document(int slot) {
 }
 
 frmMDIChild* Tabs::Active() const {
-    const auto found = std::find_if(documents_.begin(), documents_.end(), [this](const auto& document) {
-        return document != nullptr && document.get() == strip_.ActiveChild();
-    });
-    return found == documents_.end() ? nullptr : found->get();
+    return dynamic_cast<frmMDIChild*>(strip_.ActiveChild());
 }
 
 void Tabs::NewDocument() {
     const int slot = TabState.FindFreeIndex();
     documents_.resize(std::max(documents_.size(), static_cast<std::size_t>(slot) + 1));
     auto& document = documents_[static_cast<std::size_t>(slot)];
+    if (document != nullptr) stranded_.push_back(std::move(document));
     document = std::make_unique<frmMDIChild>(app_, TabState);
     document->EnsureLoaded();
     ResolvePageSize();
@@ -69,14 +67,20 @@ void Tabs::AddNewTab() {
 }
 
 bool Tabs::Close(Form& child) {
-    const auto found = std::find_if(documents_.begin(), documents_.end(),
-                                    [&child](const auto& document) { return document.get() == &child; });
-    if (found == documents_.end() || !child.Close()) return false;
-    // The question may have let another tab in, and moved the documents.
-    const auto slot = static_cast<std::size_t>(static_cast<frmMDIChild&>(child).Slot());
+    if (OwnerOf(child) == nullptr || !child.Close()) return false;
     strip_.Remove(child);
-    closed_.push_back(std::move(documents_[slot]));
+    // Asked anew: the question may have let another tab in, and moved the documents.
+    closed_.push_back(std::move(*OwnerOf(child)));
     return true;
+}
+
+std::unique_ptr<frmMDIChild>* Tabs::OwnerOf(const Form& child) {
+    for (auto* windows : {&documents_, &stranded_}) {
+        const auto found = std::ranges::find(*windows, &child,
+                                             [](const auto& window) -> const Form* { return window.get(); });
+        if (found != windows->end()) return &*found;
+    }
+    return nullptr;
 }
 
 bool Tabs::CloseAll() {

@@ -53,6 +53,8 @@ public:
     void Show(int slot);
 
 private:
+    /// Who keeps the window; nullptr when it is none of the tabs.
+    std::unique_ptr<frmMDIChild>* OwnerOf(const Form& child);
     int ActiveSlot() const;
     void SwitchBy(int step);
     void ResolvePageSize();
@@ -61,6 +63,8 @@ private:
     TabStrip& strip_;
     /// By slot; entry 0 is never used.
     std::vector<std::unique_ptr<frmMDIChild>> documents_;
+    /// Open windows whose slot was given to another one: it was freed, and then the user refused to close.
+    std::vector<std::unique_ptr<frmMDIChild>> stranded_;
     std::vector<std::unique_ptr<frmMDIChild>> closed_;
 };
 

@@ -8,6 +8,7 @@
 #include "shell/MainRoutines.h"
 #include "shell/SettingsFile.h"
 #include "shell/StartUp.h"
+#include "shell/Styles.h"
 #include "shell/frmMDIChild.h"
 
 #include <algorithm>
@@ -34,6 +35,7 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       sideBar_(iGridListBar, [this](std::string_view command) { RunCommand(command); }) {
     app_.MainWindow = this;
     MakeToolBar();
+    CheckFirstStyle(*this);
     Wire();
 }
 

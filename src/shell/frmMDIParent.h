@@ -12,6 +12,7 @@
 #include "shell/RecentRecord.h"
 #include "shell/SideBar.h"
 #include "shell/Tabs.h"
+#include "shell/frmWindowSize.h"
 
 #include <cstdint>
 #include <memory>
@@ -38,6 +39,8 @@ public:
     Label lblListBar{*this, "lblListBar", u"Commands"};
     GridBox iGridListBar;
     TabStrip MDITabs1{*this, "MDITabs1"};
+
+    WindowSizeChoice WindowSize;
 
     App& TheApp() { return app_; }
     Tabs& TheTabs() { return tabs_; }

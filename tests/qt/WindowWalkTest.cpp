@@ -3,14 +3,21 @@
 #include "dbops/frmDelimiterType.h"
 #include "dbops/frmFindReplace.h"
 #include "dialogs/frmMyInputBox.h"
+#include "dialogs/frmMyMsgBox.h"
 #include "dialogs/frmTxtInfo.h"
 #include "platform/qt/FormBinder.h"
 #include "platform/qt/FormEntry.h"
 #include "shell/TabStates.h"
 #include "shell/frmAbout.h"
 #include "shell/frmCtrlRet.h"
+#include "shell/frmFileList.h"
+#include "shell/frmLoadList.h"
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
+#include "shell/frmProgramLocations.h"
+#include "shell/frmSetYourProg.h"
+#include "shell/frmSettings.h"
+#include "shell/frmWindowSize.h"
 #include "support/TestApp.h"
 #include "table/frmTxtDbInfo.h"
 
@@ -31,6 +38,7 @@ struct Surroundings {
     TabContext tab = child.Context();
     CopyRequest copy;
     FileFacts facts;
+    frmMDIParent main{program.app, Text()};
 };
 
 struct Window {
@@ -52,9 +60,17 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmDelimiterType>(all.tab, all.copy);
      }},
+    {"frmFileList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFileList>(all.program.app, all.main.Recents(), all.main);
+     }},
     {"frmFindReplace",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFindReplace>(all.tab, FindMode::Replace);
+     }},
+    {"frmLoadList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmLoadList>(all.program.app, all.main.TheTabs(), all.main);
      }},
     {"frmMDIChild",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -65,6 +81,11 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmMDIParent>(all.program.app, Text());
      }},
     {"frmMyInputBox", FromApp<frmMyInputBox>},
+    {"frmMyMsgBox", FromApp<frmMyMsgBox>},
+    {"frmProgramLocations", FromApp<frmProgramLocations>},
+    {"frmSetYourProg", FromApp<frmSetYourProg>},
+    {"frmSettings",
+     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSettings>(all.main); }},
     {"frmTxtDbInfo",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmTxtDbInfo>(all.tab, true);
@@ -72,6 +93,10 @@ constexpr Window kWindows[] = {
     {"frmTxtInfo",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmTxtInfo>(all.program.app, all.facts);
+     }},
+    {"frmWindowSize",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmWindowSize>(all.program.app, all.main.WindowSize);
      }},
 };
 

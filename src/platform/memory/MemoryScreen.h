@@ -15,7 +15,9 @@ public:
     Rect WorkArea() const override { return workArea_; }
     void SetPointer(Pointer pointer) override { pointers_.push_back(pointer); }
     void ProcessMessages() override;
+    bool IsDark() const override { return dark_; }
 
+    void SetDark(bool dark) { dark_ = dark; }
     void SetWorkArea(const Rect& workArea) { workArea_ = workArea; }
     /// Runs `action` in one of the next `ProcessMessages`: each of these runs one action, the first queued
     /// first.
@@ -30,6 +32,7 @@ public:
 private:
     // 1920 x 1040 pixels at 96 dpi: a usual screen less its task bar.
     Rect workArea_{Twips{0}, Twips{0}, Twips{28800}, Twips{15600}};
+    bool dark_ = false;
     std::vector<Pointer> pointers_;
     std::deque<std::function<void()>> messages_;
     int processMessagesCount_ = 0;

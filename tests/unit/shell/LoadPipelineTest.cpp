@@ -1,5 +1,6 @@
 #include "shell/LoadPipeline.h"
 
+#include "shell/frmLoadList.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -97,6 +98,10 @@ TEST_F(LoadPipelineTest, SeveralFilesAreLoadedAfterAQuestion) {
     p.user.ChooseFiles({kA, kB, kC});
     p.user.Answer({u"Load  >   3   <  text databases?", MessageIcon::Question, MessageButtons::YesNo, 1},
                   Answer::Yes);
+    p.user.On<frmLoadList>([](frmLoadList& list) {
+        EXPECT_EQ(list.FileTree.Nodes().size(), 4U);
+        list.cmdExit.Press();
+    });
     p.Choose("mnuFile_Open");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"b.tbx", u"c.tbx"}));
     EXPECT_EQ(FirstCell(3), kC);
@@ -115,6 +120,7 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenIsNotLoadedTwice) {
     p.StartWith({}, kA);
     p.user.ChooseFile(kA);
     p.user.Answer(AlreadyLoaded(kA), Answer::Ok);
+    p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
     p.Choose("mnuFile_Open");
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
     // Nothing was read that would have taken it back.
@@ -126,6 +132,7 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStay) {
     p.user.ChooseFiles({kA, kB, kC});
     p.user.Answer(Answer::Yes);
     p.user.Answer(AlreadyLoaded(kB), Answer::Ok);
+    p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
     p.Choose("mnuFile_Open");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"b.tbx", u"a.tbx"}));
 }

@@ -1,5 +1,6 @@
 #include "shell/StartUp.h"
 
+#include "shell/frmLoadList.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -176,6 +177,7 @@ TEST_F(StartUpTest, AFileThatArrivesAndIsntThereOnlyEmptiesTheSlot) {
 TEST_F(StartUpTest, AFileThatArrivesTwiceIsToldAsLoaded) {
     p.StartWith({}, kFile);
     p.user.Answer(Answer::Ok);
+    p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
     p.Main().txtCommand.Text = kFile;
     EXPECT_EQ(p.Captions().size(), 1u);
     EXPECT_EQ(p.app.LoadedByCommand, -1);

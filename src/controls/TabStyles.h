@@ -1,0 +1,46 @@
+#pragma once
+
+#include "common/Units.h"
+
+#include <cstdint>
+#include <span>
+
+namespace korvane {
+
+/// The two colours of a tab strip.
+struct TabStyleColours {
+    /// Of the strip, and of the surfaces of the window that go with it.
+    Colour strip;
+    /// Of the active tab's mark and of lines.
+    Colour second;
+
+    bool operator==(const TabStyleColours&) const = default;
+};
+
+/// The look that a style number stands for.
+struct TabStyle {
+    int number;
+    TabStyleColours light;
+    /// The same on a desktop whose text is light on dark.
+    TabStyleColours dark;
+    /// Of the corners of a tab, in pixels at 96 dpi; 0 is square.
+    int cornerRadius;
+    /// How much of the strip's colour tints the tabs that aren't active, in percent.
+    int tint;
+
+    bool Rounded() const { return cornerRadius > 0; }
+    const TabStyleColours& Colours(bool onDark) const { return onDark ? dark : light; }
+};
+
+/// All styles in the order in which they are stepped through.
+std::span<const TabStyle> TabStyles();
+
+/// The style of a number; the first one for a number that is none.
+const TabStyle& TabStyleOf(int number);
+
+enum class StyleStep : std::uint8_t { Back, Forward };
+
+/// The number of the next or previous style, round the end; a number that is no style stays.
+int SteppedTabStyle(int number, StyleStep step);
+
+} // namespace korvane

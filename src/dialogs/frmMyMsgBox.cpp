@@ -1,0 +1,132 @@
+#include "dialogs/frmMyMsgBox.h"
+
+#include "common/DateTime.h"
+#include "context/App.h"
+#include "context/Companions.h"
+#include "context/StandardMessages.h"
+#include "platform/Clipboard.h"
+#include "platform/Clock.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Shell.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr Twips kHeight{4200};
+constexpr Twips kMinWidth{9630};
+
+constexpr std::array kMenu{
+    MenuEntry{0, "mnuFile", u"&File", ""},
+    MenuEntry{1, "mnuSave", u"Sa&ve file directly to disk", ""},
+    MenuEntry{1, "mnuFileInfo", u"&File info", ""},
+    MenuEntry{1, "mnuClip", u"Clip &info", ""},
+    MenuEntry{1, "mnuExplorer", u"E&xplorer", ""},
+    MenuEntry{1, "mnuLorrit", u"Lor&rit", ""},
+};
+
+struct EntryButton {
+    std::string_view entry;
+    CommandButton frmMyMsgBox::*button;
+};
+constexpr std::array<EntryButton, 5> kEntryButtons{{
+    {"mnuSave", &frmMyMsgBox::cmdAutoSave},
+    {"mnuFileInfo", &frmMyMsgBox::cmdInfo},
+    {"mnuClip", &frmMyMsgBox::cmdClip},
+    {"mnuExplorer", &frmMyMsgBox::cmdExplorer},
+    {"mnuLorrit", &frmMyMsgBox::cmdLorrit},
+}};
+
+} // namespace
+
+frmMyMsgBox::frmMyMsgBox(App& app)
+    : Form(app.Forms(), "frmMyMsgBox", u"Closing altered file..."),
+      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      app_(app) {
+    txtFileName.Locked = true;
+    txtFilePath.Locked = true;
+    Wire();
+}
+
+void frmMyMsgBox::Wire() {
+    OfficeMenu1.Chosen = [this](std::string_view entry) {
+        const auto* found = std::ranges::find(kEntryButtons, entry, &EntryButton::entry);
+        if (found != kEntryButtons.end()) (this->*found->button).Press();
+    };
+    cmdYes.Click = [this] { CloseWith(MsgAnswer::SaveUnderAName); };
+    cmdAutoSave.Click = [this] { CloseWith(MsgAnswer::SaveDirectly); };
+    cmdNo.Click = [this] { cmdNo_Click(); };
+    cmdCancel.Click = [this] { CloseWith(MsgAnswer::Cancel); };
+    cmdInfo.Click = [this] { cmdInfo_Click(); };
+    cmdClip.Click = [this] { cmdClip_Click(); };
+    cmdExplorer.Click = [this] { cmdExplorer_Click(); };
+    cmdLorrit.Click = [this] { cmdLorrit_Click(); };
+    for (CommandButton* button : {&cmdCancel, &cmdNo, &cmdYes}) {
+        button->KeyDown = [this](KeyEvent& key) {
+            if (key.code != Key::Escape) return;
+            key.consumed = true;
+            Close();
+        };
+    }
+}
+
+void frmMyMsgBox::Load() {
+    facts_ = FactsOfFile(app_, app_.MsgFilePath);
+    const DateTime now = app_.Clock().Now();
+    today_ = FormatDate(now, u"dd/mm/yyyy");
+    now_ = FormatDate(now, u"hh:mm:ss");
+    txtFileName.Text = facts_.name;
+    txtFilePath.Text = facts_.folder;
+    lblFileSize.Caption = facts_.size;
+    lblFileDate.Caption = facts_.date + u"     [ now: " + today_ + u", " + now_ + u" ]";
+    Width = Twips{app_.Settings.MsgBoxWidth};
+    Resize();
+    chkDecisionConfirmNoSave.Value = app_.Settings.ConfirmNoSave;
+    chkDecisionConfirmNoSave.Click = [this] { app_.Settings.ConfirmNoSave = chkDecisionConfirmNoSave.Value; };
+}
+
+void frmMyMsgBox::Resize() {
+    Height = kHeight;
+    Width = std::max(Width.Get(), kMinWidth);
+}
+
+void frmMyMsgBox::Unload() {
+    app_.Settings.MsgBoxWidth = Width.Get().Number();
+}
+
+void frmMyMsgBox::CloseWith(MsgAnswer answer) {
+    app_.MsgAnswer = answer;
+    Close();
+}
+
+void frmMyMsgBox::cmdNo_Click() {
+    const Message question{u"Unload file without saving?", MessageIcon::Question, MessageButtons::YesNo, 2};
+    if (app_.Settings.ConfirmNoSave == 1 && app_.Messages().Show(question) != Answer::Yes) return;
+    CloseWith(MsgAnswer::DoNotSave);
+}
+
+void frmMyMsgBox::cmdInfo_Click() {
+    frmTxtInfo(app_, facts_).ShowModal();
+}
+
+void frmMyMsgBox::cmdClip_Click() {
+    const auto line = [](TextView title, const Text& value) { return Text(title) + value + Text(kCrLf); };
+    app_.Clipboard().SetText(line({}, {}) + line(u"Current File: ", facts_.name) +
+                             line(u"Path: ", facts_.folder) + line(u"Size: ", facts_.size) +
+                             line(u"Saved: ", facts_.date) + line({}, {}) + line(u"Time: ", now_) +
+                             line(u"Date: ", today_));
+    ShowPasteHint(app_);
+}
+
+void frmMyMsgBox::cmdExplorer_Click() {
+    app_.Shell().Open({.verb = u"explore", .file = facts_.folder, .directory = facts_.folder});
+}
+
+void frmMyMsgBox::cmdLorrit_Click() {
+    LaunchLorrit(app_, facts_.folder);
+}
+
+} // namespace korvane

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "controls/Buttons.h"
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/TextBox.h"
+
+namespace korvane {
+
+class App;
+class frmMDIParent;
+
+/// The general options. Modal, without a Cancel: each control acts when it is touched.
+class frmSettings : public Form {
+public:
+    explicit frmSettings(frmMDIParent& main);
+
+    CheckBox chkYesShowFullPath{*this, "chkYesShowFullPath", u"Show path + file name in tab"};
+    CheckBox chkAllowSorting{*this, "chkAllowSorting", u"Allow sorting on column header click"};
+    CheckBox chkShowFileInfoAfterSave{*this, "chkShowFileInfoAfterSave", u"Show info after saving database"};
+    CheckBox chkUseSmartQuotes{*this, "chkUseSmartQuotes", u"Use &smart quotes when typing in editor"};
+    /// Without an effect. Deliberate: the end of the program never asks.
+    CheckBox chkConfirmExit{*this, "chkConfirmExit", u"Confirm exit of program"};
+    TextBox txtBrowserLocation{*this, "txtBrowserLocation"};
+    CommandButton cmdCustomBrowser{*this, "cmdCustomBrowser", u"Specify your browser"};
+    CheckBox chkUseCustomBrowser{*this, "chkUseCustomBrowser", u"Use this browser"};
+    TextBox txtBrannockLocation{*this, "txtBrannockLocation"};
+    // Users know the caption with its slip of the pen.
+    CommandButton cmdBrannockLocation{*this, "cmdBrannockLocation", u"Specify program for viewng PDFs"};
+    TextBox txtWallpaper{*this, "txtWallpaper"};
+    CommandButton cmdGetWallpaperFile{*this, "cmdGetWallpaperFile", u"...", u"Get image file for wallpaper"};
+    TextBox txtReturnPassword{*this, "txtReturnPassword"};
+    CommandButton cmdMenuFont{*this, "cmdMenuFont", u"&Menu font"};
+    CommandButton cmdSidebarFont{*this, "cmdSidebarFont", u"&SideBar font"};
+    CommandButton cmdStringsForKeys{*this, "cmdStringsForKeys", u"&String for keys"};
+    CommandButton cmdOffice{*this, "cmdOffice", u"&Office files location"};
+    CommandButton cmdExit{*this, "cmdExit", u"E&xit"};
+
+    void Load() override;
+    void Unload() override;
+
+private:
+    void WireButtons();
+    void WireFields();
+    void chkYesShowFullPath_Click();
+    void cmdCustomBrowser_Click();
+    void cmdBrannockLocation_Click();
+    void cmdGetWallpaperFile_Click();
+    void cmdMenuFont_Click();
+    void cmdSidebarFont_Click();
+
+    frmMDIParent& main_;
+    App& app_;
+};
+
+} // namespace korvane

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/ListBox.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+struct Rect;
+
+/// What was last picked in `frmWindowSize`, kept as long as the program runs.
+struct WindowSizeChoice {
+    std::int16_t WindowLayoutChoice = 0;
+    std::int16_t WindowPercentChoice = 0;
+};
+
+/// Asks where on the screen, or how large in percent of it, a window is to be. Modal; `DialogResult` is 1 for
+/// a layout, 2 for a percentage, and the pick stands in the choice.
+class frmWindowSize : public Form {
+public:
+    /// The choice outlives the window.
+    frmWindowSize(App& app, WindowSizeChoice& choice);
+
+    ListBox List1{*this, "List1"};
+    ListBox lstSize{*this, "lstSize"};
+    CommandButton cmdOk{*this, "cmdOk", u"&Size"};
+    CommandButton cmdPercent{*this, "cmdPercent", u"&Percent"};
+    CommandButton cmdCancel{*this, "cmdCancel", u"&Cancel"};
+
+    void Load() override;
+
+private:
+    void CloseWith(std::int16_t result);
+
+    App& app_;
+    WindowSizeChoice& choice_;
+};
+
+/// Lets the user choose and gives the window its place in the work area; false when he gave up.
+bool ChooseWindowSize(App& app, WindowSizeChoice& choice, Form& window);
+
+/// Puts the window where the entry of the layouts says, counted from 0.
+void ApplyWindowLayout(Form& window, const Rect& workArea, int layout);
+
+/// Gives the window the size that stands behind the entry of the percentages, counted from 0, and centres it.
+void ApplyWindowPercent(Form& window, const Rect& workArea, int percentEntry);
+
+} // namespace korvane

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "context/App.h"
+#include "context/Ports.h"
+
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+/// Gives a font, or nothing, and remembers from which one it was to start.
+class FakeFontPicker final : public FontPicker {
+public:
+    explicit FakeFontPicker(App& app) { app.FontPicker = this; }
+    std::optional<FontSpec> answer;
+    std::vector<FontSpec> starts;
+
+    std::optional<FontSpec> Choose(const FontSpec& present) override {
+        starts.push_back(present);
+        return answer;
+    }
+};
+
+/// The same with colours.
+class FakeColourPicker final : public ColourPicker {
+public:
+    explicit FakeColourPicker(App& app) { app.ColourPicker = this; }
+    std::optional<Colour> answer;
+    std::vector<Colour> starts;
+
+    std::optional<Colour> Choose(Colour start, Extent) override {
+        starts.push_back(start);
+        return answer;
+    }
+};
+
+/// Remembers which files were to be viewed or opened.
+class FakeFileViewer final : public FileViewer {
+public:
+    explicit FakeFileViewer(App& app) { app.FileViewer = this; }
+    std::vector<Text> viewed;
+    std::vector<Text> opened;
+
+    void View(TextView path) override { viewed.emplace_back(path); }
+    void OpenWith(TextView path) override { opened.emplace_back(path); }
+};
+
+/// Chooses a file, or nothing, and remembers what it was asked.
+class FakeSystemFileDialog final : public SystemFileDialog {
+public:
+    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
+    std::optional<Text> answer;
+    std::vector<Request> requests;
+
+    std::optional<Text> Choose(const Request& request) override {
+        requests.push_back(request);
+        return answer;
+    }
+};
+
+} // namespace korvane
