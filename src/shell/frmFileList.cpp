@@ -6,6 +6,7 @@
 #include "context/Ports.h"
 #include "context/StandardMessages.h"
 #include "context/StoredPaths.h"
+#include "context/WindowFitting.h"
 #include "dbops/Dialogs.h"
 #include "dialogs/Docking.h"
 #include "platform/Clock.h"
@@ -13,7 +14,6 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 #include "shell/RecentRecord.h"
-#include "shell/WindowFitting.h"
 
 #include <algorithm>
 #include <array>
@@ -135,7 +135,7 @@ void frmFileList::Load() {
     Width = std::max(Twips{app_.Settings.FileListWidth}, kMinWidth);
     Height = std::max(Twips{app_.Settings.FileListHeight}, kMinHeight);
     Rect place{Left, Top, Width, Height};
-    FitWindowToWorkArea(app_.Screen().WorkArea(), owner_, *this, place);
+    FitWindowToWorkArea(app_.Screen().WorkArea(), *this, place);
     ApplyLook();
     LayOutColumns();
     FillList();

@@ -5,6 +5,7 @@
 #include "context/App.h"
 #include "context/Ports.h"
 #include "context/StandardMessages.h"
+#include "context/WindowFitting.h"
 #include "dialogs/Docking.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
@@ -12,7 +13,6 @@
 #include "platform/Screen.h"
 #include "platform/Shell.h"
 #include "shell/Tabs.h"
-#include "shell/WindowFitting.h"
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
 
@@ -37,6 +37,9 @@ constexpr std::array kMenu{
     MenuEntry{0, "mnuView", u"&View", ""},
     MenuEntry{1, "mnuToggle", u"Long/short &display", ""},
 };
+
+constexpr StoredPlace kPlace{&Settings::LoadListLeft, &Settings::LoadListTop, &Settings::LoadListWidth,
+                             &Settings::LoadListHeight};
 
 Text KeyOf(int slot) {
     return Text(kNodeKey) + NumberText(slot);
@@ -83,7 +86,7 @@ void frmLoadList::Wire() {
 }
 
 void frmLoadList::Load() {
-    PlaceWindow();
+    RestorePlace(app_, *this, kPlace);
     const DateTime now = app_.Clock().Now();
     Label1.Caption =
         u" Date/time:  " + FormatDate(now, u"dddd, mmm d yyyy") + u", " + FormatDate(now, u"hh:mm");
@@ -93,23 +96,8 @@ void frmLoadList::Load() {
     FileTree.SetFocus();
 }
 
-void frmLoadList::PlaceWindow() {
-    const Settings& settings = app_.Settings;
-    Rect place{Twips{settings.LoadListLeft}, Twips{settings.LoadListTop}, Twips{settings.LoadListWidth},
-               Twips{settings.LoadListHeight}};
-    Left = place.left;
-    Top = place.top;
-    Width = place.width;
-    Height = place.height;
-    FitWindowToWorkArea(app_.Screen().WorkArea(), owner_, *this, place);
-}
-
 void frmLoadList::Unload() {
-    Settings& settings = app_.Settings;
-    settings.LoadListLeft = Left.Get().Number();
-    settings.LoadListTop = Top.Get().Number();
-    settings.LoadListWidth = Width.Get().Number();
-    settings.LoadListHeight = Height.Get().Number();
+    StorePlace(app_, *this, kPlace);
 }
 
 void frmLoadList::FillTree() {

@@ -46,7 +46,6 @@ private:
     static const MenuHandler kMenuHandlers[];
 
     void Wire();
-    void PlaceWindow();
     void FillTree();
     Text NodeText(int number, int slot) const;
     /// The number in the selected node's key; 0 for the root, which has none.
