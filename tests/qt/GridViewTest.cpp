@@ -208,6 +208,17 @@ TEST_F(GridViewTest, TheEditorGrowsWhileItIsTypedInto) {
     EXPECT_FALSE(Editor()->verticalScrollBar()->isVisible());
 }
 
+TEST_F(GridViewTest, ATextThatWrapsIsSeenFromItsBeginning) {
+    Store().SetGridFontName(u"DejaVu Serif");
+    Store().SetGridFontSize(12);
+    Store().SetColWidth(Col{1}, 120);
+    Key(Qt::Key_F2);
+    for (int word = 0; word < 8; ++word)
+        Type(" words");
+    EXPECT_GT(Editor()->height(), 3 * Editor()->fontMetrics().lineSpacing());
+    EXPECT_EQ(Editor()->verticalScrollBar()->value(), 0);
+}
+
 TEST_F(GridViewTest, AShortTextKeepsTheEditorAtItsCell) {
     Key(Qt::Key_F2);
     EXPECT_EQ(Editor()->geometry(), Cell(1, 1));

@@ -220,4 +220,3 @@ TEST_F(QtFilePickerTest, ASaveTakesTheNameAsItIsGiven) {
 
 } // namespace
 } // namespace korvane
-

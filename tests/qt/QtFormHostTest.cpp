@@ -39,7 +39,10 @@ public:
     }
     bool QueryUnload() override { return mayClose; }
     void Unload() override { ++unloads; }
-    void Activate() override { ++activations; }
+    void Activate() override {
+        ++activations;
+        if (onActivate) onActivate();
+    }
     void Resize() override { ++resizes; }
 
     void Answer(const char* with) {
@@ -47,6 +50,7 @@ public:
         Close();
     }
 
+    std::function<void()> onActivate;
     std::string answer;
     bool mayClose = true;
     int loads = 0;
@@ -176,6 +180,15 @@ TEST_F(QtFormHostTest, ThePlaceGoesBothWaysAndKeepsItsTwips) {
     form.Top = Twips{0};
     form.Left = Twips{0};
     EXPECT_EQ(Window().pos(), QPoint(0, 0));
+}
+
+TEST_F(QtFormHostTest, AnActivatedWindowHasTheKeyboardByThen) {
+    form.onActivate = [this] { EXPECT_EQ(QApplication::focusWidget(), &Widget("txtName")); };
+    form.Show();
+    EXPECT_EQ(form.activations, 0);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    test::Settle();
+    EXPECT_EQ(form.activations, 1);
 }
 
 TEST_F(QtFormHostTest, AWindowWithoutAPlaceHasTheSizeOfItsLook) {

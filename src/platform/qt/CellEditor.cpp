@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QtMath>
 
 namespace korvane {
@@ -85,15 +86,17 @@ bool CellEditor::event(QEvent* event) {
     return QPlainTextEdit::event(event);
 }
 
-int CellEditor::TextHeight() const {
-    // A document of plain text is as many lines high.
-    const int lines = qCeil(document()->size().height());
-    return lines * fontMetrics().lineSpacing() + 2 * (kMargin + kBorder);
+int CellEditor::TextHeight(int most) const {
+    qreal height = 2 * (kMargin + kBorder);
+    for (QTextBlock block = document()->begin(); block.isValid() && height < most; block = block.next()) {
+        height += blockBoundingRect(block).height();
+    }
+    return qCeil(height);
 }
 
 void CellEditor::Grow() {
     const int space = std::max(cell_.height(), parentWidget()->height() - cell_.top());
-    const int wanted = std::max(cell_.height(), TextHeight());
+    const int wanted = std::max(cell_.height(), TextHeight(space + 1));
     const bool fits = wanted <= space;
     setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     const QRect place(cell_.topLeft(), QSize(cell_.width(), std::min(wanted, space)));

@@ -27,7 +27,8 @@ protected:
 
 private:
     void Grow();
-    int TextHeight() const;
+    /// How high the field must be for its text; a text higher than `most` isn't measured to its end.
+    int TextHeight(int most) const;
 
     QRect cell_;
 };

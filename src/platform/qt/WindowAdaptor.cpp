@@ -83,7 +83,7 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
         return KeyPressed(*static_cast<QKeyEvent*>(event));
     case QEvent::WindowActivate:
-        form_->Activate();
+        TellActivated();
         break;
     case QEvent::WindowStateChange:
         ReadState();
@@ -99,6 +99,17 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void WindowAdaptor::TellActivated() {
+    // Later: a handler that lets messages run would let keys come before the window has given the keyboard
+    // to one of its widgets.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (form_ != nullptr) form_->Activate();
+        },
+        Qt::QueuedConnection);
 }
 
 bool WindowAdaptor::CloseWanted(QEvent& event) {

@@ -27,6 +27,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void TellActivated();
     bool CloseWanted(QEvent& event);
     bool KeyPressed(const QKeyEvent& event);
     bool PressButtonFor(int code);
