@@ -1,0 +1,229 @@
+#include "QtSupport.h"
+#include "platform/qt/CellEditor.h"
+#include "platform/qt/Convert.h"
+#include "platform/qt/Icons.h"
+#include "platform/qt/QtFormHost.h"
+#include "platform/qt/SideBarView.h"
+#include "platform/qt/TabPages.h"
+#include "shell/Commands.h"
+#include "shell/frmMDIChild.h"
+#include "shell/frmMDIParent.h"
+#include "support/TableBytes.h"
+#include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+#include <QToolBar>
+
+namespace korvane {
+namespace {
+
+const Text kFile = u"C:\\data\\people.tbx";
+
+/// The program with its real windows on a platform in memory.
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest() {
+        Settings settings;
+        settings.SideBarVisible = 1;
+        settings.MainLeft = 300;
+        settings.MainTop = 300;
+        settings.MainWidth = 15000;
+        settings.MainHeight = 9000;
+        settings.AllowSorting = 1;
+        outside.files.AddDir(outside.files.ProgramDir());
+        outside.files.AddFile(outside.files.Style().JoinPath(outside.files.ProgramDir(), u"Korvane.ini"),
+                              SettingsBytes(settings));
+        outside.files.AddFile(kFile, NameTable(kFile, {"Bert", "Anna"}));
+        app.FilePicker = &outside.user;
+    }
+
+    void SetUp() override {
+        main.EnsureLoaded();
+        main.Show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+        test::Settle();
+    }
+
+    void TearDown() override {
+        // A change that a test made isn't asked for at its end.
+        if (frmMDIChild* tab = main.TheTabs().Active()) tab->Table().TableAltered = 0;
+        main.Close();
+    }
+
+    QMainWindow& Window() { return *qobject_cast<QMainWindow*>(host.WidgetOf(main)); }
+    template <class T>
+    T& Part(const char* name) {
+        return *Window().findChild<T*>(name);
+    }
+    GridView& Table() { return Part<GridView>("iGrid1"); }
+    std::string Saved() { return outside.files.Contents(kFile).value_or("(no such file)"); }
+    void Key(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+        test::Settle();
+    }
+    void Type(const char* text) {
+        for (const char* c = text; *c != '\0'; ++c)
+            QTest::keyClick(QApplication::focusWidget(), *c);
+    }
+    void ClickSideBar(int row) {
+        auto& bar = Part<SideBarView>("iGridListBar");
+        const QModelIndex index = bar.model()->index(row - 1, 0);
+        bar.scrollTo(index);
+        QTest::mouseClick(bar.viewport(), Qt::LeftButton, {}, bar.visualRect(index).center());
+        test::Settle();
+    }
+
+    TestApp outside;
+    QtFormHost host{KorvaneForms()};
+    App app{{outside.files, outside.user, outside.clipboard, outside.clock, outside.screen, outside.shell,
+             outside.instance, host, [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+    frmMDIParent main{app, kFile};
+};
+
+TEST_F(MainWindowTest, EveryEntryStandsInTheMenuBarWithItsKey) {
+    for (const MenuEntry& entry : MenuBarEntries()) {
+        const QString name = QString::fromLatin1(entry.name.data(), qsizetype(entry.name.size()));
+        const auto* menu = Window().findChild<QMenu*>(name);
+        const QAction* action = menu != nullptr ? menu->menuAction() : Window().findChild<QAction*>(name);
+        ASSERT_NE(action, nullptr) << entry.name;
+        EXPECT_EQ(action->text(), ToQString(entry.caption));
+        EXPECT_EQ(action->shortcut().toString(QKeySequence::PortableText).toStdString(), entry.shortcut);
+        EXPECT_TRUE(action->isEnabled());
+    }
+}
+
+TEST_F(MainWindowTest, TheToolBarHasItsButtonsInTheirOrderEachWithIconAndTip) {
+    QStringList names;
+    for (const QAction* action : Part<QToolBar>("picToolbar").actions()) {
+        if (action->isSeparator()) continue;
+        names << action->objectName();
+        EXPECT_FALSE(action->icon().isNull()) << action->objectName().toStdString();
+    }
+    QStringList wanted;
+    for (const ToolBarButton& button : ToolBarButtons()) {
+        wanted << QString::fromLatin1(button.name.data(), qsizetype(button.name.size()));
+        EXPECT_EQ(Window().findChild<QAction*>(wanted.last())->toolTip(), ToQString(button.toolTip));
+    }
+    EXPECT_EQ(names, wanted);
+}
+
+TEST_F(MainWindowTest, EveryRowOfTheSideBarHasAnIcon) {
+    const auto& bar = Part<SideBarView>("iGridListBar");
+    ASSERT_EQ(bar.model()->rowCount(), 16);
+    ASSERT_EQ(bar.RowIcons().size(), 16);
+    for (const QString& name : bar.RowIcons())
+        EXPECT_FALSE(TintedIcon(name).isNull()) << name.toStdString();
+    EXPECT_EQ(bar.rowHeight(3), 64);
+}
+
+TEST_F(MainWindowTest, TheTableHasTheKeyboardFromTheStart) {
+    EXPECT_EQ(QApplication::focusWidget(), &Table());
+    EXPECT_EQ(Window().windowTitle(), QString("Korvane"));
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Tabs().tabText(0), QString("people.tbx"));
+}
+
+TEST_F(MainWindowTest, ASaveByKeyTakesWhatIsBeingTyped) {
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Type("Carla");
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Saved(), NameTable(kFile, {"Carla", "Anna"}));
+}
+
+TEST_F(MainWindowTest, ASaveByTheToolBarsNeighbourTakesWhatIsBeingTyped) {
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Type("Dora");
+    constexpr int saveRow = 4;
+    ClickSideBar(saveRow);
+    EXPECT_EQ(Saved(), NameTable(kFile, {"Dora", "Anna"}));
+    EXPECT_EQ(main.iGridListBar.Store().CurRow(), Row{saveRow});
+}
+
+TEST_F(MainWindowTest, SpaceRunsTheRowOfTheSideBar) {
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Type("Emil");
+    Key(Qt::Key_Return);
+    Part<SideBarView>("iGridListBar").setFocus();
+    for (int row = 1; row < 4; ++row)
+        Key(Qt::Key_Down);
+    Key(Qt::Key_Space);
+    EXPECT_EQ(Saved(), NameTable(kFile, {"Emil", "Anna"}));
+}
+
+TEST_F(MainWindowTest, AKeyOfTheMenuIsTheMenusAlsoWhileACellIsEdited) {
+    Key(Qt::Key_F2);
+    Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Window().findChild<CellEditor*>(), nullptr);
+    auto& find = Part<QLineEdit>("txtFindString");
+    find.setFocus();
+    QTest::keyClicks(&find, "text");
+    Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_FALSE(find.hasSelectedText());
+}
+
+TEST_F(MainWindowTest, F10InTheTableOffersANewName) {
+    outside.user.CancelChooser();
+    Key(Qt::Key_F10, Qt::ControlModifier);
+    EXPECT_EQ(outside.user.Requests().size(), 1u);
+}
+
+TEST_F(MainWindowTest, AHeaderSortsTheTable) {
+    QHeaderView& header = *Table().horizontalHeader();
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, QPoint(20, header.height() / 2));
+    test::Settle();
+    EXPECT_EQ(Table().model()->index(0, 0).data().toString(), QString("Anna"));
+    EXPECT_EQ(main.TheTabs().Active()->Table().TableAltered, 1);
+}
+
+TEST_F(MainWindowTest, TheRightButtonOpensTheMenuOfTheTable) {
+    Key(Qt::Key_Home, Qt::ControlModifier);
+    Type("Fritz");
+    Key(Qt::Key_Return);
+    QTimer::singleShot(0, [] {
+        auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(popup, nullptr);
+        EXPECT_EQ(popup->actions().size(), 18);
+        popup->setActiveAction(popup->actions().at(6));
+        QTest::keyClick(popup, Qt::Key_Return);
+    });
+    const QRect cell = Table().visualRect(Table().model()->index(1, 0));
+    QTest::mouseClick(Table().viewport(), Qt::RightButton, {}, cell.center());
+    EXPECT_EQ(Saved(), NameTable(kFile, {"Fritz", "Anna"}));
+}
+
+TEST_F(MainWindowTest, AClosedTabLeavesTheHint) {
+    Key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Count(), 0);
+    EXPECT_TRUE(Part<QLabel>("plainHint").isVisible());
+    EXPECT_EQ(Window().findChild<GridView*>("iGrid1"), nullptr);
+}
+
+TEST_F(MainWindowTest, TheSideBarIsHiddenAndShownByItsEntry) {
+    QAction& entry = Part<QAction>("mnuSideBar");
+    entry.trigger();
+    EXPECT_FALSE(Part<QWidget>("Picture2").isVisible());
+    entry.trigger();
+    EXPECT_TRUE(Part<QWidget>("Picture2").isVisible());
+    EXPECT_EQ(Part<QWidget>("iGridListBar").width(), 146);
+    EXPECT_EQ(Part<QWidget>("Picture2").width(), ToPixels(Twips{146 * 15 + 80}));
+}
+
+TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {
+    main.TheTabs().Active()->Table().TableAltered = 1;
+    outside.user.Answer(Answer::Cancel);
+    EXPECT_FALSE(Window().close());
+    EXPECT_TRUE(Window().isVisible());
+    outside.user.Answer(Answer::No);
+    EXPECT_TRUE(Window().close());
+    EXPECT_FALSE(main.Shown());
+}
+
+} // namespace
+} // namespace korvane
