@@ -13,7 +13,8 @@ namespace korvane {
 
 namespace {
 
-App::Platform WithGrids(App::Platform platform) {
+App::Platform Complete(App::Platform platform, const SystemFolders& folders) {
+    platform.folders = &folders;
     platform.codePage = UserCodePage();
     platform.makeGrid = [page = platform.codePage] { return std::make_unique<MemoryGrid>(page); };
     return platform;
@@ -24,7 +25,8 @@ App::Platform WithGrids(App::Platform platform) {
 Program::Program(InstanceChannel& channel, MessageBoxes& messages)
     : files_(FromNativePath(FindProgramFolder(OwnSurroundings()))),
       forms_(KorvaneForms()),
-      app_(WithGrids({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr})) {
+      app_(Complete({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr},
+                    folders_)) {
     app_.FilePicker = &filePicker_;
 }
 

@@ -7,6 +7,7 @@
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtFormHost.h"
 #include "platform/qt/QtScreen.h"
+#include "platform/qt/QtSystemFolders.h"
 #include "platform/qt/desktop/QtShell.h"
 
 #include <QString>
@@ -31,6 +32,7 @@ private:
     NativeClock clock_;
     QtScreen screen_;
     QtShell shell_;
+    QtSystemFolders folders_;
     QtFormHost forms_;
     QtFilePicker filePicker_;
     App app_;

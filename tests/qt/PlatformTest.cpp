@@ -4,6 +4,7 @@
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtScreen.h"
+#include "platform/qt/QtSystemFolders.h"
 
 #include <gtest/gtest.h>
 
@@ -16,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -143,6 +145,21 @@ TEST(QtScreenTest, LetsMessagesRun) {
     QtScreen().ProcessMessages();
     EXPECT_TRUE(ran);
 }
+
+// ---- Folders ------------------------------------------------------------------------------------------
+
+TEST(QtSystemFoldersTest, TheDocumentsAreWhereTheDesktopKeepsThem) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    EXPECT_EQ(QtSystemFolders().Documents(), ToText(QDir::toNativeSeparators(documents)));
+    EXPECT_NE(QtSystemFolders().Fonts(), u"");
+}
+
+#ifndef Q_OS_WIN
+TEST(QtSystemFoldersTest, WhatOnlyWindowsHasIsEmptyElsewhere) {
+    EXPECT_EQ(QtSystemFolders().ProgramFiles(), u"");
+    EXPECT_EQ(QtSystemFolders().System(), u"");
+}
+#endif
 
 // ---- File dialog --------------------------------------------------------------------------------------
 
