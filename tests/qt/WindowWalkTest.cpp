@@ -1,25 +1,8 @@
 #include "QtSupport.h"
-#include "dbops/frmChooseRange.h"
-#include "dbops/frmDelimiterType.h"
-#include "dbops/frmFindReplace.h"
-#include "dialogs/frmMyInputBox.h"
-#include "dialogs/frmMyMsgBox.h"
-#include "dialogs/frmTxtInfo.h"
+#include "Windows.h"
 #include "platform/qt/FormBinder.h"
 #include "platform/qt/FormEntry.h"
-#include "shell/TabStates.h"
-#include "shell/frmAbout.h"
-#include "shell/frmCtrlRet.h"
-#include "shell/frmFileList.h"
-#include "shell/frmLoadList.h"
-#include "shell/frmMDIChild.h"
-#include "shell/frmMDIParent.h"
-#include "shell/frmProgramLocations.h"
-#include "shell/frmSetYourProg.h"
-#include "shell/frmSettings.h"
-#include "shell/frmWindowSize.h"
 #include "support/TestApp.h"
-#include "table/frmTxtDbInfo.h"
 
 #include <gtest/gtest.h>
 
@@ -29,76 +12,6 @@
 
 namespace korvane {
 namespace {
-
-/// What windows are made from.
-struct Surroundings {
-    TestApp program;
-    TabStates states;
-    frmMDIChild child{program.app, states};
-    TabContext tab = child.Context();
-    CopyRequest copy;
-    FileFacts facts;
-    frmMDIParent main{program.app, Text()};
-};
-
-struct Window {
-    std::string_view name;
-    std::unique_ptr<Form> (*make)(Surroundings&);
-};
-
-template <class FormT>
-std::unique_ptr<Form> FromApp(Surroundings& all) {
-    return std::make_unique<FormT>(all.program.app);
-}
-
-// Every window of the program.
-constexpr Window kWindows[] = {
-    {"frmAbout", FromApp<frmAbout>},
-    {"frmChooseRange", FromApp<frmChooseRange>},
-    {"frmCtrlRet", FromApp<frmCtrlRet>},
-    {"frmDelimiterType",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmDelimiterType>(all.tab, all.copy);
-     }},
-    {"frmFileList",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmFileList>(all.program.app, all.main.Recents(), all.main);
-     }},
-    {"frmFindReplace",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmFindReplace>(all.tab, FindMode::Replace);
-     }},
-    {"frmLoadList",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmLoadList>(all.program.app, all.main.TheTabs(), all.main);
-     }},
-    {"frmMDIChild",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmMDIChild>(all.program.app, all.states);
-     }},
-    {"frmMDIParent",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmMDIParent>(all.program.app, Text());
-     }},
-    {"frmMyInputBox", FromApp<frmMyInputBox>},
-    {"frmMyMsgBox", FromApp<frmMyMsgBox>},
-    {"frmProgramLocations", FromApp<frmProgramLocations>},
-    {"frmSetYourProg", FromApp<frmSetYourProg>},
-    {"frmSettings",
-     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSettings>(all.main); }},
-    {"frmTxtDbInfo",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmTxtDbInfo>(all.tab, true);
-     }},
-    {"frmTxtInfo",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmTxtInfo>(all.program.app, all.facts);
-     }},
-    {"frmWindowSize",
-     [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmWindowSize>(all.program.app, all.main.WindowSize);
-     }},
-};
 
 class NoPages : public PageSource {
     QWidget* PageOf(Form&) override { return nullptr; }
@@ -114,7 +27,8 @@ protected:
         return found == looks.end() ? nullptr : &*found;
     }
 
-    Surroundings all;
+    TestApp program;
+    Surroundings all{program.app};
     NoPages pages;
 };
 
@@ -137,7 +51,7 @@ TEST_P(WindowWalkTest, EveryWidgetCanBeSeenAtItsSmallestSize) {
     EXPECT_TRUE(screen.contains(QRect(QPoint(), least))) << least.width() << " x " << least.height();
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, WindowWalkTest, testing::ValuesIn(kWindows),
+INSTANTIATE_TEST_SUITE_P(Windows, WindowWalkTest, testing::ValuesIn(AllWindows().begin(), AllWindows().end()),
                          [](const auto& window) { return std::string(window.param.name); });
 
 TEST(WindowWalk, GoesToEveryWindowThatHasALook) {
@@ -145,7 +59,7 @@ TEST(WindowWalk, GoesToEveryWindowThatHasALook) {
     std::set<std::string_view> windows;
     for (const FormEntry& look : KorvaneForms())
         looks.insert(look.name);
-    for (const Window& window : kWindows)
+    for (const Window& window : AllWindows())
         windows.insert(window.name);
     EXPECT_EQ(looks, windows);
 }

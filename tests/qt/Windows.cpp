@@ -1,0 +1,80 @@
+#include "Windows.h"
+
+#include "dbops/frmChooseRange.h"
+#include "dbops/frmFindReplace.h"
+#include "dialogs/frmMyInputBox.h"
+#include "dialogs/frmMyMsgBox.h"
+#include "shell/frmAbout.h"
+#include "shell/frmCtrlRet.h"
+#include "shell/frmFileList.h"
+#include "shell/frmLoadList.h"
+#include "shell/frmProgramLocations.h"
+#include "shell/frmSetYourProg.h"
+#include "shell/frmSettings.h"
+#include "shell/frmWindowSize.h"
+#include "table/frmTxtDbInfo.h"
+
+namespace korvane {
+
+namespace {
+
+template <class FormT>
+std::unique_ptr<Form> FromApp(Surroundings& all) {
+    return std::make_unique<FormT>(all.app);
+}
+
+constexpr Window kWindows[] = {
+    {"frmAbout", FromApp<frmAbout>},
+    {"frmChooseRange", FromApp<frmChooseRange>},
+    {"frmCtrlRet", FromApp<frmCtrlRet>},
+    {"frmDelimiterType",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmDelimiterType>(all.tab, all.copy);
+     }},
+    {"frmFileList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFileList>(all.app, all.main.Recents(), all.main);
+     }},
+    {"frmFindReplace",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFindReplace>(all.tab, FindMode::Replace);
+     }},
+    {"frmLoadList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmLoadList>(all.app, all.main.TheTabs(), all.main);
+     }},
+    {"frmMDIChild",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmMDIChild>(all.app, all.states);
+     }},
+    {"frmMDIParent",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmMDIParent>(all.app, Text());
+     }},
+    {"frmMyInputBox", FromApp<frmMyInputBox>},
+    {"frmMyMsgBox", FromApp<frmMyMsgBox>},
+    {"frmProgramLocations", FromApp<frmProgramLocations>},
+    {"frmSetYourProg", FromApp<frmSetYourProg>},
+    {"frmSettings",
+     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSettings>(all.main); }},
+    {"frmTxtDbInfo",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmTxtDbInfo>(all.tab, true);
+     }},
+    {"frmTxtInfo",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmTxtInfo>(all.app, all.facts);
+     }},
+    {"frmWindowSize",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmWindowSize>(all.app, all.main.WindowSize);
+     }},
+};
+
+} // namespace
+
+std::span<const Window> AllWindows() {
+    return kWindows;
+}
+
+} // namespace korvane

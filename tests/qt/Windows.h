@@ -1,0 +1,38 @@
+#pragma once
+
+#include "context/App.h"
+#include "dbops/frmDelimiterType.h"
+#include "dialogs/frmTxtInfo.h"
+#include "shell/TabStates.h"
+#include "shell/frmMDIChild.h"
+#include "shell/frmMDIParent.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace korvane {
+
+/// What the program's windows are made from.
+struct Surroundings {
+    explicit Surroundings(App& program) : app(program) {}
+
+    App& app;
+    TabStates states;
+    frmMDIChild child{app, states};
+    TabContext tab = child.Context();
+    CopyRequest copy;
+    FileFacts facts;
+    frmMDIParent main{app, Text()};
+};
+
+/// A window's name and how it is made.
+struct Window {
+    std::string_view name;
+    std::unique_ptr<Form> (*make)(Surroundings&);
+};
+
+/// Every window of the program.
+std::span<const Window> AllWindows();
+
+} // namespace korvane

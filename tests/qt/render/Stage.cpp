@@ -1,0 +1,70 @@
+#include "render/Stage.h"
+
+#include "SourceTree.h"
+#include "platform/Clock.h"
+#include "table/TableFile.h"
+
+#include <QCoreApplication>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr TextView kSamples[] = {u"Address book.tbx", u"Books.tbx", u"Diary.tbx"};
+
+std::string BytesOf(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Text InData(TextView name) {
+    return u"C:\\data\\" + Text(name);
+}
+
+} // namespace
+
+Stage::Stage() {
+    FillFiles();
+    Main().EnsureLoaded();
+    Main().Show();
+    for (const TextView name : kSamples)
+        Main().Pipeline().OpenDatabase(InData(name), LoadInto::NewTab);
+    FillRequests();
+    Settle();
+}
+
+void Stage::Settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Stage::FillFiles() {
+    const fs::path tree(KORVANE_SOURCE_DIR);
+    const Text folder = outside_.files.ProgramDir();
+    outside_.files.AddDir(folder);
+    outside_.files.AddFile(outside_.files.Style().JoinPath(folder, u"Korvane.ini"),
+                           BytesOf(tree / "packaging" / "Korvane.ini"));
+    for (const TextView name : kSamples)
+        outside_.files.AddFile(InData(name), BytesOf(tree / "samples" / fs::path(name)));
+}
+
+void Stage::FillRequests() {
+    const Text path = InData(kSamples[0]);
+    app_.MsgFilePath = path;
+    app_.InputCaption = u"Enter new name of column";
+    app_.InputInitial = u"Title";
+    all_.facts = FactsOfFile(app_, path);
+    all_.copy.rowsToCopy = 12;
+    all_.child.Table().TxtDbFile = path;
+    ReadTableData(all_.tab);
+    // A record of a file that has gone in between.
+    Main().Recents().AddToRecent(u"C:\\data\\Old list.tbx", 0, app_.Clock().Now());
+}
+
+} // namespace korvane

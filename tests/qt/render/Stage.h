@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Windows.h"
+#include "app/PrintedMessages.h"
+#include "platform/qt/QtFormHost.h"
+#include "platform/qt/QtScreen.h"
+#include "support/TestApp.h"
+
+namespace korvane {
+
+/// The program as after a first start with the samples open: real windows on a platform in memory.
+class Stage {
+public:
+    Stage();
+
+    /// Lets everything happen that is due.
+    static void Settle();
+
+    QtFormHost& Host() { return host_; }
+    Surroundings& All() { return all_; }
+    frmMDIParent& Main() { return all_.main; }
+
+private:
+    void FillFiles();
+    void FillRequests();
+
+    TestApp outside_;
+    QtFormHost host_{KorvaneForms()};
+    PrintedMessages messages_;
+    QtScreen screen_;
+    App app_{{outside_.files, messages_, outside_.clipboard, outside_.clock, screen_, outside_.shell,
+              outside_.instance, host_,
+              [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+    Surroundings all_{app_};
+};
+
+} // namespace korvane
