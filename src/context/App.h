@@ -99,6 +99,11 @@ public:
     Text FileOpName;
     /// The check box of `frmDelimiterType` that adds line breaks, 1 or 0: kept as long as the program runs.
     std::int16_t BreakAfterFieldThree = 0;
+    // What `frmRowColour` keeps as long as the program runs: the index in its list, its check box (1 or 0)
+    // and its option.
+    std::int16_t RowColourIndex = 0;
+    std::int16_t RemoveChecksAtStart = 0;
+    CellFlag RowAttribute = CellFlag::Italic;
 
     /// 1 only in a start that found a running copy: nothing is saved then.
     std::int16_t SecondInstance = 0;

@@ -26,4 +26,17 @@ public:
     virtual void ProcessMessages() = 0;
 };
 
+/// Shows the hourglass as long as it lives, then the normal pointer.
+class Hourglass {
+public:
+    /// The screen outlives the object.
+    explicit Hourglass(Screen& screen) : screen_(screen) { screen_.SetPointer(Pointer::Hourglass); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+    ~Hourglass() { screen_.SetPointer(Pointer::Default); }
+
+private:
+    Screen& screen_;
+};
+
 } // namespace korvane

@@ -11,7 +11,8 @@ namespace korvane {
 namespace {
 
 /// What the steps of a script wait for, in the order of their alternatives.
-constexpr std::array kAwaited{"a window", "a message box", "the file chooser", "a pop-up menu"};
+constexpr std::array kAwaited{"a window",      "a message box",     "the file chooser",
+                              "a pop-up menu", "the colour dialog", "the font dialog"};
 
 bool HasButton(MessageButtons buttons, Answer answer) {
     switch (answer) {
@@ -90,6 +91,18 @@ Answer ScriptedUser::Show(const Message& message) {
 void ScriptedUser::Choose(ListerRequest& request) {
     requests_.push_back(request);
     if (const auto step = Take<ChooserStep>("the file chooser")) step->choose(request);
+}
+
+std::optional<Colour> ScriptedUser::Choose(Colour start, Extent extent) {
+    colourRequests_.push_back({start, extent});
+    const auto step = Take<ColourStep>("the colour dialog");
+    return step ? step->chosen : std::nullopt;
+}
+
+std::optional<FontSpec> ScriptedUser::Choose(const FontSpec& present) {
+    fontRequests_.push_back(present);
+    const auto step = Take<FontStep>("the font dialog");
+    return step ? step->chosen : std::nullopt;
 }
 
 template <class Kind>

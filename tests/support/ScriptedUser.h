@@ -16,10 +16,14 @@
 
 namespace korvane {
 
-/// Plays the user without a screen: windows, message boxes, file choosers and pop-up menus are answered from
-/// one script, in the order in which they come. What nobody scripted, what comes out of turn, what a script
+/// Plays the user without a screen: windows, message boxes, choosers and pop-up menus are answered from one
+/// script, in the order in which they come. What nobody scripted, what comes out of turn, what a script
 /// leaves open and what never came fails the test and names itself.
-class ScriptedUser final : public FormHost, public MessageBoxes, public FilePicker {
+class ScriptedUser final : public FormHost,
+                           public MessageBoxes,
+                           public FilePicker,
+                           public ColourPicker,
+                           public FontPicker {
 public:
     ScriptedUser() = default;
     ScriptedUser(const ScriptedUser&) = delete;
@@ -50,6 +54,10 @@ public:
     void ChooseFile(const Text& path);
     void ChooseFiles(const std::vector<Text>& paths);
     void CancelChooser();
+    /// The next to come is the colour dialog; nullopt cancels it.
+    void ChooseColour(std::optional<Colour> chosen) { steps_.push_back(ColourStep{chosen}); }
+    /// The next to come is the font dialog; nullopt cancels it.
+    void ChooseFont(std::optional<FontSpec> chosen) { steps_.push_back(FontStep{std::move(chosen)}); }
     /// The next to come is a pop-up menu, of which this entry is chosen; none for an empty name.
     void ChooseFromPopUp(std::string entry) { steps_.push_back(PopUpStep{std::move(entry)}); }
 
@@ -58,6 +66,15 @@ public:
     const std::vector<Message>& Messages() const { return messages_; }
     /// The requests as they reached the file chooser.
     const std::vector<ListerRequest>& Requests() const { return requests_; }
+    struct ColourRequest {
+        Colour start;
+        Extent extent;
+        bool operator==(const ColourRequest&) const = default;
+    };
+    /// With what the colour dialog opened, each time.
+    const std::vector<ColourRequest>& ColourRequests() const { return colourRequests_; }
+    /// With what the font dialog opened, each time.
+    const std::vector<FontSpec>& FontRequests() const { return fontRequests_; }
     /// The names of all pop-up menus that were shown.
     const std::vector<std::string>& PopUps() const { return popUps_; }
     /// The names of all windows that were brought to the front.
@@ -74,6 +91,8 @@ public:
     void Raise(Form& form) override;
     korvane::Answer Show(const Message& message) override;
     void Choose(ListerRequest& request) override;
+    std::optional<Colour> Choose(Colour start, Extent extent) override;
+    std::optional<FontSpec> Choose(const FontSpec& present) override;
 
 private:
     struct WindowStep {
@@ -90,7 +109,13 @@ private:
     struct PopUpStep {
         std::string entry;
     };
-    using Step = std::variant<WindowStep, BoxStep, ChooserStep, PopUpStep>;
+    struct ColourStep {
+        std::optional<Colour> chosen;
+    };
+    struct FontStep {
+        std::optional<FontSpec> chosen;
+    };
+    using Step = std::variant<WindowStep, BoxStep, ChooserStep, PopUpStep, ColourStep, FontStep>;
 
     /// The next step when it is of this kind; otherwise fails the test with `what` came.
     template <class Kind>
@@ -101,6 +126,8 @@ private:
     std::deque<Step> steps_;
     std::vector<Message> messages_;
     std::vector<ListerRequest> requests_;
+    std::vector<ColourRequest> colourRequests_;
+    std::vector<FontSpec> fontRequests_;
     std::vector<std::string> popUps_;
     std::vector<std::string> raised_;
     std::vector<Form*> shown_;

@@ -20,6 +20,8 @@ class TestApp {
 public:
     explicit TestApp(const PathStyle& style = PathStyle::Windows) : files(style, clock) {
         app.FilePicker = &user;
+        app.ColourPicker = &user;
+        app.FontPicker = &user;
     }
 
     MemoryClock clock;

@@ -134,6 +134,43 @@ TEST(ScriptedUser, ChoosesSeveralFiles) {
     EXPECT_EQ(request.ChosenFilePath, u"C:\\a.tbx");
 }
 
+TEST(ScriptedUser, ChoosesAColourAndTellsWhereTheDialogOpened) {
+    using enum ColourPicker::Extent;
+    ScriptedUser user;
+    user.ChooseColour(Colour{255});
+    user.ChooseColour(std::nullopt);
+    EXPECT_EQ(user.Choose(Colour{1}, Full), Colour{255});
+    EXPECT_EQ(user.Choose(Colour{2}, Simple), std::nullopt);
+    const std::vector<ScriptedUser::ColourRequest> requests{{Colour{1}, Full}, {Colour{2}, Simple}};
+    EXPECT_EQ(user.ColourRequests(), requests);
+}
+
+TEST(ScriptedUser, ChoosesAFontAndTellsWithWhichTheDialogOpened) {
+    const FontSpec present{u"Arial", 9};
+    const FontSpec chosen{u"Courier", 12, true};
+    ScriptedUser user;
+    user.ChooseFont(chosen);
+    user.ChooseFont(std::nullopt);
+    EXPECT_EQ(user.Choose(present), chosen);
+    EXPECT_EQ(user.Choose(chosen), std::nullopt);
+    EXPECT_EQ(user.FontRequests(), (std::vector<FontSpec>{present, chosen}));
+}
+
+TEST(ScriptedUser, FailsForAColourOrFontDialogThatNobodyScripted) {
+    EXPECT_NONFATAL_FAILURE(
+        {
+            ScriptedUser user;
+            EXPECT_EQ(user.Choose(Colour{1}, ColourPicker::Extent::Simple), std::nullopt);
+        },
+        "nobody scripted the colour dialog");
+    EXPECT_NONFATAL_FAILURE(
+        {
+            ScriptedUser user;
+            EXPECT_EQ(user.Choose(FontSpec{}), std::nullopt);
+        },
+        "nobody scripted the font dialog");
+}
+
 TEST(ScriptedUser, ChoosesAnEntryOfAPopUpMenu) {
     static constexpr std::array entries{MenuEntry{0, "first", u"First", ""}};
     ScriptedUser user;
