@@ -38,6 +38,9 @@ public:
     /// What the mouse pointer is over the grid.
     Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
 
+    /// How wide the grid is on the screen, as the view last told; 0 while it isn't shown.
+    Twips ShownWidth;
+
     // What the user does.
 
     /// Writes the cell and raises `AfterEdit`; nothing happens when the text is the same.

@@ -15,6 +15,14 @@ public:
     Property<int> Value{*this, Aspect::Value};
 
     std::function<void()> Change;
+    /// The user moved it; `Change` has fired by then.
+    std::function<void()> Scroll;
+    /// The user let go of it.
+    std::function<void()> Released;
+
+    // What the user does: nothing happens while the slider is disabled or hidden.
+    void MoveTo(int value);
+    void Release();
 
 protected:
     void Changed(Aspect aspect) override;
