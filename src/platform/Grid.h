@@ -151,6 +151,9 @@ public:
     /// The cell's value as bytes of `Page()`, valid until the next change; nullopt when the page can't hold
     /// it.
     virtual std::optional<std::string_view> CellBytes(Row row, Col col) const = 0;
+    /// Moves the texts of the columns from `first` on one column to the right: those of the last column are
+    /// lost, and `first` is left empty.
+    virtual void ShiftTextsRight(Col first) = 0;
     /// The first cell at or behind `from`, row by row, whose text holds `part`, with case counting.
     virtual std::optional<CellPosition> FindText(TextView part, CellPosition from) const = 0;
 

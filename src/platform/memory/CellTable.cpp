@@ -41,6 +41,17 @@ void CellTable::EraseCol(std::size_t erased) {
             [=, this](std::size_t row, std::size_t col) { return At(row, col < erased ? col : col + 1); });
 }
 
+void CellTable::ShiftRight(std::size_t first) {
+    const auto left = static_cast<std::ptrdiff_t>(first);
+    const auto width = static_cast<std::ptrdiff_t>(cols_);
+    for (Chunk& chunk : chunks_) {
+        for (auto row = chunk.begin(); row != chunk.end(); row += width) {
+            std::move_backward(row + left, row + width - 1, row + width);
+            row[left] = TextHandle();
+        }
+    }
+}
+
 void CellTable::Permute(std::span<const std::size_t> order) {
     Rebuild(cols_, [=, this](std::size_t row, std::size_t col) { return At(order[row], col); });
 }

@@ -20,6 +20,9 @@ public:
     /// Appends empty columns or drops columns from the end.
     void SetCols(std::size_t cols);
     void EraseCol(std::size_t col);
+    /// Moves the cells of the columns from `first` on one column to the right, over those of the last one,
+    /// and empties `first`.
+    void ShiftRight(std::size_t first);
     /// Puts row `order[i]` in the place of row i.
     void Permute(std::span<const std::size_t> order);
 

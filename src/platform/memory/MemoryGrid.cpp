@@ -171,6 +171,14 @@ std::optional<std::string_view> MemoryGrid::CellBytes(Row row, Col col) const {
     return texts_.Bytes(HandleAt(row, col));
 }
 
+void MemoryGrid::ShiftTextsRight(Col first) {
+    if (!HasCol(first)) return;
+    GiveUpTexts(ColCount(), ColCount());
+    cells_.ShiftRight(Index(first));
+    notifier_.TableChanged();
+    PackTextsIfWorthwhile();
+}
+
 void MemoryGrid::GiveUpTexts(std::size_t firstRow) {
     cells_.ForEach([this](TextHandle& handle) { texts_.GiveUp(handle); }, firstRow);
 }

@@ -90,6 +90,7 @@ public:
     void AdoptBytes(SharedBytes bytes) override;
     void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) override;
     std::optional<std::string_view> CellBytes(Row row, Col col) const override;
+    void ShiftTextsRight(Col first) override;
     std::optional<CellPosition> FindText(TextView part, CellPosition from) const override;
 
     void SetListener(GridListener* listener) override { notifier_.SetListener(listener); }

@@ -40,6 +40,13 @@ struct PlainTable {
             if (col == 0) row.check = 0, row.checkShown = false;
         }
     }
+    void ShiftTextsRight(std::size_t first) {
+        for (PlainRow& row : rows) {
+            for (std::size_t col = keys.size() - 1; col > first; --col)
+                row.cells[col].value = row.cells[col - 1].value;
+            row.cells[first].value.clear();
+        }
+    }
     void SetRows(std::size_t count) {
         PlainRow fresh;
         fresh.cells.resize(keys.size());
@@ -68,12 +75,13 @@ public:
 
     void Step() {
         static constexpr void (AgainstModel::*kSteps[])() = {
-            &AgainstModel::SetRowCount, &AgainstModel::AddCol,      &AgainstModel::RemoveCol,
-            &AgainstModel::Sort,        &AgainstModel::SetCellLook, &AgainstModel::SetRowLook,
-            &AgainstModel::SetRowState, &AgainstModel::Find,        &AgainstModel::Adopt,
+            &AgainstModel::SetRowCount,     &AgainstModel::AddCol,      &AgainstModel::RemoveCol,
+            &AgainstModel::ShiftTextsRight, &AgainstModel::Sort,        &AgainstModel::SetCellLook,
+            &AgainstModel::SetRowLook,      &AgainstModel::SetRowState, &AgainstModel::Find,
+            &AgainstModel::Adopt,
         };
         const int choice = Below(30);
-        if (choice < 9 && (choice > 3 || Below(4) == 0))
+        if (choice < 10 && (choice > 4 || Below(4) == 0))
             (this->*kSteps[choice])();
         else if (choice < 20)
             SetValue();
@@ -144,6 +152,12 @@ private:
         const std::size_t col = BelowSize(plain_.keys.size());
         plain_.RemoveCol(col);
         grid_.RemoveCol(ColAt(col));
+    }
+    void ShiftTextsRight() {
+        if (plain_.keys.empty()) return;
+        const std::size_t first = BelowSize(plain_.keys.size());
+        plain_.ShiftTextsRight(first);
+        grid_.ShiftTextsRight(ColAt(first));
     }
     void Sort() {
         if (plain_.keys.empty()) return;

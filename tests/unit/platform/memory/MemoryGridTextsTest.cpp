@@ -15,6 +15,25 @@ TEST_F(MemoryGridTextsTest, TextsInsideAndOutsideTheCodePageComeBack) {
     }
 }
 
+TEST_F(MemoryGridTextsTest, TextsShiftRightOverThoseOfTheLastColumn) {
+    Resize(2, 3);
+    FillColumn(Col{1}, {u"a", u"d"});
+    FillColumn(Col{2}, {u"b", u""});
+    FillColumn(Col{3}, {u"c", u"f"});
+    grid.ShiftTextsRight(Col{2});
+    EXPECT_EQ(Column(Col{1}), (std::vector<Text>{u"a", u"d"}));
+    EXPECT_EQ(Column(Col{2}), (std::vector<Text>{u"", u""}));
+    EXPECT_EQ(Column(Col{3}), (std::vector<Text>{u"b", u""}));
+}
+
+TEST_F(MemoryGridTextsTest, NothingShiftsFromAColumnThatDoesNotStand) {
+    Resize(1, 1);
+    grid.SetCellValue(Row{1}, Col{1}, u"a");
+    grid.ShiftTextsRight(Col{0});
+    grid.ShiftTextsRight(Col{2});
+    EXPECT_EQ(grid.CellValue(Row{1}, Col{1}), u"a");
+}
+
 TEST_F(MemoryGridTextsTest, CellBytesGivesTheBytesOfThePage) {
     Resize(1, 1);
     grid.SetCellValue(Row{1}, Col{1}, u"5 €");
