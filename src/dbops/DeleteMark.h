@@ -10,4 +10,9 @@ inline bool IsMarkedForDeletion(const Grid& grid, Row row) {
     return grid.CellBytes(row, Col{1}) == tbx::kDeleteMark;
 }
 
+/// Overwrites the text of the row's column 1 with the mark. Nothing happens when there is no such row.
+inline void MarkForDeletion(Grid& grid, Row row) {
+    grid.SetCellValue(row, Col{1}, FromAscii(tbx::kDeleteMark));
+}
+
 } // namespace korvane

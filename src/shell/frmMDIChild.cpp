@@ -3,6 +3,7 @@
 #include "common/Number.h"
 #include "context/App.h"
 #include "context/Ports.h"
+#include "dbops/RowHeight.h"
 #include "dbops/TableSearch.h"
 #include "shell/GridKeys.h"
 #include "shell/TabCommands.h"
@@ -19,6 +20,9 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
       table_(iGrid1.Store()) {
     cmdFind.Click = [this] { cmdFind_Click(); };
     txtFindString.KeyDown = [this](KeyEvent& key) { txtFindString_KeyDown(key); };
+    txtRowHeight.KeyDown = [this](KeyEvent& key) { txtRowHeight_KeyDown(key); };
+    ZoomSlider.Scroll = [this] { MoveRowHeight(Context(), ZoomSlider.Value); };
+    ZoomSlider.Released = [this] { ApplyRowHeight(Context()); };
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
@@ -66,6 +70,12 @@ void frmMDIChild::txtFindString_KeyDown(KeyEvent& key) {
     if (!key.Is(Key::Return, Mask::None)) return;
     key.consumed = true;
     cmdFind_Click();
+}
+
+void frmMDIChild::txtRowHeight_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Return, Mask::Ctrl | Mask::Shift)) return;
+    ApplyTypedRowHeight(Context(), txtRowHeight.Text.Get());
+    key.consumed = true;
 }
 
 void frmMDIChild::iGrid1_AfterEdit() {

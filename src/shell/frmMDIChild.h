@@ -51,6 +51,7 @@ public:
 private:
     void cmdFind_Click();
     void txtFindString_KeyDown(KeyEvent& key);
+    void txtRowHeight_KeyDown(KeyEvent& key);
     void iGrid1_AfterEdit();
     void iGrid1_HeaderClick();
     void iGrid1_MouseUp(MouseButton button);
@@ -60,6 +61,7 @@ private:
     void RunOnMainWindow(std::string_view command);
 
     void ShowRowHeight(std::int16_t height) override;
+    Twips GridWidth() const override { return iGrid1.ShownWidth; }
     void SetTabCaption(TextView caption) override;
     void ClearDirty() override;
 

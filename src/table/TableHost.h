@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/Text.h"
+#include "common/Units.h"
 
 #include <cstdint>
 
@@ -13,6 +14,8 @@ public:
     /// Sets the slider and the box of the row height.
     virtual void ShowRowHeight(std::int16_t height) = 0;
     virtual void SetTabCaption(TextView caption) = 0;
+    /// How wide the grid is on the screen; 0 where none is shown.
+    virtual Twips GridWidth() const { return {}; }
     /// Clears the `Dirty` flag of the tab's slot.
     virtual void ClearDirty() = 0;
 };

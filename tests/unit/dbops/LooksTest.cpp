@@ -4,6 +4,10 @@
 #include "dbops/frmChooseRange.h"
 #include "dbops/frmDelimiterType.h"
 #include "dbops/frmFindReplace.h"
+#include "dbops/frmRowColour.h"
+#include "dbops/frmSetRowHeight.h"
+#include "dbops/frmTxtDbAddRows.h"
+#include "dbops/frmTxtDbColName.h"
 #include "support/TempDir.h"
 #include "unit/dbops/TestTab.h"
 
@@ -72,6 +76,28 @@ TEST_F(Looks, DelimiterType) {
           {"lstColumns", "optDelimiter0", "optDelimiter1", "optDelimiter2", "optDelimiter3", "optDelimiter4",
            "chkBreakAfterFieldThree", "cmdProceed", "cmdCancel"},
           {"Columns to copy"});
+}
+
+TEST_F(Looks, AddRows) {
+    Check(frmTxtDbAddRows(t.app), {"List1", "cmdProceed", "cmdCancel"},
+          {" Add rows to text database ", "Rows to add"});
+}
+
+TEST_F(Looks, SetRowHeight) {
+    Check(frmSetRowHeight(t.tab), {"cboRowHeight", "cmdProceed", "cmdCancel"}, {"Set row height"});
+}
+
+TEST_F(Looks, ColName) {
+    Check(frmTxtDbColName(t.app, u""), {"txtNewColumnName", "cmdColAccept", "cmdColReject"},
+          {" Alter name of current column ", "Old name", "New name"});
+}
+
+TEST_F(Looks, RowColour) {
+    Check(frmRowColour(t.tab, Colour{0}),
+          {"lstColourOptions", "Text1", "chkRemoveChecksAtstart", "optAttribute1", "optAttribute2",
+           "optAttribute3", "cmdAccept", "cmdSelect", "cmdFilterToAttribute", "cmdRemoveFilter", "cmdItalic",
+           "cmdBold", "cmdStrikethrough", "cmdCancel"},
+          {"Attribute"});
 }
 
 } // namespace

@@ -16,12 +16,17 @@ class GridWatcher final : public GridListener {
 public:
     int focusWanted = 0;
     int refreshes = 0;
+    int rowChanges = 0;
+    /// Whether the grid was visible, each time that its look changed.
+    std::vector<bool> looks;
     std::vector<Row> rowsWanted;
+    /// Whose looks to note.
+    const Grid* watched = nullptr;
 
-    void RowsChanged(Row, Row) override {}
+    void RowsChanged(Row, Row) override { ++rowChanges; }
     void TableChanged() override { ++refreshes; }
     void ColumnChanged(Col) override {}
-    void LookChanged() override {}
+    void LookChanged() override { looks.push_back(watched->GridVisible()); }
     void CurrentCellChanged() override {}
     void FocusWanted() override { ++focusWanted; }
     void RowWantedInView(Row row) override { rowsWanted.push_back(row); }
@@ -32,7 +37,10 @@ class RecordingHost final : public TableHost {
 public:
     std::vector<std::int16_t> heights;
 
+    Twips gridWidth;
+
     void ShowRowHeight(std::int16_t height) override { heights.push_back(height); }
+    Twips GridWidth() const override { return gridWidth; }
     void SetTabCaption(TextView) override {}
     void ClearDirty() override {}
 };
@@ -40,7 +48,10 @@ public:
 /// A program with one table in memory, open on a tab.
 class TestTab : public TestApp {
 public:
-    TestTab() { grid.SetListener(&watcher); }
+    TestTab() {
+        watcher.watched = &grid;
+        grid.SetListener(&watcher);
+    }
 
     using TextRow = std::initializer_list<Text>;
 
@@ -66,6 +77,40 @@ public:
     CellPosition Current() const { return {grid.CurRow(), grid.CurCol()}; }
     Text Cell(int row, int col) const { return grid.CellText(Row{row}, Col{col}); }
     void SetCell(int row, int col, const Text& text) { grid.SetCellValue(Row{row}, Col{col}, text); }
+    /// The texts of a column, from the first row to the last.
+    std::vector<Text> Column(int col) const {
+        std::vector<Text> texts;
+        for (Row row{1}; row <= grid.RowCount(); ++row)
+            texts.push_back(grid.CellText(row, Col{col}));
+        return texts;
+    }
+    /// What `measure(Row)` gives for each row.
+    template <class Measure>
+    auto OfRows(const Measure& measure) const {
+        std::vector<decltype(measure(Row{1}))> values;
+        for (Row row{1}; row <= grid.RowCount(); ++row)
+            values.push_back(measure(row));
+        return values;
+    }
+    std::vector<int> Heights() const {
+        return OfRows([this](Row row) { return grid.RowHeight(row); });
+    }
+    std::vector<int> Ticks() const {
+        return OfRows([this](Row row) { return grid.CellCheck(row); });
+    }
+    std::vector<bool> Visible() const {
+        return OfRows([this](Row row) { return grid.RowVisible(row); });
+    }
+    void Hide(std::initializer_list<int> rows) {
+        for (const int row : rows)
+            grid.SetRowVisible(Row{row}, false);
+    }
+    /// The next message box asks this with Yes and No.
+    void AnswerQuestion(const Text& text, Answer answer, int defaultButton = 1) {
+        user.Answer({text, MessageIcon::Question, MessageButtons::YesNo, defaultButton}, answer);
+    }
+    /// The next message box tells this.
+    void AnswerInformation(const Text& text) { user.Answer({text, MessageIcon::Information}, Answer::Ok); }
     void Tick(std::initializer_list<int> rows) {
         for (const int row : rows)
             grid.SetCellCheck(Row{row}, 1);

@@ -142,6 +142,81 @@ TEST_F(TabTest, ShowsTheRowHeightOfItsFile) {
     EXPECT_EQ(Tab().Table().TableAltered, 0);
 }
 
+TEST_F(TabTest, TheSliderSetsTheHeightWhileItMovesAndTheRowsWhenItIsReleased) {
+    Start();
+    Tab().ZoomSlider.MoveTo(50);
+    EXPECT_EQ(Tab().Table().SetRowHeight, 50);
+    EXPECT_EQ(Tab().txtRowHeight.Text.Get(), u"50");
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{1}), 24);
+    Tab().ZoomSlider.Release();
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{1}), 50);
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{2}), 50);
+}
+
+TEST_F(TabTest, CtrlShiftReturnInTheBoxSetsTheHeightOfAllRows) {
+    Start();
+    Tab().txtRowHeight.Type(u"500 or so");
+    KeyEvent plain{Key::Return, Mask::None};
+    Tab().txtRowHeight.KeyDown(plain);
+    EXPECT_FALSE(plain.consumed);
+    EXPECT_EQ(Tab().Table().SetRowHeight, 24);
+    KeyEvent apply{Key::Return, Mask::Ctrl | Mask::Shift};
+    Tab().txtRowHeight.KeyDown(apply);
+    EXPECT_TRUE(apply.consumed);
+    EXPECT_EQ(Tab().Table().SetRowHeight, 500);
+    EXPECT_EQ(Tab().txtRowHeight.Text.Get(), u"500");
+    EXPECT_EQ(Tab().ZoomSlider.Value, 500);
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{2}), 500);
+}
+
+TEST_F(TabTest, RowColourKeysColourTheCurrentRowAndDeliberatelyReachTheGrid) {
+    Start();
+    struct KeyColour {
+        char16_t digit, letter;
+        int text;
+    };
+    constexpr KeyColour kKeys[] = {{u'1', u'F', 0},        {u'2', u'H', 0xE0E0E0}, {u'3', u'Y', 0},
+                                   {u'4', u'R', 0xFFFFFF}, {u'5', u'K', 0xFFFFFF}, {u'6', u'L', 0xC00000},
+                                   {u'7', u'G', 0xC00000}, {u'8', u'A', 0xFFFFFF}, {u'9', u'O', 0xC00000}};
+    for (const KeyColour& key : kKeys) {
+        for (const char16_t code : {key.digit, key.letter}) {
+            Tab().GridStore().SetRowForeColor(Row{1}, kNoColour);
+            Tab().Table().TableAltered = 0;
+            EXPECT_FALSE(p.PressKey(code, Mask::Ctrl | Mask::Alt));
+            EXPECT_EQ(Tab().GridStore().CellForeColor(Row{1}, Col{1}), Colour{key.text}) << int{code};
+            EXPECT_EQ(Tab().Table().TableAltered, 1);
+        }
+    }
+    p.PressKey('3', Mask::Ctrl | Mask::Alt);
+    EXPECT_EQ(Tab().GridStore().CellBackColor(Row{1}, Col{1}), Colour{0x00FFFF});
+}
+
+TEST_F(TabTest, CtrlShiftLettersFlipTheFontFlagsOfTheCurrentRow) {
+    Start();
+    const std::pair<int, CellFlag> keys[] = {
+        {'I', CellFlag::Italic}, {'B', CellFlag::Bold}, {'X', CellFlag::Strikethrough}};
+    for (const auto& [code, flag] : keys) {
+        EXPECT_TRUE(p.PressKey(code, Mask::Ctrl | Mask::Shift));
+        EXPECT_TRUE(Tab().GridStore().CellFontFlag(Row{1}, Col{1}, flag));
+    }
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, Ctrl1ChoosesTheFontOfTheTable) {
+    Start();
+    p.user.ChooseFont(FontSpec{u"Courier", 12});
+    EXPECT_TRUE(p.PressKey('1', Mask::Ctrl));
+    EXPECT_EQ(Tab().GridStore().GridFontName(), u"Courier");
+}
+
+TEST_F(TabTest, RefreshedColumnsFillTheShownGrid) {
+    Start();
+    Tab().iGrid1.ShownWidth = Twips{3100};
+    Tab().Invoke("MnuEdit_RefreshColumnWidths_Clack");
+    EXPECT_EQ(Tab().GridStore().ColWidth(Col{1}), 200);
+}
+
 TEST_F(TabTest, ALoadClearsTheDirtyFlagOfItsSlot) {
     Start();
     p.AllTabs().TabState[1].Dirty = -1;

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "common/Text.h"
+#include "common/Units.h"
+
+#include <span>
+
+namespace korvane {
+
+/// The two colours of a row.
+struct RowColours {
+    Colour back;
+    Colour text;
+    bool operator==(const RowColours&) const = default;
+};
+
+/// One of the colourings that rows can have.
+struct RowColourChoice {
+    /// In the list, and beside it as the help to the keys.
+    TextView listText;
+    TextView keyText;
+    /// `kNoColour` stands for the background of the table.
+    Colour backByDialog;
+    Colour backByKey;
+    Colour text;
+
+    RowColours ByDialog(Colour tableBack) const { return {Filled(backByDialog, tableBack), text}; }
+    RowColours ByKey(Colour tableBack) const { return {Filled(backByKey, tableBack), text}; }
+
+private:
+    static Colour Filled(Colour back, Colour tableBack) { return back == kNoColour ? tableBack : back; }
+};
+
+/// The nine colourings in the order of the list and of the keys' digits.
+std::span<const RowColourChoice> RowColourChoices();
+/// nullptr for an index, from 0, that isn't in the list.
+const RowColourChoice* RowColourChoiceAt(int index);
+
+} // namespace korvane
