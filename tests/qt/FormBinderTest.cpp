@@ -183,6 +183,35 @@ TEST_F(FormBinderTest, ASliderKeepsAValueOutsideItsRange) {
     EXPECT_EQ(changes, 2);
 }
 
+TEST_F(FormBinderTest, ASliderTellsWhenItIsLetGoOf) {
+    auto& slider = Widget<QSlider>("ZoomSlider");
+    int scrolls = 0;
+    int releases = 0;
+    form.ZoomSlider.Scroll = [&scrolls] { ++scrolls; };
+    form.ZoomSlider.Released = [&releases] { ++releases; };
+    slider.setSliderDown(true);
+    slider.setSliderPosition(40);
+    slider.setSliderPosition(50);
+    EXPECT_EQ(scrolls, 2);
+    EXPECT_EQ(releases, 0);
+    slider.setSliderDown(false);
+    EXPECT_EQ(releases, 1);
+}
+
+TEST_F(FormBinderTest, ASliderMovedByKeyIsLetGoOfAtOnce) {
+    int releases = 0;
+    form.ZoomSlider.Released = [&releases] { ++releases; };
+    Widget<QSlider>("ZoomSlider").triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(releases, 1);
+}
+
+TEST_F(FormBinderTest, ASliderThatTheProgramMovesTellsNoMoveOfTheUser) {
+    int moves = 0;
+    form.ZoomSlider.Scroll = form.ZoomSlider.Released = [&moves] { ++moves; };
+    form.ZoomSlider.Value = 40;
+    EXPECT_EQ(moves, 0);
+}
+
 TEST_F(FormBinderTest, ALineFollowsAndLeads) {
     auto& line = Widget<QLineEdit>("txtLine");
     EXPECT_EQ(line.text(), QString("line"));

@@ -3,6 +3,7 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "platform/qt/CellEditor.h"
+#include "platform/qt/Convert.h"
 #include "platform/qt/QtFormHost.h"
 
 #include <gtest/gtest.h>
@@ -526,6 +527,14 @@ TEST_F(GridViewTest, ALongTextStaysInItsCell) {
     Store().SetCellValue(Row{3}, Col{2}, Text(5000, u'W') + u"\r\nmore");
     EXPECT_EQ(View().viewport()->grab(Cell(3, 3)).toImage(), neighbour);
     EXPECT_EQ(View().viewport()->grab(Cell(4, 2)).toImage(), below);
+}
+
+TEST_F(GridViewTest, TellsHowWideItIsOnTheScreen) {
+    EXPECT_EQ(form.iGrid1.ShownWidth, ToTwips(View().width()));
+    View().setMinimumWidth(View().width() + 100);
+    test::Settle();
+    EXPECT_EQ(form.iGrid1.ShownWidth, ToTwips(View().width()));
+    EXPECT_GT(form.iGrid1.ShownWidth, Twips{0});
 }
 
 TEST_F(GridViewTest, ADetachedViewIsEmptyAndDeaf) {

@@ -72,6 +72,7 @@ void GridView::Attach(GridBox& box) {
     QTableView::setModel(model_.get());
     setItemDelegate(delegate_.get());
     box.Store().SetListener(this);
+    box.ShownWidth = ToTwips(width());
     ReadLook();
     ReadTable();
 }
@@ -342,6 +343,11 @@ void GridView::leaveEvent(QEvent* event) {
 }
 
 // ---- Painting -----------------------------------------------------------------------------------------
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (box_ != nullptr) box_->ShownWidth = ToTwips(width());
+}
 
 void GridView::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);

@@ -101,7 +101,12 @@ void LabelAdaptor::Write(Aspect aspect) {
 }
 
 SliderAdaptor::SliderAdaptor(Slider& slider, QAbstractSlider& widget) : AdaptorOf(slider, widget) {
-    connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) { control_.Value = value; });
+    connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
+        control_.MoveTo(value);
+        // What a key, the wheel or a click on the groove moves is never held.
+        if (!widget_.isSliderDown()) control_.Release();
+    });
+    connect(&widget, &QAbstractSlider::sliderReleased, this, [this] { control_.Release(); });
 }
 
 void SliderAdaptor::Write(Aspect aspect) {
