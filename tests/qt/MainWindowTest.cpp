@@ -158,6 +158,8 @@ TEST_F(MainWindowTest, SpaceRunsTheRowOfTheSideBar) {
 }
 
 TEST_F(MainWindowTest, AKeyOfTheMenuIsTheMenusAlsoWhileACellIsEdited) {
+    outside.user.Answer(Answer::No);
+    outside.user.Answer(Answer::No);
     Key(Qt::Key_F2);
     Key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(Window().findChild<CellEditor*>(), nullptr);
@@ -166,6 +168,7 @@ TEST_F(MainWindowTest, AKeyOfTheMenuIsTheMenusAlsoWhileACellIsEdited) {
     QTest::keyClicks(&find, "text");
     Key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(find.hasSelectedText());
+    EXPECT_EQ(outside.user.Messages().size(), 2u);
 }
 
 TEST_F(MainWindowTest, F10InTheTableOffersANewName) {

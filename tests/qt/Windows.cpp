@@ -2,6 +2,10 @@
 
 #include "dbops/frmChooseRange.h"
 #include "dbops/frmFindReplace.h"
+#include "dbops/frmRowColour.h"
+#include "dbops/frmSetRowHeight.h"
+#include "dbops/frmTxtDbAddRows.h"
+#include "dbops/frmTxtDbColName.h"
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
 #include "shell/frmAbout.h"
@@ -54,9 +58,20 @@ constexpr Window kWindows[] = {
     {"frmMyInputBox", FromApp<frmMyInputBox>},
     {"frmMyMsgBox", FromApp<frmMyMsgBox>},
     {"frmProgramLocations", FromApp<frmProgramLocations>},
+    {"frmRowColour",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmRowColour>(all.tab, Colour{0xFFFFFF});
+     }},
+    {"frmSetRowHeight",
+     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSetRowHeight>(all.tab); }},
     {"frmSetYourProg", FromApp<frmSetYourProg>},
     {"frmSettings",
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSettings>(all.main); }},
+    {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
+    {"frmTxtDbColName",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmTxtDbColName>(all.program.app, u"Name");
+     }},
     {"frmTxtDbInfo",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmTxtDbInfo>(all.tab, true);
