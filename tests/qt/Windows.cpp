@@ -70,7 +70,7 @@ constexpr Window kWindows[] = {
     {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
     {"frmTxtDbColName",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmTxtDbColName>(all.program.app, u"Name");
+         return std::make_unique<frmTxtDbColName>(all.app, u"Name");
      }},
     {"frmTxtDbInfo",
      [](Surroundings& all) -> std::unique_ptr<Form> {
