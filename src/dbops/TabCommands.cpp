@@ -8,6 +8,7 @@
 #include "dbops/RowLookCommands.h"
 #include "dbops/TickCommands.h"
 #include "dbops/frmFindReplace.h"
+#include "dbops/frmViewCell.h"
 
 #include <array>
 
@@ -53,6 +54,7 @@ constexpr std::array kCommands{
     DbOpsCommand{"RowColour8", &RowColour<8>},
     DbOpsCommand{"mnuEdit_Find_Clack", &mnuEdit_Find_Clack},
     DbOpsCommand{"mnuEdit_Replace_Clack", &mnuEdit_Replace_Clack},
+    DbOpsCommand{"mnuEdit_EditCell_Clack", &mnuEdit_EditCell_Clack},
     DbOpsCommand{"mnuEdit_CopyCellToText_Clack", &mnuEdit_CopyCellToText_Clack},
     DbOpsCommand{"mnuEdit_CopyRowToText_Clack", &mnuEdit_CopyRowToText_Clack},
     DbOpsCommand{"mnuCopyColumn_Clack", &mnuCopyColumn_Clack},

@@ -80,6 +80,10 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmTxtInfo>(all.app, all.facts);
      }},
+    {"frmViewCell",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmViewCell>(all.app, all.cell);
+     }},
     {"frmWindowSize",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmWindowSize>(all.app, all.main.WindowSize);

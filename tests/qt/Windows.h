@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "dbops/frmDelimiterType.h"
+#include "dbops/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
 #include "shell/TabStates.h"
 #include "shell/frmMDIChild.h"
@@ -22,6 +23,7 @@ struct Surroundings {
     frmMDIChild child{app, states};
     TabContext tab = child.Context();
     CopyRequest copy;
+    CellExchange cell;
     FileFacts facts;
     frmMDIParent main{app, Text()};
 };

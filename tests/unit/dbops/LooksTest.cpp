@@ -8,6 +8,7 @@
 #include "dbops/frmSetRowHeight.h"
 #include "dbops/frmTxtDbAddRows.h"
 #include "dbops/frmTxtDbColName.h"
+#include "dbops/frmViewCell.h"
 #include "support/TempDir.h"
 #include "unit/dbops/TestTab.h"
 
@@ -69,6 +70,14 @@ TEST_F(Looks, FindReplace) {
 TEST_F(Looks, ChooseRange) {
     Check(frmChooseRange(t.app), {"Option1", "Option2", "cmdProceed", "cmdCancel"},
           {"Choose range for pending operation"});
+}
+
+TEST_F(Looks, ViewCell) {
+    CellExchange exchange;
+    Check(frmViewCell(t.app, exchange),
+          {"txtCell", "cmdWriteBack", "cmdOk", "cmdExit", "cmdClipboard", "cmdWordList", "cmdDateTime",
+           "cmdAsciiBox", "cmdElements", "cmdFonts", "cmdHTML"},
+          {"Text of the cell"});
 }
 
 TEST_F(Looks, DelimiterType) {
