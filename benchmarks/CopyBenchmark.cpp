@@ -1,0 +1,56 @@
+#include "BenchProgram.h"
+#include "Contest.h"
+#include "LimitTable.h"
+#include "dbops/CopyCommands.h"
+#include "dbops/frmDelimiterType.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+namespace korvane::bench {
+
+namespace {
+
+/// A user who wants all columns, with what stands between them as it is.
+class ProceedingUser final : public FormHost {
+public:
+    void RunModal(Form& form) override {
+        if (auto* question = dynamic_cast<frmDelimiterType*>(&form)) question->cmdProceed.Press();
+    }
+    void Show(Form&) override {}
+    void Hide(Form&) override {}
+    void PopUp(Menu&) override {}
+    void Raise(Form&) override {}
+};
+
+/// Floor: the file's bytes copied into a fresh buffer. The copied text takes nearly twice as many.
+void CopyTable(benchmark::State& state) {
+    const std::string& file = LimitTableBytes();
+    BenchProgram program;
+    program.Load();
+    ProceedingUser user;
+    App app{{program.files, program.messages, program.clipboard, program.clock, program.screen, program.shell,
+             program.instance, user, [] { return nullptr; }}};
+    app.Settings.DelimiterString = u"\t";
+    const TabContext tab{app, program.table, program.host};
+    Contest contest(state);
+    for ([[maybe_unused]] auto _ : state) {
+        const double floor = SecondsOf([&file] {
+            const auto copy = std::make_unique_for_overwrite<char[]>(file.size());
+            benchmark::DoNotOptimize(std::memcpy(copy.get(), file.data(), file.size()));
+        });
+        const double work = SecondsOf([&tab] { mnuCopyTableToClipboard_Clack(tab); });
+        const Text copied = program.clipboard.GetText();
+        if (!copied.ends_with(u"\r\n\r\n")) std::abort();
+        state.counters["bytes_copied"] = static_cast<double>(copied.size() * sizeof(char16_t));
+        program.clipboard.Clear();
+        contest.Round(floor, work);
+    }
+}
+
+BENCHMARK(CopyTable)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+
+} // namespace
+
+} // namespace korvane::bench
