@@ -381,6 +381,7 @@ TEST_F(ViewCell, TheChosenFontGoesToTheBoxAndTheSettings) {
 }
 
 TEST_F(ViewCell, ToolsThatAreNotThereChangeNothing) {
+    t.app.FontPicker = nullptr;
     Look([](frmViewCell& f) {
         for (CommandButton* tool : {&f.cmdClipboard, &f.cmdWordList, &f.cmdDateTime, &f.cmdAsciiBox,
                                     &f.cmdElements, &f.cmdFonts, &f.cmdHTML})
