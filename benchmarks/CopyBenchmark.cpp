@@ -1,6 +1,7 @@
 #include "BenchProgram.h"
 #include "Contest.h"
 #include "LimitTable.h"
+#include "ProceedingUser.h"
 #include "dbops/CopyCommands.h"
 #include "dbops/frmDelimiterType.h"
 
@@ -12,24 +13,13 @@ namespace korvane::bench {
 
 namespace {
 
-/// A user who wants all columns, with what stands between them as it is.
-class ProceedingUser final : public FormHost {
-public:
-    void RunModal(Form& form) override {
-        if (auto* question = dynamic_cast<frmDelimiterType*>(&form)) question->cmdProceed.Press();
-    }
-    void Show(Form&) override {}
-    void Hide(Form&) override {}
-    void PopUp(Menu&) override {}
-    void Raise(Form&) override {}
-};
-
 /// Floor: the file's bytes copied into a fresh buffer. The copied text takes nearly twice as many.
 void CopyTable(benchmark::State& state) {
     const std::string& file = LimitTableBytes();
     BenchProgram program;
     program.Load();
     ProceedingUser user;
+    user.On<frmDelimiterType>([](frmDelimiterType& form) { form.cmdProceed.Press(); });
     App app{{program.files, program.messages, program.clipboard, program.clock, program.screen, program.shell,
              program.instance, user, [] { return nullptr; }}};
     app.Settings.DelimiterString = u"\t";
