@@ -11,10 +11,22 @@ namespace korvane {
 struct TabStyleColours {
     /// Of the strip, and of the surfaces of the window that go with it.
     Colour strip;
-    /// Of the active tab's mark and of lines.
+    /// Of the active tab's mark and of the line round the strip.
     Colour second;
 
     bool operator==(const TabStyleColours&) const = default;
+};
+
+/// How the active tab stands out.
+enum class TabMark : std::uint8_t {
+    /// A bar of the second colour along its lower edge.
+    Below,
+    /// The same along its upper edge.
+    Above,
+    /// A line of the second colour round it.
+    Outlined,
+    /// All of it in the second colour.
+    Filled,
 };
 
 /// The look that a style number stands for.
@@ -27,6 +39,7 @@ struct TabStyle {
     int cornerRadius;
     /// How much of the strip's colour tints the tabs that aren't active, in percent.
     int tint;
+    TabMark mark;
 
     bool Rounded() const { return cornerRadius > 0; }
     const TabStyleColours& Colours(bool onDark) const { return onDark ? dark : light; }

@@ -3,7 +3,10 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
+#include "platform/qt/CellLook.h"
+#include "platform/qt/Palettes.h"
 #include "platform/qt/QtFormHost.h"
+#include "platform/qt/TabLook.h"
 #include "platform/qt/TabPages.h"
 
 #include <gtest/gtest.h>
@@ -61,7 +64,7 @@ protected:
         }
     }
     TabPages& Pages() { return *host.WidgetOf(parent)->findChild<TabPages*>(); }
-    QTabBar& Tabs() { return Pages().Tabs(); }
+    TabBar& Tabs() { return Pages().Tabs(); }
     QPoint At(int tab) { return Tabs().tabRect(tab).center(); }
 
     QtFormHost host{kForms};
@@ -162,14 +165,101 @@ TEST_F(TabStripTest, DrawingCanBeHeld) {
     EXPECT_TRUE(Pages().updatesEnabled());
 }
 
-TEST_F(TabStripTest, EachStyleHasALookOfItsOwn) {
-    QSet<QString> looks;
-    constexpr int styles[] = {0, 1, 5, 6, 7, 10, 11, 12, 13, 14, 20, 25, 30, 31, 32, 33, 40};
-    for (const int style : styles) {
-        parent.MDITabs1.Style = style;
-        looks.insert(Tabs().styleSheet());
+/// Puts back the palette at its end.
+class UnderPalette {
+public:
+    explicit UnderPalette(const QPalette& palette) { QApplication::setPalette(palette); }
+    UnderPalette(const UnderPalette&) = delete;
+    UnderPalette& operator=(const UnderPalette&) = delete;
+    ~UnderPalette() { QApplication::setPalette(before_); }
+
+private:
+    QPalette before_ = QApplication::palette();
+};
+
+int DifferentPixels(const QImage& a, const QImage& b) {
+    int different = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            different += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
     }
-    EXPECT_EQ(looks.size(), static_cast<qsizetype>(std::size(styles)));
+    return different;
+}
+
+TEST_F(TabStripTest, EachStyleIsToBeToldFromEveryOtherInLightAndDark) {
+    AddBoth();
+    for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
+        const UnderPalette under(palette);
+        std::vector<QImage> pictures;
+        for (const TabStyle& style : TabStyles()) {
+            parent.MDITabs1.Style = style.number;
+            pictures.push_back(Tabs().grab().toImage());
+        }
+        const int tabHeight = Tabs().tabRect(0).height();
+        for (std::size_t a = 0; a < pictures.size(); ++a) {
+            for (std::size_t b = a + 1; b < pictures.size(); ++b) {
+                EXPECT_GT(DifferentPixels(pictures[a], pictures[b]), tabHeight * 3)
+                    << TabStyles()[a].number << " and " << TabStyles()[b].number;
+            }
+        }
+    }
+}
+
+TEST_F(TabStripTest, CaptionsCanBeReadInEveryStyleInLightAndDark) {
+    constexpr double kReadable = 4.5;
+    for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
+        for (const TabStyle& style : TabStyles()) {
+            const TabColours colours = ColoursOf(style, palette);
+            EXPECT_GE(Contrast(colours.activeText, colours.active), kReadable) << style.number;
+            EXPECT_GE(Contrast(colours.restText, colours.rest), kReadable) << style.number;
+            EXPECT_GE(Contrast(colours.restText, colours.hover), kReadable) << style.number;
+        }
+    }
+}
+
+TEST_F(TabStripTest, AStyleThatIsSetTwiceLooksTheSame) {
+    AddBoth();
+    parent.MDITabs1.Style = 13;
+    const QImage once = Tabs().grab().toImage();
+    parent.MDITabs1.Style = 40;
+    parent.MDITabs1.Style = 13;
+    EXPECT_EQ(Tabs().grab().toImage(), once);
+}
+
+TEST_F(TabStripTest, ACaptionIsWholeWhereThereIsRoomAndCutInACrowd) {
+    AddBoth();
+    const auto room = [this](int tab) { return Tabs().tabRect(tab).width(); };
+    const auto whole = [this](int tab) {
+        return Tabs().fontMetrics().horizontalAdvance(Tabs().tabText(tab)) +
+               Tabs().tabButton(tab, QTabBar::RightSide)->width();
+    };
+    EXPECT_GT(room(1), whole(1));
+    second.Caption = Text(200, u'w');
+    EXPECT_LT(room(1), whole(1));
+}
+
+TEST_F(TabStripTest, ALineStandsRoundAFramedStrip) {
+    AddBoth();
+    const QColor strip = Tabs().Colours().strip;
+    const auto corner = [this] { return QColor(Tabs().grab().toImage().pixel(Tabs().width() - 1, 10)); };
+    EXPECT_EQ(corner(), strip);
+    parent.MDITabs1.Framed = true;
+    EXPECT_EQ(corner(), Tabs().Colours().frame);
+}
+
+TEST_F(TabStripTest, ATabIsClosedByItsOwnButton) {
+    AddBoth();
+    Form* wanted = nullptr;
+    parent.MDITabs1.CloseWanted = [&wanted](Form& child) { wanted = &child; };
+    QWidget* button = Tabs().tabButton(1, QTabBar::RightSide);
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(Tabs().tabRect(1).contains(button->geometry()));
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(wanted, &second);
+    parent.MDITabs1.Remove(first);
+    wanted = nullptr;
+    QTest::mouseClick(Tabs().tabButton(0, QTabBar::RightSide), Qt::LeftButton);
+    EXPECT_EQ(wanted, &second);
 }
 
 } // namespace

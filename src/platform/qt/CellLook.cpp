@@ -73,6 +73,10 @@ double Contrast(const QColor& text, const QColor& back) {
 QColor TextFor(const QColor& back, const QPalette& palette) {
     const QColor text = palette.color(QPalette::Text);
     if (Contrast(text, back) >= kReadable) return text;
+    return BlackOrWhite(back);
+}
+
+QColor BlackOrWhite(const QColor& back) {
     return Contrast(Qt::black, back) >= Contrast(Qt::white, back) ? Qt::black : Qt::white;
 }
 

@@ -29,6 +29,9 @@ double Contrast(const QColor& text, const QColor& back);
 /// The palette's text colour if it can be read on `back`, else black or white.
 QColor TextFor(const QColor& back, const QPalette& palette);
 
+/// Which of the two can be read better on `back`.
+QColor BlackOrWhite(const QColor& back);
+
 /// `colour` with `share` (0 to 1) of `other` in it.
 QColor Blend(const QColor& colour, const QColor& other, double share);
 

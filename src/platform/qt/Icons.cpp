@@ -1,5 +1,7 @@
 #include "platform/qt/Icons.h"
 
+#include "platform/qt/Palettes.h"
+
 #include <QAction>
 #include <QBuffer>
 #include <QFile>
@@ -31,8 +33,7 @@ Tints PaletteTints(QIcon::Mode mode) {
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const QByteArray text = palette.color(group, QPalette::ButtonText).name().toLatin1();
     if (mode == QIcon::Disabled) return {text, text};
-    const bool dark = palette.color(QPalette::Window).lightness() < 128;
-    return dark ? Tints{text, kAccentOnDark} : Tints{kStroke, kAccent};
+    return IsDark(palette) ? Tints{text, kAccentOnDark} : Tints{kStroke, kAccent};
 }
 
 QPixmap Draw(QByteArray svg, const QSize& size, const Tints& tints) {

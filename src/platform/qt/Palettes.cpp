@@ -59,10 +59,6 @@ bool DesktopPrefersDark() {
     return value.toUInt() == kPrefersDark;
 }
 
-bool IsDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < 128;
-}
-
 } // namespace
 
 QPalette DarkPalette() {
@@ -73,6 +69,10 @@ QPalette DarkPalette() {
         palette.setColor(QPalette::Disabled, role, QColor::fromRgb(kDisabled));
     }
     return palette;
+}
+
+bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Window).lightness() < 128;
 }
 
 void FollowDesktopPalette() {

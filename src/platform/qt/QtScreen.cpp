@@ -1,6 +1,7 @@
 #include "platform/qt/QtScreen.h"
 
 #include "platform/qt/Convert.h"
+#include "platform/qt/Palettes.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -13,6 +14,10 @@ Rect QtScreen::WorkArea() const {
     if (screen == nullptr) return {};
     const QRect area = screen->availableGeometry();
     return {ToTwips(area.left()), ToTwips(area.top()), ToTwips(area.width()), ToTwips(area.height())};
+}
+
+bool QtScreen::IsDark() const {
+    return korvane::IsDark(QGuiApplication::palette());
 }
 
 void QtScreen::SetPointer(Pointer pointer) {

@@ -7,6 +7,7 @@ namespace korvane {
 class QtScreen final : public Screen {
 public:
     Rect WorkArea() const override;
+    bool IsDark() const override;
     void SetPointer(Pointer pointer) override;
     void ProcessMessages() override;
 

@@ -1,10 +1,27 @@
 #pragma once
 
-#include <QTabBar>
+#include "controls/TabStyles.h"
+
+#include <QColor>
+#include <QPalette>
 
 namespace korvane {
 
-/// Draws the tabs in the look of a style number; an unknown one takes the look of 0.
-void ApplyTabLook(QTabBar& tabs, int style);
+/// The colours of a tab strip in one style on one palette.
+struct TabColours {
+    QColor strip;
+    /// Round the tabs that aren't active.
+    QColor edge;
+    /// Round the strip.
+    QColor frame;
+    QColor rest;
+    QColor restText;
+    QColor hover;
+    QColor active;
+    QColor activeText;
+    QColor mark;
+};
+
+TabColours ColoursOf(const TabStyle& style, const QPalette& palette);
 
 } // namespace korvane

@@ -14,16 +14,9 @@ QString TabText(const QString& caption) {
 } // namespace
 
 TabPages::TabPages(QWidget* parent)
-    : QWidget(parent), tabs_(new QTabBar(this)), stack_(new QStackedWidget(this)), hint_(new QLabel(stack_)) {
+    : QWidget(parent), tabs_(new TabBar(this)), stack_(new QStackedWidget(this)), hint_(new QLabel(stack_)) {
     tabs_->setObjectName("plainTabs");
     tabs_->setAccessibleName(tr("Open databases"));
-    tabs_->setDocumentMode(true);
-    tabs_->setExpanding(false);
-    tabs_->setMovable(false);
-    tabs_->setTabsClosable(true);
-    tabs_->setUsesScrollButtons(true);
-    tabs_->setElideMode(Qt::ElideMiddle);
-    tabs_->setFocusPolicy(Qt::TabFocus);
 
     stack_->setObjectName("plainStack");
     hint_->setObjectName("plainHint");

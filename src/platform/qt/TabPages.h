@@ -1,8 +1,9 @@
 #pragma once
 
+#include "platform/qt/TabBar.h"
+
 #include <QLabel>
 #include <QStackedWidget>
-#include <QTabBar>
 #include <QWidget>
 
 namespace korvane {
@@ -15,7 +16,7 @@ class TabPages : public QWidget {
 public:
     explicit TabPages(QWidget* parent = nullptr);
 
-    QTabBar& Tabs() { return *tabs_; }
+    TabBar& Tabs() { return *tabs_; }
     int Count() const { return tabs_->count(); }
     QWidget* Page(int index) const { return pages_.at(index); }
     int IndexOf(const QWidget* page) const { return static_cast<int>(pages_.indexOf(page)); }
@@ -29,7 +30,7 @@ public:
     void SetEmptyHint(const QString& hint) { hint_->setText(hint); }
 
 private:
-    QTabBar* tabs_;
+    TabBar* tabs_;
     QStackedWidget* stack_;
     QLabel* hint_;
     QList<QWidget*> pages_;

@@ -3,7 +3,6 @@
 #include "controls/Form.h"
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/Convert.h"
-#include "platform/qt/TabLook.h"
 
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -29,7 +28,7 @@ void TabStripAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Items) WriteTabs();
     if (aspect == Aspect::Items || aspect == Aspect::Selection) ShowActive();
     if (aspect == Aspect::Visible) widget_.setUpdatesEnabled(control_.AllowDrawing);
-    if (aspect == Aspect::Colours) ApplyTabLook(widget_.Tabs(), control_.Style);
+    if (aspect == Aspect::Colours) widget_.Tabs().SetLook(control_.Style, control_.Framed);
     AdaptorOf::Write(aspect);
 }
 

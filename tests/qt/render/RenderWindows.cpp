@@ -104,6 +104,7 @@ void RenderStyles(Album& album, Stage& stage) {
     QPixmap sheet(kNumberWidth + tabs.width(), step * static_cast<int>(TabStyles().size()));
     sheet.fill(QApplication::palette().color(QPalette::Window));
     QPainter painter(&sheet);
+    painter.setPen(QApplication::palette().color(QPalette::WindowText));
     int top = 0;
     for (const TabStyle& style : TabStyles()) {
         stage.Main().MDITabs1.Style = style.number;

@@ -1,7 +1,7 @@
 #include "render/Stage.h"
 
 #include "SourceTree.h"
-#include "platform/Clock.h"
+#include "platform/qt/QtScreen.h"
 #include "table/TableFile.h"
 
 #include <QCoreApplication>
@@ -29,6 +29,7 @@ Text InData(TextView name) {
 } // namespace
 
 Stage::Stage() {
+    outside_.screen.SetDark(QtScreen().IsDark());
     FillFiles();
     Main().EnsureLoaded();
     Main().Show();

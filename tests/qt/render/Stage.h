@@ -3,7 +3,6 @@
 #include "Windows.h"
 #include "app/PrintedMessages.h"
 #include "platform/qt/QtFormHost.h"
-#include "platform/qt/QtScreen.h"
 #include "support/TestApp.h"
 
 namespace korvane {
@@ -27,8 +26,7 @@ private:
     TestApp outside_;
     QtFormHost host_{KorvaneForms()};
     PrintedMessages messages_;
-    QtScreen screen_;
-    App app_{{outside_.files, messages_, outside_.clipboard, outside_.clock, screen_, outside_.shell,
+    App app_{{outside_.files, messages_, outside_.clipboard, outside_.clock, outside_.screen, outside_.shell,
               outside_.instance, host_,
               [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
     Surroundings all_{app_};

@@ -56,10 +56,11 @@ TEST(TabStylesTest, ANumberThatIsNoStyleStays) {
 
 TEST(TabStylesTest, EachStyleIsItsOwnInBothThemes) {
     for (const bool dark : {false, true}) {
-        std::set<std::tuple<int, int, int, int>> looks;
+        std::set<std::tuple<int, int, int, int, TabMark>> looks;
         for (const TabStyle& style : TabStyles()) {
             const TabStyleColours& colours = style.Colours(dark);
-            looks.insert({colours.strip.value, colours.second.value, style.cornerRadius, style.tint});
+            looks.insert(
+                {colours.strip.value, colours.second.value, style.cornerRadius, style.tint, style.mark});
         }
         EXPECT_EQ(looks.size(), TabStyles().size());
     }

@@ -1,0 +1,200 @@
+#include "platform/qt/TabBar.h"
+
+#include "platform/qt/Icons.h"
+#include "platform/qt/TabLook.h"
+
+#include <QAbstractButton>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStyleOptionTab>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kPadding = 10;
+constexpr int kCloseSize = 16;
+constexpr int kRoomAround = 14;
+constexpr int kAboveTabs = 3;
+constexpr int kGapBetween = 2;
+constexpr int kBar = 3;
+constexpr int kOutline = 2;
+/// What stands beside the caption: a margin on each side of it and behind the button, and the gap.
+constexpr int kBesideCaption = 3 * kPadding + kCloseSize + kGapBetween;
+// Widths in letters: what a tab has at least, where it is cut, and what is left of it in a crowd.
+constexpr int kShortest = 6;
+constexpr int kLongest = 26;
+constexpr int kCrowded = 9;
+
+/// Closes its tab.
+class CloseButton : public QAbstractButton {
+public:
+    explicit CloseButton(TabBar& bar) : QAbstractButton(&bar), bar_(bar) {
+        setFocusPolicy(Qt::NoFocus);
+        setCursor(Qt::ArrowCursor);
+        setToolTip(TabBar::tr("Close"));
+        setAttribute(Qt::WA_Hover);
+        setFixedSize(kCloseSize, kCloseSize);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const bool active = bar_.tabAt(geometry().center()) == bar_.currentIndex();
+        const TabColours colours = bar_.Colours();
+        const QColor colour = active ? colours.activeText : colours.restText;
+        if (underMouse()) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            QColor back = colour;
+            back.setAlphaF(0.2F);
+            painter.setBrush(back);
+            painter.setPen(Qt::NoPen);
+            painter.drawRoundedRect(rect(), 3, 3);
+        }
+        painter.setOpacity(underMouse() ? 1.0 : 0.75);
+        TintedIcon(QStringLiteral("tabClose"), colour).paint(&painter, rect());
+    }
+
+private:
+    const TabBar& bar_;
+};
+
+} // namespace
+
+TabBar::TabBar(QWidget* parent) : QTabBar(parent), style_(&TabStyleOf(0)) {
+    setExpanding(false);
+    setMovable(false);
+    setDrawBase(false);
+    setUsesScrollButtons(true);
+    setElideMode(Qt::ElideMiddle);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void TabBar::SetLook(int style, bool framed) {
+    style_ = &TabStyleOf(style);
+    framed_ = framed;
+    update();
+}
+
+TabColours TabBar::Colours() const {
+    return ColoursOf(*style_, palette());
+}
+
+QSize TabBar::tabSizeHint(int index) const {
+    const QFontMetrics metrics = fontMetrics();
+    const int letter = metrics.averageCharWidth();
+    const int caption = metrics.size(Qt::TextShowMnemonic, tabText(index)).width();
+    const int width = std::clamp(caption, kShortest * letter, kLongest * letter);
+    return {width + kBesideCaption, metrics.height() + kRoomAround};
+}
+
+QSize TabBar::minimumTabSizeHint(int index) const {
+    const QSize whole = tabSizeHint(index);
+    const int crowded = kCrowded * fontMetrics().averageCharWidth() + kBesideCaption;
+    return {std::min(whole.width(), crowded), whole.height()};
+}
+
+void TabBar::tabInserted(int index) {
+    QTabBar::tabInserted(index);
+    auto* button = new CloseButton(*this);
+    connect(button, &QAbstractButton::clicked, this, [this, button] { CloseAt(*button); });
+    setTabButton(index, RightSide, button);
+}
+
+void TabBar::CloseAt(const QWidget& button) {
+    for (int index = 0; index < count(); ++index) {
+        if (tabButton(index, RightSide) == &button) return emit tabCloseRequested(index);
+    }
+}
+
+void TabBar::tabLayoutChange() {
+    QTabBar::tabLayoutChange();
+    for (int index = 0; index < count(); ++index) {
+        QWidget* button = tabButton(index, RightSide);
+        if (button == nullptr) continue;
+        const QRect shape = ShapeOf(index);
+        button->move(shape.right() - kPadding - kCloseSize + 1,
+                     shape.top() + (shape.height() - kCloseSize) / 2);
+    }
+}
+
+QRect TabBar::ShapeOf(int index) const {
+    return tabRect(index).adjusted(0, kAboveTabs, -kGapBetween, 0);
+}
+
+QPainterPath TabBar::OutlineOf(const QRectF& shape) const {
+    const qreal radius = style_->cornerRadius;
+    QPainterPath path;
+    path.moveTo(shape.bottomLeft());
+    path.lineTo(shape.left(), shape.top() + radius);
+    path.quadTo(shape.topLeft(), {shape.left() + radius, shape.top()});
+    path.lineTo(shape.right() - radius, shape.top());
+    path.quadTo(shape.topRight(), {shape.right(), shape.top() + radius});
+    path.lineTo(shape.bottomRight());
+    return path;
+}
+
+void TabBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const TabColours colours = Colours();
+    painter.fillRect(rect(), colours.strip);
+    if (framed_) {
+        painter.setPen(colours.frame);
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    for (int index = 0; index < count(); ++index)
+        PaintTab(painter, index, colours);
+}
+
+void TabBar::PaintTab(QPainter& painter, int index, const TabColours& colours) const {
+    const QRect shape = ShapeOf(index);
+    if (!shape.intersects(rect())) return;
+    if (index == currentIndex()) {
+        painter.fillPath(OutlineOf(shape), colours.active);
+        PaintMark(painter, shape, colours);
+        PaintCaption(painter, index, colours.activeText);
+        return;
+    }
+    QStyleOptionTab option;
+    initStyleOption(&option, index);
+    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+    const QPainterPath outline = OutlineOf(QRectF(shape).adjusted(0.5, 0.5, -0.5, 0));
+    painter.fillPath(outline, hovered ? colours.hover : colours.rest);
+    painter.strokePath(outline, colours.edge);
+    PaintCaption(painter, index, colours.restText);
+}
+
+void TabBar::PaintMark(QPainter& painter, const QRect& shape, const TabColours& colours) const {
+    QRect bar = shape;
+    if (style_->mark == TabMark::Filled) return;
+    if (style_->mark == TabMark::Outlined) {
+        const qreal half = kOutline / 2.0;
+        painter.strokePath(OutlineOf(QRectF(shape).adjusted(half, half, -half, 0)),
+                           QPen(colours.mark, kOutline));
+        return;
+    }
+    if (style_->mark == TabMark::Below) bar.setTop(shape.bottom() - kBar + 1);
+    if (style_->mark == TabMark::Above) bar.setBottom(shape.top() + kBar - 1);
+    painter.save();
+    painter.setClipPath(OutlineOf(shape));
+    painter.fillRect(bar, colours.mark);
+    painter.restore();
+}
+
+void TabBar::PaintCaption(QPainter& painter, int index, const QColor& colour) const {
+    const QRect room = ShapeOf(index).adjusted(kPadding, 0, -2 * kPadding - kCloseSize, 0);
+    const QString caption =
+        fontMetrics().elidedText(tabText(index), elideMode(), room.width(), Qt::TextShowMnemonic);
+    painter.setPen(colour);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic, caption);
+    if (!hasFocus() || index != currentIndex()) return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = room.adjusted(-4, 4, 4, -4);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+} // namespace korvane
