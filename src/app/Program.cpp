@@ -2,7 +2,7 @@
 
 #include "platform/memory/MemoryGrid.h"
 #include "platform/native/NativePath.h"
-#include "platform/native/ProgramFolder.h"
+#include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
 #include "shell/frmMDIParent.h"
 
@@ -20,10 +20,16 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders) {
     return platform;
 }
 
+NativeFileSystem OwnFiles() {
+    const Surroundings surroundings = OwnSurroundings();
+    return {FromNativePath(surroundings.executable.parent_path()),
+            FromNativePath(FindStateFolder(surroundings))};
+}
+
 } // namespace
 
 Program::Program(InstanceChannel& channel, MessageBoxes& messages)
-    : files_(FromNativePath(FindProgramFolder(OwnSurroundings()))),
+    : files_(OwnFiles()),
       forms_(KorvaneForms()),
       app_(Complete({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr},
                     folders_)) {

@@ -41,6 +41,9 @@ public:
     virtual std::optional<SharedBytes> ReadAll(TextView path) = 0;
     /// Creates the file or empties it; nullptr when it can't be opened.
     virtual std::unique_ptr<FileWriter> OpenRaw(TextView path) = 0;
+    /// The same for a file that only its owner may read, also when others could read it before. On a disk
+    /// that doesn't know owners it is `OpenRaw`.
+    virtual std::unique_ptr<FileWriter> OpenPrivate(TextView path) { return OpenRaw(path); }
     /// Refuses a file that can't be written. Behind a symbolic link the file that it names is emptied and the
     /// link stays, so that a save goes through the link.
     virtual bool Remove(TextView path) = 0;
@@ -52,12 +55,15 @@ public:
     /// a disk that doesn't know its volumes.
     virtual std::optional<VolumeInfo> Volume(TextView /*path*/) const { return std::nullopt; }
 
-    /// The system's words for why the last `ChangeDir`, `ReadAll`, `OpenRaw` or `Remove` failed, or a write
-    /// since; empty when nothing did.
+    /// The system's words for why the last `ChangeDir`, `ReadAll`, `OpenRaw`, `OpenPrivate` or `Remove`
+    /// failed, or a write since; empty when nothing did.
     virtual Text LastErrorText() const = 0;
 
-    /// The folder of the state files and of the files that ship with the program.
+    /// The folder of the program and of the files that ship with it.
     virtual Text ProgramDir() const = 0;
+    /// The folder of the files that the program writes for itself: beside the program, or the user's own
+    /// where that can't be written.
+    virtual Text StateDir() const { return ProgramDir(); }
 };
 
 } // namespace korvane

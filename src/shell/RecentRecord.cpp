@@ -35,7 +35,7 @@ void RecentRecord::Read(App& app) {
 
 void RecentRecord::Write(App& app) const {
     DeleteFileQuietly(app, app.RecFilePath);
-    const auto file = app.Files().OpenRaw(app.RecFilePath);
+    const auto file = app.Files().OpenPrivate(app.RecFilePath);
     if (file == nullptr) {
         ShowCannotAccess(app, app.RecFilePath);
         return;

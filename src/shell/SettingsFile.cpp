@@ -74,7 +74,7 @@ void ReadSettings(App& app) {
 void WriteSettings(App& app) {
     DeleteFileQuietly(app, app.IniFilePath);
     TakeCurrentDir(app);
-    const auto file = app.Files().OpenRaw(app.IniFilePath);
+    const auto file = app.Files().OpenPrivate(app.IniFilePath);
     if (file == nullptr) {
         ShowCannotAccess(app, app.IniFilePath);
         return;

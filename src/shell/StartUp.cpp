@@ -22,10 +22,10 @@ void SetStartValues(App& app) {
     app.Settings.TabUnitTwips = kStartTabUnit;
     app.FirstLoadPending = -1;
     const PathStyle style = app.Files().Style();
-    const Text programDir = app.Files().ProgramDir();
-    app.HelpFilePath = style.JoinPath(programDir, u"Korvane_Help.rtf");
-    app.IniFilePath = style.JoinPath(programDir, u"Korvane.ini");
-    app.RecFilePath = style.JoinPath(programDir, u"Korvane.rec");
+    app.HelpFilePath = style.JoinPath(app.Files().ProgramDir(), u"Korvane_Help.rtf");
+    const Text stateDir = app.Files().StateDir();
+    app.IniFilePath = style.JoinPath(stateDir, u"Korvane.ini");
+    app.RecFilePath = style.JoinPath(stateDir, u"Korvane.rec");
     SetWordRules(app);
 }
 

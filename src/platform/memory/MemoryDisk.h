@@ -23,6 +23,8 @@ struct MemoryNode {
     Text name;
     DateTime modified;
     bool readOnly = false;
+    /// Only its owner may read it.
+    bool isPrivate = false;
     /// Of a file.
     std::string bytes;
     /// Of a link: the path that it names, relative ones starting at the link's folder.

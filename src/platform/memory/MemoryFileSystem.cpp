@@ -89,6 +89,14 @@ std::optional<SharedBytes> MemoryFileSystem::ReadAll(TextView path) {
 }
 
 std::unique_ptr<FileWriter> MemoryFileSystem::OpenRaw(TextView path) {
+    return Open(path, false);
+}
+
+std::unique_ptr<FileWriter> MemoryFileSystem::OpenPrivate(TextView path) {
+    return Open(path, true);
+}
+
+std::unique_ptr<FileWriter> MemoryFileSystem::Open(TextView path, bool makePrivate) {
     Vanish(path);
     if (Strikes(FileStep::OpenToWrite)) return nullptr;
     Place place = Find(path);
@@ -96,6 +104,7 @@ std::unique_ptr<FileWriter> MemoryFileSystem::OpenRaw(TextView path) {
     if (!place.node) place.node = disk_.Put(place, MemoryNode::Kind::File);
     place.node->bytes.clear();
     place.node->modified = clock_.Now();
+    if (makePrivate) place.node->isPrivate = true;
     Succeed();
     return std::make_unique<Writer>(*this, place);
 }
@@ -182,6 +191,11 @@ void MemoryFileSystem::SetProgramDir(TextView path) {
     programDir_ = path;
 }
 
+void MemoryFileSystem::SetStateDir(TextView path) {
+    AddDir(path);
+    stateDir_ = path;
+}
+
 void MemoryFileSystem::Erase(TextView path) {
     const Place place = Find(path, LastLink::Keep);
     if (place.node && place.folder) disk_.Erase(place);
@@ -203,6 +217,11 @@ std::optional<std::string> MemoryFileSystem::Contents(TextView path) const {
 
 bool MemoryFileSystem::IsLink(TextView path) const {
     return IsKind(Find(path, LastLink::Keep), MemoryNode::Kind::Link);
+}
+
+bool MemoryFileSystem::IsPrivate(TextView path) const {
+    const Place place = Find(path);
+    return IsFile(place) && place.node->isPrivate;
 }
 
 MemoryFileSystem::Place MemoryFileSystem::Find(TextView path, LastLink lastLink) const {

@@ -11,7 +11,7 @@ namespace korvane {
 
 /// A disk in memory, in either path style, with failures to order. On Windows it has drive C and names are
 /// compared without case; elsewhere it is one tree. The program folder is `C:\Korvane` or `/opt/korvane`
-/// until another one is set.
+/// until another one is set, and the state lies there until it is given a folder of its own.
 class MemoryFileSystem final : public FileSystem {
 public:
     /// The clock gives the modified times and has to live as long as the disk.
@@ -26,12 +26,14 @@ public:
     std::optional<SharedBytes> ReadAll(TextView path) override;
     /// The disk has to outlive the writer.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
+    std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
     bool Remove(TextView path) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override { return lastErrorText_; }
     Text ProgramDir() const override { return programDir_; }
+    Text StateDir() const override { return stateDir_.empty() ? programDir_ : stateDir_; }
 
     // Setting the stage. None of this meets a failure or a permission; missing folders are made.
 
@@ -45,6 +47,7 @@ public:
     void SetFileReadOnly(TextView path, bool readOnly = true);
     void SetModified(TextView path, const DateTime& time);
     void SetProgramDir(TextView path);
+    void SetStateDir(TextView path);
     /// Takes away a file, link or folder with all that is in it.
     void Erase(TextView path);
 
@@ -63,6 +66,8 @@ public:
     /// The bytes of the file, also behind a link; nothing when there is no file.
     std::optional<std::string> Contents(TextView path) const;
     bool IsLink(TextView path) const;
+    /// Whether only its owner may read the file.
+    bool IsPrivate(TextView path) const;
 
 private:
     class Writer;
@@ -74,6 +79,7 @@ private:
     bool Succeed();
     bool Strikes(FileStep step);
     void Vanish(TextView path);
+    std::unique_ptr<FileWriter> Open(TextView path, bool makePrivate);
     bool CanOpenToWrite(const Place& place);
     bool CanRemove(const Place& place, const Place& target);
     bool Append(MemoryNode& file, MemoryVolume& volume, std::string_view bytes);
@@ -85,6 +91,7 @@ private:
     Text vanishing_;
     Text lastErrorText_;
     Text programDir_;
+    Text stateDir_;
 };
 
 } // namespace korvane

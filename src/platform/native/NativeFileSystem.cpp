@@ -102,11 +102,23 @@ std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
 
 std::unique_ptr<FileWriter> NativeFileSystem::OpenRaw(TextView path) {
     const fs::path native = ToNativePath(path);
+    return OpenWith(RightsToRestore(native), native);
+}
+
+std::unique_ptr<FileWriter> NativeFileSystem::OpenPrivate(TextView path) {
+    const fs::path native = ToNativePath(path);
+    auto rights = RightsToRestore(native);
+    if (!rights) rights = system_calls::RightsOf(native);
+    return OpenWith(system_calls::OwnersAlone(rights), native);
+}
+
+std::unique_ptr<FileWriter> NativeFileSystem::OpenWith(const std::optional<system_calls::FileRights>& rights,
+                                                       const fs::path& native) {
     if (fs::exists(native, lastError_) && !system_calls::IsWritable(native)) {
         lastError_ = LastSystemError();
         return nullptr;
     }
-    SystemFile file = SystemFile::OpenToWrite(native, RightsToRestore(native), lastError_);
+    SystemFile file = SystemFile::OpenToWrite(native, rights, lastError_);
     if (!file.IsOpen()) return nullptr;
     removed_ = {};
     return std::make_unique<Writer>(std::move(file), lastError_);

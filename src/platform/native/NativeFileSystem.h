@@ -12,7 +12,8 @@ namespace korvane {
 /// The real disk. The current directory is that of the process.
 class NativeFileSystem final : public FileSystem {
 public:
-    explicit NativeFileSystem(TextView programDir) : programDir_(programDir) {}
+    explicit NativeFileSystem(TextView programDir) : NativeFileSystem(programDir, programDir) {}
+    NativeFileSystem(TextView programDir, TextView stateDir) : programDir_(programDir), stateDir_(stateDir) {}
 
     PathStyle Style() const override;
     bool FileExists(TextView path) const override;
@@ -24,12 +25,15 @@ public:
     std::optional<SharedBytes> ReadAll(TextView path) override;
     /// A file that `Remove` has taken away last comes back with the rights that it had.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
+    /// Of the rights that a file had, its owner's stay.
+    std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
     bool Remove(TextView path) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override;
     Text ProgramDir() const override { return programDir_; }
+    Text StateDir() const override { return stateDir_; }
 
 private:
     class Writer;
@@ -38,11 +42,14 @@ private:
         std::optional<system_calls::FileRights> rights;
     };
 
+    std::unique_ptr<FileWriter> OpenWith(const std::optional<system_calls::FileRights>& rights,
+                                         const std::filesystem::path& path);
     bool CanRemove(const std::filesystem::path& path);
     bool Empty(const std::filesystem::path& path);
     std::optional<system_calls::FileRights> RightsToRestore(const std::filesystem::path& path) const;
 
     Text programDir_;
+    Text stateDir_;
     std::error_code lastError_;
     Removed removed_;
 };

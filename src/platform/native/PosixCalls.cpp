@@ -16,16 +16,23 @@ namespace fs = std::filesystem;
 constexpr mode_t kRightsBits = 0777;
 constexpr mode_t kGroupBits = 0070;
 constexpr mode_t kOthersBits = 0007;
+constexpr mode_t kOwnersBits = 0700;
 constexpr mode_t kAnybodyMayWrite = 0222;
 constexpr mode_t kNewFile = 0666;
 constexpr mode_t kOwnersFile = 0600;
 constexpr mode_t kOwnersDir = 0700;
 constexpr uid_t kSameUser = static_cast<uid_t>(-1);
+constexpr gid_t kSameGroup = static_cast<gid_t>(-1);
 
 /// Rights of a group that can't be kept are not handed to the group that the new file has.
 mode_t WithoutGroup(mode_t mode) {
     const mode_t everybody = mode & kOthersBits;
     return (mode & ~kGroupBits) | (mode & (everybody << 3));
+}
+
+bool IsPlainFile(int file) {
+    struct stat status {};
+    return fstat(file, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 void GiveRights(int file, const FileRights& rights) {
@@ -46,7 +53,7 @@ int OpenToRead(const fs::path& path) {
 int OpenToWrite(const fs::path& path, const std::optional<FileRights>& rights) {
     const int file =
         open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, rights ? kOwnersFile : kNewFile);
-    if (file != kNoFile && rights) GiveRights(file, *rights);
+    if (file != kNoFile && rights && IsPlainFile(file)) GiveRights(file, *rights);
     return file;
 }
 
@@ -82,6 +89,11 @@ std::optional<FileRights> RightsOf(const fs::path& path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) return std::nullopt;
     return FileRights{status.st_mode, status.st_uid, status.st_gid};
+}
+
+std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights) {
+    if (!rights) return FileRights{kOwnersFile, kSameUser, kSameGroup};
+    return FileRights{rights->mode & kOwnersBits, rights->user, rights->group};
 }
 
 std::optional<std::time_t> ModifiedTime(const fs::path& path) {

@@ -22,7 +22,7 @@ inline constexpr int kNoFile = -1;
 /// An open file, or `kNoFile`.
 int OpenToRead(const std::filesystem::path& path);
 /// Empties the file or makes it: with `rights` as far as the system lets it be and never with wider ones,
-/// without them as the system makes new files.
+/// without them as the system makes new files. What isn't a plain file, a device say, keeps its own.
 int OpenToWrite(const std::filesystem::path& path, const std::optional<FileRights>& rights);
 /// Both may take fewer bytes than asked for; -1 is a failure.
 std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size);
@@ -35,6 +35,9 @@ std::size_t SizeOf(int file);
 /// administrator either, to whom the system would allow it.
 bool IsWritable(const std::filesystem::path& path);
 std::optional<FileRights> RightsOf(const std::filesystem::path& path);
+/// What the owner may do of these rights and nobody else; without any, the rights of a new file that only its
+/// owner may read and write.
+std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
 std::optional<std::time_t> ModifiedTime(const std::filesystem::path& path);
 /// Makes the last folder of the path, for the user alone.
 bool MakePrivateDir(const std::filesystem::path& path);

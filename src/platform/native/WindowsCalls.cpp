@@ -60,6 +60,10 @@ std::optional<FileRights> RightsOf(const fs::path&) {
     return std::nullopt;
 }
 
+std::optional<FileRights> OwnersAlone(const std::optional<FileRights>&) {
+    return std::nullopt;
+}
+
 std::optional<std::time_t> ModifiedTime(const fs::path& path) {
     struct _stat64 status {};
     if (_wstat64(path.c_str(), &status) != 0) return std::nullopt;

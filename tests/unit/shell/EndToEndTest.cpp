@@ -28,6 +28,13 @@ Settings StartSettings() {
     return settings;
 }
 
+std::string Joined(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes += line + "\r\n";
+    return bytes;
+}
+
 class EndToEnd : public testing::Test {
 protected:
     EndToEnd() {
@@ -39,22 +46,43 @@ protected:
     void CloseInfo() {
         p.user.On<frmTxtDbInfo>([](frmTxtDbInfo& info) { info.cmdClose.Press(); });
     }
+    void StartWithThree() {
+        p.StartWith(StartSettings(), u"\"C:\\Data\\Books.tbx\"");
+        // Two more files, through the menu's key and the sidebar.
+        p.user.ChooseFile(kPeople);
+        EXPECT_TRUE(p.PressKey('O', Mask::Ctrl));
+        p.user.ChooseFile(kPlaces);
+        p.Main().iGridListBar.ClickCell(Row{2}, Col{1});
+        EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Books.tbx", u"People.tbx", u"Places.tbx"}));
+    }
+    void Alter(int slot) { p.Tab(slot).iGrid1.CommitEdit(Row{1}, Col{1}, u"changed"); }
+    /// The question about this file's changes is the next to come.
+    void AnswerQuestion(const Text& path, Answer answer) {
+        p.user.Answer({u"The text database has been changed.\r\n\r\n" + path +
+                           u"\r\n\r\nDo you want to save the changes?\r\n",
+                       MessageIcon::Question, MessageButtons::YesNoCancel},
+                      answer);
+    }
+    /// Both state files after a run from `StartSettings` with all three tables, byte for byte.
+    void ExpectStateFiles(const Text& findText) {
+        Settings expected = StartSettings();
+        expected.CurDrive = u"C";
+        expected.CurDirAtSave = u"C:\\";
+        expected.FileDialogFilter = u"0";
+        expected.PageSizeName = u"0";
+        expected.WallpaperNumber = u"0";
+        expected.LastDbFindText = findText;
+        EXPECT_EQ(p.FileBytes(p.app.IniFilePath), SettingsBytes(expected));
+        EXPECT_EQ(p.FileBytes(p.app.RecFilePath), "C:\\Data\\Places.tbx | 0*2026.11.21   10:30\r\n"
+                                                  "C:\\Data\\People.tbx | 0*2026.11.21   10:30\r\n"
+                                                  "C:\\Data\\Books.tbx | 0*2026.11.21   10:30\r\n");
+    }
 
     TestProgram p;
 };
 
-TEST_F(EndToEnd, OpenEditTickSortSaveCloseAndExit) {
-    p.StartWith(StartSettings(), u"\"C:\\Data\\Books.tbx\"");
-    EXPECT_EQ(p.Captions(), std::vector<Text>{u"Books.tbx"});
-
-    // Two more files, through the menu's key and the sidebar.
-    p.user.ChooseFile(kPeople);
-    EXPECT_TRUE(p.PressKey('O', Mask::Ctrl));
-    p.user.ChooseFile(kPlaces);
-    p.Main().iGridListBar.ClickCell(Row{2}, Col{1});
-    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Books.tbx", u"People.tbx", u"Places.tbx"}));
-
-    // Back to the first: edit, tick, sort, save under a new name.
+TEST_F(EndToEnd, OneTableIsEditedTickedSortedAndSavedAsAnother) {
+    StartWithThree();
     p.PressKey(Key::F(12));
     frmMDIChild& books = p.Tab(1);
     ASSERT_EQ(p.AllTabs().Active(), &books);
@@ -69,9 +97,11 @@ TEST_F(EndToEnd, OpenEditTickSortSaveCloseAndExit) {
         TableBytes(kSorted, {"Title", "Author"}, {{"Emma", "Austen"}, {"Walden", "H. D. Thoreau\r\n1854"}});
     sorted.replace(sorted.find("@row_2\r\n?0"), 10, "@row_2\r\n?1");
     EXPECT_EQ(p.FileBytes(kSorted), sorted);
+}
 
-    // The second: edit and save, with the information in the clipboard.
-    p.PressKey(Key::F(12));
+TEST_F(EndToEnd, AnotherIsEditedAndSavedWithItsInformationInTheClipboard) {
+    StartWithThree();
+    p.PressKey(Key::F(12), Mask::Shift);
     p.Tab(2).iGrid1.CommitEdit(Row{2}, Col{1}, u"B\u00E9rt");
     p.user.On<frmTxtDbInfo>([](frmTxtDbInfo& info) {
         info.cmdClip.Press();
@@ -80,36 +110,86 @@ TEST_F(EndToEnd, OpenEditTickSortSaveCloseAndExit) {
     p.PressKey('S', Mask::Ctrl);
     EXPECT_EQ(p.FileBytes(kPeople), NameTable(kPeople, {"Anna", "B\xE9rt"}));
     EXPECT_TRUE(p.clipboard.GetText().starts_with(u"File: People.tbx\r\nPath: C:\\Data\r\nRows: 2\r\n"));
+}
 
-    // All three altered; the end is cancelled at the second and then goes through.
+TEST_F(EndToEnd, AllAreAlteredAndTheEndIsCancelledAtTheSecondAndThenGoesThrough) {
+    StartWithThree();
     for (int slot = 1; slot <= 3; ++slot)
-        p.Tab(slot).iGrid1.CommitEdit(Row{1}, Col{1}, u"changed");
-    p.user.Answer(Answer::No);
-    p.user.Answer(Answer::Cancel);
+        Alter(slot);
+    const std::string booksBefore = p.FileBytes(kBooks);
+    AnswerQuestion(kBooks, Answer::No);
+    AnswerQuestion(kPeople, Answer::Cancel);
     p.Choose("mnuFile_Exit");
     EXPECT_TRUE(p.Main().Shown());
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"People.tbx", u"Places.tbx"}));
+    // Nothing of the state is written before the end.
+    EXPECT_EQ(p.FileBytes(p.app.IniFilePath), SettingsBytes(StartSettings()));
+
     p.Tab(3).txtFindString.Type(u"Ems");
-    p.user.Answer(Answer::No);
-    p.user.Answer(Answer::Yes);
+    AnswerQuestion(kPeople, Answer::No);
+    AnswerQuestion(kPlaces, Answer::Yes);
     CloseInfo();
     p.Choose("mnuFile_Exit");
     EXPECT_FALSE(p.Main().Shown());
-    EXPECT_EQ(p.FileBytes(kSorted), sorted);
+    EXPECT_EQ(p.FileBytes(kBooks), booksBefore);
+    EXPECT_EQ(p.FileBytes(kPlaces), NameTable(kPlaces, {"changed"}));
+    ExpectStateFiles(u"Ems");
+}
+
+TEST_F(EndToEnd, TabsAreSwitchedRenamedAndClosedWithEachAnswer) {
+    StartWithThree();
+    // Round and back: the last tab's next is the first.
+    p.PressKey(Key::F(12));
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(1));
+    p.PressKey(Key::F(12), Mask::Shift);
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(3));
+    p.PressKey(Key::F(12), Mask::Shift);
+    ASSERT_EQ(p.AllTabs().Active(), &p.Tab(2));
+    // Its file gets another name, and the tab with it.
+    p.user.ChooseFile(kSorted);
+    CloseInfo();
+    p.Choose("mnuFile_SaveAs");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Books.tbx", kSorted, u"Places.tbx"}));
+    EXPECT_EQ(p.FileBytes(kSorted), NameTable(kSorted, {"Anna", "Bert"}));
+
+    Alter(2);
+    AnswerQuestion(kSorted, Answer::Cancel);
+    p.PressKey('Q', Mask::Ctrl);
+    EXPECT_EQ(p.Captions().size(), 3u);
+    AnswerQuestion(kSorted, Answer::No);
+    p.PressKey('Q', Mask::Ctrl);
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Books.tbx", u"Places.tbx"}));
+    EXPECT_EQ(p.FileBytes(kSorted), NameTable(kSorted, {"Anna", "Bert"}));
+
+    while (p.AllTabs().Active() != &p.Tab(3))
+        p.PressKey(Key::F(12));
+    Alter(3);
+    AnswerQuestion(kPlaces, Answer::Yes);
+    CloseInfo();
+    p.PressKey('Q', Mask::Ctrl);
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"Books.tbx"});
     EXPECT_EQ(p.FileBytes(kPlaces), NameTable(kPlaces, {"changed"}));
 
-    // Both state files, byte for byte.
-    Settings expected = StartSettings();
-    expected.CurDrive = u"C";
-    expected.CurDirAtSave = u"C:\\";
-    expected.FileDialogFilter = u"0";
-    expected.PageSizeName = u"0";
-    expected.WallpaperNumber = u"0";
-    expected.LastDbFindText = u"Ems";
-    EXPECT_EQ(p.FileBytes(p.app.IniFilePath), SettingsBytes(expected));
-    EXPECT_EQ(p.FileBytes(p.app.RecFilePath), "C:\\Data\\Places.tbx | 0*2026.11.21   10:30\r\n"
-                                              "C:\\Data\\People.tbx | 0*2026.11.21   10:30\r\n"
-                                              "C:\\Data\\Books.tbx | 0*2026.11.21   10:30\r\n");
+    p.Choose("mnuFile_Exit");
+    EXPECT_FALSE(p.Main().Shown());
+    ExpectStateFiles(u"");
+}
+
+TEST_F(EndToEnd, AValueOfItsOwnOnEveryLineOfTheSettingsComesThroughARun) {
+    std::vector<std::string> lines;
+    for (std::size_t i = 1; i <= kSettingLines; ++i)
+        lines.push_back(std::to_string(1000 + i));
+    p.files.AddFile(u"C:\\Korvane\\Korvane.ini", Joined(lines));
+    p.Start();
+    p.Choose("mnuFile_Exit");
+
+    // The current directory is the writer's, and it exchanges three pairs.
+    lines[0] = "C";
+    lines[1] = "C:\\";
+    std::swap(lines[26], lines[27]);
+    std::swap(lines[28], lines[29]);
+    std::swap(lines[30], lines[31]);
+    EXPECT_EQ(p.FileBytes(p.app.IniFilePath), Joined(lines));
 }
 
 TEST_F(EndToEnd, TheNextStartComesUpAsTheLastRunEnded) {

@@ -159,6 +159,11 @@ TEST_F(RecentRecordTest, WritesWhatIsntEmpty) {
     EXPECT_EQ(Written(), "a\r\n\xE4?\r\nz\r\n");
 }
 
+TEST_F(RecentRecordTest, IsForItsOwnersEyesOnly) {
+    record.Write(t.app);
+    EXPECT_TRUE(t.files.IsPrivate(t.app.RecFilePath));
+}
+
 TEST_F(RecentRecordTest, SaysWhenItCannotBeWritten) {
     t.files.AddFile(t.app.RecFilePath, "old\r\n");
     t.files.Faults().FailNth(FileStep::OpenToWrite, 1, u"Permission denied");

@@ -187,6 +187,15 @@ TEST_F(SettingsFile, AFileThatCannotBeOpenedIsPassedOverInSilence) {
     EXPECT_EQ(settings.MainLeft, 0);
 }
 
+TEST_F(SettingsFile, IsForItsOwnersEyesOnlyAsItHoldsAPassword) {
+    WriteSettings(t.app);
+    EXPECT_TRUE(t.files.IsPrivate(kIni));
+    t.files.AddFile(kIni, "old");
+    EXPECT_FALSE(t.files.IsPrivate(kIni));
+    WriteSettings(t.app);
+    EXPECT_TRUE(t.files.IsPrivate(kIni));
+}
+
 TEST_F(SettingsFile, AFileThatCannotBeWrittenIsToldAndTheOldOneIsGone) {
     t.files.AddFile(kIni, "old");
     t.files.Faults().FailNth(FileStep::OpenToWrite, 1, u"Disk full");

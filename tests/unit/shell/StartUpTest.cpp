@@ -64,6 +64,16 @@ TEST_F(StartUpTest, TheFilesOfTheProgramAreNamed) {
     EXPECT_EQ(p.app.RecFilePath, u"C:\\Korvane\\Korvane.rec");
 }
 
+TEST_F(StartUpTest, WhereTheProgramsFolderIsNotTheUsersTheStateIsElsewhereAndTheHelpBesideTheProgram) {
+    TestProgram posix(PathStyle::Posix);
+    posix.files.SetStateDir(u"/home/me/.config/korvane");
+    posix.files.AddFile(u"/home/me/.config/korvane/Korvane.ini", SettingsBytes({}));
+    posix.Start();
+    EXPECT_EQ(posix.app.HelpFilePath, u"/opt/korvane/Korvane_Help.rtf");
+    EXPECT_EQ(posix.app.IniFilePath, u"/home/me/.config/korvane/Korvane.ini");
+    EXPECT_EQ(posix.app.RecFilePath, u"/home/me/.config/korvane/Korvane.rec");
+}
+
 TEST_F(StartUpTest, TheSystemsFoldersEndInABackslash) {
     p.folders.programFiles = Text(u"C:\\Program Files\0rest", 21);
     p.folders.windows = u"C:\\Windows";

@@ -50,6 +50,36 @@ TEST_F(PosixDisk, OpeningEmptiesAFile) {
     EXPECT_EQ(files.Contents(u"/a.tbx"), "");
 }
 
+TEST_F(PosixDisk, APrivateFileStaysSoUntilItIsRemoved) {
+    files.AddFile(u"/a.ini", "old");
+    files.AddLink(u"/link.ini", u"a.ini");
+    ASSERT_TRUE(files.OpenPrivate(u"/link.ini"));
+    EXPECT_EQ(files.Contents(u"/a.ini"), "");
+    EXPECT_TRUE(files.IsPrivate(u"/a.ini"));
+    ASSERT_TRUE(files.OpenRaw(u"/a.ini"));
+    EXPECT_TRUE(files.IsPrivate(u"/a.ini"));
+    ASSERT_TRUE(files.Remove(u"/a.ini"));
+    ASSERT_TRUE(files.OpenRaw(u"/a.ini"));
+    EXPECT_FALSE(files.IsPrivate(u"/a.ini"));
+    EXPECT_FALSE(files.IsPrivate(u"/gone.ini"));
+}
+
+TEST_F(PosixDisk, OpeningPrivatelyFailsAsOpeningDoes) {
+    files.Faults().FailNth(FileStep::OpenToWrite, 1, u"Permission denied");
+    EXPECT_FALSE(files.OpenPrivate(u"/a.ini"));
+    EXPECT_EQ(files.LastErrorText(), u"Permission denied");
+    EXPECT_FALSE(files.OpenPrivate(u"/gone/a.ini"));
+    EXPECT_EQ(files.LastErrorText(), u"No such file or directory");
+}
+
+TEST_F(PosixDisk, TheStateLiesBesideTheProgramUntilItHasAFolderOfItsOwn) {
+    EXPECT_EQ(files.StateDir(), u"/opt/korvane");
+    files.SetStateDir(u"/home/me/.config/korvane");
+    EXPECT_EQ(files.StateDir(), u"/home/me/.config/korvane");
+    EXPECT_EQ(files.ProgramDir(), u"/opt/korvane");
+    EXPECT_TRUE(files.DirExists(u"/home/me/.config/korvane"));
+}
+
 TEST_F(PosixDisk, ReadBytesOutliveTheFile) {
     files.AddFile(u"/a.tbx", "kept");
     const auto bytes = files.ReadAll(u"/a.tbx");

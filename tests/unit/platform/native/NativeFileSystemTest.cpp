@@ -15,6 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr fs::perms kOwnersAlone = fs::perms::owner_read | fs::perms::owner_write;
 constexpr fs::perms kReadOnly = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
 
 struct NativeFiles : testing::Test {
@@ -29,6 +30,13 @@ struct NativeFiles : testing::Test {
         const auto writer = files.OpenRaw(At(name));
         return writer && writer->Write(bytes) && writer->Close();
     }
+
+    bool SavePrivately(const fs::path& name, std::string_view bytes) {
+        const auto writer = files.OpenPrivate(At(name));
+        return writer && writer->Write(bytes) && writer->Close();
+    }
+
+    fs::perms RightsOf(const fs::path& name) const { return fs::status(dir / name).permissions(); }
 
     TempDir dir;
     NativeFileSystem files{u"/opt/korvane"};
@@ -195,11 +203,10 @@ TEST_F(NativeFiles, ALinkToNothingIsNotRemovedButWrittenThrough) {
 
 TEST_F(NativeFiles, AFileWrittenAnewAfterItsRemovalKeepsItsRights) {
     WriteBytes(dir / "a.tbx", "old");
-    const auto ownersAlone = fs::perms::owner_read | fs::perms::owner_write;
-    fs::permissions(dir / "a.tbx", ownersAlone);
+    fs::permissions(dir / "a.tbx", kOwnersAlone);
     ASSERT_TRUE(files.Remove(At("a.tbx")));
     ASSERT_TRUE(Save("a.tbx", "new"));
-    EXPECT_EQ(fs::status(dir / "a.tbx").permissions(), ownersAlone);
+    EXPECT_EQ(RightsOf("a.tbx"), kOwnersAlone);
 }
 
 TEST_F(NativeFiles, RightsWiderThanTheUsualOnesAreKeptToo) {
@@ -218,6 +225,58 @@ TEST_F(NativeFiles, RightsOfARemovedFileGoToNoOtherFile) {
     ASSERT_TRUE(files.Remove(At("a.tbx")));
     ASSERT_TRUE(Save("b.tbx", "new"));
     EXPECT_EQ(fs::status(dir / "b.tbx").permissions(), fs::status(dir / "usual.tbx").permissions());
+}
+
+// Keeping to the owner.
+
+TEST_F(NativeFiles, APrivateFileIsItsOwnersAloneWhateverTheUsualRightsAre) {
+    const mode_t usual = umask(0);
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    umask(usual);
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+    EXPECT_EQ(ReadBytes(dir / "a.ini"), "secret");
+}
+
+TEST_F(NativeFiles, AFileThatOthersCouldReadBecomesPrivate) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0666));
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, APrivateFileWrittenAnewAfterItsRemovalKeepsItsOwnersRights) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0755));
+    ASSERT_TRUE(files.Remove(At("a.ini")));
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    EXPECT_EQ(RightsOf("a.ini"), fs::perms::owner_all);
+}
+
+TEST_F(NativeFiles, APrivateFileBehindALinkKeepsTheLink) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0644));
+    fs::create_symlink("a.ini", dir / "link.ini");
+    ASSERT_TRUE(files.Remove(At("link.ini")));
+    EXPECT_TRUE(SavePrivately("link.ini", "secret"));
+    EXPECT_TRUE(fs::is_symlink(dir / "link.ini"));
+    EXPECT_EQ(ReadBytes(dir / "a.ini"), "secret");
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, ADeviceKeepsItsRights) {
+    const fs::perms before = fs::status("/dev/null").permissions();
+    EXPECT_TRUE(files.OpenPrivate(u"/dev/null"));
+    EXPECT_EQ(fs::status("/dev/null").permissions(), before);
+}
+
+TEST_F(NativeFiles, TellsWhyAFileCantBeOpenedPrivately) {
+    EXPECT_FALSE(files.OpenPrivate(At("gone/a.ini")));
+    EXPECT_EQ(files.LastErrorText(), u"No such file or directory");
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", kReadOnly);
+    EXPECT_FALSE(files.OpenPrivate(At("a.ini")));
+    EXPECT_EQ(files.LastErrorText(), u"Permission denied");
+    EXPECT_EQ(RightsOf("a.ini"), kReadOnly);
 }
 
 // Looking.
@@ -287,6 +346,13 @@ TEST_F(NativeFiles, AFullPathKeepsLinksAndWhatLeadsUpBehindThem) {
 TEST_F(NativeFiles, KnowsItsStyleAndItsProgramFolder) {
     EXPECT_EQ(files.Style(), PathStyle::Posix);
     EXPECT_EQ(files.ProgramDir(), u"/opt/korvane");
+    EXPECT_EQ(files.StateDir(), u"/opt/korvane");
+}
+
+TEST_F(NativeFiles, KnowsAFolderOfTheStateThatIsntThePrograms) {
+    const NativeFileSystem apart(u"/opt/korvane", u"/home/me/.config/korvane");
+    EXPECT_EQ(apart.ProgramDir(), u"/opt/korvane");
+    EXPECT_EQ(apart.StateDir(), u"/home/me/.config/korvane");
 }
 
 } // namespace

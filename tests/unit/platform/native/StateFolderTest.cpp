@@ -1,4 +1,4 @@
-#include "platform/native/ProgramFolder.h"
+#include "platform/native/StateFolder.h"
 
 #include "support/TempDir.h"
 
@@ -10,56 +10,56 @@ namespace {
 namespace fs = std::filesystem;
 
 /// An executable in a folder that nobody can write to, and a home.
-struct ProgramFolder : testing::Test {
-    ProgramFolder() {
+struct StateFolder : testing::Test {
+    StateFolder() {
         fs::create_directories(dir / "bin");
         fs::create_directories(dir / "home");
         surroundings = {dir / "bin/korvane", "", (dir / "home").string()};
         fs::permissions(dir / "bin", static_cast<fs::perms>(0555));
     }
-    ~ProgramFolder() override { fs::permissions(dir / "bin", fs::perms::owner_all); }
+    ~StateFolder() override { fs::permissions(dir / "bin", fs::perms::owner_all); }
 
     TempDir dir;
     Surroundings surroundings;
 };
 
-TEST_F(ProgramFolder, IsTheExecutablesWhenThatCanBeWritten) {
+TEST_F(StateFolder, IsTheExecutablesWhenThatCanBeWritten) {
     fs::permissions(dir / "bin", fs::perms::owner_all);
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
     EXPECT_FALSE(fs::exists(dir / "home/.config"));
 }
 
-TEST_F(ProgramFolder, IsTheExecutablesWhenThatHoldsTheSettings) {
+TEST_F(StateFolder, IsTheExecutablesWhenThatHoldsTheSettings) {
     fs::permissions(dir / "bin", fs::perms::owner_all);
     WriteBytes(dir / "bin/Korvane.ini", "");
     fs::permissions(dir / "bin", static_cast<fs::perms>(0555));
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
 }
 
-TEST_F(ProgramFolder, IsOtherwiseMadeInTheUsersConfigurationForTheUserAlone) {
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+TEST_F(StateFolder, IsOtherwiseMadeInTheUsersConfigurationForTheUserAlone) {
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "home/.config/korvane");
     EXPECT_EQ(fs::status(dir / "home/.config/korvane").permissions(), fs::perms::owner_all);
     EXPECT_EQ(fs::status(dir / "home/.config").permissions(), fs::perms::owner_all);
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "home/.config/korvane");
 }
 
-TEST_F(ProgramFolder, FollowsTheEnvironmentToTheConfiguration) {
+TEST_F(StateFolder, FollowsTheEnvironmentToTheConfiguration) {
     surroundings.configHome = (dir / "conf").string();
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "conf/korvane");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "conf/korvane");
     EXPECT_TRUE(fs::is_directory(dir / "conf/korvane"));
 }
 
-TEST_F(ProgramFolder, TakesARelativePathInTheEnvironmentForNone) {
+TEST_F(StateFolder, TakesARelativePathInTheEnvironmentForNone) {
     surroundings.configHome = "conf";
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "home/.config/korvane");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "home/.config/korvane");
 }
 
-TEST_F(ProgramFolder, IsTheExecutablesAllTheSameWithoutAnotherPlace) {
+TEST_F(StateFolder, IsTheExecutablesAllTheSameWithoutAnotherPlace) {
     surroundings.home = "";
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
     WriteBytes(dir / "file", "");
     surroundings.home = (dir / "file").string();
-    EXPECT_EQ(FindProgramFolder(surroundings), dir / "bin");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
 }
 
 TEST(OwnSurroundingsTest, KnowTheRunningProgram) {

@@ -18,6 +18,6 @@ Surroundings OwnSurroundings();
 /// The folder of the executable if it holds Korvane.ini or can be written, so that a copy carried about keeps
 /// its state beside it. Otherwise the user's configuration folder, which is made for the user alone; the
 /// executable's folder all the same when that can't be.
-std::filesystem::path FindProgramFolder(const Surroundings& surroundings);
+std::filesystem::path FindStateFolder(const Surroundings& surroundings);
 
 } // namespace korvane

@@ -1,4 +1,4 @@
-#include "platform/native/ProgramFolder.h"
+#include "platform/native/StateFolder.h"
 
 #include "platform/native/SystemCalls.h"
 
@@ -43,7 +43,7 @@ Surroundings OwnSurroundings() {
     return {system_calls::ExecutablePath(), EnvironmentValue("XDG_CONFIG_HOME"), EnvironmentValue("HOME")};
 }
 
-fs::path FindProgramFolder(const Surroundings& surroundings) {
+fs::path FindStateFolder(const Surroundings& surroundings) {
     fs::path beside = surroundings.executable.parent_path();
     if (KeepsState(beside)) return beside;
     const fs::path configHome = ConfigHome(surroundings);

@@ -1,0 +1,214 @@
+// What a user, a disk or another program may have made of the two files in which the program keeps its state.
+
+#include "common/Lines.h"
+#include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace korvane {
+namespace {
+
+const Text kIni = u"C:\\Korvane\\Korvane.ini";
+const Text kRec = u"C:\\Korvane\\Korvane.rec";
+const Text kTable = u"D:\\Data\\Books.tbx";
+const std::string kRecordOfTable = "D:\\Data\\Books.tbx | 0*2026.11.21   10:30\r\n";
+
+std::string Repeated(std::string_view part, int times) {
+    std::string bytes;
+    for (int i = 0; i < times; ++i)
+        bytes += part;
+    return bytes;
+}
+
+std::string EveryByte() {
+    std::string bytes;
+    for (int value = 0; value < 256; ++value)
+        bytes += static_cast<char>(value);
+    return bytes;
+}
+
+constexpr int kMegabyte = 1 << 20;
+
+struct BadFile {
+    const char* name;
+    std::string bytes;
+};
+
+void PrintTo(const BadFile& file, std::ostream* out) {
+    *out << file.name;
+}
+
+std::vector<BadFile> BadFiles() {
+    return {
+        {"Empty", ""},
+        {"OneLineEnd", "\r\n"},
+        {"HalfALineEnd", "\r"},
+        {"Short", "C\r\nC:\\\r\n600\r\n45"},
+        {"Nulls", std::string(10000, '\0')},
+        {"EveryByteOnEveryLine", Repeated(EveryByte() + "\r\n", 300)},
+        {"WideText", std::string("\xFF\xFE"
+                                 "6\0"
+                                 "0\0"
+                                 "0\0"
+                                 "\r\0"
+                                 "\n\0",
+                                 12)},
+        {"NumbersPastAllFields", Repeated("-99999999999999999999\r\n", 215)},
+        {"ALineOfAMegabyte", std::string(kMegabyte, 'x')},
+        {"LinesOfAMegabyte", Repeated(std::string(kMegabyte, '7') + "\r\n", 10)},
+        {"AMegabyteOfReturns", std::string(kMegabyte, '\r')},
+        {"AMegabyteOfFeeds", std::string(kMegabyte, '\n')},
+        {"MillionsOfLines", Repeated("\r\n", 50 * kMegabyte)},
+    };
+}
+
+/// The program with a table, both state files and something else on its disk.
+class BadState : public testing::Test {
+protected:
+    BadState() {
+        p.files.AddDrive(u'D');
+        p.AddTable(kTable, {"Walden"});
+        p.AddSettings();
+        p.files.AddFile(kRec, "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
+        p.files.AddFile(u"C:\\Korvane\\Notes.txt", "notes");
+    }
+    void Start() {
+        p.Start(kTable);
+        EXPECT_TRUE(p.Main().Shown());
+        EXPECT_EQ(p.Captions(), std::vector<Text>{u"Books.tbx"});
+    }
+    void Exit() {
+        p.Choose("mnuFile_Exit");
+        EXPECT_FALSE(p.Main().Shown());
+        EXPECT_EQ(p.FileBytes(kTable), NameTable(kTable, {"Walden"}));
+        EXPECT_EQ(p.FileBytes(u"C:\\Korvane\\Notes.txt"), "notes");
+    }
+    void ExpectCannotLoad(const Text& path) {
+        p.user.Answer({u"Cannot load the following file:\r\n\r\n" + path + u"\r\n\r\nCurrent dir.: C:\\",
+                       MessageIcon::Exclamation},
+                      Answer::Ok);
+    }
+    void ExpectCannotSave(const Text& path, const Text& reason) {
+        p.user.Answer({u"Cannot save this file :\r\n\r\n" + path +
+                           u"\r\n\r\nThe error was probably triggered for the following reason : \r\n\r\n\"" +
+                           reason + u"\"\r\n\r\n",
+                       MessageIcon::Stop},
+                      Answer::Ok);
+    }
+    std::size_t LinesOf(const Text& path) const {
+        const std::string bytes = p.FileBytes(path);
+        LineReader lines(bytes, LineEnds::CrLf);
+        std::size_t count = 0;
+        for (std::string_view line; lines.Next(line);)
+            ++count;
+        return count;
+    }
+
+    TestProgram p;
+};
+
+class BadStateFile : public BadState, public testing::WithParamInterface<BadFile> {};
+
+TEST_P(BadStateFile, AsSettingsIsReadAsFarAsItGoesAndWrittenWhole) {
+    p.files.AddFile(kIni, GetParam().bytes);
+    Start();
+    Exit();
+    p.EndProcess();
+    EXPECT_EQ(p.FileBytes(kRec), kRecordOfTable + "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
+    // What is written comes back, line by line.
+    const Settings written = p.app.Settings;
+    TestProgram next;
+    next.files.AddFile(kIni, p.FileBytes(kIni));
+    next.Start();
+    EXPECT_EQ(next.app.Settings.ReturnPassword, written.ReturnPassword);
+    EXPECT_EQ(next.app.Settings.ImportDelimiterType, written.ImportDelimiterType);
+}
+
+TEST_P(BadStateFile, AsRecordIsReadAsFarAsItGoesAndTheLoadComesFirst) {
+    p.files.AddFile(kRec, GetParam().bytes);
+    Start();
+    Exit();
+    EXPECT_TRUE(p.FileBytes(kRec).starts_with(kRecordOfTable));
+    EXPECT_EQ(LinesOf(kIni), kSettingLines);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BadStateFile, testing::ValuesIn(BadFiles()),
+                         [](const auto& file) { return file.param.name; });
+
+TEST_F(BadState, UnreadableSettingsArePassedOverInSilenceAndReplaced) {
+    p.files.Faults().FailNth(FileStep::OpenToRead, 1, u"Permission denied");
+    Start();
+    Exit();
+    EXPECT_EQ(LinesOf(kIni), kSettingLines);
+}
+
+TEST_F(BadState, AnUnreadableRecordIsPassedOverInSilenceAndReplaced) {
+    p.files.Faults().FailNth(FileStep::OpenToRead, 2, u"Permission denied");
+    Start();
+    Exit();
+    EXPECT_EQ(p.FileBytes(kRec), kRecordOfTable);
+}
+
+TEST_F(BadState, AFolderInThePlaceOfTheSettingsIsToldAtBothEndsAndStays) {
+    p.files.Erase(kIni);
+    p.files.AddDir(kIni);
+    ExpectCannotLoad(kIni);
+    Start();
+    ExpectCannotSave(kIni, u"Is a directory");
+    Exit();
+    EXPECT_TRUE(p.files.DirExists(kIni));
+    EXPECT_TRUE(p.FileBytes(kRec).starts_with(kRecordOfTable));
+}
+
+TEST_F(BadState, AFolderInThePlaceOfTheRecordIsToldAtTheEndAndStays) {
+    p.files.Erase(kRec);
+    p.files.AddDir(kRec);
+    Start();
+    ExpectCannotSave(kRec, u"Is a directory");
+    Exit();
+    EXPECT_TRUE(p.files.DirExists(kRec));
+    EXPECT_EQ(LinesOf(kIni), kSettingLines);
+}
+
+TEST_F(BadState, OnAReadOnlyDiskTheEndTellsOfBothFilesAndTheOldOnesStay) {
+    p.files.SetDiskReadOnly();
+    const std::string before = p.FileBytes(kIni);
+    Start();
+    ExpectCannotSave(kIni, u"Read-only file system");
+    ExpectCannotSave(kRec, u"Read-only file system");
+    Exit();
+    EXPECT_EQ(p.FileBytes(kIni), before);
+    EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
+}
+
+TEST_F(BadState, ReadOnlyFilesAreToldAndStay) {
+    p.files.SetFileReadOnly(kIni);
+    p.files.SetFileReadOnly(kRec);
+    Start();
+    ExpectCannotSave(kIni, u"Permission denied");
+    ExpectCannotSave(kRec, u"Permission denied");
+    Exit();
+    EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
+}
+
+// Deliberate: only a file that can't be opened is told.
+TEST_F(BadState, AFullDiskCutsTheFilesInSilenceAndTheNextStartReadsWhatThereIs) {
+    p.files.SetFreeBytes(20);
+    Start();
+    Exit();
+    EXPECT_EQ(p.FileBytes(kIni).size(), 20u);
+    EXPECT_EQ(p.FileBytes(kRec), "");
+    p.EndProcess();
+
+    TestProgram next;
+    next.files.AddFile(kIni, p.FileBytes(kIni));
+    next.files.AddFile(kRec, "");
+    next.Start();
+    EXPECT_EQ(next.app.Settings.CurDirAtSave, u"C:\\");
+    EXPECT_EQ(next.Main().Recents().RecentNext, 1);
+}
+
+} // namespace
+} // namespace korvane
