@@ -40,6 +40,68 @@ TEST(FileChooser, ChoosesNothingWhereNobodyAnswers) {
     EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
 }
 
+TEST(FileChooser, HandsOverSeveralFilesWithTheirNumber) {
+    TestApp t;
+    t.user.ChooseFiles({u"C:\\a.tbx", u"C:\\b.tbx"});
+    ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
+    EXPECT_EQ(t.app.Lister.ChosenFileCount, 2);
+    EXPECT_EQ(t.app.Lister.ChosenFiles, (std::vector<Text>{u"", u"C:\\a.tbx", u"C:\\b.tbx"}));
+}
+
+TEST(FileChooser, ProposesNoNameOfASaveBefore) {
+    TestApp t;
+    t.app.Lister.FileDialogDefaultName = u"C:\\saved.tbx";
+    t.user.CancelChooser();
+    ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
+    EXPECT_EQ(t.user.Requests().at(0).FileDialogDefaultName, u"");
+}
+
+TEST(DirectoryLister, IsTheChooserForAllFilesUnderItsOwnCaption) {
+    TestApp t;
+    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    t.user.CancelChooser();
+    ShowDirectoryLister(t.app);
+    const ListerRequest& request = t.user.Requests().at(0);
+    EXPECT_EQ(request.FileDialogFilter, u"*.*");
+    EXPECT_EQ(request.FileDialogCaption, u"Directory lister");
+    EXPECT_EQ(request.ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Lister.FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
+}
+
+// Deliberate: a save that was given up leaves its mode and name to the lister.
+TEST(DirectoryLister, KeepsTheModeAndTheNameThatWereLeftLast) {
+    TestApp t;
+    t.app.Lister.ListerMode = 1;
+    t.app.Lister.FileDialogDefaultName = u"C:\\saved.rtf";
+    t.user.CancelChooser();
+    ShowDirectoryLister(t.app);
+    EXPECT_EQ(t.user.Requests().at(0).ListerMode, 1);
+    EXPECT_EQ(t.user.Requests().at(0).FileDialogDefaultName, u"C:\\saved.rtf");
+    EXPECT_EQ(t.app.Lister.ListerMode, 1);
+}
+
+TEST(DirectoryLister, DoesNothingWhereNobodyAnswers) {
+    TestApp t;
+    t.app.FilePicker = nullptr;
+    ShowDirectoryLister(t.app);
+    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
+}
+
+TEST(KeepCurrentDir, StaysWhereItIsWhenTheDirectoryHasGone) {
+    TestApp t;
+    t.files.AddDir(u"C:\\Here");
+    t.files.ChangeDir(u"C:\\Here");
+    {
+        const KeepCurrentDir keep(t.app.Files());
+        t.files.ChangeDir(u"C:\\");
+        t.files.Erase(u"C:\\Here");
+    }
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\");
+}
+
 TEST(KeepCurrentDir, GoesBackToDriveAndDirectory) {
     TestApp t;
     t.files.AddDir(u"C:\\Here");
