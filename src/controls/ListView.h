@@ -36,6 +36,8 @@ public:
     /// Whether several rows can be picked at once, and whether rows have check boxes.
     Property<bool> MultiSelect{*this, Aspect::Range};
     Property<bool> CheckBoxes{*this, Aspect::Range};
+    /// Whether lines are drawn between rows and columns.
+    Property<bool> GridLines{*this, Aspect::Range};
     Property<Colour> BackColor{*this, Aspect::Colours};
 
     int Count() const { return static_cast<int>(rows_.size()); }

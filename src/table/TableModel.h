@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -52,6 +53,8 @@ public:
     ColumnTexts ColumnNames;
     /// Used only between reading the column lines of a file and creating the columns.
     ColumnTexts ColumnWidths;
+    /// The titles of the last design on this tab, without gaps.
+    std::vector<Text> lstNewTableColumns;
 
 private:
     Grid& grid_;

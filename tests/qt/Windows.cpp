@@ -16,6 +16,7 @@
 #include "shell/frmSetYourProg.h"
 #include "shell/frmSettings.h"
 #include "shell/frmWindowSize.h"
+#include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
 
 namespace korvane {
@@ -35,6 +36,8 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmDelimiterType>(all.tab, all.copy);
      }},
+    {"frmDesignTable",
+     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmDesignTable>(all.tab); }},
     {"frmFileList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFileList>(all.app, all.main.Recents(), all.main);

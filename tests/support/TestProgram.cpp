@@ -2,6 +2,7 @@
 
 #include "common/CodePage.h"
 #include "shell/Commands.h"
+#include "table/frmDesignTable.h"
 
 #include <gtest/gtest.h>
 
@@ -28,6 +29,15 @@ void TestProgram::Start(const Text& commandLine) {
 void TestProgram::StartWith(const Settings& settings, const Text& commandLine) {
     AddSettings(settings);
     Start(commandLine);
+}
+
+void TestProgram::OpenNewTab() {
+    CancelDesign();
+    Choose("mnuEdit_DesignDb");
+}
+
+void TestProgram::CancelDesign() {
+    user.On<frmDesignTable>([](frmDesignTable& design) { design.cmdCancel.Press(); });
 }
 
 void TestProgram::Open(const Text& path) {

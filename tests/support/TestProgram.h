@@ -36,6 +36,10 @@ public:
     // What the user does.
 
     void Choose(std::string_view command) { main_->OfficeMenu1.Choose(command); }
+    /// Opens an empty tab, by starting a design and giving it up.
+    void OpenNewTab();
+    /// The next window is that of a design, which the user gives up.
+    void CancelDesign();
     /// Opens a file through the menu.
     void Open(const Text& path);
     /// Presses a key with the keyboard in the grid of the active tab: the menu bar sees it first. Whether it

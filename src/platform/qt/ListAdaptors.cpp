@@ -3,6 +3,8 @@
 #include "platform/qt/Convert.h"
 
 #include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 namespace korvane {
@@ -10,6 +12,20 @@ namespace korvane {
 namespace {
 
 constexpr int kKeyRole = Qt::UserRole;
+
+/// Draws a line below and at the right of each cell.
+class LinedDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        painter->setPen(option.palette.color(QPalette::Window));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+    }
+};
 
 Qt::CheckState ToCheckState(bool checked) {
     return checked ? Qt::Checked : Qt::Unchecked;
@@ -127,6 +143,8 @@ void ListViewAdaptor::WriteShape() {
     }
     widget_.setSelectionMode(control_.MultiSelect ? QAbstractItemView::ExtendedSelection
                                                   : QAbstractItemView::SingleSelection);
+    const bool lined = dynamic_cast<const LinedDelegate*>(widget_.itemDelegate()) != nullptr;
+    if (control_.GridLines && !lined) widget_.setItemDelegate(new LinedDelegate(&widget_));
 }
 
 void ListViewAdaptor::WriteItems() {

@@ -195,7 +195,7 @@ TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOver) {
 
 TEST_F(LoadPipelineTest, WithoutANewTabTheActiveOneIsFilled) {
     p.StartWith({});
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     p.Main().Pipeline().OpenDatabase(kA, LoadInto::ActiveTab);
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
     EXPECT_EQ(FirstCell(1), kA);

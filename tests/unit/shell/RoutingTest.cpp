@@ -1,5 +1,6 @@
 #include "shell/Commands.h"
 #include "support/TestProgram.h"
+#include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
 
 #include <gtest/gtest.h>
@@ -45,10 +46,26 @@ TEST_F(Routing, ACommandReachesTheTabThatIsActiveAtTheTime) {
 
 TEST_F(Routing, DesignMakesItsOwnTabAlsoWhereNoneIsOpen) {
     p.StartWith({});
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
     p.Choose("mnuImport_Clip");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
+}
+
+TEST_F(Routing, ADesignFillsTheTabThatItMade) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith({}, u"C:\\a.tbx");
+    p.user.On<frmDesignTable>([](frmDesignTable& design) {
+        design.cmdAutoLabel.Press();
+        design.cmdMake.Press();
+    });
+    EXPECT_TRUE(p.PressKey('N', Mask::Ctrl));
+    const Text file = p.files.Style().JoinPath(p.files.CurrentDir(), u"NewTextDatabase.tbx");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", file}));
+    EXPECT_EQ(p.Tab(2).GridStore().ColCount(), MaxColumns);
+    EXPECT_EQ(p.Tab(2).txtRowHeight.Text.Get(), u"24");
+    EXPECT_EQ(p.Tab(1).GridStore().ColCount(), Col{1});
+    p.Tab(2).Table().TableAltered = 0;
 }
 
 TEST_F(Routing, SaveAllRewritesEveryTabAndListsAll) {
@@ -80,7 +97,7 @@ TEST_F(Routing, SaveAllWithoutTabsSaysNothing) {
 
 TEST_F(Routing, SaveAllListsATabWithoutAFileThoughItCannotBeSaved) {
     p.StartWith({});
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     p.user.Answer(Answer::Ok);
     p.user.Answer({u"Databases saved to disk: \r\n\r\nUntitled_1.tbx\r\n", MessageIcon::Information},
                   Answer::Ok);
@@ -127,6 +144,7 @@ TEST_F(Routing, EveryToolBarButtonStandsUnderItsNameAndRunsItsCommand) {
         ASSERT_NE(button(entry.name), nullptr) << entry.name;
         EXPECT_EQ(button(entry.name)->ToolTipText.Get(), entry.toolTip);
     }
+    p.CancelDesign();
     button("cmdDesignDb")->Press();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
     button("cmdClose")->Press();

@@ -76,7 +76,7 @@ TEST_F(SideBarTest, SpaceAndReturnRunTheCurrentRowAndAreSwallowed) {
 
 TEST_F(SideBarTest, OtherKeysPass) {
     Start();
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     EXPECT_FALSE(p.PressSideBarKey('V', Mask::Ctrl | Mask::Alt));
     EXPECT_FALSE(p.PressSideBarKey(Key::F(10)));
     EXPECT_FALSE(p.PressSideBarKey(Key::Down));
@@ -127,7 +127,7 @@ TEST_F(SideBarTest, IsHiddenWhereTheSettingsSayNothing) {
 
 TEST_F(SideBarTest, ItsWidthStepsFromTheGridsOwnTo2900AndBack) {
     Start();
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     std::vector<int> widths{p.Main().iGridListBar.Width.Get().Number()};
     for (int i = 0; i < 8; ++i) {
         p.Choose("mnuSidebarWidth");

@@ -232,13 +232,13 @@ TEST_F(TabTest, TakesOverTheFindTextOfTheTabThatWasClosedLast) {
     Tab().txtFindString.Type(u"fig");
     p.Choose("mnuFile_Close");
     EXPECT_EQ(p.app.Settings.LastDbFindText, u"fig");
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     EXPECT_EQ(Tab().txtFindString.Text.Get(), u"fig");
 }
 
 TEST_F(TabTest, ANewTabIsEmpty) {
     p.StartWith({});
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     EXPECT_EQ(Tab().GridStore().RowCount(), Row{0});
     EXPECT_EQ(Tab().GridStore().CurRow(), Row{0});
     EXPECT_EQ(Tab().Table().TxtDbFile, u"");

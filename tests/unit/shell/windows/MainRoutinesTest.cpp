@@ -36,7 +36,7 @@ TEST_F(MainRoutinesTest, TheGridsKeyShowsTheClipboard) {
     CountingClipboardView view;
     p.app.ClipboardView = &view;
     p.StartWith({});
-    p.Choose("mnuEdit_DesignDb");
+    p.OpenNewTab();
     EXPECT_TRUE(p.PressKey('V', Mask::Ctrl | Mask::Alt));
     EXPECT_EQ(view.shown, 1);
 }

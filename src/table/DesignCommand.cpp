@@ -1,0 +1,75 @@
+#include "table/DesignCommand.h"
+
+#include "context/App.h"
+#include "table/NewTable.h"
+#include "table/SaveCommands.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+#include "table/frmDesignTable.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr Row kNewRows{8};
+
+void TakeColumnNames(TableModel& table) {
+    table.ColumnNames.Clear();
+    Col col{1};
+    for (const Text& title : table.lstNewTableColumns) {
+        table.ColumnNames.Set(col, title);
+        ++col;
+    }
+}
+
+void FillGrid(Grid& grid, const std::vector<Text>& titles) {
+    grid.GridBeginUpdate();
+    grid.SetRowCount(kNewRows);
+    Col col{1};
+    for (const Text& title : titles) {
+        AddNewColumn(grid, col, title);
+        ++col;
+    }
+    // Whether a click on a header sorts stays as it was in the tab. Deliberate: it is the first click that
+    // asks the settings.
+    GiveNewTableLook(grid);
+    for (Row row{1}; row <= kNewRows; ++row) {
+        grid.SetRowHeight(row, kNewRowHeight);
+        grid.SetCellCheckShown(row, true);
+    }
+    grid.GridEndUpdate();
+}
+
+void TakeLook(TableModel& table) {
+    const Grid& grid = table.GridStore();
+    table.SetRowHeight = static_cast<std::int16_t>(kNewRowHeight);
+    table.TableBackColour = grid.GridBackColor();
+    table.TableFontName = grid.GridFontName();
+    table.TableFontSize = static_cast<std::int16_t>(grid.GridFontSize());
+}
+
+void MakeDesignedTable(const TabContext& tab) {
+    TableModel& table = tab.table;
+    TakeColumnNames(table);
+    FillGrid(table.GridStore(), table.lstNewTableColumns);
+    table.TxtDbFile = NewDatabaseFilePath(tab.app.Files());
+    tab.host.SetTabCaption(table.TxtDbFile);
+    TakeLook(table);
+    tab.host.ShowRowHeight(static_cast<std::int16_t>(kNewRowHeight));
+    table.TableAltered = 1;
+}
+
+} // namespace
+
+void mnuEdit_DesignDb_Clack(const TabContext& tab) {
+    if (AskToSave(tab)) {
+        frmDesignTable(tab).ShowModal();
+        // Only the titles count, not how the window was left: after a cancel those of an earlier design are
+        // taken again. Deliberate.
+        if (!tab.table.lstNewTableColumns.empty()) MakeDesignedTable(tab);
+    }
+    tab.table.GridStore().GridSetFocus();
+}
+
+} // namespace korvane

@@ -1,0 +1,159 @@
+#include "table/frmDesignTable.h"
+
+#include "common/Number.h"
+#include "context/App.h"
+#include "platform/MessageBoxes.h"
+#include "table/TableModel.h"
+
+#include <utility>
+#include <vector>
+
+namespace korvane {
+
+namespace {
+
+constexpr Twips kWidth{7500};
+constexpr Twips kHeight{7350};
+/// What stands beside the list: the margins of the window and the two arrows.
+constexpr int kBesideList = 1050;
+
+constexpr int kEntries = MaxColumns.Number();
+
+enum Column : std::size_t { kNumber, kTitle };
+
+} // namespace
+
+frmDesignTable::frmDesignTable(const TabContext& tab)
+    : Form(tab.app.Forms(), "frmDesignTable", u"Devise columns for new table"),
+      ListView1(*this, "ListView1", {{u"No.", Twips{}}, {u"Title", Twips{}}}),
+      tab_(tab) {
+    ListView1.MultiSelect = true;
+    ListView1.GridLines = true;
+    ListView1.KeyDown = [this](KeyEvent& key) { ListView1_KeyDown(key); };
+    txtColumnName.KeyDown = [this](KeyEvent& key) { txtColumnName_KeyDown(key); };
+    Image2.Click = [this] { MoveCurrent(-1); };
+    Image1.Click = [this] { MoveCurrent(1); };
+    cmdAssign.Click = [this] { cmdAssign_Click(); };
+    cmdAutoLabel.Click = [this] { cmdAutoLabel_Click(); };
+    cmdDeleteEntry.Click = [this] { cmdDeleteEntry_Click(); };
+    cmdMake.Click = [this] { cmdMake_Click(); };
+    cmdCancel.Click = [this] { Close(); };
+    cmdCancel.Cancel = true;
+}
+
+void frmDesignTable::Load() {
+    Width = kWidth;
+    Height = kHeight;
+    LayOutColumns();
+    FillList();
+    txtColumnName.Text = u"(enter label)";
+    txtColumnName.SelectAll();
+    ListView1.SetCurrent(1);
+    ListView1.SetFocus();
+}
+
+void frmDesignTable::Resize() {
+    LayOutColumns();
+}
+
+void frmDesignTable::FillList() {
+    ListView1.Clear();
+    for (int number = 1; number <= kEntries; ++number) {
+        ListRow row;
+        row.key = u"K_" + NumberText(number);
+        row.texts = {NumberText(number), {}};
+        ListView1.Add(std::move(row));
+    }
+}
+
+void frmDesignTable::LayOutColumns() {
+    const int list = Width.Get().Number() - kBesideList;
+    std::vector<ListColumn> columns = ListView1.Columns;
+    columns[kNumber].width = Twips{list / 10};
+    columns[kTitle].width = Twips{list * 2 / 3};
+    ListView1.Columns = std::move(columns);
+}
+
+void frmDesignTable::SetTitle(int index, Text title) {
+    ListRow row = ListView1.RowAt(index);
+    row.texts[kTitle] = std::move(title);
+    ListView1.Set(index, std::move(row));
+}
+
+int frmDesignTable::SelectedCount() const {
+    int count = 0;
+    for (int index = 1; index <= kEntries; ++index)
+        count += ListView1.RowAt(index).selected ? 1 : 0;
+    return count;
+}
+
+void frmDesignTable::ClearSelectedTitles() {
+    for (int index = 1; index <= kEntries; ++index) {
+        if (ListView1.RowAt(index).selected) SetTitle(index, {});
+    }
+}
+
+void frmDesignTable::MoveCurrent(int step) {
+    const int from = ListView1.Current();
+    const int to = from + step;
+    if (from == 0 || to < 1 || to > kEntries) return;
+    ListRow moved = ListView1.RowAt(from);
+    ListRow neighbour = ListView1.RowAt(to);
+    // The keys belong to the places in the list, not to what stands there.
+    std::swap(moved.texts, neighbour.texts);
+    ListView1.Set(from, std::move(moved));
+    ListView1.Set(to, std::move(neighbour));
+    ListView1.SetCurrent(to);
+}
+
+void frmDesignTable::txtColumnName_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Return, Mask::None)) return;
+    key.consumed = true;
+    cmdAssign_Click();
+}
+
+void frmDesignTable::ListView1_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Delete, Mask::None)) return;
+    key.consumed = true;
+    cmdDeleteEntry_Click();
+}
+
+void frmDesignTable::cmdAssign_Click() {
+    const Text& title = txtColumnName.Text;
+    if (ListView1.Current() != 0 && !Trim(title).empty()) SetTitle(ListView1.Current(), title);
+}
+
+void frmDesignTable::cmdAutoLabel_Click() {
+    for (int index = 1; index <= kEntries; ++index)
+        SetTitle(index, u"Col " + NumberText(index));
+}
+
+void frmDesignTable::cmdDeleteEntry_Click() {
+    const int count = SelectedCount();
+    if (count == 0) {
+        tab_.app.Messages().Show({u"No items checked.", MessageIcon::Information});
+        return;
+    }
+    const Text question = u"Delete  [ " + NumberText(count) + u" ]  entries ?" + Text(kCrLf);
+    const Answer answer = tab_.app.Messages().Show({question, MessageIcon::Question, MessageButtons::YesNo});
+    if (answer != Answer::Yes) return;
+    ClearSelectedTitles();
+    ListView1.SetFocus();
+    ListView1.SetCurrent(1);
+}
+
+void frmDesignTable::cmdMake_Click() {
+    std::vector<Text> titles;
+    for (int index = 1; index <= kEntries; ++index) {
+        const Text& title = ListView1.RowAt(index).texts[kTitle];
+        if (!title.empty()) titles.push_back(title);
+    }
+    if (titles.empty()) {
+        tab_.app.Messages().Show({u"No column names have been specified!", MessageIcon::Exclamation});
+        return;
+    }
+    tab_.table.lstNewTableColumns = std::move(titles);
+    Close();
+}
+
+} // namespace korvane

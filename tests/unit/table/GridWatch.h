@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Grid.h"
+
+namespace korvane {
+
+/// Counts what a shown grid would hear.
+class GridWatch final : public GridListener {
+public:
+    int wanted = 0;
+    int tableChanges = 0;
+    int rowChanges = 0;
+
+    void RowsChanged(Row, Row) override { ++rowChanges; }
+    void TableChanged() override { ++tableChanges; }
+    void ColumnChanged(Col) override {}
+    void LookChanged() override {}
+    void CurrentCellChanged() override {}
+    void FocusWanted() override { ++wanted; }
+    void RowWantedInView(Row) override {}
+};
+
+} // namespace korvane
