@@ -1,20 +1,22 @@
 #pragma once
 
-#include <stdlib.h>
-
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 
 namespace korvane {
 
-/// A folder of its own for one test, gone with it.
+/// A folder of its own for one test, the user's alone, gone with it.
 class TempDir {
 public:
     TempDir() {
-        std::string name = (std::filesystem::temp_directory_path() / "korvane-test-XXXXXX").string();
-        path_ = mkdtemp(name.data());
+        std::random_device random;
+        do {
+            path_ = std::filesystem::temp_directory_path() / ("korvane-test-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(path_));
+        std::filesystem::permissions(path_, std::filesystem::perms::owner_all);
     }
     TempDir(const TempDir&) = delete;
     TempDir& operator=(const TempDir&) = delete;

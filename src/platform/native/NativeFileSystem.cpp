@@ -30,7 +30,7 @@ fs::path WithoutDetours(const fs::path& path) {
             plain /= part;
         }
     }
-    return plain;
+    return plain.make_preferred();
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 
 namespace korvane::system_calls {
 
@@ -42,6 +43,11 @@ void GiveRights(int file, const FileRights& rights) {
     const mode_t mode = rights.mode & kRightsBits;
     // When this fails the file stays its owner's alone, and is none the worse written.
     [[maybe_unused]] const int result = fchmod(file, groupKept ? mode : WithoutGroup(mode));
+}
+
+fs::path EnvironmentPath(const char* name) {
+    const char* value = std::getenv(name);
+    return value ? value : "";
 }
 
 } // namespace
@@ -104,6 +110,10 @@ std::optional<std::time_t> ModifiedTime(const fs::path& path) {
 
 bool MakePrivateDir(const fs::path& path) {
     return mkdir(path.c_str(), kOwnersDir) == 0;
+}
+
+UserFolders OwnUserFolders() {
+    return {EnvironmentPath("XDG_CONFIG_HOME"), EnvironmentPath("HOME")};
 }
 
 void PreferLargePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) {

@@ -2,8 +2,6 @@
 
 #include "platform/native/SystemCalls.h"
 
-#include <cstdlib>
-
 namespace korvane {
 
 namespace {
@@ -13,11 +11,6 @@ namespace fs = std::filesystem;
 constexpr auto kSettingsName = "Korvane.ini";
 constexpr auto kConfigName = "korvane";
 
-std::string EnvironmentValue(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
 bool KeepsState(const fs::path& folder) {
     std::error_code error;
     return fs::exists(folder / kSettingsName, error) || system_calls::IsWritable(folder);
@@ -25,10 +18,8 @@ bool KeepsState(const fs::path& folder) {
 
 /// Empty when the user has no such folder. A relative path in the environment counts as none.
 fs::path ConfigHome(const Surroundings& surroundings) {
-    fs::path given = surroundings.configHome;
-    if (given.is_absolute()) return given;
-    const fs::path home = surroundings.home;
-    return home.is_absolute() ? home / ".config" : fs::path();
+    if (surroundings.configHome.is_absolute()) return surroundings.configHome;
+    return surroundings.home.is_absolute() ? surroundings.home / ".config" : fs::path();
 }
 
 bool MakePrivateDirs(const fs::path& path) {
@@ -40,7 +31,8 @@ bool MakePrivateDirs(const fs::path& path) {
 } // namespace
 
 Surroundings OwnSurroundings() {
-    return {system_calls::ExecutablePath(), EnvironmentValue("XDG_CONFIG_HOME"), EnvironmentValue("HOME")};
+    const system_calls::UserFolders folders = system_calls::OwnUserFolders();
+    return {system_calls::ExecutablePath(), folders.settings, folders.home};
 }
 
 fs::path FindStateFolder(const Surroundings& surroundings) {

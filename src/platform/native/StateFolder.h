@@ -1,15 +1,14 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace korvane {
 
 /// What decides where the program keeps its state. A variable that the environment lacks is empty.
 struct Surroundings {
     std::filesystem::path executable;
-    std::string configHome; ///< XDG_CONFIG_HOME
-    std::string home;       ///< HOME
+    std::filesystem::path configHome; ///< XDG_CONFIG_HOME; on Windows APPDATA
+    std::filesystem::path home;       ///< HOME; on Windows none
 };
 
 /// The surroundings of the running process.

@@ -54,6 +54,12 @@ int AnsiCodePage();
 /// Lets the standard streams carry bytes as they are, and a write to a pipe that nobody reads any more fail
 /// instead of ending the program.
 void PrepareStandardStreams();
+/// Where the user's programs keep their settings, as the environment tells; both empty when it doesn't.
+struct UserFolders {
+    std::filesystem::path settings;
+    std::filesystem::path home;
+};
+UserFolders OwnUserFolders();
 /// The file of the running program; empty when the system doesn't tell.
 std::filesystem::path ExecutablePath();
 

@@ -8,7 +8,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 
 namespace korvane::system_calls {
 
@@ -16,11 +18,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kMayWrite = 2;
-
 /// The calls count in 32 bits.
 unsigned AtOnce(std::size_t size) {
     return static_cast<unsigned>(std::min<std::size_t>(size, 1u << 30));
+}
+
+bool IsReadOnlyFile(const fs::path& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0 &&
+           (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+int ErrnoOf(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ? ENOENT : EACCES;
 }
 
 } // namespace
@@ -53,7 +63,21 @@ std::size_t SizeOf(int file) {
 }
 
 bool IsWritable(const fs::path& path) {
-    return _waccess(path.c_str(), kMayWrite) == 0;
+    if (IsReadOnlyFile(path)) {
+        errno = EACCES;
+        return false;
+    }
+    // The attribute tells nothing of folders, nor of what the user may do. Of a folder the same right means
+    // to make files in it.
+    const HANDLE file =
+        CreateFileW(path.c_str(), FILE_WRITE_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        errno = ErrnoOf(GetLastError());
+        return false;
+    }
+    CloseHandle(file);
+    return true;
 }
 
 std::optional<FileRights> RightsOf(const fs::path&) {
@@ -73,6 +97,11 @@ std::optional<std::time_t> ModifiedTime(const fs::path& path) {
 bool MakePrivateDir(const fs::path& path) {
     // A user's folders are their own by inheritance.
     return _wmkdir(path.c_str()) == 0;
+}
+
+UserFolders OwnUserFolders() {
+    const wchar_t* settings = _wgetenv(L"APPDATA");
+    return {settings ? settings : L"", {}};
 }
 
 void PreferLargePages(void*, std::size_t) {}

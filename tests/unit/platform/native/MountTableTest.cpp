@@ -1,7 +1,5 @@
 #include "platform/native/MountTable.h"
 
-#include "platform/native/NativeFileSystem.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -63,21 +61,6 @@ TEST(MountTable, OnlyAMediumHasAName) {
     EXPECT_EQ(NameOf(MountOf(kMounts, "/media/ann/My Stick").value()), "My Stick");
     EXPECT_EQ(NameOf(MountOf(kMounts, "/home/shared").value()), "");
     EXPECT_EQ(NameOf(MountOf(kMounts, "/").value()), "");
-}
-
-TEST(NativeVolume, OfTheRootHoldsBytes) {
-    const NativeFileSystem files(u"/opt/korvane");
-    const auto volume = files.Volume(u"/");
-    ASSERT_TRUE(volume);
-    EXPECT_TRUE(volume->ready);
-    const auto space = std::filesystem::space("/");
-    EXPECT_EQ(volume->totalBytes, static_cast<std::int64_t>(space.capacity));
-    EXPECT_GE(volume->totalBytes, volume->freeBytes);
-}
-
-TEST(NativeVolume, OfAFileThatIsNotThereIsThatOfItsFolder) {
-    const NativeFileSystem files(u"/opt/korvane");
-    EXPECT_EQ(files.Volume(u"/no/such/file")->totalBytes, files.Volume(u"/")->totalBytes);
 }
 
 } // namespace

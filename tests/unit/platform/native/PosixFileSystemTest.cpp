@@ -1,0 +1,187 @@
+// What only a system of POSIX has: pipes, devices, links, rights of owners.
+
+#include "unit/platform/native/NativeFiles.h"
+
+#include <sys/stat.h>
+
+#include <thread>
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr fs::perms kOwnersAlone = fs::perms::owner_read | fs::perms::owner_write;
+
+TEST_F(NativeFiles, ReadsAPipeToItsEnd) {
+    ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
+    const std::string bytes(300000, 'p');
+    std::thread writer([&] { WriteBytes(dir / "pipe", bytes); });
+    EXPECT_EQ(Read("pipe"), bytes);
+    writer.join();
+}
+
+TEST_F(NativeFiles, ReadsWhatTellsNoSize) {
+    const auto bytes = files.ReadAll(u"/proc/self/status");
+    ASSERT_TRUE(bytes);
+    EXPECT_TRUE(bytes->View().starts_with("Name:"));
+}
+
+TEST_F(NativeFiles, AFullDiskFailsTheWriteAndTheClose) {
+    const auto writer = files.OpenRaw(u"/dev/full");
+    ASSERT_TRUE(writer);
+    EXPECT_FALSE(writer->Write("x"));
+    EXPECT_EQ(files.LastErrorText(), u"No space left on device");
+    EXPECT_FALSE(writer->Close());
+    EXPECT_EQ(files.LastErrorText(), u"No space left on device");
+}
+
+TEST_F(NativeFiles, APipeIsNotRemoved) {
+    ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files.Remove(At("pipe")));
+    EXPECT_TRUE(fs::exists(dir / "pipe"));
+    EXPECT_NE(files.LastErrorText(), u"");
+}
+
+TEST_F(NativeFiles, RemovingALinkEmptiesItsFileAndKeepsTheLink) {
+    WriteBytes(dir / "a.tbx", "old");
+    fs::create_symlink("a.tbx", dir / "link.tbx");
+    EXPECT_TRUE(files.Remove(At("link.tbx")));
+    EXPECT_TRUE(fs::is_symlink(dir / "link.tbx"));
+    EXPECT_EQ(ReadBytes(dir / "a.tbx"), "");
+    EXPECT_TRUE(fs::exists(dir / "a.tbx"));
+}
+
+TEST_F(NativeFiles, ALinkToAReadOnlyFileIsNotRemoved) {
+    WriteBytes(dir / "a.tbx", "old");
+    fs::permissions(dir / "a.tbx", kReadOnly);
+    fs::create_symlink("a.tbx", dir / "link.tbx");
+    EXPECT_FALSE(files.Remove(At("link.tbx")));
+    EXPECT_EQ(ReadBytes(dir / "a.tbx"), "old");
+}
+
+TEST_F(NativeFiles, ALinkToNothingIsNotRemovedButWrittenThrough) {
+    fs::create_symlink("new.tbx", dir / "link.tbx");
+    EXPECT_FALSE(files.FileExists(At("link.tbx")));
+    EXPECT_FALSE(files.Remove(At("link.tbx")));
+    EXPECT_TRUE(Save("link.tbx", "new"));
+    EXPECT_TRUE(fs::is_symlink(dir / "link.tbx"));
+    EXPECT_EQ(ReadBytes(dir / "new.tbx"), "new");
+}
+
+TEST_F(NativeFiles, AFileWrittenAnewAfterItsRemovalKeepsItsRights) {
+    WriteBytes(dir / "a.tbx", "old");
+    fs::permissions(dir / "a.tbx", kOwnersAlone);
+    ASSERT_TRUE(files.Remove(At("a.tbx")));
+    ASSERT_TRUE(Save("a.tbx", "new"));
+    EXPECT_EQ(RightsOf("a.tbx"), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, RightsWiderThanTheUsualOnesAreKeptToo) {
+    WriteBytes(dir / "a.tbx", "old");
+    const auto everybody = static_cast<fs::perms>(0666);
+    fs::permissions(dir / "a.tbx", everybody);
+    ASSERT_TRUE(files.Remove(At("a.tbx")));
+    ASSERT_TRUE(Save("a.tbx", "new"));
+    EXPECT_EQ(fs::status(dir / "a.tbx").permissions(), everybody);
+}
+
+TEST_F(NativeFiles, RightsOfARemovedFileGoToNoOtherFile) {
+    WriteBytes(dir / "usual.tbx", "");
+    WriteBytes(dir / "a.tbx", "old");
+    fs::permissions(dir / "a.tbx", fs::perms::owner_read | fs::perms::owner_write | fs::perms::owner_exec);
+    ASSERT_TRUE(files.Remove(At("a.tbx")));
+    ASSERT_TRUE(Save("b.tbx", "new"));
+    EXPECT_EQ(fs::status(dir / "b.tbx").permissions(), fs::status(dir / "usual.tbx").permissions());
+}
+
+TEST_F(NativeFiles, NamesAreUtf8OnTheDisk) {
+    const auto writer = files.OpenRaw(At("") + u"Käse §\U0001F9C0.tbx");
+    ASSERT_TRUE(writer);
+    EXPECT_TRUE(fs::exists(dir / "K\xC3\xA4se \xC2\xA7\xF0\x9F\xA7\x80.tbx"));
+}
+
+TEST_F(NativeFiles, AFullPathKeepsLinksAndWhatLeadsUpBehindThem) {
+    fs::create_directories(dir / "far/away");
+    fs::create_symlink("far/away", dir / "link");
+    EXPECT_EQ(files.FullPath(At("link/a.tbx")), At("link/a.tbx"));
+    EXPECT_EQ(files.FullPath(At("link/../a.tbx")), At("link/../a.tbx"));
+    EXPECT_EQ(files.FullPath(At("link/../../a.tbx")), At("link/../../a.tbx"));
+    EXPECT_EQ(files.FullPath(u"/../a.tbx"), u"/a.tbx");
+    EXPECT_EQ(files.FullPath(u""), u"");
+}
+
+TEST_F(NativeFiles, AFolderIsNoFile) {
+    EXPECT_FALSE(files.ReadAll(FromNativePath(dir.Path())));
+    EXPECT_EQ(files.LastErrorText(), u"Is a directory");
+    EXPECT_FALSE(files.OpenRaw(FromNativePath(dir.Path())));
+    EXPECT_EQ(files.LastErrorText(), u"Is a directory");
+    EXPECT_FALSE(files.Remove(FromNativePath(dir.Path())));
+    EXPECT_EQ(files.LastErrorText(), u"Is a directory");
+}
+
+TEST_F(NativeFiles, PathsAreInTheStyleOfPosix) {
+    EXPECT_EQ(files.Style(), PathStyle::Posix);
+}
+
+// Keeping to the owner.
+
+TEST_F(NativeFiles, APrivateFileIsItsOwnersAloneWhateverTheUsualRightsAre) {
+    const mode_t usual = umask(0);
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    umask(usual);
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+    EXPECT_EQ(ReadBytes(dir / "a.ini"), "secret");
+}
+
+TEST_F(NativeFiles, AFileThatOthersCouldReadBecomesPrivate) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0666));
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, APrivateFileWrittenAnewAfterItsRemovalKeepsItsOwnersRights) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0755));
+    ASSERT_TRUE(files.Remove(At("a.ini")));
+    EXPECT_TRUE(SavePrivately("a.ini", "secret"));
+    EXPECT_EQ(RightsOf("a.ini"), fs::perms::owner_all);
+}
+
+TEST_F(NativeFiles, APrivateFileBehindALinkKeepsTheLink) {
+    WriteBytes(dir / "a.ini", "old");
+    fs::permissions(dir / "a.ini", static_cast<fs::perms>(0644));
+    fs::create_symlink("a.ini", dir / "link.ini");
+    ASSERT_TRUE(files.Remove(At("link.ini")));
+    EXPECT_TRUE(SavePrivately("link.ini", "secret"));
+    EXPECT_TRUE(fs::is_symlink(dir / "link.ini"));
+    EXPECT_EQ(ReadBytes(dir / "a.ini"), "secret");
+    EXPECT_EQ(RightsOf("a.ini"), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, ADeviceKeepsItsRights) {
+    const fs::perms before = fs::status("/dev/null").permissions();
+    EXPECT_TRUE(files.OpenPrivate(u"/dev/null"));
+    EXPECT_EQ(fs::status("/dev/null").permissions(), before);
+}
+
+// Volumes.
+
+TEST(NativeVolume, OfTheRootHoldsBytes) {
+    const NativeFileSystem files(u"/opt/korvane");
+    const auto volume = files.Volume(u"/");
+    ASSERT_TRUE(volume);
+    EXPECT_TRUE(volume->ready);
+    const auto space = std::filesystem::space("/");
+    EXPECT_EQ(volume->totalBytes, static_cast<std::int64_t>(space.capacity));
+    EXPECT_GE(volume->totalBytes, volume->freeBytes);
+}
+
+TEST(NativeVolume, OfAFileThatIsNotThereIsThatOfItsFolder) {
+    const NativeFileSystem files(u"/opt/korvane");
+    EXPECT_EQ(files.Volume(u"/no/such/file")->totalBytes, files.Volume(u"/")->totalBytes);
+}
+
+} // namespace
+} // namespace korvane
