@@ -101,6 +101,35 @@ TEST_F(SettingsFile, NumbersAreTheLeadingNumberOfTheLine) {
     EXPECT_EQ(settings.MainLeft, 14);
 }
 
+TEST_F(SettingsFile, AnEmptyLineIsZeroAndAnEmptyText) {
+    settings.MainLeft = 77;
+    settings.MenuFontSize = 9;
+    settings.MenuFontName = u"Calibri";
+    settings.WallpaperNumber = u"5";
+    Read(Joined(std::vector<std::string>(kSettingLines)));
+    EXPECT_EQ(settings.MainLeft, 0);
+    EXPECT_EQ(settings.MenuFontSize, 0);
+    EXPECT_EQ(settings.MenuFontName, u"");
+    EXPECT_EQ(settings.WallpaperNumber, u"0");
+}
+
+TEST_F(SettingsFile, FlagsStandAsTheNumbersThatTheyAre) {
+    settings.MenuFontBold = -1;
+    settings.SideBarVisible = 1;
+    const auto lines = WrittenLines();
+    EXPECT_EQ(lines.at(8), "-1");
+    EXPECT_EQ(lines.at(169), "1");
+}
+
+TEST_F(SettingsFile, EveryLineStandsUnderTheNumberAndNameOfItsField) {
+    int number = 0;
+    for (const SettingLine& line : SettingsTable())
+        EXPECT_EQ(line.line, ++number) << ToUtf8(line.name);
+    EXPECT_EQ(SettingsTable().at(42).name, u"ShowRecentAtStart");
+    EXPECT_EQ(SettingsTable().at(127).name, u"ReturnPassword");
+    EXPECT_EQ(SettingsTable().at(214).name, u"ImportDelimiterType");
+}
+
 TEST_F(SettingsFile, ANumberTooLargeLeavesTheFieldAsItWas) {
     settings.MenuFontSize = 9;
     settings.MainLeft = 77;

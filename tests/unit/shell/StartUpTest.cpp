@@ -1,10 +1,12 @@
 #include "shell/StartUp.h"
 
+#include "shell/frmFileList.h"
 #include "shell/frmLoadList.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <type_traits>
 
 namespace korvane {
@@ -164,6 +166,63 @@ TEST_F(StartUpTest, TheFirstActivationEndsTheFirstLoad) {
     EXPECT_EQ(p.app.FirstLoadPending, -1);
     main.Activate();
     EXPECT_EQ(p.app.FirstLoadPending, 0);
+}
+
+TEST_F(StartUpTest, EveryActivationEndsTheFirstLoad) {
+    p.StartWith({});
+    p.app.FirstLoadPending = -1;
+    p.Main().Activate();
+    EXPECT_EQ(p.app.FirstLoadPending, 0);
+}
+
+TEST_F(StartUpTest, TwoQuotesWithNothingBetweenThemAreNoFile) {
+    p.StartWith({}, u"\"\"");
+    EXPECT_TRUE(p.Captions().empty());
+}
+
+/// A start in which the settings ask for the recent files.
+class RecentAtStart : public StartUpTest {
+protected:
+    void LoadMain(std::int16_t showRecentAtStart, const Text& commandLine = {}) {
+        Settings settings;
+        settings.ShowRecentAtStart = showRecentAtStart;
+        p.AddSettings(settings);
+        p.files.AddFile(u"C:\\Korvane\\Korvane.rec", "C:\\My data\\a b.tbx | 0*2026.03.01   14:05\r\n");
+        main.emplace(p.app, commandLine);
+        main->EnsureLoaded();
+    }
+
+    std::optional<frmMDIParent> main;
+};
+
+TEST_F(RecentAtStart, TheListComesUpAtTheFirstActivationOnly) {
+    LoadMain(1);
+    p.user.On<frmFileList>([](frmFileList& list) { list.cmdCancel.Press(); });
+    main->Activate();
+    EXPECT_TRUE(main->MDITabs1.Children().empty());
+    main->Activate();
+}
+
+TEST_F(RecentAtStart, AFileOfTheListOpens) {
+    LoadMain(1);
+    p.user.On<frmFileList>([](frmFileList& list) { list.cmdLoad.Press(); });
+    main->Activate();
+    ASSERT_EQ(main->MDITabs1.Children().size(), 1u);
+    EXPECT_EQ(main->MDITabs1.Children()[0]->Caption.Get(), u"a b.tbx");
+}
+
+TEST_F(RecentAtStart, ACommandLineKeepsItAwayEvenOneThatNamesNoFile) {
+    LoadMain(1, u"C:\\missing.tbx");
+    main->Activate();
+    EXPECT_TRUE(main->MDITabs1.Children().empty());
+}
+
+TEST_F(RecentAtStart, OnlyAOneAsksForIt) {
+    for (const std::int16_t value : {std::int16_t{0}, std::int16_t{-1}, std::int16_t{2}}) {
+        LoadMain(value);
+        main->Activate();
+    }
+    EXPECT_TRUE(main->MDITabs1.Children().empty());
 }
 
 TEST_F(StartUpTest, AFileThatArrivesIsLoadedIntoANewTabAndTheSlotIsEmptyAgain) {
