@@ -88,6 +88,27 @@ protected:
     frmMDIParent main{app, kFile};
 };
 
+class MainWindowAtStart : public MainWindowTest {
+protected:
+    void SetUp() override {}
+};
+
+TEST_F(MainWindowAtStart, TheTableHasTheKeyboardBeforeTheFirstKeyCanCome) {
+    main.EnsureLoaded();
+    main.Show();
+    EXPECT_EQ(Window().focusWidget(), &Table());
+}
+
+TEST_F(MainWindowTest, TheWindowThatComesToTheFrontLeavesTheKeyboardWhereItWas) {
+    main.mnuSwitchFocus_Click();
+    ASSERT_EQ(QApplication::focusWidget(), &Part<SideBarView>("iGridListBar"));
+    QEvent activated(QEvent::WindowActivate);
+    for (QWidget* widget : Window().findChildren<QWidget*>())
+        QApplication::sendEvent(widget, &activated);
+    test::Settle();
+    EXPECT_EQ(QApplication::focusWidget(), &Part<SideBarView>("iGridListBar"));
+}
+
 TEST_F(MainWindowTest, EveryEntryStandsInTheMenuBarWithItsKey) {
     for (const MenuEntry& entry : MenuBarEntries()) {
         const QString name = QString::fromLatin1(entry.name.data(), qsizetype(entry.name.size()));

@@ -27,6 +27,7 @@ TabStripAdaptor::TabStripAdaptor(TabStrip& strip, TabPages& widget, PageSource& 
 void TabStripAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Items) WriteTabs();
     if (aspect == Aspect::Items || aspect == Aspect::Selection) ShowActive();
+    if (aspect == Aspect::Items && !tied_) TakeKeyboard();
     if (aspect == Aspect::Visible) widget_.setUpdatesEnabled(control_.AllowDrawing);
     if (aspect == Aspect::Colours) widget_.Tabs().SetLook(control_.Style, control_.Framed);
     AdaptorOf::Write(aspect);
@@ -68,6 +69,13 @@ void TabStripAdaptor::ShowActive() {
     const QScopedValueRollback guard(writing_, true);
     const auto active = std::find(shown_.begin(), shown_.end(), control_.ActiveChild());
     if (active != shown_.end()) widget_.ShowPage(static_cast<int>(active - shown_.begin()));
+}
+
+/// A tab that was activated while there was no widget of it has asked for the keyboard in vain. Keys that
+/// come together with the window are meant for it.
+void TabStripAdaptor::TakeKeyboard() {
+    tied_ = true;
+    if (Form* active = control_.ActiveChild()) active->Activate();
 }
 
 void TabStripAdaptor::TabClicked(int index) {

@@ -22,6 +22,7 @@ private:
     void WriteTabs();
     void AddTab(Form& child);
     void ShowActive();
+    void TakeKeyboard();
     void TabClicked(int index);
     void CloseClicked(int index);
     void ContextClicked(const QPoint& place);
@@ -31,6 +32,8 @@ private:
     /// The children that have a tab, in the order of the tabs.
     std::vector<Form*> shown_;
     bool writing_ = false;
+    /// Whether the strip has been written for the first time.
+    bool tied_ = false;
 };
 
 } // namespace korvane

@@ -102,6 +102,8 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void WindowAdaptor::TellActivated() {
+    // A page is activated with its tab: the window that comes to the front leaves the keyboard where it was.
+    if (!StandsAlone(window_)) return;
     // Later: a handler that lets messages run would let keys come before the window has given the keyboard
     // to one of its widgets.
     QMetaObject::invokeMethod(
