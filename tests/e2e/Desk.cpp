@@ -45,14 +45,24 @@ Desk::Desk()
 void Desk::StartDisplay() {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
-    display_ = std::make_unique<Process>(
+    server_ = std::make_unique<Process>(
         std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", "1280x900x24",
                                  "-nolisten", "tcp", "-noreset"},
         environment_, ends[1]);
     close(ends[1]);
     const std::string number = FirstLine(ends[0]);
     close(ends[0]);
-    if (!number.empty()) environment_["DISPLAY"] = ":" + number;
+    if (number.empty()) return;
+    environment_["DISPLAY"] = ":" + number;
+    display_ = std::make_unique<Display>(environment_["DISPLAY"]);
+}
+
+bool Desk::Until(const std::function<bool()>& holds) {
+    return e2e::Until(holds, {display_.get(), &files_});
+}
+
+bool Desk::Holds(const fs::path& file, const std::string& bytes) {
+    return Until([&] { return ReadBytes(file) == bytes; });
 }
 
 std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments) const {
@@ -70,17 +80,21 @@ std::string Desk::Find(const std::string& title, const std::string& except) cons
     return "";
 }
 
-std::string Desk::GoTo(const std::string& title, const std::string& except) const {
+std::string Desk::GoTo(const std::string& title, const std::string& except) {
     std::string window;
     const bool there = Until([&] {
         window = Find(title, except);
         if (window.empty() || !Output({"xdotool", "windowfocus", window}, environment_)) return false;
-        return Output({"xdotool", "getwindowfocus"}, environment_) == window;
+        return Focused() == window;
     });
     return there ? window : "";
 }
 
-bool Desk::Gone(const std::string& title, const std::string& except) const {
+std::string Desk::Focused() const {
+    return Output({"xdotool", "getwindowfocus"}, environment_).value_or("");
+}
+
+bool Desk::Gone(const std::string& title, const std::string& except) {
     return Until([&] { return Find(title, except).empty(); });
 }
 
@@ -92,6 +106,11 @@ void Desk::Press(const std::vector<std::string>& keys) const {
 
 void Desk::Type(const std::string& text) const {
     Output({"xdotool", "type", text}, environment_);
+}
+
+void Desk::ContextClick(const std::string& window, int x, int y) const {
+    Output({"xdotool", "mousemove", "--window", window, std::to_string(x), std::to_string(y), "click", "3"},
+           environment_);
 }
 
 } // namespace korvane::e2e

@@ -1,83 +1,9 @@
-#include "e2e/Desk.h"
-
-#include <gtest/gtest.h>
+#include "e2e/DeskTest.h"
 
 namespace korvane::e2e {
 namespace {
 
-constexpr auto kMain = "^Korvane$";
-constexpr auto kFileInfo = "^File information$";
-
-/// A table of two columns and two rows as the program writes it to `path`.
-std::string Table(const std::filesystem::path& path, const std::string& changedCell) {
-    const std::vector<std::string> lines{";",
-                                         "; Values for colour, font type, font size, cell height, cell width",
-                                         ";",
-                                         "!16777215",
-                                         "!Calibri",
-                                         "!12",
-                                         "!372",
-                                         ";",
-                                         "; Column names",
-                                         ";",
-                                         "!Name",
-                                         "!1920",
-                                         "!Note",
-                                         "!1920",
-                                         ";",
-                                         "; File data",
-                                         ";",
-                                         "@row_1",
-                                         "?1000",
-                                         "\xA7-1",
-                                         "\xA7-1",
-                                         "@col_1",
-                                         "Anna",
-                                         "@col_2",
-                                         "first line",
-                                         "second line",
-                                         "@row_2",
-                                         "?00B0",
-                                         "\xA7"
-                                         "65535",
-                                         "\xA7"
-                                         "0",
-                                         "@col_1",
-                                         "Bert",
-                                         "@col_2",
-                                         changedCell,
-                                         ";",
-                                         "; End of File: " + path.string(),
-                                         ";"};
-    std::string bytes;
-    for (const std::string& line : lines)
-        bytes += line + "\r\n";
-    return bytes;
-}
-
-class EditingTest : public testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(desk.Stands()) << "Xvfb didn't start";
-        WriteBytes(file, Table(file, "old"));
-    }
-
-    /// Edits the second cell of the second row behind its text.
-    void Edit(const std::string& typed) {
-        desk.Press({"ctrl+Home", "Down", "Right", "F2"});
-        desk.Type(typed);
-        desk.Press({"Return"});
-    }
-    /// Saves, and waits until the file holds the table with this cell.
-    bool SavedAs(const std::filesystem::path& saved, const std::string& cell) {
-        desk.Press({"ctrl+s"});
-        return Until([&] { return ReadBytes(saved) == Table(saved, cell); });
-    }
-    void Exit() { desk.Press({"alt+f", "x"}); }
-
-    Desk desk;
-    std::filesystem::path file = desk.Path("table of people.tbx");
-};
+class EditingTest : public DeskTest {};
 
 TEST_F(EditingTest, ACellIsEditedAndSavedByTheKeyboard) {
     const auto program = desk.Start({file.string()});

@@ -1,20 +1,18 @@
 #include "e2e/Process.h"
 
+#include "e2e/Events.h"
+
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
-#include <chrono>
-#include <thread>
 
 namespace korvane::e2e {
 
 namespace {
-
-constexpr auto kPatience = std::chrono::seconds(30);
-constexpr auto kBetweenLooks = std::chrono::milliseconds(10);
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
@@ -32,15 +30,6 @@ std::vector<std::string> Settings(const Process::Environment& environment) {
 }
 
 } // namespace
-
-bool Until(const std::function<bool()>& holds) {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
-    while (!holds()) {
-        if (std::chrono::steady_clock::now() > end) return false;
-        std::this_thread::sleep_for(kBetweenLooks);
-    }
-    return true;
-}
 
 Process::Process(const std::vector<std::string>& command, const Environment& environment, int inherited) {
     std::vector<std::string> words = command;
@@ -64,13 +53,23 @@ void Process::Reap(int options) {
     if (!ended_ && waitpid(id_, &status_, options) == id_) ended_ = true;
 }
 
+void Process::AwaitEnd() {
+    if (!Running()) return;
+    // The C library has no wrapper of its own for it.
+    const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, id_, 0));
+    if (descriptor < 0) return;
+    WaitToRead(descriptor);
+    close(descriptor);
+}
+
 bool Process::Running() {
     Reap(WNOHANG);
     return !ended_;
 }
 
 std::optional<int> Process::ExitStatus() {
-    if (!Until([this] { return !Running(); }) || !WIFEXITED(status_)) return std::nullopt;
+    AwaitEnd();
+    if (Running() || !WIFEXITED(status_)) return std::nullopt;
     return WEXITSTATUS(status_);
 }
 

@@ -2,16 +2,12 @@
 
 #include <sys/types.h>
 
-#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace korvane::e2e {
-
-/// Looks again and again until `holds` does; false when it doesn't within half a minute.
-bool Until(const std::function<bool()>& holds);
 
 /// A child process. It is killed when this goes away before its end.
 class Process {
@@ -25,11 +21,12 @@ public:
     ~Process();
 
     bool Running();
-    /// Waits for the end; nothing when it doesn't come within half a minute, or came by a signal.
+    /// Waits for the end; nothing when it doesn't come in time, or came by a signal.
     std::optional<int> ExitStatus();
 
 private:
     void Reap(int options);
+    void AwaitEnd();
 
     pid_t id_ = -1;
     bool ended_ = false;
