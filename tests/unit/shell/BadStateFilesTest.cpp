@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <ostream>
 
 namespace korvane {
@@ -22,6 +23,15 @@ std::string Repeated(std::string_view part, int times) {
     return bytes;
 }
 
+/// The part so often as the `doublings`-th power of two says.
+std::string Doubled(std::string_view part, int doublings) {
+    std::string bytes(part);
+    bytes.reserve(part.size() << doublings);
+    for (int i = 0; i < doublings; ++i)
+        bytes += bytes;
+    return bytes;
+}
+
 std::string EveryByte() {
     std::string bytes;
     for (int value = 0; value < 256; ++value)
@@ -31,38 +41,40 @@ std::string EveryByte() {
 
 constexpr int kMegabyte = 1 << 20;
 
+/// Made when its test runs: some are large.
 struct BadFile {
     const char* name;
-    std::string bytes;
+    std::string (*bytes)();
 };
 
 void PrintTo(const BadFile& file, std::ostream* out) {
     *out << file.name;
 }
 
-std::vector<BadFile> BadFiles() {
-    return {
-        {"Empty", ""},
-        {"OneLineEnd", "\r\n"},
-        {"HalfALineEnd", "\r"},
-        {"Short", "C\r\nC:\\\r\n600\r\n45"},
-        {"Nulls", std::string(10000, '\0')},
-        {"EveryByteOnEveryLine", Repeated(EveryByte() + "\r\n", 300)},
-        {"WideText", std::string("\xFF\xFE"
-                                 "6\0"
-                                 "0\0"
-                                 "0\0"
-                                 "\r\0"
-                                 "\n\0",
-                                 12)},
-        {"NumbersPastAllFields", Repeated("-99999999999999999999\r\n", 215)},
-        {"ALineOfAMegabyte", std::string(kMegabyte, 'x')},
-        {"LinesOfAMegabyte", Repeated(std::string(kMegabyte, '7') + "\r\n", 10)},
-        {"AMegabyteOfReturns", std::string(kMegabyte, '\r')},
-        {"AMegabyteOfFeeds", std::string(kMegabyte, '\n')},
-        {"MillionsOfLines", Repeated("\r\n", 50 * kMegabyte)},
-    };
-}
+constexpr std::array kBadFiles{
+    BadFile{"Empty", [] { return std::string(); }},
+    BadFile{"OneLineEnd", [] { return std::string("\r\n"); }},
+    BadFile{"HalfALineEnd", [] { return std::string("\r"); }},
+    BadFile{"Short", [] { return std::string("C\r\nC:\\\r\n600\r\n45"); }},
+    BadFile{"Nulls", [] { return std::string(10000, '\0'); }},
+    BadFile{"EveryByteOnEveryLine", [] { return Repeated(EveryByte() + "\r\n", 300); }},
+    BadFile{"WideText",
+            [] {
+                return std::string("\xFF\xFE"
+                                   "6\0"
+                                   "0\0"
+                                   "0\0"
+                                   "\r\0"
+                                   "\n\0",
+                                   12);
+            }},
+    BadFile{"NumbersPastAllFields", [] { return Repeated("-99999999999999999999\r\n", 215); }},
+    BadFile{"ALineOfAMegabyte", [] { return std::string(kMegabyte, 'x'); }},
+    BadFile{"LinesOfAMegabyte", [] { return Repeated(std::string(kMegabyte, '7') + "\r\n", 10); }},
+    BadFile{"AMegabyteOfReturns", [] { return std::string(kMegabyte, '\r'); }},
+    BadFile{"AMegabyteOfFeeds", [] { return std::string(kMegabyte, '\n'); }},
+    BadFile{"HundredMegabytesOfLines", [] { return Doubled("\r\n", 26); }},
+};
 
 /// The program with a table, both state files and something else on its disk.
 class BadState : public testing::Test {
@@ -112,7 +124,7 @@ protected:
 class BadStateFile : public BadState, public testing::WithParamInterface<BadFile> {};
 
 TEST_P(BadStateFile, AsSettingsIsReadAsFarAsItGoesAndWrittenWhole) {
-    p.files.AddFile(kIni, GetParam().bytes);
+    p.files.AddFile(kIni, GetParam().bytes());
     Start();
     Exit();
     p.EndProcess();
@@ -127,14 +139,14 @@ TEST_P(BadStateFile, AsSettingsIsReadAsFarAsItGoesAndWrittenWhole) {
 }
 
 TEST_P(BadStateFile, AsRecordIsReadAsFarAsItGoesAndTheLoadComesFirst) {
-    p.files.AddFile(kRec, GetParam().bytes);
+    p.files.AddFile(kRec, GetParam().bytes());
     Start();
     Exit();
     EXPECT_TRUE(p.FileBytes(kRec).starts_with(kRecordOfTable));
     EXPECT_EQ(LinesOf(kIni), kSettingLines);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, BadStateFile, testing::ValuesIn(BadFiles()),
+INSTANTIATE_TEST_SUITE_P(All, BadStateFile, testing::ValuesIn(kBadFiles),
                          [](const auto& file) { return file.param.name; });
 
 TEST_F(BadState, UnreadableSettingsArePassedOverInSilenceAndReplaced) {
