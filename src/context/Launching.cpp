@@ -36,11 +36,18 @@ Text FindByName(const FileSystem& files, TextView windowsPath) {
     return InProgramFolder(files, windowsPath.substr(windowsPath.find_last_of(u"\\/") + 1));
 }
 
+/// The file that was found to be there: a bare name handed on would be looked for among the system's own
+/// programs.
+Text ThatFile(const FileSystem& files, const Text& program) {
+    return files.Style().IsAbsolute(program) ? program : files.FullPath(program);
+}
+
 Text FindProgram(const FileSystem& files, TextView program) {
     const PathStyle style = files.Style();
     if (!style.HasDrives() && HasWindowsForm(program)) return FindByName(files, program);
     const Text mapped = MapDrivePath(files, program);
-    if (mapped.empty() || files.FileExists(mapped)) return mapped;
+    if (mapped.empty()) return mapped;
+    if (files.FileExists(mapped)) return ThatFile(files, mapped);
     const TextView name = style.NamePart(mapped);
     const Text inSet = InCompanionSet(style, name);
     return style.HasDrives() && files.FileExists(inSet) ? inSet : InProgramFolder(files, name);
@@ -79,10 +86,16 @@ int LaunchProgram(App& app, TextView program, TextView argument) {
                            WindowState::Normal);
 }
 
+int StartProgram(App& app, TextView program) {
+    return app.Shell().Run(ThatFile(app.Files(), Text(program)), {}, WindowState::Normal);
+}
+
 Text FindOfficeProgram(const App& app, TextView name) {
     const FileSystem& files = app.Files();
     const Text set = LocationSet(app.Settings, name);
     if (!set.empty() && files.FileExists(set)) return set;
+    // Without drives a path of those folders would be a name in the current directory, which may be anything.
+    if (!files.Style().HasDrives()) return files.Style().JoinPath(files.ProgramDir(), name);
     Text path;
     for (const TextView folder : kOfficeFolders) {
         // The folder of programs ends in a backslash already; the system takes two for one.

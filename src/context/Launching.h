@@ -13,6 +13,9 @@ class App;
 /// nothing was started.
 int LaunchProgram(App& app, TextView program, TextView argument = {});
 
+/// Starts a program that is there in a normal window, without looking for it anywhere else.
+int StartProgram(App& app, TextView program);
+
 /// The argument as `LaunchProgram` takes it: without its outer characters if it holds a double quote, and
 /// without outer blanks.
 TextView BareArgument(TextView argument);

@@ -1,9 +1,9 @@
 #include "shell/frmSetYourProg.h"
 
 #include "context/App.h"
+#include "context/Launching.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
-#include "platform/Shell.h"
 #include "shell/ProgramPicker.h"
 
 namespace korvane {
@@ -41,7 +41,7 @@ void frmSetYourProg::cmdOK_Click() {
         return;
     }
     // As it stands, without looking for its other drive form, and the window stays. Deliberate.
-    app_.Shell().Run(program, {}, WindowState::Normal);
+    StartProgram(app_, program);
 }
 
 } // namespace korvane

@@ -65,7 +65,7 @@ TEST_F(LaunchingOnWindows, AFolderIsNoProgram) {
     EXPECT_EQ(Started(u"C:\\Tools\\a.exe"), u"C:\\Korvane\\a.exe");
 }
 
-TEST_F(LaunchingOnWindows, AStartThatFailsIsSwallowed) {
+TEST_F(LaunchingOnWindows, AStartThatFailsIsSwallowedDeliberately) {
     t.shell.SetStartable([this](TextView program) { return t.files.FileExists(program); });
     EXPECT_EQ(LaunchProgram(t.app, u"C:\\Drive_G\\lost.exe", u"x"), 0);
     EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"C:\\Korvane\\lost.exe", {u"x"}}));
@@ -81,7 +81,34 @@ TEST_F(LaunchingOnWindows, NeverDoublesTheBackslashOfAProgramFolderThatIsARoot) 
     EXPECT_EQ(Started(u"D:\\a.exe"), u"C:\\a.exe");
 }
 
-TEST_F(LaunchingOnWindows, LosesThePlaceOfANameWithoutAFolderToItsMirrorOnPurpose) {
+TEST_F(LaunchingOnWindows, LooksWhereTheProgramStandsAlsoWhenItsStateIsElsewhere) {
+    t.files.SetStateDir(u"C:\\Users\\ann");
+    EXPECT_EQ(Started(u"C:\\Drive_G\\lost.exe"), u"C:\\Korvane\\lost.exe");
+}
+
+TEST_F(LaunchingOnWindows, ANameThatIsThereStartsThatFileAndNoneOfTheSystems) {
+    t.files.AddFile(u"C:\\Here\\notepad.exe");
+    t.files.ChangeDir(u"C:\\Here");
+    EXPECT_EQ(Started(u"notepad.exe"), u"C:\\Here\\notepad.exe");
+    StartProgram(t.app, u"notepad.exe");
+    EXPECT_THAT(t.shell.Starts().back(), (ProgramStart{u"C:\\Here\\notepad.exe", {}, WindowState::Normal}));
+}
+
+TEST_F(LaunchingOnWindows, ADirectStartLooksNowhereElse) {
+    t.files.AddFile(u"C:\\Drive_G\\a.exe");
+    StartProgram(t.app, u"G:\\a.exe");
+    EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"G:\\a.exe", {}, WindowState::Normal}));
+}
+
+TEST_F(LaunchingOnWindows, AHostileFileNameIsNoMoreThanAWordOfTheArgument) {
+    EXPECT_THAT(Words(u"C:\\d\\a&calc|b>c^%PATH%;(d)`e`.txt"),
+                ElementsAre(u"C:\\d\\a&calc|b>c^%PATH%;(d)`e`.txt"));
+    EXPECT_THAT(Words(u"/c calc.exe\r\nnotepad"), ElementsAre(u"/c", u"calc.exe\r\nnotepad"));
+    for (const ProgramStart& start : t.shell.Starts())
+        EXPECT_EQ(start.program, u"C:\\Korvane\\a.exe");
+}
+
+TEST_F(LaunchingOnWindows, LosesThePlaceOfANameWithoutAFolderToItsMirrorDeliberately) {
     EXPECT_EQ(Started(u"a.exe"), u"C:\\Korvane\\Drive_a.exe");
 }
 
@@ -90,7 +117,7 @@ TEST_F(LaunchingOnWindows, ABlankArgumentIsNone) {
     EXPECT_THAT(Words(u"   "), SizeIs(0));
 }
 
-TEST_F(LaunchingOnWindows, NobodyQuotesTheArgument) {
+TEST_F(LaunchingOnWindows, NobodyQuotesTheArgumentDeliberately) {
     EXPECT_THAT(Words(u" C:\\My Files\\x.txt "), ElementsAre(u"C:\\My", u"Files\\x.txt"));
 }
 
@@ -98,7 +125,7 @@ TEST_F(LaunchingOnWindows, AnArgumentInQuotesIsStrippedOfThemAndSplit) {
     EXPECT_THAT(Words(u"\"C:\\My Files\\x.txt\""), ElementsAre(u"C:\\My", u"Files\\x.txt"));
 }
 
-TEST_F(LaunchingOnWindows, AQuoteAnywhereTakesTheOuterCharactersWhateverTheyAre) {
+TEST_F(LaunchingOnWindows, AQuoteAnywhereTakesTheOuterCharactersWhateverTheyAreDeliberately) {
     EXPECT_THAT(Words(u"ab \"c d\" ef"), ElementsAre(u"b", u"c d", u"e"));
     EXPECT_THAT(Words(u"\""), SizeIs(0));
     EXPECT_THAT(Words(u"\"\""), SizeIs(0));
@@ -126,7 +153,7 @@ TEST_F(LaunchingOnWindows, KnowsTheNamesOfOfficeProgramsExactly) {
     EXPECT_EQ(FindOfficeProgram(t.app, u"winword.exe"), u"C:\\P\\\\Microsoft Office\\Office\\winword.exe");
 }
 
-TEST_F(LaunchingOnWindows, FindsOfficeInTheNewestOfItsFoldersWithTwoBackslashesInARow) {
+TEST_F(LaunchingOnWindows, FindsOfficeInTheNewestOfItsFoldersWithTwoBackslashesInARowDeliberately) {
     t.app.ProgramFilesDir = u"C:\\P\\";
     t.app.Settings.ExcelPath = u"C:\\lost\\EXCEL.EXE";
     EXPECT_EQ(FindOfficeProgram(t.app, u"EXCEL.EXE"), u"C:\\P\\\\Microsoft Office\\Office\\EXCEL.EXE");
@@ -177,6 +204,28 @@ TEST_F(LaunchingOnPosix, AHostileFileNameIsNoMoreThanAWordOfTheArgument) {
                 ElementsAre(ProgramStart{u"/usr/bin/view", {u"/d/$(reboot);`id`|x&y>z\n'q'*"}},
                             ProgramStart{u"/usr/bin/view", {u"d/ab; rm"}},
                             ProgramStart{u"/usr/bin/view", {u"--exec=evil"}}));
+}
+
+TEST_F(LaunchingOnPosix, ANameThatIsThereStartsThatFileAndNoneOfTheSystems) {
+    t.files.AddFile(u"/home/ann/ls");
+    t.files.ChangeDir(u"/home/ann");
+    EXPECT_EQ(Started(u"ls"), u"/home/ann/ls");
+    EXPECT_EQ(Started(u"./ls"), t.files.FullPath(u"./ls"));
+}
+
+TEST_F(LaunchingOnPosix, LooksWhereTheProgramStandsAlsoWhenItsStateIsElsewhere) {
+    t.files.SetStateDir(u"/home/ann/.config/korvane");
+    EXPECT_EQ(Started(u"C:\\Drive_G\\Sub\\a.exe"), u"/opt/korvane/a");
+    EXPECT_EQ(Started(u"/usr/bin/lost"), u"/opt/korvane/lost");
+}
+
+TEST_F(LaunchingOnPosix, AFileCalledLikeAnOfficeFolderIsNoOfficeProgram) {
+    t.files.AddDir(u"/download");
+    t.files.ChangeDir(u"/download");
+    for (const TextView folder : {u"OFFICE16", u"OFFICE12", u"OFFICE11", u"Office"})
+        t.files.AddFile(u"/download/\\Microsoft Office\\" + Text(folder) + u"\\WINWORD.EXE");
+    t.files.AddFile(u"/download/WINWORD.EXE");
+    EXPECT_FALSE(t.files.FileExists(FindOfficeProgram(t.app, u"WINWORD.EXE")));
 }
 
 TEST_F(LaunchingOnPosix, FindsOfficeOnlyWhereTheSettingsSay) {

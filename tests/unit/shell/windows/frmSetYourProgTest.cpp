@@ -66,6 +66,17 @@ TEST_F(SetYourProgTest, StartsTheProgramAsItStandsAndStaysOpenDeliberately) {
               (std::vector<ProgramStart>{{u"C:\\My Tools\\tool.exe", {}, WindowState::Normal}}));
 }
 
+TEST_F(SetYourProgTest, ANameWithoutAFolderIsTheFileOfTheCurrentDirectory) {
+    t.files.ChangeDir(u"C:\\My Tools");
+    InWindow([](frmSetYourProg& f) {
+        f.prgText1.Text = u"tool.exe";
+        f.cmdOK.Press();
+    });
+    EXPECT_EQ(t.app.Settings.YourProgramPath, u"tool.exe");
+    EXPECT_EQ(t.shell.Starts(),
+              (std::vector<ProgramStart>{{u"C:\\My Tools\\tool.exe", {}, WindowState::Normal}}));
+}
+
 TEST_F(SetYourProgTest, DoesNotLookForTheOtherDriveFormDeliberately) {
     t.files.AddFile(u"C:\\Drive_G\\tool.exe");
     t.app.Settings.YourProgramPath = u"G:\\tool.exe";
