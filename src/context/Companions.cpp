@@ -29,8 +29,12 @@ constexpr std::array<TextView, 6> kCalculators{u"gnome-calculator", u"kcalc",   
                                                u"qalculate-gtk",    u"galculator", u"xcalc"};
 
 void StartCalculator(App& app, TextView) {
-    // With drives a bare name would be looked for in the current directory first, where it may be anything.
-    if (app.Files().Style().HasDrives()) return;
+    if (app.Files().Style().HasDrives()) {
+        // By its full path: a bare name would be looked for in the current directory first, where it may be
+        // anything.
+        if (!app.SystemDir.empty()) app.Shell().Run(app.SystemDir + u"calc.exe", {}, WindowState::Normal);
+        return;
+    }
     std::ranges::find_if(kCalculators, [&app](TextView calculator) {
         return app.Shell().Run(calculator, {}, WindowState::Normal) != 0;
     });
@@ -54,12 +58,18 @@ constexpr std::array<CompanionProgram, 9> kCompanions{{
     {u"C:\\Drive_G\\TolmereSet\\Veldan\\Veldan.exe"},
 }};
 
+/// A file or folder that is there is meant as it stands, even where its own name holds a quote.
+TextView StandInArgument(const FileSystem& files, TextView argument) {
+    const bool isThere = files.FileExists(argument) || files.DirExists(argument);
+    return isThere ? argument : BareArgument(argument);
+}
+
 } // namespace
 
 void LaunchCompanion(App& app, Companion companion, TextView argument) {
     const CompanionProgram& program = kCompanions[static_cast<std::size_t>(companion)];
     const bool started = LaunchProgram(app, program.path, argument) != 0;
-    if (!started && program.standIn != nullptr) program.standIn(app, BareArgument(argument));
+    if (!started && program.standIn != nullptr) program.standIn(app, StandInArgument(app.Files(), argument));
 }
 
 void LaunchLorrit(App& app, TextView folder) {

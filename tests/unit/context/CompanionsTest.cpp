@@ -86,6 +86,12 @@ TEST_P(Companions, TheDesktopGetsAFullPathWhateverTheName) {
                                               OpenRequest{.file = InFolder(u"in quotes.rtf")}));
 }
 
+TEST_P(Companions, AnArgumentInQuotesIsOpenedWithoutThem) {
+    StartNothing();
+    LaunchDunmark(t.app, u"\"" + InFolder(u"a file.rtf") + u"\"");
+    EXPECT_THAT(t.shell.Opened(), ElementsAre(OpenRequest{.file = InFolder(u"a file.rtf")}));
+}
+
 TEST_P(Companions, NothingToOpenIsNotOpened) {
     StartNothing();
     LaunchDunmark(t.app, u" ");
@@ -115,6 +121,29 @@ TEST_P(Companions, TheOthersFailWithoutAWord) {
 INSTANTIATE_TEST_SUITE_P(Styles, Companions, testing::Values(PathStyle::Windows, PathStyle::Posix),
                          [](const auto& style) { return style.param.HasDrives() ? "Windows" : "Posix"; });
 
+TEST(CompanionsOnPosix, AFileThatHoldsAQuoteIsOpenedAsItStands) {
+    TestApp t(PathStyle::Posix);
+    t.shell.SetStartable([](TextView) { return false; });
+    t.files.AddFile(u"/data/5\" disk ");
+    t.files.AddDir(u"/data/5\" disks");
+    LaunchDunmark(t.app, u"/data/5\" disk ");
+    LaunchLorrit(t.app, u"/data/5\" disks");
+    EXPECT_THAT(t.shell.Opened(), ElementsAre(OpenRequest{.file = u"/data/5\" disk "}));
+    EXPECT_THAT(t.shell.Calls(), ElementsAre(ShellCall{ShellCall::Kind::Explore, u"/data/5\" disks"}));
+}
+
+TEST(CompanionsOnPosix, AHostileFileNameStartsNothingAndIsOpenedAsAFile) {
+    TestApp t(PathStyle::Posix);
+    t.shell.SetStartable([](TextView) { return false; });
+    for (const TextView name :
+         {u"/d/$(reboot);`id`|x&y>z\n'q'*", u"/d/http:x", u"/d/--exec=evil", u"/d/explorer.exe"}) {
+        t.files.AddFile(name);
+        LaunchCompanion(t.app, Companion::Tessaly, name);
+        EXPECT_EQ(t.shell.Starts().back().program, u"/opt/korvane/Tessaly");
+        EXPECT_EQ(t.shell.Opened().back(), OpenRequest{.file = Text(name)});
+    }
+}
+
 TEST(CalculatorStandIn, IsTheFirstThatTheDesktopHas) {
     TestApp t(PathStyle::Posix);
     t.shell.SetStartable([](TextView program) { return program == u"mate-calc" || program == u"xcalc"; });
@@ -122,6 +151,15 @@ TEST(CalculatorStandIn, IsTheFirstThatTheDesktopHas) {
     EXPECT_THAT(t.shell.Starts(),
                 ElementsAre(ProgramStart{u"/opt/korvane/Abrill"}, ProgramStart{u"gnome-calculator"},
                             ProgramStart{u"kcalc"}, ProgramStart{u"mate-calc"}));
+}
+
+TEST(CalculatorStandIn, IsTheSystemsOwnWhereThereAreDrives) {
+    TestApp t;
+    t.app.SystemDir = u"C:\\Windows\\System32\\";
+    t.shell.SetStartable([](TextView program) { return program == u"C:\\Windows\\System32\\calc.exe"; });
+    LaunchCompanion(t.app, Companion::Abrill);
+    EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"C:\\Korvane\\Abrill.exe"},
+                                              ProgramStart{u"C:\\Windows\\System32\\calc.exe"}));
 }
 
 TEST(CalculatorStandIn, IsNotLookedForByABareNameWhereTheCurrentDirectoryWouldAnswer) {
