@@ -45,8 +45,12 @@ Text DriveRoot(const PathStyle& style, TextView drive) {
 void ReadDriveInfo(App& app, TextView drive) {
     const FileSystem& files = app.Files();
     const auto volume = files.Volume(DriveRoot(files.Style(), drive));
-    if (volume) app.DriveTypeText = TypeText(volume->type);
-    app.DriveLabel = LabelOf(volume.value_or(VolumeInfo{}));
+    if (!volume) {
+        if (IsBlank(app.DriveLabel)) app.DriveLabel = LabelOf({});
+        return;
+    }
+    app.DriveTypeText = TypeText(volume->type);
+    app.DriveLabel = LabelOf(*volume);
 }
 
 } // namespace korvane

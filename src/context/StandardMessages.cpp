@@ -28,10 +28,10 @@ void ShowCannotLoad(App& app, TextView file) {
             MessageIcon::Exclamation);
 }
 
-void ShowCannotLocate(App& app, TextView file) {
-    const Text shown(file.empty() ? u"( Filename empty! )" : file);
+void ShowCannotLocate(App& app, Text& file) {
+    if (file.empty()) file = u"( Filename empty! )";
     ShowBox(app,
-            u"Cannot locate the following program/file:" + kBlankLine + shown + kBlankLine +
+            u"Cannot locate the following program/file:" + kBlankLine + file + kBlankLine +
                 u"Check the path before the name and see whether\r\n"
                 u"the program/file exists on your hard disk.",
             MessageIcon::Stop);

@@ -11,9 +11,10 @@ class App;
 /// Tells that a file can't be loaded, and which directory is the current one.
 void ShowCannotLoad(App& app, TextView file);
 
-/// Tells that a program or file isn't there. The mouse pointer goes back to the default, since callers often
+/// Tells that a program or file isn't there. An empty name becomes "( Filename empty! )", for the caller too:
+/// one that holds a setting passes a copy. The mouse pointer goes back to the default, since callers often
 /// come with the hourglass on.
-void ShowCannotLocate(App& app, TextView file);
+void ShowCannotLocate(App& app, Text& file);
 
 enum class FileAccess : std::uint8_t { Save, Delete };
 

@@ -1,5 +1,6 @@
 #include "shell/LocateSystemFolders.h"
 
+#include "common/Names.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemFolders.h"
@@ -12,7 +13,7 @@ constexpr TextView kDriveC = u"C:\\";
 
 /// What stands before the first NUL, with a separator at its end.
 Text AsFolder(const Text& path, const PathStyle& style) {
-    Text folder = path.substr(0, path.find(u'\0'));
+    Text folder(CutAtNul(path));
     if (!folder.empty()) style.AddBackslash(folder);
     return folder;
 }

@@ -85,7 +85,7 @@ void mnuMisc_Browser(frmMDIParent& main) {
 
 void CustomBrowser(frmMDIParent& main) {
     App& app = main.TheApp();
-    const Text browser = app.Settings.CustomBrowserPath;
+    Text browser = app.Settings.CustomBrowserPath;
     if (browser.empty() || !app.Files().FileExists(browser)) {
         ShowCannotLocate(app, browser);
     } else {

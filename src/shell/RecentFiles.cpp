@@ -29,7 +29,7 @@ void OpenFromRecord(frmMDIParent& main, const Text& path) {
 
 void LoadPick(frmMDIParent& main, std::size_t index) {
     FileSystem& files = main.TheApp().Files();
-    const Text path = main.Recents().RecentPicks[index];
+    Text path = main.Recents().RecentPicks[index];
     if (!files.FileExists(path)) return ShowCannotLocate(main.TheApp(), path);
     if (index == 0) DiscardPristineUntitled(main);
     GoToFolderOf(files, path);

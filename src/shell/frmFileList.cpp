@@ -276,7 +276,7 @@ void frmFileList::WhenToEmpty() {
 void frmFileList::ViewFile() {
     const auto row = CurrentRow();
     if (!row) return;
-    const Text path = PathOf(*row);
+    Text path = PathOf(*row);
     if (row->image == kLostImage) return ShowCannotLocate(app_, path);
     if (app_.FileViewer != nullptr) app_.FileViewer->View(path);
 }

@@ -69,10 +69,17 @@ TEST_F(DriveInfo, TakesTheDriveByItsLetter) {
     }
 }
 
-TEST_F(DriveInfo, OfADriveThatIsNotThereKeepsTheTypeTextAndHasNoLabel) {
-    TypeTextOf(DriveType::CdRom);
+TEST_F(DriveInfo, OfADriveThatIsNotThereIsThatOfTheLastOne) {
+    t.files.SetVolume(u"D:\\", {.type = DriveType::CdRom, .name = u"Songs"});
+    ReadDriveInfo(t.app, u"D:\\");
     ReadDriveInfo(t.app, u"Q:\\");
     EXPECT_EQ(t.app.DriveTypeText, u"CD-ROM");
+    EXPECT_EQ(t.app.DriveLabel, u"Songs");
+}
+
+TEST_F(DriveInfo, OfADriveThatIsNotThereHasNoLabelAtFirst) {
+    ReadDriveInfo(t.app, u"Q:\\");
+    EXPECT_EQ(t.app.DriveTypeText, u"");
     EXPECT_EQ(t.app.DriveLabel, u"no label");
 }
 

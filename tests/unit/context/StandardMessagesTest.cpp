@@ -29,17 +29,21 @@ TEST_F(StandardMessages, CannotLocateTakesTheHourglassAway) {
          u"Check the path before the name and see whether\r\nthe program/file exists on your hard disk.",
          MessageIcon::Stop},
         Answer::Ok);
-    ShowCannotLocate(app, u"C:\\x.exe");
+    Text file = u"C:\\x.exe";
+    ShowCannotLocate(app, file);
+    EXPECT_EQ(file, u"C:\\x.exe");
     EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
 }
 
-TEST_F(StandardMessages, CannotLocateSaysThatAnEmptyNameIsEmpty) {
+TEST_F(StandardMessages, CannotLocateSaysThatAnEmptyNameIsEmptyAlsoToItsCallerDeliberately) {
     t.user.Answer(
         {u"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n"
          u"Check the path before the name and see whether\r\nthe program/file exists on your hard disk.",
          MessageIcon::Stop},
         Answer::Ok);
-    ShowCannotLocate(app, u"");
+    Text file;
+    ShowCannotLocate(app, file);
+    EXPECT_EQ(file, u"( Filename empty! )");
 }
 
 TEST_F(StandardMessages, CannotAccessSaysSaveUnlessTold) {
