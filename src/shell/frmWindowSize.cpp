@@ -52,6 +52,13 @@ constexpr std::array<Percentage, 9> kPercentages{{
     {u"  95%", 0},
 }};
 
+/// nullptr for the index of no entry, as a list without a selection has it.
+template <class Table>
+auto Entry(const Table& table, int index) -> const typename Table::value_type* {
+    const bool known = index >= 0 && index < static_cast<int>(table.size());
+    return known ? &table[static_cast<std::size_t>(index)] : nullptr;
+}
+
 Twips Nearest(double twips) {
     return Twips{static_cast<int>(RoundHalfEven(twips))};
 }
@@ -136,13 +143,16 @@ bool ChooseWindowSize(App& app, WindowSizeChoice& choice, Form& window) {
 }
 
 void ApplyWindowLayout(Form& window, const Rect& workArea, int layout) {
-    const Layout& chosen = kLayouts.at(static_cast<std::size_t>(layout));
-    Down(window, workArea).Put(chosen.down);
-    Across(window, workArea).Put(chosen.across);
+    const Layout* chosen = Entry(kLayouts, layout);
+    if (chosen == nullptr) return;
+    Down(window, workArea).Put(chosen->down);
+    Across(window, workArea).Put(chosen->across);
 }
 
 void ApplyWindowPercent(Form& window, const Rect& workArea, int percentEntry) {
-    const double tenths = kPercentages.at(static_cast<std::size_t>(percentEntry)).tenths;
+    const Percentage* chosen = Entry(kPercentages, percentEntry);
+    if (chosen == nullptr) return;
+    const double tenths = chosen->tenths;
     for (const Axis& axis : {Down(window, workArea), Across(window, workArea)}) {
         if (tenths > 0) axis.length = Nearest(axis.areaLength / 10.0 * tenths);
         axis.Centre();

@@ -42,10 +42,12 @@ private:
 /// Lets the user choose and gives the window its place in the work area; false when he gave up.
 bool ChooseWindowSize(App& app, WindowSizeChoice& choice, Form& window);
 
-/// Puts the window where the entry of the layouts says, counted from 0.
+// The entries count from 0; an index of none leaves the window alone.
+
+/// Puts the window where the entry of the layouts says.
 void ApplyWindowLayout(Form& window, const Rect& workArea, int layout);
 
-/// Gives the window the size that stands behind the entry of the percentages, counted from 0, and centres it.
+/// Gives the window the size that stands behind the entry of the percentages, and centres it.
 void ApplyWindowPercent(Form& window, const Rect& workArea, int percentEntry);
 
 } // namespace korvane

@@ -2,7 +2,7 @@
 
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
-#include "support/TestApp.h"
+#include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -143,6 +143,36 @@ TEST_F(WindowSizeTest, ThePlaceIsForAWindowOfNormalState) {
     main.State = FormState::Maximised;
     ChooseLayout(0);
     EXPECT_EQ(main.State.Get(), FormState::Normal);
+}
+
+TEST_F(WindowSizeTest, SizesAreExactUntilTheNearestTwip) {
+    t.screen.SetWorkArea(MakeRect(0, 0, 19999, 10001));
+    ChoosePercent(7);
+    // 18999.05 by 9500.95, then half of what is left, towards zero.
+    EXPECT_EQ(PlaceOf(main), MakeRect(500, 250, 18999, 9501));
+    ChooseLayout(1);
+    EXPECT_EQ(PlaceOf(main), MakeRect(0, 0, 10000, 10001));
+}
+
+TEST_F(WindowSizeTest, AWindowLargerThanTheScreenIsCentredOverItsEdges) {
+    PutAt(main, MakeRect(100, 200, 20003, 10004));
+    ChooseLayout(5);
+    EXPECT_EQ(PlaceOf(main), MakeRect(-1, -1, 20003, 10004));
+}
+
+TEST_F(WindowSizeTest, AListWithoutASelectionLeavesTheWindowAlone) {
+    ChooseLayout(-1);
+    ChoosePercent(-1);
+    EXPECT_EQ(PlaceOf(main), MakeRect(100, 200, 6000, 4001));
+}
+
+TEST_F(WindowSizeTest, TheGridHasTheKeyboardAfterwards) {
+    FocusCounter focus(main.TheTabs().Active()->GridStore());
+    ChooseLayout(0);
+    EXPECT_EQ(focus.Count(), 1);
+    t.user.On<frmWindowSize>([](frmWindowSize& f) { f.cmdCancel.Press(); });
+    main.RunCommand("mnuWindowSize");
+    EXPECT_EQ(focus.Count(), 1);
 }
 
 TEST_F(WindowSizeTest, ADoubleClickAndReturnPickFromEitherList) {
