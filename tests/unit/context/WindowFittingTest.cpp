@@ -40,7 +40,7 @@ TEST_F(WindowFitting, OtherWindowsStand600TwipsInside) {
     EXPECT_EQ(Fit(other, Place(0, 0, 0, 0)), Place(750, 660, 4800, 3200));
 }
 
-TEST_F(WindowFitting, TheDefaultsDoNotReachTheStoredValues) {
+TEST_F(WindowFitting, TheDefaultsDoNotReachTheStoredValuesDeliberately) {
     Fit(main, Place(0, 0, 0, 0));
     EXPECT_EQ(place, Place(0, 0, 0, 0));
 }
@@ -60,9 +60,25 @@ TEST_F(WindowFitting, AWindowPartlyOffTheEdgeMovesBackWithItsSize) {
     EXPECT_EQ(Fit(other, Place(1000, 9000, 9000, 8000)), Place(1000, 6460, 9000, 8000));
 }
 
-TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkArea) {
+TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkAreaDeliberately) {
     // Its right edge lies inside the work area, and yet it moves.
     EXPECT_EQ(Fit(main, Place(11001, 2000, 9000, 8000)), Place(10850, 2000, 9000, 8000));
+}
+
+TEST_F(WindowFitting, EachValueThatWasNeverStoredHasItsOwnDefault) {
+    EXPECT_EQ(Fit(main, Place(0, 2000, 9000, 8000)), Place(450, 2000, 9000, 8000));
+    EXPECT_EQ(Fit(main, Place(1000, 0, 9000, 8000)), Place(1000, 360, 9000, 8000));
+    EXPECT_EQ(Fit(main, Place(1000, 2000, 0, 8000)), Place(1000, 2000, 4800, 8000));
+    EXPECT_EQ(Fit(main, Place(1000, 2000, 9000, 0)), Place(1000, 2000, 9000, 3200));
+}
+
+TEST_F(WindowFitting, AWindowExactlyAsLargeAsTheWorkAreaIsNotMadeSmaller) {
+    EXPECT_EQ(Fit(main, Place(10, 10, 20000, 15000)), Place(-150, -240, 20000, 15000));
+    EXPECT_EQ(place, Place(10, 10, 20000, 15000));
+}
+
+TEST_F(WindowFitting, AStoredZeroLeavesTheWindowOverTheEdgeDeliberately) {
+    EXPECT_EQ(Fit(main, Place(0, 0, 20000, 15000)), Place(450, 360, 20000, 15000));
 }
 
 constexpr StoredPlace kLoadList{&Settings::LoadListLeft, &Settings::LoadListTop, &Settings::LoadListWidth,

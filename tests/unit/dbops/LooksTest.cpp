@@ -1,6 +1,5 @@
 // Holds the windows against the Designer files beside them, as far as that goes without a display.
 
-#include "SourceTree.h"
 #include "dbops/frmChooseRange.h"
 #include "dbops/frmDelimiterType.h"
 #include "dbops/frmFindReplace.h"
@@ -9,12 +8,11 @@
 #include "dbops/frmTxtDbAddRows.h"
 #include "dbops/frmTxtDbColName.h"
 #include "dbops/frmViewCell.h"
-#include "support/TempDir.h"
+#include "support/DesignerFile.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <set>
 #include <string>
 
@@ -23,37 +21,11 @@ namespace {
 
 class Looks : public testing::Test {
 protected:
-    static std::string LookOf(const std::string& window) {
-        return ReadBytes(std::filesystem::path(KORVANE_SOURCE_DIR) / "src/dbops" / (window + ".ui"));
-    }
-    /// The texts between `before` and `after`, wherever they stand.
-    static std::set<std::string> Between(const std::string& text, const std::string& before,
-                                         const std::string& after) {
-        std::set<std::string> found;
-        for (std::size_t at = text.find(before); at != std::string::npos; at = text.find(before, at)) {
-            at += before.size();
-            found.insert(text.substr(at, text.find(after, at) - at));
-        }
-        return found;
-    }
-    static std::set<std::string> WidgetNames(const std::string& look) {
-        std::set<std::string> names;
-        for (const std::string& widget : Between(look, "<widget class=\"", ">")) {
-            names.merge(Between(widget, "name=\"", "\""));
-        }
-        return names;
-    }
     /// Each control has its widget, the keyboard reaches it, and each plain text stands in the look.
     static void Check(const Form& form, const std::set<std::string>& reached,
                       const std::set<std::string>& plainTexts) {
-        const std::string look = LookOf(form.Name());
-        const auto names = WidgetNames(look);
-        for (const Control* control : form.Controls())
-            EXPECT_TRUE(names.contains(control->Name())) << form.Name() << ": no widget " << control->Name();
-        EXPECT_EQ(Between(look, "<tabstop>", "</tabstop>"), reached);
-        const auto texts = Between(look, "<string>", "</string>");
-        for (const std::string& text : plainTexts)
-            EXPECT_TRUE(texts.contains(text)) << form.Name() << ": no text " << text;
+        ExpectLook(form, "dbops", plainTexts);
+        EXPECT_EQ(Between(LookOf("dbops", form.Name()), "<tabstop>", "</tabstop>"), reached);
     }
 
     TestTab t;

@@ -138,6 +138,36 @@ TEST_F(SideBarTest, ItsWidthStepsFromTheGridsOwnTo2900AndBack) {
     EXPECT_EQ(p.Main().Picture2.Width.Get(), Twips{2270});
 }
 
+TEST_F(SideBarTest, AStepThatIsNoneHasTheGridsOwnWidthAndStepsOnToTheFirst) {
+    for (const int step : {-1, 8, 32767})
+        EXPECT_EQ(SideBar::WidthOfStep(step), Twips{2190});
+    Settings settings;
+    settings.SideBarWidthStep = 8;
+    Start(settings);
+    EXPECT_EQ(p.Main().iGridListBar.Width.Get(), Twips{2190});
+    p.Main().SetSideBarWidth(true);
+    EXPECT_EQ(p.app.Settings.SideBarWidthStep, 0);
+}
+
+TEST_F(SideBarTest, ItsWidthIsThatOfItsLabelAndLessThanThatOfItsPanel) {
+    Start();
+    for (int i = 0; i < 8; ++i) {
+        p.Main().SetSideBarWidth(true);
+        const Twips width = p.Main().iGridListBar.Width;
+        EXPECT_EQ(p.Main().lblListBar.Width.Get(), width);
+        EXPECT_EQ(p.Main().Picture2.Width.Get(), width + 80);
+    }
+}
+
+TEST_F(SideBarTest, AHiddenOneStepsOnButComesUpOnlyWhenItIsAskedFor) {
+    p.StartWith({});
+    p.Main().SetSideBarWidth(true);
+    EXPECT_EQ(p.app.Settings.SideBarWidthStep, 1);
+    EXPECT_FALSE(p.Main().Picture2.Visible);
+    p.Choose("mnuSideBar");
+    EXPECT_EQ(p.Main().iGridListBar.Width.Get(), Twips{2000});
+}
+
 TEST_F(SideBarTest, ItsWidthComesBackFromTheSettings) {
     Settings settings;
     settings.SideBarWidthStep = 7;

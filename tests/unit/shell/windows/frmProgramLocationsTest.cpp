@@ -37,6 +37,9 @@ TEST_F(ProgramLocationsTest, ShowsTheLocationsUnderItsCaptions) {
                       f.prgText4.Text.Get() + f.prgText5.Text.Get(),
                   u"wxpba");
         EXPECT_EQ(f.cmdWord.ToolTipText.Get(), u"Locate Word on your disk");
+        EXPECT_EQ(f.cmdExcel.ToolTipText.Get(), u"Locate Excel on your disk");
+        EXPECT_EQ(f.cmdPowerPoint.ToolTipText.Get(), u"Locate PowerPoint on your disk");
+        EXPECT_EQ(f.cmdPublisher.ToolTipText.Get(), u"Locate Publisher on your disk");
         EXPECT_EQ(f.cmdAccess.ToolTipText.Get(), u"Locate Access on your disk");
         EXPECT_EQ(f.cmdSameForAll.Caption.Get(), u"&All have same location as Word");
         EXPECT_EQ(f.cmdClose.Caption.Get(), u"&Close");
@@ -82,6 +85,25 @@ TEST_F(ProgramLocationsTest, AllCanHaveTheFolderOfWord) {
         EXPECT_EQ(f.prgText5.Text.Get(), u"C:\\Office\\MSACCESS.EXE");
     });
     EXPECT_EQ(t.app.Settings.AccessPath, u"C:\\Office\\MSACCESS.EXE");
+}
+
+TEST_F(ProgramLocationsTest, AllCanStandInARootToo) {
+    t.files.AddFile(u"C:\\WINWORD.EXE");
+    t.app.Settings.WordPath = u"C:\\WINWORD.EXE";
+    InWindow([](frmProgramLocations& f) { f.cmdSameForAll.Press(); });
+    EXPECT_EQ(t.app.Settings.ExcelPath, u"C:\\EXCEL.EXE");
+}
+
+TEST(ProgramLocationsOnPosix, AllCanHaveTheFolderOfWord) {
+    TestApp t(PathStyle::Posix);
+    t.files.AddFile(u"/opt/office/writer");
+    t.app.Settings.WordPath = u"/opt/office/writer";
+    t.user.On<frmProgramLocations>([](frmProgramLocations& f) {
+        f.cmdSameForAll.Press();
+        f.cmdClose.Press();
+    });
+    frmProgramLocations(t.app).ShowModal();
+    EXPECT_EQ(t.app.Settings.AccessPath, u"/opt/office/MSACCESS.EXE");
 }
 
 TEST_F(ProgramLocationsTest, WithoutWordNothingChanges) {

@@ -155,6 +155,91 @@ TEST_F(SettingsWindowTest, TheWallpaperIsChosenInTheSystemsDialog) {
                   .title = u"Get image file for wallpaper"}));
 }
 
+TEST_F(SettingsWindowTest, TheWallpaperDialogLeavesTheCurrentDirectoryAlone) {
+    class WanderingDialog final : public SystemFileDialog {
+    public:
+        explicit WanderingDialog(App& app) : app_(app) { app.SystemFileDialog = this; }
+        std::optional<Text> Choose(const Request&) override {
+            app_.Files().ChangeDir(u"C:\\");
+            return u"C:\\sea.png";
+        }
+
+    private:
+        App& app_;
+    } dialog(p.app);
+    p.files.AddDir(u"C:\\Here");
+    p.StartWith({});
+    p.files.ChangeDir(u"C:\\Here");
+    InWindow([](frmSettings& f) { f.cmdGetWallpaperFile.Press(); });
+    EXPECT_EQ(p.app.Settings.WallpaperFile, u"C:\\sea.png");
+    EXPECT_EQ(p.files.CurrentDir(), u"C:\\Here");
+}
+
+TEST_F(SettingsWindowTest, ShowsWhatIsStoredAndAPasswordInClear) {
+    Settings settings;
+    settings.CustomBrowserPath = u"C:\\b.exe";
+    settings.PdfViewerPath = u"C:\\p.exe";
+    settings.WallpaperFile = u"C:\\w.png";
+    settings.ReturnPassword = u" secret";
+    settings.SmartQuotes = 1;
+    p.StartWith(settings);
+    InWindow([](frmSettings& f) {
+        EXPECT_EQ(f.txtBrowserLocation.Text.Get(), u"C:\\b.exe");
+        EXPECT_EQ(f.txtBrannockLocation.Text.Get(), u"C:\\p.exe");
+        EXPECT_EQ(f.txtWallpaper.Text.Get(), u"C:\\w.png");
+        EXPECT_EQ(f.txtReturnPassword.Text.Get(), u" secret");
+        EXPECT_EQ(f.chkUseSmartQuotes.Value.Get(), 1);
+        EXPECT_EQ(f.chkAllowSorting.Value.Get(), 0);
+        EXPECT_EQ(f.chkConfirmExit.Value.Get(), 0);
+    });
+}
+
+TEST_F(SettingsWindowTest, HasNoPasswordAtFirst) {
+    p.StartWith({});
+    InWindow([](frmSettings& f) { EXPECT_EQ(f.txtReturnPassword.Text.Get(), u""); });
+}
+
+TEST_F(SettingsWindowTest, TheFullPathNeedsNoTab) {
+    p.StartWith({});
+    InWindow([this](frmSettings& f) {
+        f.chkYesShowFullPath.Press();
+        EXPECT_EQ(p.app.Settings.ShowFullPath, 1);
+    });
+}
+
+TEST_F(SettingsWindowTest, TheOtherTabsFollowTheFullPathWhenTheyAreLoadedTheNextTime) {
+    OpenThree();
+    InWindow([](frmSettings& f) { f.chkYesShowFullPath.Press(); });
+    p.AddTable(u"C:\\Data\\d.tbx", {"d"});
+    p.Open(u"C:\\Data\\d.tbx");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"b.tbx", u"C:\\Data\\c.tbx", u"C:\\Data\\d.tbx"}));
+}
+
+TEST_F(SettingsWindowTest, WhatWasChosenInTheListerIsStillThereWhenTheWindowHasClosed) {
+    p.StartWith({});
+    InWindow([this](frmSettings& f) {
+        p.user.ChooseFile(u"C:\\browser.exe");
+        f.cmdCustomBrowser.Press();
+    });
+    EXPECT_EQ(p.app.Settings.CustomBrowserPath, u"C:\\browser.exe");
+}
+
+TEST_F(SettingsWindowTest, ACancelledListerChangesNothing) {
+    Settings settings;
+    settings.CustomBrowserPath = u"C:\\b.exe";
+    settings.PdfViewerPath = u"C:\\p.exe";
+    p.StartWith(settings);
+    InWindow([this](frmSettings& f) {
+        p.user.CancelChooser();
+        f.cmdCustomBrowser.Press();
+        p.user.CancelChooser();
+        f.cmdBrannockLocation.Press();
+        EXPECT_EQ(f.txtBrowserLocation.Text.Get(), u"C:\\b.exe");
+        EXPECT_EQ(f.txtBrannockLocation.Text.Get(), u"C:\\p.exe");
+    });
+    EXPECT_EQ(p.app.Settings.PdfViewerPath, u"C:\\p.exe");
+}
+
 TEST_F(SettingsWindowTest, ThePasswordIsStoredAsItIsTyped) {
     p.StartWith({});
     InWindow([this](frmSettings& f) {
@@ -178,7 +263,25 @@ TEST_F(SettingsWindowTest, FontsReachTheMainWindowAtOnce) {
     EXPECT_EQ(p.app.Settings.MenuFontSize, 12);
     EXPECT_EQ(p.app.Settings.MenuFontBold, -1);
     EXPECT_EQ(p.app.Settings.SideBarFontName, u"Cambria");
+    EXPECT_EQ(p.app.Settings.SideBarFontSize, 10);
     EXPECT_EQ(p.app.Settings.SideBarFontBold, 0);
+}
+
+TEST_F(SettingsWindowTest, WhatTheFontDialogLeavesOpenStaysAsItWas) {
+    FakeFontPicker fonts(p.app);
+    Settings settings;
+    settings.MenuFontName = u"Verdana";
+    settings.MenuFontSize = 10;
+    p.StartWith(settings);
+    InWindow([&fonts](frmSettings& f) {
+        fonts.answer = FontSpec{u"", 0, true};
+        f.cmdMenuFont.Press();
+    });
+    EXPECT_EQ(fonts.starts.at(0), (FontSpec{u"Verdana", 10, false}));
+    EXPECT_EQ(p.Main().OfficeMenu1.Font.Get(), (FontSpec{u"Verdana", 10, true}));
+    EXPECT_EQ(p.app.Settings.MenuFontName, u"Verdana");
+    EXPECT_EQ(p.app.Settings.MenuFontSize, 10);
+    EXPECT_EQ(p.app.Settings.MenuFontBold, -1);
 }
 
 TEST_F(SettingsWindowTest, ACancelledFontChangesNothing) {
