@@ -45,17 +45,17 @@ TEST(MapDrivePath, TurnsTheMirrorIntoTheDrive) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\Data\\x", Only({u"G:\\Data\\x"})), u"G:\\Data\\x");
 }
 
-TEST(MapDrivePath, DoesNotTestTheOtherForm) {
+TEST(MapDrivePath, DoesNotTestTheOtherFormDeliberately) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\a.exe"), u"G:\\a.exe");
     EXPECT_EQ(MapOnWindows(u"Q:\\x"), u"C:\\Drive_Q\\x");
 }
 
-TEST(MapDrivePath, SearchesNoOtherDrive) {
+TEST(MapDrivePath, SearchesNoOtherDriveDeliberately) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\a.exe", Only({u"D:\\Drive_G\\a.exe", u"E:\\a.exe"})), u"G:\\a.exe");
     EXPECT_EQ(MapOnWindows(u"Q:\\x", Only({u"D:\\Drive_Q\\x"})), u"C:\\Drive_Q\\x");
 }
 
-TEST(MapDrivePath, PutsANameWithoutADriveWhollyIntoTheMirror) {
+TEST(MapDrivePath, PutsANameWithoutADriveWhollyIntoTheMirrorDeliberately) {
     EXPECT_EQ(MapOnWindows(u"x.txt"), u"C:\\Drive_x.txt");
     EXPECT_EQ(MapOnWindows(u"x"), u"C:\\Drive_x");
     EXPECT_EQ(MapOnWindows(u"sub\\x.txt"), u"C:\\Drive_sub\\x.txt");

@@ -16,7 +16,7 @@ TEST(CheckFileName, PassesAGoodNameWithoutABox) {
 
 class CheckFileNameInStyle : public testing::TestWithParam<PathStyle> {};
 
-TEST_P(CheckFileNameInStyle, TellsTheFirstForbiddenCharacterOfItsOwnList) {
+TEST_P(CheckFileNameInStyle, TellsTheFirstForbiddenCharacterOfItsOwnListDeliberately) {
     TestApp t(GetParam());
     t.user.Answer(
         {u"File name contains this forbidden character:    :\t\r\n\r\nPending operation will not be "

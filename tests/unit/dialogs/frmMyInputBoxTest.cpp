@@ -78,7 +78,7 @@ TEST_F(MyInputBoxTest, EscIsCancel) {
     EXPECT_TRUE(frmMyInputBox(t.app).cmdCancel.Cancel);
 }
 
-TEST_F(MyInputBoxTest, OkWithAnEmptyFieldGivesAnEmptyResultAndOne) {
+TEST_F(MyInputBoxTest, OkWithAnEmptyFieldGivesAnEmptyResultAndOneDeliberately) {
     t.user.On<frmMyInputBox>([](frmMyInputBox& f) {
         f.txtBoxText.Text = u"";
         f.cmdOk.Press();

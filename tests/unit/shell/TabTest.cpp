@@ -48,7 +48,7 @@ TEST_F(TabTest, AHeaderClickDoesNothingWhenSortingIsntAllowed) {
     EXPECT_EQ(Tab().Table().TableAltered, 0);
 }
 
-TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTab) {
+TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTabDeliberately) {
     Settings settings;
     settings.AllowSorting = 1;
     Start(settings);

@@ -38,7 +38,7 @@ TEST_F(StylesTest, TheToolTipsOfTheStepsStandCrosswiseDeliberately) {
     EXPECT_EQ(main.Find("cmdStyleForward")->ToolTipText.Get(), u"Previous style");
 }
 
-TEST_F(StylesTest, AStepLeavesTheColoursOfTheWindowAlone) {
+TEST_F(StylesTest, AStepLeavesTheColoursOfTheWindowAloneDeliberately) {
     main.RunCommand("StyleForward");
     EXPECT_EQ(main.lblListBar.BackColor.Get(), kNoColour);
 }
