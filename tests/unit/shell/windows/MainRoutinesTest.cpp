@@ -52,5 +52,47 @@ TEST_F(MainRoutinesTest, TheMenuShowsTheUsersProgram) {
     EXPECT_TRUE(shown);
 }
 
+class HelpText : public testing::TestWithParam<PathStyle> {
+protected:
+    Text HelpPath() const {
+        return GetParam().HasDrives() ? u"C:\\Korvane\\Korvane_Help.rtf" : u"/opt/korvane/Korvane_Help.rtf";
+    }
+
+    TestProgram p{GetParam()};
+};
+
+TEST_P(HelpText, ComesUpInTheTextToolWhereThatIsThere) {
+    p.StartWith({});
+    EXPECT_TRUE(p.PressKey(Key::F(1)));
+    ASSERT_EQ(p.shell.Starts().size(), 1u);
+    EXPECT_EQ(p.shell.Starts().at(0).arguments, std::vector<Text>{HelpPath()});
+    EXPECT_TRUE(p.shell.Opened().empty());
+}
+
+TEST_P(HelpText, ComesUpInTheDesktopsOwnProgramOtherwise) {
+    p.shell.SetStartable([](TextView) { return false; });
+    p.StartWith({});
+    EXPECT_TRUE(p.PressKey(Key::F(1)));
+    EXPECT_EQ(p.shell.Opened(), std::vector<OpenRequest>{{.file = HelpPath()}});
+    EXPECT_TRUE(p.user.Messages().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, HelpText, testing::Values(PathStyle::Windows, PathStyle::Posix),
+                         [](const auto& style) { return style.param.HasDrives() ? "Windows" : "Posix"; });
+
+TEST_F(MainRoutinesTest, TheCompanionsOfTheMenuAndTheSidebarStandAtTheirPlaces) {
+    for (const TextView place :
+         {u"Sandrel\\Abrill\\Abrill", u"TolmereSet\\Ostrel\\Ostrel", u"TolmereSet\\Veldan\\Veldan"})
+        p.files.AddFile(u"C:\\Drive_G\\" + Text(place) + u".exe");
+    p.StartWith({});
+    p.Choose("mnuMisc_Calc");
+    p.Main().RunCommand("LoadFindText");
+    p.Main().RunCommand("LoadFindFiles");
+    EXPECT_EQ(p.shell.Starts(),
+              (std::vector<ProgramStart>{{u"C:\\Drive_G\\Sandrel\\Abrill\\Abrill.exe"},
+                                         {u"C:\\Drive_G\\TolmereSet\\Ostrel\\Ostrel.exe"},
+                                         {u"C:\\Drive_G\\TolmereSet\\Veldan\\Veldan.exe"}}));
+}
+
 } // namespace
 } // namespace korvane
