@@ -2,8 +2,8 @@
 
 #include "common/CodePage.h"
 #include "common/Units.h"
+#include "platform/ChunkedOutput.h"
 #include "platform/Grid.h"
-#include "table/ChunkedOutput.h"
 
 #include <cstddef>
 #include <string>

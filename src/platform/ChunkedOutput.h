@@ -22,16 +22,19 @@ public:
         bytes.copy(chunk_.get() + filled_, bytes.size());
         filled_ += bytes.size();
     }
-    /// Hands over what is gathered. Nothing does so by itself at the end.
-    void Flush();
+    /// Hands over what is gathered. Nothing does so by itself at the end. False when the file lost anything
+    /// so far.
+    bool Flush();
 
 private:
     void PutPastChunk(std::string_view bytes);
+    void HandOver(std::string_view bytes) { complete_ = file_.Write(bytes) && complete_; }
 
     FileWriter& file_;
     std::size_t chunkSize_;
     std::unique_ptr<char[]> chunk_;
     std::size_t filled_ = 0;
+    bool complete_ = true;
 };
 
 } // namespace korvane
