@@ -1,0 +1,42 @@
+#pragma once
+
+#include "common/Number.h"
+#include "platform/Spreadsheet.h"
+
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+/// A spreadsheet application that does nothing but take down its steps, one line each. It knows the cells of
+/// the columns A to Z.
+class MemorySpreadsheet final : public Spreadsheet {
+public:
+    /// The steps outlive the application.
+    explicit MemorySpreadsheet(std::vector<std::string>& steps) : steps_(steps) {}
+
+    void AddWorkbook() override { Note(u"add workbook"); }
+    bool SelectRange(TextView cell) override {
+        if (cell.empty() || cell.front() < u'A' || cell.front() > u'Z') return false;
+        Note(u"select " + Text(cell));
+        return true;
+    }
+    void SetActiveCellValue(TextView value) override { Note(u"value " + Text(value)); }
+    void SetColumnWidth(TextView column, int characters) override {
+        Note(u"width of " + Text(column) + u" " + NumberText(characters));
+    }
+    void SetInteriorColorIndex(TextView cell, int index) override {
+        Note(u"colour of " + Text(cell) + u" " + NumberText(index));
+    }
+    void SaveAs(TextView path, int format) override {
+        Note(u"save " + Text(path) + u" as " + NumberText(format));
+    }
+    void MakeVisible() override { Note(u"visible"); }
+
+private:
+    void Note(const Text& step) { steps_.push_back(ToUtf8(step)); }
+
+    std::vector<std::string>& steps_;
+};
+
+} // namespace korvane

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "common/Text.h"
+#include "platform/xls/CellFormats.h"
+#include "platform/xls/CellName.h"
+#include "platform/xls/SharedStrings.h"
+
+#include <map>
+#include <vector>
+
+namespace korvane::xls {
+
+/// A cell in its row.
+struct Cell {
+    static constexpr U32 kNoText = 0xFFFFFFFF;
+
+    U16 col = 0;
+    /// As `CellFormats` numbers it.
+    U16 format = CellFormats::kFirst;
+    /// As `SharedStrings` numbers it.
+    U32 text = kNoText;
+};
+
+/// The cells of a row by their columns.
+struct SheetRow {
+    std::vector<Cell> cells;
+    /// The most that a text put into the row had.
+    U16 lines = 1;
+};
+
+/// A workbook of one sheet of texts.
+class Workbook {
+public:
+    /// The text as it stands: one that reads like a number or a formula is neither. A line break is a line
+    /// feed in a workbook, and a cell with one shows its lines. What is longer than a cell holds is cut. An
+    /// empty text leaves nothing in the cell but its look.
+    void SetText(CellPlace place, TextView text);
+    /// Fills the cell with a colour of the palette, from 1 to 56.
+    void SetFill(CellPlace place, U8 colour);
+    /// The width in characters of the standard font, up to 255.
+    void SetColumnWidth(U16 col, U8 characters) { widths_[col] = characters; }
+    void SetActiveCell(CellPlace place) { active_ = place; }
+
+    CellPlace ActiveCell() const { return active_; }
+    const std::map<U16, U8>& ColumnWidths() const { return widths_; }
+    const SharedStrings& Strings() const { return strings_; }
+    const CellFormats& Formats() const { return formats_; }
+    /// Up to the last row with a cell.
+    const std::vector<SheetRow>& Rows() const { return rows_; }
+
+private:
+    Cell* FindCell(CellPlace place);
+    /// The cell, made if it isn't there.
+    Cell& CellAt(CellPlace place);
+    void SetWraps(Cell& cell, bool wraps);
+    void EmptyCell(CellPlace place);
+
+    SharedStrings strings_;
+    CellFormats formats_;
+    std::vector<SheetRow> rows_;
+    std::map<U16, U8> widths_;
+    CellPlace active_;
+    /// Used again for each text that needs a change.
+    Text changed_;
+};
+
+} // namespace korvane::xls

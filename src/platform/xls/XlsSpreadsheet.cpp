@@ -1,0 +1,62 @@
+#include "platform/xls/XlsSpreadsheet.h"
+
+#include "platform/xls/CellName.h"
+#include "platform/xls/XlsWriter.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr int kWidestColumn = 255;
+constexpr int kPaletteColours = 56;
+
+} // namespace
+
+void XlsSpreadsheet::AddWorkbook() {
+    book_.emplace();
+    savedAs_.clear();
+}
+
+bool XlsSpreadsheet::SelectRange(TextView cell) {
+    const auto place = xls::ParseCellName(cell);
+    if (!book_ || !place) return false;
+    book_->SetActiveCell(*place);
+    return true;
+}
+
+void XlsSpreadsheet::SetActiveCellValue(TextView value) {
+    if (book_) book_->SetText(book_->ActiveCell(), value);
+}
+
+void XlsSpreadsheet::SetColumnWidth(TextView column, int characters) {
+    const auto col = xls::ParseColumnName(column);
+    if (!book_ || !col || characters < 0 || characters > kWidestColumn) return;
+    book_->SetColumnWidth(*col, static_cast<xls::U8>(characters));
+}
+
+void XlsSpreadsheet::SetInteriorColorIndex(TextView cell, int index) {
+    const auto place = xls::ParseCellName(cell);
+    if (!book_ || !place || index < 1 || index > kPaletteColours) return;
+    book_->SetFill(*place, static_cast<xls::U8>(index));
+}
+
+void XlsSpreadsheet::SaveAs(TextView path, int format) {
+    if (!book_ || format != kNormalWorkbook) return;
+    if (Write(path)) savedAs_ = files_.FullPath(path);
+}
+
+bool XlsSpreadsheet::Write(TextView path) const {
+    const auto file = files_.OpenRaw(path);
+    if (!file) return false;
+    const bool written = xls::WriteXls(*book_, *file);
+    const bool closed = file->Close();
+    if (written && closed) return true;
+    files_.Remove(path);
+    return false;
+}
+
+void XlsSpreadsheet::MakeVisible() {
+    if (!savedAs_.empty()) shell_.Open({.file = savedAs_});
+}
+
+} // namespace korvane
