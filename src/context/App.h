@@ -5,6 +5,7 @@
 #include "common/Text.h"
 #include "context/ListerRequest.h"
 #include "platform/Grid.h"
+#include "platform/Spreadsheet.h"
 
 #include <array>
 #include <cstdint>
@@ -63,6 +64,8 @@ public:
         CodePage codePage = CodePage::Windows1252();
         /// Optional.
         const SystemFolders* folders = nullptr;
+        /// Starts a spreadsheet application; nullptr when it can't be started. Optional.
+        std::function<std::unique_ptr<Spreadsheet>()> makeSpreadsheet{};
     };
 
     explicit App(Platform platform) : platform_(std::move(platform)) {}
@@ -78,6 +81,10 @@ public:
     InstanceChannel& Instance() const { return platform_.instance; }
     FormHost& Forms() const { return platform_.forms; }
     std::unique_ptr<Grid> MakeGrid() const { return platform_.makeGrid(); }
+    /// nullptr where there is no spreadsheet application.
+    std::unique_ptr<Spreadsheet> MakeSpreadsheet() const {
+        return platform_.makeSpreadsheet ? platform_.makeSpreadsheet() : nullptr;
+    }
     const CodePage& Page() const { return platform_.codePage; }
     /// nullptr where nobody knows the system's folders.
     const SystemFolders* Folders() const { return platform_.folders; }

@@ -110,6 +110,8 @@ public:
         Text title;
         /// The name offered; empty for none.
         Text name{};
+        /// What a chosen name without an extension gets ("xls"); empty for nothing.
+        Text defaultExtension{};
 
         bool operator==(const Request&) const = default;
     };

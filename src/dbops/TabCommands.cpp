@@ -3,6 +3,7 @@
 #include "dbops/ColumnCommands.h"
 #include "dbops/ColumnSum.h"
 #include "dbops/CopyCommands.h"
+#include "dbops/ExcelExport.h"
 #include "dbops/RowCommands.h"
 #include "dbops/RowHeight.h"
 #include "dbops/RowLookCommands.h"
@@ -64,6 +65,7 @@ constexpr std::array kCommands{
     DbOpsCommand{"mnuCopyTableToClipboard_Clack", &mnuCopyTableToClipboard_Clack},
     DbOpsCommand{"mnuCalc_Add_Clack", &mnuCalc_Add_Clack},
     DbOpsCommand{"mnuEdit_WinClip_Clack", &mnuEdit_WinClip_Clack},
+    DbOpsCommand{"mnuExport_Excel_Clack", &mnuExport_Excel_Clack},
 };
 
 } // namespace

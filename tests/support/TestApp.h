@@ -8,10 +8,13 @@
 #include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/memory/MemoryScreen.h"
 #include "platform/memory/MemoryShell.h"
+#include "platform/memory/MemorySpreadsheet.h"
 #include "platform/memory/MemorySystemFolders.h"
 #include "support/ScriptedUser.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace korvane {
 
@@ -32,9 +35,19 @@ public:
     MemoryInstanceChannel instance;
     MemorySystemFolders folders;
     ScriptedUser user;
+    /// What the spreadsheet application was asked to do.
+    std::vector<std::string> spreadsheetSteps;
+    /// Whether there is such an application.
+    bool hasSpreadsheet = true;
     App app{{files, user, clipboard, clock, screen, shell, instance, user,
              [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
-             &folders}};
+             &folders, [this] { return StartSpreadsheet(); }}};
+
+private:
+    std::unique_ptr<Spreadsheet> StartSpreadsheet() {
+        if (!hasSpreadsheet) return nullptr;
+        return std::make_unique<MemorySpreadsheet>(spreadsheetSteps);
+    }
 };
 
 } // namespace korvane

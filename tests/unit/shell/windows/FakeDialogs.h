@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "context/Ports.h"
+#include "support/FakeSystemFileDialog.h"
 
 #include <optional>
 #include <vector>
@@ -43,19 +44,6 @@ public:
 
     void View(TextView path) override { viewed.emplace_back(path); }
     void OpenWith(TextView path) override { opened.emplace_back(path); }
-};
-
-/// Chooses a file, or nothing, and remembers what it was asked.
-class FakeSystemFileDialog final : public SystemFileDialog {
-public:
-    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
-    std::optional<Text> answer;
-    std::vector<Request> requests;
-
-    std::optional<Text> Choose(const Request& request) override {
-        requests.push_back(request);
-        return answer;
-    }
 };
 
 } // namespace korvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "context/App.h"
+#include "context/Ports.h"
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+/// Chooses a file, or nothing, and remembers what it was asked.
+class FakeSystemFileDialog final : public SystemFileDialog {
+public:
+    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
+    std::optional<Text> answer;
+    std::vector<Request> requests;
+    /// Runs while the dialog stands open.
+    std::function<void()> whileOpen = [] {};
+
+    std::optional<Text> Choose(const Request& request) override {
+        requests.push_back(request);
+        whileOpen();
+        return answer;
+    }
+};
+
+} // namespace korvane
