@@ -4,6 +4,7 @@
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
+#include "platform/xls/XlsSpreadsheet.h"
 #include "shell/frmMDIParent.h"
 
 #include <QApplication>
@@ -17,6 +18,9 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders) {
     platform.folders = &folders;
     platform.codePage = UserCodePage();
     platform.makeGrid = [page = platform.codePage] { return std::make_unique<MemoryGrid>(page); };
+    platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
+        return std::make_unique<XlsSpreadsheet>(files, shell);
+    };
     return platform;
 }
 
@@ -34,6 +38,7 @@ Program::Program(InstanceChannel& channel, MessageBoxes& messages)
       app_(Complete({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr},
                     folders_)) {
     app_.FilePicker = &filePicker_;
+    app_.SystemFileDialog = &systemFileDialog_;
 }
 
 int Program::Run(const Text& path) {

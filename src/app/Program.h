@@ -7,6 +7,7 @@
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtFormHost.h"
 #include "platform/qt/QtScreen.h"
+#include "platform/qt/QtSystemFileDialog.h"
 #include "platform/qt/QtSystemFolders.h"
 #include "platform/qt/desktop/QtShell.h"
 
@@ -35,6 +36,7 @@ private:
     QtSystemFolders folders_;
     QtFormHost forms_;
     QtFilePicker filePicker_;
+    QtSystemFileDialog systemFileDialog_;
     App app_;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/qt/QtFilePicker.h"
 
 #include "platform/qt/Convert.h"
+#include "platform/qt/FileDialogFilters.h"
 
 #include <QApplication>
 #include <QDir>
@@ -13,19 +14,12 @@ namespace {
 
 constexpr std::int16_t kSave = 1;
 
-/// "*.tbx;*.txt" as the dialog wants it. "*.*" means all files, also those without a point in their name.
-QString NameFilter(TextView filter) {
-    QStringList patterns = ToQString(filter).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
-    return patterns.isEmpty() ? QStringLiteral("*") : patterns.join(QLatin1Char(' '));
-}
-
 void SetUp(QFileDialog& dialog, const ListerRequest& request) {
     const bool save = request.ListerMode == kSave;
     dialog.setWindowTitle(ToQString(request.FileDialogCaption));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFiles);
-    dialog.setNameFilter(NameFilter(request.FileDialogFilter));
+    dialog.setNameFilter(FilePatterns(request.FileDialogFilter));
     const QFileInfo present(ToQString(request.FileDialogDefaultName));
     if (present.isAbsolute()) dialog.setDirectory(present.absolutePath());
     if (save && !present.fileName().isEmpty()) dialog.selectFile(present.fileName());
