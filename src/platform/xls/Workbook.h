@@ -39,9 +39,7 @@ public:
     void SetFill(CellPlace place, U8 colour);
     /// The width in characters of the standard font, up to 255.
     void SetColumnWidth(U16 col, U8 characters) { widths_[col] = characters; }
-    void SetActiveCell(CellPlace place) { active_ = place; }
 
-    CellPlace ActiveCell() const { return active_; }
     const std::map<U16, U8>& ColumnWidths() const { return widths_; }
     const SharedStrings& Strings() const { return strings_; }
     const CellFormats& Formats() const { return formats_; }
@@ -59,7 +57,6 @@ private:
     CellFormats formats_;
     std::vector<SheetRow> rows_;
     std::map<U16, U8> widths_;
-    CellPlace active_;
     /// Used again for each text that needs a change.
     Text changed_;
 };

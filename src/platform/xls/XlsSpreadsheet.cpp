@@ -14,18 +14,19 @@ constexpr int kPaletteColours = 56;
 
 void XlsSpreadsheet::AddWorkbook() {
     book_.emplace();
+    active_ = {};
     savedAs_.clear();
 }
 
 bool XlsSpreadsheet::SelectRange(TextView cell) {
     const auto place = xls::ParseCellName(cell);
     if (!book_ || !place) return false;
-    book_->SetActiveCell(*place);
+    active_ = *place;
     return true;
 }
 
 void XlsSpreadsheet::SetActiveCellValue(TextView value) {
-    if (book_) book_->SetText(book_->ActiveCell(), value);
+    if (book_) book_->SetText(active_, value);
 }
 
 void XlsSpreadsheet::SetColumnWidth(TextView column, int characters) {

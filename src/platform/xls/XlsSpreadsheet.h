@@ -21,7 +21,8 @@ public:
     void SetActiveCellValue(TextView value) override;
     void SetColumnWidth(TextView column, int characters) override;
     void SetInteriorColorIndex(TextView cell, int index) override;
-    /// Knows `kNormalWorkbook` alone. A file that can't be written whole doesn't stay.
+    /// Knows `kNormalWorkbook` alone. A file that can't be written whole doesn't stay. The file opens at
+    /// "A1", whichever cell is active: a caller goes there only behind the save.
     void SaveAs(TextView path, int format) override;
     /// Nothing happens unless the workbook was saved.
     void MakeVisible() override;
@@ -32,6 +33,7 @@ private:
     FileSystem& files_;
     Shell& shell_;
     std::optional<xls::Workbook> book_;
+    xls::CellPlace active_;
     /// Empty until the workbook is saved.
     Text savedAs_;
 };

@@ -87,8 +87,12 @@ constexpr FixedRecord kSheetSettings[]{
                         "\0\0\0\0\0\0\xE0\x3F\0\0\0\0\0\0\xE0\x3F\x01\0"sv},
 };
 
-// Grid lines, headings, zeros; the only sheet is selected and shown.
-constexpr FixedRecord kWindow{RecordType::Window2, "\xB6\x06\0\0\0\0\x40\0\0\0\0\0\0\0\0\0\0\0"sv};
+constexpr FixedRecord kSheetWindow[]{
+    // Grid lines, headings, zeros; the only sheet is selected and shown.
+    {RecordType::Window2, "\xB6\x06\0\0\0\0\x40\0\0\0\0\0\0\0\0\0\0\0"sv},
+    // The first cell of the only pane.
+    {RecordType::Selection, "\x03\0\0\0\0\0\0\x01\0\0\0\0\0\0\0"sv},
+};
 constexpr FixedRecord kEnd{RecordType::Eof, ""sv};
 
 constexpr std::string_view kSheetName = "Sheet1";
@@ -179,19 +183,6 @@ std::string SheetHead(const Workbook& book, std::size_t sheetAt, std::span<const
            dimensions;
 }
 
-/// What stands behind the cells.
-std::string SheetTail(const Workbook& book) {
-    constexpr U8 kOnlyPane = 3;
-    const CellPlace cell = book.ActiveCell();
-    const auto col = static_cast<U8>(cell.col);
-    std::string bytes;
-    Append(bytes, kWindow);
-    AppendRecord(bytes, RecordType::Selection, kOnlyPane, cell.row, cell.col, U16{0}, U16{1}, cell.row,
-                 cell.row, col, col);
-    Append(bytes, kEnd);
-    return bytes;
-}
-
 } // namespace
 
 bool WriteXls(const Workbook& book, FileWriter& file) {
@@ -202,7 +193,9 @@ bool WriteXls(const Workbook& book, FileWriter& file) {
     const std::string bookHead = BookHead(book, sheetAt);
     const RowBlocks blocks = MakeRowBlocks(book);
     const std::string sheetHead = SheetHead(book, sheetAt, blocks.ends);
-    const std::string sheetTail = SheetTail(book);
+    std::string sheetTail;
+    Append(sheetTail, kSheetWindow);
+    Append(sheetTail, kEnd);
     const std::size_t size = sheetAt + sheetHead.size() + blocks.bytes.size() + sheetTail.size();
     if (size > OleContainer::kMaxStream) return false;
 

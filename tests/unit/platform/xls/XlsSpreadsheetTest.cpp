@@ -41,14 +41,18 @@ TEST_F(XlsSpreadsheetTest, SavesWhatWasPutIntoTheWorkbook) {
     excel.SetColumnWidth(u"A:A", 32);
     excel.SetInteriorColorIndex(u"A1", 35);
     Put(u"B3", u"b3");
-    excel.SelectRange(u"A1");
     const PlainXls read = Saved();
     EXPECT_THAT(read.texts,
                 ElementsAre(Pair(PlainXls::Place{0, 0}, u"Name"), Pair(PlainXls::Place{2, 1}, u"b3")));
     EXPECT_THAT(read.columnWidths, ElementsAre(Pair(0, 8374)));
     EXPECT_EQ(read.FormatAt(0, 0), (PlainFormat{false, 42}));
     EXPECT_EQ(read.FormatAt(2, 1), PlainFormat());
-    EXPECT_EQ(read.activeCell, (PlainXls::Place{0, 0}));
+}
+
+TEST_F(XlsSpreadsheetTest, TheFileOpensAtItsFirstCellWhicheverIsActive) {
+    excel.AddWorkbook();
+    Put(u"B3", u"b3");
+    EXPECT_EQ(Saved().activeCell, (PlainXls::Place{0, 0}));
 }
 
 TEST_F(XlsSpreadsheetTest, ANewWorkbookIsEmptyAndItsFirstCellIsActive) {
@@ -65,10 +69,11 @@ TEST_F(XlsSpreadsheetTest, ARangeThatDoesNotExistChangesNothing) {
     EXPECT_FALSE(excel.SelectRange(u"[1"));
     excel.SetColumnWidth(u"[:[", 32);
     excel.SetInteriorColorIndex(u"[1", 35);
+    excel.SetActiveCellValue(u"b2");
     const PlainXls read = Saved();
-    EXPECT_EQ(read.activeCell, (PlainXls::Place{1, 1}));
     EXPECT_THAT(read.columnWidths, IsEmpty());
-    EXPECT_THAT(read.formats, IsEmpty());
+    EXPECT_THAT(read.formats, ElementsAre(Pair(PlainXls::Place{1, 1}, PlainFormat())));
+    EXPECT_EQ(read.TextAt(1, 1), u"b2");
 }
 
 TEST_F(XlsSpreadsheetTest, WidthsAndColoursOutOfRangeChangeNothing) {

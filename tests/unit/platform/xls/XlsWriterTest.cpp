@@ -190,12 +190,6 @@ TEST(XlsWriter, AColumnOf32CharactersIsAsWideAsThese) {
     EXPECT_THAT(WrittenAndRead(book).columnWidths, ElementsAre(Pair(0, 8374), Pair(23, 65462)));
 }
 
-TEST(XlsWriter, TheActiveCellIsSelected) {
-    Workbook book;
-    book.SetActiveCell({4, 2});
-    EXPECT_EQ(WrittenAndRead(book).activeCell, (PlainXls::Place{4, 2}));
-}
-
 TEST(XlsWriter, TextsAreStoredOnce) {
     Workbook book;
     for (U16 row = 0; row < 10; ++row)
