@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-// The records of a workbook stream, version 8 of the format. Public source: Microsoft Open Specifications,
-// [MS-XLS] "Excel Binary File Format (.xls) Structure", sections 2.1.4 and 2.4.
+// The records of a workbook stream, version 8 of the format. Public source: the format as Microsoft publishes
+// it, [MS-XLS] "Excel Binary File Format (.xls) Structure", sections 2.1.4 and 2.4.
 
 namespace korvane::xls {
 

@@ -7,7 +7,8 @@
 #include <string>
 #include <string_view>
 
-// Public source: Microsoft Open Specifications, [MS-CFB] "Compound File Binary File Format", version 3.
+// Public source: the format as Microsoft publishes it, [MS-CFB] "Compound File Binary File Format",
+// version 3.
 
 namespace korvane::xls {
 
