@@ -63,7 +63,7 @@ bool PathStyle::IsFullPath(TextView path) const {
 
 Text PathStyle::DirectoryForChange(TextView folder) const {
     Text directory(folder);
-    if (HasDrives() && folder.size() < kRootLength) directory += separator_;
+    if (HasDrives() && !folder.empty() && folder.size() < kRootLength) directory += separator_;
     return directory;
 }
 

@@ -34,8 +34,8 @@ public:
     bool IsAbsolute(TextView path) const;
     /// Whether the text names a folder too: it holds a separator anywhere.
     bool IsFullPath(TextView path) const;
-    /// The folder in the form in which a change of directory takes it: on Windows one shorter than 3
-    /// characters gets a backslash, since "C:" alone is the drive's current directory.
+    /// The folder in the form in which a change of directory takes it: on Windows a drive alone ("C:"), which
+    /// is the drive's current directory, gets a backslash. Empty for the folder of a bare name.
     Text DirectoryForChange(TextView folder) const;
 
     /// The name in the form that is the same for all names the file system holds to be the same.

@@ -18,7 +18,8 @@ constexpr std::int16_t kChooseFiles = 2;
 void GoToFolderOf(FileSystem& files, const Text& path) {
     const PathStyle style = files.Style();
     const Text folder = style.DirectoryForChange(style.FolderPart(path));
-    if (files.DirExists(folder)) files.ChangeDir(folder);
+    // A bare name stands in the current directory, and has to be found there afterwards too.
+    if (!folder.empty() && files.DirExists(folder)) files.ChangeDir(folder);
 }
 
 void OpenFromRecord(frmMDIParent& main, const Text& path) {

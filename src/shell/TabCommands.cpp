@@ -20,8 +20,7 @@ namespace {
 
 void ExploreTableFolder(const TabContext& tab) {
     const PathStyle style = tab.app.Files().Style();
-    const TextView folder = style.FolderPart(tab.table.TxtDbFile);
-    ExploreFolder(tab.app, folder.empty() ? Text() : style.DirectoryForChange(folder));
+    ExploreFolder(tab.app, style.DirectoryForChange(style.FolderPart(tab.table.TxtDbFile)));
 }
 
 void RunOnMainWindow(const TabContext& tab, std::string_view command) {

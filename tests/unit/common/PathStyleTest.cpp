@@ -126,7 +126,7 @@ TEST(PathStyle, DirectoryForChangeCompletesADriveOnWindows) {
     EXPECT_EQ(kWindows.DirectoryForChange(u"C:"), u"C:\\");
     EXPECT_EQ(kWindows.DirectoryForChange(u"C:\\"), u"C:\\");
     EXPECT_EQ(kWindows.DirectoryForChange(u"C:\\Data"), u"C:\\Data");
-    EXPECT_EQ(kWindows.DirectoryForChange(u""), u"\\");
+    EXPECT_EQ(kWindows.DirectoryForChange(u""), u"");
     EXPECT_EQ(kPosix.DirectoryForChange(u"/"), u"/");
     EXPECT_EQ(kPosix.DirectoryForChange(u"/a"), u"/a");
     EXPECT_EQ(kPosix.DirectoryForChange(u""), u"");

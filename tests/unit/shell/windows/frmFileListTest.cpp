@@ -1,6 +1,7 @@
 #include "shell/frmFileList.h"
 
 #include "common/Number.h"
+#include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 #include "unit/shell/windows/FakeDialogs.h"
 
@@ -388,6 +389,189 @@ TEST_F(FileListTest, TheKeysOfTheListerAndOfDocking) {
         EXPECT_EQ(f.Width.Get(), Twips{6000});
         EXPECT_FALSE(Press(f, 'A'));
     });
+}
+
+TEST_F(FileListTest, HasItsMenuAndToolTips) {
+    const frmFileList f(p.app, Recents(), p.Main());
+    EXPECT_EQ(EntriesOf(f.OfficeMenu1), (Entries{{"mnuLoad", u"&Load item"},
+                                                 {"mnuNewText", u"Start &new text"},
+                                                 {"mnuViewFile", u"&View file"},
+                                                 {"mnuExternalEdit", u"E&xternal edit"},
+                                                 {"mnuFile_FileFolder", u"&Goto file folder"},
+                                                 {"mnuInfo", u"&Info on item"},
+                                                 {"mnuExit", u"E&xit"},
+                                                 {"mnuDelete", u"&Delete item"},
+                                                 {"mnuEmpty", u"&Empty grid"},
+                                                 {"mnuWhenToEmpty", u"&When to empty"},
+                                                 {"mnuFileFolder", u"&Cols to view"},
+                                                 {"mnuFont", u"Font for grid"},
+                                                 {"mnuColour", u"Grid colo&ur"}}));
+    EXPECT_EQ(f.cmdLoad.ToolTipText.Get(), u"Load current file / selected files");
+    EXPECT_EQ(f.cmdCancel.ToolTipText.Get(), u"Close window");
+    EXPECT_EQ(f.cmdNewText.ToolTipText.Get(), u"Start a new text");
+    EXPECT_EQ(f.cmdDelete.ToolTipText.Get(), u"Delete current item");
+    EXPECT_EQ(f.cmdEmptyList.ToolTipText.Get(), u"Empty list");
+    EXPECT_EQ(f.cmdViewFile.ToolTipText.Get(), u"View current file");
+    EXPECT_EQ(f.cmdInfo.ToolTipText.Get(), u"Information on current file");
+    EXPECT_EQ(f.cmdGotoFileFolder.ToolTipText.Get(), u"Goto folder with this file");
+    EXPECT_EQ(f.cmdFileFolder.ToolTipText.Get(), u"Determine how many columns to view");
+    EXPECT_EQ(f.cmdFont.ToolTipText.Get(), u"Set font for grid");
+    EXPECT_EQ(f.cmdColour.ToolTipText.Get(), u"Set colour for grid");
+    std::vector<Text> titles;
+    for (const ListColumn& column : f.ListView1.Columns.Get())
+        titles.push_back(column.header);
+    EXPECT_EQ(titles, (std::vector<Text>{u"File", u"Location", u"Offset", u"Date"}));
+}
+
+TEST_F(FileListTest, TheMenuDoesAsTheButtonsDo) {
+    FakeFileViewer viewer(p.app);
+    FakeFontPicker fonts(p.app);
+    FakeColourPicker colours(p.app);
+    fonts.answer = FontSpec{u"Arial", 12};
+    colours.answer = Colour{255};
+    InList([&](frmFileList& f) {
+        f.OfficeMenu1.Choose("mnuFont");
+        EXPECT_EQ(p.app.Settings.FileListFontName, u"Arial");
+        f.OfficeMenu1.Choose("mnuColour");
+        EXPECT_EQ(p.app.Settings.FileListColour, 255);
+        f.OfficeMenu1.Choose("mnuFileFolder");
+        EXPECT_EQ(p.app.Settings.FileListAllColumns, 1);
+        f.OfficeMenu1.Choose("mnuViewFile");
+        EXPECT_EQ(viewer.viewed, std::vector<Text>{kA});
+        p.user.Answer(Answer::Ok);
+        f.OfficeMenu1.Choose("mnuInfo");
+        EXPECT_TRUE(p.user.Messages().back().text.starts_with(u"File  a.tbx\r\n"));
+        f.OfficeMenu1.Choose("mnuDelete");
+        EXPECT_EQ(f.ListView1.Count(), 2);
+        f.OfficeMenu1.Choose("mnuExit");
+        EXPECT_FALSE(f.Shown());
+    });
+    InList([](frmFileList& f) { f.OfficeMenu1.Choose("mnuNewText"); });
+    EXPECT_EQ(p.app.DialogResult, 11);
+    InList([](frmFileList& f) { f.OfficeMenu1.Choose("mnuFile_FileFolder"); });
+    EXPECT_EQ(p.app.DialogResult, 99);
+    InList([](frmFileList& f) { f.OfficeMenu1.Choose("mnuLoad"); });
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"b.tbx"});
+}
+
+TEST_F(FileListTest, AResultThatNoButtonGivesStillAsksForFilesDeliberately) {
+    p.user.On<frmFileList>([this](frmFileList& f) {
+        p.app.DialogResult = 2;
+        f.Close();
+    });
+    p.user.OnChooser([this](ListerRequest& request) {
+        EXPECT_EQ(request.FileDialogCaption, u"Select a text database to edit");
+        EXPECT_EQ(Recents().LoadFromRecent, 1);
+        request.ChosenFilePath = kA;
+    });
+    p.Choose("mnuFile_Recent");
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
+    EXPECT_EQ(Recents().LoadFromRecent, 0);
+}
+
+TEST_F(FileListTest, TheOffsetOfAnEntryIsReadBackForNobodyDeliberately) {
+    Recents().RecentEntries[1] = kA + u" | 17*2026.03.01   14:05";
+    InList([](frmFileList& f) { f.cmdLoad.Press(); });
+    EXPECT_EQ(Recents().RecentOffsets, std::vector<int>{17});
+    EXPECT_EQ(Recents().RecentOffset, 17);
+    EXPECT_EQ(Recents().RecentEntries[1], kA + u" | 0*2026.11.21   10:30");
+}
+
+TEST_F(FileListTest, ABareNameIsLoadedFromTheCurrentDirectory) {
+    p.files.ChangeDir(u"C:\\Data");
+    SetRecord({u"a.tbx"});
+    InList([](frmFileList& f) {
+        EXPECT_EQ(f.ListView1.RowAt(1).texts.at(1), u"");
+        f.cmdLoad.Press();
+    });
+    EXPECT_EQ(p.files.CurrentDir(), u"C:\\Data");
+    EXPECT_EQ(p.Tab(1).GridStore().CellText(Row{1}, Col{1}), u"a");
+}
+
+TEST_F(FileListTest, AFileAtTheRootOfADriveIsLoadedFromThere) {
+    p.files.AddDrive(u'D');
+    p.AddTable(u"D:\\x.tbx", {"x"});
+    SetRecord({u"D:\\x.tbx"});
+    InList([](frmFileList& f) {
+        EXPECT_EQ(f.ListView1.RowAt(1).texts.at(1), u"D:");
+        f.cmdLoad.Press();
+    });
+    EXPECT_EQ(p.files.CurrentDir(), u"D:\\");
+    EXPECT_EQ(p.AllTabs().TabState[1].Path, u"D:\\x.tbx");
+}
+
+TEST_F(FileListTest, ASoleTabWhoseCaptionOnlyStartsLikeAnEmptyOneGoesTooDeliberately) {
+    p.AddTable(u"C:\\Data\\Untitled plans.tbx", {"x"});
+    p.Open(u"C:\\Data\\Untitled plans.tbx");
+    SetRecord({kA});
+    InList([](frmFileList& f) { f.cmdLoad.Press(); });
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
+    EXPECT_EQ(p.AllTabs().CurrentTabIndex, 1);
+}
+
+TEST_F(FileListTest, ATabThatWasWrittenToFromOutsideStays) {
+    p.Main().TheTabs().AddNewTab();
+    p.AllTabs().TabState[1].Dirty = -1;
+    InList([](frmFileList& f) { f.cmdLoad.Press(); });
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"a.tbx"}));
+}
+
+TEST_F(FileListTest, AFirstFileThatIsLostLeavesTheEmptyTabThereDeliberately) {
+    p.Main().TheTabs().AddNewTab();
+    SetRecord({kGone, kA});
+    p.user.On<frmFileList>([](frmFileList& f) {
+        f.ListView1.SetSelected(2, true);
+        f.cmdLoad.Press();
+    });
+    p.user.Answer(Answer::Ok);
+    p.Choose("mnuFile_Recent");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"a.tbx"}));
+}
+
+TEST_F(FileListTest, AHeaderClickLeavesASingleRowAlone) {
+    SetRecord({kA});
+    InList([](frmFileList& f) { f.ListView1.ClickColumn(1); });
+    SetRecord({kB, kA});
+    InList([](frmFileList& f) {
+        f.ListView1.ClickColumn(1);
+        EXPECT_EQ(f.ListView1.RowAt(1).texts.at(0), u"a.tbx");
+    });
+}
+
+TEST_F(FileListTest, TheCutIsOnlyMadeWhenTheLastEntryIsInUse) {
+    std::vector<Text> paths;
+    for (int i = 1; i < RecentRecord::kEntries; ++i)
+        paths.push_back(u"C:\\f" + NumberText(i) + u".tbx");
+    SetRecord(paths);
+    Recents().EmptyWhenFull = 1;
+    InList([](frmFileList& f) { EXPECT_EQ(f.ListView1.Count(), 71); });
+}
+
+TEST_F(FileListTest, AColourOfZeroIsBlackAndOneBelowZeroLeavesTheListsOwn) {
+    InList([](frmFileList& f) { EXPECT_EQ(f.ListView1.BackColor.Get(), Colour{0}); });
+    p.app.Settings.FileListColour = -1;
+    InList([](frmFileList& f) { EXPECT_EQ(f.ListView1.BackColor.Get(), kNoColour); });
+}
+
+TEST_F(FileListTest, KeysOfTheListAreWithoutModifiers) {
+    InList([](frmFileList& f) {
+        for (const int code : {Key::Escape, Key::Return, Key::Delete, Key::Space}) {
+            EXPECT_FALSE(Press(f, code, Mask::Shift)) << code;
+        }
+        EXPECT_FALSE(Press(f, Key::Back));
+        EXPECT_TRUE(f.Shown());
+        EXPECT_EQ(f.ListView1.Count(), 3);
+    });
+}
+
+TEST_F(FileListTest, WithoutAViewerAndPickersTheirCommandsDoNothing) {
+    InList([](frmFileList& f) {
+        for (CommandButton* button : {&f.cmdViewFile, &f.cmdFont, &f.cmdColour})
+            button->Press();
+        f.OfficeMenu1.Choose("mnuExternalEdit");
+        EXPECT_TRUE(f.Shown());
+    });
+    EXPECT_TRUE(p.user.Messages().empty());
 }
 
 TEST_F(FileListTest, AnEmptyListTakesEveryCommandInSilence) {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "controls/Menu.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace korvane {
+
+/// Name and caption.
+using Entries = std::vector<std::pair<std::string, Text>>;
+
+/// What can be chosen in a window's menu bar, in order, without the heads of the menus.
+inline Entries EntriesOf(const Menu& menu) {
+    Entries entries;
+    for (const MenuEntry& entry : menu.Entries()) {
+        if (entry.level == 1) entries.emplace_back(entry.name, entry.caption);
+    }
+    return entries;
+}
+
+} // namespace korvane
