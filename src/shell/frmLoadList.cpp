@@ -198,6 +198,8 @@ void ShowLoadedFiles(frmMDIParent& main) {
     main.TheApp().Screen().ProcessMessages();
     main.TheTabs().Show(form.SwitchTarget);
     main.TheApp().Screen().ProcessMessages();
+    // What came in meanwhile may have taken the keyboard.
+    main.TheTabs().Show(form.SwitchTarget);
 }
 
 } // namespace korvane

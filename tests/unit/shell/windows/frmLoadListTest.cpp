@@ -1,5 +1,6 @@
 #include "shell/frmLoadList.h"
 
+#include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -144,6 +145,104 @@ TEST_F(LoadListTest, ExploresTheFolderOfTheSelectedTab) {
     });
     const OpenRequest request{u"explore", u"C:\\Data", u"", u"C:\\Data"};
     EXPECT_EQ(p.shell.Opened(), (std::vector<OpenRequest>{request, request, request}));
+}
+
+TEST_F(LoadListTest, HasItsMenuAndToolTipsOneNameMisspeltDeliberately) {
+    p.StartWith({});
+    const frmLoadList f(p.app, p.AllTabs(), p.Main());
+    EXPECT_EQ(EntriesOf(f.OfficeMenu1), (Entries{{"mnuSwitch", u"&Switch to text"},
+                                                 {"mnuClipList", u"List to clip&board"},
+                                                 {"mnuExpolorer", u"E&xplorer"},
+                                                 {"mnuDirLister", u"Directory &lister"},
+                                                 {"mnuExit", u"&Close"},
+                                                 {"mnuToggle", u"Long/short &display"}}));
+    EXPECT_EQ(f.cmdSwitch.ToolTipText.Get(), u"Switch to selected text");
+    EXPECT_EQ(f.cmdToClip.ToolTipText.Get(), u"List to clipboard");
+    EXPECT_EQ(f.cmdToggleForm.ToolTipText.Get(), u"Toggle long / short display");
+    EXPECT_EQ(f.cmdExplorer.ToolTipText.Get(), u"Windows Explorer");
+    EXPECT_EQ(f.cmdDirLister.ToolTipText.Get(), u"Directory lister");
+    EXPECT_EQ(f.cmdCentreOnScreen.ToolTipText.Get(), u"Centre window on screen");
+    EXPECT_EQ(f.cmdExit.ToolTipText.Get(), u"Close window");
+}
+
+TEST_F(LoadListTest, TheMenuDoesAsTheButtonsDo) {
+    OpenBoth();
+    InList([this](frmLoadList& f) {
+        p.user.Answer(Answer::Ok);
+        f.OfficeMenu1.Choose("mnuClipList");
+        EXPECT_EQ(p.clipboard.GetText(), u"a.tbx\r\nb.tbx\r\n");
+        f.OfficeMenu1.Choose("mnuToggle");
+        EXPECT_EQ(p.app.Settings.LoadListLongForm, 1);
+        f.OfficeMenu1.Choose("mnuExit");
+        EXPECT_FALSE(f.Shown());
+    });
+}
+
+TEST_F(LoadListTest, TheDirectoryListerComesByButtonMenuAndKey) {
+    p.StartWith({});
+    InList([this](frmLoadList& f) {
+        for (int i = 0; i < 3; ++i)
+            p.user.CancelChooser();
+        f.cmdDirLister.Press();
+        f.OfficeMenu1.Choose("mnuDirLister");
+        EXPECT_TRUE(Press(f, Key::F(2)));
+    });
+    for (const ListerRequest& request : p.user.Requests())
+        EXPECT_EQ(request.FileDialogCaption, u"Directory lister");
+}
+
+TEST_F(LoadListTest, ATabWithoutAFileHasNeitherSizeNorDate) {
+    p.StartWith({});
+    p.AllTabs().AddNewTab();
+    InList([](frmLoadList& f) {
+        EXPECT_EQ(Texts(f).at(1), u"[1]  Untitled_1.tbx  [ disk size: ; modified:  ]");
+    });
+}
+
+TEST_F(LoadListTest, TheRootHasNoFolderToExplore) {
+    OpenBoth();
+    InList([](frmLoadList& f) {
+        f.FileTree.Select(u"Root");
+        f.cmdExplorer.Press();
+    });
+    EXPECT_TRUE(p.shell.Opened().empty());
+}
+
+TEST_F(LoadListTest, TheChosenTabHasTheKeyboardWhateverComesInMeanwhile) {
+    OpenBoth();
+    p.AddTable(u"C:\\Data\\c.tbx", {"c"});
+    InList([this](frmLoadList& f) {
+        f.FileTree.Select(u"X_1");
+        f.cmdSwitch.Press();
+        p.screen.QueueMessage([] {});
+        p.screen.QueueMessage([this] { p.instance.Arrive(u"C:\\Data\\c.tbx"); });
+    });
+    EXPECT_EQ(p.Captions().size(), 3u);
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(1));
+}
+
+TEST_F(LoadListTest, ATabThatClosesMeanwhileIsNotSwitchedTo) {
+    OpenBoth();
+    InList([this](frmLoadList& f) {
+        f.FileTree.Select(u"X_1");
+        f.cmdSwitch.Press();
+        p.screen.QueueMessage([this] { p.Main().CloseTab(p.Tab(1)); });
+    });
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(2));
+}
+
+TEST_F(LoadListTest, LettersCountWithCtrlAndWhateverElse) {
+    OpenBoth();
+    InList([this](frmLoadList& f) {
+        EXPECT_FALSE(Press(f, 'D'));
+        EXPECT_FALSE(Press(f, Key::F(9)));
+        for (const int others : {Mask::None, Mask::Shift, Mask::Alt, Mask::Shift | Mask::Alt}) {
+            p.user.Answer(Answer::Ok);
+            EXPECT_TRUE(Press(f, 'C', Mask::Ctrl | others));
+            EXPECT_TRUE(Press(f, Key::F(9), Mask::Ctrl | others));
+        }
+    });
+    EXPECT_EQ(p.shell.Opened().size(), 4u);
 }
 
 TEST_F(LoadListTest, CentresWithTheHeightOfTheScreen) {
