@@ -53,7 +53,7 @@ bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
         LoadFile(number, file, into);
     }
     if (app_.Lister.ChosenFileCount >= 2) ShowLoadedFiles(app_);
-    return true;
+    return app_.Lister.ChosenFileCount > 0;
 }
 
 bool LoadPipeline::TakeFiles(const Text& path) {

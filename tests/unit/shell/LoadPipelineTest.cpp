@@ -85,12 +85,14 @@ TEST_F(LoadPipelineTest, GoesBackToTheDriveAndDirectory) {
 
 TEST_F(LoadPipelineTest, AFileThatWasViewedAndNotMarkedLoadsNothing) {
     p.StartWith({});
-    p.user.OnChooser([](ListerRequest& request) {
+    p.user.OnChooser([this](ListerRequest& request) {
+        p.Main().Caption = u"changed";
         request.ChosenFilePath = u"C:\\Data\\picture.png";
         request.ChosenFileCount = 0;
     });
     p.Choose("mnuFile_Open");
     EXPECT_TRUE(p.Captions().empty());
+    EXPECT_EQ(p.Main().Caption.Get(), u"Korvane");
 }
 
 TEST_F(LoadPipelineTest, SeveralFilesAreLoadedAfterAQuestion) {
@@ -127,7 +129,7 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenIsNotLoadedTwice) {
     EXPECT_EQ(p.screen.CurrentPointer(), Pointer::Hourglass);
 }
 
-TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStay) {
+TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStayDeliberately) {
     p.StartWith({}, kB);
     p.user.ChooseFiles({kA, kB, kC});
     p.user.Answer(Answer::Yes);
@@ -137,10 +139,58 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStay) {
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"b.tbx", u"a.tbx"}));
 }
 
-TEST_F(LoadPipelineTest, TheSameFileInOtherCaseLoadsTwice) {
+TEST_F(LoadPipelineTest, TheSameFileInOtherCaseLoadsTwiceDeliberately) {
     p.StartWith({}, kA);
     p.Open(u"c:\\data\\A.TBX");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"A.TBX"}));
+}
+
+TEST_F(LoadPipelineTest, TheThirdOfFiveFilesStopsTheLoadWhenItIsOpen) {
+    const std::vector<Text> files{u"C:\\1.tbx", u"C:\\2.tbx", u"C:\\3.tbx", u"C:\\4.tbx", u"C:\\5.tbx"};
+    for (const Text& file : files)
+        p.AddTable(file, {"x"});
+    p.StartWith({}, files[2]);
+    p.user.ChooseFiles(files);
+    p.user.Answer({u"Load  >   5   <  text databases?", MessageIcon::Question, MessageButtons::YesNo, 1},
+                  Answer::Yes);
+    p.user.Answer(AlreadyLoaded(files[2]), Answer::Ok);
+    p.user.On<frmLoadList>([](frmLoadList& list) {
+        EXPECT_EQ(list.FileTree.Nodes().size(), 4U);
+        list.cmdExit.Press();
+    });
+    p.Choose("mnuFile_Open");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"3.tbx", u"1.tbx", u"2.tbx"}));
+    EXPECT_TRUE(Recent(1).starts_with(files[1]));
+}
+
+TEST_F(LoadPipelineTest, TheSameFileByItsOtherDriveFormLoadsTwiceDeliberately) {
+    p.files.AddDrive(u'D');
+    p.AddTable(u"D:\\x.tbx", {"x"});
+    p.AddTable(u"C:\\Drive_D\\x.tbx", {"x"});
+    p.StartWith({}, u"D:\\x.tbx");
+    p.Open(u"C:\\Drive_D\\x.tbx");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"x.tbx", u"x.tbx"}));
+}
+
+TEST_F(LoadPipelineTest, AFileWhosePathStartsWithUntitledNeverEntersTheRecord) {
+    p.AddTable(u"C:\\Data\\Untitled_7.tbx", {"x"});
+    p.files.ChangeDir(u"C:\\Data");
+    p.StartWith({}, u"Untitled_7.tbx");
+    EXPECT_EQ(FirstCell(1), u"x");
+    EXPECT_EQ(Recent(1), u"");
+    p.Open(u"C:\\Data\\Untitled_7.tbx");
+    EXPECT_TRUE(Recent(1).starts_with(u"C:\\Data\\Untitled_7.tbx | "));
+}
+
+TEST_F(LoadPipelineTest, AFileThatArrivesWhileTheChooserStandsIsLoadedInBetween) {
+    p.StartWith({});
+    p.user.OnChooser([this](ListerRequest& request) {
+        p.instance.Arrive(kB);
+        request.ChosenFilePath = kA;
+    });
+    p.Choose("mnuFile_Open");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"b.tbx", u"a.tbx"}));
+    EXPECT_EQ(FirstCell(2), kA);
 }
 
 TEST_F(LoadPipelineTest, AFileWhoseTabWasClosedLoadsAgain) {
@@ -150,7 +200,7 @@ TEST_F(LoadPipelineTest, AFileWhoseTabWasClosedLoadsAgain) {
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
 }
 
-TEST_F(LoadPipelineTest, AFileOfAnotherExtensionLoadsNothingKeepsItsTabAndEntersTheRecord) {
+TEST_F(LoadPipelineTest, AFileOfAnotherExtensionLoadsNothingKeepsItsTabAndEntersTheRecordDeliberately) {
     p.files.AddFile(u"C:\\Data\\a.txt", "text");
     p.StartWith({});
     p.Open(u"C:\\Data\\a.txt");
@@ -185,12 +235,13 @@ TEST_F(LoadPipelineTest, LoadedFilesEnterTheRecordTheLastOneFirst) {
     EXPECT_EQ(Recent(2), kA + u" | 0*2026.11.21   10:30");
 }
 
-TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOver) {
+TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOverToNobodyDeliberately) {
     p.StartWith({});
     p.Main().Recents().LoadFromRecent = 1;
     p.Main().Recents().RecentOffsets = {42};
     p.Main().Pipeline().OpenDatabase(kA, LoadInto::NewTab);
     EXPECT_EQ(p.Main().Recents().RecentOffset, 42);
+    EXPECT_EQ(Recent(1), kA + u" | 0*2026.11.21   10:30");
 }
 
 TEST_F(LoadPipelineTest, WithoutANewTabTheActiveOneIsFilled) {
