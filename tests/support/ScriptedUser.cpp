@@ -83,6 +83,7 @@ Answer ScriptedUser::Show(const Message& message) {
     const auto step = Take<BoxStep>(DescribeMessage(message));
     if (!step) return EscAnswer(message.buttons);
     EXPECT_EQ(message, step->expected.value_or(message));
+    if (step->meanwhile) step->meanwhile();
     if (HasButton(message.buttons, step->answer)) return step->answer;
     ADD_FAILURE() << "no such button on " << DescribeMessage(message);
     return EscAnswer(message.buttons);

@@ -42,10 +42,14 @@ public:
         }});
     }
     /// The next to come is any message box that has this button.
-    void Answer(korvane::Answer answer) { steps_.push_back(BoxStep{std::nullopt, answer}); }
+    void Answer(korvane::Answer answer) { steps_.push_back(BoxStep{std::nullopt, answer, {}}); }
     /// The next to come is exactly this message box.
     void Answer(const Message& expected, korvane::Answer answer) {
-        steps_.push_back(BoxStep{expected, answer});
+        steps_.push_back(BoxStep{expected, answer, {}});
+    }
+    /// The same, and this happens while the box stands.
+    void AnswerAfter(std::function<void()> meanwhile, korvane::Answer answer) {
+        steps_.push_back(BoxStep{std::nullopt, answer, std::move(meanwhile)});
     }
     /// The next to come is the file chooser; `choose` fills in what comes of it.
     void OnChooser(std::function<void(ListerRequest&)> choose) {
@@ -102,6 +106,7 @@ private:
     struct BoxStep {
         std::optional<Message> expected;
         korvane::Answer answer;
+        std::function<void()> meanwhile;
     };
     struct ChooserStep {
         std::function<void(ListerRequest&)> choose;

@@ -1,5 +1,6 @@
 #include "dialogs/frmMyMsgBox.h"
 
+#include "support/MenuEntries.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -48,7 +49,7 @@ TEST_F(MyMsgBoxTest, AFileNotSavedYetHasNoDateAndNoSize) {
         t.app.MsgFilePath = Text(path);
         Ask([](frmMyMsgBox& f) {
             EXPECT_EQ(f.lblFileSize.Caption.Get(), u"0");
-            EXPECT_TRUE(f.lblFileDate.Caption.Get().starts_with(u"(not yet saved!)     [ now: "));
+            EXPECT_EQ(f.lblFileDate.Caption.Get(), u"(not yet saved!)     [ now: 21/11/2026, 09:08:07 ]");
         });
     }
 }
@@ -68,6 +69,15 @@ TEST_F(MyMsgBoxTest, HasItsCaptions) {
     EXPECT_EQ(f.cmdClip.ToolTipText.Get(), u"Deposit info in clipboard");
     EXPECT_EQ(f.cmdExplorer.ToolTipText.Get(), u"Windows Explorer");
     EXPECT_EQ(f.cmdLorrit.ToolTipText.Get(), u"File Lorrit");
+}
+
+TEST_F(MyMsgBoxTest, HasItsMenu) {
+    const frmMyMsgBox f(t.app);
+    EXPECT_EQ(EntriesOf(f.OfficeMenu1), (Entries{{"mnuSave", u"Sa&ve file directly to disk"},
+                                                 {"mnuFileInfo", u"&File info"},
+                                                 {"mnuClip", u"Clip &info"},
+                                                 {"mnuExplorer", u"E&xplorer"},
+                                                 {"mnuLorrit", u"Lor&rit"}}));
 }
 
 TEST_F(MyMsgBoxTest, EachButtonHasItsAnswer) {
@@ -93,6 +103,29 @@ TEST_F(MyMsgBoxTest, EscapeOnAButtonClosesAndLeavesTheAnswer) {
                   }),
                   MsgAnswer::Cancel);
     }
+}
+
+TEST_F(MyMsgBoxTest, EscapeLeavesAnyAnswerAsItStands) {
+    EXPECT_EQ(Ask([this](frmMyMsgBox& f) {
+                  t.app.MsgAnswer = MsgAnswer::SaveDirectly;
+                  KeyEvent key{Key::Escape};
+                  f.cmdCancel.KeyDown(key);
+              }),
+              MsgAnswer::SaveDirectly);
+}
+
+TEST_F(MyMsgBoxTest, OtherKeysOnAButtonAreItsOwn) {
+    Ask([](frmMyMsgBox& f) {
+        KeyEvent key{Key::Space};
+        f.cmdYes.KeyDown(key);
+        EXPECT_FALSE(key.consumed);
+        EXPECT_TRUE(f.Shown());
+    });
+}
+
+TEST_F(MyMsgBoxTest, NotSavingNeedsNoConfirmationWhereNoneIsWanted) {
+    EXPECT_EQ(Ask([](frmMyMsgBox& f) { f.cmdNo.Press(); }), MsgAnswer::DoNotSave);
+    EXPECT_TRUE(t.user.Messages().empty());
 }
 
 TEST_F(MyMsgBoxTest, NotSavingCanBeConfirmed) {
@@ -165,10 +198,14 @@ TEST_F(MyMsgBoxTest, ShowsTheFolder) {
     t.files.AddFile(u"C:\\Drive_G\\Sandrel\\Hadrell\\Lorrit\\Lorrit.exe");
     Ask([](frmMyMsgBox& f) {
         f.cmdExplorer.Press();
+        f.OfficeMenu1.Choose("mnuExplorer");
         f.cmdLorrit.Press();
+        f.OfficeMenu1.Choose("mnuLorrit");
     });
-    EXPECT_EQ(t.shell.Opened(), (std::vector<OpenRequest>{{u"explore", u"C:\\Data", u"", u"C:\\Data"}}));
-    EXPECT_EQ(t.shell.Starts().at(0).arguments, std::vector<Text>{u"C:\\Data"});
+    const OpenRequest explored{u"explore", u"C:\\Data", u"", u"C:\\Data"};
+    EXPECT_EQ(t.shell.Opened(), (std::vector<OpenRequest>{explored, explored}));
+    const ProgramStart lorrit{u"C:\\Drive_G\\Sandrel\\Hadrell\\Lorrit\\Lorrit.exe", {u"C:\\Data"}};
+    EXPECT_EQ(t.shell.Starts(), (std::vector<ProgramStart>{lorrit, lorrit}));
 }
 
 } // namespace

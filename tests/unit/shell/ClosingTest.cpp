@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace korvane {
 namespace {
 
@@ -62,7 +64,7 @@ TEST_F(Closing, CancelKeepsTheTab) {
     EXPECT_EQ(p.app.Settings.LastDbFindText, u"");
 }
 
-TEST_F(Closing, YesSavesUnderThePresentNameAndCloses) {
+TEST_F(Closing, YesSavesUnderThePresentNameWhereOtherQuestionsAskForOneDeliberately) {
     Start();
     p.app.DialogResult = 99;
     p.user.Answer(Question(PathOf(u'c')), Answer::Yes);
@@ -131,7 +133,7 @@ TEST_F(Closing, TheEndAsksForEveryTabInTheOrderOfTheStripAndWritesBothFiles) {
                                  "C:\\Data\\a.tbx | 0*2026.11.21   10:30\r\n");
 }
 
-TEST_F(Closing, ACancelOnTheWayLeavesTheRestOpenAndTheAnsweredClosed) {
+TEST_F(Closing, ACancelOnTheWayLeavesTheRestOpenTheAnsweredClosedAndTheStripOffDeliberately) {
     Start();
     p.user.Answer(Question(PathOf(u'a')), Answer::No);
     p.user.Answer(Question(PathOf(u'b')), Answer::Cancel);
@@ -141,6 +143,8 @@ TEST_F(Closing, ACancelOnTheWayLeavesTheRestOpenAndTheAnsweredClosed) {
     EXPECT_EQ(p.AllTabs().TabState[1].Deleted, -1);
     EXPECT_FALSE(p.files.FileExists(kRec));
     // The strip stays switched off until the next start.
+    EXPECT_FALSE(p.Main().MDITabs1.On);
+    p.OpenNewTab();
     EXPECT_FALSE(p.Main().MDITabs1.On);
 }
 
@@ -198,7 +202,7 @@ TEST_F(Closing, AnEndInWhichTheSettingsCannotBeWrittenGoesOn) {
         u"Cannot save this file :\r\n\r\nC:\\Korvane\\Korvane.rec\r\n\r\n"));
 }
 
-TEST_F(Closing, WindowsThatStillStandCloseAfterwardsTheLastOneFirstAndCannotStopTheEnd) {
+TEST_F(Closing, WindowsThatStillStandCloseAfterTheSettingsAreWrittenAndCannotStopTheEndDeliberately) {
     class Standing : public Form {
     public:
         Standing(App& app, std::vector<Text>& log, TextView caption)
@@ -246,15 +250,72 @@ TEST_F(Closing, AWindowThatTakesAnotherWithItIsNoTrouble) {
 
 TEST_F(Closing, AFileThatArrivesDuringTheQuestionIsLoadedInBetween) {
     Start();
-    p.AddTable(u"C:\\Data\\d.tbx", {"x"});
-    p.app.Settings.ShowFileInfoAfterSave = 1;
-    p.user.Answer(Answer::Yes);
-    p.user.On<frmTxtDbInfo>([this](frmTxtDbInfo& info) {
-        p.instance.Arrive(u"C:\\Data\\d.tbx");
-        info.cmdClose.Press();
-    });
+    p.AddTable(PathOf(u'd'), {"x"});
+    p.user.AnswerAfter([this] { p.instance.Arrive(PathOf(u'd')); }, Answer::No);
     p.Choose("mnuFile_Close");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"b.tbx", u"d.tbx"}));
+}
+
+TEST_F(Closing, AFileThatArrivesWhileTheProgramEndsIsLoadedClosedAgainAndInTheRecord) {
+    Start();
+    p.AddTable(PathOf(u'd'), {"x"});
+    p.user.AnswerAfter([this] { p.instance.Arrive(PathOf(u'd')); }, Answer::No);
+    p.user.Answer(Question(PathOf(u'b')), Answer::No);
+    p.user.Answer(Question(PathOf(u'c')), Answer::No);
+    p.Choose("mnuFile_Exit");
+    EXPECT_FALSE(p.Main().Shown());
+    EXPECT_TRUE(p.FileBytes(kRec).starts_with("C:\\Data\\d.tbx | 0*"));
+}
+
+TEST_F(Closing, TheEndIsNeverAskedAbout) {
+    Start();
+    for (int slot = 1; slot <= 3; ++slot)
+        p.Tab(slot).Table().TableAltered = 0;
+    p.Choose("mnuFile_Exit");
+    EXPECT_FALSE(p.Main().Shown());
+    EXPECT_TRUE(p.user.Messages().empty());
+}
+
+TEST_F(Closing, EveryWayOutEndsTheProgram) {
+    const std::vector<std::function<void(TestProgram&)>> ways{
+        [](TestProgram& program) { program.Choose("mnuFile_Exit"); },
+        [](TestProgram& program) { program.Main().RunCommand("mnuFile_Exit"); },
+        [](TestProgram& program) { program.Main().mnuPopupMenu.Choose("mnuFile_Exit"); },
+        [](TestProgram& program) { dynamic_cast<CommandButton*>(program.Main().Find("cmdExit"))->Press(); },
+        [](TestProgram& program) { program.Main().Close(); },
+    };
+    for (const auto& way : ways) {
+        TestProgram program;
+        program.StartWith({});
+        way(program);
+        EXPECT_FALSE(program.Main().Shown());
+        EXPECT_EQ(program.FileBytes(kRec), "");
+    }
+}
+
+TEST_F(Closing, EveryWayToCloseATabAsks) {
+    const std::vector<std::function<void(TestProgram&)>> ways{
+        [](TestProgram& program) { program.PressKey('Q', Mask::Ctrl); },
+        [](TestProgram& program) { dynamic_cast<CommandButton*>(program.Main().Find("cmdClose"))->Press(); },
+        [](TestProgram& program) { program.Main().iGridListBar.ClickCell(Row{7}, Col{1}); },
+        [](TestProgram& program) { program.Main().MDITabs1.CloseWanted(program.Tab(3)); },
+    };
+    Start();
+    for (const auto& way : ways) {
+        p.user.Answer(Question(PathOf(u'c')), Answer::Cancel);
+        way(p);
+        EXPECT_EQ(p.Captions().size(), 3u);
+    }
+}
+
+TEST_F(Closing, ASecondStartKeepsNothingOfItsWindow) {
+    p.instance.running.runs = true;
+    p.StartWith({});
+    p.Main().Left = Twips{1111};
+    p.Main().Close();
+    EXPECT_EQ(p.app.Settings.MainLeft, 0);
+    EXPECT_EQ(p.FileBytes(kIni), SettingsBytes({}));
+    EXPECT_FALSE(p.files.FileExists(kRec));
 }
 
 } // namespace

@@ -60,7 +60,7 @@ TEST_F(RecentRecordTest, AnEmptyPathAndAnUntitledOneNeverEnter) {
     EXPECT_EQ(record.RecentNext, 2);
 }
 
-TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDate) {
+TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDateDeliberately) {
     record = Filled(3);
     record.AddToRecent(u"c:\\F2.TBX", 0, {2026, 11, 21, 9, 7, 0});
     EXPECT_EQ(record.RecentEntries[2], u"c:\\F2.TBX | 0*2026.11.21   09:07");
@@ -68,7 +68,7 @@ TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDate) {
     EXPECT_EQ(record.RecentNext, 4);
 }
 
-TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirst) {
+TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirstDeliberately) {
     record.RecentEntries[1] = LineOf(u"C:\\a.tbx.bak");
     record.RecentEntries[2] = LineOf(u"C:\\a.tbx");
     record.RecentNext = 3;
@@ -77,7 +77,7 @@ TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirst) {
     EXPECT_EQ(record.RecentEntries[2], LineOf(u"C:\\a.tbx"));
 }
 
-TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed) {
+TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversedDeliberately) {
     record = Filled(71);
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     EXPECT_EQ(record.RecentNext, 73);
@@ -91,7 +91,7 @@ TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed
         EXPECT_EQ(record.RecentEntries[i], u"") << i;
 }
 
-TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnew) {
+TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnewDeliberately) {
     record = Filled(72);
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     // Entry 73 was empty; 72 to 66 follow it. The new file takes its place, without making room.
@@ -117,6 +117,31 @@ TEST_F(RecentRecordTest, AFullRecordIsTrimmedAlsoWhenTheFileIsInIt) {
     EXPECT_EQ(record.RecentEntries[2], PathOf(71) + u" | 0*2026.11.21   09:07");
     EXPECT_EQ(record.RecentEntries[8], LineOf(PathOf(65)));
     EXPECT_EQ(record.RecentEntries[9], u"");
+}
+
+TEST_F(RecentRecordTest, ARecordOf70EntriesTakesOneMoreAsUsual) {
+    record = Filled(70);
+    record.AddToRecent(u"C:\\new.tbx", 0, kNow);
+    EXPECT_EQ(record.RecentNext, 72);
+    EXPECT_EQ(record.RecentEntries[1], LineOf(u"C:\\new.tbx"));
+    for (int i = 1; i <= 70; ++i)
+        EXPECT_EQ(record.RecentEntries[static_cast<std::size_t>(i + 1)], LineOf(PathOf(i)));
+}
+
+TEST_F(RecentRecordTest, LettersWithAccentsFoldTheirCaseToo) {
+    record.AddToRecent(u"C:\\B\u00DCCHER.tbx", 0, kNow);
+    record.AddToRecent(u"C:\\b\u00FCcher.tbx", 0, kNow);
+    EXPECT_EQ(record.RecentNext, 2);
+    record.AddToRecent(u"C:\\bucher.tbx", 0, kNow);
+    EXPECT_EQ(record.RecentNext, 3);
+}
+
+TEST_F(RecentRecordTest, EmptyingAndForgettingLeaveTheCount) {
+    record = Filled(3);
+    record.Forget(PathOf(2));
+    EXPECT_EQ(record.RecentNext, 4);
+    record.Empty();
+    EXPECT_EQ(record.RecentNext, 4);
 }
 
 TEST_F(RecentRecordTest, ReadsLinesFromOneOn) {

@@ -13,7 +13,7 @@ protected:
     TestProgram p;
 };
 
-TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothing) {
+TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothingDeliberately) {
     p.StartWith({});
     for (const Command& command : Commands()) {
         if (command.target == CommandTarget::Tab) p.Main().RunCommand(command.name);
@@ -44,7 +44,7 @@ TEST_F(Routing, ACommandReachesTheTabThatIsActiveAtTheTime) {
     EXPECT_EQ(p.FileBytes(u"C:\\a.tbx"), NameTable(u"C:\\a.tbx", {"A"}));
 }
 
-TEST_F(Routing, DesignMakesItsOwnTabAlsoWhereNoneIsOpen) {
+TEST_F(Routing, DesignAndImportMakeTheirOwnTabWhichStaysWhenTheyFailDeliberately) {
     p.StartWith({});
     p.OpenNewTab();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
@@ -68,7 +68,7 @@ TEST_F(Routing, ADesignFillsTheTabThatItMade) {
     p.Tab(2).Table().TableAltered = 0;
 }
 
-TEST_F(Routing, SaveAllRewritesEveryTabAndListsAll) {
+TEST_F(Routing, SaveAllRewritesUnalteredTabsTooAndListsAllDeliberately) {
     for (const char* name : {"a", "b", "c", "d"}) {
         const Text path = u"C:\\" + FromAscii(name) + u".tbx";
         p.AddTable(path, {name});
@@ -197,14 +197,57 @@ TEST_F(Routing, AltBTellsABrowserThatIsntThereAndLeavesTheSettingAlone) {
     EXPECT_TRUE(p.shell.Starts().empty());
 }
 
-TEST_F(Routing, TheBrowserOfTheMenuIsTheFirstOfTheWebsiteList) {
+TEST_F(Routing, TheBrowserOfTheMenuIsAnotherThanThatOfTheKeyInItsCaptionDeliberately) {
     p.files.AddFile(u"C:\\Web\\first.exe");
     Settings settings;
     settings.WebListA = u"C:\\Web\\first.exe";
     settings.CustomBrowserPath = u"C:\\Web\\fox.exe";
     p.StartWith(settings);
     p.Choose("mnuMisc_Browser");
-    EXPECT_EQ(p.shell.Starts(), (std::vector<ProgramStart>{{u"C:\\Web\\first.exe"}}));
+    p.Main().iGridListBar.ClickCell(Row{14}, Col{1});
+    const ProgramStart first{u"C:\\Web\\first.exe"};
+    EXPECT_EQ(p.shell.Starts(), (std::vector<ProgramStart>{first, first}));
+}
+
+TEST_F(Routing, AltBTellsThePathOfABrowserThatIsGone) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    Settings settings;
+    settings.CustomBrowserPath = u"C:\\Web\\fox.exe";
+    p.StartWith(settings, u"C:\\a.tbx");
+    p.user.Answer({u"Cannot locate the following program/file:\r\n\r\nC:\\Web\\fox.exe\r\n\r\n"
+                   u"Check the path before the name and see whether\r\n"
+                   u"the program/file exists on your hard disk.",
+                   MessageIcon::Stop},
+                  Answer::Ok);
+    p.PressKey('B', Mask::Alt);
+    EXPECT_TRUE(p.shell.Starts().empty());
+}
+
+TEST_F(Routing, TheFixedToolsStartFromTheirPlaces) {
+    const Text abrill = u"C:\\Drive_G\\Sandrel\\Abrill\\Abrill.exe";
+    const Text dunmark = u"C:\\Drive_G\\Sandrel\\Dunmark\\Dunmark.exe";
+    const Text ostrel = u"C:\\Drive_G\\TolmereSet\\Ostrel\\Ostrel.exe";
+    const Text veldan = u"C:\\Drive_G\\TolmereSet\\Veldan\\Veldan.exe";
+    for (const Text& path : {abrill, dunmark, ostrel, veldan})
+        p.files.AddFile(path);
+    p.StartWith({});
+    p.PressKey(Key::F1, Mask::Ctrl | Mask::Shift);
+    p.PressKey(Key::F1);
+    p.Main().iGridListBar.ClickCell(Row{11}, Col{1});
+    p.Main().iGridListBar.ClickCell(Row{12}, Col{1});
+    EXPECT_EQ(p.shell.Starts(),
+              (std::vector<ProgramStart>{
+                  {abrill}, {dunmark, {u"C:\\Korvane\\Korvane_Help.rtf"}}, {ostrel}, {veldan}}));
+}
+
+TEST_F(Routing, AFailureInsideACommandOfATabLeavesTheRestOfTheProgramAlone) {
+    p.AddTable(u"C:\\a.tbx", {"a"});
+    p.StartWith({}, u"C:\\a.tbx");
+    p.files.Erase(u"C:\\a.tbx");
+    p.user.Answer(Answer::Ok);
+    p.user.CancelChooser();
+    p.PressKey('S', Mask::Ctrl);
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
 }
 
 TEST_F(Routing, TheActiveFolderStandsInTheCaptionOfTheTab) {

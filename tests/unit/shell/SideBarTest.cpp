@@ -74,7 +74,7 @@ TEST_F(SideBarTest, SpaceAndReturnRunTheCurrentRowAndAreSwallowed) {
     EXPECT_EQ(p.shell.Calls()[1].kind, toggled.kind);
 }
 
-TEST_F(SideBarTest, OtherKeysPass) {
+TEST_F(SideBarTest, KeysOfTheGridDoNothingInIt) {
     Start();
     p.OpenNewTab();
     EXPECT_FALSE(p.PressSideBarKey('V', Mask::Ctrl | Mask::Alt));

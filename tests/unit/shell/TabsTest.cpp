@@ -21,7 +21,7 @@ protected:
     TestProgram p;
 };
 
-TEST_F(TabsTest, ANewTabIsUntitledByItsSlot) {
+TEST_F(TabsTest, ANewTabIsUntitledByItsSlotDeliberately) {
     Start(2);
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
     EXPECT_EQ(p.AllTabs().TabState[2].Path, u"Untitled_2.tbx");
@@ -69,7 +69,7 @@ TEST_F(TabsTest, ATabThatClosesFromItsOwnHandlerLivesToTheEndOfIt) {
     EXPECT_EQ(tab.Caption.Get(), u"Untitled_1.tbx");
 }
 
-TEST_F(TabsTest, TheNextTabIsTheNextSlotWhateverTheStripShows) {
+TEST_F(TabsTest, TheNextTabIsTheNextSlotWhateverTheStripShowsDeliberately) {
     Start(3);
     CloseTab(1);
     p.AllTabs().AddNewTab();
@@ -136,15 +136,39 @@ TEST_F(TabsTest, SwitchingLetsPendingMessagesRunFirst) {
     EXPECT_EQ(ActiveSlot(), 1);
 }
 
-TEST_F(TabsTest, ThePaperSizeIsLookedUpByTheSettingsName) {
+TEST_F(TabsTest, ThePaperSizeIsLookedUpByTheSettingsNameForNobodyDeliberately) {
+    struct Case {
+        TextView name;
+        int width;
+        int height;
+    };
+    const std::vector<Case> cases{
+        {u"A4", 11906, 16837},
+        {u"A4_Landscape", 16837, 11906},
+        {u"A5", 8418, 11906},
+        {u"A5_Landscape", 11906, 8418},
+        {u"B5", 9978, 14174},
+        {u"LETTER", 12240, 15840},
+        {u"LETTER_Landscape", 15840, 12240},
+        {u"LEGAL", 12240, 20160},
+        // Any other name leaves the two as they are; "0" is what the settings make of every name.
+        {u"0", 12240, 20160},
+        {u"a4", 12240, 20160},
+    };
     Start(0);
-    p.app.Settings.PageSizeName = u"A5_Landscape";
+    for (const Case& size : cases) {
+        p.app.Settings.PageSizeName = Text(size.name);
+        p.AllTabs().AddNewTab();
+        EXPECT_EQ(p.AllTabs().PageWidth, size.width) << ToUtf8(size.name);
+        EXPECT_EQ(p.AllTabs().PageHeight, size.height) << ToUtf8(size.name);
+    }
+}
+
+TEST_F(TabsTest, AfterTheFirstOfTwoTabsIsClosedTheNextOneHasItsNumber) {
+    Start(2);
+    CloseTab(1);
     p.AllTabs().AddNewTab();
-    EXPECT_EQ(p.AllTabs().PageWidth, 11906);
-    EXPECT_EQ(p.AllTabs().PageHeight, 8418);
-    p.app.Settings.PageSizeName = u"0";
-    p.AllTabs().AddNewTab();
-    EXPECT_EQ(p.AllTabs().PageWidth, 11906);
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_2.tbx", u"Untitled_1.tbx"}));
 }
 
 TEST_F(TabsTest, TheCrossOfATabClosesIt) {

@@ -565,6 +565,8 @@ TEST_F(FileListTest, KeysOfTheListAreWithoutModifiers) {
 }
 
 TEST_F(FileListTest, WithoutAViewerAndPickersTheirCommandsDoNothing) {
+    p.app.FontPicker = nullptr;
+    p.app.ColourPicker = nullptr;
     InList([](frmFileList& f) {
         for (CommandButton* button : {&f.cmdViewFile, &f.cmdFont, &f.cmdColour})
             button->Press();
