@@ -10,6 +10,7 @@
 #include "platform/qt/QtSystemFileDialog.h"
 #include "platform/qt/QtSystemFolders.h"
 #include "platform/qt/desktop/QtShell.h"
+#include "text/ClipboardWindow.h"
 
 #include <QString>
 
@@ -38,6 +39,7 @@ private:
     QtFilePicker filePicker_;
     QtSystemFileDialog systemFileDialog_;
     App app_;
+    ClipboardWindow clipboardWindow_{app_};
 };
 
 } // namespace korvane

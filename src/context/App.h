@@ -92,6 +92,9 @@ public:
     korvane::Settings Settings;
     /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.
     std::int16_t DialogResult = 0;
+    /// 1 while the text window stands open. Who asks for the clipboard's contents himself sets it to 0
+    /// meanwhile.
+    std::int16_t TextWindowOpen = 0;
     /// 1 while the closing question of a tab runs its save.
     std::int16_t ClosingTabSave = 0;
     /// What is to become of an altered file, and which file that is: the question of `frmMyMsgBox`.

@@ -112,6 +112,8 @@ public:
         Text name{};
         /// What a chosen name without an extension gets ("xls"); empty for nothing.
         Text defaultExtension{};
+        /// Where the dialog starts; empty for where it was left.
+        Text folder{};
 
         bool operator==(const Request&) const = default;
     };

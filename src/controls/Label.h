@@ -18,6 +18,8 @@ class Panel : public Control {
 public:
     using Control::Control;
 
+    /// Stands in the border of a frame; other panels show none.
+    Property<Text> Caption{*this, Aspect::Caption};
     /// `kNoColour` leaves it to the look of the window.
     Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
 };

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDialog>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -54,7 +55,7 @@ WidgetT* Add(QWidget& window, const char* name) {
 std::unique_ptr<QWidget> MakeEveryKind() {
     auto window = std::make_unique<QDialog>();
     window->resize(300, 200);
-    QWidget& frame = *Add<QWidget>(*window, "Frame1");
+    QWidget& frame = *Add<QGroupBox>(*window, "Frame1");
     Add<QLabel>(frame, "lblName");
     Add<QPushButton>(frame, "cmdGo");
     Add<QCheckBox>(frame, "chkYes");
@@ -127,6 +128,11 @@ TEST_F(FormBinderTest, EnabledVisibleAndFontReachTheWidget) {
     EXPECT_TRUE(Widget<QLabel>("lblName").font().bold());
     form.cmdTool.Enabled = false;
     EXPECT_FALSE(Widget<QAction>("cmdTool").isEnabled());
+}
+
+TEST_F(FormBinderTest, AFrameShowsItsCaption) {
+    form.Frame1.Caption = u"> plain text <";
+    EXPECT_EQ(Widget<QGroupBox>("Frame1").title(), QString("> plain text <"));
 }
 
 TEST_F(FormBinderTest, APanelHidesWhatItHolds) {
@@ -248,6 +254,25 @@ TEST_F(FormBinderTest, TheSelectionOfALineGoesBothWays) {
     line.setCursorPosition(4);
     EXPECT_EQ(form.txtLine.SelStart, 4);
     EXPECT_EQ(form.txtLine.SelLength, 0);
+}
+
+TEST_F(FormBinderTest, ALockedTextCanBeSelectedByKeyboard) {
+    form.txtLines.Text = u"one\r\ntwo";
+    form.txtLines.Locked = true;
+    auto& lines = Widget<QPlainTextEdit>("txtLines");
+    lines.setFocus();
+    QTest::keyClick(&lines, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(form.txtLines.SelText(), u"one\r\ntwo");
+    form.txtLines.Locked = false;
+    EXPECT_FALSE(lines.isReadOnly());
+}
+
+TEST_F(FormBinderTest, OfAVeryLongTextThatIsLockedTheStartIsShown) {
+    form.txtLines.Locked = true;
+    form.txtLines.Text = Text(100'001, u'x');
+    auto& lines = Widget<QPlainTextEdit>("txtLines");
+    EXPECT_EQ(lines.toPlainText().size(), 100'000);
+    EXPECT_EQ(form.txtLines.Text.Get().size(), 100'001u);
 }
 
 TEST_F(FormBinderTest, ALockedFieldCannotBeTypedInto) {

@@ -172,6 +172,24 @@ TEST_F(ListsTest, AListWithColumnsShowsItsRows) {
     EXPECT_EQ(list.currentItem(), &Row(1));
 }
 
+TEST_F(ListsTest, LinesAreDrawnAroundTheCellsWhereTheyAreWanted) {
+    form.ListView1.Add({u"a", {u"a.txt", u"12"}});
+    test::Settle();
+    auto& list = Widget<QTreeWidget>("ListView1");
+    const QRect cell = list.visualItemRect(&Row(0));
+    const auto borderAndInside = [&] {
+        const QImage picture = list.viewport()->grab().toImage();
+        return std::pair(picture.pixel(cell.center().x(), cell.bottom()),
+                         picture.pixel(cell.center().x(), cell.bottom() - 1));
+    };
+    const auto plain = borderAndInside();
+    EXPECT_EQ(plain.first, plain.second);
+    form.ListView1.GridLines = true;
+    const auto lined = borderAndInside();
+    EXPECT_NE(lined.first, plain.first);
+    EXPECT_EQ(lined.second, plain.second);
+}
+
 TEST_F(ListsTest, AListWithColumnsTellsWhatTheUserDoes) {
     auto& list = Widget<QTreeWidget>("ListView1");
     form.ListView1.CheckBoxes = true;

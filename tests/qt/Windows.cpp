@@ -18,6 +18,7 @@
 #include "shell/frmWindowSize.h"
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
+#include "text/frmViewAndPaste.h"
 
 namespace korvane {
 
@@ -83,6 +84,7 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmTxtInfo>(all.app, all.facts);
      }},
+    {"frmViewAndPaste", FromApp<frmViewAndPaste>},
     {"frmViewCell",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmViewCell>(all.app, all.cell);

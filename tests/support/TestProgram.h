@@ -5,6 +5,7 @@
 #include "shell/frmMDIParent.h"
 #include "support/TableBytes.h"
 #include "support/TestApp.h"
+#include "text/ClipboardWindow.h"
 
 #include <memory>
 #include <optional>
@@ -59,6 +60,7 @@ private:
     /// Whether a menu entry has the key; it has been chosen then.
     bool ChooseByKey(const KeyEvent& key);
 
+    ClipboardWindow clipboardWindow_{app};
     std::unique_ptr<frmMDIParent> main_;
 };
 

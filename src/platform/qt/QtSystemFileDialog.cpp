@@ -25,6 +25,7 @@ void SetUp(QFileDialog& dialog, const SystemFileDialog::Request& request) {
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilters(FileNameFilters(request.filter));
     dialog.setDefaultSuffix(ToQString(request.defaultExtension));
+    if (!request.folder.empty()) dialog.setDirectory(ToQString(request.folder));
     OfferName(dialog, ToQString(request.name));
 }
 

@@ -3,6 +3,7 @@
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/Convert.h"
 
+#include <QGroupBox>
 #include <QPushButton>
 #include <functional>
 
@@ -97,6 +98,15 @@ LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget) : AdaptorOf(label, widg
 
 void LabelAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption) widget_.setText(ToLines(control_.Caption.Get()));
+    AdaptorOf::Write(aspect);
+}
+
+void PanelAdaptor::Write(Aspect aspect) {
+    auto* frame = qobject_cast<QGroupBox*>(&widget_);
+    const Text& caption = control_.Caption;
+    // Without a caption of its own a frame keeps the title that its look has.
+    if (aspect == Aspect::Caption && frame != nullptr && !caption.empty())
+        frame->setTitle(ToQString(caption));
     AdaptorOf::Write(aspect);
 }
 

@@ -56,6 +56,9 @@ protected:
 class PanelAdaptor : public AdaptorOf<Panel, QWidget> {
 public:
     using AdaptorOf::AdaptorOf;
+
+protected:
+    void Write(Aspect aspect) override;
 };
 
 class SliderAdaptor : public AdaptorOf<Slider, QAbstractSlider> {

@@ -11,6 +11,10 @@ namespace korvane {
 
 namespace {
 
+/// So much of a text that nobody can change is shown: the toolkit lays out all it gets, and a user doesn't
+/// read more.
+constexpr std::size_t kMostToRead = 100'000;
+
 /// Colours of its own for a field; without one it goes with its window.
 void WriteBackColour(QWidget& field, Colour back) {
     if (back == kNoColour) return field.setPalette(QPalette());
@@ -82,13 +86,20 @@ void LinesAdaptor::Write(Aspect aspect) {
     const QScopedValueRollback guard(writing_, true);
     if (aspect == Aspect::Text) WriteText();
     if (aspect == Aspect::Selection && !reading_) WriteSelection();
-    if (aspect == Aspect::Enabled) widget_.setReadOnly(control_.Locked);
+    if (aspect == Aspect::Enabled) WriteLocked();
     if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor);
     AdaptorOf::Write(aspect);
 }
 
+void LinesAdaptor::WriteLocked() {
+    // What can't be written can be selected and copied all the same, by keyboard too.
+    constexpr auto kReading = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
+    widget_.setTextInteractionFlags(control_.Locked ? kReading : Qt::TextEditorInteraction);
+}
+
 void LinesAdaptor::WriteText() {
-    const QString lines = ToLines(control_.Text.Get());
+    const TextView text = control_.Text.Get();
+    const QString lines = ToLines(control_.Locked ? text.substr(0, kMostToRead) : text);
     if (DocumentText(*widget_.document()) != lines) widget_.setPlainText(lines);
 }
 

@@ -24,7 +24,8 @@ private:
     bool writing_ = false;
 };
 
-/// A text box of several lines: CR LF in the control, LF in the widget.
+/// A text box of several lines: CR LF in the control, LF in the widget, which shows the start alone of a very
+/// long text that is locked.
 class LinesAdaptor : public AdaptorOf<TextBox, QPlainTextEdit> {
 public:
     LinesAdaptor(TextBox& box, QPlainTextEdit& widget);
@@ -36,6 +37,7 @@ private:
     void ReadText();
     /// `text` is what the widget holds, which the control may not yet know.
     void ReadSelection(TextView text);
+    void WriteLocked();
     void WriteText();
     void WriteSelection();
     bool reading_ = false;

@@ -56,6 +56,7 @@ void RenderDialogs(Album& album, Stage& stage) {
         const auto form = window.make(stage.All());
         form->EnsureLoaded();
         form->Show();
+        form->Activate();
         PutWindow(album, QString::fromStdString(form->Name()), *stage.Host().WidgetOf(*form));
         form->Close();
         Stage::Settle();

@@ -57,6 +57,8 @@ void Stage::FillFiles() {
 
 void Stage::FillRequests() {
     const Text path = InData(kSamples[0]);
+    outside_.clipboard.SetText(u"Title\tAuthor\tYear\r\nThe garden of letters\tMarie Brook\t1987\r\n"
+                               u"Notes on a river\tH. Lindqvist\t2004\r\n");
     app_.MsgFilePath = path;
     app_.InputCaption = u"Enter new name of column";
     app_.InputInitial = u"Title";

@@ -1,4 +1,5 @@
 #include "support/TestProgram.h"
+#include "text/frmViewAndPaste.h"
 
 #include <gtest/gtest.h>
 
@@ -108,8 +109,9 @@ TEST_F(TabTest, CtrlAltXExploresTheCurrentDirectoryWhereTheFolderIsGone) {
     EXPECT_EQ(p.shell.Calls().at(1).argument, u"C:\\");
 }
 
-TEST_F(TabTest, KeysWhoseCommandIsntThereAreSwallowedWithoutEffect) {
+TEST_F(TabTest, CtrlAltVShowsTheClipboardAndLeavesTheTableAlone) {
     Start();
+    p.user.On<frmViewAndPaste>([](frmViewAndPaste& view) { view.Close(); });
     EXPECT_TRUE(p.PressKey('V', Mask::Ctrl | Mask::Alt));
     EXPECT_EQ(Tab().Table().TableAltered, 0);
 }

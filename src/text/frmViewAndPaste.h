@@ -1,0 +1,85 @@
+#pragma once
+
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "controls/ListBox.h"
+#include "controls/Menu.h"
+#include "controls/TextBox.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace korvane {
+
+class App;
+
+/// What the clipboard holds, in three renderings on one spot. Modal; `DialogResult` is 1 when the user
+/// retrieved the contents. They go into the text window if that stands open, else the caller reads them from
+/// the clipboard.
+class frmViewAndPaste : public Form {
+public:
+    /// The App outlives the window.
+    explicit frmViewAndPaste(App& app);
+
+    Menu OfficeMenu1;
+    /// The commands of the window. Return and a double click run the current one.
+    ListBox iGridListBar{*this, "iGridListBar"};
+    /// Holds the renderings; its caption names the one that is seen.
+    Panel Frame1{*this, "Frame1"};
+    /// Goes with the colour of the rendering that is seen.
+    Label lblLeftMargin{*this, "lblLeftMargin"};
+    TextBox TXTextControl1{*this, "TXTextControl1"};
+    TextBox RichTextBox1{*this, "RichTextBox1"};
+    TextBox Text1{*this, "Text1"};
+    /// Never seen: takes the contents before the renderings do.
+    TextBox TmpTextCtrl{*this, "TmpTextCtrl"};
+
+    /// Which rendering is seen: 0 full and 1 simple formatted text, 2 plain text. Any other value counts as
+    /// 0.
+    std::int16_t ClipViewMode = 2;
+
+    void Load() override;
+    void Activate() override;
+    void Unload() override;
+    void KeyDown(KeyEvent& key) override;
+
+private:
+    using Handler = void (frmViewAndPaste::*)();
+    struct Command {
+        /// In the menu.
+        std::string_view entry;
+        /// In the list on the left; empty for a command that is in the menu alone.
+        TextView listed;
+        Handler run;
+    };
+    struct Rendering {
+        TextBox frmViewAndPaste::*view;
+        TextView caption;
+    };
+    static const Command kCommands[];
+    static const Rendering kRenderings[];
+
+    const Rendering& Current() const;
+    void FillList();
+    void FillRenderings();
+    void ShowMode();
+    void RunListed();
+    void PutIntoTextWindow();
+
+    void iGridListBar_KeyDown(KeyEvent& key);
+    void mnuRetrieve_Click();
+    void mnuToggle_Click();
+    void mnuClipViewer_Click();
+    void mnuSave_Click();
+    void mnuPinsey_Click();
+    void mnuYourProgram_Click();
+    void mnuExplorer_Click();
+    void mnuBrowser_Click();
+    void mnuDesktop_Click();
+    void mnuExit_Click() { Close(); }
+
+    App& app_;
+    bool activated_ = false;
+};
+
+} // namespace korvane

@@ -1,0 +1,81 @@
+#include "text/ClipboardWindow.h"
+
+#include "support/TestApp.h"
+#include "text/frmViewAndPaste.h"
+#include "unit/text/FakeTextPorts.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+class ClipboardWindowTest : public testing::Test {
+protected:
+    ClipboardWindowTest() { t.clipboard.SetText(u"some text"); }
+    void UserRetrieves() {
+        t.user.On<frmViewAndPaste>([](frmViewAndPaste& f) {
+            f.Activate();
+            f.OfficeMenu1.Choose("mnuRetrieve");
+        });
+    }
+    void UserCloses() {
+        t.user.On<frmViewAndPaste>([](frmViewAndPaste& f) {
+            f.Activate();
+            f.Close();
+        });
+    }
+
+    TestApp t;
+    FakeTextWindow textWindow{t.app};
+    ClipboardWindow window{t.app};
+};
+
+TEST_F(ClipboardWindowTest, AnswersTheProgram) {
+    EXPECT_EQ(t.app.ClipboardView, &window);
+    { const ClipboardWindow other(t.app); }
+    EXPECT_EQ(t.app.ClipboardView, nullptr);
+}
+
+TEST_F(ClipboardWindowTest, ShowTellsByTheResultWhetherTheContentsWereRetrieved) {
+    UserRetrieves();
+    window.Show();
+    EXPECT_EQ(t.app.DialogResult, 1);
+    UserCloses();
+    window.Show();
+    EXPECT_EQ(t.app.DialogResult, 0);
+}
+
+TEST_F(ClipboardWindowTest, ShowWritesToTheTextWindowThatStandsOpen) {
+    t.app.TextWindowOpen = 1;
+    UserRetrieves();
+    window.Show();
+    EXPECT_EQ(textWindow.inserted, std::vector<Text>{u"some text"});
+}
+
+TEST_F(ClipboardWindowTest, AChoiceLeavesTheContentsToTheCallerAlsoWithATextWindowOpen) {
+    t.app.TextWindowOpen = 1;
+    std::int16_t during = -1;
+    t.user.On<frmViewAndPaste>([&](frmViewAndPaste& f) {
+        during = t.app.TextWindowOpen;
+        f.Activate();
+        f.OfficeMenu1.Choose("mnuRetrieve");
+    });
+    EXPECT_TRUE(window.Choose());
+    EXPECT_EQ(during, 0);
+    EXPECT_EQ(t.app.TextWindowOpen, 1);
+    EXPECT_TRUE(textWindow.inserted.empty());
+}
+
+TEST_F(ClipboardWindowTest, AClosedChoiceIsNone) {
+    UserCloses();
+    EXPECT_FALSE(window.Choose());
+}
+
+TEST_F(ClipboardWindowTest, AChoiceClosedBeforeItWasSeenIsNone) {
+    t.app.DialogResult = 1;
+    t.user.On<frmViewAndPaste>([](frmViewAndPaste& f) { f.Close(); });
+    EXPECT_FALSE(window.Choose());
+}
+
+} // namespace
+} // namespace korvane

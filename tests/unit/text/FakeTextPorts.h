@@ -1,0 +1,47 @@
+#pragma once
+
+#include "context/App.h"
+#include "context/Ports.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+/// Takes down what was put into the text window.
+class FakeTextWindow final : public TextWindow {
+public:
+    explicit FakeTextWindow(App& app) { app.TextWindow = this; }
+    std::vector<Text> inserted;
+
+    void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
+};
+
+/// Knows the folder of its tab, and remembers what it was to run.
+class FakeMainWindow final : public MainWindow {
+public:
+    explicit FakeMainWindow(App& app) { app.MainWindow = this; }
+    Text folder;
+    std::vector<std::string> commands;
+
+    void mnuSwitchFocus_Click() override {}
+    void ShowPopupMenu() override {}
+    void RunCommand(std::string_view name) override { commands.emplace_back(name); }
+    Text GetActiveFolder() override { return folder; }
+};
+
+/// Chooses a file, or nothing, and remembers what it was asked.
+class FakeSystemFileDialog final : public SystemFileDialog {
+public:
+    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
+    std::optional<Text> answer;
+    std::vector<Request> requests;
+
+    std::optional<Text> Choose(const Request& request) override {
+        requests.push_back(request);
+        return answer;
+    }
+};
+
+} // namespace korvane
