@@ -32,6 +32,7 @@ public:
 class NoHost final : public TableHost {
 public:
     void ShowRowHeight(std::int16_t) override {}
+    Text TabCaption() const override { return {}; }
     void SetTabCaption(TextView) override {}
     void ClearDirty() override {}
 };

@@ -25,6 +25,7 @@ constexpr std::size_t kChunk = 64;
 class NoHost final : public TableHost {
 public:
     void ShowRowHeight(std::int16_t) override {}
+    Text TabCaption() const override { return {}; }
     void SetTabCaption(TextView) override {}
     void ClearDirty() override {}
 };

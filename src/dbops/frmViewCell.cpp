@@ -1,5 +1,6 @@
 #include "dbops/frmViewCell.h"
 
+#include "common/LineEnds.h"
 #include "context/App.h"
 #include "context/Ports.h"
 #include "context/WindowFitting.h"
@@ -155,7 +156,7 @@ void frmViewCell::cmdOk_Click() {
 
 void frmViewCell::cmdClipboard_Click() {
     if (app_.ClipboardView == nullptr || !app_.ClipboardView->Choose()) return;
-    txtCell.SetSelText(app_.Clipboard().GetText());
+    txtCell.SetSelText(WithCrLf(app_.Clipboard().GetText()));
 }
 
 void frmViewCell::cmdWordList_Click() {

@@ -6,6 +6,7 @@
 #include "dbops/TabCommands.h"
 #include "platform/FileSystem.h"
 #include "table/DesignCommand.h"
+#include "table/ImportCommand.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"
 #include "table/TableFile.h"
@@ -51,6 +52,7 @@ constexpr std::array kTabCommands{
     NamedCommand{"mnuFile_SaveAs_Clack", &mnuFile_SaveAs_Clack},
     NamedCommand{"mnuFile_FileInfo_Clack", &mnuFile_FileInfo_Clack},
     NamedCommand{"mnuEdit_DesignDb_Clack", &mnuEdit_DesignDb_Clack},
+    NamedCommand{"mnuImport_Clip_Clack", &mnuImport_Clip_Clack},
     NamedCommand{"mnuSidebarWidth_Clack", &mnuSidebarWidth_Clack},
     NamedCommand{"mnuWindowSize_Clack", &mnuWindowSize_Clack},
     NamedCommand{"mnuFile_Exit_Clack", &mnuFile_Exit_Clack},

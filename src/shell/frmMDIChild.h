@@ -62,6 +62,7 @@ private:
 
     void ShowRowHeight(std::int16_t height) override;
     Twips GridWidth() const override { return iGrid1.ShownWidth; }
+    Text TabCaption() const override { return Caption; }
     void SetTabCaption(TextView caption) override;
     void ClearDirty() override;
 

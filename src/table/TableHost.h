@@ -13,6 +13,7 @@ public:
     virtual ~TableHost() = default;
     /// Sets the slider and the box of the row height.
     virtual void ShowRowHeight(std::int16_t height) = 0;
+    virtual Text TabCaption() const = 0;
     virtual void SetTabCaption(TextView caption) = 0;
     /// How wide the grid is on the screen; 0 where none is shown.
     virtual Twips GridWidth() const { return {}; }

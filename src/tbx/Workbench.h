@@ -41,6 +41,7 @@ public:
 private:
     class NoTab final : public TableHost {
         void ShowRowHeight(std::int16_t) override {}
+        Text TabCaption() const override { return {}; }
         void SetTabCaption(TextView) override {}
         void ClearDirty() override {}
     };

@@ -16,6 +16,7 @@ namespace korvane {
 class RecordingTableHost final : public TableHost {
 public:
     void ShowRowHeight(std::int16_t height) override { shownRowHeights.push_back(height); }
+    Text TabCaption() const override { return captions.empty() ? Text() : captions.back(); }
     void SetTabCaption(TextView caption) override { captions.emplace_back(caption); }
     void ClearDirty() override { ++dirtyCleared; }
 

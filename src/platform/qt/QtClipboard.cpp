@@ -1,5 +1,6 @@
 #include "platform/qt/QtClipboard.h"
 
+#include "common/LineEnds.h"
 #include "platform/qt/Convert.h"
 
 #include <QClipboard>
@@ -10,9 +11,14 @@ namespace korvane {
 
 namespace {
 
-QString WithCrLf(QString text) {
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    return text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+/// On Windows the toolkit takes the CR out of line ends, which all programs there put in; elsewhere it hands
+/// out a text as it is.
+Text AsPutIn(const QString& text) {
+#ifdef Q_OS_WIN
+    return WithCrLf(ToText(text));
+#else
+    return ToText(text);
+#endif
 }
 
 } // namespace
@@ -23,7 +29,7 @@ bool QtClipboard::HasText() const {
 }
 
 Text QtClipboard::GetText() const {
-    return ToText(WithCrLf(QGuiApplication::clipboard()->text()));
+    return AsPutIn(QGuiApplication::clipboard()->text());
 }
 
 void QtClipboard::SetText(Text text) {

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The desktop's clipboard. What other programs put there with bare line feeds is read with CR LF.
+/// The desktop's clipboard. Texts come out with the line ends with which they were put in.
 class QtClipboard final : public Clipboard {
 public:
     bool HasText() const override;

@@ -41,6 +41,7 @@ public:
 
     void ShowRowHeight(std::int16_t height) override { heights.push_back(height); }
     Twips GridWidth() const override { return gridWidth; }
+    Text TabCaption() const override { return {}; }
     void SetTabCaption(TextView) override {}
     void ClearDirty() override {}
 };

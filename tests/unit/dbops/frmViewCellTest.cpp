@@ -295,6 +295,17 @@ TEST_F(ViewCell, RetrievedClipboardTextReplacesTheSelection) {
     EXPECT_EQ(view.offered, 3);
 }
 
+TEST_F(ViewCell, LinesThatEndInLfAloneInTheClipboardEndInCrLfInTheCell) {
+    FakeClipboardView view(t.app);
+    view.retrieves = true;
+    t.clipboard.SetText(u"a\nb\r\n");
+    Look([](frmViewCell& f) {
+        Select(f, 1, 1);
+        f.cmdClipboard.Press();
+        EXPECT_EQ(f.txtCell.Text.Get(), u"oa\r\nb\r\ne");
+    });
+}
+
 TEST_F(ViewCell, AClipboardThatIsNotRetrievedChangesNothing) {
     const FakeClipboardView view(t.app);
     t.clipboard.SetText(u"pasted");

@@ -2,6 +2,7 @@
 #include "support/TestProgram.h"
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
+#include "text/frmViewAndPaste.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +49,7 @@ TEST_F(Routing, DesignAndImportMakeTheirOwnTabWhichStaysWhenTheyFailDeliberately
     p.StartWith({});
     p.OpenNewTab();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
+    p.user.On<frmViewAndPaste>([](frmViewAndPaste& view) { view.Close(); });
     p.Choose("mnuImport_Clip");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
 }
@@ -66,6 +68,20 @@ TEST_F(Routing, ADesignFillsTheTabThatItMade) {
     EXPECT_EQ(p.Tab(2).txtRowHeight.Text.Get(), u"24");
     EXPECT_EQ(p.Tab(1).GridStore().ColCount(), Col{1});
     p.Tab(2).Table().TableAltered = 0;
+}
+
+TEST_F(Routing, AnImportFillsTheTabThatItMade) {
+    p.StartWith({});
+    p.clipboard.SetText(u"a\tb\nc\td\n");
+    p.user.On<frmViewAndPaste>([](frmViewAndPaste& view) {
+        view.Activate();
+        view.OfficeMenu1.Choose("mnuRetrieve");
+    });
+    p.user.Answer(Answer::Yes);
+    EXPECT_TRUE(p.PressKey(Key::F(1), Mask::Ctrl));
+    EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
+    EXPECT_EQ(p.Tab(1).GridStore().CellValue(Row{2}, Col{2}), u"d");
+    EXPECT_EQ(p.Tab(1).Table().TxtDbFile, u"Untitled_1.tbx");
 }
 
 TEST_F(Routing, SaveAllRewritesUnalteredTabsTooAndListsAllDeliberately) {

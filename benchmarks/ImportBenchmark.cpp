@@ -1,0 +1,69 @@
+#include "BenchProgram.h"
+#include "Contest.h"
+#include "context/Ports.h"
+#include "table/ImportCommand.h"
+
+#include <cstdlib>
+#include <memory>
+#include <string_view>
+
+namespace korvane::bench {
+
+namespace {
+
+constexpr int kLines = 30'000;
+constexpr int kCells = 12;
+
+/// 30,000 lines of 12 cells of 8 to 23 characters, as another program puts them into the clipboard.
+const Text& TabbedText() {
+    static const Text text = [] {
+        constexpr TextView kWords = u"Marlowe Street 14, second floor";
+        Text made;
+        for (int line = 0; line < kLines; ++line) {
+            for (int cell = 1; cell <= kCells; ++cell) {
+                made += kWords.substr(0, static_cast<std::size_t>(8 + (line * 7 + cell * 5) % 16));
+                made += cell < kCells ? u'\t' : u'\n';
+            }
+        }
+        return made;
+    }();
+    return text;
+}
+
+/// A user who retrieves whatever the clipboard holds.
+class Retrieving final : public ClipboardView {
+public:
+    void Show() override {}
+    bool Choose() override { return true; }
+};
+
+std::ptrdiff_t CountEnds(TextView text) {
+    std::ptrdiff_t ends = 0;
+    for (const char16_t character : text)
+        ends += character == u'\t' || character == u'\n';
+    return ends;
+}
+
+/// Floor: the clipboard's text, copied as the clipboard hands it out, and one look at each of its characters.
+void Import(benchmark::State& state) {
+    Retrieving view;
+    Contest contest(state);
+    for ([[maybe_unused]] auto _ : state) {
+        const auto program = std::make_unique<BenchProgram>();
+        program->clipboard.SetText(TabbedText());
+        program->app.ClipboardView = &view;
+        program->messages.QueueAnswer(Answer::Yes);
+        const double floor = SecondsOf([&program] {
+            const Text text = program->clipboard.GetText();
+            benchmark::DoNotOptimize(CountEnds(text));
+        });
+        contest.Round(floor, SecondsOf([&program] { mnuImport_Clip_Clack(program->tab); }));
+        if (program->grid.RowCount() != Row{kLines} || program->grid.ColCount() != Col{kCells}) std::abort();
+    }
+}
+
+BENCHMARK(Import)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+
+} // namespace
+
+} // namespace korvane::bench

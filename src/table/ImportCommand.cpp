@@ -1,0 +1,62 @@
+#include "table/ImportCommand.h"
+
+#include "common/Number.h"
+#include "context/App.h"
+#include "context/Ports.h"
+#include "platform/Clipboard.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+#include "table/NewTable.h"
+#include "table/SaveCommands.h"
+#include "table/TabContext.h"
+#include "table/TabbedText.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+
+namespace korvane {
+
+namespace {
+
+bool AskToImport(App& app) {
+    return app.Messages().Show({u"A new database with the clipboard contents will be made. Continue?",
+                                MessageIcon::Question, MessageButtons::YesNo}) == Answer::Yes;
+}
+
+/// Without check boxes, names of columns or a look of the model. Deliberate: a save writes for these what
+/// they held before.
+void FillGrid(Grid& grid, TextView text, bool sortOnHeaderClick) {
+    grid.GridBeginUpdate();
+    const Col columns = ColumnsOfTabbedText(text);
+    for (Col col{1}; col <= columns; ++col)
+        AddNewColumn(grid, col, u"Col. " + NumberText(col.Number()));
+    grid.SetRowCount(RowsOfTabbedText(text));
+    grid.SetSortOnHeaderClick(sortOnHeaderClick);
+    GiveNewTableLook(grid);
+    FillFromTabbedText(grid, text);
+    grid.GridEndUpdate();
+}
+
+void ImportClipboard(const TabContext& tab) {
+    App& app = tab.app;
+    TableModel& table = tab.table;
+    table.TxtDbFile = NewDatabaseFilePath(app.Files());
+    app.Screen().SetPointer(Pointer::Hourglass);
+    app.Screen().ProcessMessages();
+    const Text text = app.Clipboard().GetText();
+    // The new name goes at once, for the one that the tab shows. Deliberate: an import stays in its tab under
+    // its name.
+    table.TxtDbFile = tab.host.TabCaption();
+    FillGrid(table.GridStore(), text, app.Settings.AllowSorting == 1);
+    table.TableAltered = 1;
+    table.GridStore().GridSetFocus();
+    app.Screen().SetPointer(Pointer::Default);
+}
+
+} // namespace
+
+void mnuImport_Clip_Clack(const TabContext& tab) {
+    if (tab.app.ClipboardView == nullptr || !tab.app.ClipboardView->Choose()) return;
+    if (AskToSave(tab) && AskToImport(tab.app)) ImportClipboard(tab);
+}
+
+} // namespace korvane

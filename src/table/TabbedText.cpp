@@ -1,0 +1,55 @@
+#include "table/TabbedText.h"
+
+#include "platform/Grid.h"
+#include "table/NewTable.h"
+
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+/// Rows and columns are counted in 16 bits.
+constexpr std::ptrdiff_t kMaxCount = 32767;
+
+bool EndsCell(char16_t character) {
+    return character == u'\t' || character == u'\n';
+}
+
+int AtMostMaxCount(std::ptrdiff_t count) {
+    return static_cast<int>(std::min(count, kMaxCount));
+}
+
+} // namespace
+
+Col ColumnsOfTabbedText(TextView text) {
+    const TextView firstLine = text.substr(0, text.find(u'\n'));
+    return Col{AtMostMaxCount(std::ranges::count(firstLine, u'\t') + 1)};
+}
+
+Row RowsOfTabbedText(TextView text) {
+    const int unfinished = text.ends_with(u'\n') ? 0 : 1;
+    return Row{AtMostMaxCount(std::ranges::count(text, u'\n') + unfinished)};
+}
+
+void FillFromTabbedText(Grid& grid, TextView text) {
+    Row row{1};
+    Col col{1};
+    // Only a row that its line end closes gets its height, and the first one. Deliberate: an unfinished line
+    // keeps the height of the grid.
+    grid.SetRowHeight(row, kNewRowHeight);
+    const auto* cell = text.begin();
+    const auto* end = std::find_if(cell, text.end(), EndsCell);
+    for (; end != text.end() && grid.HasRow(row); end = std::find_if(cell, text.end(), EndsCell)) {
+        grid.SetCellValue(row, col, {cell, end});
+        cell = end + 1;
+        ++col;
+        if (*end == u'\t') continue;
+        grid.SetRowHeight(row, kNewRowHeight);
+        ++row;
+        col = Col{1};
+    }
+    if (cell != text.end() && end == text.end()) grid.SetCellValue(row, col, {cell, end});
+}
+
+} // namespace korvane
