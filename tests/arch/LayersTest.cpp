@@ -91,7 +91,8 @@ std::vector<Include> AllIncludes(const LevelTable& table) {
 }
 
 bool IsForeign(const Include& include) {
-    static const std::regex foreign(R"(Q[A-Z][A-Za-z]*|Qt[A-Z].*/.*|windows\.h|shlobj\.h|shellapi\.h)");
+    static const std::regex foreign(
+        R"(Q[A-Z][A-Za-z]*|Qt[A-Z].*/.*|windows\.h|shlobj\.h|shellapi\.h|shldisp\.h|objbase\.h|oleauto\.h)");
     return std::regex_match(include.header, foreign);
 }
 

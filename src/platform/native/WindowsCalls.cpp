@@ -1,10 +1,10 @@
 #include "platform/native/SystemCalls.h"
 
+#include <windows.h>
 #include <direct.h>
 #include <fcntl.h>
 #include <io.h>
 #include <sys/stat.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <array>

@@ -1,15 +1,20 @@
 #include "platform/windows/Win32CommandBox.h"
 
+#include "platform/windows/AnsiText.h"
+
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
 namespace korvane {
 
 namespace {
 
+constexpr const char* kStandInClass = "KorvaneStandIn";
 constexpr const char* kPictureBoxClass = "ThunderKorvanePictureBoxDC";
 constexpr const char* kTextBoxClass = "ThunderKorvaneTextBox";
+constexpr const char* kTitle = "Korvane";
 
 HWND ToHwnd(WindowHandle window) {
     return reinterpret_cast<HWND>(window);
@@ -23,15 +28,16 @@ void RegisterOnce(const char* className, WNDPROC procedure) {
     RegisterClassA(&windowClass);
 }
 
-HWND CreateChild(const char* className, HWND parent, void* owner) {
-    return CreateWindowExA(0, className, "", WS_CHILD, 0, 0, 0, 0, parent, nullptr, GetModuleHandleA(nullptr),
-                           owner);
+WindowHandle Create(const char* className, const char* title, WindowHandle parent, void* owner) {
+    const DWORD style = parent == kNoWindow ? WS_POPUP : WS_CHILD;
+    return reinterpret_cast<WindowHandle>(CreateWindowExA(
+        0, className, title, style, 0, 0, 0, 0, ToHwnd(parent), nullptr, GetModuleHandleA(nullptr), owner));
 }
 
-std::string OwnText(HWND window) {
+Text OwnText(HWND window) {
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
     text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
+    return FromAnsi(text);
 }
 
 } // namespace
@@ -43,35 +49,44 @@ struct Win32CommandBox::Procedure {
             SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(create->lpCreateParams));
         }
         const LRESULT result = DefWindowProcA(window, message, wParam, lParam);
-        if (message != WM_SETTEXT) return result;
         auto* box = reinterpret_cast<Win32CommandBox*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-        if (box) box->TextArrived();
+        if (box && message == WM_SETTEXT) box->TextArrived();
+        // The picture box goes, and this one with it.
+        if (box && message == WM_NCDESTROY) box->pictureBox_ = box->textBox_ = kNoWindow;
         return result;
     }
 };
 
-Win32CommandBox::Win32CommandBox(WindowHandle mainWindow, const CodePage& page)
-    : mainWindow_(mainWindow), page_(page) {}
-
 Win32CommandBox::~Win32CommandBox() {
-    // The text box goes with the picture box.
     if (pictureBox_ != kNoWindow) DestroyWindow(ToHwnd(pictureBox_));
+    CloseStandIn();
 }
 
 void Win32CommandBox::Open(std::function<void(TextView text)> changed) {
     changed_ = std::move(changed);
+    RegisterOnce(kStandInClass, DefWindowProcA);
     RegisterOnce(kPictureBoxClass, DefWindowProcA);
     RegisterOnce(kTextBoxClass, Procedure::Run);
-    const HWND pictureBox = CreateChild(kPictureBoxClass, ToHwnd(mainWindow_), nullptr);
-    pictureBox_ = reinterpret_cast<WindowHandle>(pictureBox);
-    textBox_ = reinterpret_cast<WindowHandle>(CreateChild(kTextBoxClass, pictureBox, this));
+    standIn_ = Create(kStandInClass, kTitle, kNoWindow, nullptr);
+    pictureBox_ = Create(kPictureBoxClass, "", standIn_, nullptr);
+    textBox_ = Create(kTextBoxClass, "", pictureBox_, this);
+}
+
+void Win32CommandBox::MoveTo(WindowHandle mainWindow) {
+    SetParent(ToHwnd(pictureBox_), ToHwnd(mainWindow));
+    CloseStandIn();
+}
+
+void Win32CommandBox::CloseStandIn() {
+    const WindowHandle window = std::exchange(standIn_, kNoWindow);
+    if (window != kNoWindow) DestroyWindow(ToHwnd(window));
 }
 
 /// Emptying the box sends the message once more, with a text that nobody needs to hear of.
 void Win32CommandBox::TextArrived() {
-    const std::string text = OwnText(ToHwnd(textBox_));
+    const Text text = OwnText(ToHwnd(textBox_));
     if (text.empty()) return;
-    changed_(page_.ToText(text));
+    changed_(text);
     SetWindowTextA(ToHwnd(textBox_), "");
 }
 

@@ -1,9 +1,10 @@
 #include "platform/windows/Win32WindowList.h"
 
+#include "platform/windows/AnsiText.h"
+
 #include <windows.h>
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace korvane {
@@ -58,11 +59,12 @@ private:
     bool others_ = false;
 };
 
-Win32WindowList::Win32WindowList() : mark_(std::make_unique<InstanceMark>()) {}
+Win32WindowList::Win32WindowList() = default;
 
 Win32WindowList::~Win32WindowList() = default;
 
 bool Win32WindowList::AnotherCopyRuns() {
+    if (!mark_) mark_ = std::make_unique<InstanceMark>();
     return mark_->WasThere();
 }
 
@@ -92,15 +94,21 @@ std::string Win32WindowList::ClassName(WindowHandle window, std::size_t room) co
     return name;
 }
 
-std::string Win32WindowList::WindowText(WindowHandle window, std::size_t room) const {
+Text Win32WindowList::WindowText(WindowHandle window, std::size_t room) const {
     std::string text(room, '\0');
     text.resize(
         static_cast<std::size_t>(GetWindowTextA(ToHwnd(window), text.data(), static_cast<int>(room))));
-    return text;
+    return FromAnsi(text);
 }
 
-std::intptr_t Win32WindowList::Send(WindowHandle window, unsigned message, const char* text) {
-    return SendMessageA(ToHwnd(window), message, 0, reinterpret_cast<LPARAM>(text));
+std::size_t Win32WindowList::TextLength(WindowHandle window) const {
+    const LRESULT length = SendMessageA(ToHwnd(window), WM_GETTEXTLENGTH, 0, 0);
+    return static_cast<std::size_t>(std::max<LRESULT>(length, 0));
+}
+
+bool Win32WindowList::SetText(WindowHandle window, TextView text) {
+    const std::string bytes = ToAnsi(text);
+    return SendMessageA(ToHwnd(window), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(bytes.c_str())) != 0;
 }
 
 void Win32WindowList::Activate(WindowHandle window) {

@@ -12,14 +12,16 @@ public:
     Win32WindowList();
     ~Win32WindowList() override;
 
+    /// From the first question on, until its end, this process counts as a copy for those that come later.
     bool AnotherCopyRuns() override;
     std::vector<WindowHandle> TopLevel() const override;
     bool IsOwn(WindowHandle window) const override;
     WindowHandle FirstChild(WindowHandle parent) const override;
     WindowHandle NextSibling(WindowHandle window) const override;
     std::string ClassName(WindowHandle window, std::size_t room) const override;
-    std::string WindowText(WindowHandle window, std::size_t room) const override;
-    std::intptr_t Send(WindowHandle window, unsigned message, const char* text) override;
+    Text WindowText(WindowHandle window, std::size_t room) const override;
+    std::size_t TextLength(WindowHandle window) const override;
+    bool SetText(WindowHandle window, TextView text) override;
     void Activate(WindowHandle window) override;
     void Rest() override;
 

@@ -1,6 +1,7 @@
 #include "platform/windows/WindowHandOver.h"
 
-#include <algorithm>
+#include "common/CaseFold.h"
+
 #include <string_view>
 
 namespace korvane {
@@ -10,44 +11,34 @@ namespace {
 constexpr std::string_view kClassPrefix = "Thunder";
 constexpr std::string_view kPictureBox = "PictureBoxDC";
 constexpr std::string_view kTextBox = "TextBox";
-constexpr std::string_view kTitle = "korvane";
+constexpr TextView kTitle = u"Korvane";
 
-char Lower(char byte) {
-    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
-}
-
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](char byte) { return Lower(byte); });
-    return lower;
-}
-
-using TitleTest = bool (*)(const std::string& lowerTitle);
+using TitleTest = bool (*)(TextView title);
 
 /// The first listed window whose title passes, or none.
 WindowHandle FindTitle(const std::vector<ListedWindow>& listed, TitleTest passes) {
     for (const ListedWindow& window : listed) {
-        if (passes(Lower(window.title))) return window.handle;
+        if (passes(window.title)) return window.handle;
     }
     return kNoWindow;
 }
 
-bool HoldsName(const std::string& title) {
-    return title.find(kTitle) != std::string::npos;
+bool HoldsName(TextView title) {
+    return ContainsIgnoringCase(title, kTitle);
 }
 
-bool IsName(const std::string& title) {
-    return title == kTitle;
+bool IsName(TextView title) {
+    return EqualIgnoringCase(title, kTitle);
 }
 
-bool BeginsWithName(const std::string& title) {
-    return title.starts_with(kTitle);
+bool BeginsWithName(TextView title) {
+    return EqualIgnoringCase(Left(title, kTitle.size()), kTitle);
 }
 
 } // namespace
 
-WindowHandOver::WindowHandOver(WindowList& windows, CommandBox& commandBox, const CodePage& page)
-    : windows_(windows), commandBox_(commandBox), page_(page) {}
+WindowHandOver::WindowHandOver(WindowList& windows, CommandBox& commandBox)
+    : windows_(windows), commandBox_(commandBox) {}
 
 bool WindowHandOver::FindReceiver() {
     const WindowHandle target = FindTitle(EnumerateWindows(windows_), HoldsName);
@@ -65,7 +56,7 @@ bool WindowHandOver::WaitUntilSlotEmpty() {
 }
 
 bool WindowHandOver::Deliver(TextView path) {
-    return windows_.Send(textBox_, kWmSetText, page_.ToBytes(path).c_str()) != 0;
+    return windows_.SetText(textBox_, path);
 }
 
 void WindowHandOver::ActivateRunning() {

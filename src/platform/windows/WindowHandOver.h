@@ -1,6 +1,5 @@
 #pragma once
 
-#include "common/CodePage.h"
 #include "platform/InstanceChannel.h"
 #include "platform/windows/WindowList.h"
 
@@ -21,14 +20,13 @@ public:
 /// of the first window whose title holds "Korvane".
 class WindowHandOver final : public InstanceChannel {
 public:
-    /// Both outlive the channel. The page is the system's.
-    WindowHandOver(WindowList& windows, CommandBox& commandBox, const CodePage& page);
+    /// Both outlive the channel.
+    WindowHandOver(WindowList& windows, CommandBox& commandBox);
 
     bool PreviousInstanceRuns() override { return windows_.AnotherCopyRuns(); }
     bool FindReceiver() override;
     /// Always true: the text of a window that is gone reads as empty, and then `Deliver` fails.
     bool WaitUntilSlotEmpty() override;
-    /// A character without a place in the page goes over as "?".
     bool Deliver(TextView path) override;
     /// Brings the window titled "Korvane" to the front, or the first whose title begins so.
     void ActivateRunning() override;
@@ -40,7 +38,6 @@ public:
 private:
     WindowList& windows_;
     CommandBox& commandBox_;
-    CodePage page_;
     WindowHandle textBox_ = kNoWindow;
 };
 

@@ -27,10 +27,10 @@ WindowHandle FindChildWindow(const WindowList& windows, WindowHandle parent, std
     return kNoWindow;
 }
 
-std::string ReadWindowText(WindowList& windows, WindowHandle window) {
+Text ReadWindowText(const WindowList& windows, WindowHandle window) {
     if (window == kNoWindow) return {};
-    const std::intptr_t length = windows.Send(window, kWmGetTextLength, nullptr);
-    return length <= 0 ? std::string() : windows.WindowText(window, static_cast<std::size_t>(length) + 1);
+    const std::size_t length = windows.TextLength(window);
+    return length == 0 ? Text() : windows.WindowText(window, length + 1);
 }
 
 } // namespace korvane

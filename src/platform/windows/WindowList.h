@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/Text.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -13,10 +15,8 @@ using WindowHandle = std::uintptr_t;
 
 inline constexpr WindowHandle kNoWindow = 0;
 
-inline constexpr unsigned kWmSetText = 12;
-inline constexpr unsigned kWmGetTextLength = 14;
-
-/// The windows of the desktop, as the system tells of them. Texts are bytes of its code page.
+/// The windows of the desktop, as the system tells of them. Texts go from program to program in its code
+/// page: what has no place there arrives as "?".
 class WindowList {
 public:
     virtual ~WindowList() = default;
@@ -30,11 +30,17 @@ public:
     /// `kNoWindow` when there is none.
     virtual WindowHandle FirstChild(WindowHandle parent) const = 0;
     virtual WindowHandle NextSibling(WindowHandle window) const = 0;
-    /// At most `room` - 1 bytes of the name or text, as the system fills a buffer of that size.
+    /// At most `room` - 1 bytes of the name, as the system fills a buffer of that size.
     virtual std::string ClassName(WindowHandle window, std::size_t room) const = 0;
-    virtual std::string WindowText(WindowHandle window, std::size_t room) const = 0;
-    /// Sends a message and returns its result, 0 also when the window is gone.
-    virtual std::intptr_t Send(WindowHandle window, unsigned message, const char* text) = 0;
+    /// In the same way.
+    virtual Text WindowText(WindowHandle window, std::size_t room) const = 0;
+
+    // Both wait until the window answers, whatever its program does meanwhile.
+
+    /// The number of bytes of the window's text; 0 also when the window is gone.
+    virtual std::size_t TextLength(WindowHandle window) const = 0;
+    /// False when the window doesn't take the text, as none does that is gone.
+    virtual bool SetText(WindowHandle window, TextView text) = 0;
 
     virtual void Activate(WindowHandle window) = 0;
     /// Leaves the processor to others for a moment.
@@ -44,7 +50,7 @@ public:
 /// A top-level window and its title.
 struct ListedWindow {
     WindowHandle handle;
-    std::string title;
+    Text title;
 };
 
 /// The top-level windows of other processes: a window of this one is never the running copy.
@@ -56,6 +62,6 @@ WindowHandle FindChildWindow(const WindowList& windows, WindowHandle parent, std
                              std::string_view classSuffix);
 
 /// The window's text; empty when there is no window.
-std::string ReadWindowText(WindowList& windows, WindowHandle window);
+Text ReadWindowText(const WindowList& windows, WindowHandle window);
 
 } // namespace korvane

@@ -16,12 +16,12 @@ class FakeWindowList final : public WindowList {
 public:
     struct Window {
         std::string className;
-        std::string text;
+        Text text;
         std::vector<WindowHandle> children;
         bool own = false;
     };
 
-    WindowHandle Add(WindowHandle parent, const std::string& className, const std::string& text = {}) {
+    WindowHandle Add(WindowHandle parent, const std::string& className, const Text& text = {}) {
         const WindowHandle handle = windows_.size() + 1;
         windows_[handle] = {className, text, {}};
         (parent == kNoWindow ? topLevel_ : windows_[parent].children).push_back(handle);
@@ -48,14 +48,16 @@ public:
         classNameRooms.push_back(room);
         return windows_.at(window).className.substr(0, room - 1);
     }
-    std::string WindowText(WindowHandle window, std::size_t room) const override {
+    Text WindowText(WindowHandle window, std::size_t room) const override {
         textRooms.push_back(room);
         return windows_.at(window).text.substr(0, room - 1);
     }
-    std::intptr_t Send(WindowHandle window, unsigned message, const char* text) override {
-        sent.push_back(message);
-        if (message == kWmGetTextLength) return static_cast<std::intptr_t>(windows_.at(window).text.size());
-        if (message == kWmSetText && takesText) windows_.at(window).text = text;
+    std::size_t TextLength(WindowHandle window) const override {
+        ++lengthQuestions;
+        return windows_.at(window).text.size();
+    }
+    bool SetText(WindowHandle window, TextView text) override {
+        if (takesText) windows_.at(window).text = text;
         return takesText;
     }
     void Activate(WindowHandle window) override { activated.push_back(window); }
@@ -69,7 +71,7 @@ public:
     std::function<void()> whileResting;
     int rests = 0;
     std::vector<WindowHandle> activated;
-    std::vector<unsigned> sent;
+    mutable int lengthQuestions = 0;
     mutable std::vector<std::size_t> classNameRooms;
     mutable std::vector<std::size_t> textRooms;
 
@@ -88,8 +90,8 @@ public:
 /// A desktop with a running copy on it, among other windows.
 struct WindowHandOverTest : testing::Test {
     WindowHandOverTest() {
-        windows.Add(kNoWindow, "Notepad", "letter.txt - Editor");
-        main = windows.Add(kNoWindow, "ThunderRT6MDIForm", "KORVANE");
+        windows.Add(kNoWindow, "Notepad", u"letter.txt - Editor");
+        main = windows.Add(kNoWindow, "ThunderRT6MDIForm", u"KORVANE");
         windows.Add(main, "ThunderRT6TextBox");
         windows.Add(main, "MDIClient");
         pictureBox = windows.Add(main, "ThunderRT6PictureBoxDC");
@@ -101,7 +103,7 @@ struct WindowHandOverTest : testing::Test {
 
     FakeWindowList windows;
     FakeCommandBox box;
-    WindowHandOver channel{windows, box, CodePage::Windows1252()};
+    WindowHandOver channel{windows, box};
     WindowHandle main = kNoWindow;
     WindowHandle pictureBox = kNoWindow;
     WindowHandle textBox = kNoWindow;
@@ -117,32 +119,25 @@ TEST_F(WindowHandOverTest, ThePathGoesIntoTheFirstTextBoxOfTheFirstPictureBox) {
     ASSERT_TRUE(channel.FindReceiver());
     EXPECT_TRUE(channel.WaitUntilSlotEmpty());
     EXPECT_TRUE(channel.Deliver(u"C:\\Data\\a b.tbx"));
-    EXPECT_EQ(windows.At(textBox).text, "C:\\Data\\a b.tbx");
-    EXPECT_THAT(windows.sent, ElementsAre(14u, 12u));
-}
-
-TEST_F(WindowHandOverTest, ThePathIsWrittenInTheSystemsCodePage) {
-    ASSERT_TRUE(channel.FindReceiver());
-    channel.Deliver(u"C:\\Käse §\u4E2D.tbx");
-    EXPECT_EQ(windows.At(textBox).text, "C:\\K\xE4se \xA7?.tbx");
+    EXPECT_EQ(windows.At(textBox).text, u"C:\\Data\\a b.tbx");
 }
 
 TEST_F(WindowHandOverTest, ATitleThatHoldsTheNameAnywhereWillDoTheFirstOfThem) {
-    windows.At(main).text = "a.tbx - Korvane 2";
-    const WindowHandle later = windows.Add(kNoWindow, "ThunderRT6MDIForm", "Korvane");
+    windows.At(main).text = u"a.tbx - Korvane 2";
+    const WindowHandle later = windows.Add(kNoWindow, "ThunderRT6MDIForm", u"Korvane");
     windows.Add(windows.Add(later, "ThunderRT6PictureBoxDC"), "ThunderRT6TextBox");
     ASSERT_TRUE(channel.FindReceiver());
     channel.Deliver(u"C:\\a.tbx");
-    EXPECT_EQ(windows.At(textBox).text, "C:\\a.tbx");
+    EXPECT_EQ(windows.At(textBox).text, u"C:\\a.tbx");
 }
 
 TEST_F(WindowHandOverTest, AWindowWithTheNameThatIsNotTheProgramEndsTheSearch) {
-    windows.At(1).text = "korvane.txt - Editor";
+    windows.At(1).text = u"korvane.txt - Editor";
     EXPECT_FALSE(channel.FindReceiver());
 }
 
 TEST_F(WindowHandOverTest, AWindowOfThisProcessIsNotTheRunningCopy) {
-    windows.At(1).text = "Korvane";
+    windows.At(1).text = u"Korvane";
     windows.At(1).own = true;
     EXPECT_TRUE(channel.FindReceiver());
     channel.ActivateRunning();
@@ -150,7 +145,7 @@ TEST_F(WindowHandOverTest, AWindowOfThisProcessIsNotTheRunningCopy) {
 }
 
 TEST_F(WindowHandOverTest, WithoutAWindowThereIsNoReceiver) {
-    windows.At(main).text = "Korvan";
+    windows.At(main).text = u"Korvan";
     EXPECT_FALSE(channel.FindReceiver());
 }
 
@@ -165,7 +160,7 @@ TEST_F(WindowHandOverTest, WithoutATextBoxInTheFirstPictureBoxThereIsNoReceiver)
 }
 
 TEST_F(WindowHandOverTest, WaitsUntilTheBoxIsEmpty) {
-    windows.At(textBox).text = "C:\\earlier.tbx";
+    windows.At(textBox).text = u"C:\\earlier.tbx";
     windows.whileResting = [&] {
         if (windows.rests == 3) windows.At(textBox).text.clear();
     };
@@ -181,21 +176,21 @@ TEST_F(WindowHandOverTest, ABoxThatDoesNotTakeThePathFailsTheDelivery) {
 }
 
 TEST_F(WindowHandOverTest, ActivatesTheWindowOfThatTitle) {
-    const WindowHandle exact = windows.Add(kNoWindow, "ThunderRT6MDIForm", "Korvane");
-    windows.At(main).text = "Korvane - a.tbx";
+    const WindowHandle exact = windows.Add(kNoWindow, "ThunderRT6MDIForm", u"Korvane");
+    windows.At(main).text = u"Korvane - a.tbx";
     channel.ActivateRunning();
     EXPECT_THAT(windows.activated, ElementsAre(exact));
 }
 
 TEST_F(WindowHandOverTest, ActivatesAWindowWhoseTitleBeginsSoWhenNoneIsTitledSo) {
-    windows.At(1).text = "About Korvane";
-    windows.At(main).text = "Korvane - a.tbx";
+    windows.At(1).text = u"About Korvane";
+    windows.At(main).text = u"Korvane - a.tbx";
     channel.ActivateRunning();
     EXPECT_THAT(windows.activated, ElementsAre(main));
 }
 
 TEST_F(WindowHandOverTest, ActivatesNothingWhenThereIsNoSuchWindow) {
-    windows.At(main).text = "My Korvane";
+    windows.At(main).text = u"My Korvane";
     channel.ActivateRunning();
     EXPECT_THAT(windows.activated, IsEmpty());
 }
@@ -214,9 +209,9 @@ TEST_F(WindowHandOverTest, ListsTopLevelWindowsInOrderWithTheirTitles) {
     const auto listed = EnumerateWindows(windows);
     ASSERT_EQ(listed.size(), 2u);
     EXPECT_EQ(listed[0].handle, 1u);
-    EXPECT_EQ(listed[0].title, "letter.txt - Editor");
+    EXPECT_EQ(listed[0].title, u"letter.txt - Editor");
     EXPECT_EQ(listed[1].handle, main);
-    EXPECT_EQ(listed[1].title, "KORVANE");
+    EXPECT_EQ(listed[1].title, u"KORVANE");
 }
 
 TEST_F(WindowHandOverTest, ClassNamesAreComparedAtBothEndsAndWithCase) {
@@ -233,16 +228,16 @@ TEST_F(WindowHandOverTest, OnlyDirectChildrenAreSearched) {
 }
 
 TEST_F(WindowHandOverTest, AWindowsTextIsReadAtTheLengthThatItTells) {
-    windows.At(textBox).text = "C:\\a.tbx";
-    EXPECT_EQ(ReadWindowText(windows, textBox), "C:\\a.tbx");
+    windows.At(textBox).text = u"C:\\a.tbx";
+    EXPECT_EQ(ReadWindowText(windows, textBox), u"C:\\a.tbx");
     EXPECT_THAT(windows.textRooms, ElementsAre(9u));
-    EXPECT_THAT(windows.sent, ElementsAre(14u));
+    EXPECT_EQ(windows.lengthQuestions, 1);
 }
 
 TEST_F(WindowHandOverTest, NoWindowAndNoTextReadAsEmpty) {
-    EXPECT_EQ(ReadWindowText(windows, kNoWindow), "");
-    EXPECT_THAT(windows.sent, IsEmpty());
-    EXPECT_EQ(ReadWindowText(windows, textBox), "");
+    EXPECT_EQ(ReadWindowText(windows, kNoWindow), u"");
+    EXPECT_EQ(windows.lengthQuestions, 0);
+    EXPECT_EQ(ReadWindowText(windows, textBox), u"");
     EXPECT_THAT(windows.textRooms, IsEmpty());
 }
 

@@ -1,0 +1,40 @@
+#include "platform/windows/AnsiText.h"
+
+#include "platform/windows/WindowsText.h"
+
+#include <windows.h>
+
+namespace korvane {
+
+namespace {
+
+/// A character that merely looks alike would name another file. A page that holds everything takes no flag.
+DWORD WithoutLookalikes() {
+    return GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
+}
+
+} // namespace
+
+std::string ToAnsi(TextView text) {
+    const std::wstring wide = ToWide(text);
+    const auto length = static_cast<int>(wide.size());
+    const auto convert = [&](char* bytes, int room) {
+        return WideCharToMultiByte(CP_ACP, WithoutLookalikes(), wide.data(), length, bytes, room, nullptr,
+                                   nullptr);
+    };
+    std::string bytes(static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+    convert(bytes.data(), static_cast<int>(bytes.size()));
+    return bytes;
+}
+
+Text FromAnsi(std::string_view bytes) {
+    const auto length = static_cast<int>(bytes.size());
+    const auto convert = [&](wchar_t* text, int room) {
+        return MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, text, room);
+    };
+    std::wstring wide(static_cast<std::size_t>(convert(nullptr, 0)), L'\0');
+    convert(wide.data(), static_cast<int>(wide.size()));
+    return FromWide(wide);
+}
+
+} // namespace korvane

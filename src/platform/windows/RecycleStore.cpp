@@ -1,0 +1,42 @@
+#include "platform/windows/RecycleStore.h"
+
+#include "platform/windows/WindowsText.h"
+
+#include <windows.h>
+#include <shellapi.h>
+
+#include <filesystem>
+
+namespace korvane {
+
+namespace {
+
+FILEOP_FLAGS FlagsFor(RecycleTalk talk) {
+    const int quiet = talk == RecycleTalk::Silent ? FOF_NOCONFIRMATION | FOF_SILENT : 0;
+    return static_cast<FILEOP_FLAGS>(FOF_ALLOWUNDO | quiet);
+}
+
+/// A list of one path, which ends with a second null. In full: what is named from the current directory is
+/// deleted and not stored.
+std::wstring PathList(TextView path) {
+    std::error_code error;
+    std::wstring list = std::filesystem::absolute(ToWide(path), error).make_preferred().wstring();
+    list += L'\0';
+    return list;
+}
+
+} // namespace
+
+bool MoveToRecycleStore(TextView path, RecycleTalk talk) {
+    // What follows a null would be a second path, and a pattern would take other files with it.
+    constexpr TextView kInNoPath(u"\0*?", 3);
+    if (path.empty() || path.find_first_of(kInNoPath) != TextView::npos) return false;
+    const std::wstring list = PathList(path);
+    SHFILEOPSTRUCTW operation{};
+    operation.wFunc = FO_DELETE;
+    operation.pFrom = list.c_str();
+    operation.fFlags = FlagsFor(talk);
+    return SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
+}
+
+} // namespace korvane

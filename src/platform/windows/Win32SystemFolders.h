@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/SystemFolders.h"
+
+namespace korvane {
+
+/// The folders of the Windows that the program runs on.
+class Win32SystemFolders final : public SystemFolders {
+public:
+    Text ProgramFiles() const override;
+    Text Windows() const override;
+    Text System() const override;
+    Text Fonts() const override;
+    Text Documents() const override;
+};
+
+} // namespace korvane
