@@ -46,6 +46,10 @@ using Col = Count<struct ColKind>;
 /// A length on the screen, 1440 to the inch: 15 to a pixel at 96 dpi.
 using Twips = Count<struct TwipsKind>;
 
+inline constexpr int kTwipsPerInch = 1440;
+/// At 96 dpi.
+inline constexpr int kTwipsPerPixel = 15;
+
 inline constexpr Row kMaxRows{32767};
 /// What a `.tbx` file and the design dialog can hold; a grid itself can be wider.
 inline constexpr Col MaxColumns{24};

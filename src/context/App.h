@@ -6,6 +6,7 @@
 #include "context/ListerRequest.h"
 #include "platform/Grid.h"
 #include "platform/Spreadsheet.h"
+#include "platform/UserLocale.h"
 
 #include <array>
 #include <cstdint>
@@ -66,6 +67,8 @@ public:
         const SystemFolders* folders = nullptr;
         /// Starts a spreadsheet application; nullptr when it can't be started. Optional.
         std::function<std::unique_ptr<Spreadsheet>()> makeSpreadsheet{};
+        /// Optional: without it, dates are written as on every system.
+        const UserLocale* locale = nullptr;
     };
 
     explicit App(Platform platform) : platform_(std::move(platform)) {}
@@ -88,6 +91,10 @@ public:
     const CodePage& Page() const { return platform_.codePage; }
     /// nullptr where nobody knows the system's folders.
     const SystemFolders* Folders() const { return platform_.folders; }
+
+    const UserLocale& Locale() const {
+        return platform_.locale == nullptr ? sameEverywhere_ : *platform_.locale;
+    }
 
     korvane::Settings Settings;
     /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.
@@ -155,6 +162,7 @@ public:
 
 private:
     Platform platform_;
+    UserLocale sameEverywhere_;
 };
 
 } // namespace korvane

@@ -2,6 +2,7 @@
 
 #include "common/CommandLine.h"
 #include "common/DriveForms.h"
+#include "common/FindEntry.h"
 #include "common/PathStyle.h"
 #include "context/App.h"
 #include "context/StoredPaths.h"
@@ -70,8 +71,8 @@ constexpr std::array<TextView, 4> kOfficeFolders{u"OFFICE16", u"OFFICE12", u"OFF
 
 /// The location that the user set for the program; empty for none.
 Text LocationSet(const Settings& settings, TextView name) {
-    const auto* found = std::ranges::find(kOfficePrograms, name, &OfficeProgram::name);
-    return found == kOfficePrograms.end() ? Text() : settings.*found->location;
+    const auto* found = FindEntry(kOfficePrograms, name, &OfficeProgram::name);
+    return found == nullptr ? Text() : settings.*found->location;
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "controls/TabStyles.h"
 
+#include "common/FindEntry.h"
+
 #include <algorithm>
 #include <array>
 
@@ -51,7 +53,7 @@ constexpr std::array<TabStyle, 17> kStyles{{
 }};
 
 const TabStyle* Find(int number) {
-    return std::ranges::find(kStyles, number, &TabStyle::number);
+    return FindEntry(kStyles, number, &TabStyle::number);
 }
 
 } // namespace
@@ -62,13 +64,13 @@ std::span<const TabStyle> TabStyles() {
 
 const TabStyle& TabStyleOf(int number) {
     const TabStyle* found = Find(number);
-    return found == kStyles.end() ? kStyles.front() : *found;
+    return found == nullptr ? kStyles.front() : *found;
 }
 
 int SteppedTabStyle(int number, StyleStep step) {
     const TabStyle* found = Find(number);
-    if (found == kStyles.end()) return number;
-    const auto index = static_cast<std::size_t>(found - kStyles.begin());
+    if (found == nullptr) return number;
+    const auto index = static_cast<std::size_t>(found - kStyles.data());
     const std::size_t moved = step == StyleStep::Forward ? index + 1 : index + kStyles.size() - 1;
     return kStyles[moved % kStyles.size()].number;
 }

@@ -12,7 +12,7 @@ namespace {
 CellPosition SearchStart(const Grid& grid) {
     const CellPosition next{grid.CurRow(), grid.CurCol() + 1};
     // Strictly below, so that the last column of the current row is passed over when it is the next one.
-    // Deliberate: the search has always gone this way, and who repeats it relies on its order.
+    // Deliberate: who repeats the search relies on this order.
     if (next.col < grid.ColCount()) return next;
     return {grid.CurRow() + 1, Col{1}};
 }

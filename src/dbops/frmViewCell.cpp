@@ -1,5 +1,6 @@
 #include "dbops/frmViewCell.h"
 
+#include "common/FindEntry.h"
 #include "common/LineEnds.h"
 #include "context/App.h"
 #include "context/Ports.h"
@@ -101,8 +102,8 @@ void frmViewCell::Unload() {
 }
 
 void frmViewCell::OfficeMenu1_Chosen(std::string_view entry) {
-    const auto* const found = std::ranges::find(kButtonOfEntry, entry, [](auto& pair) { return pair.first; });
-    if (found != kButtonOfEntry.end()) (this->*found->second).Press();
+    const auto* const found = FindEntry(kButtonOfEntry, entry, [](auto& pair) { return pair.first; });
+    if (found != nullptr) (this->*found->second).Press();
 }
 
 void frmViewCell::txtCell_Change() {

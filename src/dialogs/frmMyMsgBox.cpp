@@ -1,6 +1,7 @@
 #include "dialogs/frmMyMsgBox.h"
 
 #include "common/DateTime.h"
+#include "common/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/StandardMessages.h"
@@ -53,8 +54,8 @@ frmMyMsgBox::frmMyMsgBox(App& app)
 
 void frmMyMsgBox::Wire() {
     OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = std::ranges::find(kEntryButtons, entry, &EntryButton::entry);
-        if (found != kEntryButtons.end()) (this->*found->button).Press();
+        const auto* found = FindEntry(kEntryButtons, entry, &EntryButton::entry);
+        if (found != nullptr) (this->*found->button).Press();
     };
     cmdYes.Click = [this] { CloseWith(MsgAnswer::SaveUnderAName); };
     cmdAutoSave.Click = [this] { CloseWith(MsgAnswer::SaveDirectly); };
@@ -86,6 +87,7 @@ void frmMyMsgBox::Load() {
     Resize();
     chkDecisionConfirmNoSave.Value = app_.Settings.ConfirmNoSave;
     chkDecisionConfirmNoSave.Click = [this] { app_.Settings.ConfirmNoSave = chkDecisionConfirmNoSave.Value; };
+    cmdYes.SetFocus();
 }
 
 void frmMyMsgBox::Resize() {

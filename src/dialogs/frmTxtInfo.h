@@ -1,8 +1,6 @@
 #pragma once
 
-#include "controls/CommandButton.h"
-#include "controls/Form.h"
-#include "controls/Label.h"
+#include "context/FileInfoForm.h"
 
 namespace korvane {
 
@@ -21,27 +19,12 @@ struct FileFacts {
 FileFacts FactsOfFile(const App& app, TextView path);
 
 /// Tells the facts of a file. Modal.
-class frmTxtInfo : public Form {
+class frmTxtInfo : public FileInfoForm {
 public:
     frmTxtInfo(App& app, const FileFacts& facts);
 
-    // The captions of the four values, each in front of its value.
-    Label lblFileNameCaption{*this, "lblFileNameCaption", u"File name"};
-    Label lblFileName{*this, "lblFileName"};
-    Label lblFilePathCaption{*this, "lblFilePathCaption", u"File path"};
-    Label lblFilePath{*this, "lblFilePath"};
-    Label lblFileSizeCaption{*this, "lblFileSizeCaption", u"File size"};
-    Label lblFileSize{*this, "lblFileSize"};
-    Label lblArchivedCaption{*this, "lblArchivedCaption", u"Archived"};
-    Label lblArchived{*this, "lblArchived"};
-
-    CommandButton cmdClip{*this, "cmdClip", u"&Put in clipboard"};
-    CommandButton cmdClose{*this, "cmdClose", u"&Close"};
-
 private:
-    void cmdClip_Click();
-
-    App& app_;
+    Text Facts() const override;
 };
 
 } // namespace korvane

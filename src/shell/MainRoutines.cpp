@@ -1,5 +1,6 @@
 #include "shell/MainRoutines.h"
 
+#include "common/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
@@ -143,9 +144,8 @@ constexpr std::array kRoutines{
 } // namespace
 
 void RunMainRoutine(frmMDIParent& main, std::string_view name) {
-    const auto found = std::find_if(kRoutines.begin(), kRoutines.end(),
-                                    [name](const NamedRoutine& routine) { return routine.name == name; });
-    if (found != kRoutines.end()) found->run(main);
+    const auto* found = FindEntry(kRoutines, name, &NamedRoutine::name);
+    if (found != nullptr) found->run(main);
 }
 
 } // namespace korvane

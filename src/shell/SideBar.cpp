@@ -11,7 +11,6 @@ namespace {
 constexpr Col kOnlyColumn{1};
 constexpr int kColumnWidth = 146;
 constexpr int kRowHeight = 64;
-constexpr int kTwipsPerPixel = 15;
 
 constexpr Colour kBlack{0};
 constexpr Colour kWhite{0xFFFFFF};

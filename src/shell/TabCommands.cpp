@@ -1,5 +1,6 @@
 #include "shell/TabCommands.h"
 
+#include "common/FindEntry.h"
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/Ports.h"
@@ -62,12 +63,9 @@ constexpr std::array kTabCommands{
 } // namespace
 
 TabCommand FindTabCommand(std::string_view name) {
-    const auto find = [name](const auto& commands) -> TabCommand {
-        const auto found = std::ranges::find_if(commands, [name](auto& each) { return each.name == name; });
-        return found == commands.end() ? nullptr : found->run;
-    };
-    const TabCommand ofTheTab = find(kTabCommands);
-    return ofTheTab != nullptr ? ofTheTab : find(DbOpsCommands());
+    if (const auto* found = FindEntry(kTabCommands, name, &NamedCommand::name)) return found->run;
+    const auto* found = FindEntry(DbOpsCommands(), name, &DbOpsCommand::name);
+    return found == nullptr ? nullptr : found->run;
 }
 
 } // namespace korvane

@@ -1,5 +1,6 @@
 #include "shell/frmFileList.h"
 
+#include "common/FindEntry.h"
 #include "common/Number.h"
 #include "context/App.h"
 #include "context/Companions.h"
@@ -106,8 +107,8 @@ frmFileList::frmFileList(App& app, RecentRecord& recents, const Form& owner)
 
 void frmFileList::Wire() {
     OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = std::ranges::find(kMenuHandlers, entry, &MenuHandler::entry);
-        if (found != std::end(kMenuHandlers)) (this->*found->run)();
+        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
+        if (found != nullptr) (this->*found->run)();
     };
     const auto on = [this](CommandButton& button, Handler run) {
         button.Click = [this, run] { (this->*run)(); };
@@ -292,9 +293,9 @@ void frmFileList::ShowInfo() {
         u"File  " + row->texts[kFile],
         u"Dir.:  " + row->texts[kLocation],
         u"Size  " + FormatGrouped(files.Size(path).value_or(0)),
-        u"Archived  " + (modified ? GeneralDate(*modified) : Text()),
+        u"Archived  " + (modified ? app_.Locale().GeneralDate(*modified) : Text()),
         u"Time  " + FormatDate(now, u"hh:mm:ss"),
-        u"Date  " + FormatDate(now, u"dddd, mmm d yyyy"),
+        u"Date  " + FormatDate(now, u"dddd, mmm d yyyy", app_.Locale().Names()),
         u"Current Dir. :  " + files.CurrentDir(),
     };
     Text text;

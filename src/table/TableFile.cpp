@@ -37,7 +37,7 @@ void EndLoad(const TabContext& tab) {
 
 /// The update bracket stays open and the end of the load doesn't come: the tab is left as it is.
 void EndStoppedLoad(App& app) {
-    // Two blanks before the number, as the message has always had.
+    // Two blanks before the number: deliberate.
     app.Messages().Show(
         {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
          MessageIcon::Stop});

@@ -1,6 +1,7 @@
 #include "platform/qt/Convert.h"
 
 #include <QGuiApplication>
+#include <QPixmap>
 #include <QScreen>
 #include <QTextDocument>
 #include <algorithm>
@@ -9,8 +10,6 @@
 namespace korvane {
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 double TwipsPerPixel() {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -74,6 +73,11 @@ QColor ToQColor(Colour colour) {
     return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
 }
 
+Colour ToColour(const QColor& colour) {
+    if (!colour.isValid()) return kNoColour;
+    return Colour{colour.red() | colour.green() << 8 | colour.blue() << 16};
+}
+
 QFont WithSpec(QFont font, const FontSpec& spec) {
     if (!spec.name.empty()) font.setFamily(ToQString(spec.name));
     if (spec.size > 0) font.setPointSize(spec.size);
@@ -84,6 +88,14 @@ QFont WithSpec(QFont font, const FontSpec& spec) {
 Qt::CursorShape ShapeOf(Pointer pointer) {
     constexpr Qt::CursorShape shapes[] = {Qt::ArrowCursor, Qt::WaitCursor, Qt::PointingHandCursor};
     return shapes[static_cast<std::size_t>(pointer)];
+}
+
+QCursor CursorOf(Pointer pointer, TextView handImage) {
+    if (pointer == Pointer::Hand) {
+        const QPixmap hand(ToQString(handImage));
+        if (!hand.isNull()) return QCursor(hand, hand.width() / 3, 0);
+    }
+    return ShapeOf(pointer);
 }
 
 QString PlainToolTip(TextView text) {

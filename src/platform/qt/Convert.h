@@ -6,6 +6,7 @@
 #include "platform/Screen.h"
 
 #include <QColor>
+#include <QCursor>
 #include <QFont>
 #include <QString>
 
@@ -25,10 +26,15 @@ int FromLinesPosition(TextView text, int position);
 /// Nothing when no colour is set.
 QColor ToQColor(Colour colour);
 
+/// The other way round; nothing set for an invalid colour.
+Colour ToColour(const QColor& colour);
+
 /// `font` with what `spec` wants different.
 QFont WithSpec(QFont font, const FontSpec& spec);
 
 Qt::CursorShape ShapeOf(Pointer pointer);
+/// The pointer of a widget. A hand is the picture of the file `handImage` if that can be read.
+QCursor CursorOf(Pointer pointer, TextView handImage);
 
 /// A tool-tip is plain text, also where it looks like markup.
 QString PlainToolTip(TextView text);

@@ -54,6 +54,10 @@ TEST_F(MyMsgBoxTest, AFileNotSavedYetHasNoDateAndNoSize) {
     }
 }
 
+TEST_F(MyMsgBoxTest, OffersTheSaveFirst) {
+    Ask([](frmMyMsgBox& f) { EXPECT_EQ(f.Focused(), &f.cmdYes); });
+}
+
 TEST_F(MyMsgBoxTest, HasItsCaptions) {
     const frmMyMsgBox f(t.app);
     EXPECT_EQ(f.cmdYes.Caption.Get(), u"&Save");

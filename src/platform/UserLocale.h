@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/DateTime.h"
+
+namespace korvane {
+
+/// How dates are written for the user. This one is the same on every system; a desktop knows the user's own.
+class UserLocale {
+public:
+    virtual ~UserLocale() = default;
+    /// Date and time in the form in which the system shows them.
+    virtual Text GeneralDate(const DateTime& when) const { return korvane::GeneralDate(when); }
+    /// The words that stand in dates.
+    virtual const DateNames& Names() const { return EnglishDateNames(); }
+};
+
+} // namespace korvane
