@@ -37,6 +37,8 @@ public:
     Property<Colour> HighlightForeColor{*this, Aspect::Colours};
     /// What the mouse pointer is over the grid.
     Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
+    /// A picture file for the pointer that is a hand; where it can't be read, it is the system's hand.
+    Property<Text> HandImage{*this, Aspect::Pointer};
 
     /// How wide the grid is on the screen, as the view last told; 0 while it isn't shown.
     Twips ShownWidth;

@@ -14,10 +14,20 @@ struct TreeNode {
     bool expanded = false;
 };
 
+/// Picture files for the nodes of a tree; the view draws its own where one can't be read.
+struct TreeImages {
+    Text closed;
+    /// Of a node that is expanded or selected.
+    Text open;
+    bool operator==(const TreeImages&) const = default;
+};
+
 /// A tree of named nodes, siblings in the order in which they were added.
 class TreeView : public Control {
 public:
     using Control::Control;
+
+    Property<TreeImages> Images{*this, Aspect::Items};
 
     const std::vector<TreeNode>& Nodes() const { return nodes_; }
     /// nullptr when there is no such node.

@@ -52,6 +52,8 @@ void PlaceWindow(frmMDIParent& main) {
 
 void BuildSideBar(frmMDIParent& main) {
     const Settings& settings = main.TheApp().Settings;
+    const FileSystem& files = main.TheApp().Files();
+    main.iGridListBar.HandImage = files.Style().JoinPath(files.ProgramDir(), u"HandOpen.ico");
     main.TheSideBar().BuildSideBar(
         {settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0});
     main.Resize();

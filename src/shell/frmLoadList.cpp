@@ -1,6 +1,7 @@
 #include "shell/frmLoadList.h"
 
 #include "common/DateTime.h"
+#include "common/FindEntry.h"
 #include "common/Number.h"
 #include "context/App.h"
 #include "context/Ports.h"
@@ -70,8 +71,8 @@ frmLoadList::frmLoadList(App& app, Tabs& tabs, const Form& owner)
 
 void frmLoadList::Wire() {
     OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = std::ranges::find(kMenuHandlers, entry, &MenuHandler::entry);
-        if (found != std::end(kMenuHandlers)) (this->*found->run)();
+        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
+        if (found != nullptr) (this->*found->run)();
     };
     cmdSwitch.Click = [this] { SwitchToText(); };
     cmdToClip.Click = [this] { ListToClipboard(); };
@@ -88,8 +89,8 @@ void frmLoadList::Wire() {
 void frmLoadList::Load() {
     RestorePlace(app_, *this, kPlace);
     const DateTime now = app_.Clock().Now();
-    Label1.Caption =
-        u" Date/time:  " + FormatDate(now, u"dddd, mmm d yyyy") + u", " + FormatDate(now, u"hh:mm");
+    Label1.Caption = u" Date/time:  " + FormatDate(now, u"dddd, mmm d yyyy", app_.Locale().Names()) + u", " +
+                     FormatDate(now, u"hh:mm");
     FillTree();
     const frmMDIChild* active = tabs_.Active();
     FileTree.Select(active == nullptr ? Text(kRootKey) : KeyOf(active->Slot()));
@@ -101,6 +102,10 @@ void frmLoadList::Unload() {
 }
 
 void frmLoadList::FillTree() {
+    const Text folder = app_.Files().ProgramDir();
+    const PathStyle style = app_.Files().Style();
+    FileTree.Images =
+        TreeImages{style.JoinPath(folder, u"FolderClosed.ico"), style.JoinPath(folder, u"FolderOpen.ico")};
     FileTree.Clear();
     FileTree.Add({}, kRootKey, u" Open files");
     int number = 0;

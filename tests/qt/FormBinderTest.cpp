@@ -5,6 +5,7 @@
 #include "controls/Label.h"
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
+#include "platform/qt/Convert.h"
 #include "platform/qt/QtFormHost.h"
 
 #include <gtest/gtest.h>
@@ -102,6 +103,27 @@ TEST_F(FormBinderTest, NamesWhatDoesNotFit) {
                                         "frmEveryKind: a screen reader can't name txtLine",
                                         "frmEveryKind: no control for the widget txtStray"}));
     delete stray;
+}
+
+TEST_F(FormBinderTest, AColourOfItsOwnIsPaintedWithATextThatCanBeRead) {
+    constexpr Colour dark{0x401000};
+    form.Frame1.BackColor = dark;
+    form.lblName.BackColor = dark;
+    form.cmdGo.BackColor = dark;
+    const auto& label = Widget<QLabel>("lblName");
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::white));
+    EXPECT_TRUE(Widget<QWidget>("Frame1").autoFillBackground());
+    EXPECT_EQ(Widget<QWidget>("Frame1").palette().color(QPalette::Window), ToQColor(dark));
+    EXPECT_EQ(QColor(Widget<QLabel>("lblName").grab().toImage().pixel(0, 0)), ToQColor(dark));
+    EXPECT_EQ(Widget<QPushButton>("cmdGo").palette().color(QPalette::Button), ToQColor(dark));
+}
+
+TEST_F(FormBinderTest, WithoutAColourItGoesWithTheWindow) {
+    form.lblName.BackColor = Colour{0x401000};
+    form.lblName.BackColor = kNoColour;
+    const auto& label = Widget<QLabel>("lblName");
+    EXPECT_FALSE(label.autoFillBackground());
+    EXPECT_EQ(label.palette(), host.WidgetOf(form)->palette());
 }
 
 TEST_F(FormBinderTest, CaptionsTipsAndTitleComeFromTheControls) {

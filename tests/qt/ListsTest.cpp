@@ -3,6 +3,8 @@
 #include "controls/ListBox.h"
 #include "controls/ListView.h"
 #include "controls/TreeView.h"
+#include "platform/qt/Convert.h"
+#include "platform/qt/Icons.h"
 #include "platform/qt/QtFormHost.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +13,7 @@
 #include <QDialog>
 #include <QHeaderView>
 #include <QListWidget>
+#include <QTemporaryDir>
 #include <QTreeWidget>
 
 namespace korvane {
@@ -51,7 +54,7 @@ std::unique_ptr<QWidget> MakeLists() {
     Add<QListWidget>(*window, "lstChecks").setProperty("checkBoxes", true);
     Add<QListWidget>(*window, "lstPicks").setSelectionMode(QAbstractItemView::ExtendedSelection);
     Add<QComboBox>(*window, "cboOne");
-    Add<QTreeWidget>(*window, "ListView1");
+    Add<QTreeWidget>(*window, "ListView1").setProperty("rowImages", QStringList{"fileFound", "fileLost"});
     Add<QTreeWidget>(*window, "FileTree");
     return window;
 }
@@ -81,6 +84,72 @@ protected:
 
 TEST_F(ListsTest, EverythingFits) {
     EXPECT_EQ(FormProblems(form, *host.WidgetOf(form)), std::vector<std::string>());
+}
+
+QImage ImageOf(const QTreeWidgetItem& item) {
+    return item.icon(0).pixmap(16, 16).toImage();
+}
+
+TEST_F(ListsTest, ARowHasTheImageThatItNames) {
+    for (const int image : {1, 2, 1, 0}) {
+        ListRow row;
+        row.texts = {u"file"};
+        row.image = image;
+        form.ListView1.Add(row);
+    }
+    test::Settle();
+    EXPECT_FALSE(Row(0).icon(0).isNull());
+    EXPECT_NE(ImageOf(Row(0)), ImageOf(Row(1)));
+    EXPECT_EQ(ImageOf(Row(0)), ImageOf(Row(2)));
+    EXPECT_TRUE(Row(3).icon(0).isNull());
+}
+
+TEST_F(ListsTest, TheImageOfAChosenRowStandsOutFromItsHighlight) {
+    const QIcon icon = TintedIcon("fileFound");
+    const QColor text = QApplication::palette().color(QPalette::HighlightedText);
+    const QImage chosen = icon.pixmap(QSize(24, 24), QIcon::Selected).toImage();
+    EXPECT_EQ(QColor(chosen.pixelColor(5, 12).rgb()), text);
+    EXPECT_NE(chosen, icon.pixmap(QSize(24, 24)).toImage());
+}
+
+TEST_F(ListsTest, AListHasTheColourThatItIsGiven) {
+    form.ListView1.BackColor = Colour{0x401000};
+    const auto& list = Widget<QTreeWidget>("ListView1");
+    EXPECT_EQ(list.palette().color(QPalette::Base), ToQColor(Colour{0x401000}));
+    EXPECT_EQ(list.palette().color(QPalette::Text), QColor(Qt::white));
+}
+
+TEST_F(ListsTest, ANodeOfATreeShowsWhetherItIsOpen) {
+    form.FileTree.Add({}, u"root", u"Root");
+    form.FileTree.Add(u"root", u"a", u"A");
+    form.FileTree.Add(u"root", u"b", u"B");
+    form.FileTree.SetExpanded(u"root", true);
+    form.FileTree.Select(u"a");
+    test::Settle();
+    QTreeWidgetItem& root = *Widget<QTreeWidget>("FileTree").topLevelItem(0);
+    EXPECT_EQ(ImageOf(root), ImageOf(*root.child(0)));
+    EXPECT_NE(ImageOf(root), ImageOf(*root.child(1)));
+    Click(Widget<QTreeWidget>("FileTree"),
+          Widget<QTreeWidget>("FileTree")
+              .model()
+              ->index(1, 0, Widget<QTreeWidget>("FileTree").model()->index(0, 0)));
+    EXPECT_EQ(ImageOf(root), ImageOf(*root.child(1)));
+    EXPECT_NE(ImageOf(root), ImageOf(*root.child(0)));
+}
+
+TEST_F(ListsTest, ATreeTakesItsPicturesFromTheirFilesWhereThereAreAny) {
+    const QTemporaryDir folder;
+    QPixmap red(16, 16);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(folder.filePath("closed.png")));
+    form.FileTree.Images = TreeImages{ToText(folder.filePath("closed.png")), u"/no/such/file.ico"};
+    form.FileTree.Add({}, u"root", u"Root");
+    form.FileTree.Add({}, u"other", u"Other");
+    form.FileTree.Select(u"other");
+    test::Settle();
+    auto& tree = Widget<QTreeWidget>("FileTree");
+    EXPECT_EQ(QColor(ImageOf(*tree.topLevelItem(0)).pixel(8, 8)), QColor(Qt::red));
+    EXPECT_FALSE(tree.topLevelItem(1)->icon(0).isNull());
 }
 
 TEST_F(ListsTest, AListFollowsItsItems) {

@@ -5,6 +5,7 @@
 #include "platform/memory/MemoryGrid.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QTest>
 #include <memory>
 
@@ -26,5 +27,17 @@ inline std::unique_ptr<Grid> MakeStore(int rows, int columns) {
     store->SetRowCount(Row{rows});
     return store;
 }
+
+/// Windows have another palette as long as this lives.
+class UnderPalette {
+public:
+    explicit UnderPalette(const QPalette& palette) { QApplication::setPalette(palette); }
+    UnderPalette(const UnderPalette&) = delete;
+    UnderPalette& operator=(const UnderPalette&) = delete;
+    ~UnderPalette() { QApplication::setPalette(before_); }
+
+private:
+    QPalette before_ = QApplication::palette();
+};
 
 } // namespace korvane::test

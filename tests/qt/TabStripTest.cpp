@@ -165,18 +165,6 @@ TEST_F(TabStripTest, DrawingCanBeHeld) {
     EXPECT_TRUE(Pages().updatesEnabled());
 }
 
-/// Puts back the palette at its end.
-class UnderPalette {
-public:
-    explicit UnderPalette(const QPalette& palette) { QApplication::setPalette(palette); }
-    UnderPalette(const UnderPalette&) = delete;
-    UnderPalette& operator=(const UnderPalette&) = delete;
-    ~UnderPalette() { QApplication::setPalette(before_); }
-
-private:
-    QPalette before_ = QApplication::palette();
-};
-
 int DifferentPixels(const QImage& a, const QImage& b) {
     int different = 0;
     for (int y = 0; y < a.height(); ++y) {
@@ -189,7 +177,7 @@ int DifferentPixels(const QImage& a, const QImage& b) {
 TEST_F(TabStripTest, EachStyleIsToBeToldFromEveryOtherInLightAndDark) {
     AddBoth();
     for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
-        const UnderPalette under(palette);
+        const test::UnderPalette under(palette);
         std::vector<QImage> pictures;
         for (const TabStyle& style : TabStyles()) {
             parent.MDITabs1.Style = style.number;

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QToolButton>
 #include <algorithm>
 #include <memory>
 #include <set>
@@ -49,6 +50,18 @@ TEST_P(WindowWalkTest, EveryWidgetCanBeSeenAtItsSmallestSize) {
     const QSize least = look->minimumSizeHint();
     const QRect screen(0, 0, 1024, 700);
     EXPECT_TRUE(screen.contains(QRect(QPoint(), least))) << least.width() << " x " << least.height();
+}
+
+TEST_P(WindowWalkTest, EveryToolButtonShowsAPictureOrAText) {
+    const auto form = GetParam().make(all);
+    const auto look = LookOf(GetParam().name)->make();
+    const FormBinder binder(*form, *look, pages);
+    for (const QToolButton* button : look->findChildren<QToolButton*>()) {
+        // Those of the toolkit come with arrows.
+        if (form->Find(button->objectName().toStdString()) == nullptr) continue;
+        EXPECT_FALSE(button->icon().isNull() && button->text().isEmpty())
+            << button->objectName().toStdString();
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowWalkTest, testing::ValuesIn(AllWindows().begin(), AllWindows().end()),

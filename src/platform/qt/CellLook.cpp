@@ -46,8 +46,7 @@ Colour FirstSet(Colour first, Colour second) {
 
 /// The colour that the table has of its own; none where it goes with the palette.
 Colour OwnTableBack(const Grid& store, const QPalette& palette) {
-    const Colour back = store.GridBackColor();
-    return back == kWhite && IsDark(palette.color(QPalette::Base)) ? kNoColour : back;
+    return ChosenBack(store.GridBackColor(), palette);
 }
 
 /// A text colour of the data on a background that isn't of the data: the same hue, as light or dark as it
@@ -63,6 +62,10 @@ QColor Readable(const QColor& text, const QColor& back) {
 }
 
 } // namespace
+
+Colour ChosenBack(Colour back, const QPalette& palette) {
+    return back == kWhite && IsDark(palette.color(QPalette::Base)) ? kNoColour : back;
+}
 
 double Contrast(const QColor& text, const QColor& back) {
     const double a = Luminance(text);

@@ -16,8 +16,11 @@ struct CellColours {
 /// two comes from the data, the other is chosen so that the text can be read.
 CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette);
 
-/// The background of the table. White is what a table has whose colour nobody chose: where the palette is
-/// dark, it is the palette's own.
+/// The colour of a background, or none where it goes with the palette. White is what a background has whose
+/// colour nobody chose: where the palette is dark, it is the palette's own.
+Colour ChosenBack(Colour back, const QPalette& palette);
+
+/// The background of the table.
 QColor TableBack(const Grid& store, const QPalette& palette);
 
 /// The lines between cells, to be seen on any background without standing out.

@@ -30,6 +30,11 @@ struct Tints {
 
 Tints PaletteTints(QIcon::Mode mode) {
     const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Selected) {
+        // In a chosen line of a list.
+        const QByteArray chosen = palette.color(QPalette::HighlightedText).name().toLatin1();
+        return {chosen, chosen};
+    }
     const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
     const QByteArray text = palette.color(group, QPalette::ButtonText).name().toLatin1();
     if (mode == QIcon::Disabled) return {text, text};
@@ -101,6 +106,11 @@ QIcon TintedIcon(const QString& name, const QColor& colour) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
     return QIcon(new TintedEngine(file.readAll(), colour));
+}
+
+QIcon IconFromFile(const QString& path, const QString& otherwise) {
+    const QPixmap picture(path);
+    return picture.isNull() ? TintedIcon(otherwise) : QIcon(picture);
 }
 
 void SetIcons(QWidget& window) {

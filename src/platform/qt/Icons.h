@@ -13,6 +13,9 @@ QIcon TintedIcon(const QString& name);
 /// The same in one colour.
 QIcon TintedIcon(const QString& name, const QColor& colour);
 
+/// The picture of a file; where it can't be read, the icon of the name.
+QIcon IconFromFile(const QString& path, const QString& otherwise);
+
 /// Gives each tool button and action of the window the icon of its name, or of its
 /// property "iconName".
 void SetIcons(QWidget& window);

@@ -1,7 +1,11 @@
 #include "platform/qt/ListAdaptors.h"
 
+#include "platform/qt/BackColour.h"
+#include "platform/qt/CellLook.h"
 #include "platform/qt/Convert.h"
+#include "platform/qt/Icons.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStyledItemDelegate>
@@ -155,10 +159,21 @@ void ListViewAdaptor::WriteItems() {
         QStringList texts;
         for (const Text& text : control_.RowAt(index).texts)
             texts << ToQString(text);
-        items << new QTreeWidgetItem(texts);
+        auto* item = new QTreeWidgetItem(texts);
+        item->setIcon(0, ImageOf(control_.RowAt(index)));
+        items << item;
     }
     widget_.addTopLevelItems(items);
     widget_.setUpdatesEnabled(true);
+}
+
+QIcon ListViewAdaptor::ImageOf(const ListRow& row) const {
+    return TintedIcon(widget_.property("rowImages").toStringList().value(row.image - 1));
+}
+
+void ListViewAdaptor::WriteColours() {
+    const Colour back = ChosenBack(control_.BackColor, QApplication::palette());
+    WriteBackColour(widget_, back, kFieldSurface);
 }
 
 void ListViewAdaptor::WriteMarks() {
@@ -201,14 +216,19 @@ void ListViewAdaptor::TakePicks() {
 TreeViewAdaptor::TreeViewAdaptor(TreeView& tree, QTreeWidget& widget) : ItemsAdaptor(tree, widget) {
     widget.setColumnCount(1);
     widget.setHeaderHidden(true);
+    // A long line is scrolled to its end, not cut.
+    widget.header()->setStretchLastSection(false);
+    widget.header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(&widget, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (ByUser() && item != nullptr) control_.Select(KeyOf(*item));
+        if (ByUser()) ShowImages();
     });
     connect(&widget, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
         if (ByUser()) control_.DoubleClick(KeyOf(*item));
     });
     const auto expand = [this](const QTreeWidgetItem* item) {
         if (ByUser()) control_.SetExpanded(KeyOf(*item), item->isExpanded());
+        if (ByUser()) ShowImages();
     };
     connect(&widget, &QTreeWidget::itemExpanded, this, expand);
     connect(&widget, &QTreeWidget::itemCollapsed, this, expand);
@@ -228,6 +248,9 @@ void TreeViewAdaptor::AddChildren(const Text& parent, QTreeWidgetItem& item) {
 }
 
 void TreeViewAdaptor::WriteItems() {
+    const TreeImages& images = control_.Images;
+    closed_ = IconFromFile(ToQString(images.closed), QStringLiteral("folderClosed"));
+    open_ = IconFromFile(ToQString(images.open), QStringLiteral("cmdOpen"));
     widget_.clear();
     items_.clear();
     AddChildren({}, *widget_.invisibleRootItem());
@@ -236,11 +259,20 @@ void TreeViewAdaptor::WriteItems() {
 void TreeViewAdaptor::WriteMarks() {
     for (const TreeNode& node : control_.Nodes())
         items_.at(node.key)->setExpanded(node.expanded);
+    ShowImages();
 }
 
 void TreeViewAdaptor::WriteSelection() {
     const auto selected = items_.find(control_.Selected());
     widget_.setCurrentItem(selected == items_.end() ? nullptr : selected->second);
+    ShowImages();
+}
+
+void TreeViewAdaptor::ShowImages() {
+    for (const auto& [key, item] : items_) {
+        const bool open = item == widget_.currentItem() || (item->isExpanded() && item->childCount() > 0);
+        item->setIcon(0, open ? open_ : closed_);
+    }
 }
 
 } // namespace korvane

@@ -29,6 +29,7 @@ protected:
         if (aspect == Aspect::Selection) WriteSelection();
         if (aspect == Aspect::Value) WriteMarks();
         if (aspect == Aspect::Range) WriteShape();
+        if (aspect == Aspect::Colours) WriteColours();
         AdaptorOf<ControlT, WidgetT>::Write(aspect);
     }
 
@@ -38,6 +39,7 @@ protected:
     virtual void WriteMarks() {}
     /// Columns and the like.
     virtual void WriteShape() {}
+    virtual void WriteColours() {}
 
     /// Whether a signal of the widget comes from the user.
     bool ByUser() const { return !writing_ && !stale_ && this->Attached(); }
@@ -107,7 +109,8 @@ protected:
     void WriteSelection() override;
 };
 
-/// A list with columns.
+/// A list with columns. The property "rowImages" of its look names the icons that stand in front of the rows,
+/// from the first image on.
 class ListViewAdaptor : public ItemsAdaptor<ListView, QTreeWidget> {
 public:
     ListViewAdaptor(ListView& list, QTreeWidget& widget);
@@ -117,8 +120,10 @@ protected:
     void WriteSelection() override;
     void WriteMarks() override;
     void WriteShape() override;
+    void WriteColours() override;
 
 private:
+    QIcon ImageOf(const ListRow& row) const;
     void ReadCurrent();
     void ReadPicks();
     void TakePicks();
@@ -135,10 +140,13 @@ protected:
     void WriteMarks() override;
 
 private:
+    void ShowImages();
     void AddChildren(const Text& parent, QTreeWidgetItem& item);
     static Text KeyOf(const QTreeWidgetItem& item);
 
     std::map<Text, QTreeWidgetItem*> items_;
+    QIcon closed_;
+    QIcon open_;
 };
 
 } // namespace korvane

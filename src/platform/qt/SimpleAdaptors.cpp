@@ -1,5 +1,6 @@
 #include "platform/qt/SimpleAdaptors.h"
 
+#include "platform/qt/BackColour.h"
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/Convert.h"
 
@@ -37,6 +38,7 @@ void ButtonAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption && !control_.Caption.Get().empty()) {
         widget_.setText(ToQString(control_.Caption.Get()));
     }
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kButtonSurface);
     AdaptorOf::Write(aspect);
 }
 
@@ -98,6 +100,7 @@ LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget) : AdaptorOf(label, widg
 
 void LabelAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption) widget_.setText(ToLines(control_.Caption.Get()));
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
     AdaptorOf::Write(aspect);
 }
 
@@ -107,6 +110,7 @@ void PanelAdaptor::Write(Aspect aspect) {
     // Without a caption of its own a frame keeps the title that its look has.
     if (aspect == Aspect::Caption && frame != nullptr && !caption.empty())
         frame->setTitle(ToQString(caption));
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
     AdaptorOf::Write(aspect);
 }
 

@@ -1,9 +1,8 @@
 #include "platform/qt/TextAdaptors.h"
 
-#include "platform/qt/CellLook.h"
+#include "platform/qt/BackColour.h"
 #include "platform/qt/Convert.h"
 
-#include <QApplication>
 #include <QScopedValueRollback>
 #include <QTextDocument>
 
@@ -14,16 +13,6 @@ namespace {
 /// So much of a text that nobody can change is shown: the toolkit lays out all it gets, and a user doesn't
 /// read more.
 constexpr std::size_t kMostToRead = 100'000;
-
-/// Colours of its own for a field; without one it goes with its window.
-void WriteBackColour(QWidget& field, Colour back) {
-    if (back == kNoColour) return field.setPalette(QPalette());
-    QPalette palette = field.palette();
-    const QColor colour = ToQColor(back);
-    palette.setColor(QPalette::Base, colour);
-    palette.setColor(QPalette::Text, TextFor(colour, QApplication::palette()));
-    field.setPalette(palette);
-}
 
 } // namespace
 
@@ -47,7 +36,7 @@ void LineAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Text && widget_.text() != text) widget_.setText(text);
     if (aspect == Aspect::Selection && !reading_) WriteSelection();
     if (aspect == Aspect::Enabled) widget_.setReadOnly(control_.Locked);
-    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor);
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kFieldSurface);
     AdaptorOf::Write(aspect);
 }
 
@@ -87,7 +76,7 @@ void LinesAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Text) WriteText();
     if (aspect == Aspect::Selection && !reading_) WriteSelection();
     if (aspect == Aspect::Enabled) WriteLocked();
-    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor);
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kFieldSurface);
     AdaptorOf::Write(aspect);
 }
 

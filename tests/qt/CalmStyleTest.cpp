@@ -1,0 +1,54 @@
+#include "platform/qt/CalmStyle.h"
+
+#include "QtSupport.h"
+#include "platform/qt/CellLook.h"
+#include "platform/qt/Palettes.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QStyleOptionButton>
+
+namespace korvane {
+namespace {
+
+class CalmStyleTest : public testing::Test {
+protected:
+    /// How well the upper edge of the widget's hollow is to be seen on its window.
+    double EdgeOf(QWidget& widget, const QPoint& place) {
+        widget.setStyle(&style);
+        widget.resize(120, 24);
+        const QImage picture = widget.grab().toImage();
+        return Contrast(QColor(picture.pixel(place)), QApplication::palette().color(QPalette::Window));
+    }
+
+    CalmStyle style;
+};
+
+TEST_F(CalmStyleTest, HollowsHaveAnEdgeOnADarkWindow) {
+    const test::UnderPalette under(DarkPalette());
+    QCheckBox box;
+    QStyleOptionButton option;
+    option.initFrom(&box);
+    option.rect = QRect(0, 0, 120, 24);
+    const QRect hollow = style.subElementRect(QStyle::SE_CheckBoxIndicator, &option, &box);
+    EXPECT_GT(EdgeOf(box, {hollow.center().x(), hollow.top()}), 2);
+    QLineEdit line;
+    EXPECT_GT(EdgeOf(line, {60, 0}), 2);
+}
+
+TEST_F(CalmStyleTest, EachKindOfMessageHasAnIconOfTheProgramsOwn) {
+    QList<QImage> pictures;
+    for (const auto kind : {QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxQuestion,
+                            QStyle::SP_MessageBoxWarning, QStyle::SP_MessageBoxCritical}) {
+        const QImage picture = style.standardIcon(kind, nullptr, nullptr).pixmap(48, 48).toImage();
+        EXPECT_FALSE(picture.isNull());
+        EXPECT_FALSE(pictures.contains(picture));
+        pictures << picture;
+    }
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_DirIcon, nullptr, nullptr).isNull());
+}
+
+} // namespace
+} // namespace korvane
