@@ -4,6 +4,7 @@
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
+#include "platform/qt/LogOut.h"
 #include "platform/xls/XlsSpreadsheet.h"
 #include "shell/frmMDIParent.h"
 
@@ -14,8 +15,9 @@ namespace korvane {
 
 namespace {
 
-App::Platform Complete(App::Platform platform, const SystemFolders& folders) {
+App::Platform Complete(App::Platform platform, const SystemFolders& folders, const UserLocale& locale) {
     platform.folders = &folders;
+    platform.locale = &locale;
     platform.codePage = UserCodePage();
     platform.makeGrid = [page = platform.codePage] { return std::make_unique<MemoryGrid>(page); };
     platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
@@ -36,9 +38,12 @@ Program::Program(InstanceChannel& channel, MessageBoxes& messages)
     : files_(OwnFiles()),
       forms_(KorvaneForms()),
       app_(Complete({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr},
-                    folders_)) {
+                    folders_, locale_)) {
     app_.FilePicker = &filePicker_;
     app_.SystemFileDialog = &systemFileDialog_;
+    app_.FontPicker = &fontPicker_;
+    app_.ColourPicker = &colourPicker_;
+    app_.FileViewer = &fileViewer_;
 }
 
 int Program::Run(const Text& path) {
@@ -46,6 +51,8 @@ int Program::Run(const Text& path) {
     main.EnsureLoaded();
     if (app_.SecondInstance == 1) return 0;
     main.Show();
+    QObject whileItRuns;
+    CloseAtLogOut(main, whileItRuns);
     forms_.RunUntilClosed(main);
     return 0;
 }

@@ -6,10 +6,13 @@
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtFormHost.h"
+#include "platform/qt/QtPickers.h"
 #include "platform/qt/QtScreen.h"
 #include "platform/qt/QtSystemFileDialog.h"
 #include "platform/qt/QtSystemFolders.h"
+#include "platform/qt/QtUserLocale.h"
 #include "platform/qt/desktop/QtShell.h"
+#include "shell/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
 
 #include <QString>
@@ -35,11 +38,15 @@ private:
     QtScreen screen_;
     QtShell shell_;
     QtSystemFolders folders_;
+    QtUserLocale locale_;
     QtFormHost forms_;
     QtFilePicker filePicker_;
     QtSystemFileDialog systemFileDialog_;
+    QtFontPicker fontPicker_;
+    QtColourPicker colourPicker_;
     App app_;
     ClipboardWindow clipboardWindow_{app_};
+    DesktopFileViewer fileViewer_{app_};
 };
 
 } // namespace korvane

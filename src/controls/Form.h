@@ -66,6 +66,8 @@ public:
     virtual void Unload() {}
     virtual void Activate() {}
     virtual void Resize() {}
+    /// The user dropped files on the window.
+    virtual void FilesDropped(const std::vector<Text>&) {}
     /// Sees each key before the control that has the focus.
     virtual void KeyDown(KeyEvent&) {}
 

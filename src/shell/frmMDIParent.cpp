@@ -148,6 +148,11 @@ void frmMDIParent::Resize() {
     if (Picture2.Visible) SetSideBarWidth(false);
 }
 
+void frmMDIParent::FilesDropped(const std::vector<Text>& paths) {
+    for (const Text& path : paths)
+        txtCommand.Text = path;
+}
+
 void frmMDIParent::txtCommand_Change() {
     const Text path(Trim(txtCommand.Text.Get()));
     if (!path.empty() && app_.Files().FileExists(path)) {

@@ -63,6 +63,7 @@ public:
     void Load() override;
     void Activate() override;
     void Resize() override;
+    void FilesDropped(const std::vector<Text>& paths) override;
     bool QueryUnload() override;
     void Unload() override;
 

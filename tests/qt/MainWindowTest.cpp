@@ -2,8 +2,10 @@
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/Convert.h"
 #include "platform/qt/Icons.h"
+#include "platform/qt/LogOut.h"
 #include "platform/qt/QtFormHost.h"
 #include "platform/qt/SideBarView.h"
+#include "platform/qt/TabLook.h"
 #include "platform/qt/TabPages.h"
 #include "shell/Commands.h"
 #include "shell/frmMDIChild.h"
@@ -19,8 +21,11 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace korvane {
 namespace {
@@ -237,6 +242,173 @@ TEST_F(MainWindowTest, TheSideBarIsHiddenAndShownByItsEntry) {
     EXPECT_TRUE(Part<QWidget>("Picture2").isVisible());
     EXPECT_EQ(Part<QWidget>("iGridListBar").width(), 146);
     EXPECT_EQ(Part<QWidget>("Picture2").width(), ToPixels(Twips{146 * 15 + 80}));
+}
+
+TEST_F(MainWindowTest, TheSideBarIsAHandsThingWhileThePointerIsOverIt) {
+    auto& bar = Part<SideBarView>("iGridListBar");
+    const auto highlight = [&bar] { return QColor(bar.grab().toImage().pixel(bar.width() / 4, 8)); };
+    EXPECT_EQ(highlight(), ToQColor(Colour{10327187}));
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(&bar, &enter);
+    EXPECT_EQ(bar.viewport()->cursor().shape(), Qt::PointingHandCursor);
+    EXPECT_EQ(highlight(), ToQColor(Colour{16252927}));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&bar, &leave);
+    EXPECT_EQ(bar.viewport()->cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(highlight(), ToQColor(Colour{10327187}));
+}
+
+TEST_F(MainWindowTest, TheHandIsThePictureOfItsFileWhereThereIsOne) {
+    const QTemporaryDir folder;
+    QPixmap hand(24, 24);
+    hand.fill(Qt::red);
+    ASSERT_TRUE(hand.save(folder.filePath("hand.png")));
+    main.iGridListBar.HandImage = ToText(folder.filePath("hand.png"));
+    main.iGridListBar.MousePointer = Pointer::Hand;
+    const QCursor cursor = Part<SideBarView>("iGridListBar").viewport()->cursor();
+    EXPECT_EQ(cursor.shape(), Qt::BitmapCursor);
+    EXPECT_EQ(cursor.pixmap().size(), QSize(24, 24));
+}
+
+TEST_F(MainWindowTest, AChosenStyleColoursToolBarSideBarAndLabel) {
+    main.OfficeMenu1.Choose("mnuStyle11");
+    test::Settle();
+    const QColor strip = ToQColor(TabStyleOf(25).light.strip);
+    const auto pixel = [this](const char* name, int x, int y) {
+        return QColor(Part<QWidget>(name).grab().toImage().pixel(x, y));
+    };
+    EXPECT_EQ(pixel("lblListBar", 0, 0), strip);
+    EXPECT_EQ(pixel("Picture2", 1, 1), strip);
+    EXPECT_EQ(pixel("iGridListBar", 0, 70), strip);
+    EXPECT_EQ(Part<QWidget>("picToolbar").palette().color(QPalette::Window), strip);
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Tabs().Colours().strip, strip);
+}
+
+TEST_F(MainWindowTest, AStepOfTheToolBarChangesTheStripAlone) {
+    const QColor before = Part<QWidget>("lblListBar").palette().color(QPalette::Window);
+    Part<QAction>("cmdStyleForward").trigger();
+    EXPECT_EQ(Part<QWidget>("lblListBar").palette().color(QPalette::Window), before);
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Tabs().Colours().strip, ToQColor(TabStyleOf(1).light.strip));
+}
+
+/// What is to be seen of the strip above the table.
+QList<QWidget*> ShownParts(const QWidget& strip) {
+    QList<QWidget*> shown;
+    for (QWidget* part : strip.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (part->isVisible()) shown << part;
+    }
+    return shown;
+}
+
+TEST_F(MainWindowTest, TheStripAboveTheTableIsWholeWhereItIsWide) {
+    Window().resize(1200, 700);
+    test::Settle();
+    EXPECT_EQ(ShownParts(Part<QWidget>("Picture1")).size(), 9);
+    EXPECT_EQ(Part<QToolButton>("cmdWebsites").toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+}
+
+TEST_F(MainWindowTest, NothingOfTheStripIsCrowdedAtAnyWidth) {
+    for (int width = 1200; width >= 320; width -= 20) {
+        Window().resize(width, 400);
+        test::Settle();
+        const QWidget& strip = Part<QWidget>("Picture1");
+        const QList<QWidget*> parts = ShownParts(strip);
+        for (const QWidget* part : parts) {
+            EXPECT_TRUE(strip.rect().contains(part->geometry())) << width;
+            EXPECT_GE(part->width(), part->minimumSizeHint().width()) << width;
+            for (const QWidget* other : parts)
+                EXPECT_TRUE(part == other || !part->geometry().intersects(other->geometry())) << width;
+        }
+        EXPECT_TRUE(Part<QLineEdit>("txtFindString").isVisible());
+        EXPECT_GE(Part<QLineEdit>("txtFindString").width(), 100);
+    }
+}
+
+/// What a file manager drags.
+std::unique_ptr<QMimeData> Dragged(const QList<QUrl>& urls) {
+    auto data = std::make_unique<QMimeData>();
+    data->setUrls(urls);
+    return data;
+}
+
+TEST_F(MainWindowTest, DroppedFilesAreLoadedOneAfterTheOther) {
+    outside.files.AddFile(u"C:\\data\\a.tbx", NameTable(u"C:\\data\\a.tbx", {"A"}));
+    outside.files.AddFile(u"C:\\data\\b.tbx", NameTable(u"C:\\data\\b.tbx", {"B"}));
+    main.FilesDropped({u"C:\\data\\a.tbx", u"C:\\data\\lost.tbx", u"C:\\data\\b.tbx"});
+    const auto& tabs = Part<TabPages>("MDITabs1").Tabs();
+    ASSERT_EQ(tabs.count(), 3);
+    EXPECT_EQ(tabs.tabText(1), QString("a.tbx"));
+    EXPECT_EQ(tabs.tabText(2), QString("b.tbx"));
+    EXPECT_EQ(main.txtCommand.Text.Get(), u"");
+}
+
+TEST_F(MainWindowTest, ADropOfFilesReachesTheWindow) {
+    // Paths of this computer are no paths of the platform in memory, which takes them for relative ones.
+    outside.files.AddFile(u"/drop.tbx", NameTable(u"/drop.tbx", {"D"}));
+    const auto data = Dragged({QUrl("file:///drop.tbx"), QUrl("https://localhost/page.tbx")});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Window(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Window(), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Count(), 1) << "before the drop has ended";
+    test::Settle();
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Count(), 2);
+}
+
+TEST_F(MainWindowTest, WhatIsNoFileIsNotTaken) {
+    auto text = std::make_unique<QMimeData>();
+    text->setText("C:\\data\\people.tbx");
+    const auto page = Dragged({QUrl("https://localhost/page.tbx")});
+    for (const QMimeData* data : {text.get(), page.get()}) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&Window(), &enter);
+        EXPECT_FALSE(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&Window(), &drop);
+        EXPECT_FALSE(drop.isAccepted());
+    }
+    test::Settle();
+    EXPECT_EQ(Part<TabPages>("MDITabs1").Count(), 1);
+}
+
+/// The end of a session as the desktop announces it.
+struct Session {
+    bool allowsInteraction() const { return interactive; }
+    void release() { ++released; }
+    void cancel() { cancelled = true; }
+    bool interactive = true;
+    int released = 0;
+    bool cancelled = false;
+};
+
+TEST_F(MainWindowTest, ALogOutAsksAboutChangesAndACancelKeepsTheSession) {
+    main.TheTabs().Active()->Table().TableAltered = 1;
+    outside.user.Answer(Answer::Cancel);
+    Session session;
+    AnswerLogOut(session, main);
+    EXPECT_TRUE(session.cancelled);
+    EXPECT_EQ(session.released, 1);
+    EXPECT_TRUE(main.Shown());
+}
+
+TEST_F(MainWindowTest, ALogOutClosesTheProgramAsItsUserWould) {
+    main.TheTabs().Active()->Table().TableAltered = 1;
+    outside.user.Answer(Answer::Yes);
+    Session session;
+    AnswerLogOut(session, main);
+    EXPECT_FALSE(session.cancelled);
+    EXPECT_EQ(session.released, 1);
+    EXPECT_FALSE(main.Shown());
+}
+
+TEST_F(MainWindowTest, ALogOutThatLetsNobodyBeAskedLeavesTheWindow) {
+    Session session;
+    session.interactive = false;
+    AnswerLogOut(session, main);
+    EXPECT_FALSE(session.cancelled);
+    EXPECT_TRUE(main.Shown());
 }
 
 TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {

@@ -1,18 +1,25 @@
 #include "QtSupport.h"
 #include "platform/qt/Convert.h"
+#include "platform/qt/Palettes.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtFilePicker.h"
 #include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtPickers.h"
 #include "platform/qt/QtScreen.h"
 #include "platform/qt/QtSystemFolders.h"
+#include "platform/qt/QtUserLocale.h"
 
 #include <gtest/gtest.h>
 
+#include <QAbstractProxyModel>
 #include <QClipboard>
+#include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileSystemModel>
+#include <QFontDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -153,6 +160,24 @@ TEST(QtScreenTest, LetsMessagesRun) {
     EXPECT_TRUE(ran);
 }
 
+TEST(QtScreenTest, IsDarkWhereTheWindowsAre) {
+    EXPECT_FALSE(QtScreen().IsDark());
+    const test::UnderPalette under(DarkPalette());
+    EXPECT_TRUE(QtScreen().IsDark());
+}
+
+// ---- Dates --------------------------------------------------------------------------------------------
+
+TEST(QtUserLocaleTest, WritesDatesAsTheUsersLanguageDoes) {
+    constexpr DateTime when{2026, 11, 21, 9, 12, 30};
+    EXPECT_EQ(QtUserLocale(QLocale("de_DE")).GeneralDate(when), u"21.11.26 09:12");
+    EXPECT_EQ(QtUserLocale(QLocale("en_GB")).GeneralDate(when), u"21/11/2026 09:12");
+    EXPECT_EQ(FormatDate(when, u"dddd, mmmm d", QtUserLocale(QLocale("de_DE")).Names()),
+              u"Samstag, November 21");
+    EXPECT_EQ(FormatDate({2026, 11, 22}, u"dddd, mmm", QtUserLocale(QLocale("fr_FR")).Names()),
+              u"dimanche, nov.");
+}
+
 // ---- Folders ------------------------------------------------------------------------------------------
 
 TEST(QtSystemFoldersTest, TheDocumentsAreWhereTheDesktopKeepsThem) {
@@ -240,6 +265,85 @@ TEST_F(QtFilePickerTest, ASaveTakesTheNameAsItIsGiven) {
     });
     EXPECT_EQ(request.ChosenFilePath, ToText(dir.filePath("new name")));
     EXPECT_EQ(request.ChosenFileCount, 1);
+}
+
+#ifndef Q_OS_WIN
+TEST_F(QtFilePickerTest, ProgramsAreToldByTheirRightToRun) {
+    QFile program(dir.filePath("one.tbx"));
+    ASSERT_TRUE(program.setPermissions(program.permissions() | QFile::ExeOwner));
+    request.FileDialogFilter = u"*.exe";
+    Choose([this](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.nameFilters(), QStringList{"*"});
+        ASSERT_NE(dialog.proxyModel(), nullptr);
+        auto* source = qobject_cast<QFileSystemModel*>(dialog.proxyModel()->sourceModel());
+        ASSERT_NE(source, nullptr);
+        const auto offered = [&](const char* name) {
+            return dialog.proxyModel()->mapFromSource(source->index(dir.filePath(name))).isValid();
+        };
+        EXPECT_TRUE(offered("one.tbx"));
+        EXPECT_FALSE(offered("two.tbx"));
+        dialog.reject();
+    });
+}
+#endif
+
+// ---- The system's own dialogs -------------------------------------------------------------------------
+
+/// Stands in front of the dialogs that a test opens.
+class DialogsTest : public testing::Test {
+protected:
+    void SetUp() override {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    /// Does something with the dialog as soon as it stands.
+    template <class DialogT>
+    void When(const std::function<void(DialogT&)>& act) {
+        QTimer::singleShot(0, [this, act] {
+            auto* dialog = qobject_cast<DialogT*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->parentWidget(), &window);
+            act(*dialog);
+        });
+    }
+
+    QWidget window;
+    QTemporaryDir dir;
+};
+
+TEST_F(DialogsTest, TheFontDialogOpensOnThePresentFontAndTellsTheChosenOne) {
+    When<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().family(), QString("DejaVu Serif"));
+        EXPECT_EQ(dialog.currentFont().pointSize(), 14);
+        QFont font("DejaVu Sans", 9);
+        font.setBold(true);
+        dialog.setCurrentFont(font);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(QtFontPicker().Choose({u"DejaVu Serif", 14}), (FontSpec{u"DejaVu Sans", 9, true}));
+}
+
+TEST_F(DialogsTest, ACancelledFontDialogTellsNothing) {
+    When<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(QtFontPicker().Choose({}), std::nullopt);
+}
+
+TEST_F(DialogsTest, TheColourDialogOpensOnTheStartAndTellsTheChosenColour) {
+    When<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(0x10, 0x20, 0x30));
+        dialog.setCurrentColor(QColor(1, 2, 3));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(QtColourPicker().Choose(Colour{0x302010}, ColourPicker::Extent::Simple), Colour{0x030201});
+}
+
+TEST_F(DialogsTest, ACancelledColourDialogTellsNothing) {
+    When<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(Qt::white));
+        dialog.reject();
+    });
+    EXPECT_EQ(QtColourPicker().Choose(kNoColour, ColourPicker::Extent::Full), std::nullopt);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/qt/Convert.h"
 #include "platform/qt/FileDialogFilters.h"
+#include "platform/qt/ProgramsOnly.h"
 
 #include <QApplication>
 #include <QDir>
@@ -20,6 +21,7 @@ void SetUp(QFileDialog& dialog, const ListerRequest& request) {
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFiles);
     dialog.setNameFilter(FilePatterns(request.FileDialogFilter));
+    OfferProgramsFor(request.FileDialogFilter, dialog);
     const QFileInfo present(ToQString(request.FileDialogDefaultName));
     if (present.isAbsolute()) dialog.setDirectory(present.absolutePath());
     if (save && !present.fileName().isEmpty()) dialog.selectFile(present.fileName());

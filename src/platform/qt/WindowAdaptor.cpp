@@ -3,10 +3,12 @@
 #include "controls/CommandButton.h"
 #include "platform/qt/CellEditor.h"
 #include "platform/qt/Convert.h"
+#include "platform/qt/DroppedFiles.h"
 #include "platform/qt/Keys.h"
 
 #include <QCloseEvent>
 #include <QDialog>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QPushButton>
@@ -82,6 +84,13 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
         return CloseWanted(*event);
     case QEvent::KeyPress:
         return KeyPressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        AcceptFiles(*event);
+        return true;
+    case QEvent::Drop:
+        TakeDrop(*event);
+        return true;
     case QEvent::WindowActivate:
         TellActivated();
         break;
@@ -118,6 +127,19 @@ bool WindowAdaptor::CloseWanted(QEvent& event) {
     FinishTyping();
     event.setAccepted(form_ == nullptr || form_->Close());
     return true;
+}
+
+void WindowAdaptor::TakeDrop(QEvent& event) {
+    AcceptFiles(event);
+    if (!event.isAccepted()) return;
+    FinishTyping();
+    // Later: where the files come from waits for the end of the drop, and a load may ask questions.
+    QMetaObject::invokeMethod(
+        this,
+        [this, files = LocalFiles(*static_cast<QDropEvent&>(event).mimeData())] {
+            if (form_ != nullptr) form_->FilesDropped(files);
+        },
+        Qt::QueuedConnection);
 }
 
 bool WindowAdaptor::KeyPressed(const QKeyEvent& event) {

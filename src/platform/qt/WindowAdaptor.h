@@ -29,6 +29,7 @@ protected:
 private:
     void TellActivated();
     bool CloseWanted(QEvent& event);
+    void TakeDrop(QEvent& event);
     bool KeyPressed(const QKeyEvent& event);
     bool PressButtonFor(int code);
     void WritePlace();
