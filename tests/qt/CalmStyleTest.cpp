@@ -50,5 +50,13 @@ TEST_F(CalmStyleTest, EachKindOfMessageHasAnIconOfTheProgramsOwn) {
     EXPECT_FALSE(style.standardIcon(QStyle::SP_DirIcon, nullptr, nullptr).isNull());
 }
 
+TEST_F(CalmStyleTest, TheArrowToMoreToolsGoesWithThePalette) {
+    const test::UnderPalette under(DarkPalette());
+    const QImage arrow = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr)
+                             .pixmap(24, 24)
+                             .toImage();
+    EXPECT_EQ(QColor(arrow.pixelColor(11, 12).rgb()), DarkPalette().color(QPalette::ButtonText));
+}
+
 } // namespace
 } // namespace korvane

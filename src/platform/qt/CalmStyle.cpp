@@ -35,7 +35,7 @@ void DrawEdge(QStyle::PrimitiveElement element, const QStyleOption& option, QPai
     painter.restore();
 }
 
-QString BoxIconName(QStyle::StandardPixmap picture) {
+QString OwnIconName(QStyle::StandardPixmap picture) {
     switch (picture) {
     case QStyle::SP_MessageBoxInformation:
         return QStringLiteral("boxInformation");
@@ -45,6 +45,8 @@ QString BoxIconName(QStyle::StandardPixmap picture) {
         return QStringLiteral("boxExclamation");
     case QStyle::SP_MessageBoxCritical:
         return QStringLiteral("boxStop");
+    case QStyle::SP_ToolBarHorizontalExtensionButton:
+        return QStringLiteral("moreTools");
     default:
         return {};
     }
@@ -74,7 +76,7 @@ QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
 
 QIcon CalmStyle::standardIcon(StandardPixmap picture, const QStyleOption* option,
                               const QWidget* widget) const {
-    const QIcon own = TintedIcon(BoxIconName(picture));
+    const QIcon own = TintedIcon(OwnIconName(picture));
     return own.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : own;
 }
 

@@ -6,7 +6,7 @@ namespace korvane {
 
 /// Fusion, a little quieter: buttons of dialogs without pictures, captions of columns as far from the edge as
 /// the texts of the cells below them, lists with some air between their lines, message boxes with icons of
-/// the program's own, and edges that can be seen on a dark window.
+/// the program's own, and edges and arrows that can be seen on a dark window.
 class CalmStyle : public QProxyStyle {
     Q_OBJECT
 
