@@ -160,9 +160,9 @@ TEST_F(TabStripTest, CtrlTabGoesRoundTheTabs) {
 
 TEST_F(TabStripTest, DrawingCanBeHeld) {
     parent.MDITabs1.AllowDrawing = false;
-    EXPECT_FALSE(Pages().updatesEnabled());
+    EXPECT_FALSE(Pages().Tabs().updatesEnabled());
     parent.MDITabs1.AllowDrawing = true;
-    EXPECT_TRUE(Pages().updatesEnabled());
+    EXPECT_TRUE(Pages().Tabs().updatesEnabled());
 }
 
 int DifferentPixels(const QImage& a, const QImage& b) {
@@ -248,6 +248,20 @@ TEST_F(TabStripTest, ATabIsClosedByItsOwnButton) {
     wanted = nullptr;
     QTest::mouseClick(Tabs().tabButton(0, QTabBar::RightSide), Qt::LeftButton);
     EXPECT_EQ(wanted, &second);
+}
+
+TEST_F(TabStripTest, ATabIsAsWideAsItsCaptionInTheFontOfTheMoment) {
+    AddBoth();
+    QTabBar& tabs = Tabs();
+    const int before = tabs.tabRect(0).width();
+    tabs.setTabText(0, tabs.tabText(0) + " and more");
+    const int longer = tabs.tabRect(0).width();
+    EXPECT_GT(longer, before);
+    QFont font = tabs.font();
+    font.setPixelSize(2 * QFontInfo(font).pixelSize());
+    tabs.setFont(font);
+    test::Settle();
+    EXPECT_GT(tabs.tabRect(0).width(), longer);
 }
 
 } // namespace

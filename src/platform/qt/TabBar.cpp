@@ -4,6 +4,7 @@
 #include "platform/qt/TabLook.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 #include <QStyleOptionTab>
@@ -67,7 +68,8 @@ TabBar::TabBar(QWidget* parent) : QTabBar(parent), style_(&TabStyleOf(0)) {
     setMovable(false);
     setDrawBase(false);
     setUsesScrollButtons(true);
-    setElideMode(Qt::ElideMiddle);
+    // Captions are cut where they are painted: the toolkit would cut those of all tabs at each layout.
+    setElideMode(Qt::ElideNone);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
 }
@@ -85,9 +87,20 @@ TabColours TabBar::Colours() const {
 QSize TabBar::tabSizeHint(int index) const {
     const QFontMetrics metrics = fontMetrics();
     const int letter = metrics.averageCharWidth();
-    const int caption = metrics.size(Qt::TextShowMnemonic, tabText(index)).width();
-    const int width = std::clamp(caption, kShortest * letter, kLongest * letter);
+    const int width = std::clamp(CaptionWidth(tabText(index)), kShortest * letter, kLongest * letter);
     return {width + kBesideCaption, metrics.height() + kRoomAround};
+}
+
+int TabBar::CaptionWidth(const QString& caption) const {
+    auto width = captionWidths_.constFind(caption);
+    if (width == captionWidths_.constEnd())
+        width = captionWidths_.insert(caption, fontMetrics().size(Qt::TextShowMnemonic, caption).width());
+    return *width;
+}
+
+void TabBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) captionWidths_.clear();
+    QTabBar::changeEvent(event);
 }
 
 QSize TabBar::minimumTabSizeHint(int index) const {
@@ -187,7 +200,7 @@ void TabBar::PaintMark(QPainter& painter, const QRect& shape, const TabColours& 
 void TabBar::PaintCaption(QPainter& painter, int index, const QColor& colour) const {
     const QRect room = ShapeOf(index).adjusted(kPadding, 0, -2 * kPadding - kCloseSize, 0);
     const QString caption =
-        fontMetrics().elidedText(tabText(index), elideMode(), room.width(), Qt::TextShowMnemonic);
+        fontMetrics().elidedText(tabText(index), Qt::ElideMiddle, room.width(), Qt::TextShowMnemonic);
     painter.setPen(colour);
     painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic, caption);
     if (!hasFocus() || index != currentIndex()) return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QPainterPath>
 #include <QTabBar>
 
@@ -25,8 +26,10 @@ protected:
     void tabInserted(int index) override;
     void tabLayoutChange() override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    int CaptionWidth(const QString& caption) const;
     void CloseAt(const QWidget& button);
     QRect ShapeOf(int index) const;
     QPainterPath OutlineOf(const QRectF& shape) const;
@@ -36,6 +39,8 @@ private:
 
     const TabStyle* style_;
     bool framed_ = false;
+    /// In the present font. Each new tab makes the toolkit ask for all of them several times.
+    mutable QHash<QString, int> captionWidths_;
 };
 
 } // namespace korvane

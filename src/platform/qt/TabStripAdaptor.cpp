@@ -28,7 +28,7 @@ void TabStripAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Items) WriteTabs();
     if (aspect == Aspect::Items || aspect == Aspect::Selection) ShowActive();
     if (aspect == Aspect::Items && !tied_) TakeKeyboard();
-    if (aspect == Aspect::Visible) widget_.setUpdatesEnabled(control_.AllowDrawing);
+    if (aspect == Aspect::Visible) widget_.Tabs().setUpdatesEnabled(control_.AllowDrawing);
     if (aspect == Aspect::Colours) widget_.Tabs().SetLook(control_.Style, control_.Framed);
     AdaptorOf::Write(aspect);
 }
