@@ -1,6 +1,7 @@
 // Any bytes as a table's file: the table is that of a plain reader, and comes back from what is written of
 // it.
 
+#include "Require.h"
 #include "common/CodePage.h"
 #include "platform/FileSystem.h"
 #include "platform/memory/MemoryGrid.h"
@@ -11,8 +12,6 @@
 #include "table/TbxWriter.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string>
 
@@ -45,12 +44,6 @@ struct Table {
     MemoryGrid grid{CodePage::Windows1252()};
     TableModel model{grid};
 };
-
-void Require(bool holds, const char* what) {
-    if (holds) return;
-    std::fprintf(stderr, "broken: %s\n", what);
-    std::abort();
-}
 
 bool Load(std::string_view bytes, Table& table) {
     const std::shared_ptr<char[]> copy(new char[bytes.size()]);

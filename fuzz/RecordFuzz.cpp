@@ -1,0 +1,73 @@
+// Any bytes as the record of recent files, with loads after it: it is read without a word, never grows past
+// its lines, and what is written of it comes back.
+
+#include "StateStage.h"
+#include "common/DateTime.h"
+#include "shell/RecentRecord.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace korvane {
+namespace {
+
+constexpr DateTime kNow{2026, 11, 21, 10, 30, 0};
+constexpr std::size_t kMostLoads = 8;
+
+RecentRecord Read(std::string_view bytes, StateStage& stage) {
+    stage.files.AddFile(stage.app.RecFilePath, bytes);
+    RecentRecord record;
+    record.Read(stage.app);
+    return record;
+}
+
+std::string Write(const RecentRecord& record, StateStage& stage) {
+    record.Write(stage.app);
+    return stage.files.Contents(stage.app.RecFilePath).value_or("");
+}
+
+void RequireWithinBounds(const RecentRecord& record) {
+    Require(record.RecentNext >= 1 && record.RecentNext <= RecentRecord::kEntries + 1,
+            "the count stays within the record");
+    Require(record.RecentEntries.front().empty(), "entry 0 is never used");
+}
+
+void RequireThatItComesBack(const RecentRecord& record, StateStage& stage) {
+    std::vector<Text> kept;
+    for (int i = 1; i <= RecentRecord::kEntries; ++i) {
+        const Text& entry = record.RecentEntries[static_cast<std::size_t>(i)];
+        if (!entry.empty()) kept.push_back(entry);
+    }
+    const RecentRecord again = Read(Write(record, stage), stage);
+    const bool same = std::equal(kept.begin(), kept.end(), again.RecentEntries.begin() + 1);
+    Require(same && again.RecentNext == static_cast<int>(kept.size()) + 1, "what is written comes back");
+}
+
+/// A first byte says how many loads follow; the paths are the ends of the record itself, so that they are
+/// found in it now and then.
+void Check(std::string_view bytes) {
+    const std::size_t loads = bytes.empty() ? 0 : static_cast<unsigned char>(bytes[0]) % kMostLoads;
+    if (!bytes.empty()) bytes.remove_prefix(1);
+    StateStage stage;
+    RecentRecord record = Read(bytes, stage);
+    RequireWithinBounds(record);
+    RequireThatItComesBack(record, stage);
+    for (std::size_t i = 1; i <= loads; ++i) {
+        const std::string_view end = bytes.substr(bytes.size() - std::min(bytes.size(), 3 * i));
+        Text path = stage.app.Page().ToText(end);
+        std::erase(path, u'\r');
+        record.AddToRecent(path, 0, kNow);
+        RequireWithinBounds(record);
+    }
+    RequireThatItComesBack(record, stage);
+}
+
+} // namespace
+} // namespace korvane
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    korvane::Check({reinterpret_cast<const char*>(data), size});
+    return 0;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Require.h"
+#include "context/App.h"
+#include "controls/FormHost.h"
+#include "platform/MessageBoxes.h"
+#include "platform/memory/MemoryClipboard.h"
+#include "platform/memory/MemoryClock.h"
+#include "platform/memory/MemoryFileSystem.h"
+#include "platform/memory/MemoryGrid.h"
+#include "platform/memory/MemoryInstanceChannel.h"
+#include "platform/memory/MemoryScreen.h"
+#include "platform/memory/MemoryShell.h"
+
+#include <memory>
+
+namespace korvane {
+
+/// Nobody sits in front of the program, and nothing may have to be told.
+class SilentUser final : public MessageBoxes, public FormHost {
+public:
+    Answer Show(const Message&) override {
+        Require(false, "nothing is to be told");
+        return Answer::Ok;
+    }
+    void RunModal(Form&) override {}
+    void Show(Form&) override {}
+    void Hide(Form&) override {}
+    void PopUp(Menu&) override {}
+    void Raise(Form&) override {}
+};
+
+/// An App on a disk in memory, for the readers and writers of the state files.
+class StateStage {
+public:
+    StateStage() {
+        app.IniFilePath = u"C:\\Korvane\\Korvane.ini";
+        app.RecFilePath = u"C:\\Korvane\\Korvane.rec";
+    }
+
+    MemoryClock clock;
+    MemoryFileSystem files{PathStyle::Windows, clock};
+    MemoryClipboard clipboard;
+    MemoryScreen screen;
+    MemoryShell shell;
+    MemoryInstanceChannel instance;
+    SilentUser user;
+    App app{{files, user, clipboard, clock, screen, shell, instance, user,
+             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             nullptr}};
+};
+
+} // namespace korvane
