@@ -156,7 +156,13 @@ int Render(const QString& folder) {
     RenderDialogs(album, stage);
     RenderBoxes(album);
     RenderIcons(album);
-    PutWindow(album, "frmMDIParent", *stage.Host().WidgetOf(stage.Main()));
+    QWidget& window = *stage.Host().WidgetOf(stage.Main());
+    const QSize own = window.size();
+    PutWindow(album, "frmMDIParent", window);
+    window.resize(own);
+    stage.Main().OfficeMenu1.Choose("mnuStyle11");
+    Stage::Settle();
+    album.Put("frmMDIParent-coloured", window.grab());
     return album.Complete() ? 0 : 1;
 }
 
