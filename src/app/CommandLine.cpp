@@ -4,13 +4,6 @@
 
 namespace korvane {
 
-QStringList Arguments(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
-    return arguments;
-}
-
 CommandLine ReadCommandLine(const QStringList& arguments) {
     CommandLine line;
     QStringList rest = arguments;

@@ -17,7 +17,7 @@ struct CommandLine {
     bool dark = false;
 };
 
-/// The arguments behind the program's name, as text.
+/// What was typed behind the program's name: its words, or all of it where the system hands it over so.
 QStringList Arguments(int argc, char** argv);
 /// Options count only in front, so that a file may have any name behind them.
 CommandLine ReadCommandLine(const QStringList& arguments);

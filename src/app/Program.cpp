@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "app/SystemParts.h"
 #include "platform/memory/MemoryGrid.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
@@ -34,11 +35,13 @@ NativeFileSystem OwnFiles() {
 
 } // namespace
 
-Program::Program(InstanceChannel& channel, MessageBoxes& messages)
-    : files_(OwnFiles()),
+Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages)
+    : system_(system),
+      files_(OwnFiles()),
       forms_(KorvaneForms()),
-      app_(Complete({files_, messages, clipboard_, clock_, screen_, shell_, channel, forms_, nullptr},
-                    folders_, locale_)) {
+      app_(Complete(
+          {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
+          system.Folders(), locale_)) {
     app_.FilePicker = &filePicker_;
     app_.SystemFileDialog = &systemFileDialog_;
     app_.FontPicker = &fontPicker_;
@@ -51,6 +54,7 @@ int Program::Run(const Text& path) {
     main.EnsureLoaded();
     if (app_.SecondInstance == 1) return 0;
     main.Show();
+    if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
     QObject whileItRuns;
     CloseAtLogOut(main, whileItRuns);
     forms_.RunUntilClosed(main);

@@ -9,9 +9,7 @@
 #include "platform/qt/QtPickers.h"
 #include "platform/qt/QtScreen.h"
 #include "platform/qt/QtSystemFileDialog.h"
-#include "platform/qt/QtSystemFolders.h"
 #include "platform/qt/QtUserLocale.h"
-#include "platform/qt/desktop/QtShell.h"
 #include "shell/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
 
@@ -19,11 +17,13 @@
 
 namespace korvane {
 
+class SystemParts;
+
 /// The program put together from its real parts.
 class Program {
 public:
-    /// Both outlive the program.
-    Program(InstanceChannel& channel, MessageBoxes& messages);
+    /// All outlive the program.
+    Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages);
 
     /// Runs until the main window closes, or, in a second start, until its file is handed over. The exit
     /// status.
@@ -32,12 +32,11 @@ public:
     int Render(const Text& path, const QString& picture);
 
 private:
+    SystemParts& system_;
     NativeFileSystem files_;
     QtClipboard clipboard_;
     NativeClock clock_;
     QtScreen screen_;
-    QtShell shell_;
-    QtSystemFolders folders_;
     QtUserLocale locale_;
     QtFormHost forms_;
     QtFilePicker filePicker_;

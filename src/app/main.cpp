@@ -2,10 +2,10 @@
 #include "app/CommandLine.h"
 #include "app/PrintedMessages.h"
 #include "app/Program.h"
+#include "app/SystemParts.h"
 #include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/qt/Palettes.h"
 #include "platform/qt/QtMessageBoxes.h"
-#include "platform/qt/instance/LocalSocketChannel.h"
 
 namespace korvane {
 namespace {
@@ -13,16 +13,17 @@ namespace {
 /// A picture is taken beside whatever runs, and nobody is there to answer a box.
 int Render(const CommandLine& line) {
     if (line.dark) Application::setPalette(DarkPalette());
+    const auto system = OwnSystemParts();
     MemoryInstanceChannel nobody;
     PrintedMessages messages;
-    return Program(nobody, messages).Render(line.path, line.picture);
+    return Program(*system, nobody, messages).Render(line.path, line.picture);
 }
 
 int Run(const CommandLine& line) {
     FollowDesktopPalette();
-    LocalSocketChannel channel(FindInstancePlace(OwnInstanceSurroundings()));
+    const auto system = OwnSystemParts();
     QtMessageBoxes messages;
-    return Program(channel, messages).Run(line.path);
+    return Program(*system, system->Channel(), messages).Run(line.path);
 }
 
 } // namespace

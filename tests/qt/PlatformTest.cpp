@@ -186,12 +186,11 @@ TEST(QtSystemFoldersTest, TheDocumentsAreWhereTheDesktopKeepsThem) {
     EXPECT_NE(QtSystemFolders().Fonts(), u"");
 }
 
-#ifndef Q_OS_WIN
-TEST(QtSystemFoldersTest, WhatOnlyWindowsHasIsEmptyElsewhere) {
+TEST(QtSystemFoldersTest, WhatOnlyWindowsHasIsEmpty) {
     EXPECT_EQ(QtSystemFolders().ProgramFiles(), u"");
+    EXPECT_EQ(QtSystemFolders().Windows(), u"");
     EXPECT_EQ(QtSystemFolders().System(), u"");
 }
-#endif
 
 // ---- File dialog --------------------------------------------------------------------------------------
 

@@ -4,8 +4,7 @@
 
 namespace korvane {
 
-/// The folders of the system that the program runs on. Where there is no folder of the kind, as for programs
-/// off Windows, it is empty.
+/// The folders of a desktop that isn't Windows: what only that has is empty.
 class QtSystemFolders final : public SystemFolders {
 public:
     Text ProgramFiles() const override;

@@ -1,0 +1,34 @@
+#include "app/SystemParts.h"
+#include "platform/qt/QtSystemFolders.h"
+#include "platform/qt/desktop/QtShell.h"
+#include "platform/qt/instance/LocalSocketChannel.h"
+
+#include <optional>
+
+namespace korvane {
+
+namespace {
+
+class PosixParts final : public SystemParts {
+public:
+    InstanceChannel& Channel() override {
+        // Not before somebody asks: finding the place may leave a folder behind.
+        if (!channel_) channel_.emplace(FindInstancePlace(OwnInstanceSurroundings()));
+        return *channel_;
+    }
+    Shell& Desktop() override { return shell_; }
+    const SystemFolders& Folders() const override { return folders_; }
+
+private:
+    std::optional<LocalSocketChannel> channel_;
+    QtShell shell_;
+    QtSystemFolders folders_;
+};
+
+} // namespace
+
+std::unique_ptr<SystemParts> OwnSystemParts() {
+    return std::make_unique<PosixParts>();
+}
+
+} // namespace korvane

@@ -1,0 +1,33 @@
+#include "app/SystemParts.h"
+#include "platform/windows/Win32CommandBox.h"
+#include "platform/windows/Win32Shell.h"
+#include "platform/windows/Win32SystemFolders.h"
+#include "platform/windows/Win32WindowList.h"
+#include "platform/windows/WindowHandOver.h"
+
+namespace korvane {
+
+namespace {
+
+class WindowsParts final : public SystemParts {
+public:
+    InstanceChannel& Channel() override { return channel_; }
+    Shell& Desktop() override { return shell_; }
+    const SystemFolders& Folders() const override { return folders_; }
+    void MainWindowShown(std::uintptr_t window) override { box_.MoveTo(window); }
+
+private:
+    Win32WindowList windows_;
+    Win32CommandBox box_;
+    WindowHandOver channel_{windows_, box_};
+    Win32Shell shell_;
+    Win32SystemFolders folders_;
+};
+
+} // namespace
+
+std::unique_ptr<SystemParts> OwnSystemParts() {
+    return std::make_unique<WindowsParts>();
+}
+
+} // namespace korvane
