@@ -52,6 +52,14 @@ public:
     virtual void RowWantedInView(Row row) = 0;
 };
 
+/// Changes to a grid that belong together. Only the grid that noted them can do anything with them.
+class GridChanges {
+public:
+    virtual ~GridChanges() = default;
+    /// About how many bytes they take.
+    virtual std::size_t MemoryUse() const = 0;
+};
+
 /// The table's data and the vocabulary in which every command speaks about it. There is no second copy.
 ///
 /// Rows and columns count from 1. Nothing throws: a write that addresses no cell has no effect, a read gives
@@ -156,6 +164,16 @@ public:
     virtual void ShiftTextsRight(Col first) = 0;
     /// The first cell at or behind `from`, row by row, whose text holds `part`, with case counting.
     virtual std::optional<CellPosition> FindText(TextView part, CellPosition from) const = 0;
+
+    // Taking changes back. Moves of the current cell, `GridVisible` and `SortOnHeaderClick` are no changes.
+
+    /// Whether the grid notes from now on how to take back what changes. What it has noted is forgotten.
+    virtual void NoteChanges(bool on) = 0;
+    /// What was noted since the last call; nullptr when nothing changed.
+    virtual std::unique_ptr<GridChanges> TakeNotedChanges() = 0;
+    /// Takes the changes back, or makes them again when they are taken back, and goes to the cell that was
+    /// the current one then. Neither is noted. The table has to be as they left it.
+    virtual void TurnChanges(GridChanges& changes) = 0;
 
     /// At most one listener; nullptr takes it away. The caller owns it.
     virtual void SetListener(GridListener* listener) = 0;

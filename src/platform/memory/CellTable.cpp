@@ -41,6 +41,13 @@ void CellTable::EraseCol(std::size_t erased) {
             [=, this](std::size_t row, std::size_t col) { return At(row, col < erased ? col : col + 1); });
 }
 
+void CellTable::InsertCol(std::size_t inserted) {
+    Rebuild(cols_ + 1, [=, this](std::size_t row, std::size_t col) {
+        if (col == inserted) return TextHandle();
+        return At(row, col < inserted ? col : col - 1);
+    });
+}
+
 void CellTable::ShiftRight(std::size_t first) {
     const auto left = static_cast<std::ptrdiff_t>(first);
     const auto width = static_cast<std::ptrdiff_t>(cols_);
@@ -48,6 +55,17 @@ void CellTable::ShiftRight(std::size_t first) {
         for (auto row = chunk.begin(); row != chunk.end(); row += width) {
             std::move_backward(row + left, row + width - 1, row + width);
             row[left] = TextHandle();
+        }
+    }
+}
+
+void CellTable::ShiftLeft(std::size_t first) {
+    const auto left = static_cast<std::ptrdiff_t>(first);
+    const auto width = static_cast<std::ptrdiff_t>(cols_);
+    for (Chunk& chunk : chunks_) {
+        for (auto row = chunk.begin(); row != chunk.end(); row += width) {
+            std::move(row + left + 1, row + width, row + left);
+            row[width - 1] = TextHandle();
         }
     }
 }

@@ -20,9 +20,14 @@ public:
     /// Appends empty columns or drops columns from the end.
     void SetCols(std::size_t cols);
     void EraseCol(std::size_t col);
+    /// Puts an empty column in front of the one that stands at `col`.
+    void InsertCol(std::size_t col);
     /// Moves the cells of the columns from `first` on one column to the right, over those of the last one,
     /// and empties `first`.
     void ShiftRight(std::size_t first);
+    /// Moves the cells of the columns behind `first` on one column to the left, over those of `first`, and
+    /// empties the last column.
+    void ShiftLeft(std::size_t first);
     /// Puts row `order[i]` in the place of row i.
     void Permute(std::span<const std::size_t> order);
 

@@ -10,6 +10,8 @@ void LookTable::SetRows(std::size_t rows) {
     rowLooks_.resize(rows);
     for (Looks& looks : ownLooks_)
         if (!looks.empty()) looks.resize(rows);
+    // Without rows a column has no looks of its own left.
+    if (rows == 0) CountOwnCols();
 }
 
 bool LookTable::HasPlainRowsOnly() const {
@@ -24,9 +26,36 @@ void LookTable::SetCols(std::size_t cols) {
     CountOwnCols();
 }
 
-void LookTable::EraseCol(std::size_t col) {
+LookTable::ColumnLooks LookTable::TakeCol(std::size_t col) {
+    ColumnLooks taken{std::move(ownLooks_[col]), {}};
     ownLooks_.erase(ownLooks_.begin() + static_cast<std::ptrdiff_t>(col));
+    if (ownLooks_.empty()) taken.rows = rowLooks_;
     CountOwnCols();
+    return taken;
+}
+
+void LookTable::InsertCol(std::size_t col, ColumnLooks looks) {
+    if (ownLooks_.empty()) rowLooks_ = std::move(looks.rows);
+    ownLooks_.insert(ownLooks_.begin() + static_cast<std::ptrdiff_t>(col), std::move(looks.own));
+    CountOwnCols();
+}
+
+LookTable::RowLooks LookTable::OfRow(std::size_t row) const {
+    RowLooks looks{rowLooks_[row], {}};
+    for (std::size_t col = 0; col < ownLooks_.size() && ownCols_ > 0; ++col)
+        if (!ownLooks_[col].empty() && ownLooks_[col][row] != looks.row)
+            looks.others.emplace_back(col, ownLooks_[col][row]);
+    return looks;
+}
+
+void LookTable::ExchangeRow(std::size_t row, RowLooks& looks) {
+    RowLooks before = OfRow(row);
+    rowLooks_[row] = looks.row;
+    for (Looks& own : ownLooks_)
+        if (!own.empty()) own[row] = looks.row;
+    for (const auto& [col, look] : looks.others)
+        ChangeCell(row, col, [&look = look](CellLook& changed) { changed = look; });
+    looks = std::move(before);
 }
 
 /// Columns came or went. Where none are left, no cell has a look.

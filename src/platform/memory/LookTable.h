@@ -32,16 +32,34 @@ private:
 /// is one look for each row, and a column in which a cell once differed from its row keeps its own.
 class LookTable {
 public:
+    using Looks = std::vector<CellLook>;
+    /// The looks of one row's cells.
+    struct RowLooks {
+        CellLook row;
+        /// By column, the cells that look otherwise.
+        std::vector<std::pair<std::size_t, CellLook>> others;
+    };
+    /// The looks of one column's cells.
+    struct ColumnLooks {
+        Looks own;  ///< empty where the column follows its rows
+        Looks rows; ///< those of the rows, when it was the only column
+    };
+
     void SetRows(std::size_t rows);
     /// Appends columns of the plain look or drops columns from the end.
     void SetCols(std::size_t cols);
-    void EraseCol(std::size_t col);
+    ColumnLooks TakeCol(std::size_t col);
+    /// Puts a column that was taken where it stood.
+    void InsertCol(std::size_t col, ColumnLooks looks);
     /// Puts row `order[i]` in the place of row i.
     void Permute(std::span<const std::size_t> order);
 
     const CellLook& At(std::size_t row, std::size_t col) const {
         return ownLooks_[col].empty() ? rowLooks_[row] : ownLooks_[col][row];
     }
+    RowLooks OfRow(std::size_t row) const;
+    /// Gives a row these looks, and takes the ones that it had.
+    void ExchangeRow(std::size_t row, RowLooks& looks);
     /// Changes one cell by `change(CellLook&)`; false when that left the cell as it was.
     template <class Change>
     bool ChangeCell(std::size_t row, std::size_t col, const Change& change) {
@@ -61,10 +79,7 @@ public:
             change(look);
             changed = changed || look != before;
         };
-        if (HasFollowingCol())
-            apply(rowLooks_[row]);
-        else
-            change(rowLooks_[row]);
+        if (HasFollowingCol()) apply(rowLooks_[row]);
         if (ownCols_ == 0) return changed;
         for (Looks& looks : ownLooks_)
             if (!looks.empty()) apply(looks[row]);
@@ -72,8 +87,6 @@ public:
     }
 
 private:
-    using Looks = std::vector<CellLook>;
-
     bool HasPlainRowsOnly() const;
     void CountOwnCols();
     bool HasFollowingCol() const { return ownCols_ < ownLooks_.size(); }

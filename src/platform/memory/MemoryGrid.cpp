@@ -1,5 +1,6 @@
 #include "platform/memory/MemoryGrid.h"
 
+#include "platform/memory/MemoryGridChanges.h"
 #include "platform/memory/Permuted.h"
 
 #include <algorithm>
@@ -9,11 +10,22 @@
 
 namespace korvane {
 
+MemoryGrid::MemoryGrid(const CodePage& page) : texts_(page) {}
+
+MemoryGrid::~MemoryGrid() = default;
+
 // Rows and columns.
 
 void MemoryGrid::SetRowCount(Row count) {
     count = std::min(count, kMaxRows);
     if (count < Row{0} || count == RowCount()) return;
+    if (noted_)
+        noted_->Do(*this, Changes::RowCountNote{count});
+    else
+        ResizeRows(count);
+}
+
+void MemoryGrid::ResizeRows(Row count) {
     const auto rows = static_cast<std::size_t>(count.Number());
     GiveUpTexts(rows);
     rows_.resize(rows);
@@ -26,6 +38,13 @@ void MemoryGrid::SetRowCount(Row count) {
 
 void MemoryGrid::SetColCount(Col count) {
     if (count < Col{0} || count == ColCount()) return;
+    if (noted_) {
+        while (ColCount() > count)
+            RemoveCol(ColCount());
+        while (ColCount() < count)
+            AddCol({}, {});
+        return;
+    }
     GiveUpTexts(count + 1, ColCount());
     cols_.resize(static_cast<std::size_t>(count.Number()));
     cells_.SetCols(cols_.size());
@@ -36,6 +55,7 @@ void MemoryGrid::SetColCount(Col count) {
 
 void MemoryGrid::AddCol(TextView key, TextView header) {
     if (!key.empty() && std::ranges::find(cols_, key, &Column::key) != cols_.end()) return;
+    if (noted_) noted_->Add(*this, Changes::ColumnPresenceNote{ColCount() + 1});
     cols_.push_back({Text(key), Text(header)});
     cells_.SetCols(cols_.size());
     looks_.SetCols(cols_.size());
@@ -44,12 +64,20 @@ void MemoryGrid::AddCol(TextView key, TextView header) {
 
 void MemoryGrid::RemoveCol(Col col) {
     if (!HasCol(col)) return;
+    if (noted_)
+        noted_->Do(*this, Changes::ColumnPresenceNote{col});
+    else
+        EraseCol(col);
+}
+
+LookTable::ColumnLooks MemoryGrid::EraseCol(Col col) {
     GiveUpTexts(col, col);
     cols_.erase(cols_.begin() + (col.Number() - 1));
     cells_.EraseCol(Index(col));
-    looks_.EraseCol(Index(col));
+    LookTable::ColumnLooks looks = looks_.TakeCol(Index(col));
     if (col == Col{1}) ForgetChecks();
     ColsChanged();
+    return looks;
 }
 
 void MemoryGrid::ColsChanged() {
@@ -67,9 +95,14 @@ void MemoryGrid::ForgetChecks() {
 }
 
 void MemoryGrid::KeepCurrentCellInside() {
+    GoTo({curRow_, curCol_});
+}
+
+/// Or as near as there is a cell.
+void MemoryGrid::GoTo(CellPosition cell) {
     const CellPosition before{curRow_, curCol_};
-    curRow_ = std::min(curRow_, RowCount());
-    curCol_ = std::min(curCol_, ColCount());
+    curRow_ = std::min(cell.row, RowCount());
+    curCol_ = std::min(cell.col, ColCount());
     if (before != CellPosition{curRow_, curCol_}) notifier_.CurrentCellChanged();
 }
 
@@ -88,6 +121,7 @@ void MemoryGrid::SetCurCol(Col col) {
 template <class Field, class Value>
 void MemoryGrid::SetColumn(Col col, Field Column::*field, const Value& value) {
     if (!HasCol(col) || cols_[Index(col)].*field == value) return;
+    if (noted_) NoteColumn(col);
     cols_[Index(col)].*field = value;
     notifier_.ColumnChanged(col);
 }
@@ -116,11 +150,19 @@ int MemoryGrid::RowHeight(Row row) const {
     return HasRow(row) ? rows_[Index(row)].height : kDefaultRowHeight;
 }
 
+template <class Field>
+bool MemoryGrid::SetRowField(Row row, Field RowState::*field, Field value) {
+    Field& present = rows_[Index(row)].*field;
+    if (present == value) return false;
+    if (noted_) NoteRow(row);
+    present = value;
+    return true;
+}
+
 void MemoryGrid::SetRowHeight(Row row, int height) {
     if (!HasRow(row)) return;
-    RowState& state = rows_[Index(row)];
-    state.hasHeight = true;
-    if (std::exchange(state.height, height) != height) notifier_.TableChanged();
+    SetRowField(row, &RowState::hasHeight, true);
+    if (SetRowField(row, &RowState::height, height)) notifier_.TableChanged();
 }
 
 bool MemoryGrid::HasRowHeight(Row row) const {
@@ -132,8 +174,7 @@ bool MemoryGrid::RowVisible(Row row) const {
 }
 
 void MemoryGrid::SetRowVisible(Row row, bool visible) {
-    if (!HasRow(row)) return;
-    if (std::exchange(rows_[Index(row)].visible, visible) != visible) notifier_.TableChanged();
+    if (HasRow(row) && SetRowField(row, &RowState::visible, visible)) notifier_.TableChanged();
 }
 
 // Texts.
@@ -150,6 +191,8 @@ void MemoryGrid::SetCellValue(Row row, Col col, TextView value) {
 
 void MemoryGrid::PutHandle(Row row, Col col, TextHandle handle) {
     if (handle.IsEmpty() && HandleAt(row, col).IsEmpty()) return;
+    if (noted_) [[unlikely]]
+        NoteText(row, col);
     TextHandle& place = cells_.Place(Index(row), Index(col));
     if (!place.IsEmpty()) texts_.GiveUp(place);
     place = handle;
@@ -173,6 +216,7 @@ std::optional<std::string_view> MemoryGrid::CellBytes(Row row, Col col) const {
 
 void MemoryGrid::ShiftTextsRight(Col first) {
     if (!HasCol(first)) return;
+    if (noted_) return noted_->Do(*this, Changes::ShiftNote{first});
     GiveUpTexts(ColCount(), ColCount());
     cells_.ShiftRight(Index(first));
     notifier_.TableChanged();
@@ -200,12 +244,21 @@ void MemoryGrid::PackTextsIfWorthwhile() {
 
 template <class Change>
 void MemoryGrid::ChangeCellLook(Row row, Col col, const Change& change) {
-    if (HasCell(row, col) && looks_.ChangeCell(Index(row), Index(col), change)) notifier_.RowChanged(row);
+    if (!HasCell(row, col)) return;
+    const CellLook before = LookAt(row, col);
+    if (!looks_.ChangeCell(Index(row), Index(col), change)) return;
+    if (noted_ && noted_->Wants(row, col)) noted_->Add(*this, Changes::CellLookNote{row, col, before});
+    notifier_.RowChanged(row);
 }
 
 template <class Change>
 void MemoryGrid::ChangeRowLook(Row row, const Change& change) {
-    if (HasRow(row) && looks_.ChangeRow(Index(row), change)) notifier_.RowChanged(row);
+    if (!HasRow(row)) return;
+    const bool noting = noted_ && noted_->Wants(row);
+    Changes::RowLooksNote note{row, noting ? looks_.OfRow(Index(row)) : LookTable::RowLooks()};
+    if (!looks_.ChangeRow(Index(row), change)) return;
+    if (noting) noted_->Add(*this, std::move(note));
+    notifier_.RowChanged(row);
 }
 
 Colour MemoryGrid::CellBackColor(Row row, Col col) const {
@@ -253,8 +306,7 @@ int MemoryGrid::CellCheck(Row row) const {
 }
 
 void MemoryGrid::SetCellCheck(Row row, int check) {
-    if (!HasCheck(row)) return;
-    if (std::exchange(rows_[Index(row)].check, check) != check) notifier_.RowChanged(row);
+    if (HasCheck(row) && SetRowField(row, &RowState::check, check)) notifier_.RowChanged(row);
 }
 
 bool MemoryGrid::CellCheckShown(Row row) const {
@@ -262,11 +314,14 @@ bool MemoryGrid::CellCheckShown(Row row) const {
 }
 
 void MemoryGrid::SetCellCheckShown(Row row, bool shown) {
-    if (!HasCheck(row)) return;
-    if (std::exchange(rows_[Index(row)].checkShown, shown) != shown) notifier_.RowChanged(row);
+    if (HasCheck(row) && SetRowField(row, &RowState::checkShown, shown)) notifier_.RowChanged(row);
 }
 
 // The grid as a whole.
+
+void MemoryGrid::SetGridVisible(bool visible) {
+    if (std::exchange(visible_, visible) != visible) notifier_.LookChanged();
+}
 
 void MemoryGrid::GridEndUpdate() {
     notifier_.Close();
@@ -299,9 +354,16 @@ void MemoryGrid::SortByColumn(Col col, SortOrder order) {
     if (!HasCol(col)) return;
     const std::vector<std::size_t> rows = SortedOrder(col, order);
     if (std::ranges::is_sorted(rows)) return;
-    cells_.Permute(rows);
-    looks_.Permute(rows);
-    rows_ = Permuted(rows_, rows);
+    if (noted_)
+        noted_->Do(*this, Changes::OrderNote{{rows.begin(), rows.end()}});
+    else
+        PermuteRows(rows);
+}
+
+void MemoryGrid::PermuteRows(std::span<const std::size_t> order) {
+    cells_.Permute(order);
+    looks_.Permute(order);
+    rows_ = Permuted(rows_, order);
     notifier_.TableChanged();
 }
 

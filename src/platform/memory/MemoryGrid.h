@@ -8,6 +8,8 @@
 #include "platform/memory/TextBlocks.h"
 
 #include <cstddef>
+#include <memory>
+#include <span>
 #include <vector>
 
 namespace korvane {
@@ -20,7 +22,10 @@ public:
     static constexpr int kDefaultRowHeight = 24;
     static constexpr int kDefaultColWidth = 240;
 
-    explicit MemoryGrid(const CodePage& page) : texts_(page) {}
+    explicit MemoryGrid(const CodePage& page);
+    MemoryGrid(const MemoryGrid&) = delete;
+    MemoryGrid& operator=(const MemoryGrid&) = delete;
+    ~MemoryGrid() override;
 
     Row RowCount() const override { return Row(static_cast<int>(cells_.Rows())); }
     void SetRowCount(Row count) override;
@@ -75,8 +80,8 @@ public:
     void SetGridFontSize(int points) override { SetLook(look_.fontSize, points); }
     bool SortOnHeaderClick() const override { return sortOnHeaderClick_; }
     void SetSortOnHeaderClick(bool on) override { sortOnHeaderClick_ = on; }
-    bool GridVisible() const override { return look_.visible; }
-    void SetGridVisible(bool visible) override { SetLook(look_.visible, visible); }
+    bool GridVisible() const override { return visible_; }
+    void SetGridVisible(bool visible) override;
 
     void GridBeginUpdate() override { notifier_.Open(); }
     void GridEndUpdate() override;
@@ -92,6 +97,10 @@ public:
     std::optional<std::string_view> CellBytes(Row row, Col col) const override;
     void ShiftTextsRight(Col first) override;
     std::optional<CellPosition> FindText(TextView part, CellPosition from) const override;
+
+    void NoteChanges(bool on) override;
+    std::unique_ptr<GridChanges> TakeNotedChanges() override;
+    void TurnChanges(GridChanges& changes) override;
 
     void SetListener(GridListener* listener) override { notifier_.SetListener(listener); }
 
@@ -114,10 +123,10 @@ private:
         Colour fore = kNoColour;
         Text fontName;
         int fontSize = 0;
-        bool visible = true;
     };
 
     class Finder;
+    class Changes;
 
     static std::size_t Index(Row row) { return static_cast<std::size_t>(row.Number() - 1); }
     static std::size_t Index(Col col) { return static_cast<std::size_t>(col.Number() - 1); }
@@ -130,16 +139,24 @@ private:
     }
 
     void PutHandle(Row row, Col col, TextHandle handle);
+    void ResizeRows(Row count);
+    /// Gives back the looks that the column had.
+    LookTable::ColumnLooks EraseCol(Col col);
+    void PermuteRows(std::span<const std::size_t> order);
     void GiveUpTexts(std::size_t firstRow);
     void GiveUpTexts(Col firstCol, Col lastCol);
     void PackTextsIfWorthwhile();
     void ColsChanged();
     void ForgetChecks();
     void KeepCurrentCellInside();
+    void GoTo(CellPosition cell);
     /// The cell itself where there is one, or the first one behind.
     std::optional<CellPosition> FirstCellFrom(CellPosition from) const;
     std::vector<std::size_t> SortedOrder(Col col, SortOrder order) const;
 
+    /// Writes a field of a row; false when it had the value already.
+    template <class Field>
+    bool SetRowField(Row row, Field RowState::*field, Field value);
     template <class Field, class Value>
     void SetLook(Field& field, const Value& value);
     template <class Field, class Value>
@@ -149,6 +166,12 @@ private:
     template <class Change>
     void ChangeRowLook(Row row, const Change& change);
 
+    // Each is called before its change, while changes are noted.
+    void NoteText(Row row, Col col);
+    void NoteRow(Row row);
+    void NoteColumn(Col col);
+    void NoteLook();
+
     TextBlocks texts_;
     CellTable cells_;
     LookTable looks_;
@@ -157,13 +180,16 @@ private:
     Row curRow_;
     Col curCol_;
     Look look_;
+    bool visible_ = true;
     bool sortOnHeaderClick_ = false;
     GridNotifier notifier_;
+    std::unique_ptr<Changes> noted_; // nothing while changes aren't noted
 };
 
 template <class Field, class Value>
 void MemoryGrid::SetLook(Field& field, const Value& value) {
     if (field == value) return;
+    if (noted_) NoteLook();
     field = value;
     notifier_.LookChanged();
 }

@@ -89,5 +89,14 @@ TEST_F(MemoryGridLooksTest, LooksGoWithARemovedColumn) {
     EXPECT_EQ(grid.CellBackColor(Row{1}, Col{1}), kNoColour);
 }
 
+TEST_F(MemoryGridLooksTest, AColumnThatLostItsRowsTakesTheLooksOfNewOnes) {
+    Resize(1, 1);
+    grid.SetCellBackColor(Row{1}, Col{1}, Colour{2});
+    grid.SetRowCount(Row{0});
+    grid.SetRowCount(Row{1});
+    grid.SetRowBackColor(Row{1}, Colour{9});
+    EXPECT_EQ(grid.CellBackColor(Row{1}, Col{1}), Colour{9});
+}
+
 } // namespace
 } // namespace korvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Grid.h"
+
+#include <sstream>
+#include <string>
+
+namespace korvane {
+
+/// All that a grid holds, to compare grids by.
+inline std::string StateOf(const Grid& grid) {
+    std::ostringstream state;
+    const auto put = [&state](const auto&... values) { ((state << values << '|'), ...) << '\n'; };
+    put(grid.RowCount().Number(), grid.ColCount().Number(), grid.GridBackColor().value,
+        grid.GridForeColor().value, ToUtf8(grid.GridFontName()), grid.GridFontSize());
+    for (Col col{1}; col <= grid.ColCount(); ++col)
+        put(ToUtf8(grid.ColKey(col)), ToUtf8(grid.ColHeaderText(col)), grid.ColWidth(col));
+    for (Row row{1}; row <= grid.RowCount(); ++row) {
+        put(grid.RowHeight(row), grid.HasRowHeight(row), grid.RowVisible(row), grid.CellCheck(row),
+            grid.CellCheckShown(row));
+        for (Col col{1}; col <= grid.ColCount(); ++col)
+            put(ToUtf8(grid.CellValue(row, col)), grid.CellBackColor(row, col).value,
+                grid.CellForeColor(row, col).value, grid.CellFontFlag(row, col, CellFlag::Italic),
+                grid.CellFontFlag(row, col, CellFlag::Bold),
+                grid.CellFontFlag(row, col, CellFlag::Strikethrough));
+    }
+    return state.str();
+}
+
+} // namespace korvane
