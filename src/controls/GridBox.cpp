@@ -1,5 +1,7 @@
 #include "controls/GridBox.h"
 
+#include <utility>
+
 namespace korvane {
 
 GridBox::GridBox(Form& owner, std::string_view name, std::unique_ptr<Grid> store)
@@ -9,12 +11,14 @@ void GridBox::CommitEdit(Row row, Col col, TextView text) {
     if (!store_->HasRow(row) || !store_->HasCol(col) || store_->CellValue(row, col) == text) return;
     store_->SetCellValue(row, col, text);
     if (AfterEdit) AfterEdit(row, col);
+    TellChange();
 }
 
 void GridBox::ClickCheck(Row row) {
     if (!store_->HasRow(row) || !store_->CellCheckShown(row)) return;
     store_->SetCellCheck(row, store_->CellCheck(row) == 1 ? 0 : 1);
     if (AfterEdit) AfterEdit(row, Col{1});
+    TellChange();
 }
 
 void GridBox::ClickHeader(Col col) {
@@ -25,6 +29,7 @@ void GridBox::ClickHeader(Col col) {
     order_ = turn ? SortOrder::Descending : SortOrder::Ascending;
     sortedBy_ = col;
     store_->SortByColumn(col, order_);
+    TellChange();
 }
 
 void GridBox::ClickCell(Row row, Col col) {
@@ -32,6 +37,19 @@ void GridBox::ClickCell(Row row, Col col) {
     store_->SetCurRow(row);
     store_->SetCurCol(col);
     if (CellClick) CellClick(row, col);
+}
+
+void GridBox::DragColumn(Col col, int width) {
+    store_->SetColWidth(col, width);
+    dragged_ = true;
+}
+
+void GridBox::ReleaseColumn() {
+    if (std::exchange(dragged_, false)) TellChange();
+}
+
+void GridBox::TellChange() {
+    if (AfterChange) AfterChange();
 }
 
 } // namespace korvane

@@ -26,6 +26,8 @@ public:
     std::function<void(Row, Col)> AfterEdit;
     /// Before the grid sorts, which it does when `SortOnHeaderClick` is true afterwards.
     std::function<void(Col)> HeaderClick;
+    /// The user changed the table himself, and all that this brings about has happened.
+    std::function<void()> AfterChange;
     std::function<void(MouseButton)> MouseUp;
     /// The cell is the current one by then.
     std::function<void(Row, Col)> CellClick;
@@ -35,6 +37,8 @@ public:
     /// How the current row is drawn; `kNoColour` leaves it to the look of the grid.
     Property<Colour> HighlightBackColor{*this, Aspect::Colours};
     Property<Colour> HighlightForeColor{*this, Aspect::Colours};
+    /// Stands out wherever it is in a cell, with case counting; nothing does while it is empty. Only painted.
+    Property<Text> MarkedText{*this, Aspect::Text};
     /// What the mouse pointer is over the grid.
     Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
     /// A picture file for the pointer that is a hand; where it can't be read, it is the system's hand.
@@ -53,11 +57,17 @@ public:
     void ClickHeader(Col col);
     /// Makes the cell the current one and raises `CellClick`.
     void ClickCell(Row row, Col col);
+    /// Gives the column a width while he drags its edge; `ReleaseColumn` follows when he lets go.
+    void DragColumn(Col col, int width);
+    void ReleaseColumn();
 
 private:
+    void TellChange();
+
     std::unique_ptr<Grid> store_;
     Col sortedBy_;
     SortOrder order_ = SortOrder::Ascending;
+    bool dragged_ = false;
 };
 
 } // namespace korvane

@@ -8,6 +8,7 @@
 #include "dbops/RowHeight.h"
 #include "dbops/RowLookCommands.h"
 #include "dbops/TickCommands.h"
+#include "dbops/UndoCommands.h"
 #include "dbops/frmFindReplace.h"
 #include "dbops/frmViewCell.h"
 
@@ -66,6 +67,8 @@ constexpr std::array kCommands{
     DbOpsCommand{"mnuCalc_Add_Clack", &mnuCalc_Add_Clack},
     DbOpsCommand{"mnuEdit_WinClip_Clack", &mnuEdit_WinClip_Clack},
     DbOpsCommand{"mnuExport_Excel_Clack", &mnuExport_Excel_Clack},
+    DbOpsCommand{"UndoEdit", &UndoEdit},
+    DbOpsCommand{"RedoEdit", &RedoEdit},
 };
 
 } // namespace

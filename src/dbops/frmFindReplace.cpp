@@ -1,6 +1,7 @@
 #include "dbops/frmFindReplace.h"
 
 #include "context/App.h"
+#include "dbops/UndoCommands.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
 
@@ -94,6 +95,7 @@ void frmFindReplace::ReplaceIn(const TableMatch& match) {
     grid.SetCellValue(match.cell.row, match.cell.col,
                       ReplacedText(grid, match, settings.FindText, settings.ReplaceText));
     tab_.table.TableAltered = 1;
+    EndEdit(tab_);
 }
 
 void frmFindReplace::cmdSwitch_Click() {

@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "dbops/RowColours.h"
 #include "dbops/RowLookCommands.h"
+#include "dbops/UndoCommands.h"
 
 namespace korvane {
 
@@ -28,9 +29,15 @@ void frmRowColour::ConnectButtons() {
     };
     cmdFilterToAttribute.Click = [this] { CloseWith(kFilter); };
     cmdRemoveFilter.Click = [this] { CloseWith(kRemoveFilter); };
-    cmdItalic.Click = [this] { MakeEmailItalic(tab_); };
-    cmdBold.Click = [this] { MakeEmailBold(tab_); };
-    cmdStrikethrough.Click = [this] { MakeEmailStrikethru(tab_); };
+    const auto edit = [this](void (*command)(const TabContext&)) {
+        return [this, command] {
+            command(tab_);
+            EndEdit(tab_);
+        };
+    };
+    cmdItalic.Click = edit(&MakeEmailItalic);
+    cmdBold.Click = edit(&MakeEmailBold);
+    cmdStrikethrough.Click = edit(&MakeEmailStrikethru);
     cmdCancel.Click = [this] { CloseWith(0); };
     cmdAccept.Default = true;
     cmdCancel.Cancel = true;

@@ -46,6 +46,8 @@ constexpr std::array kGridKeys{
     GridKey{'I', kCtrlShift, Tab, "MakeEmailItalic"},
     GridKey{'B', kCtrlShift, Tab, "MakeEmailBold"},
     GridKey{'X', kCtrlShift, Tab, "MakeEmailStrikethru"},
+    GridKey{'Z', Mask::Ctrl, Tab, "UndoEdit"},
+    GridKey{'Z', kCtrlShift, Tab, "RedoEdit"},
 };
 
 } // namespace

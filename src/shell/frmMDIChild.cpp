@@ -17,13 +17,16 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
       iGrid1(*this, "iGrid1", app.MakeGrid()),
       app_(app),
       states_(states),
-      table_(iGrid1.Store()) {
+      table_(iGrid1.Store()),
+      history_(table_, *this) {
     cmdFind.Click = [this] { cmdFind_Click(); };
+    txtFindString.Change = [this] { iGrid1.MarkedText = txtFindString.Text; };
     txtFindString.KeyDown = [this](KeyEvent& key) { txtFindString_KeyDown(key); };
     txtRowHeight.KeyDown = [this](KeyEvent& key) { txtRowHeight_KeyDown(key); };
-    ZoomSlider.Scroll = [this] { MoveRowHeight(Context(), ZoomSlider.Value); };
-    ZoomSlider.Released = [this] { ApplyRowHeight(Context()); };
+    ZoomSlider.Scroll = [this] { ZoomSlider_Scroll(); };
+    ZoomSlider.Released = [this] { ZoomSlider_Released(); };
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
+    iGrid1.AfterChange = [this] { history_.EndStep(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
     iGrid1.KeyDown = [this](KeyEvent& key) { iGrid1_KeyDown(key); };
@@ -34,11 +37,14 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
 }
 
 TabContext frmMDIChild::Context() {
-    return {app_, table_, *this};
+    return {app_, table_, *this, &history_};
 }
 
 void frmMDIChild::Invoke(std::string_view routine) {
-    if (const TabCommand run = FindTabCommand(routine)) run(Context());
+    const TabCommand run = FindTabCommand(routine);
+    if (run == nullptr) return;
+    const TableStep step(history_);
+    run(Context());
 }
 
 int frmMDIChild::Slot() const {
@@ -74,8 +80,19 @@ void frmMDIChild::txtFindString_KeyDown(KeyEvent& key) {
 
 void frmMDIChild::txtRowHeight_KeyDown(KeyEvent& key) {
     if (!key.Is(Key::Return, Mask::Ctrl | Mask::Shift)) return;
+    const TableStep step(history_);
     ApplyTypedRowHeight(Context(), txtRowHeight.Text.Get());
     key.consumed = true;
+}
+
+void frmMDIChild::ZoomSlider_Scroll() {
+    if (!sliding_) sliding_.emplace(history_);
+    MoveRowHeight(Context(), ZoomSlider.Value);
+}
+
+void frmMDIChild::ZoomSlider_Released() {
+    ApplyRowHeight(Context());
+    sliding_.reset();
 }
 
 void frmMDIChild::iGrid1_AfterEdit() {

@@ -7,10 +7,12 @@
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
 #include "table/TabContext.h"
+#include "table/TableHistory.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace korvane {
@@ -52,6 +54,8 @@ private:
     void cmdFind_Click();
     void txtFindString_KeyDown(KeyEvent& key);
     void txtRowHeight_KeyDown(KeyEvent& key);
+    void ZoomSlider_Scroll();
+    void ZoomSlider_Released();
     void iGrid1_AfterEdit();
     void iGrid1_HeaderClick();
     void iGrid1_MouseUp(MouseButton button);
@@ -69,6 +73,8 @@ private:
     App& app_;
     TabStates& states_;
     TableModel table_;
+    TableHistory history_;
+    std::optional<TableStep> sliding_; // while the slider is being moved
 };
 
 } // namespace korvane

@@ -3,6 +3,7 @@
 namespace korvane {
 
 class App;
+class TableHistory;
 class TableHost;
 class TableModel;
 
@@ -11,6 +12,8 @@ struct TabContext {
     App& app;
     TableModel& table;
     TableHost& host;
+    /// nullptr where nothing is undone.
+    TableHistory* history = nullptr;
 };
 
 } // namespace korvane

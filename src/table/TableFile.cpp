@@ -8,6 +8,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
+#include "table/TableHistory.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
 #include "table/TbxReader.h"
@@ -60,6 +61,7 @@ void ReadTableData(const TabContext& tab) {
     App& app = tab.app;
     const Text& path = tab.table.TxtDbFile;
     if (path.empty() || !app.Files().FileExists(path)) return;
+    const HistoryRestart restart(tab.history);
     app.Screen().SetPointer(Pointer::Hourglass);
     const auto bytes = app.Files().ReadAll(path);
     if (!bytes) {
@@ -88,6 +90,7 @@ void SaveThisTable(const TabContext& tab) {
     app.Screen().SetPointer(Pointer::Hourglass);
     app.Screen().ProcessMessages();
     TakeRowHeight(table);
+    if (tab.history != nullptr) tab.history->IgnoreRowHeight();
     TbxWriter(table, *file).Write();
     file->Close();
     table.TableAltered = 0;

@@ -22,6 +22,7 @@ public:
         if (Holds(col)) texts_[Index(col)] = std::move(text);
     }
     void Clear() { texts_.fill({}); }
+    bool operator==(const ColumnTexts&) const = default;
 
 private:
     static bool Holds(Col col) { return col >= Col{1} && col <= MaxColumns; }
@@ -31,8 +32,19 @@ private:
     Text empty_;
 };
 
+/// What a tab knows of its table and its commands change.
+struct TableAttributes {
+    // Nothing until a load, a design or the user sets them; they count as 0 and empty then.
+    std::optional<std::int16_t> SetRowHeight{};
+    std::optional<Colour> TableBackColour{};
+    std::optional<Text> TableFontName{};
+    std::optional<std::int16_t> TableFontSize{};
+    /// Names as read or designed: no mirror of the grid's headers.
+    ColumnTexts ColumnNames{};
+};
+
 /// What a tab knows of its table beside the rows and columns, which live in the grid.
-class TableModel {
+class TableModel : public TableAttributes {
 public:
     /// The grid is the tab's and outlives the model.
     explicit TableModel(Grid& grid) : grid_(grid) {}
@@ -44,13 +56,6 @@ public:
     Text TxtDbFile;
     /// 1 when the table has changes that aren't on disk.
     std::int16_t TableAltered = 0;
-    // Nothing until a load, a design or the user sets them; they count as 0 and empty then.
-    std::optional<std::int16_t> SetRowHeight;
-    std::optional<Colour> TableBackColour;
-    std::optional<Text> TableFontName;
-    std::optional<std::int16_t> TableFontSize;
-    /// Names as read or designed: no mirror of the grid's headers.
-    ColumnTexts ColumnNames;
     /// Used only between reading the column lines of a file and creating the columns.
     ColumnTexts ColumnWidths;
     /// The titles of the last design on this tab, without gaps.

@@ -72,5 +72,43 @@ TEST_F(CellLookTest, TwoColoursOfTheDataStandAsTheyAre) {
     EXPECT_EQ(colours.text, QColor(0x20, 0x20, 0x20));
 }
 
+struct NamedColours {
+    const char* name;
+    CellColours colours;
+};
+
+TEST(MarkBackTest, IsSeenAndLeavesTheTextReadableOnEveryLookOfARow) {
+    const NamedColours looks[] = {
+        {"light", {Qt::white, QColor(0, 0, 0xC0)}},
+        {"dark", {QColor(27, 29, 33), QColor(228, 231, 235)}},
+        {"yellow", {QColor(255, 255, 128), Qt::black}},
+        {"key's yellow", {QColor(255, 255, 0), Qt::black}},
+        {"red", {Qt::red, Qt::white}},
+        {"dark blue", {Qt::blue, Qt::white}},
+        {"light blue", {QColor(192, 255, 255), QColor(0, 0, 0xC0)}},
+        {"green", {QColor(192, 255, 192), QColor(0, 0, 0xC0)}},
+        {"grey", {QColor(192, 192, 192), Qt::white}},
+        {"orange", {QColor(255, 192, 128), QColor(0, 0, 0xC0)}},
+    };
+    for (const auto& [name, colours] : looks) {
+        for (const Mark mark : {Mark::Soft, Mark::Strong}) {
+            const QColor back = MarkBack(colours, mark);
+            const int difference = std::abs(back.red() - colours.back.red()) +
+                                   std::abs(back.green() - colours.back.green()) +
+                                   std::abs(back.blue() - colours.back.blue());
+            EXPECT_GE(difference, 60) << name;
+            const double before = Contrast(colours.text, colours.back);
+            EXPECT_GE(Contrast(colours.text, back), std::min(before, 4.5)) << name;
+        }
+    }
+}
+
+TEST(MarkBackTest, StandsOutMoreInTheCurrentCell) {
+    const CellColours colours{Qt::white, Qt::black};
+    const QColor soft = MarkBack(colours, Mark::Soft);
+    const QColor strong = MarkBack(colours, Mark::Strong);
+    EXPECT_LT(strong.blue(), soft.blue());
+}
+
 } // namespace
 } // namespace korvane

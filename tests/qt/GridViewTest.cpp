@@ -3,6 +3,7 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "platform/qt/CellEditor.h"
+#include "platform/qt/CellLook.h"
 #include "platform/qt/Convert.h"
 #include "platform/qt/QtFormHost.h"
 
@@ -96,6 +97,7 @@ protected:
     }
     Text At(int row, int col) { return Store().CellValue(Row{row}, Col{col}); }
     CellPosition Current() { return {Store().CurRow(), Store().CurCol()}; }
+    QImage Picture(int row, int col) { return View().viewport()->grab(Cell(row, col)).toImage(); }
     QColor Pixel(const QPoint& place) { return View().viewport()->grab().toImage().pixelColor(place); }
 
     QtFormHost host{kForms};
@@ -380,11 +382,14 @@ TEST_F(GridViewTest, ADraggedWidthGoesToTheStoreAndAlarmsNobody) {
     const int edge = header.sectionViewportPosition(1) - 1;
     const int y = header.height() / 2;
     const int before = Store().ColWidth(Col{1});
+    int changes = 0;
+    form.iGrid1.AfterChange = [&changes] { ++changes; };
     QTest::mousePress(header.viewport(), Qt::LeftButton, {}, QPoint(edge, y));
     QTest::mouseMove(header.viewport(), QPoint(edge + 20, y));
     QTest::mouseMove(header.viewport(), QPoint(edge + 40, y));
     QTest::mouseRelease(header.viewport(), Qt::LeftButton, {}, QPoint(edge + 40, y));
     EXPECT_EQ(Store().ColWidth(Col{1}), before + 40);
+    EXPECT_EQ(changes, 1);
     EXPECT_TRUE(form.edited.empty());
 }
 
@@ -558,6 +563,46 @@ TEST_F(GridViewTest, ATableAtTheLimitCanBeWalkedToItsEnd) {
     EXPECT_EQ(Current(), (CellPosition{kMaxRows, Col{3}}));
     EXPECT_TRUE(View().viewport()->rect().contains(Cell(kMaxRows.Number(), 3).center()));
     EXPECT_EQ(View().verticalHeader()->length(), 16383 * 30 + 16384 * MemoryGrid::kDefaultRowHeight);
+}
+
+// ---- Marked text --------------------------------------------------------------------------------------
+
+TEST_F(GridViewTest, EveryCellThatHoldsTheMarkedTextShowsItWithCaseCounting) {
+    Store().SetCellValue(Row{2}, Col{1}, u"an abc here");
+    Store().SetCellValue(Row{2}, Col{2}, u"an ABC here");
+    const QImage without = Picture(2, 1);
+    const QImage otherCase = Picture(2, 2);
+    form.iGrid1.MarkedText = u"abc";
+    EXPECT_NE(Picture(2, 1), without);
+    EXPECT_EQ(Picture(2, 2), otherCase);
+    form.iGrid1.MarkedText = u"";
+    EXPECT_EQ(Picture(2, 1), without);
+}
+
+TEST_F(GridViewTest, AMarkedTextThatIsCutOffMarksTheEllipsis) {
+    const Text longText = Text(400, u'x') + u"abc";
+    Store().SetCellValue(Row{2}, Col{1}, longText);
+    Store().SetCellValue(Row{3}, Col{1}, u"first\r\nabc");
+    const QImage cut = Picture(2, 1);
+    const QImage below = Picture(3, 1);
+    form.iGrid1.MarkedText = u"abc";
+    EXPECT_NE(Picture(2, 1), cut);
+    EXPECT_NE(Picture(3, 1), below);
+    const QImage mark = Picture(2, 1);
+    form.iGrid1.MarkedText = u"abcd";
+    EXPECT_NE(Picture(2, 1), mark);
+    EXPECT_EQ(Picture(2, 1), cut);
+}
+
+TEST_F(GridViewTest, AllThatIsMarkedInALineIsPaintedBehindItsText) {
+    Store().SetCellValue(Row{2}, Col{1}, u"iiiiii");
+    form.iGrid1.MarkedText = u"iiiiii";
+    const QColor mark = MarkBack(ColoursOf(Store(), Row{2}, Col{1}, View().palette()), Mark::Soft);
+    const QImage picture = Picture(2, 1);
+    int marked = 0;
+    for (int x = 0; x < picture.width(); ++x)
+        marked += picture.pixelColor(x, 8) == mark ? 1 : 0;
+    EXPECT_GT(marked, 5);
 }
 
 } // namespace

@@ -422,5 +422,49 @@ TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {
     EXPECT_FALSE(main.Shown());
 }
 
+TEST_F(MainWindowTest, CtrlZTakesAnEditOfTheTableBackAndCtrlShiftZMakesItAgain) {
+    Grid& store = main.TheTabs().Active()->GridStore();
+    Table().setFocus();
+    Type("Zoe");
+    Key(Qt::Key_Return);
+    ASSERT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Bert");
+    Key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
+}
+
+TEST_F(MainWindowTest, CtrlZInABoxIsTheBoxesOwn) {
+    Grid& store = main.TheTabs().Active()->GridStore();
+    Table().setFocus();
+    Type("Zoe");
+    Key(Qt::Key_Return);
+    auto& box = Part<QLineEdit>("txtFindString");
+    box.setFocus();
+    test::Settle();
+    Type("abc");
+    EXPECT_EQ(main.TheTabs().Active()->iGrid1.MarkedText.Get(), u"abc");
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), QString());
+    EXPECT_EQ(main.TheTabs().Active()->iGrid1.MarkedText.Get(), u"");
+    EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
+}
+
+TEST_F(MainWindowTest, CtrlZInACellThatIsBeingEditedIsTheFieldsOwn) {
+    Grid& store = main.TheTabs().Active()->GridStore();
+    Table().setFocus();
+    Type("Zoe");
+    Key(Qt::Key_Return);
+    Key(Qt::Key_F2);
+    Type("!");
+    auto* editor = Table().findChild<CellEditor*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->Lines(), QString("Zoe!"));
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(editor->Lines(), QString("Zoe"));
+    Key(Qt::Key_Return);
+    EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
+}
+
 } // namespace
 } // namespace korvane

@@ -1,7 +1,6 @@
 #include "platform/qt/CellDelegate.h"
 
 #include "platform/qt/CellEditor.h"
-#include "platform/qt/CellText.h"
 #include "platform/qt/Convert.h"
 
 #include <QApplication>
@@ -95,6 +94,12 @@ void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& opt
                                           option.widget);
 }
 
+TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) const {
+    const Text& part = box_.MarkedText.Get();
+    if (part.empty()) return {};
+    return {part, MarkBack(colours, IsCurrent(cell) ? Mark::Strong : Mark::Soft)};
+}
+
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     const CellPosition cell{model_.RowOf(index.row()), GridModel::ColOf(index.column())};
@@ -113,7 +118,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         painter->setClipRect(option.rect, Qt::IntersectClip);
         painter->setFont(font);
         painter->setPen(colours.text);
-        DrawCellText(*painter, area, font, text);
+        DrawCellText(*painter, area, font, text, MarksIn(cell, colours));
         painter->restore();
     }
     if (IsCurrent(cell)) PaintFrame(*painter, option);

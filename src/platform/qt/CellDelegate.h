@@ -2,6 +2,7 @@
 
 #include "controls/GridBox.h"
 #include "platform/qt/CellLook.h"
+#include "platform/qt/CellText.h"
 #include "platform/qt/GridModel.h"
 
 #include <QAbstractItemDelegate>
@@ -50,6 +51,7 @@ private:
                    const QColor& back) const;
     void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
                     const CellColours& colours) const;
+    TextMarks MarksIn(CellPosition cell, const CellColours& colours) const;
     bool IsCurrent(CellPosition cell) const {
         return cell == CellPosition{Store().CurRow(), Store().CurCol()};
     }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 
 namespace korvane {
 
@@ -14,6 +15,8 @@ namespace {
 constexpr double kReadable = 3.0;
 /// What a text gets that was hard to read.
 constexpr double kComfortable = 6.0;
+/// What a text keeps of its contrast on a mark.
+constexpr double kMarkContrast = 4.5;
 
 /// The light that each value of a channel gives. Every cell that is painted asks for some.
 std::array<double, 256> MakeLinear() {
@@ -61,10 +64,40 @@ QColor Readable(const QColor& text, const QColor& back) {
     return result;
 }
 
+/// The hues of marks, the best one first: on a background like it, or one on which it would drown the text,
+/// the next is seen.
+constexpr std::array kMarkHues{QColor(255, 190, 0), QColor(70, 160, 255), QColor(70, 0, 120)};
+/// Marks that differ less from the background aren't noticed, in steps of the three channels together.
+constexpr int kNoticeable = 60;
+
+int Difference(const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+}
+
+/// As much of the hue as `share` allows and the text stays readable on.
+QColor ReadableMark(const CellColours& colours, const QColor& hue, double share) {
+    const double wanted = std::min(Contrast(colours.text, colours.back), kMarkContrast);
+    QColor mark = Blend(colours.back, hue, share);
+    for (; share > 0.05 && Contrast(colours.text, mark) < wanted; share -= 0.05)
+        mark = Blend(colours.back, hue, share);
+    return mark;
+}
+
 } // namespace
 
 Colour ChosenBack(Colour back, const QPalette& palette) {
     return back == kWhite && IsDark(palette.color(QPalette::Base)) ? kNoColour : back;
+}
+
+QColor MarkBack(const CellColours& colours, Mark mark) {
+    const double share = mark == Mark::Strong ? 0.85 : 0.4;
+    QColor best = colours.back;
+    for (const QColor& hue : kMarkHues) {
+        const QColor candidate = ReadableMark(colours, hue, share);
+        if (Difference(candidate, colours.back) > Difference(best, colours.back)) best = candidate;
+        if (Difference(best, colours.back) >= kNoticeable) break;
+    }
+    return best;
 }
 
 double Contrast(const QColor& text, const QColor& back) {

@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <cstdint>
 
 namespace korvane {
 
@@ -25,6 +26,13 @@ QColor TableBack(const Grid& store, const QPalette& palette);
 
 /// The lines between cells, to be seen on any background without standing out.
 QColor GridLine(const QColor& back);
+
+/// How much a marked place stands out.
+enum class Mark : std::uint8_t { Soft, Strong };
+
+/// The background of a marked place in a cell of these colours: to be told from the cell's own, with the text
+/// as readable as it takes.
+QColor MarkBack(const CellColours& colours, Mark mark);
 
 /// How well `text` can be read on `back`, from 1 (not at all) to 21.
 double Contrast(const QColor& text, const QColor& back);

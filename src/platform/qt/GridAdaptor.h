@@ -17,6 +17,9 @@ protected:
         case Aspect::Font:
             widget_.ReadLook();
             break;
+        case Aspect::Text:
+            widget_.viewport()->update();
+            break;
         default:
             AdaptorOf::Write(aspect);
         }

@@ -48,6 +48,8 @@ void GridView::SetUpHeaders() {
     connect(&columns, &QHeaderView::sectionResized, this,
             [this](int column, int, int width) { ColumnResized(column, width); });
 
+    columns.viewport()->installEventFilter(this);
+
     QHeaderView& rows = *verticalHeader();
     rows.setMinimumSectionSize(0);
     rows.setSectionResizeMode(QHeaderView::Fixed);

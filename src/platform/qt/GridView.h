@@ -31,6 +31,7 @@ public:
 protected:
     virtual std::unique_ptr<CellDelegate> MakeDelegate(const GridModel& model, const GridBox& box);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

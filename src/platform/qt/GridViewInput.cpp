@@ -37,7 +37,15 @@ void GridView::ColumnResized(int column, int width) {
     // A column that follows the width of the view keeps the width that was set.
     if (following_ || box_ == nullptr || horizontalHeader()->stretchLastSection()) return;
     const QScopedValueRollback guard(following_, true);
-    box_->Store().SetColWidth(GridModel::ColOf(column), width);
+    box_->DragColumn(GridModel::ColOf(column), width);
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+    // A header says of each pixel that an edge was dragged, but not when it was let go of.
+    const bool released = event->type() == QEvent::MouseButtonRelease;
+    const bool handled = QTableView::eventFilter(watched, event);
+    if (released && watched == horizontalHeader()->viewport() && box_ != nullptr) box_->ReleaseColumn();
+    return handled;
 }
 
 void GridView::HeaderClicked(int column) {

@@ -101,5 +101,31 @@ TEST_F(GridBoxTest, AClickMakesTheCellTheCurrentOne) {
     EXPECT_EQ(log, "click 2 ");
 }
 
+TEST_F(GridBoxTest, EachChangeByTheUserIsToldWhenAllOfItHasHappened) {
+    box.AfterChange = [this] { log += "change " + ToUtf8(First()) + " "; };
+    box.CommitEdit(Row{1}, Col{1}, u"plum");
+    EXPECT_EQ(log, "edit 1,1 change plum ");
+    log.clear();
+    box.Store().SetSortOnHeaderClick(true);
+    box.ClickHeader(Col{1});
+    EXPECT_EQ(log, "header 1 plum change apple ");
+    log.clear();
+    box.Store().SetCellCheckShown(Row{1}, true);
+    box.ClickCheck(Row{1});
+    EXPECT_EQ(log, "edit 1,1 change apple ");
+}
+
+TEST_F(GridBoxTest, ADraggedColumnIsToldOnceItIsLetGoOf) {
+    int changes = 0;
+    box.AfterChange = [&changes] { ++changes; };
+    box.DragColumn(Col{1}, 50);
+    box.DragColumn(Col{1}, 51);
+    EXPECT_EQ(changes, 0);
+    box.ReleaseColumn();
+    box.ReleaseColumn();
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(box.Store().ColWidth(Col{1}), 51);
+}
+
 } // namespace
 } // namespace korvane

@@ -271,5 +271,16 @@ TEST_F(TabTest, CaptionsAndToolTips) {
     EXPECT_EQ(Tab().ZoomSlider.ToolTipText.Get(), u"Move to change row height");
 }
 
+TEST_F(TabTest, WhatStandsInTheFindBoxIsMarkedInTheTable) {
+    Settings settings;
+    settings.LastDbFindText = u"app";
+    Start(settings);
+    EXPECT_EQ(Tab().iGrid1.MarkedText.Get(), u"app");
+    Tab().txtFindString.Type(u"pe");
+    EXPECT_EQ(Tab().iGrid1.MarkedText.Get(), u"pe");
+    Tab().txtFindString.Text = u"";
+    EXPECT_EQ(Tab().iGrid1.MarkedText.Get(), u"");
+}
+
 } // namespace
 } // namespace korvane

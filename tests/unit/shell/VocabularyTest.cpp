@@ -198,6 +198,8 @@ Alt+B | main | CustomBrowser
 Ctrl+Shift+I | tab | MakeEmailItalic
 Ctrl+Shift+B | tab | MakeEmailBold
 Ctrl+Shift+X | tab | MakeEmailStrikethru
+Ctrl+Z | tab | UndoEdit
+Ctrl+Shift+Z | tab | RedoEdit
 )";
 
 Lines LinesOf(std::string_view block) {

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "platform/Grid.h"
+#include "table/TableModel.h"
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <tuple>
+#include <variant>
+#include <vector>
+
+namespace korvane {
+
+class TableHost;
+
+/// The steps by which a table came to be what it is, so that they can be undone and redone: one for each
+/// command or edit that changed something. A step costs what it changed, never a copy of the table.
+class TableHistory {
+public:
+    /// Beyond this the oldest steps are forgotten: room for some fifty rewrites of a whole column at the
+    /// format's limit, and for more single edits than anybody makes in a day. Without it a long day over a
+    /// large table would end in gigabytes.
+    static constexpr std::size_t kMostMemory = std::size_t{256} * 1024 * 1024;
+
+    /// Table and host outlive the history.
+    TableHistory(TableModel& table, TableHost& host, std::size_t mostMemory = kMostMemory);
+    TableHistory(const TableHistory&) = delete;
+    TableHistory& operator=(const TableHistory&) = delete;
+    ~TableHistory();
+
+    /// What changed since the last step becomes one, unless nothing did. What was undone is forgotten then.
+    void EndStep();
+    /// That the row height of the model became another is no edit.
+    void IgnoreRowHeight() { attributes_.SetRowHeight = table_.SetRowHeight; }
+
+    /// Takes the latest step back; the table counts as altered. False when there is none.
+    bool Undo();
+    /// Makes the step again that was undone last. False when there is none.
+    bool Redo();
+
+private:
+    friend class TableStep;
+    friend class HistoryRestart;
+
+    template <class Field>
+    struct FieldNote {
+        Field TableAttributes::*field;
+        Field other;
+    };
+    using AttributeNote =
+        std::variant<FieldNote<std::optional<std::int16_t>>, FieldNote<std::optional<Colour>>,
+                     FieldNote<std::optional<Text>>, FieldNote<ColumnTexts>>;
+    struct Step {
+        std::unique_ptr<GridChanges> grid; // none when only attributes changed
+        std::vector<AttributeNote> attributes;
+
+        std::size_t MemoryUse() const;
+    };
+    using Steps = std::deque<Step>;
+
+    std::vector<AttributeNote> ChangedAttributes() const;
+    void TurnStep(Step& step);
+    bool MoveStep(Steps& from, Steps& to);
+    void ForgetOldest();
+    void Stop();
+    void Start();
+
+    TableModel& table_;
+    TableHost& host_;
+    std::size_t mostMemory_;
+    Steps done_;
+    Steps undone_;
+    std::size_t doneMemory_ = 0;
+    TableAttributes attributes_; // as they were at the end of the last step
+    int commandDepth_ = 0;
+    bool stopped_ = false;
+};
+
+/// Makes a step of what changes while it lives, the model's own fields included; what came before is one of
+/// its own. Where one lives within another, each has its steps.
+class TableStep {
+public:
+    explicit TableStep(TableHistory& history);
+    TableStep(const TableStep&) = delete;
+    TableStep& operator=(const TableStep&) = delete;
+    ~TableStep();
+
+private:
+    TableHistory& history_;
+};
+
+/// Forgets a history, and starts it anew at the end of its own life: nothing between is noted.
+class HistoryRestart {
+public:
+    /// nullptr for no history.
+    explicit HistoryRestart(TableHistory* history);
+    HistoryRestart(const HistoryRestart&) = delete;
+    HistoryRestart& operator=(const HistoryRestart&) = delete;
+    ~HistoryRestart();
+
+private:
+    TableHistory* history_;
+};
+
+} // namespace korvane

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "common/Text.h"
+
+#include <cstddef>
+#include <random>
+
+namespace korvane {
+
+/// What happens by chance, the same for each seed.
+class Chance {
+public:
+    explicit Chance(unsigned seed) : random_(seed) {}
+
+    /// 0 to `bound` - 1.
+    int Below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random_); }
+    bool OneIn(int times) { return Below(times) == 0; }
+    template <class Items>
+    auto& Pick(Items&& items) {
+        return items[static_cast<std::size_t>(Below(static_cast<int>(std::size(items))))];
+    }
+    /// Mostly short and of few letters, so that texts meet.
+    Text SomeText() {
+        static const Text kTexts[] = {u"",     u"a",      u"b",    u"ab",     u"abab",
+                                      u"---",  u"7",      u"12.5", u"a\r\nb", u"\t",
+                                      u"@row", u"Bücher", u"Я",    u"a\nb\r", u"NEW"};
+        return Pick(kTexts);
+    }
+
+private:
+    std::mt19937 random_;
+};
+
+} // namespace korvane
