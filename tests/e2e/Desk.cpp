@@ -25,7 +25,7 @@ std::string FirstLine(int descriptor) {
 } // namespace
 
 Desk::Desk()
-    : environment_{{"PATH", std::getenv("PATH")},
+    : environment_{{"PATH", (folder_ / "bin").string() + ":" + std::getenv("PATH")},
                    {"HOME", folder_.Path().string()},
                    {"XDG_RUNTIME_DIR", (folder_ / "run").string()},
                    {"LANG", "C.UTF-8"},
@@ -34,11 +34,13 @@ Desk::Desk()
                                     "/tests/e2e/leaks-of-libraries.txt"},
                    {"QT_QPA_PLATFORM", "xcb"},
                    {"DISPLAY", ""}} {
+    fs::create_directory(folder_ / "bin");
     fs::create_directory(folder_ / "run");
     fs::permissions(folder_ / "run", fs::perms::owner_all);
     // The program keeps its state beside itself: each desk has its own.
     fs::copy_file(KORVANE_PROGRAM, folder_ / "korvane");
-    fs::copy_file(KORVANE_SOURCE_DIR "/packaging/Korvane.ini", folder_ / "Korvane.ini");
+    for (const auto* const name : {"Korvane.ini", "Korvane_Help.rtf"})
+        fs::copy_file(fs::path(KORVANE_SOURCE_DIR "/packaging") / name, folder_ / name);
     StartDisplay();
 }
 
@@ -71,6 +73,16 @@ std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments) 
     return std::make_unique<Process>(command, environment_);
 }
 
+void Desk::Provide(const std::string& program) const {
+    const fs::path path = folder_ / "bin" / program;
+    WriteBytes(path, "#!/bin/sh\necho \"${0##*/} $*\" >> '" + (folder_ / "started").string() + "'\n");
+    fs::permissions(path, fs::perms::owner_all);
+}
+
+std::string Desk::Started() const {
+    return ReadBytes(folder_ / "started");
+}
+
 std::string Desk::Find(const std::string& title, const std::string& except) const {
     const auto found = Output({"xdotool", "search", "--onlyvisible", "--name", title}, environment_);
     std::istringstream windows(found.value_or(""));
@@ -99,6 +111,7 @@ bool Desk::Gone(const std::string& title, const std::string& except) {
 }
 
 void Desk::Press(const std::vector<std::string>& keys) const {
+    if (keys.empty()) return;
     std::vector<std::string> command{"xdotool", "key", "--clearmodifiers"};
     command.insert(command.end(), keys.begin(), keys.end());
     Output(command, environment_);

@@ -31,6 +31,11 @@ public:
     /// Starts the copy of the program.
     std::unique_ptr<Process> Start(const std::vector<std::string>& arguments) const;
 
+    /// Puts a program of this name before those of the system; it only notes how it was started.
+    void Provide(const std::string& program) const;
+    /// The command lines of provided programs so far, one a line, without the folders of the programs.
+    std::string Started() const;
+
     /// Waits for a window whose title is matched by the expression, other than `except`, and gives it the
     /// keyboard. Its number; empty when it doesn't come.
     std::string GoTo(const std::string& title, const std::string& except = "");
