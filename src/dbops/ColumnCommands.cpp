@@ -29,10 +29,10 @@ void RenameColumn(TableModel& table, Col col, const Text& name) {
 
 /// The captions come from `ColumnNames`, which itself isn't shifted, so that those of a later insert are the
 /// names of other columns. Deliberate: names and captions are known to go apart here, and a save keeps the
-/// captions.
+/// captions. A column whose left neighbour has no name keeps its caption.
 void ShiftCaptions(TableModel& table, Col first) {
     Grid& grid = table.GridStore();
-    for (Col col = grid.ColCount() - 1; col >= first; --col)
+    for (Col col = std::min(grid.ColCount() - 1, MaxColumns); col >= first; --col)
         grid.SetColHeaderText(col + 1, table.ColumnNames[col]);
 }
 

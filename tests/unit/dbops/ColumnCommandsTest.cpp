@@ -96,6 +96,7 @@ TEST_F(NamingAColumn, TakesAnEmptyNameAsItIs) {
         window.cmdColAccept.Press();
     });
     EXPECT_EQ(Headers(), (Texts{u"", u"Two", u"Three"}));
+    EXPECT_EQ(Names(3), (Texts{u"", u"Two", u"Three"}));
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
@@ -237,6 +238,15 @@ TEST_P(InsertingIntoAWideTable, AtTheLastColumnEmptiesIt) {
 
 INSTANTIATE_TEST_SUITE_P(AtTheLimit, InsertingIntoAWideTable, testing::Values(23, 24));
 
+TEST_F(InsertingIntoAWideTable, LeavesTheCaptionsOfColumnsThatHaveNoName) {
+    Widen(27);
+    mnuEdit_InsertColumn_Clack(t.tab);
+    EXPECT_EQ(t.Cell(1, 27), u"26");
+    EXPECT_EQ(Headers()[24], u"N24");
+    EXPECT_EQ(Headers()[25], u"N26");
+    EXPECT_EQ(Headers()[26], u"N27");
+}
+
 TEST(InsertingWithoutACurrentColumn, AddsAColumnWithoutTouchingOthersCaptions) {
     TestTab t;
     mnuEdit_InsertColumn_Clack(t.tab);
@@ -263,6 +273,12 @@ TEST_F(RemovingAColumn, DeliberatelyLeavesColumnNamesAsTheyWere) {
     t.user.Answer(Answer::Yes);
     mnuEdit_DeleteColumn_Clack(t.tab);
     EXPECT_EQ(Names(3), (Texts{u"One", u"Two", u"Three"}));
+}
+
+TEST_F(RemovingAColumn, AsksByTheCaptionWhateverItsNameWasAtFirst) {
+    t.grid.SetColHeaderText(Col{1}, u"Caption");
+    t.AnswerQuestion(u"Remove this column: \r\n\"Caption\"\t", Answer::No, 2);
+    mnuEdit_DeleteColumn_Clack(t.tab);
 }
 
 TEST_F(RemovingAColumn, LeavesItOnNo) {
@@ -308,6 +324,16 @@ TEST_F(RefreshingWidths, RoundsToTheNearestWholeNumber) {
     t.host.gridWidth = Twips{3 * 155 + 23};
     MnuEdit_RefreshColumnWidths_Clack(t.tab);
     EXPECT_EQ(t.grid.ColWidth(Col{1}), 10);
+}
+
+TEST_F(RefreshingWidths, RoundsAHalfToTheEvenNumber) {
+    t.grid.SetColCount(Col{4});
+    t.host.gridWidth = Twips{4 * 155 + 31};
+    MnuEdit_RefreshColumnWidths_Clack(t.tab);
+    EXPECT_EQ(t.grid.ColWidth(Col{1}), 10);
+    t.host.gridWidth = Twips{4 * 155 + 93};
+    MnuEdit_RefreshColumnWidths_Clack(t.tab);
+    EXPECT_EQ(t.grid.ColWidth(Col{4}), 12);
 }
 
 TEST_F(RefreshingWidths, DeliberatelyDoesNotCountAsAChange) {

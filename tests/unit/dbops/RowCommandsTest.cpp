@@ -33,8 +33,6 @@ class AddingRows : public RowCommands {};
 
 TEST_F(AddingRows, AppendsAnEmptyRowWithACheckBoxAndGoesThere) {
     t.GoTo(1, 2);
-    t.watcher = {};
-    t.watcher.watched = &t.grid;
     mnuEdit_AddOneRow_Clack(t.tab);
     EXPECT_EQ(t.Column(1), (Texts{u"a", u"b", u"c", u""}));
     EXPECT_EQ(t.Column(2), (Texts{u"A", u"B", u"C", u""}));
@@ -42,7 +40,7 @@ TEST_F(AddingRows, AppendsAnEmptyRowWithACheckBoxAndGoesThere) {
     EXPECT_TRUE(t.grid.CellCheckShown(Row{4}));
     EXPECT_EQ(t.grid.CellCheck(Row{4}), 0);
     EXPECT_EQ(t.Current(), At(4, 1));
-    EXPECT_EQ(t.watcher.rowsWanted.back(), Row{4});
+    EXPECT_EQ(t.watcher.rowsWanted, (std::vector{Row{3}, Row{4}}));
     EXPECT_EQ(t.watcher.focusWanted, 1);
     EXPECT_EQ(t.table.TableAltered, 1);
 }
@@ -185,6 +183,23 @@ TEST_F(MovingRows, SwapWithAHiddenNeighbour) {
     EXPECT_EQ(t.Column(1), (Texts{u"b", u"a", u"c"}));
     EXPECT_EQ(t.Current(), At(2, 1));
     EXPECT_EQ(t.Visible(), (std::vector{true, false, true}));
+}
+
+TEST_F(MovingRows, UpSwapsWithAHiddenNeighbourToo) {
+    t.Hide({1});
+    t.GoTo(2, 1);
+    mnuRowUp_Clack(t.tab);
+    EXPECT_EQ(t.Column(1), (Texts{u"b", u"a", u"c"}));
+    EXPECT_EQ(t.Current(), At(1, 1));
+    EXPECT_EQ(t.Visible(), (std::vector{false, true, true}));
+}
+
+TEST_F(MovingRows, OfATableOfOneRowDoesNothing) {
+    t.grid.SetRowCount(Row{1});
+    mnuRowDown_Clack(t.tab);
+    mnuRowUp_Clack(t.tab);
+    EXPECT_EQ(t.Column(1), (Texts{u"a"}));
+    EXPECT_EQ(t.table.TableAltered, 0);
 }
 
 TEST(MovingRowsWithoutACurrentRow, ChangesNothing) {

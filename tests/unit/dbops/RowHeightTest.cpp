@@ -141,6 +141,20 @@ TEST_F(RowHeight, TheBoxDeliberatelyReachesHeightsThatTheSliderRefuses) {
     }
 }
 
+TEST_F(RowHeight, ATypedTextHasTheHeightOfTheNumberItBeginsWith) {
+    struct Typed {
+        TextView text;
+        std::int16_t height;
+    };
+    for (const auto& [text, height] :
+         {Typed{u"tall", 0}, {u"", 0}, {u"-5", -5}, {u"30.5", 30}, {u"31.5", 32}, {u"1 2 rows", 12}}) {
+        ApplyTypedRowHeight(t.tab, text);
+        EXPECT_EQ(t.table.SetRowHeight, height);
+        EXPECT_EQ(t.host.heights.back(), height);
+        EXPECT_EQ(t.Heights(), (Numbers{height, height, height}));
+    }
+}
+
 TEST_F(RowHeight, ATypedHeightTooLargeForItsFieldLeavesItAsItWas) {
     t.table.SetRowHeight = 30;
     ApplyTypedRowHeight(t.tab, u"40000");

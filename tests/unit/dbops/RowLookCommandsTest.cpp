@@ -1,6 +1,7 @@
 #include "dbops/RowLookCommands.h"
 
 #include "dbops/RowColours.h"
+#include "dbops/TickCommands.h"
 #include "dbops/frmRowColour.h"
 #include "unit/dbops/TestTab.h"
 
@@ -185,7 +186,7 @@ TEST_F(RowColourCommand, SelectsTheRowsWhoseFirstCellHasBothColours) {
     t.watcher.rowChanges = 0;
     Run();
     EXPECT_EQ(t.Ticks(), (Numbers{1, 1, 0, 1}));
-    EXPECT_EQ(t.watcher.looks.back(), true);
+    EXPECT_EQ(t.watcher.looks, (Flags{false, true}));
     EXPECT_TRUE(t.grid.GridVisible());
     EXPECT_EQ(t.watcher.rowChanges, 0);
     EXPECT_EQ(t.table.TableAltered, 1);
@@ -284,6 +285,32 @@ TEST_F(RowColourCommand, RemovesTheFilterAndCountsAllRows) {
     EXPECT_EQ(t.table.TableAltered, 0);
 }
 
+TEST_F(RowColourCommand, TellsItsCountWhenAllIsDoneButBeforeThePointerComesBack) {
+    const auto expectDone = [this] {
+        EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Hourglass);
+        EXPECT_TRUE(t.grid.GridVisible());
+    };
+    for (CommandButton frmRowColour::*button :
+         {&frmRowColour::cmdSelect, &frmRowColour::cmdFilterToAttribute, &frmRowColour::cmdRemoveFilter}) {
+        t.watcher.focusWanted = 0;
+        Choose(kRed, button);
+        t.user.AnswerAfter(expectDone, Answer::Ok);
+        mnuFormat_RowColour_Clack(t.tab);
+        EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
+        EXPECT_EQ(t.watcher.focusWanted, 1);
+    }
+}
+
+TEST_F(RowColourCommand, TickAllCountsAndReachesOnlyTheRowsThatTheFilterLeaves) {
+    t.grid.SetRowFontFlag(Row{3}, CellFlag::Bold, true);
+    ChooseFilter(CellFlag::Bold);
+    t.AnswerInformation(u"[ 1 ] items with chosen attribute.");
+    Run();
+    t.AnswerQuestion(u"Tick the boxes in [ 1 ] visible rows?", Answer::Yes);
+    mnuSelAll_TickBoxes_Clack(t.tab);
+    EXPECT_EQ(t.Ticks(), (Numbers{0, 0, 1, 0}));
+}
+
 TEST_F(RowColourCommand, WorksOnATableWithoutRows) {
     t.grid.SetRowCount(Row{0});
     Choose(kRed, &frmRowColour::cmdAccept);
@@ -303,8 +330,8 @@ TEST_F(TableBackground, TakesTheChosenColour) {
     t.user.ChooseColour(Colour{0x00FF00});
     t.watcher.refreshes = 0;
     mnuFormat_BColor_Clack(t.tab);
-    ASSERT_EQ(t.user.ColourRequests().size(), 1u);
-    EXPECT_EQ(t.user.ColourRequests().front().start, Colour{0xABCDEF});
+    EXPECT_EQ(t.user.ColourRequests(),
+              (std::vector<ScriptedUser::ColourRequest>{{Colour{0xABCDEF}, ColourPicker::Extent::Full}}));
     EXPECT_EQ(t.table.TableBackColour, Colour{0x00FF00});
     EXPECT_EQ(t.grid.GridBackColor(), Colour{0x00FF00});
     EXPECT_EQ(t.watcher.refreshes, 1);

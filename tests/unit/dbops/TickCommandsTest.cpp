@@ -25,6 +25,12 @@ TEST_F(TickCommands, TheToggleTurnsTheCurrentRowsTickRound) {
     EXPECT_EQ(t.Ticks(), (Numbers{0, 0, 0, 0}));
 }
 
+TEST_F(TickCommands, TheToggleTicksWhateverIsNotExactlyTicked) {
+    t.grid.SetCellCheck(Row{1}, 2);
+    mnuEdit_ToggleSelection_Clack(t.tab);
+    EXPECT_EQ(t.Ticks(), (Numbers{1, 0, 0, 0}));
+}
+
 TEST(TickToggleWithoutACurrentRow, TicksNothing) {
     TestTab t;
     mnuEdit_ToggleSelection_Clack(t.tab);

@@ -98,6 +98,15 @@ TEST_F(RowColourWindow, SelectPutsTheColoursOfTheEntryIntoTheSettings) {
     EXPECT_EQ(t.app.Settings.ColourChoiceA, 0xC00000);
 }
 
+TEST_F(RowColourWindow, WithoutAnEntryTheChosenColoursStay) {
+    t.app.RowColourIndex = -1;
+    t.app.Settings.ColourChoiceB = 11;
+    t.app.Settings.ColourChoiceA = 12;
+    EXPECT_EQ(Show([](frmRowColour& window) { window.cmdAccept.Press(); }), 1);
+    EXPECT_EQ(t.app.Settings.ColourChoiceB, 11);
+    EXPECT_EQ(t.app.Settings.ColourChoiceA, 12);
+}
+
 TEST_F(RowColourWindow, OtherButtonsLeaveTheChosenColours) {
     t.app.Settings.ColourChoiceB = 11;
     t.app.Settings.ColourChoiceA = 12;
