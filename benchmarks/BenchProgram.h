@@ -12,6 +12,7 @@
 #include "platform/memory/ScriptedMessageBoxes.h"
 #include "platform/native/NativeFileSystem.h"
 #include "table/TabContext.h"
+#include "table/TableHistory.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
 
@@ -53,7 +54,8 @@ public:
     MemoryGrid grid{CodePage::Windows1252()};
     TableModel table{grid};
     NoHost host;
-    TabContext tab{app, table, host};
+    TableHistory history{table, host};
+    TabContext tab{app, table, host, &history};
 
     /// Loads the table at the limit. Ends the program when that fails: no figure would mean anything.
     void Load();

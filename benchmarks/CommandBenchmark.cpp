@@ -23,11 +23,14 @@ void Measure(benchmark::State& state, ProceedingUser user, const std::function<v
     program.Load();
     App app{{program.files, program.messages, program.clipboard, program.clock, program.screen, program.shell,
              program.instance, user, [] { return nullptr; }}};
-    const TabContext tab{app, program.table, program.host};
+    const TabContext tab{app, program.table, program.host, &program.history};
     for ([[maybe_unused]] auto _ : state) {
         program.messages.QueueAnswer(Answer::Yes);
         prepare(program);
-        state.SetIterationTime(SecondsOf([&] { work(tab); }));
+        state.SetIterationTime(SecondsOf([&] {
+            const TableStep step(program.history);
+            work(tab);
+        }));
     }
 }
 
