@@ -48,8 +48,7 @@ void ApplyRowHeight(const TabContext& tab) {
 
 void ApplyTypedRowHeight(const TabContext& tab, TextView typed) {
     std::int16_t height = tab.table.SetRowHeight.value_or(std::int16_t{0});
-    ReadNumber(typed, height);
-    tab.table.SetRowHeight = height;
+    if (ReadNumber(typed, height)) tab.table.SetRowHeight = height;
     tab.host.ShowRowHeight(height);
     ApplyRowHeight(tab);
 }

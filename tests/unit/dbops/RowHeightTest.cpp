@@ -163,5 +163,12 @@ TEST_F(RowHeight, ATypedHeightTooLargeForItsFieldLeavesItAsItWas) {
     EXPECT_EQ(t.Heights(), (Numbers{30, 30, 30}));
 }
 
+TEST_F(RowHeight, ATypedHeightTooLargeForItsFieldIsNoHeightForATableThatHasNone) {
+    ApplyTypedRowHeight(t.tab, u"40000");
+    EXPECT_EQ(t.table.SetRowHeight, std::nullopt);
+    EXPECT_EQ(t.host.heights, (Shown{0}));
+    EXPECT_EQ(t.Heights(), (Numbers{24, 24, 24}));
+}
+
 } // namespace
 } // namespace korvane
