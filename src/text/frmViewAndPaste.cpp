@@ -76,6 +76,8 @@ frmViewAndPaste::frmViewAndPaste(App& app)
     iGridListBar.DblClick = [this] { RunListed(); };
     iGridListBar.KeyDown = [this](KeyEvent& key) { iGridListBar_KeyDown(key); };
     TmpTextCtrl.Visible = false;
+    // A locked text is handed to the toolkit no further than anyone reads, however long it is.
+    TmpTextCtrl.Locked = true;
     for (const Rendering& rendering : kRenderings)
         (this->*rendering.view).Locked = true;
 }
@@ -95,6 +97,7 @@ void frmViewAndPaste::Unload() {
 void frmViewAndPaste::Activate() {
     if (activated_) return;
     activated_ = true;
+    const Hourglass hourglass(app_.Screen());
     app_.Screen().ProcessMessages();
     if (app_.Clipboard().HasText()) {
         // A program that makes its contents only when they are asked for does so here.
@@ -115,9 +118,9 @@ void frmViewAndPaste::KeyDown(KeyEvent& key) {
     Close();
 }
 
-const frmViewAndPaste::Rendering& frmViewAndPaste::Current() const {
+std::int16_t frmViewAndPaste::Mode() const {
     const bool known = ClipViewMode >= kFullText && ClipViewMode <= kPlainText;
-    return kRenderings[known ? ClipViewMode : kFullText];
+    return known ? ClipViewMode : kFullText;
 }
 
 void frmViewAndPaste::FillList() {
@@ -177,8 +180,8 @@ void frmViewAndPaste::mnuRetrieve_Click() {
 }
 
 void frmViewAndPaste::mnuToggle_Click() {
-    ClipViewMode = static_cast<std::int16_t>(ClipViewMode + 1);
-    if (ClipViewMode > kPlainText) ClipViewMode = kFullText;
+    const std::int16_t mode = Mode();
+    ClipViewMode = mode == kPlainText ? kFullText : static_cast<std::int16_t>(mode + 1);
     ShowMode();
 }
 

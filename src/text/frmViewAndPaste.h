@@ -59,7 +59,9 @@ private:
     static const Command kCommands[];
     static const Rendering kRenderings[];
 
-    const Rendering& Current() const;
+    /// `ClipViewMode`, or 0 where it is none of the three.
+    std::int16_t Mode() const;
+    const Rendering& Current() const { return kRenderings[Mode()]; }
     void FillList();
     void FillRenderings();
     void ShowMode();

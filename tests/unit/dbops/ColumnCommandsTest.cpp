@@ -2,6 +2,8 @@
 
 #include "common/Number.h"
 #include "dbops/frmTxtDbColName.h"
+#include "table/DesignCommand.h"
+#include "table/frmDesignTable.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
@@ -245,6 +247,21 @@ TEST_F(InsertingIntoAWideTable, LeavesTheCaptionsOfColumnsThatHaveNoName) {
     EXPECT_EQ(Headers()[24], u"N24");
     EXPECT_EQ(Headers()[25], u"N26");
     EXPECT_EQ(Headers()[26], u"N27");
+}
+
+TEST(InsertingIntoADesignedTable, OfTwentyFourColumnsAddsNoFurtherOne) {
+    TestTab t;
+    t.user.On<frmDesignTable>([](frmDesignTable& window) {
+        window.cmdAutoLabel.Press();
+        window.cmdMake.Press();
+    });
+    mnuEdit_DesignDb_Clack(t.tab);
+    t.GoTo(1, 1);
+    mnuEdit_InsertColumn_Clack(t.tab);
+    EXPECT_EQ(t.grid.ColCount(), MaxColumns);
+    EXPECT_EQ(t.grid.ColHeaderText(Col{1}), u"NEW");
+    EXPECT_EQ(t.grid.ColHeaderText(Col{2}), u"Col 1");
+    EXPECT_EQ(t.grid.ColHeaderText(MaxColumns), u"Col 23");
 }
 
 TEST(InsertingWithoutACurrentColumn, AddsAColumnWithoutTouchingOthersCaptions) {

@@ -188,6 +188,35 @@ TEST_F(Design, AddsItsColumnsToThoseOfTheGridAndClearsNothingDeliberately) {
     EXPECT_EQ(on.grid.ColWidth(Col{1}), 240);
 }
 
+TEST_F(Design, DropsTheRowsBeyondEightDeliberately) {
+    on.grid.AddCol(u"1no", u"Old");
+    on.grid.SetRowCount(Row{20});
+    on.grid.SetCellValue(Row{8}, Col{1}, u"kept");
+    on.grid.SetCellValue(Row{9}, Col{1}, u"lost");
+    Make({u"Name"});
+    EXPECT_EQ(on.grid.RowCount(), Row{8});
+    EXPECT_EQ(on.grid.CellValue(Row{8}, Col{1}), u"kept");
+}
+
+TEST_F(Design, ASecondOneGrowsATableBeyondItsMostColumnsDeliberately) {
+    Make(std::vector<Text>(24, u"x"));
+    table.TableAltered = 0;
+    Make(std::vector<Text>(24, u"y"));
+    EXPECT_EQ(on.grid.ColCount(), Col{48});
+    EXPECT_EQ(Header(24), u"x");
+    EXPECT_EQ(Header(48), u"y");
+    EXPECT_EQ(table.ColumnNames[MaxColumns], u"y");
+}
+
+TEST_F(Design, TheGridHearsOfItOnce) {
+    GridWatch watch;
+    on.grid.SetListener(&watch);
+    Make({u"Name", u"Town"});
+    EXPECT_EQ(watch.tableChanges, 1);
+    EXPECT_EQ(watch.rowChanges, 0);
+    on.grid.SetListener(nullptr);
+}
+
 TEST_F(Design, ACancelLeavesTheTabAsItIs) {
     Cancel();
     EXPECT_EQ(on.grid.ColCount(), Col{0});
@@ -218,6 +247,20 @@ TEST_F(Design, AsksAboutChangesFirst) {
     user.Answer(Answer::No);
     Make({u"Name"});
     EXPECT_EQ(on.grid.ColCount(), Col{1});
+}
+
+TEST_F(Design, GoesOnAfterTheChangesWereSavedAndNotWithoutAName) {
+    table.TableAltered = 1;
+    user.Answer(Answer::Yes);
+    user.CancelChooser();
+    mnuEdit_DesignDb_Clack(on.tab);
+    EXPECT_EQ(on.grid.ColCount(), Col{0});
+    user.Answer(Answer::Yes);
+    user.ChooseFile(u"C:\\Work\\old.tbx");
+    Make({u"Name"});
+    EXPECT_TRUE(on.program.files.FileExists(u"C:\\Work\\old.tbx"));
+    EXPECT_EQ(on.grid.ColCount(), Col{1});
+    EXPECT_EQ(table.TxtDbFile, u"C:\\Work\\NewTextDatabase.tbx");
 }
 
 TEST_F(Design, EndsWithTheKeyboardInTheGridHoweverItWent) {

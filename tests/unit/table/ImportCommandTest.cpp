@@ -10,10 +10,18 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 namespace korvane {
 namespace {
+
+/// A hundred megabytes at two bytes each. Where every access to memory is checked, less has to do.
+#ifdef __SANITIZE_ADDRESS__
+constexpr std::size_t kVeryLong = 5'000'000;
+#else
+constexpr std::size_t kVeryLong = 50'000'000;
+#endif
 
 /// Offers the clipboard, and retrieves it unless told otherwise.
 class OfferedClipboard final : public ClipboardView {
@@ -106,8 +114,15 @@ TEST_F(Import, AnEmptyClipboardMakesOneEmptyCell) {
     ExpectSize(1, 1);
     EXPECT_EQ(Cell(1, 1), u"");
     EXPECT_EQ(on.grid.ColHeaderText(Col{1}), u"Col. 1");
-    on.program.clipboard.Clear();
     EXPECT_EQ(table.TableAltered, 1);
+}
+
+TEST_F(Import, AClipboardWithoutTextMakesOneEmptyCellToo) {
+    on.program.clipboard.Clear();
+    user.Answer(question, Answer::Yes);
+    mnuImport_Clip_Clack(on.tab);
+    ExpectSize(1, 1);
+    EXPECT_EQ(Cell(1, 1), u"");
 }
 
 TEST_F(Import, OfCrLfTheCrStaysInTheLastCellDeliberately) {
@@ -146,6 +161,38 @@ TEST_F(Import, ShorterLinesLeaveTheirLastCellsEmpty) {
     EXPECT_EQ(Cell(3, 2), u"e");
 }
 
+TEST_F(Import, AddsItsColumnsBehindThoseOfTheGridAndWritesFromTheFirstOneDeliberately) {
+    on.grid.AddCol(u"1no", u"Old");
+    on.grid.SetColWidth(Col{1}, 77);
+    on.grid.SetRowCount(Row{3});
+    on.grid.SetCellValue(Row{1}, Col{1}, u"old");
+    on.grid.SetCellValue(Row{2}, Col{1}, u"old");
+    Take(u"a\tb\n\tc");
+    ExpectSize(2, 3);
+    EXPECT_EQ(on.grid.ColHeaderText(Col{1}), u"Old");
+    EXPECT_EQ(on.grid.ColHeaderText(Col{2}), u"Col. 1");
+    EXPECT_EQ(on.grid.ColHeaderText(Col{3}), u"Col. 2");
+    EXPECT_EQ(on.grid.ColWidth(Col{1}), 240);
+    EXPECT_EQ(Cell(1, 1), u"a");
+    EXPECT_EQ(Cell(1, 2), u"b");
+    EXPECT_EQ(Cell(2, 1), u"");
+    EXPECT_EQ(Cell(2, 2), u"c");
+    EXPECT_EQ(Cell(2, 3), u"");
+}
+
+TEST_F(Import, AnEmptyCellIsWrittenOnlyWhereATabOrALineEndClosesItDeliberately) {
+    on.grid.SetColCount(Col{2});
+    on.grid.SetRowCount(Row{2});
+    for (Row row{1}; row <= Row{2}; ++row)
+        for (Col col{1}; col <= Col{2}; ++col)
+            on.grid.SetCellValue(row, col, u"old");
+    Take(u"\n\t");
+    EXPECT_EQ(Cell(1, 1), u"");
+    EXPECT_EQ(Cell(1, 2), u"old");
+    EXPECT_EQ(Cell(2, 1), u"");
+    EXPECT_EQ(Cell(2, 2), u"old");
+}
+
 TEST_F(Import, FortyColumnsAreTakenThoughTheirFileCannotBeLoadedAgainDeliberately) {
     Take(Text(39, u'\t') + u"last");
     ExpectSize(1, 40);
@@ -161,6 +208,27 @@ TEST_F(Import, FortyColumnsAreTakenThoughTheirFileCannotBeLoadedAgainDeliberatel
         {u"Numbers of columns in this table exceeds the maximum of  24", MessageIcon::Stop}, Answer::Ok);
     ReadTableData(again.tab);
     EXPECT_EQ(again.grid.RowCount(), Row{0});
+}
+
+TEST_F(Import, ItsFirstSaveAsksForANameAndWritesNoLookDeliberately) {
+    Take(u"a\tb\r\nc\td");
+    user.Answer({u"Cannot save this file: \r\n\r\nUntitled_1.tbx\r\n\r\nTry saving it explicitly.",
+                 MessageIcon::Stop},
+                Answer::Ok);
+    user.ChooseFile(u"C:\\Work\\mine.tbx");
+    mnuFile_Save_Clack(on.tab);
+    const std::string saved = on.program.files.Contents(u"C:\\Work\\mine.tbx").value_or("");
+    EXPECT_NE(saved.find("!0\r\n!\r\n!0\r\n"), std::string::npos);
+
+    TestTable again;
+    again.program.files.AddFile(u"C:\\mine.tbx", saved);
+    again.model.TxtDbFile = u"C:\\mine.tbx";
+    ReadTableData(again.tab);
+    ASSERT_EQ(again.grid.RowCount(), Row{2});
+    EXPECT_EQ(again.grid.ColHeaderText(Col{2}), u"Col. 2");
+    // The CR that the import left in the cell ends a line of the file.
+    EXPECT_EQ(again.grid.CellValue(Row{1}, Col{2}), u"b\r\n");
+    EXPECT_EQ(again.grid.CellValue(Row{2}, Col{2}), u"d");
 }
 
 TEST_F(Import, SetsTheHeightOfTheFirstRowAndOfThoseThatEndButNotOfAnUnfinishedOneDeliberately) {
@@ -261,6 +329,8 @@ TEST_F(Import, AsksAboutChangesAndThenWhetherToGoOn) {
     user.Answer(Answer::No);
     user.Answer(question, Answer::No);
     mnuImport_Clip_Clack(on.tab);
+    EXPECT_EQ(view.offered, 2);
+    EXPECT_EQ(watch.wanted, 0);
     ExpectSize(0, 0);
     EXPECT_EQ(table.TxtDbFile, u"");
     EXPECT_TRUE(on.program.screen.Pointers().empty());
@@ -283,12 +353,16 @@ TEST_F(Import, StopsAtTheLastRowThatATableHas) {
     EXPECT_EQ(Cell(32767, 1), u"last");
 }
 
-TEST_F(Import, TakesAHundredMegabytesWithoutALineEndAsOneCell) {
-    // Two bytes each.
-    constexpr std::size_t kLength = 50'000'000;
-    Take(Text(kLength, u'x'));
+TEST_F(Import, ATextOfNulsIsOneCell) {
+    Take(Text(3, u'\0'));
     ExpectSize(1, 1);
-    EXPECT_EQ(on.grid.CellBytes(Row{1}, Col{1})->size(), kLength);
+    EXPECT_EQ(Cell(1, 1), Text(3, u'\0'));
+}
+
+TEST_F(Import, TakesAVeryLongTextWithoutALineEndAsOneCell) {
+    Take(Text(kVeryLong, u'x'));
+    ExpectSize(1, 1);
+    EXPECT_EQ(on.grid.CellBytes(Row{1}, Col{1})->size(), kVeryLong);
 }
 
 TEST(TabbedText, CountsTheColumnsOfItsFirstLine) {

@@ -101,6 +101,17 @@ TEST_F(DesignTable, AssignsTheLabelToTheCurrentEntry) {
     });
 }
 
+TEST_F(DesignTable, OfSeveralSelectedEntriesTheCurrentOneTakesTheLabel) {
+    Try([](frmDesignTable& f) {
+        f.ListView1.Select(3);
+        f.ListView1.SetSelected(5, true);
+        f.txtColumnName.Text = u"Name";
+        f.cmdAssign.Press();
+        EXPECT_EQ(Title(f, 3), u"Name");
+        EXPECT_EQ(Title(f, 5), u"");
+    });
+}
+
 TEST_F(DesignTable, ReturnInTheBoxAssigns) {
     Try([](frmDesignTable& f) {
         f.ListView1.Select(2);
@@ -202,9 +213,11 @@ TEST_F(DesignTable, TheDeleteKeyInTheListDeletes) {
 
 TEST_F(DesignTable, MovesAnEntryWithItsNumberAndTheSelectionGoesAlong) {
     Try([](frmDesignTable& f) {
+        Assign(f, 3, u"Town");
         Assign(f, 2, u"Name");
         f.Image1.Press();
         EXPECT_EQ(Title(f, 3), u"Name");
+        EXPECT_EQ(Title(f, 2), u"Town");
         EXPECT_EQ(Number(f, 3), u"2");
         EXPECT_EQ(Number(f, 2), u"3");
         EXPECT_EQ(f.ListView1.Current(), 3);

@@ -153,6 +153,17 @@ TEST_F(ViewAndPaste, AModeOutsideTheThreeCountsAsTheFirst) {
     }
 }
 
+TEST_F(ViewAndPaste, ATextStyleStepFromAModeOutsideTheThreeGoesOnFromTheFirst) {
+    Look([](frmViewAndPaste& f) {
+        for (const int mode : {-5, 3, 32767}) {
+            f.ClipViewMode = static_cast<std::int16_t>(mode);
+            f.OfficeMenu1.Choose("mnuToggle");
+            EXPECT_EQ(f.ClipViewMode, 1);
+            EXPECT_EQ(f.Frame1.Caption.Get(), u"> basic RTF <");
+        }
+    });
+}
+
 TEST_F(ViewAndPaste, TheMarginTakesTheColourOfTheRenderingThatIsSeen) {
     Look([](frmViewAndPaste& f) {
         f.TXTextControl1.BackColor = Colour{0xE0E0E0};
@@ -177,9 +188,28 @@ TEST_F(ViewAndPaste, OnlyTheFirstActivationFills) {
     });
 }
 
-TEST_F(ViewAndPaste, LetsEventsRunBetweenItsSteps) {
+TEST_F(ViewAndPaste, LetsEventsRunFirstAndBetweenItsSteps) {
     Put(u"text");
-    Look([this](frmViewAndPaste&) { EXPECT_GT(t.screen.ProcessMessagesCount(), 1); });
+    frmViewAndPaste f(t.app);
+    std::vector<std::vector<Text>> seen;
+    for (int step = 0; step < 4; ++step) {
+        t.screen.QueueMessage([&] {
+            seen.push_back({f.TXTextControl1.Text, f.RichTextBox1.Text, f.Text1.Text});
+        });
+    }
+    f.EnsureLoaded();
+    f.Activate();
+    EXPECT_EQ(
+        seen,
+        (std::vector<std::vector<Text>>{
+            {u"", u"", u""}, {u"text", u"", u""}, {u"text", u"text", u""}, {u"text", u"text", u"text"}}));
+}
+
+TEST_F(ViewAndPaste, ShowsTheHourglassWhileItFills) {
+    Put(u"text");
+    Look([this](frmViewAndPaste&) {
+        EXPECT_EQ(t.screen.Pointers(), (std::vector<Pointer>{Pointer::Hourglass, Pointer::Default}));
+    });
 }
 
 TEST_F(ViewAndPaste, RetrieveOfThePlainRenderingPutsTheWholeTextIntoTheTextWindow) {
@@ -232,6 +262,21 @@ TEST_F(ViewAndPaste, WithoutATextWindowOpenRetrieveOnlyTellsTheCaller) {
     Put(u"text");
     LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
     EXPECT_TRUE(window.inserted.empty());
+    EXPECT_EQ(t.app.DialogResult, 1);
+}
+
+TEST_F(ViewAndPaste, RetrieveOfAnEmptyPlainRenderingPutsNothingInPlaceOfTheSelection) {
+    FakeTextWindow window(t.app);
+    t.app.TextWindowOpen = 1;
+    LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
+    EXPECT_EQ(window.inserted, std::vector<Text>{u""});
+    EXPECT_EQ(t.app.DialogResult, 1);
+}
+
+TEST_F(ViewAndPaste, RetrieveForATextWindowThatIsGoneOnlyTellsTheCaller) {
+    t.app.TextWindowOpen = 1;
+    Put(u"text");
+    LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 
@@ -321,6 +366,15 @@ TEST_F(ViewAndPaste, SavesTheContentsUnderTheChosenName) {
     EXPECT_EQ(t.files.Contents(u"C:\\clip.txt"), "caf\xE9\r\nb");
 }
 
+TEST_F(ViewAndPaste, ASaveTakesThePlaceOfAFileThatWasLonger) {
+    FakeSystemFileDialog dialog(t.app);
+    dialog.answer = u"C:\\clip.txt";
+    t.files.AddFile(u"C:\\clip.txt", "of before");
+    Put(u"text");
+    Look([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuSave"); });
+    EXPECT_EQ(t.files.Contents(u"C:\\clip.txt"), "text");
+}
+
 TEST_F(ViewAndPaste, ACancelledSaveWritesNothing) {
     const FakeSystemFileDialog dialog(t.app);
     t.files.AddFile(u"C:\\clip.txt", "of before");
@@ -369,6 +423,11 @@ TEST_F(ViewAndPaste, TheRenderingsCannotBeTypedInto) {
     EXPECT_TRUE(f.TXTextControl1.Locked);
     EXPECT_TRUE(f.RichTextBox1.Locked);
     EXPECT_TRUE(f.Text1.Locked);
+}
+
+TEST_F(ViewAndPaste, TheHiddenControlIsLockedSoThatTheToolkitIsSparedALongText) {
+    const frmViewAndPaste f(t.app);
+    EXPECT_TRUE(f.TmpTextCtrl.Locked);
 }
 
 } // namespace
