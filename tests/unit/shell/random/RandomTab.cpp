@@ -23,7 +23,7 @@ bool IsUndoing(std::string_view command) {
 
 std::string RandomFile(Chance& chance) {
     const CodePage page = CodePage::Windows1252();
-    const int cols = chance.OneIn(20) ? 22 + chance.Below(3) : chance.Below(5);
+    const int cols = chance.OneIn(5) ? 22 + chance.Below(3) : chance.Below(5);
     std::vector<TestRow> rows(static_cast<std::size_t>(chance.Below(8)));
     TestRow names;
     for (int col = 0; col < cols; ++col) {
