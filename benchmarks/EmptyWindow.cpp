@@ -1,0 +1,16 @@
+// The least that a program with a window can do: the window, and nothing in it.
+
+#include "FirstPaint.h"
+
+#include <QApplication>
+#include <QWidget>
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QWidget window;
+    const korvane::bench::EndAtFirstPaint end(
+        [&window](const QWidget& widget) { return &widget == &window; });
+    window.resize(1200, 760);
+    window.show();
+    return QApplication::exec();
+}

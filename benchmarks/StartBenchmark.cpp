@@ -1,0 +1,155 @@
+// How long the program takes from its start to the first painted table, against an empty window, on a display
+// of its own.
+
+#include "LimitTable.h"
+#include "Moment.h"
+#include "SourceTree.h"
+#include "Xvfb.h"
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace korvane::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kDefaultRounds = 21;
+
+struct Seconds {
+    double wall = 0;
+    double processor = 0;
+};
+
+[[noreturn]] void Fail(const char* what) {
+    std::fprintf(stderr, "%s\n", what);
+    std::exit(1);
+}
+
+double ToSeconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+/// Starts a program that prints the moment at which it stands, and ends then.
+Seconds TimeOf(std::vector<std::string> command) {
+    std::vector<char*> words;
+    for (std::string& word : command)
+        words.push_back(word.data());
+    words.push_back(nullptr);
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) != 0) Fail("no pipe");
+
+    const std::int64_t start = NanosecondsNow();
+    const pid_t id = fork();
+    if (id == 0) {
+        dup2(ends[1], STDOUT_FILENO);
+        execv(words[0], words.data());
+        _exit(127);
+    }
+    close(ends[1]);
+    long long end = 0;
+    FILE* const output = fdopen(ends[0], "r");
+    const bool told = output != nullptr && std::fscanf(output, "%lld", &end) == 1;
+    std::fclose(output);
+    rusage used{};
+    int status = 0;
+    if (wait4(id, &status, 0, &used) != id || !told) Fail("a program didn't come up");
+    return {static_cast<double>(end - start) * 1e-9, ToSeconds(used.ru_utime) + ToSeconds(used.ru_stime)};
+}
+
+double Median(std::vector<double> seconds) {
+    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
+    std::nth_element(seconds.begin(), middle, seconds.end());
+    return *middle;
+}
+
+/// One of the starts that take turns.
+struct Start {
+    const char* name;
+    std::vector<std::string> command;
+    std::vector<double> wall{};
+    std::vector<double> processor{};
+
+    void Run() {
+        const Seconds seconds = TimeOf(command);
+        wall.push_back(seconds.wall);
+        processor.push_back(seconds.processor);
+    }
+};
+
+void Report(const std::vector<Start>& starts) {
+    const double floorWall = Median(starts[0].wall);
+    const double floorProcessor = Median(starts[0].processor);
+    std::printf("| start | wall clock | ratio | processor | ratio |\n| --- | --- | --- | --- | --- |\n");
+    for (const Start& start : starts) {
+        const double wall = Median(start.wall);
+        const double processor = Median(start.processor);
+        std::printf("| %s | %.0f ms | %.2f | %.0f ms | %.2f |\n", start.name, wall * 1e3, wall / floorWall,
+                    processor * 1e3, processor / floorProcessor);
+    }
+}
+
+/// A home of its own with a copy of the program, which keeps its state beside itself, and the shipped
+/// settings.
+class Home {
+public:
+    Home() {
+        fs::create_directories(folder_ / "run");
+        fs::permissions(folder_ / "run", fs::perms::owner_all);
+        fs::copy_file(KORVANE_STARTED_PROGRAM, Program());
+        fs::copy_file(KORVANE_SOURCE_DIR "/packaging/Korvane.ini", folder_ / "Korvane.ini");
+        setenv("HOME", folder_.c_str(), 1);
+        setenv("XDG_RUNTIME_DIR", (folder_ / "run").c_str(), 1);
+        setenv("QT_QPA_PLATFORM", "xcb", 1);
+    }
+    Home(const Home&) = delete;
+    Home& operator=(const Home&) = delete;
+    ~Home() {
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+
+    std::string Program() const { return folder_ / "korvane"; }
+
+private:
+    fs::path folder_ = fs::temp_directory_path() / ("korvane-start-" + std::to_string(getpid()));
+};
+
+void Measure(int rounds) {
+    const Xvfb display;
+    const Home home;
+    std::vector<Start> starts{
+        {"empty Qt window", {KORVANE_EMPTY_WINDOW}},
+        {"Korvane with the sample of books", {home.Program(), KORVANE_SOURCE_DIR "/samples/Books.tbx"}},
+        {"Korvane with a table at the limit", {home.Program(), LimitTablePath()}},
+    };
+    // Once without counting, so that all files are in memory.
+    for (const Start& start : starts)
+        TimeOf(start.command);
+    for (int round = 0; round < rounds; ++round)
+        for (Start& start : starts)
+            start.Run();
+    Report(starts);
+}
+
+} // namespace
+
+} // namespace korvane::bench
+
+int main(int argc, char** argv) {
+    using namespace korvane::bench;
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : kDefaultRounds;
+    if (rounds < 1) return 2;
+    Measure(rounds);
+    return 0;
+}

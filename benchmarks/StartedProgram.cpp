@@ -1,0 +1,34 @@
+// The program as it is, but that it ends when the table has been painted for the first time.
+
+#include "FirstPaint.h"
+#include "app/Application.h"
+#include "app/CommandLine.h"
+#include "app/Program.h"
+#include "platform/qt/GridView.h"
+#include "platform/qt/Palettes.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/SideBarView.h"
+#include "platform/qt/instance/LocalSocketChannel.h"
+
+namespace {
+
+/// The area with the cells of a table: the sidebar is a grid, too.
+bool IsTable(const QWidget& widget) {
+    const auto* grid = qobject_cast<const korvane::GridView*>(widget.parentWidget());
+    const bool isSideBar = qobject_cast<const korvane::SideBarView*>(grid) != nullptr;
+    return grid != nullptr && !isSideBar && &widget == grid->viewport();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    using namespace korvane;
+    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    int own = 1;
+    const Application application(own, argv);
+    const bench::EndAtFirstPaint end(&IsTable);
+    FollowDesktopPalette();
+    LocalSocketChannel channel(FindInstancePlace(OwnInstanceSurroundings()));
+    QtMessageBoxes messages;
+    return Program(channel, messages).Run(line.path);
+}

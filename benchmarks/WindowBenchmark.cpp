@@ -1,0 +1,182 @@
+// What the user waits for in the main window: a further tab, another style of the tabs, the sidebar. On a
+// display of its own.
+
+#include "Moment.h"
+#include "SourceTree.h"
+#include "Xvfb.h"
+#include "context/App.h"
+#include "platform/memory/MemoryClipboard.h"
+#include "platform/memory/MemoryClock.h"
+#include "platform/memory/MemoryFileSystem.h"
+#include "platform/memory/MemoryGrid.h"
+#include "platform/memory/MemoryInstanceChannel.h"
+#include "platform/memory/MemoryShell.h"
+#include "platform/memory/ScriptedMessageBoxes.h"
+#include "platform/qt/CalmStyle.h"
+#include "platform/qt/QtFormHost.h"
+#include "platform/qt/QtScreen.h"
+#include "shell/frmMDIParent.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane::bench {
+
+namespace {
+
+constexpr int kDefaultRounds = 5;
+constexpr int kTabs = 100;
+constexpr int kSwitches = 40;
+
+std::string BytesOf(const char* path) {
+    std::ifstream file(path, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    if (!bytes.empty()) return bytes;
+    std::fprintf(stderr, "cannot read %s\n", path);
+    std::exit(1);
+}
+
+Text PathOf(int number) {
+    return u"C:\\Data\\Books " + FromAscii(std::to_string(number)) + u".tbx";
+}
+
+double ProcessorSeconds() {
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// The main window on the screen, with its files in memory.
+class Window {
+public:
+    Window() {
+        files.AddFile(u"C:\\Korvane\\Korvane.ini", BytesOf(KORVANE_SOURCE_DIR "/packaging/Korvane.ini"));
+        const std::string books = BytesOf(KORVANE_SOURCE_DIR "/samples/Books.tbx");
+        for (int number = 1; number <= kTabs; ++number)
+            files.AddFile(PathOf(number), books);
+        main.EnsureLoaded();
+        main.Show();
+        Settle();
+    }
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window() {
+        main.Close();
+        Settle();
+    }
+
+    void Open(int number) { main.Pipeline().OpenDatabase(PathOf(number), LoadInto::NewTab); }
+    void Run(std::string_view command) { main.RunCommand(command); }
+    /// Until everything is painted.
+    void Settle() {
+        // What an event leads to may ask for a paint of its own.
+        for (int turn = 0; turn < 3; ++turn) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+    }
+
+    MemoryClock clock;
+    MemoryFileSystem files{PathStyle::Windows, clock};
+    ScriptedMessageBoxes messages;
+    MemoryClipboard clipboard;
+    QtScreen screen;
+    MemoryShell shell;
+    MemoryInstanceChannel instance;
+    QtFormHost forms{KorvaneForms()};
+    App app{{files, messages, clipboard, clock, screen, shell, instance, forms,
+             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             nullptr}};
+    frmMDIParent main{app, {}};
+};
+
+struct Times {
+    std::vector<double> wall;
+    std::vector<double> processor;
+
+    template <class Work>
+    void Add(const Work& work) {
+        const double processorStart = ProcessorSeconds();
+        const std::int64_t start = NanosecondsNow();
+        work();
+        wall.push_back(static_cast<double>(NanosecondsNow() - start) * 1e-9);
+        processor.push_back(ProcessorSeconds() - processorStart);
+    }
+};
+
+double Quantile(std::vector<double> seconds, double part) {
+    std::sort(seconds.begin(), seconds.end());
+    return seconds[static_cast<std::size_t>(part * static_cast<double>(seconds.size() - 1))];
+}
+
+void Report(const char* what, const Times& times) {
+    std::printf("| %s | %.1f ms | %.1f ms | %.1f ms |\n", what, Quantile(times.processor, 0.5) * 1e3,
+                Quantile(times.processor, 1) * 1e3, Quantile(times.wall, 0.5) * 1e3);
+    std::fflush(stdout);
+}
+
+void MeasureTabs(int rounds) {
+    Times second;
+    Times last;
+    for (int round = 0; round < rounds; ++round) {
+        Window window;
+        for (int number = 1; number <= kTabs; ++number) {
+            Times& times = number == kTabs ? last : second;
+            const auto open = [&] {
+                window.Open(number);
+                window.Settle();
+            };
+            if (number == 2 || number == kTabs) {
+                times.Add(open);
+            } else {
+                open();
+            }
+        }
+    }
+    Report("opening the 2nd tab", second);
+    Report("opening the 100th tab", last);
+}
+
+void MeasureCommand(const char* what, std::string_view command) {
+    Window window;
+    for (int number = 1; number <= 3; ++number)
+        window.Open(number);
+    window.Settle();
+    Times times;
+    for (int i = 0; i < kSwitches; ++i) {
+        times.Add([&] {
+            window.Run(command);
+            window.Settle();
+        });
+    }
+    Report(what, times);
+}
+
+} // namespace
+
+} // namespace korvane::bench
+
+int main(int argc, char** argv) {
+    using namespace korvane::bench;
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : kDefaultRounds;
+    if (rounds < 1) return 2;
+    const Xvfb display;
+    const QApplication application(argc, argv);
+    QApplication::setStyle(new korvane::CalmStyle);
+    std::printf("| what | processor, median | processor, longest | wall clock, median |\n");
+    std::printf("| --- | --- | --- | --- |\n");
+    MeasureTabs(rounds);
+    MeasureCommand("the next style of the tabs", "StyleForward");
+    MeasureCommand("the sidebar off or on", "mnuSideBar");
+    MeasureCommand("the next width of the sidebar", "NextSideBarWidth");
+    return 0;
+}
