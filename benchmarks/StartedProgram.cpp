@@ -4,11 +4,11 @@
 #include "app/Application.h"
 #include "app/CommandLine.h"
 #include "app/Program.h"
+#include "app/SystemParts.h"
 #include "platform/qt/GridView.h"
 #include "platform/qt/Palettes.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/SideBarView.h"
-#include "platform/qt/instance/LocalSocketChannel.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     const Application application(own, argv);
     const bench::EndAtFirstPaint end(&IsTable);
     FollowDesktopPalette();
-    LocalSocketChannel channel(FindInstancePlace(OwnInstanceSurroundings()));
+    const auto system = OwnSystemParts();
     QtMessageBoxes messages;
-    return Program(channel, messages).Run(line.path);
+    return Program(*system, system->Channel(), messages).Run(line.path);
 }

@@ -3,6 +3,7 @@
 #include "platform/qt/CellLook.h"
 #include "platform/qt/Icons.h"
 #include "platform/qt/Palettes.h"
+#include "platform/qt/TabBar.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -66,6 +67,13 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     return metric == PM_HeaderMargin ? kHeaderMargin : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+/// The strip's buttons stand where the strip itself places them, so that no layout moves them twice.
+QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+    if (element == SE_TabBarTabRightButton && qobject_cast<const TabBar*>(widget) != nullptr)
+        return TabBar::CloseButtonOf(option->rect);
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 QSize CalmStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

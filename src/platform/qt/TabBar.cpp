@@ -28,6 +28,11 @@ constexpr int kShortest = 6;
 constexpr int kLongest = 26;
 constexpr int kCrowded = 9;
 
+/// What is painted of a tab's place.
+QRect ShapeIn(const QRect& tab) {
+    return tab.adjusted(0, kAboveTabs, -kGapBetween, 0);
+}
+
 /// Closes its tab.
 class CloseButton : public QAbstractButton {
 public:
@@ -85,10 +90,14 @@ TabColours TabBar::Colours() const {
 }
 
 QSize TabBar::tabSizeHint(int index) const {
-    const QFontMetrics metrics = fontMetrics();
-    const int letter = metrics.averageCharWidth();
+    const int letter = LetterSize().width();
     const int width = std::clamp(CaptionWidth(tabText(index)), kShortest * letter, kLongest * letter);
-    return {width + kBesideCaption, metrics.height() + kRoomAround};
+    return {width + kBesideCaption, LetterSize().height() + kRoomAround};
+}
+
+const QSize& TabBar::LetterSize() const {
+    if (letterSize_.isEmpty()) letterSize_ = {fontMetrics().averageCharWidth(), fontMetrics().height()};
+    return letterSize_;
 }
 
 int TabBar::CaptionWidth(const QString& caption) const {
@@ -99,14 +108,28 @@ int TabBar::CaptionWidth(const QString& caption) const {
 }
 
 void TabBar::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) captionWidths_.clear();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) ForgetSizes();
     QTabBar::changeEvent(event);
+}
+
+void TabBar::ForgetSizes() {
+    captionWidths_.clear();
+    letterSize_ = {};
 }
 
 QSize TabBar::minimumTabSizeHint(int index) const {
     const QSize whole = tabSizeHint(index);
-    const int crowded = kCrowded * fontMetrics().averageCharWidth() + kBesideCaption;
+    const int crowded = kCrowded * LetterSize().width() + kBesideCaption;
     return {std::min(whole.width(), crowded), whole.height()};
+}
+
+/// What the toolkit needs to place the buttons, for all tabs at each layout. Its own way also cuts the
+/// captions, which takes most of the time that a tab among many costs.
+void TabBar::initStyleOption(QStyleOptionTab* option, int index) const {
+    option->direction = layoutDirection();
+    option->rect = tabRect(index);
+    option->shape = shape();
+    if (const QWidget* button = tabButton(index, RightSide)) option->rightButtonSize = button->size();
 }
 
 void TabBar::tabInserted(int index) {
@@ -127,14 +150,18 @@ void TabBar::tabLayoutChange() {
     for (int index = 0; index < count(); ++index) {
         QWidget* button = tabButton(index, RightSide);
         if (button == nullptr) continue;
-        const QRect shape = ShapeOf(index);
-        button->move(shape.right() - kPadding - kCloseSize + 1,
-                     shape.top() + (shape.height() - kCloseSize) / 2);
+        button->move(CloseButtonOf(tabRect(index)).topLeft());
     }
 }
 
 QRect TabBar::ShapeOf(int index) const {
-    return tabRect(index).adjusted(0, kAboveTabs, -kGapBetween, 0);
+    return ShapeIn(tabRect(index));
+}
+
+QRect TabBar::CloseButtonOf(const QRect& tab) {
+    const QRect shape = ShapeIn(tab);
+    return {shape.right() - kPadding - kCloseSize + 1, shape.top() + (shape.height() - kCloseSize) / 2,
+            kCloseSize, kCloseSize};
 }
 
 QPainterPath TabBar::OutlineOf(const QRectF& shape) const {
@@ -172,7 +199,7 @@ void TabBar::PaintTab(QPainter& painter, int index, const TabColours& colours) c
         return;
     }
     QStyleOptionTab option;
-    initStyleOption(&option, index);
+    QTabBar::initStyleOption(&option, index);
     const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
     const QPainterPath outline = OutlineOf(QRectF(shape).adjusted(0.5, 0.5, -0.5, 0));
     painter.fillPath(outline, hovered ? colours.hover : colours.rest);

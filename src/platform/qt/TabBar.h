@@ -19,8 +19,11 @@ public:
     /// Takes the look of a style number, with or without a line round the strip.
     void SetLook(int style, bool framed);
     TabColours Colours() const;
+    /// Where the button that closes a tab stands in the tab's place.
+    static QRect CloseButtonOf(const QRect& tab);
 
 protected:
+    void initStyleOption(QStyleOptionTab* option, int index) const override;
     QSize tabSizeHint(int index) const override;
     QSize minimumTabSizeHint(int index) const override;
     void tabInserted(int index) override;
@@ -30,6 +33,9 @@ protected:
 
 private:
     int CaptionWidth(const QString& caption) const;
+    /// How wide a letter is on average, and how high a line.
+    const QSize& LetterSize() const;
+    void ForgetSizes();
     void CloseAt(const QWidget& button);
     QRect ShapeOf(int index) const;
     QPainterPath OutlineOf(const QRectF& shape) const;
@@ -39,8 +45,9 @@ private:
 
     const TabStyle* style_;
     bool framed_ = false;
-    /// In the present font. Each new tab makes the toolkit ask for all of them several times.
+    // Sizes in the present font. Each new tab makes the toolkit ask for those of all tabs several times.
     mutable QHash<QString, int> captionWidths_;
+    mutable QSize letterSize_;
 };
 
 } // namespace korvane

@@ -36,8 +36,9 @@ TabPages::TabPages(QWidget* parent)
 void TabPages::Add(QWidget& page, const QString& caption) {
     pages_.append(&page);
     stack_->addWidget(&page);
-    tabs_->addTab(QString());
-    SetCaption(Count() - 1, caption);
+    // With its caption at once: each change of a text lays all tabs out anew.
+    tabs_->addTab(TabText(caption));
+    SetToolTip(Count() - 1, caption);
 }
 
 void TabPages::Remove(int index) {
@@ -45,17 +46,30 @@ void TabPages::Remove(int index) {
     stack_->removeWidget(page);
     page->hide();
     tabs_->removeTab(index);
-    if (pages_.isEmpty()) stack_->setCurrentWidget(hint_);
+    if (pages_.isEmpty()) BringToFront(*hint_);
 }
 
 void TabPages::SetCaption(int index, const QString& caption) {
     tabs_->setTabText(index, TabText(caption));
+    SetToolTip(index, caption);
+}
+
+void TabPages::SetToolTip(int index, const QString& caption) {
     tabs_->setTabToolTip(index, Qt::mightBeRichText(caption) ? caption.toHtmlEscaped() : caption);
+}
+
+/// The toolkit holds all painting for the change, and tells so each widget of every page, unless it is held
+/// already.
+void TabPages::BringToFront(QWidget& page) {
+    stack_->setAttribute(Qt::WA_UpdatesDisabled, true);
+    stack_->setCurrentWidget(&page);
+    stack_->setAttribute(Qt::WA_UpdatesDisabled, false);
+    stack_->update();
 }
 
 void TabPages::ShowPage(int index) {
     QWidget& page = *pages_.at(index);
-    stack_->setCurrentWidget(&page);
+    BringToFront(page);
     tabs_->setCurrentIndex(index);
     // Also in a window that isn't on the screen yet: its page has the keyboard when it comes up.
     QWidget* wanted = page.focusWidget();

@@ -30,6 +30,9 @@ public:
     void SetEmptyHint(const QString& hint) { hint_->setText(hint); }
 
 private:
+    void SetToolTip(int index, const QString& caption);
+    void BringToFront(QWidget& page);
+
     TabBar* tabs_;
     QStackedWidget* stack_;
     QLabel* hint_;
