@@ -3,8 +3,8 @@
 #include "common/CodePage.h"
 #include "platform/native/UserCodePage.h"
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 namespace korvane {
 namespace {
