@@ -21,10 +21,10 @@ std::string MountTable() {
 std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     std::error_code error;
     const fs::path plain = fs::weakly_canonical(fs::absolute(path, error), error);
-    const auto mount = MountOf(MountTable(), plain.native());
-    if (!mount) return std::nullopt;
-    VolumeInfo info{.type = TypeOf(*mount), .name = FromNativePath(NameOf(*mount))};
-    const fs::space_info space = fs::space(mount->point, error);
+    // Where the root is a folder of another system, the table doesn't name it.
+    const Mount mount = MountOf(MountTable(), plain.native()).value_or(Mount{"/", ""});
+    VolumeInfo info{.type = TypeOf(mount), .name = FromNativePath(NameOf(mount))};
+    const fs::space_info space = fs::space(mount.point, error);
     if (error) {
         info.ready = false;
         return info;
