@@ -24,8 +24,8 @@ namespace fs = std::filesystem;
 using LevelTable = std::map<std::string, std::set<std::string>>;
 
 const fs::path kSource = fs::path(KORVANE_SOURCE_DIR) / "src";
-const std::set<std::string> kEdge{"platform/native",      "platform/qt",      "platform/qt/desktop",
-                                  "platform/qt/instance", "platform/windows", "app"};
+const std::set<std::string> kEdge{"platform/qt", "platform/qt/desktop", "platform/qt/instance",
+                                  "platform/windows", "app"};
 
 std::set<std::string> SplitList(const std::string& list) {
     std::set<std::string> names;
