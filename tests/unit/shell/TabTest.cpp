@@ -109,6 +109,15 @@ TEST_F(TabTest, CtrlAltXExploresTheCurrentDirectoryWhereTheFolderIsGone) {
     EXPECT_EQ(p.shell.Calls().at(1).argument, u"C:\\");
 }
 
+TEST_F(TabTest, CtrlAltXExploresTheCurrentDirectoryAndNotTheRootForABareName) {
+    Start();
+    p.files.AddDir(u"C:\\Elsewhere");
+    ASSERT_TRUE(p.files.ChangeDir(u"C:\\Elsewhere"));
+    Tab().Table().TxtDbFile = u"a.tbx";
+    p.PressKey('X', Mask::Ctrl | Mask::Alt);
+    EXPECT_EQ(p.shell.Calls().at(0).argument, u"C:\\Elsewhere");
+}
+
 TEST_F(TabTest, CtrlAltVShowsTheClipboardAndLeavesTheTableAlone) {
     Start();
     p.user.On<frmViewAndPaste>([](frmViewAndPaste& view) { view.Close(); });
