@@ -1,7 +1,7 @@
-# korvane_library(<name> SOURCES ... DEPENDS ...)
+# korvane_library(<name> SOURCES ... DEPENDS ...): one static library of the core or of what tests share.
 #
-# One static library for one folder of src/. It is linked with exactly what the level table of src/README.md
-# names for the folder, so that an include that points the wrong way finds no header.
+# Every target sees all of src/, so that an include reads the same everywhere. Which folder may include which is
+# told by the level table of src/README.md and held by tests/arch.
 function(korvane_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     set(target korvane_${name})
@@ -15,4 +15,41 @@ function(korvane_library name)
         target_link_libraries(${target} INTERFACE ${ARG_DEPENDS})
         target_include_directories(${target} INTERFACE ${PROJECT_SOURCE_DIR}/src)
     endif()
+endfunction()
+
+# korvane_folder([NAME name] SOURCES ... FORMS ...): the library of the current folder of src/.
+#
+# It is linked with exactly what the level table names for the folder. The library of `a/b` is called `a_b` unless
+# NAME says otherwise. FORMS are the Designer files of the folder's windows.
+function(korvane_folder)
+    cmake_parse_arguments(ARG "" "NAME" "SOURCES;FORMS" ${ARGN})
+    file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+    if(NOT ARG_NAME)
+        string(REPLACE "/" "_" ARG_NAME ${folder})
+    endif()
+    korvane_folder_depends(depends ${folder})
+    korvane_library(${ARG_NAME} SOURCES ${ARG_SOURCES} DEPENDS ${depends})
+    list(TRANSFORM ARG_FORMS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+    set_property(GLOBAL APPEND PROPERTY KORVANE_FORMS ${ARG_FORMS})
+endfunction()
+
+# The libraries that the level table names in the brackets of a folder.
+function(korvane_folder_depends result folder)
+    set(table ${PROJECT_SOURCE_DIR}/src/README.md)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
+    file(STRINGS ${table} row REGEX "^\\| `${folder}` \\| .*")
+    if(NOT row MATCHES "^\\| `${folder}` \\| \\[([^]]*)\\]")
+        message(FATAL_ERROR "${table} has no row for ${folder}")
+    endif()
+    string(REGEX REPLACE "[ `]" "" depends "${CMAKE_MATCH_1}")
+    string(REPLACE "," ";" depends "${depends}")
+    list(TRANSFORM depends REPLACE "/" "_")
+    # Some folders are built for one system only.
+    set(built "")
+    foreach(name IN LISTS depends)
+        if(TARGET korvane_${name})
+            list(APPEND built ${name})
+        endif()
+    endforeach()
+    set(${result} ${built} PARENT_SCOPE)
 endfunction()
