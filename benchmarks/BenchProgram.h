@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "context/App.h"
 #include "controls/FormHost.h"
 #include "platform/memory/MemoryClipboard.h"

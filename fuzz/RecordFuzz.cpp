@@ -2,7 +2,7 @@
 // its lines, and what is written of it comes back.
 
 #include "StateStage.h"
-#include "common/DateTime.h"
+#include "common/number/DateTime.h"
 #include "shell/RecentRecord.h"
 
 #include <algorithm>

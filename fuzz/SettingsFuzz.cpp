@@ -1,7 +1,7 @@
 // Any bytes as a settings file: they are read without a word, and what is written of them comes back.
 
 #include "StateStage.h"
-#include "common/Settings.h"
+#include "common/settings/Settings.h"
 #include "shell/SettingsFile.h"
 
 #include <array>

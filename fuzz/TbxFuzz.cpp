@@ -2,7 +2,7 @@
 // it.
 
 #include "Require.h"
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "platform/FileSystem.h"
 #include "platform/memory/MemoryGrid.h"
 #include "support/PlainTbxReader.h"

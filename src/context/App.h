@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/CodePage.h"
-#include "common/Settings.h"
-#include "common/Text.h"
+#include "common/settings/Settings.h"
+#include "common/text/CodePage.h"
+#include "common/text/Text.h"
 #include "context/ListerRequest.h"
 #include "platform/Grid.h"
 #include "platform/Spreadsheet.h"

@@ -1,6 +1,6 @@
 #include "context/DriveInfo.h"
 
-#include "common/PathStyle.h"
+#include "common/path/PathStyle.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 

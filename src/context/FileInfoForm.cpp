@@ -1,7 +1,7 @@
 #include "context/FileInfoForm.h"
 
-#include "common/Number.h"
-#include "common/PathStyle.h"
+#include "common/number/Number.h"
+#include "common/path/PathStyle.h"
 #include "context/App.h"
 #include "platform/Clipboard.h"
 #include "platform/FileSystem.h"

@@ -1,6 +1,6 @@
 #include "context/FileNames.h"
 
-#include "common/Names.h"
+#include "common/text/Names.h"
 #include "context/App.h"
 #include "platform/MessageBoxes.h"
 

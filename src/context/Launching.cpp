@@ -1,9 +1,9 @@
 #include "context/Launching.h"
 
-#include "common/CommandLine.h"
-#include "common/DriveForms.h"
-#include "common/FindEntry.h"
-#include "common/PathStyle.h"
+#include "common/path/CommandLine.h"
+#include "common/path/DriveForms.h"
+#include "common/path/PathStyle.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/StoredPaths.h"
 #include "platform/FileSystem.h"

@@ -1,6 +1,6 @@
 #include "context/StoredPaths.h"
 
-#include "common/DriveForms.h"
+#include "common/path/DriveForms.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"

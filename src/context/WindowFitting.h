@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/Settings.h"
-#include "common/Units.h"
+#include "common/number/Units.h"
+#include "common/settings/Settings.h"
 #include "platform/Screen.h"
 
 #include <cstdint>

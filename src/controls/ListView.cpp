@@ -1,6 +1,6 @@
 #include "controls/ListView.h"
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 
 #include <algorithm>
 

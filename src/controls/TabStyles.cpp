@@ -1,6 +1,6 @@
 #include "controls/TabStyles.h"
 
-#include "common/FindEntry.h"
+#include "common/text/FindEntry.h"
 
 #include <algorithm>
 #include <array>

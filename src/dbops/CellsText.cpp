@@ -1,6 +1,6 @@
 #include "dbops/CellsText.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 
 #include <utility>
 

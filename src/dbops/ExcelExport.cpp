@@ -1,6 +1,6 @@
 #include "dbops/ExcelExport.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
 #include "context/Ports.h"

@@ -1,6 +1,6 @@
 #include "dbops/RowCommands.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "dbops/DeleteMark.h"
 #include "dbops/Dialogs.h"

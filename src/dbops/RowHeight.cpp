@@ -1,6 +1,6 @@
 #include "dbops/RowHeight.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/Dialogs.h"
 #include "dbops/Rows.h"
 #include "dbops/frmSetRowHeight.h"

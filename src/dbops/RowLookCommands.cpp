@@ -1,6 +1,6 @@
 #include "dbops/RowLookCommands.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "context/Ports.h"
 #include "dbops/Dialogs.h"

@@ -1,6 +1,6 @@
 #include "dbops/TickCommands.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/Dialogs.h"
 #include "dbops/Rows.h"
 #include "platform/GridUpdate.h"

@@ -1,6 +1,6 @@
 #include "dbops/frmSetRowHeight.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "table/TableModel.h"
 

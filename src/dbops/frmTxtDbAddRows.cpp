@@ -1,6 +1,6 @@
 #include "dbops/frmTxtDbAddRows.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 
 namespace korvane {

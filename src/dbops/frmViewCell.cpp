@@ -1,7 +1,7 @@
 #include "dbops/frmViewCell.h"
 
-#include "common/FindEntry.h"
-#include "common/LineEnds.h"
+#include "common/text/FindEntry.h"
+#include "common/text/LineEnds.h"
 #include "context/App.h"
 #include "context/Ports.h"
 #include "context/WindowFitting.h"

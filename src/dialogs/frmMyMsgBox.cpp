@@ -1,7 +1,7 @@
 #include "dialogs/frmMyMsgBox.h"
 
-#include "common/DateTime.h"
-#include "common/FindEntry.h"
+#include "common/number/DateTime.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/StandardMessages.h"

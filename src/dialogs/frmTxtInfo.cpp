@@ -1,7 +1,7 @@
 #include "dialogs/frmTxtInfo.h"
 
-#include "common/Number.h"
-#include "common/PathStyle.h"
+#include "common/number/Number.h"
+#include "common/path/PathStyle.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 #include "platform/UserLocale.h"

@@ -1,6 +1,6 @@
 #include "platform/DesktopTarget.h"
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 
 namespace korvane {
 

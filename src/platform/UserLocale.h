@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/DateTime.h"
+#include "common/number/DateTime.h"
 
 namespace korvane {
 

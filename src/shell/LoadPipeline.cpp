@@ -1,7 +1,7 @@
 #include "shell/LoadPipeline.h"
 
-#include "common/Number.h"
-#include "common/PathStyle.h"
+#include "common/number/Number.h"
+#include "common/path/PathStyle.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
 #include "context/Ports.h"

@@ -1,6 +1,6 @@
 #include "shell/LocateSystemFolders.h"
 
-#include "common/Names.h"
+#include "common/text/Names.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemFolders.h"

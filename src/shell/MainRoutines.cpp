@@ -1,6 +1,6 @@
 #include "shell/MainRoutines.h"
 
-#include "common/FindEntry.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"

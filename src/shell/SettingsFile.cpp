@@ -1,9 +1,9 @@
 #include "shell/SettingsFile.h"
 
-#include "common/CodePage.h"
-#include "common/Lines.h"
-#include "common/Number.h"
-#include "common/Settings.h"
+#include "common/number/Number.h"
+#include "common/settings/Settings.h"
+#include "common/text/CodePage.h"
+#include "common/text/Lines.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "platform/FileSystem.h"

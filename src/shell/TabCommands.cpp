@@ -1,6 +1,6 @@
 #include "shell/TabCommands.h"
 
-#include "common/FindEntry.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/Ports.h"

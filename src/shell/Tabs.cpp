@@ -1,6 +1,6 @@
 #include "shell/Tabs.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "controls/TabStrip.h"
 #include "platform/Screen.h"

@@ -1,6 +1,6 @@
 #include "shell/WordRules.h"
 
-#include "common/Names.h"
+#include "common/text/Names.h"
 #include "context/App.h"
 
 namespace korvane {

@@ -1,7 +1,7 @@
 #include "shell/frmFileList.h"
 
-#include "common/FindEntry.h"
-#include "common/Number.h"
+#include "common/number/Number.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Ports.h"

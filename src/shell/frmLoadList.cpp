@@ -1,8 +1,8 @@
 #include "shell/frmLoadList.h"
 
-#include "common/DateTime.h"
-#include "common/FindEntry.h"
-#include "common/Number.h"
+#include "common/number/DateTime.h"
+#include "common/number/Number.h"
+#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Ports.h"
 #include "context/StandardMessages.h"

@@ -1,6 +1,6 @@
 #include "shell/frmWindowSize.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "dbops/Dialogs.h"
 #include "platform/Screen.h"

@@ -1,6 +1,6 @@
 #include "table/ImportCommand.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "context/Ports.h"
 #include "platform/Clipboard.h"

@@ -1,6 +1,6 @@
 #include "table/NewTable.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "platform/FileSystem.h"
 #include "platform/Grid.h"
 

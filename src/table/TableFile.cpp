@@ -1,6 +1,6 @@
 #include "table/TableFile.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "platform/Clock.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/Text.h"
-#include "common/Units.h"
+#include "common/number/Units.h"
+#include "common/text/Text.h"
 #include "platform/Grid.h"
 
 #include <array>

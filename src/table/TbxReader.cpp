@@ -1,7 +1,7 @@
 #include "table/TbxReader.h"
 
-#include "common/CodePage.h"
-#include "common/Number.h"
+#include "common/number/Number.h"
+#include "common/text/CodePage.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
 #include "table/TbxFormat.h"

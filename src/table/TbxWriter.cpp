@@ -1,6 +1,6 @@
 #include "table/TbxWriter.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "table/TableModel.h"
 #include "table/TbxFormat.h"
 

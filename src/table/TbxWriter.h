@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/CodePage.h"
-#include "common/Units.h"
+#include "common/number/Units.h"
+#include "common/text/CodePage.h"
 #include "platform/ChunkedOutput.h"
 #include "platform/Grid.h"
 

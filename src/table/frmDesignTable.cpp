@@ -1,6 +1,6 @@
 #include "table/frmDesignTable.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"

@@ -1,6 +1,6 @@
 #include "table/frmTxtDbInfo.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "context/App.h"
 #include "platform/FileSystem.h"
 #include "platform/UserLocale.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/CodePage.h"
-#include "common/Text.h"
-#include "common/Units.h"
+#include "common/number/Units.h"
+#include "common/text/CodePage.h"
+#include "common/text/Text.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "tbx/Finding.h"
 
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "tbx/CsvTable.h"
 #include "tbx/Files.h"
 #include "tbx/TableCheck.h"

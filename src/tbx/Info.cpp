@@ -1,5 +1,5 @@
-#include "common/DateTime.h"
-#include "common/Number.h"
+#include "common/number/DateTime.h"
+#include "common/number/Number.h"
 #include "platform/FileSystem.h"
 #include "tbx/Files.h"
 #include "tbx/LoadedTable.h"

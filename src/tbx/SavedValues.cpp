@@ -1,7 +1,7 @@
 #include "tbx/SavedValues.h"
 
-#include "common/Number.h"
-#include "common/Units.h"
+#include "common/number/Number.h"
+#include "common/number/Units.h"
 #include "table/TbxFormat.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "tbx/TableCheck.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "table/TbxFormat.h"
 
 namespace korvane {

@@ -1,6 +1,6 @@
 #include "text/frmViewAndPaste.h"
 
-#include "common/LineEnds.h"
+#include "common/text/LineEnds.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"

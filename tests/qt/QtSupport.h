@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/CodePage.h"
-#include "common/Number.h"
+#include "common/number/Number.h"
+#include "common/text/CodePage.h"
 #include "platform/memory/MemoryGrid.h"
 
 #include <QApplication>

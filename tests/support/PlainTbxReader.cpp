@@ -1,7 +1,7 @@
 #include "support/PlainTbxReader.h"
 
-#include "common/CodePage.h"
-#include "common/Number.h"
+#include "common/number/Number.h"
+#include "common/text/CodePage.h"
 #include "table/TableModel.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "support/TestProgram.h"
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "shell/Commands.h"
 #include "table/frmDesignTable.h"
 

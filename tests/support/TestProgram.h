@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Settings.h"
+#include "common/settings/Settings.h"
 #include "shell/frmMDIChild.h"
 #include "shell/frmMDIParent.h"
 #include "support/TableBytes.h"

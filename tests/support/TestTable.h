@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "platform/memory/MemoryGrid.h"
 #include "support/TestApp.h"
 #include "table/TabContext.h"

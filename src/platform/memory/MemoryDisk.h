@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/DateTime.h"
-#include "common/PathStyle.h"
-#include "common/Text.h"
+#include "common/number/DateTime.h"
+#include "common/path/PathStyle.h"
+#include "common/text/Text.h"
 #include "platform/Volume.h"
 
 #include <cstdint>

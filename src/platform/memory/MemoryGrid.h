@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "platform/Grid.h"
 #include "platform/memory/CellTable.h"
 #include "platform/memory/GridNotifier.h"

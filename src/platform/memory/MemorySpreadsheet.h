@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "platform/Spreadsheet.h"
 
 #include <string>

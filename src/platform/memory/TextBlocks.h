@@ -1,7 +1,7 @@
 #pragma once
 
-#include "common/CodePage.h"
-#include "common/Text.h"
+#include "common/text/CodePage.h"
+#include "common/text/Text.h"
 #include "platform/Grid.h"
 #include "platform/memory/ByteSearch.h"
 #include "platform/memory/TextHandle.h"

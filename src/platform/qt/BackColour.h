@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Units.h"
+#include "common/number/Units.h"
 
 #include <QPalette>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "platform/qt/QtClipboard.h"
 
-#include "common/LineEnds.h"
+#include "common/text/LineEnds.h"
 #include "platform/qt/Convert.h"
 
 #include <QClipboard>

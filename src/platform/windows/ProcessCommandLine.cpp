@@ -1,6 +1,6 @@
 #include "platform/windows/ProcessCommandLine.h"
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "platform/windows/Win32Shell.h"
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 #include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/Win32SystemFolders.h"
 #include "platform/windows/WindowsText.h"

@@ -1,6 +1,6 @@
 #include "platform/windows/WindowHandOver.h"
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "platform/xls/CellFormats.h"
 #include "platform/xls/CellName.h"
 #include "platform/xls/SharedStrings.h"

@@ -1,5 +1,5 @@
 #include "app/SystemParts.h"
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 #include "platform/InstanceChannel.h"
 #include "platform/Shell.h"
 #include "platform/SystemFolders.h"

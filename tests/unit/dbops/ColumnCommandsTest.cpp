@@ -1,6 +1,6 @@
 #include "dbops/ColumnCommands.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/frmTxtDbColName.h"
 #include "table/DesignCommand.h"
 #include "table/frmDesignTable.h"

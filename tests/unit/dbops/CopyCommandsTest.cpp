@@ -1,6 +1,6 @@
 #include "dbops/CopyCommands.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/frmChooseRange.h"
 #include "dbops/frmDelimiterType.h"
 #include "unit/dbops/FakePorts.h"

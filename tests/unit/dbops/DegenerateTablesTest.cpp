@@ -1,6 +1,6 @@
 // Runs every command on tables that have too little, or too much, to work on.
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/TabCommands.h"
 #include "support/FakeSystemFileDialog.h"
 #include "support/GridState.h"

@@ -1,6 +1,6 @@
 #include "dbops/RowHeight.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/frmSetRowHeight.h"
 #include "unit/dbops/TestTab.h"
 

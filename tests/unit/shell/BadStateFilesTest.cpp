@@ -1,6 +1,6 @@
 // What a user, a disk or another program may have made of the two files in which the program keeps its state.
 
-#include "common/Lines.h"
+#include "common/text/Lines.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "shell/RecentRecord.h"
 
-#include "common/DateTime.h"
-#include "common/Number.h"
+#include "common/number/DateTime.h"
+#include "common/number/Number.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

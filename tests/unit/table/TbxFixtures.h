@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "support/TestTable.h"
 #include "table/TbxReader.h"
 #include "table/TbxWriter.h"

@@ -1,6 +1,6 @@
 #include "table/frmDesignTable.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "support/TestTable.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "tbx/CsvReader.h"
 #include "tbx/CsvRows.h"
 

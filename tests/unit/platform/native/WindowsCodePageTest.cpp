@@ -1,6 +1,6 @@
 // The tables of the code pages against those of the system.
 
-#include "common/CodePage.h"
+#include "common/text/CodePage.h"
 #include "platform/native/UserCodePage.h"
 
 #include <windows.h>

@@ -1,6 +1,6 @@
 // Where the system keeps things, and the store of what was deleted.
 
-#include "common/CaseFold.h"
+#include "common/text/CaseFold.h"
 #include "platform/windows/RecycleStore.h"
 #include "platform/windows/Win32SystemFolders.h"
 #include "platform/windows/WindowsText.h"

@@ -3,7 +3,7 @@
 // is there, which sets the event when it is ready, adds each path that comes to the file, and ends at the
 // path "end".
 
-#include "common/Text.h"
+#include "common/text/Text.h"
 #include "platform/windows/Win32CommandBox.h"
 #include "platform/windows/WindowsText.h"
 

@@ -1,6 +1,6 @@
 #include "platform/xls/XlsWriter.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "support/PlainXlsReader.h"
 
 #include <gmock/gmock.h>

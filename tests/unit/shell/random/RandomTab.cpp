@@ -1,7 +1,7 @@
 #include "RandomTab.h"
 
 #include "TableWatch.h"
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "dbops/TabCommands.h"
 #include "support/GridState.h"
 #include "support/TableBytes.h"

@@ -1,6 +1,6 @@
 #include "TableWatch.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "shell/frmFileList.h"
 
-#include "common/Number.h"
+#include "common/number/Number.h"
 #include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 #include "unit/shell/windows/FakeDialogs.h"

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+namespace korvane {
+
+// Capital and small letters whatever the locale, one unit for one unit: Latin with its accents, Greek and
+// Cyrillic. Accents themselves count, and what has no partner of one unit (the sharp s) stays as it is.
+
+char16_t ToUpper(char16_t character);
+char16_t ToLower(char16_t character);
+Text ToUpper(TextView text);
+Text ToLower(TextView text);
+
+bool EqualIgnoringCase(TextView a, TextView b);
+bool EndsWithIgnoringCase(TextView text, TextView end);
+/// As `InStr`, with capital and small letters alike.
+std::size_t InStrIgnoringCase(TextView text, TextView part, std::size_t start = 1);
+bool ContainsIgnoringCase(TextView text, TextView part);
+
+} // namespace korvane

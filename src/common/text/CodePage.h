@@ -1,0 +1,74 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+/// The two directions of one code page, made by the compiler. The 65,536 characters lie in blocks of 256, of
+/// which a page touches few: block 0 is the empty one, and byte 0 in a block says "no place".
+struct CodePageMaps {
+    int number = 0;
+    std::array<char16_t, 256> characters{};
+    std::array<std::uint8_t, 256> blockOf{};
+    std::array<std::array<std::uint8_t, 256>, 8> blocks{};
+};
+
+/// A Windows code page of single bytes, between the bytes of files and text. All 256 byte values come back
+/// unchanged from text: a byte without a character stands for the character of the same number. The byte
+/// 0xA7 is the section mark in all pages but 874, where it is a Thai letter. A small value, cheap to copy.
+class CodePage {
+public:
+    /// What stands in bytes for a character without a place in the page.
+    static constexpr char kSubstitute = '?';
+
+    /// The page of Western Europe.
+    static CodePage Windows1252();
+    /// The page of that number: 874 or 1250 to 1258; nothing for any other.
+    static std::optional<CodePage> ForNumber(int number);
+    /// The page of a language ("pl", "pl_PL.UTF-8", "sr_RS@latin"); 1252 for a language without one.
+    static CodePage ForLanguage(std::string_view locale);
+
+    int Number() const { return maps_->number; }
+
+    char16_t Decode(unsigned char byte) const { return maps_->characters[byte]; }
+    /// The byte of the character; nothing when it has no place in the page.
+    std::optional<unsigned char> Encode(char16_t character) const;
+    /// Whether every character has a place in the page.
+    bool Holds(TextView text) const;
+
+    Text ToText(std::string_view bytes) const;
+    /// One byte for each unit, `kSubstitute` for what has no place: a surrogate pair gives two.
+    std::string ToBytes(TextView text) const;
+    /// As `ToText`, put at the end of `text`.
+    void AppendText(std::string_view bytes, Text& text) const;
+    /// As `ToBytes`, put at the end of `bytes`.
+    void AppendBytes(TextView text, std::string& bytes) const;
+
+    bool operator==(const CodePage&) const = default;
+
+private:
+    explicit CodePage(const CodePageMaps& maps) : maps_(&maps) {}
+
+    /// The byte of the character; 0 for the character 0 and for any without a place.
+    std::uint8_t ByteOf(char16_t character) const;
+
+    const CodePageMaps* maps_;
+};
+
+inline std::uint8_t CodePage::ByteOf(char16_t character) const {
+    return maps_->blocks[maps_->blockOf[character >> 8]][character & 0xFF];
+}
+
+inline std::optional<unsigned char> CodePage::Encode(char16_t character) const {
+    const std::uint8_t byte = ByteOf(character);
+    if (byte == 0 && character != 0) return std::nullopt;
+    return byte;
+}
+
+} // namespace korvane
