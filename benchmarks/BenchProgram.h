@@ -3,18 +3,18 @@
 #include "common/text/CodePage.h"
 #include "context/App.h"
 #include "controls/FormHost.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryScreen.h"
-#include "platform/memory/MemoryShell.h"
-#include "platform/memory/ScriptedMessageBoxes.h"
+#include "grid/GridStore.h"
 #include "platform/native/NativeFileSystem.h"
 #include "table/TabContext.h"
 #include "table/TableHistory.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryScreen.h"
+#include "testing/MemoryShell.h"
+#include "testing/ScriptedMessageBoxes.h"
 
 #include <string>
 
@@ -51,7 +51,7 @@ public:
     NoForms forms;
     App app{{files, messages, clipboard, clock, screen, shell, instance, forms, [] { return nullptr; }}};
 
-    MemoryGrid grid{CodePage::Windows1252()};
+    GridStore grid{CodePage::Windows1252()};
     TableModel table{grid};
     NoHost host;
     TableHistory history{table, host};

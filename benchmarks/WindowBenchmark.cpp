@@ -5,17 +5,17 @@
 #include "SourceTree.h"
 #include "Xvfb.h"
 #include "context/App.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryShell.h"
-#include "platform/memory/ScriptedMessageBoxes.h"
+#include "grid/GridStore.h"
 #include "platform/qt/CalmStyle.h"
 #include "platform/qt/QtFormHost.h"
 #include "platform/qt/QtScreen.h"
 #include "shell/frmMDIParent.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryShell.h"
+#include "testing/ScriptedMessageBoxes.h"
 
 #include <QApplication>
 #include <QWidget>
@@ -101,7 +101,7 @@ public:
     MemoryInstanceChannel instance;
     QtFormHost forms{KorvaneForms()};
     App app{{files, messages, clipboard, clock, screen, shell, instance, forms,
-             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }, CodePage::Windows1252(),
              nullptr}};
     frmMDIParent main{app, {}};
 };

@@ -3,14 +3,14 @@
 #include "Require.h"
 #include "context/App.h"
 #include "controls/FormHost.h"
+#include "grid/GridStore.h"
 #include "platform/MessageBoxes.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryScreen.h"
-#include "platform/memory/MemoryShell.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryScreen.h"
+#include "testing/MemoryShell.h"
 
 #include <memory>
 
@@ -46,7 +46,7 @@ public:
     MemoryInstanceChannel instance;
     SilentUser user;
     App app{{files, user, clipboard, clock, screen, shell, instance, user,
-             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }, CodePage::Windows1252(),
              nullptr}};
 };
 

@@ -3,8 +3,8 @@
 
 #include "Require.h"
 #include "common/text/CodePage.h"
+#include "grid/GridStore.h"
 #include "platform/FileSystem.h"
-#include "platform/memory/MemoryGrid.h"
 #include "support/PlainTbxReader.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
@@ -41,7 +41,7 @@ public:
 };
 
 struct Table {
-    MemoryGrid grid{CodePage::Windows1252()};
+    GridStore grid{CodePage::Windows1252()};
     TableModel model{grid};
 };
 

@@ -1,7 +1,7 @@
 #include "app/Program.h"
 
 #include "app/SystemParts.h"
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
@@ -20,7 +20,7 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
     platform.folders = &folders;
     platform.locale = &locale;
     platform.codePage = UserCodePage();
-    platform.makeGrid = [page = platform.codePage] { return std::make_unique<MemoryGrid>(page); };
+    platform.makeGrid = [page = platform.codePage] { return std::make_unique<GridStore>(page); };
     platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
         return std::make_unique<XlsSpreadsheet>(files, shell);
     };

@@ -3,9 +3,9 @@
 #include "app/PrintedMessages.h"
 #include "app/Program.h"
 #include "app/SystemParts.h"
-#include "platform/memory/MemoryInstanceChannel.h"
 #include "platform/qt/Palettes.h"
 #include "platform/qt/QtMessageBoxes.h"
+#include "testing/MemoryInstanceChannel.h"
 
 namespace korvane {
 namespace {

@@ -4,7 +4,7 @@
 #include "common/text/CodePage.h"
 #include "common/text/Text.h"
 #include "context/ListerRequest.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 #include "platform/Spreadsheet.h"
 #include "platform/UserLocale.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Control.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 #include "platform/Screen.h"
 
 #include <memory>

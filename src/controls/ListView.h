@@ -1,7 +1,7 @@
 #pragma once
 
+#include "common/number/SortOrder.h"
 #include "controls/Control.h"
-#include "platform/Grid.h"
 
 #include <cstddef>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 
 #include <cstddef>
 #include <string>

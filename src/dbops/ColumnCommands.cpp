@@ -5,7 +5,7 @@
 #include "context/Ports.h"
 #include "dbops/Dialogs.h"
 #include "dbops/frmTxtDbColName.h"
-#include "platform/GridUpdate.h"
+#include "grid/GridUpdate.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"

@@ -6,7 +6,7 @@
 #include "dbops/Dialogs.h"
 #include "dbops/Rows.h"
 #include "dbops/frmTxtDbAddRows.h"
-#include "platform/GridUpdate.h"
+#include "grid/GridUpdate.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"

@@ -4,7 +4,7 @@
 #include "dbops/Dialogs.h"
 #include "dbops/Rows.h"
 #include "dbops/frmSetRowHeight.h"
-#include "platform/GridUpdate.h"
+#include "grid/GridUpdate.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"

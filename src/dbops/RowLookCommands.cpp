@@ -8,7 +8,7 @@
 #include "dbops/Rows.h"
 #include "dbops/TickCommands.h"
 #include "dbops/frmRowColour.h"
-#include "platform/GridUpdate.h"
+#include "grid/GridUpdate.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"

@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "dbops/Dialogs.h"
 #include "dbops/Rows.h"
-#include "platform/GridUpdate.h"
+#include "grid/GridUpdate.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"
 

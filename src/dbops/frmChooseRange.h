@@ -3,7 +3,7 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 
 namespace korvane {
 

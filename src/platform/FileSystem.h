@@ -2,8 +2,8 @@
 
 #include "common/number/DateTime.h"
 #include "common/path/PathStyle.h"
+#include "common/text/SharedBytes.h"
 #include "common/text/Text.h"
-#include "platform/Grid.h"
 #include "platform/Volume.h"
 
 #include <cstdint>

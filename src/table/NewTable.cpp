@@ -1,8 +1,8 @@
 #include "table/NewTable.h"
 
 #include "common/number/Number.h"
+#include "grid/Grid.h"
 #include "platform/FileSystem.h"
-#include "platform/Grid.h"
 
 #include <algorithm>
 

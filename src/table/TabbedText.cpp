@@ -1,6 +1,6 @@
 #include "table/TabbedText.h"
 
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 #include "table/NewTable.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "common/number/Units.h"
 #include "common/text/Text.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 
 #include <array>
 #include <cstddef>

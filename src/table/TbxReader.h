@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/number/Units.h"
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 #include "table/TbxLines.h"
 
 #include <cstdint>

@@ -2,8 +2,8 @@
 
 #include "common/number/Units.h"
 #include "common/text/CodePage.h"
+#include "grid/Grid.h"
 #include "platform/ChunkedOutput.h"
-#include "platform/Grid.h"
 
 #include <cstddef>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Grid.h"
+#include "common/text/SharedBytes.h"
 #include "tbx/Verb.h"
 
 #include <optional>

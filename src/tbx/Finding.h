@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Grid.h"
+#include "grid/Grid.h"
 
 #include <cstddef>
 #include <string>

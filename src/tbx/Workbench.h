@@ -2,17 +2,17 @@
 
 #include "context/App.h"
 #include "controls/FormHost.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryScreen.h"
-#include "platform/memory/MemoryShell.h"
-#include "platform/memory/ScriptedMessageBoxes.h"
+#include "grid/GridStore.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"
 #include "table/TableModel.h"
 #include "tbx/OneFileSystem.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryScreen.h"
+#include "testing/MemoryShell.h"
+#include "testing/ScriptedMessageBoxes.h"
 
 #include <string>
 #include <vector>
@@ -33,8 +33,8 @@ public:
 
     TableModel& Table() { return table_; }
     const TableModel& Table() const { return table_; }
-    MemoryGrid& Grid() { return grid_; }
-    const MemoryGrid& Grid() const { return grid_; }
+    GridStore& Grid() { return grid_; }
+    const GridStore& Grid() const { return grid_; }
     /// What the program would have shown so far.
     const std::vector<Message>& Messages() const { return messages_.Shown(); }
 
@@ -62,7 +62,7 @@ private:
     MemoryInstanceChannel instance_;
     NoForms forms_;
     App app_;
-    MemoryGrid grid_;
+    GridStore grid_;
     TableModel table_;
     NoTab tab_;
     TabContext context_;

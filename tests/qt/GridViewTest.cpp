@@ -440,7 +440,7 @@ TEST_F(GridViewTest, RowsAreAsHighAsTheStoreSays) {
     Store().SetRowHeight(Row{3}, 90);
     EXPECT_EQ(Cell(1, 1).height(), 40);
     EXPECT_EQ(Cell(3, 1).height(), 90);
-    EXPECT_EQ(Cell(2, 1).height(), MemoryGrid::kDefaultRowHeight);
+    EXPECT_EQ(Cell(2, 1).height(), GridStore::kDefaultRowHeight);
     for (int row = 1; row <= 5; ++row)
         Store().SetRowHeight(Row{row}, 31);
     EXPECT_EQ(Cell(3, 1).height(), 31);
@@ -562,7 +562,7 @@ TEST_F(GridViewTest, ATableAtTheLimitCanBeWalkedToItsEnd) {
     Key(Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(Current(), (CellPosition{kMaxRows, Col{3}}));
     EXPECT_TRUE(View().viewport()->rect().contains(Cell(kMaxRows.Number(), 3).center()));
-    EXPECT_EQ(View().verticalHeader()->length(), 16383 * 30 + 16384 * MemoryGrid::kDefaultRowHeight);
+    EXPECT_EQ(View().verticalHeader()->length(), 16383 * 30 + 16384 * GridStore::kDefaultRowHeight);
 }
 
 // ---- Marked text --------------------------------------------------------------------------------------

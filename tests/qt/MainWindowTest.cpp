@@ -89,7 +89,7 @@ protected:
     TestApp outside;
     QtFormHost host{KorvaneForms()};
     App app{{outside.files, outside.user, outside.clipboard, outside.clock, outside.screen, outside.shell,
-             outside.instance, host, [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+             outside.instance, host, [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }}};
     frmMDIParent main{app, kFile};
 };
 

@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "common/text/CodePage.h"
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -20,7 +20,7 @@ inline void Settle() {
 
 /// An empty store with so many rows and columns; the cells are empty.
 inline std::unique_ptr<Grid> MakeStore(int rows, int columns) {
-    auto store = std::make_unique<MemoryGrid>(CodePage::Windows1252());
+    auto store = std::make_unique<GridStore>(CodePage::Windows1252());
     for (int col = 1; col <= columns; ++col) {
         store->AddCol(NumberText(col) + u"no", u"Column " + NumberText(col));
     }

@@ -4,7 +4,7 @@
 #include "context/Ports.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
-#include "platform/memory/ScriptedMessageBoxes.h"
+#include "testing/ScriptedMessageBoxes.h"
 
 #include <deque>
 #include <functional>

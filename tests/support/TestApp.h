@@ -1,16 +1,16 @@
 #pragma once
 
 #include "context/App.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryScreen.h"
-#include "platform/memory/MemoryShell.h"
-#include "platform/memory/MemorySpreadsheet.h"
-#include "platform/memory/MemorySystemFolders.h"
+#include "grid/GridStore.h"
 #include "support/ScriptedUser.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryScreen.h"
+#include "testing/MemoryShell.h"
+#include "testing/MemorySpreadsheet.h"
+#include "testing/MemorySystemFolders.h"
 
 #include <memory>
 #include <string>
@@ -40,7 +40,7 @@ public:
     /// Whether there is such an application.
     bool hasSpreadsheet = true;
     App app{{files, user, clipboard, clock, screen, shell, instance, user,
-             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }, CodePage::Windows1252(),
              &folders, [this] { return StartSpreadsheet(); }}};
 
 private:

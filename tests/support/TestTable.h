@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 #include "support/TestApp.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"
@@ -33,7 +33,7 @@ public:
         : program(style), grid(page) {}
 
     TestApp program;
-    MemoryGrid grid;
+    GridStore grid;
     TableModel model{grid};
     RecordingTableHost host;
     TabContext tab{program.app, model, host};

@@ -27,8 +27,7 @@ private:
     QtFormHost host_{KorvaneForms()};
     PrintedMessages messages_;
     App app_{{outside_.files, messages_, outside_.clipboard, outside_.clock, outside_.screen, outside_.shell,
-              outside_.instance, host_,
-              [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+              outside_.instance, host_, [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }}};
     Surroundings all_{app_};
 };
 

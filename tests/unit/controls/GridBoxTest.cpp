@@ -1,7 +1,7 @@
 #include "controls/GridBox.h"
 
 #include "controls/Form.h"
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 #include "support/ScriptedUser.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +32,7 @@ protected:
 
     ScriptedUser user;
     Form form{user, "Form", u""};
-    GridBox box{form, "iGrid1", std::make_unique<MemoryGrid>(CodePage::Windows1252())};
+    GridBox box{form, "iGrid1", std::make_unique<GridStore>(CodePage::Windows1252())};
     std::string log;
 };
 

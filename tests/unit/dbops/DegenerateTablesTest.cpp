@@ -70,7 +70,7 @@ public:
     MemoryInstanceChannel instance;
     std::vector<std::string> spreadsheetSteps;
     App app{{files, user, clipboard, clock, screen, shell, instance, user,
-             [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }, CodePage::Windows1252(),
+             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }, CodePage::Windows1252(),
              nullptr, [this] { return std::make_unique<MemorySpreadsheet>(spreadsheetSteps); }}};
     FakeTextWindow textWindow{app};
     FakeClipboardView clipboardView{app};
@@ -78,7 +78,7 @@ public:
     FakeInsertTools insertTools{app};
     FakeMarkupPicker markupPicker{app};
     FakeSystemFileDialog dialog{app};
-    MemoryGrid grid{CodePage::Windows1252()};
+    GridStore grid{CodePage::Windows1252()};
     GridWatcher watcher;
     TableModel table{grid};
     RecordingHost host;

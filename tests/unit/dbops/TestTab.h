@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 #include "support/TestApp.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"
@@ -117,7 +117,7 @@ public:
             grid.SetCellCheck(Row{row}, 1);
     }
 
-    MemoryGrid grid{CodePage::Windows1252()};
+    GridStore grid{CodePage::Windows1252()};
     GridWatcher watcher;
     TableModel table{grid};
     RecordingHost host;

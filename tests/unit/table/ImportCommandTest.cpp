@@ -385,7 +385,7 @@ TEST(TabbedText, CountsNoMoreThanSixteenBitsHold) {
 }
 
 TEST(TabbedText, IntoAGridWithoutRowsOrColumnsGoesNothing) {
-    MemoryGrid grid{CodePage::Windows1252()};
+    GridStore grid{CodePage::Windows1252()};
     FillFromTabbedText(grid, u"a\tb\nc");
     EXPECT_EQ(grid.RowCount(), Row{0});
     grid.SetRowCount(Row{1});

@@ -93,7 +93,7 @@ protected:
     }
 
     TestTable table;
-    MemoryGrid& grid = table.grid;
+    GridStore& grid = table.grid;
 };
 
 } // namespace korvane

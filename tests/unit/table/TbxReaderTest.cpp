@@ -145,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(Widths, TbxColWidthTest,
 
 TEST_F(TbxReaderTest, AWidthPastItsFieldLeavesTheColumnsOwn) {
     Read(kHeader + Lines("!Name\n!999999999999999\n!Note\n!" + std::string(400, '9') + "\n@row_1\n"));
-    EXPECT_EQ(grid.ColWidth(Col{1}), MemoryGrid::kDefaultColWidth);
+    EXPECT_EQ(grid.ColWidth(Col{1}), GridStore::kDefaultColWidth);
     EXPECT_EQ(table.model.ColumnWidths[Col{2}], u"");
     EXPECT_EQ(grid.ColWidth(Col{2}), 0);
 }

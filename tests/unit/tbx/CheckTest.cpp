@@ -1,4 +1,4 @@
-#include "platform/memory/MemoryGrid.h"
+#include "grid/GridStore.h"
 #include "tbx/FileCheck.h"
 #include "tbx/TableCheck.h"
 #include "unit/tbx/TbxHarness.h"
@@ -32,7 +32,7 @@ TEST(Finding, NamesCellAndLineAsFarAsTheyAreKnown) {
 class TableOfOneCell : public testing::Test {
 protected:
     std::vector<std::string> Check(TextView text, int page = 1252) {
-        MemoryGrid grid(*CodePage::ForNumber(page));
+        GridStore grid(*CodePage::ForNumber(page));
         grid.AddCol(u"1no", u"Name");
         grid.AddCol(u"2no", u"Note");
         grid.SetRowCount(Row{1});
@@ -80,7 +80,7 @@ TEST_F(TableOfOneCell, ACharacterOutsideThePageIsFound) {
 }
 
 TEST(TableCheck, TheMarkForDeletionCountsInColumnOneAlone) {
-    MemoryGrid grid(CodePage::Windows1252());
+    GridStore grid(CodePage::Windows1252());
     grid.AddCol(u"1no", u"Name");
     grid.AddCol(u"2no", u"Note");
     grid.SetRowCount(Row{2});
@@ -91,7 +91,7 @@ TEST(TableCheck, TheMarkForDeletionCountsInColumnOneAlone) {
 }
 
 TEST(TableCheck, ATableWiderThanAFileIsFound) {
-    MemoryGrid grid(CodePage::Windows1252());
+    GridStore grid(CodePage::Windows1252());
     grid.SetColCount(Col{25});
     grid.SetRowCount(Row{1});
     EXPECT_THAT(Texts(CheckTable(grid)), ElementsAre("with more than 24 columns, nothing comes back"));

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
 #include "tbx/Tbx.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 #include "platform/xls/XlsSpreadsheet.h"
 
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
-#include "platform/memory/MemoryShell.h"
 #include "support/PlainXlsReader.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryShell.h"
 
 #include <gmock/gmock.h>
 

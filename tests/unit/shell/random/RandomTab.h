@@ -3,15 +3,15 @@
 #include "Chance.h"
 #include "RandomUser.h"
 #include "context/App.h"
-#include "platform/memory/MemoryClipboard.h"
-#include "platform/memory/MemoryClock.h"
-#include "platform/memory/MemoryFileSystem.h"
-#include "platform/memory/MemoryGrid.h"
-#include "platform/memory/MemoryInstanceChannel.h"
-#include "platform/memory/MemoryScreen.h"
-#include "platform/memory/MemoryShell.h"
+#include "grid/GridStore.h"
 #include "shell/TabStates.h"
 #include "shell/frmMDIChild.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryScreen.h"
+#include "testing/MemoryShell.h"
 
 #include <memory>
 #include <string>
@@ -62,7 +62,7 @@ private:
     MemoryShell shell_;
     MemoryInstanceChannel instance_;
     App app_{{files_, user_, clipboard_, clock_, screen_, shell_, instance_, user_,
-              [] { return std::make_unique<MemoryGrid>(CodePage::Windows1252()); }}};
+              [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }}};
     TabStates states_;
     frmMDIChild tab_{app_, states_};
     std::string trace_;

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <cstdint>
+
+namespace korvane {
+
+enum class SortOrder : std::uint8_t { Ascending, Descending };
+
+} // namespace korvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "grid/TextHandle.h"
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace korvane {
+
+/// The handles of a table's cells, row by row; rows and columns count from 0 here. Rows stand in chunks, so
+/// that a growing table never moves, and a chunk without any text takes no memory.
+class CellTable {
+public:
+    std::size_t Rows() const { return rows_; }
+    std::size_t Cols() const { return cols_; }
+
+    /// Appends empty rows or drops rows from the end.
+    void SetRows(std::size_t rows);
+    /// Appends empty columns or drops columns from the end.
+    void SetCols(std::size_t cols);
+    void EraseCol(std::size_t col);
+    /// Puts an empty column in front of the one that stands at `col`.
+    void InsertCol(std::size_t col);
+    /// Moves the cells of the columns from `first` on one column to the right, over those of the last one,
+    /// and empties `first`.
+    void ShiftRight(std::size_t first);
+    /// Moves the cells of the columns behind `first` on one column to the left, over those of `first`, and
+    /// empties the last column.
+    void ShiftLeft(std::size_t first);
+    /// Puts row `order[i]` in the place of row i.
+    void Permute(std::span<const std::size_t> order);
+
+    TextHandle At(std::size_t row, std::size_t col) const {
+        const Chunk& chunk = chunks_[row / kChunkRows];
+        return chunk.empty() ? TextHandle() : chunk[IndexOf(row, col)];
+    }
+    /// The handle of the cell, to be changed.
+    TextHandle& Place(std::size_t row, std::size_t col) {
+        Chunk& chunk = chunks_[row / kChunkRows];
+        if (chunk.empty()) [[unlikely]]
+            chunk.resize(kChunkRows * cols_);
+        return chunk[IndexOf(row, col)];
+    }
+
+    /// The cells of a row; none when no row of its chunk holds a text.
+    std::span<const TextHandle> Row(std::size_t row) const {
+        const Chunk& chunk = chunks_[row / kChunkRows];
+        if (chunk.empty()) return {};
+        return std::span(chunk).subspan(IndexOf(row, 0), cols_);
+    }
+
+    /// Visits every handle that isn't empty, in the rows from `firstRow` on.
+    template <class Visit>
+    void ForEach(const Visit& visit, std::size_t firstRow = 0) {
+        for (std::size_t row = firstRow; row < rows_; ++row)
+            for (std::size_t col = 0; col < cols_; ++col)
+                if (TextHandle* const handle = Find(row, col)) visit(*handle);
+    }
+
+private:
+    using Chunk = std::vector<TextHandle>;
+    static constexpr std::size_t kChunkRows = 64;
+
+    std::size_t IndexOf(std::size_t row, std::size_t col) const { return row % kChunkRows * cols_ + col; }
+    TextHandle* Find(std::size_t row, std::size_t col) {
+        Chunk& chunk = chunks_[row / kChunkRows];
+        if (chunk.empty() || chunk[IndexOf(row, col)].IsEmpty()) return nullptr;
+        return &chunk[IndexOf(row, col)];
+    }
+    /// A table of `cols` columns, filled with the cells of this one; `source(col)` tells a column's old
+    /// number.
+    template <class Source>
+    void Rebuild(std::size_t cols, const Source& source);
+
+    std::vector<Chunk> chunks_;
+    std::size_t rows_ = 0;
+    std::size_t cols_ = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "grid/Grid.h"
+
+#include <optional>
+
+namespace korvane {
+
+/// Tells a grid's listener what changed, or keeps it back while an update bracket is open.
+class GridNotifier {
+public:
+    void SetListener(GridListener* listener) { listener_ = listener; }
+
+    void Open() { ++depth_; }
+    /// Nothing happens when no bracket is open.
+    void Close();
+    void CloseAll();
+    bool IsOpen() const { return depth_ > 0; }
+
+    /// A row changed within.
+    void RowChanged(Row row) {
+        if (Hears()) listener_->RowsChanged(row, row);
+    }
+    void TableChanged() {
+        if (Hears()) listener_->TableChanged();
+    }
+    void ColumnChanged(Col col) {
+        if (Hears()) listener_->ColumnChanged(col);
+    }
+    void LookChanged() {
+        if (Hears()) listener_->LookChanged();
+    }
+    void CurrentCellChanged() {
+        if (Hears()) listener_->CurrentCellChanged();
+    }
+    void FocusWanted() {
+        if (listener_ != nullptr) listener_->FocusWanted();
+    }
+    void RowWantedInView(Row row);
+
+private:
+    /// Whether the listener is told now; inside a bracket it is noted that something was kept back.
+    bool Hears() {
+        keptBack_ = keptBack_ || IsOpen();
+        return !IsOpen() && listener_ != nullptr;
+    }
+    void TellWhatWasKeptBack();
+
+    GridListener* listener_ = nullptr;
+    int depth_ = 0;
+    bool keptBack_ = false;
+    std::optional<Row> wantedRow_;
+};
+
+} // namespace korvane

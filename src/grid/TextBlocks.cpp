@@ -1,0 +1,106 @@
+#include "grid/TextBlocks.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+/// Less garbage than this isn't worth a walk over all cells.
+constexpr std::size_t kLeastGarbage = std::size_t{64} * 1024;
+
+} // namespace
+
+void TextBlocks::Adopt(SharedBytes bytes) {
+    adopted_ = std::move(bytes);
+    adoptedUse_ = {};
+}
+
+TextHandle TextBlocks::Put(TextView text) {
+    const std::size_t offset = bytes_.size();
+    if (AppendAsBytes(text)) return HandleOf({TextHandle::Kind::Bytes, offset, text.size()});
+    wide_.append(text);
+    return HandleOf({TextHandle::Kind::Wide, wide_.size() - text.size(), text.size()});
+}
+
+/// False, with nothing appended, when a character has no byte.
+bool TextBlocks::AppendAsBytes(TextView text) {
+    std::size_t at = bytes_.size();
+    bytes_.resize(at + text.size());
+    for (const char16_t unit : text) {
+        const std::optional<unsigned char> byte = page_.Encode(unit);
+        if (!byte) {
+            bytes_.resize(bytes_.size() - text.size());
+            return false;
+        }
+        bytes_[at++] = static_cast<char>(*byte);
+    }
+    return true;
+}
+
+void TextBlocks::GiveUp(TextHandle handle) {
+    if (handle.IsEmpty()) return;
+    const Place place = PlaceOf(handle);
+    Use& use = UseOf(place);
+    use.live -= place.ByteSize();
+    use.garbage += place.ByteSize();
+    if (place.kind == TextHandle::Kind::Wide) --wideTexts_;
+}
+
+TextView TextBlocks::WideAt(const Place& place) const {
+    return TextView(wide_).substr(place.offset, place.length);
+}
+
+Text TextBlocks::ToText(TextHandle handle) const {
+    if (const auto bytes = Bytes(handle)) return page_.ToText(*bytes);
+    return Text(WideAt(PlaceOf(handle)));
+}
+
+bool TextBlocks::Equals(TextHandle handle, TextView text) const {
+    const auto bytes = Bytes(handle);
+    if (!bytes) return WideAt(PlaceOf(handle)) == text;
+    return std::ranges::equal(*bytes, text, [this](char byte, char16_t unit) {
+        return page_.Decode(static_cast<unsigned char>(byte)) == unit;
+    });
+}
+
+std::strong_ordering TextBlocks::Compare(TextHandle a, TextHandle b) const {
+    const auto aBytes = Bytes(a);
+    const auto bBytes = Bytes(b);
+    if (!aBytes && !bBytes) return WideAt(PlaceOf(a)) <=> WideAt(PlaceOf(b));
+    if (!aBytes || !bBytes) return ToText(a) <=> ToText(b);
+    const auto [aAt, bAt] = std::ranges::mismatch(*aBytes, *bBytes);
+    if (aAt == aBytes->end() || bAt == bBytes->end()) return aBytes->size() <=> bBytes->size();
+    return page_.Decode(static_cast<unsigned char>(*aAt)) <=> page_.Decode(static_cast<unsigned char>(*bAt));
+}
+
+bool TextBlocks::Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const {
+    const auto bytes = Bytes(handle);
+    if (!bytes) return WideAt(PlaceOf(handle)).find(part) != TextView::npos;
+    return pattern && pattern->IsIn(*bytes);
+}
+
+bool TextBlocks::WantsPacking() const {
+    const std::size_t garbage = adoptedUse_.garbage + ownUse_.garbage;
+    return garbage >= kLeastGarbage && garbage > adoptedUse_.live + ownUse_.live;
+}
+
+void TextBlocks::KeepAdoptedOf(const TextBlocks& other) {
+    adopted_ = other.adopted_;
+    adoptedUse_.garbage = other.adoptedUse_.garbage;
+}
+
+TextHandle TextBlocks::TakeOver(const TextBlocks& other, TextHandle handle) {
+    if (handle.IsEmpty()) return {};
+    const Place place = other.PlaceOf(handle);
+    if (place.kind == TextHandle::Kind::Adopted && HasAdopted()) return HandleOf(place);
+    if (place.kind == TextHandle::Kind::Wide) {
+        wide_.append(other.WideAt(place));
+        return HandleOf({place.kind, wide_.size() - place.length, place.length});
+    }
+    bytes_.append(other.BytesAt(place));
+    return HandleOf({TextHandle::Kind::Bytes, bytes_.size() - place.length, place.length});
+}
+
+} // namespace korvane

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "common/text/CodePage.h"
+#include "common/text/Text.h"
+#include "grid/ByteSearch.h"
+#include "grid/Grid.h"
+#include "grid/TextHandle.h"
+
+#include <compare>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+/// The texts of a table in few large blocks: the bytes of the loaded file, which are shared and never copied,
+/// and behind them what was written since, as bytes of the code page where every character has one and as
+/// 16-bit characters where not. Who holds the handles tells when one is given up, and has the blocks packed
+/// once that pays.
+class TextBlocks {
+public:
+    explicit TextBlocks(const CodePage& page) : page_(page) {}
+
+    const CodePage& Page() const { return page_; }
+
+    /// Takes a file's bytes for `Slice`. No handle may point to bytes adopted before.
+    void Adopt(SharedBytes bytes);
+    bool HasAdopted() const { return adopted_.size > 0; }
+    std::string_view AdoptedBytes() const { return adopted_.View(); }
+
+    bool HasSlice(std::size_t offset, std::size_t length) const {
+        return offset <= adopted_.size && length <= adopted_.size - offset;
+    }
+    /// A part of the adopted bytes, one that they have.
+    TextHandle Slice(std::size_t offset, std::size_t length) {
+        return HandleOf({TextHandle::Kind::Adopted, offset, length});
+    }
+    TextHandle Put(TextView text);
+    /// The text isn't used any more: its place is garbage until the next `Pack`.
+    void GiveUp(TextHandle handle);
+
+    /// The text as bytes; nothing for one that the code page can't hold.
+    std::optional<std::string_view> Bytes(TextHandle handle) const;
+    Text ToText(TextHandle handle) const;
+    bool Equals(TextHandle handle, TextView text) const;
+    /// By character code.
+    std::strong_ordering Compare(TextHandle a, TextHandle b) const;
+    /// Whether the text holds `part`; `pattern` is the same in bytes, or nothing.
+    bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;
+    bool HasWideTexts() const { return wideTexts_ > 0; }
+
+    /// Whether the garbage outweighs what is alive, so that packing frees half of the memory at least.
+    bool WantsPacking() const;
+    /// Moves what is alive together. `forEachHandle(visit)` calls `visit(TextHandle&)` for every handle in
+    /// use. The adopted bytes go too when more of them is garbage than alive, or when `dropAdopted` says so.
+    template <class ForEachHandle>
+    void Pack(const ForEachHandle& forEachHandle, bool dropAdopted = false) {
+        TextBlocks packed(page_);
+        if (!dropAdopted && !AdoptedIsMostlyGarbage()) packed.KeepAdoptedOf(*this);
+        forEachHandle([this, &packed](TextHandle& handle) { handle = packed.TakeOver(*this, handle); });
+        *this = std::move(packed);
+    }
+
+private:
+    /// Place and length of a text in its block, whatever its size.
+    struct Place {
+        TextHandle::Kind kind;
+        std::size_t offset;
+        std::size_t length;
+
+        std::size_t ByteSize() const {
+            return kind == TextHandle::Kind::Wide ? length * sizeof(char16_t) : length;
+        }
+    };
+    /// Bytes in use and given up.
+    struct Use {
+        std::size_t live = 0;
+        std::size_t garbage = 0;
+    };
+
+    Place PlaceOf(TextHandle handle) const;
+    TextHandle HandleOf(const Place& place);
+    std::string_view BytesAt(const Place& place) const;
+    TextView WideAt(const Place& place) const;
+    Use& UseOf(const Place& place);
+    bool AppendAsBytes(TextView text);
+    bool AdoptedIsMostlyGarbage() const { return adoptedUse_.garbage > adoptedUse_.live; }
+    void KeepAdoptedOf(const TextBlocks& other);
+    TextHandle TakeOver(const TextBlocks& other, TextHandle handle);
+
+    CodePage page_;
+    SharedBytes adopted_;
+    std::string bytes_;
+    Text wide_;
+    std::vector<Place> large_;
+    Use adoptedUse_;
+    Use ownUse_;
+    std::size_t wideTexts_ = 0;
+};
+
+inline TextHandle TextBlocks::HandleOf(const Place& place) {
+    if (place.length == 0) return {};
+    UseOf(place).live += place.ByteSize();
+    if (place.kind == TextHandle::Kind::Wide) ++wideTexts_;
+    if (place.length <= TextHandle::kMaxLength && place.offset <= TextHandle::kMaxOffset)
+        return {place.kind, place.offset, place.length};
+    large_.push_back(place);
+    return {TextHandle::Kind::Large, large_.size() - 1, 1};
+}
+
+inline TextBlocks::Use& TextBlocks::UseOf(const Place& place) {
+    return place.kind == TextHandle::Kind::Adopted ? adoptedUse_ : ownUse_;
+}
+
+inline TextBlocks::Place TextBlocks::PlaceOf(TextHandle handle) const {
+    if (handle.GetKind() == TextHandle::Kind::Large) return large_[handle.Offset()];
+    return {handle.GetKind(), handle.Offset(), handle.Length()};
+}
+
+inline std::string_view TextBlocks::BytesAt(const Place& place) const {
+    const char* const block = place.kind == TextHandle::Kind::Adopted ? adopted_.data.get() : bytes_.data();
+    return {block + place.offset, place.length};
+}
+
+inline std::optional<std::string_view> TextBlocks::Bytes(TextHandle handle) const {
+    if (handle.IsEmpty()) return std::string_view();
+    const Place place = PlaceOf(handle);
+    if (place.kind == TextHandle::Kind::Wide) return std::nullopt;
+    return BytesAt(place);
+}
+
+} // namespace korvane

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "testing/FileFaults.h"
+#include "testing/MemoryDisk.h"
+
+#include <string>
+
+namespace korvane {
+
+/// A disk in memory, in either path style, with failures to order. On Windows it has drive C and names are
+/// compared without case; elsewhere it is one tree. The program folder is `C:\Korvane` or `/opt/korvane`
+/// until another one is set, and the state lies there until it is given a folder of its own.
+class MemoryFileSystem final : public FileSystem {
+public:
+    /// The clock gives the modified times and has to live as long as the disk.
+    MemoryFileSystem(const PathStyle& style, const Clock& clock);
+
+    PathStyle Style() const override { return disk_.Style(); }
+    bool FileExists(TextView path) const override;
+    bool DirExists(TextView path) const override;
+    Text CurrentDir() const override { return disk_.CurrentDir(); }
+    bool ChangeDir(TextView path) override;
+    Text FullPath(TextView path) const override { return disk_.FullPath(path); }
+    std::optional<SharedBytes> ReadAll(TextView path) override;
+    /// The disk has to outlive the writer.
+    std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
+    std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
+    bool Remove(TextView path) override;
+    std::optional<std::int64_t> Size(TextView path) const override;
+    std::optional<DateTime> Modified(TextView path) const override;
+    std::optional<VolumeInfo> Volume(TextView path) const override;
+    Text LastErrorText() const override { return lastErrorText_; }
+    Text ProgramDir() const override { return programDir_; }
+    Text StateDir() const override { return stateDir_.empty() ? programDir_ : stateDir_; }
+
+    // Setting the stage. None of this meets a failure or a permission; missing folders are made.
+
+    void AddDrive(char16_t letter) { disk_.AddDrive(letter); }
+    /// What is told of the drive that the path is on; a fixed one without a name until it is set.
+    void SetVolume(TextView path, const VolumeInfo& info);
+    void AddDir(TextView path) { disk_.MakeDirs(path); }
+    /// Makes the file or replaces it.
+    void AddFile(TextView path, std::string_view bytes = {});
+    void AddLink(TextView path, TextView target);
+    void SetFileReadOnly(TextView path, bool readOnly = true);
+    void SetModified(TextView path, const DateTime& time);
+    void SetProgramDir(TextView path);
+    void SetStateDir(TextView path);
+    /// Takes away a file, link or folder with all that is in it.
+    void Erase(TextView path);
+
+    // Failures to order.
+
+    FileFaults& Faults() { return faults_; }
+    /// The disk of the path (the current one when it is empty) takes so many more bytes and then is full.
+    void SetFreeBytes(std::int64_t bytes, TextView path = {});
+    /// Nothing on the disk of the path (the current one when it is empty) can be written or removed.
+    void SetDiskReadOnly(bool readOnly = true, TextView path = {});
+    /// The file goes away just before it is opened the next time, behind the back of who has tested for it.
+    void VanishBeforeOpen(TextView path) { vanishing_ = FullPath(path); }
+
+    // Looking at the outcome.
+
+    /// The bytes of the file, also behind a link; nothing when there is no file.
+    std::optional<std::string> Contents(TextView path) const;
+    bool IsLink(TextView path) const;
+    /// Whether only its owner may read the file.
+    bool IsPrivate(TextView path) const;
+
+private:
+    class Writer;
+    using Place = MemoryDisk::Place;
+
+    Place Find(TextView path, LastLink lastLink = LastLink::Follow) const;
+    Place MakePlace(TextView path);
+    bool Fail(TextView errorText);
+    bool Succeed();
+    bool Strikes(FileStep step);
+    void Vanish(TextView path);
+    std::unique_ptr<FileWriter> Open(TextView path, bool makePrivate);
+    bool CanOpenToWrite(const Place& place);
+    bool CanRemove(const Place& place, const Place& target);
+    bool Append(MemoryNode& file, MemoryVolume& volume, std::string_view bytes);
+
+    // Looking up a path changes nothing, but hands out what can be changed.
+    mutable MemoryDisk disk_;
+    const Clock& clock_;
+    FileFaults faults_;
+    Text vanishing_;
+    Text lastErrorText_;
+    Text programDir_;
+    Text stateDir_;
+};
+
+} // namespace korvane
