@@ -5,10 +5,10 @@
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SystemParts.h"
-#include "platform/qt/GridView.h"
-#include "platform/qt/Palettes.h"
-#include "platform/qt/QtMessageBoxes.h"
-#include "platform/qt/SideBarView.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/grid/GridView.h"
+#include "platform/qt/grid/SideBarView.h"
+#include "platform/qt/services/QtMessageBoxes.h"
 
 namespace {
 

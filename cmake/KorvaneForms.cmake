@@ -1,7 +1,7 @@
 # korvane_forms(<target> FILES...)
 #
 # Compiles the Designer files of all windows into the target and generates the registry that maps a window's
-# name to what makes its look (`KorvaneForms()` of platform/qt/FormEntry.h).
+# name to what makes its look (`KorvaneForms()` of platform/qt/binder/FormEntry.h).
 function(korvane_forms target)
     set(includes "")
     set(entries "")
@@ -18,7 +18,7 @@ function(korvane_forms target)
     qt6_wrap_ui(headers ${ARGN})
     set(registry ${CMAKE_CURRENT_BINARY_DIR}/FormRegistry.cpp)
     file(CONFIGURE OUTPUT ${registry} CONTENT [[
-#include "platform/qt/FormEntry.h"
+#include "platform/qt/binder/FormEntry.h"
 
 @includes@
 #include <array>

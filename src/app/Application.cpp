@@ -1,6 +1,6 @@
 #include "app/Application.h"
 
-#include "platform/qt/CalmStyle.h"
+#include "platform/qt/binder/CalmStyle.h"
 
 #include <QIcon>
 #include <exception>

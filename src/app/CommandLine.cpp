@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 
-#include "platform/qt/Convert.h"
+#include "platform/qt/base/Convert.h"
 
 namespace korvane {
 

@@ -1,7 +1,7 @@
 #include "app/SystemParts.h"
-#include "platform/qt/QtSystemFolders.h"
 #include "platform/qt/desktop/QtShell.h"
 #include "platform/qt/instance/LocalSocketChannel.h"
+#include "platform/qt/services/QtSystemFolders.h"
 
 #include <optional>
 

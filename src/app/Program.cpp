@@ -5,7 +5,7 @@
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
-#include "platform/qt/LogOut.h"
+#include "platform/qt/services/LogOut.h"
 #include "platform/xls/XlsSpreadsheet.h"
 #include "shell/frmMDIParent.h"
 

@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "platform/qt/Convert.h"
+#include "platform/qt/base/Convert.h"
 #include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/WindowsText.h"
 

@@ -3,8 +3,8 @@
 #include "app/PrintedMessages.h"
 #include "app/Program.h"
 #include "app/SystemParts.h"
-#include "platform/qt/Palettes.h"
-#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/services/QtMessageBoxes.h"
 #include "testing/MemoryInstanceChannel.h"
 
 namespace korvane {

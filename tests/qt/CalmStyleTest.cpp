@@ -1,8 +1,8 @@
-#include "platform/qt/CalmStyle.h"
+#include "platform/qt/binder/CalmStyle.h"
 
 #include "QtSupport.h"
-#include "platform/qt/CellLook.h"
-#include "platform/qt/Palettes.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/grid/CellLook.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "platform/qt/CellLook.h"
+#include "platform/qt/grid/CellLook.h"
 
 #include "QtSupport.h"
-#include "platform/qt/Convert.h"
+#include "platform/qt/base/Convert.h"
 
 #include <gtest/gtest.h>
 

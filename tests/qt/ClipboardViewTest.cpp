@@ -1,5 +1,5 @@
 #include "QtSupport.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/QtFormHost.h"
 #include "support/TestApp.h"
 #include "text/frmViewAndPaste.h"
 

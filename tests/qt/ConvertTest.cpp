@@ -1,4 +1,4 @@
-#include "platform/qt/Convert.h"
+#include "platform/qt/base/Convert.h"
 
 #include <gtest/gtest.h>
 

@@ -5,8 +5,8 @@
 #include "controls/Label.h"
 #include "controls/Slider.h"
 #include "controls/TextBox.h"
-#include "platform/qt/Convert.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/qt/GridModel.h"
+#include "platform/qt/grid/GridModel.h"
 
 #include "QtSupport.h"
 #include "controls/Form.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>
 

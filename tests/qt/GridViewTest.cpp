@@ -1,11 +1,11 @@
-#include "platform/qt/GridView.h"
+#include "platform/qt/grid/GridView.h"
 
 #include "QtSupport.h"
 #include "controls/Form.h"
-#include "platform/qt/CellEditor.h"
-#include "platform/qt/CellLook.h"
-#include "platform/qt/Convert.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/binder/QtFormHost.h"
+#include "platform/qt/grid/CellEditor.h"
+#include "platform/qt/grid/CellLook.h"
 
 #include <gtest/gtest.h>
 

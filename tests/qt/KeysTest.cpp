@@ -1,4 +1,4 @@
-#include "platform/qt/Keys.h"
+#include "platform/qt/base/Keys.h"
 
 #include <gtest/gtest.h>
 

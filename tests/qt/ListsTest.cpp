@@ -3,9 +3,9 @@
 #include "controls/ListBox.h"
 #include "controls/ListView.h"
 #include "controls/TreeView.h"
-#include "platform/qt/Convert.h"
-#include "platform/qt/Icons.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/base/Icons.h"
+#include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "controls/Form.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 #include "QtSupport.h"
-#include "platform/qt/Convert.h"
-#include "platform/qt/Palettes.h"
-#include "platform/qt/QtClipboard.h"
-#include "platform/qt/QtFilePicker.h"
-#include "platform/qt/QtMessageBoxes.h"
-#include "platform/qt/QtPickers.h"
-#include "platform/qt/QtScreen.h"
-#include "platform/qt/QtSystemFolders.h"
-#include "platform/qt/QtUserLocale.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/services/QtClipboard.h"
+#include "platform/qt/services/QtFilePicker.h"
+#include "platform/qt/services/QtMessageBoxes.h"
+#include "platform/qt/services/QtPickers.h"
+#include "platform/qt/services/QtScreen.h"
+#include "platform/qt/services/QtSystemFolders.h"
+#include "platform/qt/services/QtUserLocale.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/QtFormHost.h"
 
 #include "QtSupport.h"
 #include "controls/CommandButton.h"

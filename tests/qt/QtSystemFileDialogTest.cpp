@@ -1,8 +1,8 @@
-#include "platform/qt/QtSystemFileDialog.h"
+#include "platform/qt/services/QtSystemFileDialog.h"
 
 #include "QtSupport.h"
-#include "platform/qt/Convert.h"
-#include "platform/qt/FileDialogFilters.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/services/FileDialogFilters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/qt/FormEntry.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/FormEntry.h"
+#include "platform/qt/binder/QtFormHost.h"
 #include "shell/TabStates.h"
 #include "shell/frmMDIChild.h"
 #include "support/TestApp.h"

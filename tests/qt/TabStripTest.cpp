@@ -3,11 +3,11 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
-#include "platform/qt/CellLook.h"
-#include "platform/qt/Palettes.h"
-#include "platform/qt/QtFormHost.h"
-#include "platform/qt/TabLook.h"
-#include "platform/qt/TabPages.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/binder/QtFormHost.h"
+#include "platform/qt/grid/CellLook.h"
+#include "platform/qt/tabs/TabLook.h"
+#include "platform/qt/tabs/TabPages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "QtSupport.h"
 #include "Windows.h"
-#include "platform/qt/FormBinder.h"
-#include "platform/qt/FormEntry.h"
+#include "platform/qt/binder/FormBinder.h"
+#include "platform/qt/binder/FormEntry.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

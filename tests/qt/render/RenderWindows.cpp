@@ -3,11 +3,11 @@
 
 #include "context/StandardMessages.h"
 #include "controls/TabStyles.h"
-#include "platform/qt/CalmStyle.h"
-#include "platform/qt/Icons.h"
-#include "platform/qt/Palettes.h"
-#include "platform/qt/QtMessageBoxes.h"
-#include "platform/qt/TabPages.h"
+#include "platform/qt/base/Icons.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/binder/CalmStyle.h"
+#include "platform/qt/services/QtMessageBoxes.h"
+#include "platform/qt/tabs/TabPages.h"
 #include "render/Stage.h"
 
 #include <QApplication>

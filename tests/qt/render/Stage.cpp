@@ -1,7 +1,7 @@
 #include "render/Stage.h"
 
 #include "SourceTree.h"
-#include "platform/qt/QtScreen.h"
+#include "platform/qt/services/QtScreen.h"
 #include "table/TableFile.h"
 
 #include <QCoreApplication>

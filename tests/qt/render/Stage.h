@@ -2,7 +2,7 @@
 
 #include "Windows.h"
 #include "app/PrintedMessages.h"
-#include "platform/qt/QtFormHost.h"
+#include "platform/qt/binder/QtFormHost.h"
 #include "support/TestApp.h"
 
 namespace korvane {

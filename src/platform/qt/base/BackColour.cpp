@@ -1,0 +1,21 @@
+#include "platform/qt/base/BackColour.h"
+
+#include "platform/qt/base/Contrast.h"
+#include "platform/qt/base/Convert.h"
+
+#include <QApplication>
+#include <QWidget>
+
+namespace korvane {
+
+void WriteBackColour(QWidget& widget, Colour back, const Surface& surface) {
+    if (surface.back == QPalette::Window) widget.setAutoFillBackground(back != kNoColour);
+    if (back == kNoColour) return widget.setPalette(QPalette());
+    QPalette palette = widget.palette();
+    const QColor colour = ToQColor(back);
+    palette.setColor(surface.back, colour);
+    palette.setColor(surface.text, TextFor(colour, QApplication::palette()));
+    widget.setPalette(palette);
+}
+
+} // namespace korvane

@@ -1,0 +1,26 @@
+#include "platform/qt/binder/DroppedFiles.h"
+
+#include "platform/qt/base/Convert.h"
+
+#include <QDir>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
+
+namespace korvane {
+
+std::vector<Text> LocalFiles(const QMimeData& dragged) {
+    std::vector<Text> files;
+    for (const QUrl& url : dragged.urls()) {
+        if (url.isLocalFile()) files.push_back(ToText(QDir::toNativeSeparators(url.toLocalFile())));
+    }
+    return files;
+}
+
+void AcceptFiles(QEvent& drag) {
+    auto& event = static_cast<QDropEvent&>(drag);
+    event.setDropAction(Qt::CopyAction);
+    event.setAccepted(!LocalFiles(*event.mimeData()).empty());
+}
+
+} // namespace korvane

@@ -1,0 +1,98 @@
+#include "platform/qt/binder/FormBinder.h"
+
+#include "platform/qt/base/Icons.h"
+#include "platform/qt/binder/MenuAdaptor.h"
+#include "platform/qt/binder/SimpleAdaptors.h"
+#include "platform/qt/binder/TextAdaptors.h"
+#include "platform/qt/grid/GridAdaptor.h"
+#include "platform/qt/lists/ListAdaptors.h"
+#include "platform/qt/tabs/TabStripAdaptor.h"
+
+namespace korvane {
+
+namespace {
+
+using Maker = ControlAdaptor* (*)(Control&, QObject&, PageSource&);
+
+template <class ControlT, class WidgetT, class AdaptorT>
+ControlAdaptor* Make(Control& control, QObject& shown, [[maybe_unused]] PageSource& pages) {
+    auto* wantedControl = dynamic_cast<ControlT*>(&control);
+    auto* wantedWidget = qobject_cast<WidgetT*>(&shown);
+    if (wantedControl == nullptr || wantedWidget == nullptr) return nullptr;
+    if constexpr (std::is_constructible_v<AdaptorT, ControlT&, WidgetT&, PageSource&>) {
+        return new AdaptorT(*wantedControl, *wantedWidget, pages);
+    } else {
+        return new AdaptorT(*wantedControl, *wantedWidget);
+    }
+}
+
+/// Each kind of control, the widgets that can show it, and what ties the two. The adaptor belongs to the
+/// widget.
+constexpr Maker kMakers[] = {
+    Make<CommandButton, QAbstractButton, ButtonAdaptor>,
+    Make<CommandButton, QAction, ActionAdaptor>,
+    Make<CheckBox, QAbstractButton, CheckBoxAdaptor>,
+    Make<OptionButton, QAbstractButton, OptionAdaptor>,
+    Make<Label, QLabel, LabelAdaptor>,
+    Make<Panel, QWidget, PanelAdaptor>,
+    Make<TextBox, QLineEdit, LineAdaptor>,
+    Make<TextBox, QPlainTextEdit, LinesAdaptor>,
+    Make<ComboBox, QComboBox, ComboBoxAdaptor>,
+    Make<ListBox, QListWidget, ListBoxAdaptor>,
+    Make<ListView, QTreeWidget, ListViewAdaptor>,
+    Make<TreeView, QTreeWidget, TreeViewAdaptor>,
+    Make<Slider, QAbstractSlider, SliderAdaptor>,
+    Make<GridBox, GridView, GridAdaptor>,
+    Make<Menu, QMenuBar, MenuAdaptor>,
+    Make<TabStrip, TabPages, TabStripAdaptor>,
+};
+
+QObject* FindShown(const Control& control, QWidget& window) {
+    const auto name = QString::fromStdString(control.Name());
+    if (auto* widget = window.findChild<QWidget*>(name)) return widget;
+    return window.findChild<QAction*>(name);
+}
+
+ControlAdaptor* Tie(Control& control, QWidget& window, PageSource& pages) {
+    QObject* shown = FindShown(control, window);
+    if (shown == nullptr) return nullptr;
+    for (const Maker make : kMakers) {
+        if (ControlAdaptor* adaptor = make(control, *shown, pages)) return adaptor;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+FormBinder::FormBinder(Form& form, QWidget& window, PageSource& pages) : form_(&form) {
+    window_ = new WindowAdaptor(form, window);
+    window_->WriteAll();
+    for (Control* control : form.Controls()) {
+        ControlAdaptor* adaptor = Tie(*control, window, pages);
+        if (adaptor == nullptr) continue;
+        adaptor->WriteAll();
+        controls_.emplace_back(adaptor);
+    }
+    SetIcons(window);
+}
+
+FormBinder::~FormBinder() {
+    Detach();
+}
+
+void FormBinder::Detach() {
+    if (form_ == nullptr) return;
+    form_ = nullptr;
+    for (const auto& adaptor : controls_) {
+        if (!adaptor.isNull()) adaptor->Detach();
+    }
+    if (!window_.isNull()) window_->Detach();
+}
+
+void FormBinder::FocusWanted() {
+    if (form_ == nullptr || form_->Focused() == nullptr) return;
+    Control& wanted = *form_->Focused();
+    wanted.Notify(Aspect::Focus);
+}
+
+} // namespace korvane

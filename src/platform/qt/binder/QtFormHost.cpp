@@ -1,0 +1,126 @@
+#include "platform/qt/binder/QtFormHost.h"
+
+#include "controls/Form.h"
+#include "platform/qt/binder/MenuAdaptor.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDialog>
+#include <QMenu>
+#include <algorithm>
+#include <utility>
+
+namespace korvane {
+
+QtFormHost::QtFormHost(std::span<const FormEntry> forms) : forms_(forms) {}
+
+QtFormHost::~QtFormHost() {
+    for (const Shown& shown : shown_) {
+        shown.binder->Detach();
+        delete shown.window.data();
+    }
+}
+
+std::unique_ptr<QWidget> QtFormHost::MakeLook(const Form& form) const {
+    const auto entry = std::find_if(forms_.begin(), forms_.end(), [&form](const FormEntry& candidate) {
+        return candidate.name == form.Name();
+    });
+    return entry == forms_.end() ? nullptr : entry->make();
+}
+
+QtFormHost::Shown* QtFormHost::Find(const Form& form) {
+    const auto found = std::find_if(shown_.begin(), shown_.end(),
+                                    [&form](const Shown& shown) { return shown.form == &form; });
+    return found == shown_.end() ? nullptr : &*found;
+}
+
+QWidget* QtFormHost::Opener() const {
+    QWidget* latest = nullptr;
+    for (const Shown& shown : shown_) {
+        if (shown.window.isNull() || !shown.window->isVisible() || !StandsAlone(*shown.window)) continue;
+        latest = shown.window;
+        if (latest->isActiveWindow()) break;
+    }
+    return latest;
+}
+
+QWidget* QtFormHost::Bind(Form& form) {
+    if (const Shown* found = Find(form)) return found->window;
+    auto look = MakeLook(form);
+    if (look == nullptr) return nullptr;
+    QWidget* window = look.release();
+    if (QWidget* opener = Opener(); opener != nullptr && qobject_cast<QDialog*>(window) != nullptr) {
+        window->setParent(opener, window->windowFlags());
+    }
+    PageSource& pages = *this;
+    shown_.push_back({&form, window, std::make_unique<FormBinder>(form, *window, pages), nullptr});
+    return window;
+}
+
+QWidget* QtFormHost::PageOf(Form& form) {
+    return Bind(form);
+}
+
+void QtFormHost::Bring(Form& form, QWidget& window) {
+    // A page comes up with its tab.
+    if (!StandsAlone(window)) return;
+    window.show();
+    if (const Shown* shown = Find(form)) shown->binder->FocusWanted();
+}
+
+void QtFormHost::Show(Form& form) {
+    if (QWidget* window = Bind(form)) Bring(form, *window);
+}
+
+void QtFormHost::RunModal(Form& form) {
+    QWidget* window = Bind(form);
+    if (window == nullptr) return;
+    window->setWindowModality(Qt::ApplicationModal);
+    Bring(form, *window);
+    RunUntilClosed(form);
+}
+
+void QtFormHost::RunUntilClosed(const Form& form) {
+    Shown* shown = Find(form);
+    if (shown == nullptr) return;
+    QEventLoop loop;
+    shown->loop = &loop;
+    loop.exec();
+}
+
+void QtFormHost::Hide(Form& form) {
+    Shown* shown = Find(form);
+    if (shown == nullptr) return;
+    const Shown gone = std::move(*shown);
+    shown_.erase(shown_.begin() + (shown - shown_.data()));
+    gone.binder->Detach();
+    if (gone.loop != nullptr) gone.loop->quit();
+    if (gone.window.isNull()) return;
+    gone.window->hide();
+    // Not at once: it may be one of its own widgets whose click closes the window.
+    gone.window->deleteLater();
+}
+
+void QtFormHost::PopUp(Menu& menu) {
+    QMenu popup;
+    FillPopup(popup, menu);
+    popup.exec(QCursor::pos());
+}
+
+void QtFormHost::Raise(Form& form) {
+    QWidget* window = WidgetOf(form);
+    if (window == nullptr) return;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+QWidget* QtFormHost::WidgetOf(const Form& form) const {
+    for (const Shown& shown : shown_) {
+        if (shown.form == &form) return shown.window;
+    }
+    return nullptr;
+}
+
+} // namespace korvane

@@ -1,0 +1,134 @@
+#include "platform/qt/binder/SimpleAdaptors.h"
+
+#include "platform/qt/base/BackColour.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/base/FinishTyping.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <functional>
+
+namespace korvane {
+
+namespace {
+
+/// A button whose control says whether it is on. The widget turns itself over when it is clicked, but what
+/// becomes of that is the control's word.
+void FollowClicks(QAbstractButton& widget, ControlAdaptor& adaptor, const std::function<void()>& press) {
+    widget.setCheckable(true);
+    widget.setAutoExclusive(false);
+    QObject::connect(&widget, &QAbstractButton::clicked, &adaptor, press);
+}
+
+} // namespace
+
+ButtonAdaptor::ButtonAdaptor(CommandButton& button, QAbstractButton& widget) : AdaptorOf(button, widget) {
+    if (auto* pushButton = qobject_cast<QPushButton*>(&widget)) {
+        // The window itself knows what Return presses.
+        pushButton->setAutoDefault(false);
+        pushButton->setDefault(button.Default);
+    }
+    connect(&widget, &QAbstractButton::clicked, this, [this] {
+        FinishTyping();
+        control_.Press();
+    });
+}
+
+void ButtonAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Caption && !control_.Caption.Get().empty()) {
+        widget_.setText(ToQString(control_.Caption.Get()));
+    }
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kButtonSurface);
+    AdaptorOf::Write(aspect);
+}
+
+ActionAdaptor::ActionAdaptor(CommandButton& button, QAction& action) : AdaptorOf(button, action) {
+    connect(&action, &QAction::triggered, this, [this] {
+        FinishTyping();
+        control_.Press();
+    });
+}
+
+void ActionAdaptor::Write(Aspect aspect) {
+    switch (aspect) {
+    case Aspect::Caption:
+    case Aspect::ToolTip:
+        widget_.setText(
+            ToQString(control_.Caption.Get().empty() ? control_.ToolTipText.Get() : control_.Caption.Get()));
+        widget_.setToolTip(PlainToolTip(control_.ToolTipText.Get()));
+        break;
+    case Aspect::Enabled:
+        widget_.setEnabled(control_.Enabled);
+        break;
+    case Aspect::Visible:
+        widget_.setVisible(control_.Visible);
+        break;
+    default:
+        break;
+    }
+}
+
+CheckBoxAdaptor::CheckBoxAdaptor(CheckBox& box, QAbstractButton& widget) : AdaptorOf(box, widget) {
+    FollowClicks(widget, *this, [this] {
+        control_.Press();
+        if (Attached()) Write(Aspect::Value);
+    });
+}
+
+void CheckBoxAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Caption) widget_.setText(ToQString(control_.Caption.Get()));
+    if (aspect == Aspect::Value) widget_.setChecked(control_.Value == 1);
+    AdaptorOf::Write(aspect);
+}
+
+OptionAdaptor::OptionAdaptor(OptionButton& option, QAbstractButton& widget) : AdaptorOf(option, widget) {
+    FollowClicks(widget, *this, [this] {
+        control_.Press();
+        if (Attached()) Write(Aspect::Value);
+    });
+}
+
+void OptionAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Caption) widget_.setText(ToQString(control_.Caption.Get()));
+    if (aspect == Aspect::Value) widget_.setChecked(control_.Value);
+    AdaptorOf::Write(aspect);
+}
+
+LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget) : AdaptorOf(label, widget) {
+    widget.setTextFormat(Qt::PlainText);
+}
+
+void LabelAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Caption) widget_.setText(ToLines(control_.Caption.Get()));
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
+    AdaptorOf::Write(aspect);
+}
+
+void PanelAdaptor::Write(Aspect aspect) {
+    auto* frame = qobject_cast<QGroupBox*>(&widget_);
+    const Text& caption = control_.Caption;
+    // Without a caption of its own a frame keeps the title that its look has.
+    if (aspect == Aspect::Caption && frame != nullptr && !caption.empty())
+        frame->setTitle(ToQString(caption));
+    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
+    AdaptorOf::Write(aspect);
+}
+
+SliderAdaptor::SliderAdaptor(Slider& slider, QAbstractSlider& widget) : AdaptorOf(slider, widget) {
+    connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
+        control_.MoveTo(value);
+        // What a key, the wheel or a click on the groove moves is never held.
+        if (!widget_.isSliderDown()) control_.Release();
+    });
+    connect(&widget, &QAbstractSlider::sliderReleased, this, [this] { control_.Release(); });
+}
+
+void SliderAdaptor::Write(Aspect aspect) {
+    // A value outside the range stays as it is in the control: what the widget makes of it isn't the user's.
+    const QSignalBlocker quiet(widget_);
+    if (aspect == Aspect::Range) widget_.setRange(control_.Min, control_.Max);
+    if (aspect == Aspect::Range || aspect == Aspect::Value) widget_.setValue(control_.Value);
+    AdaptorOf::Write(aspect);
+}
+
+} // namespace korvane

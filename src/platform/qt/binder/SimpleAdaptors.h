@@ -1,0 +1,72 @@
+#pragma once
+
+#include "controls/Buttons.h"
+#include "controls/CommandButton.h"
+#include "controls/Label.h"
+#include "controls/Slider.h"
+#include "platform/qt/base/ControlAdaptor.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QLabel>
+
+namespace korvane {
+
+class ButtonAdaptor : public AdaptorOf<CommandButton, QAbstractButton> {
+public:
+    ButtonAdaptor(CommandButton& button, QAbstractButton& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+/// A button of a tool bar: its tool-tip is also its name in the bar's overflow menu and to a screen reader.
+class ActionAdaptor : public AdaptorOf<CommandButton, QAction> {
+public:
+    ActionAdaptor(CommandButton& button, QAction& action);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class CheckBoxAdaptor : public AdaptorOf<CheckBox, QAbstractButton> {
+public:
+    CheckBoxAdaptor(CheckBox& box, QAbstractButton& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class OptionAdaptor : public AdaptorOf<OptionButton, QAbstractButton> {
+public:
+    OptionAdaptor(OptionButton& option, QAbstractButton& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class LabelAdaptor : public AdaptorOf<Label, QLabel> {
+public:
+    LabelAdaptor(Label& label, QLabel& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class PanelAdaptor : public AdaptorOf<Panel, QWidget> {
+public:
+    using AdaptorOf::AdaptorOf;
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class SliderAdaptor : public AdaptorOf<Slider, QAbstractSlider> {
+public:
+    SliderAdaptor(Slider& slider, QAbstractSlider& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+} // namespace korvane

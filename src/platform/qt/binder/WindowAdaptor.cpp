@@ -1,0 +1,205 @@
+#include "platform/qt/binder/WindowAdaptor.h"
+
+#include "controls/CommandButton.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/base/FinishTyping.h"
+#include "platform/qt/base/Keys.h"
+#include "platform/qt/binder/DroppedFiles.h"
+
+#include <QCloseEvent>
+#include <QDialog>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QPushButton>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+/// A caption may hold "[*]", which the toolkit would take for the place of its mark of changes.
+QString WindowTitle(TextView caption) {
+    return ToQString(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+/// The first button that can be pressed and of which `which` is set.
+CommandButton* FindButton(const Form& form, bool CommandButton::*which) {
+    for (Control* control : form.Controls()) {
+        auto* button = dynamic_cast<CommandButton*>(control);
+        if (button != nullptr && button->*which && button->Enabled && button->Visible) return button;
+    }
+    return nullptr;
+}
+
+/// Writes a length that the user changed; one that differs only by the rounding to pixels stays exact.
+void Take(Property<Twips>& length, int pixels) {
+    if (ToPixels(length) != pixels) length = ToTwips(pixels);
+}
+
+} // namespace
+
+bool StandsAlone(const QWidget& widget) {
+    return qobject_cast<const QDialog*>(&widget) != nullptr ||
+           qobject_cast<const QMainWindow*>(&widget) != nullptr;
+}
+
+WindowAdaptor::WindowAdaptor(Form& form, QWidget& window) : QObject(&window), form_(&form), window_(window) {
+    form.SetView(this);
+    window.installEventFilter(this);
+}
+
+WindowAdaptor::~WindowAdaptor() {
+    if (form_ != nullptr) form_->SetView(nullptr);
+}
+
+void WindowAdaptor::WriteAll() {
+    Follow(*form_, Aspect::Caption);
+    Follow(*form_, Aspect::Place);
+    Follow(*form_, Aspect::State);
+}
+
+void WindowAdaptor::Detach() {
+    if (form_ == nullptr) return;
+    form_->SetView(nullptr);
+    Gone();
+}
+
+void WindowAdaptor::Gone() {
+    form_ = nullptr;
+    window_.removeEventFilter(this);
+}
+
+void WindowAdaptor::Follow(Observed&, Aspect aspect) {
+    if (form_ == nullptr) return;
+    if (aspect == Aspect::Caption) window_.setWindowTitle(WindowTitle(form_->Caption.Get()));
+    if (aspect == Aspect::Place) WritePlace();
+    if (aspect == Aspect::State) WriteState();
+}
+
+bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
+    if (form_ == nullptr) return false;
+    switch (event->type()) {
+    case QEvent::Close:
+        return CloseWanted(*event);
+    case QEvent::KeyPress:
+        return KeyPressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        AcceptFiles(*event);
+        return true;
+    case QEvent::Drop:
+        TakeDrop(*event);
+        return true;
+    case QEvent::WindowActivate:
+        TellActivated();
+        break;
+    case QEvent::WindowStateChange:
+        ReadState();
+        break;
+    case QEvent::Move:
+        ReadPlace();
+        break;
+    case QEvent::Resize:
+        ReadPlace();
+        if (form_ != nullptr) form_->Resize();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void WindowAdaptor::TellActivated() {
+    // A page is activated with its tab: the window that comes to the front leaves the keyboard where it was.
+    if (!StandsAlone(window_)) return;
+    // Later: a handler that lets messages run would let keys come before the window has given the keyboard
+    // to one of its widgets.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (form_ != nullptr) form_->Activate();
+        },
+        Qt::QueuedConnection);
+}
+
+bool WindowAdaptor::CloseWanted(QEvent& event) {
+    FinishTyping();
+    event.setAccepted(form_ == nullptr || form_->Close());
+    return true;
+}
+
+void WindowAdaptor::TakeDrop(QEvent& event) {
+    AcceptFiles(event);
+    if (!event.isAccepted()) return;
+    FinishTyping();
+    // Later: where the files come from waits for the end of the drop, and a load may ask questions.
+    QMetaObject::invokeMethod(
+        this,
+        [this, files = LocalFiles(*static_cast<QDropEvent&>(event).mimeData())] {
+            if (form_ != nullptr) form_->FilesDropped(files);
+        },
+        Qt::QueuedConnection);
+}
+
+bool WindowAdaptor::KeyPressed(const QKeyEvent& event) {
+    KeyEvent key = ToKeyEvent(event);
+    if (window_.focusWidget() == nullptr) form_->KeyDown(key);
+    if (key.consumed || form_ == nullptr) return true;
+    if (key.mask == Mask::None && PressButtonFor(key.code)) return true;
+    // A dialog of the toolkit would close at Esc and look for a button at Return by itself.
+    return key.code == Key::Escape || key.code == Key::Return;
+}
+
+bool WindowAdaptor::PressButtonFor(int code) {
+    if (code == Key::Return) {
+        if (auto* focused = qobject_cast<QPushButton*>(window_.focusWidget())) {
+            focused->click();
+            return true;
+        }
+    }
+    CommandButton* button = nullptr;
+    if (code == Key::Return) button = FindButton(*form_, &CommandButton::Default);
+    if (code == Key::Escape) button = FindButton(*form_, &CommandButton::Cancel);
+    if (button == nullptr) return false;
+    button->Press();
+    return true;
+}
+
+void WindowAdaptor::WritePlace() {
+    if (!StandsAlone(window_)) return;
+    const QSize size(ToPixels(form_->Width), ToPixels(form_->Height));
+    const QPoint place(ToPixels(form_->Left), ToPixels(form_->Top));
+    if (!size.isEmpty() && size != window_.size()) window_.resize(size);
+    // A window that is about to be shown without a place is placed by the desktop.
+    const bool placed = window_.isVisible() || !place.isNull();
+    if (placed && place != window_.pos()) window_.move(place);
+}
+
+void WindowAdaptor::WriteState() {
+    if (!StandsAlone(window_)) return;
+    constexpr auto kBoth = Qt::WindowMinimized | Qt::WindowMaximized;
+    Qt::WindowStates wanted;
+    if (form_->State == FormState::Minimised) wanted = Qt::WindowMinimized;
+    if (form_->State == FormState::Maximised) wanted = Qt::WindowMaximized;
+    if ((window_.windowState() & kBoth) != wanted) window_.setWindowState(wanted);
+}
+
+void WindowAdaptor::ReadState() {
+    const bool large = window_.isMaximized() || window_.isFullScreen();
+    const FormState normal = large ? FormState::Maximised : FormState::Normal;
+    form_->State = window_.isMinimized() ? FormState::Minimised : normal;
+}
+
+void WindowAdaptor::ReadPlace() {
+    // A window that isn't on the screen yet stands wherever the toolkit keeps it.
+    if (!StandsAlone(window_) || !window_.isVisible() || window_.isMinimized() || window_.isMaximized())
+        return;
+    const QRect place(window_.pos(), window_.size());
+    Take(form_->Left, place.left());
+    Take(form_->Top, place.top());
+    Take(form_->Width, place.width());
+    Take(form_->Height, place.height());
+}
+
+} // namespace korvane

@@ -1,0 +1,180 @@
+#include "platform/qt/grid/CellDelegate.h"
+
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/grid/CellEditor.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOptionViewItem>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kPaddingX = 5;
+constexpr int kPaddingTop = 3;
+constexpr int kFrameWidth = 2;
+constexpr unsigned kFontCount = 8;
+/// How much of the accent colour the current row and cell show.
+constexpr double kRowTint = 0.07;
+constexpr double kCellTint = 0.12;
+
+void PaintFrame(QPainter& painter, const QStyleOptionViewItem& option) {
+    const auto group = option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+    const bool focused = option.widget != nullptr && option.widget->hasFocus();
+    const QColor accent = option.palette.color(group, QPalette::Highlight);
+    const QColor colour = focused ? accent : Blend(accent, option.palette.color(QPalette::Mid), 0.6);
+    const QRect& cell = option.rect;
+    painter.fillRect(QRect(cell.left(), cell.top(), cell.width(), kFrameWidth), colour);
+    painter.fillRect(QRect(cell.left(), cell.bottom() - kFrameWidth + 1, cell.width(), kFrameWidth), colour);
+    painter.fillRect(QRect(cell.left(), cell.top(), kFrameWidth, cell.height()), colour);
+    painter.fillRect(QRect(cell.right() - kFrameWidth + 1, cell.top(), kFrameWidth, cell.height()), colour);
+}
+
+QFont FlaggedFont(const QFont& base, unsigned flags) {
+    QFont font = base;
+    if ((flags & 1) != 0) font.setItalic(true);
+    if ((flags & 2) != 0) font.setBold(true);
+    if ((flags & 4) != 0) font.setStrikeOut(true);
+    return font;
+}
+
+} // namespace
+
+CellDelegate::CellDelegate(const GridModel& model, const GridBox& box, QObject* parent)
+    : QAbstractItemDelegate(parent), model_(model), box_(box) {}
+
+QRect CellDelegate::CheckRect(const QRect& cell, const QWidget& view) {
+    const QStyle& style = *view.style();
+    const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &view),
+                     style.pixelMetric(QStyle::PM_IndicatorHeight, nullptr, &view));
+    const int line = view.fontMetrics().lineSpacing();
+    const int top = std::min(kPaddingTop + std::max(0, (line - size.height()) / 2),
+                             std::max(0, (cell.height() - size.height()) / 2));
+    return QRect(cell.topLeft() + QPoint(kPaddingX, top), size);
+}
+
+const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col) const {
+    if (fonts_.empty() || fonts_.front() != base) {
+        fonts_.clear();
+        for (unsigned flags = 0; flags < kFontCount; ++flags)
+            fonts_.push_back(FlaggedFont(base, flags));
+    }
+    const bool italic = Store().CellFontFlag(row, col, CellFlag::Italic);
+    const bool bold = Store().CellFontFlag(row, col, CellFlag::Bold);
+    const bool strike = Store().CellFontFlag(row, col, CellFlag::Strikethrough);
+    return fonts_[(italic ? 1u : 0u) | (bold ? 2u : 0u) | (strike ? 4u : 0u)];
+}
+
+void CellDelegate::PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
+                             const QColor& back) const {
+    const bool currentRow = cell.row == Store().CurRow();
+    const double tint = IsCurrent(cell) ? kCellTint : kRowTint;
+    const QColor accent = option.palette.color(QPalette::Highlight);
+    const QColor line = GridLine(TableBack(Store(), option.palette));
+    const QRect& area = option.rect;
+    painter.fillRect(area, currentRow ? Blend(back, accent, tint) : back);
+    painter.fillRect(QRect(area.left(), area.bottom(), area.width(), 1), line);
+    painter.fillRect(QRect(area.right(), area.top(), 1, area.height()), line);
+}
+
+void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
+                              const CellColours& colours) const {
+    QStyleOptionViewItem box = option;
+    box.rect = CheckRect(option.rect, *option.widget);
+    box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
+    box.state |= Store().CellCheck(row) == 1 ? QStyle::State_On : QStyle::State_Off;
+    // The row's colours, so that the box is seen on a light row of a dark window.
+    box.palette.setColor(QPalette::Base, Blend(colours.back, Qt::white, 0.15));
+    box.palette.setColor(QPalette::Window, Blend(colours.back, colours.text, 0.45));
+    box.palette.setColor(QPalette::Text, colours.text);
+    option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, &painter,
+                                          option.widget);
+}
+
+TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) const {
+    const Text& part = box_.MarkedText.Get();
+    if (part.empty()) return {};
+    return {part, MarkBack(colours, IsCurrent(cell) ? Mark::Strong : Mark::Soft)};
+}
+
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    const CellPosition cell{model_.RowOf(index.row()), GridModel::ColOf(index.column())};
+    const CellColours colours = ColoursOf(Store(), cell.row, cell.col, option.palette);
+    PaintBack(*painter, option, cell, colours.back);
+
+    QRect area = option.rect.adjusted(kPaddingX, kPaddingTop, -kPaddingX, -1);
+    if (cell.col == Col{1} && Store().CellCheckShown(cell.row)) {
+        PaintCheck(*painter, option, cell.row, colours);
+        area.setLeft(CheckRect(option.rect, *option.widget).right() + kPaddingX);
+    }
+    const Text text = Store().CellText(cell.row, cell.col);
+    if (!text.empty()) {
+        const QFont& font = CellFont(option.font, cell.row, cell.col);
+        painter->save();
+        painter->setClipRect(option.rect, Qt::IntersectClip);
+        painter->setFont(font);
+        painter->setPen(colours.text);
+        DrawCellText(*painter, area, font, text, MarksIn(cell, colours));
+        painter->restore();
+    }
+    if (IsCurrent(cell)) PaintFrame(*painter, option);
+}
+
+QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const Row row = model_.RowOf(index.row());
+    const QString text = ToLines(Store().CellText(row, GridModel::ColOf(index.column())));
+    const QFontMetrics metrics(option.font);
+    return metrics.size(Qt::TextExpandTabs, text) + QSize(2 * kPaddingX + 1, 2 * kPaddingTop);
+}
+
+QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const {
+    const Row row = model_.RowOf(index.row());
+    const Col col = GridModel::ColOf(index.column());
+    auto* editor = new CellEditor(*parent, CellFont(option.font, row, col));
+    const CellColours colours = ColoursOf(Store(), row, col, option.palette);
+    QPalette palette = option.palette;
+    palette.setColor(QPalette::Base, colours.back);
+    palette.setColor(QPalette::Text, colours.text);
+    editor->setPalette(palette);
+    connect(editor, &CellEditor::Finished, this,
+            [this, editor](bool commit, int step) { Finish(*editor, commit, step); });
+    return editor;
+}
+
+void CellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    auto& field = static_cast<CellEditor&>(*editor);
+    field.SetLines(index.data(Qt::EditRole).toString(), typingReplaces_);
+}
+
+void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const {
+    model->setData(index, static_cast<CellEditor&>(*editor).Lines(), Qt::EditRole);
+}
+
+void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                        const QModelIndex&) const {
+    static_cast<CellEditor&>(*editor).SetCell(option.rect);
+}
+
+void CellDelegate::Finish(QWidget& editor, bool commit, int columnStep) const {
+    auto& self = const_cast<CellDelegate&>(*this); // NOLINT: the toolkit makes editors in a const function
+    if (commit) emit self.commitData(&editor);
+    emit self.closeEditor(&editor, NoHint);
+    if (columnStep != 0) emit Moved(columnStep);
+}
+
+bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
+    auto* editor = qobject_cast<CellEditor*>(object);
+    if (editor == nullptr || event->type() != QEvent::FocusOut) return false;
+    // The field's own context menu and a change of the window don't end the editing.
+    const QWidget* popup = QApplication::activePopupWidget();
+    const bool ownMenu = popup != nullptr && popup->parentWidget() == editor;
+    if (!ownMenu && editor->isActiveWindow()) Finish(*editor, true, 0);
+    return false;
+}
+
+} // namespace korvane

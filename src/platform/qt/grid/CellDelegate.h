@@ -1,0 +1,66 @@
+#pragma once
+
+#include "controls/GridBox.h"
+#include "platform/qt/grid/CellLook.h"
+#include "platform/qt/grid/CellText.h"
+#include "platform/qt/grid/GridModel.h"
+
+#include <QAbstractItemDelegate>
+#include <QFont>
+#include <QPalette>
+#include <vector>
+
+namespace korvane {
+
+/// Paints the cells of a grid, straight from its store, and makes their editor.
+class CellDelegate : public QAbstractItemDelegate {
+    Q_OBJECT
+
+public:
+    /// Both outlive the delegate.
+    CellDelegate(const GridModel& model, const GridBox& box, QObject* parent);
+
+    /// Whether the next editor starts with its text selected, so that typing replaces it.
+    void SetTypingReplaces(bool replaces) { typingReplaces_ = replaces; }
+    /// Where the check box of a cell at `cell` stands.
+    static QRect CheckRect(const QRect& cell, const QWidget& view);
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override;
+
+signals:
+    /// The editor has closed and the current cell is to move so many columns.
+    void Moved(int columnStep) const;
+
+protected:
+    bool eventFilter(QObject* editor, QEvent* event) override;
+
+private:
+    const Grid& Store() const { return box_.Store(); }
+    const QFont& CellFont(const QFont& base, Row row, Col col) const;
+    void Finish(QWidget& editor, bool commit, int columnStep) const;
+    void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
+                   const QColor& back) const;
+    void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
+                    const CellColours& colours) const;
+    TextMarks MarksIn(CellPosition cell, const CellColours& colours) const;
+    bool IsCurrent(CellPosition cell) const {
+        return cell == CellPosition{Store().CurRow(), Store().CurCol()};
+    }
+
+    const GridModel& model_;
+    const GridBox& box_;
+    bool typingReplaces_ = false;
+    /// The fonts of the flags, made from the first of them; none before the first cell is painted.
+    mutable std::vector<QFont> fonts_;
+};
+
+} // namespace korvane

@@ -1,0 +1,233 @@
+#include "platform/qt/grid/GridView.h"
+
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/grid/CellLook.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kSmallestColumn = 16;
+constexpr int kHeaderPadding = 8;
+
+} // namespace
+
+GridView::GridView(QWidget* parent) : QTableView(parent) {
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setTabKeyNavigation(true);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    // The cells draw their lines themselves, in a colour that goes with the table's.
+    setShowGrid(false);
+    SetUpHeaders();
+}
+
+GridView::~GridView() {
+    Detach();
+}
+
+void GridView::SetUpHeaders() {
+    QHeaderView& columns = *horizontalHeader();
+    columns.setSectionsClickable(true);
+    columns.setHighlightSections(true);
+    columns.setMinimumSectionSize(kSmallestColumn);
+    columns.setMaximumSectionSize(1 << 20);
+    columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columns.setFixedHeight(columns.fontMetrics().height() + kHeaderPadding);
+    connect(&columns, &QHeaderView::sectionClicked, this, &GridView::HeaderClicked);
+    connect(&columns, &QHeaderView::sectionResized, this,
+            [this](int column, int, int width) { ColumnResized(column, width); });
+
+    columns.viewport()->installEventFilter(this);
+
+    QHeaderView& rows = *verticalHeader();
+    rows.setMinimumSectionSize(0);
+    rows.setSectionResizeMode(QHeaderView::Fixed);
+    rows.hide();
+}
+
+void GridView::Attach(GridBox& box) {
+    Detach();
+    box_ = &box;
+    model_ = std::make_unique<GridModel>(box);
+    delegate_ = MakeDelegate(*model_, box);
+    connect(delegate_.get(), &CellDelegate::Moved, this, [this](int step) { MoveBy(0, step); });
+    QTableView::setModel(model_.get());
+    setItemDelegate(delegate_.get());
+    box.Store().SetListener(this);
+    box.ShownWidth = ToTwips(width());
+    ReadLook();
+    ReadTable();
+}
+
+std::unique_ptr<CellDelegate> GridView::MakeDelegate(const GridModel& model, const GridBox& box) {
+    return std::make_unique<CellDelegate>(model, box, nullptr);
+}
+
+void GridView::Detach() {
+    if (box_ == nullptr) return;
+    box_->Store().SetListener(nullptr);
+    Forget();
+}
+
+void GridView::Forget() {
+    box_ = nullptr;
+    QTableView::setModel(nullptr);
+    setItemDelegate(nullptr);
+    delegate_.reset();
+    model_.reset();
+}
+
+void GridView::setModel(QAbstractItemModel* model) {
+    // The only model is the one of the attached grid.
+    if (model == model_.get()) QTableView::setModel(model);
+}
+
+// ---- Following the store ------------------------------------------------------------------------------
+
+void GridView::RowsChanged(Row first, Row last) {
+    if (stale_) return;
+    model_->TellChanged(first, last);
+}
+
+void GridView::TableChanged() {
+    // Held back news of the look arrive as this, too.
+    ReadLook();
+    ReadTable();
+}
+
+void GridView::ColumnChanged(Col col) {
+    if (stale_) return;
+    const QScopedValueRollback guard(following_, true);
+    const int column = GridModel::ColumnOf(col);
+    model_->TellHeader(col);
+    horizontalHeader()->resizeSection(column, std::max(0, box_->Store().ColWidth(col)));
+}
+
+void GridView::LookChanged() {
+    ReadLook();
+    if (stale_ && box_->Store().GridVisible()) ReadTable();
+}
+
+void GridView::CurrentCellChanged() {
+    if (!stale_) ShowCurrent();
+    viewport()->update();
+}
+
+void GridView::FocusWanted() {
+    setFocus(Qt::OtherFocusReason);
+}
+
+void GridView::RowWantedInView(Row row) {
+    const QModelIndex index = model_->IndexOf(row, box_->Store().CurCol());
+    if (index.isValid()) scrollTo(index);
+}
+
+void GridView::ReadTable() {
+    stale_ = !box_->Store().GridVisible();
+    if (stale_) return;
+    const QScopedValueRollback guard(following_, true);
+    const QPoint scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    model_->ReadShape();
+    WriteWidths();
+    WriteHeights();
+    ShowSortIndicator();
+    executeDelayedItemsLayout();
+    updateGeometries();
+    ShowCurrent();
+    // The current cell may stand outside what the user looks at.
+    horizontalScrollBar()->setValue(scrolled.x());
+    verticalScrollBar()->setValue(scrolled.y());
+}
+
+void GridView::WriteHeights() {
+    QHeaderView& header = *verticalHeader();
+    const Grid& store = box_->Store();
+    const int rows = model_->rowCount();
+    // Most rows are as high as the first: they need no entry of their own. Without painting and signals in
+    // between, a table at the limit takes milliseconds.
+    const int common = rows == 0 ? 0 : std::max(0, store.RowHeight(model_->RowOf(0)));
+    const QSignalBlocker quiet(header);
+    header.setUpdatesEnabled(false);
+    if (common > 0) header.setDefaultSectionSize(common);
+    for (int row = 0; row < rows; ++row) {
+        const int height = std::max(0, store.RowHeight(model_->RowOf(row)));
+        if (height != common || common == 0) header.resizeSection(row, height);
+    }
+    header.setUpdatesEnabled(true);
+}
+
+void GridView::WriteWidths() {
+    const Grid& store = box_->Store();
+    for (int column = 0; column < model_->columnCount(); ++column) {
+        horizontalHeader()->resizeSection(column, std::max(0, store.ColWidth(GridModel::ColOf(column))));
+    }
+}
+
+void GridView::ReadLook() {
+    const Grid& store = box_->Store();
+    horizontalHeader()->setFont(QApplication::font());
+    const FontSpec own{store.GridFontName(), store.GridFontSize(), false};
+    setFont(WithSpec(WithSpec(QApplication::font(), box_->Font), own));
+
+    // That of the view: what surrounds it may have given it colours.
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Base, TableBack(store, palette));
+    viewport()->setPalette(palette);
+    viewport()->setUpdatesEnabled(store.GridVisible());
+    viewport()->setCursor(CursorOf(box_->MousePointer, box_->HandImage.Get()));
+    viewport()->update();
+}
+
+void GridView::ShowCurrent() {
+    const QScopedValueRollback guard(following_, true);
+    const Grid& store = box_->Store();
+    const QModelIndex index = model_->IndexOf(store.CurRow(), store.CurCol());
+    if (index == currentIndex()) return;
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+}
+
+void GridView::ShowSortIndicator() {
+    QHeaderView& header = *horizontalHeader();
+    const int column = GridModel::ColumnOf(box_->SortedBy());
+    const bool sorted = column >= 0 && column < model_->columnCount();
+    header.setSortIndicatorShown(sorted);
+    if (!sorted) return;
+    const bool ascending = box_->Order() == SortOrder::Ascending;
+    header.setSortIndicator(column, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+// ---- Painting -----------------------------------------------------------------------------------------
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (box_ != nullptr) box_->ShownWidth = ToTwips(width());
+}
+
+void GridView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && box_ != nullptr) ReadLook();
+    if (event->type() == QEvent::StyleChange) viewport()->update();
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    viewport()->update();
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+} // namespace korvane

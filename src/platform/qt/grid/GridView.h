@@ -1,0 +1,85 @@
+#pragma once
+
+#include "controls/GridBox.h"
+#include "platform/qt/grid/CellDelegate.h"
+#include "platform/qt/grid/GridModel.h"
+
+#include <QTableView>
+#include <memory>
+
+namespace korvane {
+
+/// The grid on the screen: shows a store, follows it, and tells its `GridBox` what the user does.
+class GridView : public QTableView, private GridListener {
+    Q_OBJECT
+
+public:
+    explicit GridView(QWidget* parent = nullptr);
+    ~GridView() override;
+
+    /// Shows the grid, which outlives the view or is let go of first.
+    void Attach(GridBox& box);
+    void Detach();
+    /// Lets go of a grid that has gone already.
+    void Forget();
+    /// Takes the table's colours and font and the pointer anew.
+    void ReadLook();
+    const GridModel* Model() const { return model_.get(); }
+
+    void setModel(QAbstractItemModel* model) override;
+
+protected:
+    virtual std::unique_ptr<CellDelegate> MakeDelegate(const GridModel& model, const GridBox& box);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    // What the store tells.
+    void RowsChanged(Row first, Row last) override;
+    void TableChanged() override;
+    void ColumnChanged(Col col) override;
+    void LookChanged() override;
+    void CurrentCellChanged() override;
+    void FocusWanted() override;
+    void RowWantedInView(Row row) override;
+
+    void SetUpHeaders();
+    void ReadTable();
+    void WriteHeights();
+    void WriteWidths();
+    void ShowCurrent();
+    void ShowSortIndicator();
+    void ColumnResized(int column, int width);
+    void HeaderClicked(int column);
+
+    QModelIndex CheckAt(const QPoint& place) const;
+    bool ToggleCurrentCheck();
+    void MoveBy(int rows, int columns);
+    void CopyCurrent() const;
+    void TellMouseUp(const QMouseEvent& event);
+
+    GridBox* box_ = nullptr;
+    std::unique_ptr<GridModel> model_;
+    std::unique_ptr<CellDelegate> delegate_;
+    QPersistentModelIndex pressed_;
+    bool pressedCheck_ = false;
+    /// The view follows the store: what it hears of itself isn't the user.
+    bool following_ = false;
+    /// Changes came while the grid was hidden.
+    bool stale_ = false;
+};
+
+} // namespace korvane

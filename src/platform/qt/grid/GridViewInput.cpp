@@ -1,0 +1,161 @@
+// What the user does with the keyboard and the mouse.
+
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/grid/CellEditor.h"
+#include "platform/qt/grid/GridView.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+MouseButton ToMouseButton(Qt::MouseButton button) {
+    if (button == Qt::RightButton) return MouseButton::Right;
+    return button == Qt::MiddleButton ? MouseButton::Middle : MouseButton::Left;
+}
+
+} // namespace
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (following_ || box_ == nullptr || !current.isValid()) return;
+    const QScopedValueRollback guard(following_, true);
+    Grid& store = box_->Store();
+    store.SetCurRow(model_->RowOf(current.row()));
+    store.SetCurCol(GridModel::ColOf(current.column()));
+    viewport()->update();
+}
+
+void GridView::ColumnResized(int column, int width) {
+    // A column that follows the width of the view keeps the width that was set.
+    if (following_ || box_ == nullptr || horizontalHeader()->stretchLastSection()) return;
+    const QScopedValueRollback guard(following_, true);
+    box_->DragColumn(GridModel::ColOf(column), width);
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+    // A header says of each pixel that an edge was dragged, but not when it was let go of.
+    const bool released = event->type() == QEvent::MouseButtonRelease;
+    const bool handled = QTableView::eventFilter(watched, event);
+    if (released && watched == horizontalHeader()->viewport() && box_ != nullptr) box_->ReleaseColumn();
+    return handled;
+}
+
+void GridView::HeaderClicked(int column) {
+    if (box_ == nullptr) return;
+    FinishTyping();
+    box_->ClickHeader(GridModel::ColOf(column));
+    if (box_ != nullptr) ShowSortIndicator();
+}
+
+bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    if (delegate_ != nullptr) delegate_->SetTypingReplaces(trigger == AnyKeyPressed);
+    return QTableView::edit(index, trigger, event);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    const bool plain = modifiers == Qt::NoModifier;
+    if (event->matches(QKeySequence::Copy)) {
+        CopyCurrent();
+    } else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        MoveBy(1, 0);
+    } else if (!(plain && event->key() == Qt::Key_Space && ToggleCurrentCheck())) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void GridView::MoveBy(int rows, int columns) {
+    const QModelIndex current = currentIndex();
+    if (!current.isValid()) return;
+    const int row = std::clamp(current.row() + rows, 0, model_->rowCount() - 1);
+    const int column = std::clamp(current.column() + columns, 0, model_->columnCount() - 1);
+    setCurrentIndex(model_->index(row, column));
+}
+
+void GridView::CopyCurrent() const {
+    if (!currentIndex().isValid()) return;
+    const Grid& store = box_->Store();
+    QApplication::clipboard()->setText(ToQString(store.CellText(store.CurRow(), store.CurCol())));
+}
+
+bool GridView::ToggleCurrentCheck() {
+    const QModelIndex current = currentIndex();
+    if (!current.isValid() || current.column() != 0) return false;
+    const Row row = model_->RowOf(current.row());
+    if (!box_->Store().CellCheckShown(row)) return false;
+    box_->ClickCheck(row);
+    return true;
+}
+
+QModelIndex GridView::CheckAt(const QPoint& place) const {
+    const QModelIndex index = indexAt(place);
+    if (box_ == nullptr || !index.isValid() || index.column() != 0) return {};
+    if (!box_->Store().CellCheckShown(model_->RowOf(index.row()))) return {};
+    return CellDelegate::CheckRect(visualRect(index), *this).contains(place) ? index : QModelIndex();
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    pressed_ = indexAt(place);
+    pressedCheck_ = event->button() == Qt::LeftButton && CheckAt(place).isValid();
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Two quick clicks on a check box are two clicks, not the wish to edit.
+    if (CheckAt(event->position().toPoint()).isValid()) {
+        mousePressEvent(event);
+    } else {
+        QTableView::mouseDoubleClickEvent(event);
+    }
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    if (box_ != nullptr) TellMouseUp(*event);
+}
+
+void GridView::TellMouseUp(const QMouseEvent& event) {
+    const QPoint place = event.position().toPoint();
+    const QModelIndex index = indexAt(place);
+    const bool onPressed = index.isValid() && index == pressed_;
+    if (event.button() == Qt::LeftButton && onPressed) {
+        const Row row = model_->RowOf(index.row());
+        const Col col = GridModel::ColOf(index.column());
+        if (pressedCheck_ && CheckAt(place).isValid()) {
+            box_->ClickCheck(row);
+        } else {
+            box_->ClickCell(row, col);
+        }
+    }
+    pressedCheck_ = false;
+    // A handler may have closed the tab.
+    if (box_ != nullptr && box_->MouseUp) box_->MouseUp(ToMouseButton(event.button()));
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    // The mouse has told of its button already; this is the menu key.
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (byKey && box_ != nullptr && box_->MouseUp) box_->MouseUp(MouseButton::Right);
+    event->accept();
+}
+
+void GridView::enterEvent(QEnterEvent* event) {
+    QTableView::enterEvent(event);
+    if (box_ != nullptr && box_->Hover) box_->Hover(true);
+}
+
+void GridView::leaveEvent(QEvent* event) {
+    QTableView::leaveEvent(event);
+    if (box_ != nullptr && box_->Hover) box_->Hover(false);
+}
+
+} // namespace korvane

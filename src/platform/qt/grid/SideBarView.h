@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/qt/grid/GridView.h"
+
+#include <QStringList>
+
+namespace korvane {
+
+/// A grid of one column that serves as a bar of large buttons: an icon above each row's text.
+class SideBarView : public GridView {
+    Q_OBJECT
+    /// Names of icons, one for each row.
+    Q_PROPERTY(QStringList rowIcons READ RowIcons WRITE SetRowIcons)
+
+public:
+    explicit SideBarView(QWidget* parent = nullptr);
+
+    QStringList RowIcons() const { return rowIcons_; }
+    void SetRowIcons(const QStringList& names) { rowIcons_ = names; }
+
+protected:
+    std::unique_ptr<CellDelegate> MakeDelegate(const GridModel& model, const GridBox& box) override;
+
+private:
+    QStringList rowIcons_;
+};
+
+} // namespace korvane

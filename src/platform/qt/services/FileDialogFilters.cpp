@@ -1,0 +1,34 @@
+#include "platform/qt/services/FileDialogFilters.h"
+
+#include "platform/qt/base/Convert.h"
+
+namespace korvane {
+
+namespace {
+
+/// "Programs" of "Programs (*.exe)": the dialogs put the patterns they are given behind it.
+QString WithoutPatterns(const QString& name) {
+    return name.left(name.indexOf(QLatin1Char('('))).trimmed();
+}
+
+} // namespace
+
+QString FilePatterns(TextView patterns) {
+    QStringList list = ToQString(patterns).split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    // What reads like a name has slipped in behind a wrong separator and matches no file.
+    list.removeIf([](const QString& pattern) { return pattern.contains(QLatin1Char('(')); });
+    list.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+    return list.isEmpty() ? QStringLiteral("*") : list.join(QLatin1Char(' '));
+}
+
+QStringList FileNameFilters(TextView pairs) {
+    const QStringList parts = ToQString(pairs).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString patterns = FilePatterns(ToText(parts[i + 1]));
+        filters += QStringLiteral("%1 (%2)").arg(WithoutPatterns(parts[i]), patterns);
+    }
+    return filters;
+}
+
+} // namespace korvane

@@ -1,0 +1,43 @@
+#include "platform/qt/services/QtClipboard.h"
+
+#include "common/text/LineEnds.h"
+#include "platform/qt/base/Convert.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace korvane {
+
+namespace {
+
+/// On Windows the toolkit takes the CR out of line ends, which all programs there put in; elsewhere it hands
+/// out a text as it is.
+Text AsPutIn(const QString& text) {
+#ifdef Q_OS_WIN
+    return WithCrLf(ToText(text));
+#else
+    return ToText(text);
+#endif
+}
+
+} // namespace
+
+bool QtClipboard::HasText() const {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    return data != nullptr && data->hasText();
+}
+
+Text QtClipboard::GetText() const {
+    return AsPutIn(QGuiApplication::clipboard()->text());
+}
+
+void QtClipboard::SetText(Text text) {
+    QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+void QtClipboard::Clear() {
+    QGuiApplication::clipboard()->clear();
+}
+
+} // namespace korvane

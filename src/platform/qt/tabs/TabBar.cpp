@@ -1,0 +1,240 @@
+#include "platform/qt/tabs/TabBar.h"
+
+#include "platform/qt/base/Icons.h"
+#include "platform/qt/tabs/TabLook.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QStyleOptionTab>
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kPadding = 10;
+constexpr int kCloseSize = 16;
+constexpr int kRoomAround = 14;
+constexpr int kAboveTabs = 3;
+constexpr int kGapBetween = 2;
+constexpr int kBar = 3;
+constexpr int kOutline = 2;
+/// What stands beside the caption: a margin on each side of it and behind the button, and the gap.
+constexpr int kBesideCaption = 3 * kPadding + kCloseSize + kGapBetween;
+// Widths in letters: what a tab has at least, where it is cut, and what is left of it in a crowd.
+constexpr int kShortest = 6;
+constexpr int kLongest = 26;
+constexpr int kCrowded = 9;
+
+/// What is painted of a tab's place.
+QRect ShapeIn(const QRect& tab) {
+    return tab.adjusted(0, kAboveTabs, -kGapBetween, 0);
+}
+
+/// Closes its tab.
+class CloseButton : public QAbstractButton {
+public:
+    explicit CloseButton(TabBar& bar) : QAbstractButton(&bar), bar_(bar) {
+        setFocusPolicy(Qt::NoFocus);
+        setCursor(Qt::ArrowCursor);
+        setToolTip(TabBar::tr("Close"));
+        setAttribute(Qt::WA_Hover);
+        setFixedSize(kCloseSize, kCloseSize);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const bool active = bar_.tabAt(geometry().center()) == bar_.currentIndex();
+        const TabColours colours = bar_.Colours();
+        const QColor colour = active ? colours.activeText : colours.restText;
+        if (underMouse()) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            QColor back = colour;
+            back.setAlphaF(0.2F);
+            painter.setBrush(back);
+            painter.setPen(Qt::NoPen);
+            painter.drawRoundedRect(rect(), 3, 3);
+        }
+        painter.setOpacity(underMouse() ? 1.0 : 0.75);
+        TintedIcon(QStringLiteral("tabClose"), colour).paint(&painter, rect());
+    }
+
+private:
+    const TabBar& bar_;
+};
+
+} // namespace
+
+TabBar::TabBar(QWidget* parent) : QTabBar(parent), style_(&TabStyleOf(0)) {
+    setExpanding(false);
+    setMovable(false);
+    setDrawBase(false);
+    setUsesScrollButtons(true);
+    // Captions are cut where they are painted: the toolkit would cut those of all tabs at each layout.
+    setElideMode(Qt::ElideNone);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void TabBar::SetLook(int style, bool framed) {
+    style_ = &TabStyleOf(style);
+    framed_ = framed;
+    update();
+}
+
+TabColours TabBar::Colours() const {
+    return ColoursOf(*style_, palette());
+}
+
+QSize TabBar::tabSizeHint(int index) const {
+    const int letter = LetterSize().width();
+    const int width = std::clamp(CaptionWidth(tabText(index)), kShortest * letter, kLongest * letter);
+    return {width + kBesideCaption, LetterSize().height() + kRoomAround};
+}
+
+const QSize& TabBar::LetterSize() const {
+    if (letterSize_.isEmpty()) letterSize_ = {fontMetrics().averageCharWidth(), fontMetrics().height()};
+    return letterSize_;
+}
+
+int TabBar::CaptionWidth(const QString& caption) const {
+    auto width = captionWidths_.constFind(caption);
+    if (width == captionWidths_.constEnd())
+        width = captionWidths_.insert(caption, fontMetrics().size(Qt::TextShowMnemonic, caption).width());
+    return *width;
+}
+
+void TabBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) ForgetSizes();
+    QTabBar::changeEvent(event);
+}
+
+void TabBar::ForgetSizes() {
+    captionWidths_.clear();
+    letterSize_ = {};
+}
+
+QSize TabBar::minimumTabSizeHint(int index) const {
+    const QSize whole = tabSizeHint(index);
+    const int crowded = kCrowded * LetterSize().width() + kBesideCaption;
+    return {std::min(whole.width(), crowded), whole.height()};
+}
+
+/// What the toolkit needs to place the buttons, for all tabs at each layout. Its own way also cuts the
+/// captions, which takes most of the time that a tab among many costs.
+void TabBar::initStyleOption(QStyleOptionTab* option, int index) const {
+    option->direction = layoutDirection();
+    option->rect = tabRect(index);
+    option->shape = shape();
+    if (const QWidget* button = tabButton(index, RightSide)) option->rightButtonSize = button->size();
+}
+
+void TabBar::tabInserted(int index) {
+    QTabBar::tabInserted(index);
+    auto* button = new CloseButton(*this);
+    connect(button, &QAbstractButton::clicked, this, [this, button] { CloseAt(*button); });
+    setTabButton(index, RightSide, button);
+}
+
+void TabBar::CloseAt(const QWidget& button) {
+    for (int index = 0; index < count(); ++index) {
+        if (tabButton(index, RightSide) == &button) return emit tabCloseRequested(index);
+    }
+}
+
+void TabBar::tabLayoutChange() {
+    QTabBar::tabLayoutChange();
+    for (int index = 0; index < count(); ++index) {
+        QWidget* button = tabButton(index, RightSide);
+        if (button == nullptr) continue;
+        button->move(CloseButtonOf(tabRect(index)).topLeft());
+    }
+}
+
+QRect TabBar::ShapeOf(int index) const {
+    return ShapeIn(tabRect(index));
+}
+
+QRect TabBar::CloseButtonOf(const QRect& tab) {
+    const QRect shape = ShapeIn(tab);
+    return {shape.right() - kPadding - kCloseSize + 1, shape.top() + (shape.height() - kCloseSize) / 2,
+            kCloseSize, kCloseSize};
+}
+
+QPainterPath TabBar::OutlineOf(const QRectF& shape) const {
+    const qreal radius = style_->cornerRadius;
+    QPainterPath path;
+    path.moveTo(shape.bottomLeft());
+    path.lineTo(shape.left(), shape.top() + radius);
+    path.quadTo(shape.topLeft(), {shape.left() + radius, shape.top()});
+    path.lineTo(shape.right() - radius, shape.top());
+    path.quadTo(shape.topRight(), {shape.right(), shape.top() + radius});
+    path.lineTo(shape.bottomRight());
+    return path;
+}
+
+void TabBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const TabColours colours = Colours();
+    painter.fillRect(rect(), colours.strip);
+    if (framed_) {
+        painter.setPen(colours.frame);
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    for (int index = 0; index < count(); ++index)
+        PaintTab(painter, index, colours);
+}
+
+void TabBar::PaintTab(QPainter& painter, int index, const TabColours& colours) const {
+    const QRect shape = ShapeOf(index);
+    if (!shape.intersects(rect())) return;
+    if (index == currentIndex()) {
+        painter.fillPath(OutlineOf(shape), colours.active);
+        PaintMark(painter, shape, colours);
+        PaintCaption(painter, index, colours.activeText);
+        return;
+    }
+    QStyleOptionTab option;
+    QTabBar::initStyleOption(&option, index);
+    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+    const QPainterPath outline = OutlineOf(QRectF(shape).adjusted(0.5, 0.5, -0.5, 0));
+    painter.fillPath(outline, hovered ? colours.hover : colours.rest);
+    painter.strokePath(outline, colours.edge);
+    PaintCaption(painter, index, colours.restText);
+}
+
+void TabBar::PaintMark(QPainter& painter, const QRect& shape, const TabColours& colours) const {
+    QRect bar = shape;
+    if (style_->mark == TabMark::Filled) return;
+    if (style_->mark == TabMark::Outlined) {
+        const qreal half = kOutline / 2.0;
+        painter.strokePath(OutlineOf(QRectF(shape).adjusted(half, half, -half, 0)),
+                           QPen(colours.mark, kOutline));
+        return;
+    }
+    if (style_->mark == TabMark::Below) bar.setTop(shape.bottom() - kBar + 1);
+    if (style_->mark == TabMark::Above) bar.setBottom(shape.top() + kBar - 1);
+    painter.save();
+    painter.setClipPath(OutlineOf(shape));
+    painter.fillRect(bar, colours.mark);
+    painter.restore();
+}
+
+void TabBar::PaintCaption(QPainter& painter, int index, const QColor& colour) const {
+    const QRect room = ShapeOf(index).adjusted(kPadding, 0, -2 * kPadding - kCloseSize, 0);
+    const QString caption =
+        fontMetrics().elidedText(tabText(index), Qt::ElideMiddle, room.width(), Qt::TextShowMnemonic);
+    painter.setPen(colour);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic, caption);
+    if (!hasFocus() || index != currentIndex()) return;
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = room.adjusted(-4, 4, 4, -4);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+} // namespace korvane

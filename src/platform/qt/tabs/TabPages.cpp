@@ -1,0 +1,80 @@
+#include "platform/qt/tabs/TabPages.h"
+
+#include <QVBoxLayout>
+
+namespace korvane {
+
+namespace {
+
+/// What a tab shows of a caption: an ampersand is one.
+QString TabText(const QString& caption) {
+    return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+TabPages::TabPages(QWidget* parent)
+    : QWidget(parent), tabs_(new TabBar(this)), stack_(new QStackedWidget(this)), hint_(new QLabel(stack_)) {
+    tabs_->setObjectName("plainTabs");
+    tabs_->setAccessibleName(tr("Open databases"));
+
+    stack_->setObjectName("plainStack");
+    hint_->setObjectName("plainHint");
+    hint_->setAlignment(Qt::AlignCenter);
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->setWordWrap(true);
+    hint_->setForegroundRole(QPalette::PlaceholderText);
+    stack_->addWidget(hint_);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabs_);
+    column->addWidget(stack_, 1);
+}
+
+void TabPages::Add(QWidget& page, const QString& caption) {
+    pages_.append(&page);
+    stack_->addWidget(&page);
+    // With its caption at once: each change of a text lays all tabs out anew.
+    tabs_->addTab(TabText(caption));
+    SetToolTip(Count() - 1, caption);
+}
+
+void TabPages::Remove(int index) {
+    QWidget* page = pages_.takeAt(index);
+    stack_->removeWidget(page);
+    page->hide();
+    tabs_->removeTab(index);
+    if (pages_.isEmpty()) BringToFront(*hint_);
+}
+
+void TabPages::SetCaption(int index, const QString& caption) {
+    tabs_->setTabText(index, TabText(caption));
+    SetToolTip(index, caption);
+}
+
+void TabPages::SetToolTip(int index, const QString& caption) {
+    tabs_->setTabToolTip(index, Qt::mightBeRichText(caption) ? caption.toHtmlEscaped() : caption);
+}
+
+/// The toolkit holds all painting for the change, and tells so each widget of every page, unless it is held
+/// already.
+void TabPages::BringToFront(QWidget& page) {
+    stack_->setAttribute(Qt::WA_UpdatesDisabled, true);
+    stack_->setCurrentWidget(&page);
+    stack_->setAttribute(Qt::WA_UpdatesDisabled, false);
+    stack_->update();
+}
+
+void TabPages::ShowPage(int index) {
+    QWidget& page = *pages_.at(index);
+    BringToFront(page);
+    tabs_->setCurrentIndex(index);
+    // Also in a window that isn't on the screen yet: its page has the keyboard when it comes up.
+    QWidget* wanted = page.focusWidget();
+    if (wanted == nullptr) wanted = page.nextInFocusChain();
+    if (page.isAncestorOf(wanted)) wanted->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace korvane
