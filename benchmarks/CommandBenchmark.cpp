@@ -1,12 +1,12 @@
 #include "BenchProgram.h"
 #include "ProceedingUser.h"
-#include "dbops/ColumnCommands.h"
-#include "dbops/RowCommands.h"
-#include "dbops/RowHeight.h"
-#include "dbops/RowLookCommands.h"
-#include "dbops/TickCommands.h"
-#include "dbops/frmRowColour.h"
-#include "dbops/frmSetRowHeight.h"
+#include "dbops/commands/ColumnCommands.h"
+#include "dbops/commands/RowCommands.h"
+#include "dbops/commands/RowHeight.h"
+#include "dbops/commands/RowLookCommands.h"
+#include "dbops/commands/TickCommands.h"
+#include "dbops/windows/frmRowColour.h"
+#include "dbops/windows/frmSetRowHeight.h"
 
 #include <benchmark/benchmark.h>
 

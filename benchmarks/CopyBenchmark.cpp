@@ -2,8 +2,8 @@
 #include "Contest.h"
 #include "LimitTable.h"
 #include "ProceedingUser.h"
-#include "dbops/CopyCommands.h"
-#include "dbops/frmDelimiterType.h"
+#include "dbops/commands/CopyCommands.h"
+#include "dbops/windows/frmDelimiterType.h"
 
 #include <cstdlib>
 #include <cstring>

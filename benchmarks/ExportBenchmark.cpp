@@ -4,8 +4,8 @@
 #include "ProceedingUser.h"
 #include "RawFile.h"
 #include "context/Ports.h"
-#include "dbops/ExcelExport.h"
-#include "dbops/frmChooseRange.h"
+#include "dbops/commands/ExcelExport.h"
+#include "dbops/windows/frmChooseRange.h"
 #include "platform/xls/XlsSpreadsheet.h"
 
 #include <cstring>

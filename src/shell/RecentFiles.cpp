@@ -2,7 +2,7 @@
 
 #include "context/App.h"
 #include "context/StandardMessages.h"
-#include "dbops/Dialogs.h"
+#include "dbops/rules/Dialogs.h"
 #include "platform/FileSystem.h"
 #include "shell/frmFileList.h"
 #include "shell/frmMDIChild.h"

@@ -4,7 +4,7 @@
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/Ports.h"
-#include "dbops/TabCommands.h"
+#include "dbops/commands/TabCommands.h"
 #include "platform/FileSystem.h"
 #include "table/DesignCommand.h"
 #include "table/ImportCommand.h"

@@ -8,7 +8,7 @@
 #include "context/StandardMessages.h"
 #include "context/StoredPaths.h"
 #include "context/WindowFitting.h"
-#include "dbops/Dialogs.h"
+#include "dbops/rules/Dialogs.h"
 #include "dialogs/Docking.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"

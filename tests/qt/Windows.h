@@ -1,8 +1,8 @@
 #pragma once
 
 #include "context/App.h"
-#include "dbops/frmDelimiterType.h"
-#include "dbops/frmViewCell.h"
+#include "dbops/windows/frmDelimiterType.h"
+#include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
 #include "shell/TabStates.h"
 #include "shell/frmMDIChild.h"

@@ -1,5 +1,5 @@
-#include "dbops/frmFindReplace.h"
-#include "dbops/frmRowColour.h"
+#include "dbops/windows/frmFindReplace.h"
+#include "dbops/windows/frmRowColour.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

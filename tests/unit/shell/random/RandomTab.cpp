@@ -2,7 +2,7 @@
 
 #include "TableWatch.h"
 #include "common/number/Number.h"
-#include "dbops/TabCommands.h"
+#include "dbops/commands/TabCommands.h"
 #include "support/GridState.h"
 #include "support/TableBytes.h"
 

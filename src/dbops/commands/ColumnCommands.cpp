@@ -1,0 +1,114 @@
+#include "dbops/commands/ColumnCommands.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "context/Ports.h"
+#include "dbops/rules/Dialogs.h"
+#include "dbops/windows/frmTxtDbColName.h"
+#include "grid/GridUpdate.h"
+#include "platform/Screen.h"
+#include "table/TabContext.h"
+#include "table/TableHost.h"
+#include "table/TableModel.h"
+
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+/// Inserting makes a table no wider than this: one short of `MaxColumns`, which files and designs can reach.
+constexpr Col kWidestByInsert{23};
+constexpr TextView kNewColumnName = u"NEW";
+constexpr double kTwipsPerWidthUnit = 15.5;
+
+void RenameColumn(TableModel& table, Col col, const Text& name) {
+    table.GridStore().SetColHeaderText(col, name);
+    table.ColumnNames.Set(col, name);
+}
+
+/// The captions come from `ColumnNames`, which itself isn't shifted, so that those of a later insert are the
+/// names of other columns. Deliberate: names and captions are known to go apart here, and a save keeps the
+/// captions. A column whose left neighbour has no name keeps its caption.
+void ShiftCaptions(TableModel& table, Col first) {
+    Grid& grid = table.GridStore();
+    for (Col col = std::min(grid.ColCount() - 1, MaxColumns); col >= first; --col)
+        grid.SetColHeaderText(col + 1, table.ColumnNames[col]);
+}
+
+void InsertColumn(TableModel& table) {
+    Grid& grid = table.GridStore();
+    const GridUpdate update(grid);
+    const Col current = grid.CurCol();
+    if (grid.ColCount() < kWidestByInsert) grid.SetColCount(grid.ColCount() + 1);
+    const Col first = std::max(current, Col{1});
+    ShiftCaptions(table, first);
+    grid.ShiftTextsRight(first);
+    RenameColumn(table, current, Text(kNewColumnName));
+}
+
+/// An empty name and a size of 0 leave the table's own.
+void TakeFont(TableModel& table, const FontSpec& font) {
+    Grid& grid = table.GridStore();
+    if (!font.name.empty()) {
+        grid.SetGridFontName(font.name);
+        table.TableFontName = font.name;
+    }
+    if (font.size != 0) {
+        grid.SetGridFontSize(font.size);
+        table.TableFontSize = static_cast<std::int16_t>(font.size);
+    }
+}
+
+} // namespace
+
+void mnuEdit_ColumnName_Clack(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    const Col col = grid.CurCol();
+    frmTxtDbColName form(tab.app, grid.ColHeaderText(col));
+    if (ShowForResult(tab.app, form) > 0) {
+        RenameColumn(tab.table, col, form.NewName());
+        grid.GridRefresh();
+        tab.table.TableAltered = 1;
+    }
+    grid.GridSetFocus();
+}
+
+void mnuEdit_InsertColumn_Clack(const TabContext& tab) {
+    tab.app.Screen().ProcessMessages();
+    InsertColumn(tab.table);
+    tab.table.GridStore().GridRefresh();
+    tab.table.GridStore().GridSetFocus();
+    tab.table.TableAltered = 1;
+}
+
+void mnuEdit_DeleteColumn_Clack(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    const Text question = u"Remove this column: \r\n\"" + grid.ColHeaderText(grid.CurCol()) + u"\"\t";
+    if (!AskYesNo(tab.app, question, YesNoDefault::No)) return;
+    grid.RemoveCol(grid.CurCol());
+    grid.GridSetFocus();
+    tab.table.TableAltered = 1;
+}
+
+void MnuEdit_RefreshColumnWidths_Clack(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    if (grid.ColCount() == Col{0}) return;
+    const double share = static_cast<double>(tab.host.GridWidth().Number()) / grid.ColCount().Number();
+    const auto width = static_cast<int>(RoundHalfEven(share / kTwipsPerWidthUnit));
+    for (Col col{1}; col <= grid.ColCount(); ++col)
+        grid.SetColWidth(col, width);
+}
+
+void mnuEdit_Font_Clack(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    if (tab.app.FontPicker != nullptr) {
+        if (const auto font = tab.app.FontPicker->Choose({grid.GridFontName(), grid.GridFontSize()})) {
+            TakeFont(tab.table, *font);
+            tab.table.TableAltered = 1;
+        }
+    }
+    grid.GridSetFocus();
+}
+
+} // namespace korvane

@@ -1,0 +1,60 @@
+#include "dbops/commands/ColumnSum.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "dbops/rules/DeleteMark.h"
+#include "dbops/rules/Dialogs.h"
+#include "dbops/rules/Rows.h"
+#include "dbops/windows/frmChooseRange.h"
+#include "table/TabContext.h"
+#include "table/TableModel.h"
+
+#include <cmath>
+
+namespace korvane {
+
+namespace {
+
+double NumericValue(const Grid& grid, Row row, Col col) {
+    if (const auto bytes = grid.CellBytes(row, col)) return Val(*bytes);
+    return Val(TextView(grid.CellValue(row, col)));
+}
+
+double SumOfColumn(const TabContext& tab, Col col) {
+    const Grid& grid = tab.table.GridStore();
+    double sum = 0;
+    ForEachRow(grid, [&](Row row) {
+        if (!IsInChosenRange(tab.app, grid, row) || IsMarkedForDeletion(grid, row)) return;
+        const double next = sum + NumericValue(grid, row, col);
+        // A number too large to be added leaves the sum as it was.
+        if (std::isfinite(next)) sum = next;
+    });
+    return sum;
+}
+
+/// `TableAltered` stays as it is, so that a total can go without a question. Deliberate: it is there to be
+/// read, and made anew when wanted.
+void AppendTotal(Grid& grid, Col col, double sum) {
+    const Row total = grid.RowCount() + 1;
+    grid.SetRowCount(total);
+    grid.SetCellCheckShown(total, true);
+    grid.SetRowHeight(total, grid.RowHeight(Row{1}));
+    grid.SetCellValue(total, col, NumberText(sum));
+    if (col > Col{1}) grid.SetCellValue(total, col - 1, u"Total:");
+}
+
+} // namespace
+
+void mnuCalc_Add_Clack(const TabContext& tab) {
+    if (!ChooseRange(tab.app)) return;
+    Grid& grid = tab.table.GridStore();
+    const Col col = grid.CurCol();
+    // The name as it was read or designed: once columns came or went, it may be another column's. Deliberate:
+    // the question is there to make the user look at the column itself.
+    const Text question = u"Is this the column with values to use for calculating the total?\r\n\r\n\"" +
+                          tab.table.ColumnNames[col] + u"\"";
+    if (AskYesNo(tab.app, question)) AppendTotal(grid, col, SumOfColumn(tab, col));
+    grid.GridSetFocus();
+}
+
+} // namespace korvane

@@ -1,0 +1,100 @@
+#include "dbops/commands/ExcelExport.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "context/FileChooser.h"
+#include "context/Ports.h"
+#include "dbops/rules/Rows.h"
+#include "dbops/windows/frmChooseRange.h"
+#include "platform/Screen.h"
+#include "platform/Spreadsheet.h"
+#include "table/TabContext.h"
+#include "table/TableModel.h"
+
+#include <optional>
+
+namespace korvane {
+
+namespace {
+
+/// The same for all columns: those of the table are pixels, and sized for the grid.
+constexpr int kColumnWidth = 32;
+/// A light green.
+constexpr int kHeaderColorIndex = 35;
+
+/// A table has few enough columns for single letters. One that has more leaves those out that get no letter.
+Text ColumnLetter(Col col) {
+    return Text(1, static_cast<char16_t>(u'A' + col.Number() - 1));
+}
+
+Text CellName(Row row, Col col) {
+    return ColumnLetter(col) + NumberText(row.Number());
+}
+
+/// Everything up to the last dot is kept, even one in the name of a folder; without any dot, the extension
+/// alone is proposed. Both deliberate.
+Text ProposedName(TextView path) {
+    return Text(Left(path, InStrRev(path, u"."))) + u"xls";
+}
+
+/// The directory is the same again afterwards, whichever the user went to.
+std::optional<Text> ChooseFileName(const TabContext& tab) {
+    if (tab.app.SystemFileDialog == nullptr) return std::nullopt;
+    const KeepCurrentDir keep(tab.app.Files());
+    return tab.app.SystemFileDialog->Choose({.purpose = SystemFileDialog::Purpose::Save,
+                                             .filter = u"Excel tables (*.xls)|*.xls",
+                                             .title = u"Save database as Excel table",
+                                             .name = ProposedName(tab.table.TxtDbFile),
+                                             .defaultExtension = u"xls"});
+}
+
+void PutCell(Spreadsheet& excel, Row row, Col col, TextView value) {
+    if (excel.SelectRange(CellName(row, col))) excel.SetActiveCellValue(value);
+}
+
+void PutHeader(Spreadsheet& excel, const Grid& grid) {
+    constexpr Row kHeader{1};
+    for (Col col{1}; col <= grid.ColCount(); ++col) {
+        PutCell(excel, kHeader, col, grid.ColHeaderText(col));
+        excel.SetColumnWidth(ColumnLetter(col) + u":" + ColumnLetter(col), kColumnWidth);
+        excel.SetInteriorColorIndex(CellName(kHeader, col), kHeaderColorIndex);
+    }
+}
+
+/// Hidden rows and those marked for deletion go out like others. Deliberate: they are in the table until it
+/// is saved.
+void PutRows(Spreadsheet& excel, const App& app, const Grid& grid) {
+    Row target{2};
+    ForEachRow(grid, [&](Row row) {
+        if (!IsInChosenRange(app, grid, row)) return;
+        for (Col col{1}; col <= grid.ColCount(); ++col)
+            PutCell(excel, target, col, grid.CellValue(row, col));
+        ++target;
+    });
+}
+
+void Export(const TabContext& tab, const Text& path) {
+    const auto excel = tab.app.MakeSpreadsheet();
+    if (!excel) return;
+    excel->AddWorkbook();
+    PutHeader(*excel, tab.table.GridStore());
+    PutRows(*excel, tab.app, tab.table.GridStore());
+    excel->SaveAs(path, kNormalWorkbook);
+    excel->SelectRange(u"A1");
+    excel->MakeVisible();
+}
+
+} // namespace
+
+void mnuExport_Excel_Clack(const TabContext& tab) {
+    App& app = tab.app;
+    if (!ChooseRange(app)) return;
+    const auto path = ChooseFileName(tab);
+    if (!path) return;
+    app.Screen().SetPointer(Pointer::Hourglass);
+    app.Screen().ProcessMessages();
+    Export(tab, *path);
+    app.Screen().SetPointer(Pointer::Default);
+}
+
+} // namespace korvane

