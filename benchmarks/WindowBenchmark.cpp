@@ -9,7 +9,7 @@
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/services/QtScreen.h"
-#include "shell/frmMDIParent.h"
+#include "shell/main/frmMDIParent.h"
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"
 #include "testing/MemoryFileSystem.h"

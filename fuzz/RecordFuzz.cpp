@@ -3,7 +3,7 @@
 
 #include "StateStage.h"
 #include "common/number/DateTime.h"
-#include "shell/RecentRecord.h"
+#include "shell/recent/RecentRecord.h"
 
 #include <algorithm>
 #include <cstdint>

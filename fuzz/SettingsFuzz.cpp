@@ -2,7 +2,7 @@
 
 #include "StateStage.h"
 #include "common/settings/Settings.h"
-#include "shell/SettingsFile.h"
+#include "shell/settings/SettingsFile.h"
 
 #include <array>
 #include <cstdint>

@@ -7,7 +7,7 @@
 #include "platform/native/UserCodePage.h"
 #include "platform/qt/services/LogOut.h"
 #include "platform/xls/XlsSpreadsheet.h"
-#include "shell/frmMDIParent.h"
+#include "shell/main/frmMDIParent.h"
 
 #include <QApplication>
 #include <QPixmap>

@@ -10,7 +10,7 @@
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
 #include "platform/qt/services/QtUserLocale.h"
-#include "shell/DesktopFileViewer.h"
+#include "shell/main/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // Goes to every command of the menu by the keyboard alone, and away from what it opens.
 
 #include "e2e/DeskTest.h"
-#include "shell/Commands.h"
+#include "shell/commands/Commands.h"
 
 #include <gtest/gtest.h>
 

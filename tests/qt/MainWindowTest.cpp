@@ -7,9 +7,9 @@
 #include "platform/qt/services/LogOut.h"
 #include "platform/qt/tabs/TabLook.h"
 #include "platform/qt/tabs/TabPages.h"
-#include "shell/Commands.h"
-#include "shell/frmMDIChild.h"
-#include "shell/frmMDIParent.h"
+#include "shell/commands/Commands.h"
+#include "shell/main/frmMDIParent.h"
+#include "shell/tabs/frmMDIChild.h"
 #include "support/TableBytes.h"
 #include "support/TestProgram.h"
 

@@ -1,7 +1,7 @@
 #include "platform/qt/binder/FormEntry.h"
 #include "platform/qt/binder/QtFormHost.h"
-#include "shell/TabStates.h"
-#include "shell/frmMDIChild.h"
+#include "shell/tabs/TabStates.h"
+#include "shell/tabs/frmMDIChild.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

@@ -4,9 +4,9 @@
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
-#include "shell/TabStates.h"
-#include "shell/frmMDIChild.h"
-#include "shell/frmMDIParent.h"
+#include "shell/main/frmMDIParent.h"
+#include "shell/tabs/TabStates.h"
+#include "shell/tabs/frmMDIChild.h"
 
 #include <memory>
 #include <span>

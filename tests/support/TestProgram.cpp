@@ -1,7 +1,7 @@
 #include "support/TestProgram.h"
 
 #include "common/text/CodePage.h"
-#include "shell/Commands.h"
+#include "shell/commands/Commands.h"
 #include "table/frmDesignTable.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/settings/Settings.h"
-#include "shell/frmMDIChild.h"
-#include "shell/frmMDIParent.h"
+#include "shell/main/frmMDIParent.h"
+#include "shell/tabs/frmMDIChild.h"
 #include "support/TableBytes.h"
 #include "support/TestApp.h"
 #include "text/ClipboardWindow.h"

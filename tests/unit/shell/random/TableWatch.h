@@ -1,7 +1,7 @@
 #pragma once
 
 #include "RandomUser.h"
-#include "shell/frmMDIChild.h"
+#include "shell/tabs/frmMDIChild.h"
 
 #include <string_view>
 #include <vector>

@@ -1,0 +1,75 @@
+#include "shell/commands/Styles.h"
+
+#include "context/App.h"
+#include "platform/Screen.h"
+#include "shell/main/frmMDIParent.h"
+
+#include <array>
+#include <string>
+
+namespace korvane {
+
+namespace {
+
+/// The style numbers by the index of the menu, from 0; any other index has the last style. Eight comes
+/// before nine with the higher number: deliberate, the menu's order isn't that of the numbers.
+constexpr std::array kStylesByIndex{0, 1, 5, 6, 7, 10, 11, 12, 14, 13, 20, 25, 30, 31, 32, 33};
+constexpr int kAnyOtherStyle = 40;
+
+constexpr std::string_view kStyleEntry = "mnuStyle";
+constexpr int kCheckedAtFirst = 9;
+
+/// The styles below this one have a framed strip.
+constexpr int kFirstFrameless = 11;
+
+std::string EntryName(int menuIndex) {
+    return std::string(kStyleEntry) + std::to_string(menuIndex);
+}
+
+bool IsStyleEntry(const MenuEntry& entry) {
+    return entry.level == 1 && entry.name.starts_with(kStyleEntry);
+}
+
+void SetStyle(frmMDIParent& main, int number) {
+    main.TheApp().Settings.TabStyle = static_cast<std::int16_t>(number);
+    main.MDITabs1.Style = number;
+}
+
+void SetBackColour(Control& control, Colour colour) {
+    if (auto* panel = dynamic_cast<Panel*>(&control)) panel->BackColor = colour;
+    if (auto* label = dynamic_cast<Label*>(&control)) label->BackColor = colour;
+    if (auto* button = dynamic_cast<CommandButton*>(&control)) button->BackColor = colour;
+}
+
+} // namespace
+
+void SetTabStyle(frmMDIParent& main, StyleStep step) {
+    SetStyle(main, SteppedTabStyle(main.MDITabs1.Style, step));
+}
+
+void ChooseTabStyle(frmMDIParent& main, int menuIndex) {
+    for (const MenuEntry& entry : main.OfficeMenu1.Entries()) {
+        if (IsStyleEntry(entry)) main.OfficeMenu1.SetChecked(entry.name, entry.name == EntryName(menuIndex));
+    }
+    SetStyle(main, TabStyleOfMenuIndex(menuIndex));
+    ApplyStyleColours(main);
+}
+
+int TabStyleOfMenuIndex(int menuIndex) {
+    const bool known = menuIndex >= 0 && menuIndex < static_cast<int>(kStylesByIndex.size());
+    return known ? kStylesByIndex[static_cast<std::size_t>(menuIndex)] : kAnyOtherStyle;
+}
+
+void CheckFirstStyle(frmMDIParent& main) {
+    main.OfficeMenu1.SetChecked(EntryName(kCheckedAtFirst), true);
+}
+
+void ApplyStyleColours(frmMDIParent& main) {
+    const int number = main.MDITabs1.Style;
+    const Colour strip = TabStyleOf(number).Colours(main.TheApp().Screen().IsDark()).strip;
+    for (Control* control : main.Controls())
+        SetBackColour(*control, strip);
+    main.MDITabs1.Framed = number < kFirstFrameless;
+}
+
+} // namespace korvane

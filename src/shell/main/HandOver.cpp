@@ -1,0 +1,33 @@
+#include "shell/main/HandOver.h"
+
+#include "context/App.h"
+#include "platform/FileSystem.h"
+#include "platform/InstanceChannel.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+
+namespace korvane {
+
+namespace {
+
+void TellNoAccess(App& app) {
+    app.Messages().Show({u"Error accessing Korvane", MessageIcon::Stop});
+}
+
+} // namespace
+
+bool HandOver(App& app, const Text& startFile) {
+    app.SecondInstance = 1;
+    if (startFile.empty() || !app.Files().FileExists(startFile)) return true;
+    InstanceChannel& running = app.Instance();
+    if (!running.FindReceiver() || !running.WaitUntilSlotEmpty()) {
+        TellNoAccess(app);
+        return false;
+    }
+    // The running copy has a current directory of its own.
+    if (!running.Deliver(app.Files().FullPath(startFile))) TellNoAccess(app);
+    app.Screen().ProcessMessages();
+    return true;
+}
+
+} // namespace korvane

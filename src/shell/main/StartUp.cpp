@@ -1,0 +1,99 @@
+#include "shell/main/StartUp.h"
+
+#include "context/App.h"
+#include "context/WindowFitting.h"
+#include "platform/FileSystem.h"
+#include "platform/InstanceChannel.h"
+#include "platform/Screen.h"
+#include "shell/main/HandOver.h"
+#include "shell/main/frmMDIParent.h"
+#include "shell/settings/LocateSystemFolders.h"
+#include "shell/settings/SettingsFile.h"
+#include "shell/settings/WordRules.h"
+#include "shell/tabs/QuotedPath.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr std::int16_t kStartTabUnit = 720;
+
+void SetStartValues(App& app) {
+    app.Settings.TabUnitTwips = kStartTabUnit;
+    app.FirstLoadPending = -1;
+    const PathStyle style = app.Files().Style();
+    app.HelpFilePath = style.JoinPath(app.Files().ProgramDir(), u"Korvane_Help.rtf");
+    const Text stateDir = app.Files().StateDir();
+    app.IniFilePath = style.JoinPath(stateDir, u"Korvane.ini");
+    app.RecFilePath = style.JoinPath(stateDir, u"Korvane.rec");
+    SetWordRules(app);
+}
+
+void ApplySettings(frmMDIParent& main) {
+    const Settings& settings = main.TheApp().Settings;
+    if (!settings.MenuFontName.empty() && settings.MenuFontSize > 0) {
+        main.OfficeMenu1.Font =
+            FontSpec{settings.MenuFontName, settings.MenuFontSize, settings.MenuFontBold != 0};
+    }
+    main.MDITabs1.Style = settings.TabStyle;
+}
+
+void PlaceWindow(frmMDIParent& main) {
+    const Settings& settings = main.TheApp().Settings;
+    // What is stored goes to the fitting, whatever the screen made of it: a stored 0 is a place never stored.
+    Rect place{Twips{settings.MainLeft}, Twips{settings.MainTop}, Twips{settings.MainWidth},
+               Twips{settings.MainHeight}};
+    main.Top = place.top;
+    main.Left = place.left;
+    main.Height = place.height;
+    main.Width = place.width;
+    FitWindowToWorkArea(main.TheApp().Screen().WorkArea(), main, place, kMainWindowGap);
+}
+
+void BuildSideBar(frmMDIParent& main) {
+    const Settings& settings = main.TheApp().Settings;
+    const FileSystem& files = main.TheApp().Files();
+    main.iGridListBar.HandImage = files.Style().JoinPath(files.ProgramDir(), u"HandOpen.ico");
+    main.TheSideBar().BuildSideBar(
+        {settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0});
+    main.Resize();
+}
+
+void ListenForFiles(frmMDIParent& main) {
+    main.TheApp().Instance().Listen({
+        [&main](TextView path) { main.txtCommand.Text = Text(path); },
+        [&main] { return main.txtCommand.Text.Get().empty(); },
+        [&main] { main.Host().Raise(main); },
+    });
+}
+
+void EndSecondStart(frmMDIParent& main, const Text& startFile) {
+    const bool answered = HandOver(main.TheApp(), startFile);
+    main.Close();
+    if (answered) main.TheApp().Instance().ActivateRunning();
+}
+
+} // namespace
+
+void StartUp(frmMDIParent& main) {
+    App& app = main.TheApp();
+    SetStartValues(app);
+    LocateSystemFolders(app);
+    ReadSettings(app);
+    ApplySettings(main);
+    main.Recents().Read(app);
+    PlaceWindow(main);
+    BuildSideBar(main);
+    // The whole line is one path, blanks and all.
+    const Text startFile = WithoutOuterQuotes(main.CommandLine());
+    app.SecondInstance = 0;
+    app.LoadedByCommand = 0;
+    if (app.Instance().PreviousInstanceRuns()) return EndSecondStart(main, startFile);
+    main.MDITabs1.On = true;
+    ListenForFiles(main);
+    if (!startFile.empty() && app.Files().FileExists(startFile)) {
+        main.Pipeline().OpenDatabase(startFile, LoadInto::NewTab);
+    }
+}
+
+} // namespace korvane

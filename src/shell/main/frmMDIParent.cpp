@@ -1,0 +1,205 @@
+#include "shell/main/frmMDIParent.h"
+
+#include "context/App.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+#include "shell/commands/Commands.h"
+#include "shell/commands/MainRoutines.h"
+#include "shell/commands/Styles.h"
+#include "shell/main/StartUp.h"
+#include "shell/settings/SettingsFile.h"
+#include "shell/tabs/frmMDIChild.h"
+
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+/// The sidebar's panel is this much wider than its grid.
+constexpr int kPanelMargin = 80;
+
+} // namespace
+
+frmMDIParent::frmMDIParent(App& app, Text commandLine)
+    : Form(app.Forms(), "frmMDIParent", u"Korvane"),
+      OfficeMenu1(*this, "OfficeMenu1", MenuBarEntries()),
+      mnuPopupMenu(*this, "mnuPopupMenu", PopupMenuEntries()),
+      mnuWindow(*this, "mnuWindow", WindowMenuEntries()),
+      iGridListBar(*this, "iGridListBar", app.MakeGrid()),
+      app_(app),
+      commandLine_(std::move(commandLine)),
+      tabs_(app, MDITabs1),
+      pipeline_(app, tabs_, recents_),
+      sideBar_(iGridListBar, [this](std::string_view command) { RunCommand(command); }) {
+    app_.MainWindow = this;
+    MakeToolBar();
+    CheckFirstStyle(*this);
+    Wire();
+}
+
+frmMDIParent::~frmMDIParent() {
+    if (app_.MainWindow == this) app_.MainWindow = nullptr;
+}
+
+void frmMDIParent::MakeToolBar() {
+    for (const ToolBarButton& button : ToolBarButtons()) {
+        toolBar_.push_back(std::make_unique<CommandButton>(*this, button.name, TextView(), button.toolTip));
+        toolBar_.back()->Click = [this, command = button.command] { RunCommand(command); };
+    }
+}
+
+void frmMDIParent::Wire() {
+    for (Menu* menu : {&OfficeMenu1, &mnuPopupMenu, &mnuWindow}) {
+        menu->Chosen = [this](std::string_view entry) { RunCommand(entry); };
+    }
+    txtCommand.Visible = false;
+    txtCommand.Change = [this] { txtCommand_Change(); };
+    MDITabs1.TabContextClick = [this] { RunCommand("mnuFile_FileInfo"); };
+    MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };
+    MDITabs1.CloseWanted = [this](Form& child) { CloseTab(child); };
+}
+
+void frmMDIParent::InvokeOnActiveTab(std::string_view routine) {
+    if (frmMDIChild* tab = tabs_.Active()) tab->Invoke(routine);
+}
+
+void frmMDIParent::RunCommand(std::string_view name) {
+    ReleaseClosedTabs();
+    ++commandDepth_;
+    Route(name);
+    --commandDepth_;
+}
+
+void frmMDIParent::Route(std::string_view name) {
+    const Command* command = FindCommand(name);
+    if (command == nullptr) return;
+    switch (command->target) {
+    case CommandTarget::Menu:
+        return;
+    case CommandTarget::Main:
+        return RunMainRoutine(*this, command->name);
+    case CommandTarget::NewTab:
+        tabs_.AddNewTab();
+        [[fallthrough]];
+    case CommandTarget::Tab:
+        return InvokeOnActiveTab(std::string(command->name) + "_Clack");
+    }
+}
+
+void frmMDIParent::ShowPopupMenu() {
+    Host().PopUp(mnuPopupMenu);
+}
+
+void frmMDIParent::mnuSwitchFocus_Click() {
+    if (focusOnSideBar_ == 0) {
+        if (frmMDIChild* tab = tabs_.Active()) tab->GridStore().GridSetFocus();
+        focusOnSideBar_ = 1;
+        return;
+    }
+    if (Picture2.Visible) sideBar_.TakeFocus();
+    focusOnSideBar_ = 0;
+}
+
+Text frmMDIParent::GetActiveFolder() {
+    if (const frmMDIChild* tab = tabs_.Active()) {
+        return Text(app_.Files().Style().FolderPart(tab->Caption.Get()));
+    }
+    app_.Messages().Show({u"No form loaded."});
+    return {};
+}
+
+void frmMDIParent::SetSideBarWidth(bool advance) {
+    std::int16_t& step = app_.Settings.SideBarWidthStep;
+    if (advance) step = static_cast<std::int16_t>(step >= SideBar::kWidthSteps - 1 ? 0 : step + 1);
+    const Twips width = SideBar::WidthOfStep(step);
+    iGridListBar.Width = width;
+    lblListBar.Width = width;
+    Picture2.Width = width + kPanelMargin;
+    if (advance) Resize();
+}
+
+void frmMDIParent::CloseTab(Form& child) {
+    ReleaseClosedTabs();
+    tabs_.Close(child);
+}
+
+void frmMDIParent::ReleaseClosedTabs() {
+    // Where a command starts on its own, no handler of a tab that an earlier one closed runs any more.
+    if (commandDepth_ == 0) tabs_.ReleaseClosed();
+}
+
+void frmMDIParent::Load() {
+    StartUp(*this);
+}
+
+void frmMDIParent::Activate() {
+    app_.FirstLoadPending = 0;
+    if (firstActivation_) {
+        firstActivation_ = false;
+        if (app_.Settings.ShowRecentAtStart == 1 && commandLine_.empty()) RunCommand("mnuFile_Recent");
+    }
+    app_.Screen().ProcessMessages();
+}
+
+void frmMDIParent::Resize() {
+    Picture2.Visible = app_.Settings.SideBarVisible == 1;
+    if (Picture2.Visible) SetSideBarWidth(false);
+}
+
+void frmMDIParent::FilesDropped(const std::vector<Text>& paths) {
+    for (const Text& path : paths)
+        txtCommand.Text = path;
+}
+
+void frmMDIParent::txtCommand_Change() {
+    const Text path(Trim(txtCommand.Text.Get()));
+    if (!path.empty() && app_.Files().FileExists(path)) {
+        pipeline_.OpenDatabase(path, LoadInto::NewTab);
+        app_.LoadedByCommand = -1;
+    }
+    // Tells the second start that the next path may come.
+    txtCommand.Text = Text();
+}
+
+bool frmMDIParent::QueryUnload() {
+    if (app_.SecondInstance != 1) {
+        MDITabs1.On = false;
+        if (State == FormState::Minimised) State = FormState::Maximised;
+        StorePlace();
+    }
+    return tabs_.CloseAll();
+}
+
+void frmMDIParent::StorePlace() {
+    Settings& settings = app_.Settings;
+    settings.TabStyle = static_cast<std::int16_t>(MDITabs1.Style);
+    settings.MainTop = Top.Get().Number();
+    settings.MainLeft = Left.Get().Number();
+    settings.MainHeight = Height.Get().Number();
+    settings.MainWidth = Width.Get().Number();
+}
+
+void frmMDIParent::Unload() {
+    MDITabs1.On = false;
+    if (app_.SecondInstance == 0) {
+        WriteSettings(app_);
+        recents_.Write(app_);
+    }
+    CloseOtherWindows();
+    app_.MainWindow = nullptr;
+}
+
+void frmMDIParent::CloseOtherWindows() {
+    // What these store when they close is lost, and a refusal no longer stops the end. Deliberate: the
+    // settings are written at one place only.
+    const std::vector<Form*> loaded = Host().LoadedForms();
+    for (auto form = loaded.rbegin(); form != loaded.rend(); ++form) {
+        // One that closes may take others with it.
+        const bool stands = std::ranges::count(Host().LoadedForms(), *form) > 0;
+        if (stands && *form != this) (*form)->Close();
+    }
+}
+
+} // namespace korvane

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "context/Ports.h"
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/GridBox.h"
+#include "controls/Label.h"
+#include "controls/Menu.h"
+#include "controls/TabStrip.h"
+#include "controls/TextBox.h"
+#include "shell/commands/SideBar.h"
+#include "shell/recent/RecentRecord.h"
+#include "shell/settings/frmWindowSize.h"
+#include "shell/tabs/LoadPipeline.h"
+#include "shell/tabs/Tabs.h"
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace korvane {
+
+/// The main window: menu bar, tool bar, sidebar and the tabs. It puts the parts together and sends commands
+/// where they belong; the rules are in the parts.
+class frmMDIParent : public Form, public MainWindow {
+public:
+    /// `commandLine` is what the program was started with, taken as one path. The App outlives the window.
+    frmMDIParent(App& app, Text commandLine);
+    ~frmMDIParent() override;
+
+    Panel picToolbar{*this, "picToolbar"};
+    /// A second start of the program puts its file here.
+    TextBox txtCommand{*this, "txtCommand"};
+    Menu OfficeMenu1;
+    Menu mnuPopupMenu;
+    Menu mnuWindow;
+    Panel Picture2{*this, "Picture2"};
+    Label lblListBar{*this, "lblListBar", u"Commands"};
+    GridBox iGridListBar;
+    TabStrip MDITabs1{*this, "MDITabs1"};
+
+    WindowSizeChoice WindowSize;
+
+    App& TheApp() { return app_; }
+    Tabs& TheTabs() { return tabs_; }
+    RecentRecord& Recents() { return recents_; }
+    LoadPipeline& Pipeline() { return pipeline_; }
+    SideBar& TheSideBar() { return sideBar_; }
+    const Text& CommandLine() const { return commandLine_; }
+
+    /// Calls a routine of the tab that is active now. No tab, and no routine of this name, are no error.
+    void InvokeOnActiveTab(std::string_view routine);
+    void RunCommand(std::string_view name) override;
+    void ShowPopupMenu() override;
+    void mnuSwitchFocus_Click() override;
+    Text GetActiveFolder() override;
+    /// Takes the sidebar's width from its step, the next one when told to advance.
+    void SetSideBarWidth(bool advance);
+    /// Closes a tab, which may refuse.
+    void CloseTab(Form& child);
+
+    void Load() override;
+    void Activate() override;
+    void Resize() override;
+    void FilesDropped(const std::vector<Text>& paths) override;
+    bool QueryUnload() override;
+    void Unload() override;
+
+private:
+    void MakeToolBar();
+    void Wire();
+    void txtCommand_Change();
+    void Route(std::string_view name);
+    void ReleaseClosedTabs();
+    void StorePlace();
+    void CloseOtherWindows();
+
+    App& app_;
+    Text commandLine_;
+    Tabs tabs_;
+    RecentRecord recents_;
+    LoadPipeline pipeline_;
+    SideBar sideBar_;
+    std::vector<std::unique_ptr<CommandButton>> toolBar_;
+    /// 1 when the next focus toggle goes to the sidebar.
+    std::int16_t focusOnSideBar_ = 1;
+    bool firstActivation_ = true;
+    /// How many commands run within each other.
+    int commandDepth_ = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,388 @@
+#include "shell/recent/frmFileList.h"
+
+#include "common/number/Number.h"
+#include "common/text/FindEntry.h"
+#include "context/App.h"
+#include "context/Companions.h"
+#include "context/Ports.h"
+#include "context/StandardMessages.h"
+#include "context/StoredPaths.h"
+#include "context/WindowFitting.h"
+#include "dbops/rules/Dialogs.h"
+#include "dialogs/Docking.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+#include "shell/recent/RecentRecord.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr Twips kMinWidth{7000};
+constexpr Twips kMinHeight{5688};
+constexpr Twips kFileWidth{2400};
+constexpr Twips kLocationWidth{3600};
+// So narrow that it shows the number, and hides the date that stands behind it in the column too.
+constexpr Twips kOffsetWidth{500};
+constexpr Twips kDateWidth{2000};
+constexpr int kListMargin = 600;
+
+enum Column : std::size_t { kFile, kLocation, kOffset, kDate };
+
+constexpr std::int16_t kLoad = 1;
+constexpr std::int16_t kNewText = 11;
+constexpr std::int16_t kGoToFolder = 99;
+
+constexpr std::array kMenu{
+    MenuEntry{0, "mnuFile", u"&File", ""},
+    MenuEntry{1, "mnuLoad", u"&Load item", ""},
+    MenuEntry{1, "mnuNewText", u"Start &new text", ""},
+    MenuEntry{1, "mnuViewFile", u"&View file", ""},
+    MenuEntry{1, "mnuExternalEdit", u"E&xternal edit", ""},
+    MenuEntry{1, "mnuFile_FileFolder", u"&Goto file folder", ""},
+    MenuEntry{1, "mnuInfo", u"&Info on item", ""},
+    MenuEntry{1, "mnuExit", u"E&xit", ""},
+    MenuEntry{0, "mnuEdit", u"&Edit", ""},
+    MenuEntry{1, "mnuDelete", u"&Delete item", ""},
+    MenuEntry{1, "mnuEmpty", u"&Empty grid", ""},
+    MenuEntry{1, "mnuWhenToEmpty", u"&When to empty", ""},
+    MenuEntry{0, "mnuView", u"&View", ""},
+    MenuEntry{1, "mnuFileFolder", u"&Cols to view", ""},
+    MenuEntry{1, "mnuFont", u"Font for grid", ""},
+    MenuEntry{1, "mnuColour", u"Grid colo&ur", ""},
+};
+
+/// What stands before the last bar, without the blanks around it.
+TextView PathPart(TextView entry) {
+    const std::size_t bar = InStrRev(entry, u"|");
+    return bar == 0 ? TextView() : Trim(Left(entry, bar - 1));
+}
+
+TextView Behind(TextView entry, TextView mark) {
+    const std::size_t found = InStr(entry, mark);
+    return found == 0 ? TextView() : Mid(entry, found + 1);
+}
+
+Twips WidthOr(std::int32_t stored, Twips usual) {
+    return stored > 0 ? Twips{stored} : usual;
+}
+
+} // namespace
+
+const frmFileList::MenuHandler frmFileList::kMenuHandlers[] = {
+    {"mnuLoad", &frmFileList::LoadFiles},
+    {"mnuNewText", &frmFileList::NewText},
+    {"mnuViewFile", &frmFileList::ViewFile},
+    {"mnuExternalEdit", &frmFileList::ExternalEdit},
+    {"mnuFile_FileFolder", &frmFileList::GotoFileFolder},
+    {"mnuInfo", &frmFileList::ShowInfo},
+    {"mnuExit", &frmFileList::CloseWindow},
+    {"mnuDelete", &frmFileList::DeleteItem},
+    {"mnuEmpty", &frmFileList::EmptyList},
+    {"mnuWhenToEmpty", &frmFileList::WhenToEmpty},
+    {"mnuFileFolder", &frmFileList::ToggleColumns},
+    {"mnuFont", &frmFileList::ChooseFont},
+    {"mnuColour", &frmFileList::ChooseColour},
+};
+
+frmFileList::frmFileList(App& app, RecentRecord& recents, const Form& owner)
+    : Form(app.Forms(), "frmFileList", u"Recent files list"),
+      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      ListView1(*this, "ListView1",
+                {{u"File", kFileWidth},
+                 {u"Location", kLocationWidth},
+                 {u"Offset", kOffsetWidth},
+                 {u"Date", kDateWidth}}),
+      app_(app),
+      recents_(recents),
+      owner_(owner) {
+    ListView1.MultiSelect = true;
+    Wire();
+}
+
+void frmFileList::Wire() {
+    OfficeMenu1.Chosen = [this](std::string_view entry) {
+        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
+        if (found != nullptr) (this->*found->run)();
+    };
+    const auto on = [this](CommandButton& button, Handler run) {
+        button.Click = [this, run] { (this->*run)(); };
+    };
+    on(cmdLoad, &frmFileList::LoadFiles);
+    on(cmdNewText, &frmFileList::NewText);
+    on(cmdViewFile, &frmFileList::ViewFile);
+    on(cmdInfo, &frmFileList::ShowInfo);
+    on(cmdGotoFileFolder, &frmFileList::GotoFileFolder);
+    on(cmdDelete, &frmFileList::DeleteItem);
+    on(cmdEmptyList, &frmFileList::EmptyList);
+    on(cmdFileFolder, &frmFileList::ToggleColumns);
+    on(cmdFont, &frmFileList::ChooseFont);
+    on(cmdColour, &frmFileList::ChooseColour);
+    on(cmdCancel, &frmFileList::CloseWindow);
+    cmdCancel.Cancel = true;
+    ListView1.DblClick = [this] { LoadFiles(); };
+    ListView1.ColumnClick = [this](int column) { ListView1_ColumnClick(column); };
+    ListView1.KeyDown = [this](KeyEvent& key) { ListView1_KeyDown(key); };
+}
+
+void frmFileList::Load() {
+    recents_.RecentPicks.clear();
+    recents_.RecentOffsets.clear();
+    Width = std::max(Twips{app_.Settings.FileListWidth}, kMinWidth);
+    Height = std::max(Twips{app_.Settings.FileListHeight}, kMinHeight);
+    Rect place{Left, Top, Width, Height};
+    FitWindowToWorkArea(app_.Screen().WorkArea(), *this, place);
+    ApplyLook();
+    LayOutColumns();
+    FillList();
+    ListView1.SetFocus();
+}
+
+void frmFileList::Resize() {
+    if (app_.Settings.FileListAllColumns != 1) LayOutColumns();
+}
+
+void frmFileList::Unload() {
+    app_.Settings.FileListWidth = Width.Get().Number();
+    app_.Settings.FileListHeight = Height.Get().Number();
+    KeepColumnWidths();
+}
+
+void frmFileList::ApplyLook() {
+    const Settings& settings = app_.Settings;
+    if (settings.FileListColour >= 0) ListView1.BackColor = Colour{settings.FileListColour};
+    if (!settings.FileListFontName.empty() && settings.FileListFontSize > 0) {
+        ListView1.Font = FontSpec{settings.FileListFontName, settings.FileListFontSize};
+    }
+}
+
+void frmFileList::LayOutColumns() {
+    const Settings& settings = app_.Settings;
+    std::vector<ListColumn> columns = ListView1.Columns;
+    const bool all = settings.FileListAllColumns == 1;
+    columns[kFile].width = all ? WidthOr(settings.FileListColA, kFileWidth) : Width.Get() - kListMargin;
+    columns[kLocation].width = all ? WidthOr(settings.FileListColB, kLocationWidth) : Twips{};
+    columns[kOffset].width = all ? kOffsetWidth : Twips{};
+    columns[kDate].width = all ? kDateWidth : Twips{};
+    ListView1.Columns = std::move(columns);
+}
+
+void frmFileList::KeepColumnWidths() {
+    if (app_.Settings.FileListAllColumns != 1) return;
+    app_.Settings.FileListColA = ListView1.Columns.Get()[kFile].width.Number();
+    app_.Settings.FileListColB = ListView1.Columns.Get()[kLocation].width.Number();
+}
+
+void frmFileList::FillList() {
+    ListView1.Clear();
+    recents_.CutWhenFull();
+    for (int number = 1; number <= RecentRecord::kEntries; ++number) {
+        const Text& entry = recents_.RecentEntries[static_cast<std::size_t>(number)];
+        if (!entry.empty()) ListView1.Add(RowOf(entry));
+    }
+    if (sortColumn_ > 0) ListView1.SortBy(sortColumn_, sortOrder_);
+    ListView1.SetCurrent(1);
+    ShowCount();
+}
+
+ListRow frmFileList::RowOf(const Text& entry) const {
+    const FileSystem& files = app_.Files();
+    Text path(PathPart(entry));
+    bool found = !path.empty() && files.FileExists(path);
+    if (!found) {
+        const Text other = SwapDriveForm(files, path);
+        found = !other.empty() && files.FileExists(other);
+        if (found) path = other;
+    }
+    const PathStyle style = files.Style();
+    ListRow row;
+    row.texts = {Text(style.NamePart(path)), Text(style.FolderPart(path)), {}, {}};
+    row.image = found ? kFoundImage : kLostImage;
+    if (!found) return row;
+    row.texts[kOffset] = Text(Behind(entry, u"|"));
+    row.texts[kDate] = Text(Behind(entry, u"*"));
+    return row;
+}
+
+void frmFileList::ShowCount() {
+    Label2.Caption = u"Files:  " + NumberText(ListView1.Count());
+}
+
+std::optional<ListRow> frmFileList::CurrentRow() const {
+    if (ListView1.Current() == 0) return std::nullopt;
+    return ListView1.RowAt(ListView1.Current());
+}
+
+Text frmFileList::PathOf(const ListRow& row) const {
+    const char16_t separator = app_.Files().Style().Separator();
+    Text path = row.texts[kLocation];
+    if (!path.empty() && !path.ends_with(separator)) path += separator;
+    return path + row.texts[kFile];
+}
+
+void frmFileList::LoadFiles() {
+    if (const auto row = CurrentRow()) {
+        app_.Lister.ListerFolder = row->texts[kLocation];
+        app_.Lister.CurrentFolderHint = row->texts[kLocation];
+        app_.FileOpName = row->texts[kFile];
+    }
+    for (int index = 1; index <= ListView1.Count(); ++index)
+        TakePick(ListView1.RowAt(index));
+    if (!recents_.RecentPicks.empty()) app_.DialogResult = kLoad;
+    Close();
+}
+
+void frmFileList::TakePick(const ListRow& row) {
+    // Some lists of old mark lost files so in the place of the folder.
+    if (!row.selected || InStr(row.texts[kLocation], u"found !") > 0) return;
+    int offset = 0;
+    ReadNumber(TextView(row.texts[kOffset]), offset);
+    recents_.RecentPicks.push_back(PathOf(row));
+    recents_.RecentOffsets.push_back(offset);
+}
+
+void frmFileList::NewText() {
+    app_.DialogResult = kNewText;
+    Close();
+}
+
+void frmFileList::DeleteItem() {
+    const auto row = CurrentRow();
+    if (!row) return;
+    const int place = ListView1.Current();
+    ListView1.Remove(place);
+    ShowCount();
+    ListView1.SetCurrent(std::min(place, ListView1.Count()));
+    recents_.Forget(PathOf(*row));
+}
+
+void frmFileList::EmptyList() {
+    if (!AskYesNo(app_, u"Clear all entries in recent files list?", YesNoDefault::No)) return;
+    recents_.Empty();
+    ListView1.Clear();
+    ShowCount();
+}
+
+void frmFileList::WhenToEmpty() {
+    const Text question = u"Empty list when full ?  (16 of 72 items retained )\r\n\r\nCurrent value: ";
+    const Text value = recents_.EmptyWhenFull == 1 ? u"YES" : u"NO";
+    recents_.EmptyWhenFull = AskYesNo(app_, question + value) ? 1 : 0;
+}
+
+void frmFileList::ViewFile() {
+    const auto row = CurrentRow();
+    if (!row) return;
+    Text path = PathOf(*row);
+    if (row->image == kLostImage) return ShowCannotLocate(app_, path);
+    if (app_.FileViewer != nullptr) app_.FileViewer->View(path);
+}
+
+void frmFileList::ShowInfo() {
+    const auto row = CurrentRow();
+    if (!row) return;
+    const FileSystem& files = app_.Files();
+    const Text path = PathOf(*row);
+    const auto modified = files.Modified(path);
+    const DateTime now = app_.Clock().Now();
+    const std::array<Text, 7> lines{
+        u"File  " + row->texts[kFile],
+        u"Dir.:  " + row->texts[kLocation],
+        u"Size  " + FormatGrouped(files.Size(path).value_or(0)),
+        u"Archived  " + (modified ? app_.Locale().GeneralDate(*modified) : Text()),
+        u"Time  " + FormatDate(now, u"hh:mm:ss"),
+        u"Date  " + FormatDate(now, u"dddd, mmm d yyyy", app_.Locale().Names()),
+        u"Current Dir. :  " + files.CurrentDir(),
+    };
+    Text text;
+    for (const Text& line : lines)
+        text += (text.empty() ? Text() : Text(kCrLf)) + line;
+    Inform(app_, text);
+}
+
+void frmFileList::GotoFileFolder() {
+    const auto row = CurrentRow();
+    if (!row) return;
+    const Text folder = app_.Files().Style().DirectoryForChange(row->texts[kLocation]);
+    if (!app_.Files().ChangeDir(folder)) {
+        app_.Messages().Show({u"Cannot change to this folder:\r\n\r\n" + folder, MessageIcon::Exclamation});
+        return;
+    }
+    app_.Lister.CurrentFolderHint = folder;
+    app_.DialogResult = kGoToFolder;
+    Close();
+}
+
+void frmFileList::ToggleColumns() {
+    KeepColumnWidths();
+    std::int16_t& all = app_.Settings.FileListAllColumns;
+    all = all == 1 ? 0 : 1;
+    LayOutColumns();
+}
+
+void frmFileList::ChooseFont() {
+    if (app_.FontPicker == nullptr) return;
+    const auto font = app_.FontPicker->Choose(ListView1.Font);
+    if (!font) return;
+    app_.Settings.FileListFontName = font->name;
+    app_.Settings.FileListFontSize = static_cast<std::int16_t>(font->size);
+    ApplyLook();
+}
+
+void frmFileList::ChooseColour() {
+    if (app_.ColourPicker == nullptr) return;
+    const auto colour =
+        app_.ColourPicker->Choose(Colour{app_.Settings.FileListColour}, ColourPicker::Extent::Simple);
+    if (!colour) return;
+    app_.Settings.FileListColour = colour->value;
+    ApplyLook();
+}
+
+void frmFileList::ExternalEdit() {
+    const auto row = CurrentRow();
+    if (!row) return;
+    const Text path = PathOf(*row);
+    if (row->image == kLostImage) {
+        app_.Messages().Show({u"This item is not a valid file:\r\n\r\n" + path, MessageIcon::Exclamation});
+    } else if (app_.FileViewer != nullptr) {
+        app_.FileViewer->OpenWith(path);
+    }
+}
+
+void frmFileList::ListView1_ColumnClick(int column) {
+    if (ListView1.Count() < 2) return;
+    sortColumn_ = column;
+    ListView1.SortBy(column, sortOrder_);
+    sortOrder_ = sortOrder_ == SortOrder::Ascending ? SortOrder::Descending : SortOrder::Ascending;
+}
+
+void frmFileList::ListView1_KeyDown(KeyEvent& key) {
+    struct ListKey {
+        int code;
+        int mask;
+        Handler run;
+    };
+    static constexpr std::array<ListKey, 5> kKeys{{
+        {Key::Escape, Mask::None, &frmFileList::CloseWindow},
+        {Key::Return, Mask::None, &frmFileList::LoadFiles},
+        {Key::Delete, Mask::None, &frmFileList::DeleteItem},
+        {Key::Space, Mask::None, &frmFileList::ViewFile},
+        {Key::Back, Mask::Alt, &frmFileList::ExternalEdit},
+    }};
+    if (DockByKey(app_, owner_, *this, key)) return;
+    if (key.Is(Key::F1, Mask::Ctrl | Mask::Shift)) {
+        key.consumed = true;
+        return LaunchLorrit(app_, app_.Files().CurrentDir());
+    }
+    const auto* found =
+        std::ranges::find_if(kKeys, [&key](const ListKey& each) { return key.Is(each.code, each.mask); });
+    if (found == kKeys.end()) return;
+    key.consumed = true;
+    (this->*found->run)();
+}
+
+} // namespace korvane

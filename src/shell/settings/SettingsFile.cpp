@@ -1,0 +1,86 @@
+#include "shell/settings/SettingsFile.h"
+
+#include "common/number/Number.h"
+#include "common/settings/Settings.h"
+#include "common/text/CodePage.h"
+#include "common/text/Lines.h"
+#include "context/App.h"
+#include "context/StandardMessages.h"
+#include "platform/FileSystem.h"
+
+#include <cmath>
+#include <string>
+#include <variant>
+
+namespace korvane {
+
+namespace {
+
+void StoreLine(const SettingLine& setting, std::string_view bytes, const CodePage& page, Text& field) {
+    if (setting.kind == SettingKind::Plain) {
+        field = page.ToText(bytes);
+    } else if (const double number = Val(bytes); std::isfinite(number)) {
+        field = NumberText(number);
+    }
+}
+
+template <std::signed_integral Int>
+void StoreLine(const SettingLine&, std::string_view bytes, const CodePage&, Int& field) {
+    ReadNumber(bytes, field);
+}
+
+std::string LineBytes(const Text& field, const CodePage& page) {
+    return page.ToBytes(field);
+}
+
+template <std::signed_integral Int>
+std::string LineBytes(Int field, const CodePage&) {
+    return std::to_string(field);
+}
+
+std::string AllLines(const Settings& settings, const CodePage& page) {
+    std::string bytes;
+    for (const SettingLine& line : SettingsTable()) {
+        std::visit([&](auto member) { bytes += LineBytes(settings.*member, page); }, line.written);
+        bytes += "\r\n";
+    }
+    return bytes;
+}
+
+void TakeCurrentDir(App& app) {
+    app.Settings.CurDirAtSave = app.Files().CurrentDir();
+    app.Settings.CurDrive = Text(Left(app.Settings.CurDirAtSave, 1));
+}
+
+} // namespace
+
+void ReadSettings(App& app) {
+    if (!app.Files().FileExists(app.IniFilePath)) {
+        ShowCannotLoad(app, app.IniFilePath);
+        return;
+    }
+    const auto bytes = app.Files().ReadAll(app.IniFilePath);
+    if (!bytes) return;
+    // A line ends at the pair alone: the word delimiters, a line of their own, end in a lone CR.
+    LineReader lines(bytes->View(), LineEnds::CrLf);
+    std::string_view line;
+    for (const SettingLine& setting : SettingsTable()) {
+        if (!lines.Next(line)) return;
+        std::visit([&](auto member) { StoreLine(setting, line, app.Page(), app.Settings.*member); },
+                   setting.read);
+    }
+}
+
+void WriteSettings(App& app) {
+    DeleteFileQuietly(app, app.IniFilePath);
+    TakeCurrentDir(app);
+    const auto file = app.Files().OpenPrivate(app.IniFilePath);
+    if (file == nullptr) {
+        ShowCannotAccess(app, app.IniFilePath);
+        return;
+    }
+    file->Write(AllLines(app.Settings, app.Page()));
+    file->Close();
+}
+
+} // namespace korvane

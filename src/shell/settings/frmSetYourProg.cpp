@@ -1,0 +1,47 @@
+#include "shell/settings/frmSetYourProg.h"
+
+#include "context/App.h"
+#include "context/Launching.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "shell/settings/ProgramPicker.h"
+
+namespace korvane {
+
+frmSetYourProg::frmSetYourProg(App& app)
+    : Form(app.Forms(), "frmSetYourProg", u"Set your program"), app_(app) {
+    prgText1.Change = [this] { prgText1_Change(); };
+    cmdBrowse1.Click = [this] { cmdBrowse1_Click(); };
+    cmdOK.Click = [this] { cmdOK_Click(); };
+    cmdCancel.Click = [this] { Close(); };
+    cmdCancel.Cancel = true;
+}
+
+void frmSetYourProg::Load() {
+    prgText1.Text = app_.Settings.YourProgramPath;
+}
+
+bool frmSetYourProg::IsThere(const Text& path) const {
+    return !path.empty() && app_.Files().FileExists(path);
+}
+
+void frmSetYourProg::prgText1_Change() {
+    if (IsThere(prgText1.Text)) app_.Settings.YourProgramPath = prgText1.Text;
+}
+
+void frmSetYourProg::cmdBrowse1_Click() {
+    Text& location = app_.Settings.YourProgramPath;
+    if (PickProgram(app_, {}, location)) prgText1.Text = location;
+}
+
+void frmSetYourProg::cmdOK_Click() {
+    const Text& program = app_.Settings.YourProgramPath;
+    if (!IsThere(program)) {
+        app_.Messages().Show({u"Cannot find this program:\r\n\r\n" + program, MessageIcon::Exclamation});
+        return;
+    }
+    // As it stands, without looking for its other drive form, and the window stays. Deliberate.
+    StartProgram(app_, program);
+}
+
+} // namespace korvane

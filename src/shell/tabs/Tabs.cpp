@@ -1,0 +1,139 @@
+#include "shell/tabs/Tabs.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "controls/TabStrip.h"
+#include "platform/Screen.h"
+#include "shell/tabs/frmMDIChild.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+struct PageSize {
+    TextView name;
+    int width;
+    int height;
+};
+
+constexpr std::array kPageSizes{
+    PageSize{u"A4", 11906, 16837},
+    PageSize{u"A4_Landscape", 16837, 11906},
+    PageSize{u"A5", 8418, 11906},
+    PageSize{u"A5_Landscape", 11906, 8418},
+    PageSize{u"B5", 9978, 14174},
+    PageSize{u"LETTER", 12240, 15840},
+    PageSize{u"LETTER_Landscape", 15840, 12240},
+    PageSize{u"LEGAL", 12240, 20160},
+};
+
+} // namespace
+
+Tabs::Tabs(App& app, TabStrip& strip) : app_(app), strip_(strip), documents_(1) {}
+
+Tabs::~Tabs() = default;
+
+frmMDIChild* Tabs::Document(int slot) {
+    return TabState.InUse(slot) ? documents_[static_cast<std::size_t>(slot)].get() : nullptr;
+}
+
+frmMDIChild* Tabs::Active() const {
+    return dynamic_cast<frmMDIChild*>(strip_.ActiveChild());
+}
+
+void Tabs::NewDocument() {
+    const int slot = TabState.FindFreeIndex();
+    documents_.resize(std::max(documents_.size(), static_cast<std::size_t>(slot) + 1));
+    auto& document = documents_[static_cast<std::size_t>(slot)];
+    if (document != nullptr) stranded_.push_back(std::move(document));
+    document = std::make_unique<frmMDIChild>(app_, TabState);
+    document->EnsureLoaded();
+    ResolvePageSize();
+    document->Tag = NumberText(slot);
+    document->Caption = u"Untitled_" + NumberText(slot) + u".tbx";
+    TabState[slot].Path = document->Caption;
+    strip_.Add(*document);
+    CurrentTabIndex = static_cast<std::int16_t>(slot);
+}
+
+void Tabs::AddNewTab() {
+    strip_.AllowDrawing = false;
+    NewDocument();
+    // The strip lays itself out when it may draw again: the window needs no nudge.
+    strip_.AllowDrawing = true;
+}
+
+bool Tabs::Close(Form& child) {
+    if (OwnerOf(child) == nullptr || !child.Close()) return false;
+    strip_.Remove(child);
+    // Asked anew: the question may have let another tab in, and moved the documents.
+    closed_.push_back(std::move(*OwnerOf(child)));
+    return true;
+}
+
+std::unique_ptr<frmMDIChild>* Tabs::OwnerOf(const Form& child) {
+    for (auto* windows : {&documents_, &stranded_}) {
+        const auto found = std::ranges::find(*windows, &child,
+                                             [](const auto& window) -> const Form* { return window.get(); });
+        if (found != windows->end()) return &*found;
+    }
+    return nullptr;
+}
+
+bool Tabs::CloseAll() {
+    while (!strip_.Children().empty()) {
+        if (!Close(*strip_.Children().front())) return false;
+    }
+    return true;
+}
+
+void Tabs::ReleaseClosed() {
+    closed_.clear();
+}
+
+void Tabs::SwitchForward() {
+    SwitchBy(1);
+}
+
+void Tabs::SwitchBack() {
+    SwitchBy(-1);
+}
+
+void Tabs::Show(int slot) {
+    frmMDIChild* document = Document(slot);
+    if (document == nullptr) return;
+    strip_.Select(*document);
+    document->GridStore().GridSetFocus();
+}
+
+int Tabs::ActiveSlot() const {
+    const frmMDIChild* active = Active();
+    return active == nullptr ? 0 : active->Slot();
+}
+
+void Tabs::SwitchBy(int step) {
+    if (TabState.CountInUse() == 0) return;
+    const auto next = [this, step](int slot) {
+        const int moved = slot + step;
+        if (moved < 1) return TabState.UpperBound();
+        return moved > TabState.UpperBound() ? 1 : moved;
+    };
+    int slot = next(ActiveSlot());
+    while (!TabState.InUse(slot))
+        slot = next(slot);
+    app_.Screen().ProcessMessages();
+    Show(slot);
+}
+
+void Tabs::ResolvePageSize() {
+    for (const PageSize& size : kPageSizes) {
+        if (app_.Settings.PageSizeName != size.name) continue;
+        PageWidth = size.width;
+        PageHeight = size.height;
+    }
+}
+
+} // namespace korvane

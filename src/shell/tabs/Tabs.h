@@ -1,0 +1,71 @@
+#pragma once
+
+#include "common/text/Text.h"
+#include "shell/tabs/TabStates.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace korvane {
+
+class App;
+class Form;
+class TabStrip;
+class frmMDIChild;
+
+/// The open databases: each has a slot, which holds its window and its `TabState`.
+class Tabs {
+public:
+    /// Both outlive the tabs.
+    Tabs(App& app, TabStrip& strip);
+    ~Tabs();
+
+    TabStates TabState;
+    /// The slot of the tab that was made last; 0 before the first.
+    std::int16_t CurrentTabIndex = 0;
+    // The paper size by the settings' name for it, in twips. Nothing reads them.
+    int PageWidth = 0;
+    int PageHeight = 0;
+
+    /// nullptr for a slot that isn't in use.
+    frmMDIChild* Document(int slot);
+    /// The tab that commands go to; nullptr when none is open.
+    frmMDIChild* Active() const;
+
+    /// Makes a tab and shows it.
+    void NewDocument();
+    /// The same without painting in between.
+    void AddNewTab();
+
+    /// Closes a tab, which may ask and refuse. The window lives on until `ReleaseClosed`, since the command
+    /// that closes it may be its own.
+    bool Close(Form& child);
+    /// Closes all in the order of the strip; stops at the first that refuses.
+    bool CloseAll();
+    void ReleaseClosed();
+
+    // In the order of the slots, whatever the order on the strip.
+    void SwitchForward();
+    void SwitchBack();
+    /// Brings a tab to the front with the keyboard.
+    void Show(int slot);
+
+private:
+    /// Who keeps the window; nullptr when it is none of the tabs.
+    std::unique_ptr<frmMDIChild>* OwnerOf(const Form& child);
+    int ActiveSlot() const;
+    void SwitchBy(int step);
+    void ResolvePageSize();
+
+    App& app_;
+    TabStrip& strip_;
+    /// By slot; entry 0 is never used.
+    std::vector<std::unique_ptr<frmMDIChild>> documents_;
+    /// Open windows whose slot was given to another one: it was freed, and then the user refused to close.
+    std::vector<std::unique_ptr<frmMDIChild>> stranded_;
+    std::vector<std::unique_ptr<frmMDIChild>> closed_;
+};
+
+} // namespace korvane

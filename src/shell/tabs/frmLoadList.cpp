@@ -1,0 +1,210 @@
+#include "shell/tabs/frmLoadList.h"
+
+#include "common/number/DateTime.h"
+#include "common/number/Number.h"
+#include "common/text/FindEntry.h"
+#include "context/App.h"
+#include "context/Ports.h"
+#include "context/StandardMessages.h"
+#include "context/WindowFitting.h"
+#include "dialogs/Docking.h"
+#include "platform/Clipboard.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/Screen.h"
+#include "platform/Shell.h"
+#include "shell/main/frmMDIParent.h"
+#include "shell/tabs/Tabs.h"
+#include "shell/tabs/frmMDIChild.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr TextView kRootKey = u"Root";
+constexpr TextView kNodeKey = u"X_";
+
+// The third name has a slip of the pen. Deliberate: it is the entry's name.
+constexpr std::array kMenu{
+    MenuEntry{0, "mnuFile", u"&File", ""},
+    MenuEntry{1, "mnuSwitch", u"&Switch to text", ""},
+    MenuEntry{1, "mnuClipList", u"List to clip&board", ""},
+    MenuEntry{1, "mnuExpolorer", u"E&xplorer", ""},
+    MenuEntry{1, "mnuDirLister", u"Directory &lister", ""},
+    MenuEntry{1, "mnuExit", u"&Close", ""},
+    MenuEntry{0, "mnuView", u"&View", ""},
+    MenuEntry{1, "mnuToggle", u"Long/short &display", ""},
+};
+
+constexpr StoredPlace kPlace{&Settings::LoadListLeft, &Settings::LoadListTop, &Settings::LoadListWidth,
+                             &Settings::LoadListHeight};
+
+Text KeyOf(int slot) {
+    return Text(kNodeKey) + NumberText(slot);
+}
+
+Text DiskInfo(const FileSystem& files, const Text& path) {
+    const auto modified = files.Modified(path);
+    return u"  [ disk size: " + FormatGrouped(files.Size(path).value_or(0)) + u"; modified: " +
+           (modified ? FormatDate(*modified, u"dd.mm.yyyy, hh:mm") : Text()) + u" ]";
+}
+
+} // namespace
+
+const frmLoadList::MenuHandler frmLoadList::kMenuHandlers[] = {
+    {"mnuSwitch", &frmLoadList::SwitchToText}, {"mnuClipList", &frmLoadList::ListToClipboard},
+    {"mnuExpolorer", &frmLoadList::Explore},   {"mnuDirLister", &frmLoadList::ShowDirLister},
+    {"mnuExit", &frmLoadList::CloseWindow},    {"mnuToggle", &frmLoadList::ToggleForm},
+};
+
+frmLoadList::frmLoadList(App& app, Tabs& tabs, const Form& owner)
+    : Form(app.Forms(), "frmLoadList", u"Following asterisks mean text has been altered"),
+      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      app_(app),
+      tabs_(tabs),
+      owner_(owner) {
+    Wire();
+}
+
+void frmLoadList::Wire() {
+    OfficeMenu1.Chosen = [this](std::string_view entry) {
+        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
+        if (found != nullptr) (this->*found->run)();
+    };
+    cmdSwitch.Click = [this] { SwitchToText(); };
+    cmdToClip.Click = [this] { ListToClipboard(); };
+    cmdToggleForm.Click = [this] { ToggleForm(); };
+    cmdExplorer.Click = [this] { Explore(); };
+    cmdDirLister.Click = [this] { ShowDirLister(); };
+    cmdCentreOnScreen.Click = [this] { CentreOnScreen(); };
+    cmdExit.Click = [this] { Close(); };
+    cmdExit.Cancel = true;
+    FileTree.DblClick = [this] { SwitchToText(); };
+    FileTree.KeyDown = [this](KeyEvent& key) { FileTree_KeyDown(key); };
+}
+
+void frmLoadList::Load() {
+    RestorePlace(app_, *this, kPlace);
+    const DateTime now = app_.Clock().Now();
+    Label1.Caption = u" Date/time:  " + FormatDate(now, u"dddd, mmm d yyyy", app_.Locale().Names()) + u", " +
+                     FormatDate(now, u"hh:mm");
+    FillTree();
+    const frmMDIChild* active = tabs_.Active();
+    FileTree.Select(active == nullptr ? Text(kRootKey) : KeyOf(active->Slot()));
+    FileTree.SetFocus();
+}
+
+void frmLoadList::Unload() {
+    StorePlace(app_, *this, kPlace);
+}
+
+void frmLoadList::FillTree() {
+    const Text folder = app_.Files().ProgramDir();
+    const PathStyle style = app_.Files().Style();
+    FileTree.Images =
+        TreeImages{style.JoinPath(folder, u"FolderClosed.ico"), style.JoinPath(folder, u"FolderOpen.ico")};
+    FileTree.Clear();
+    FileTree.Add({}, kRootKey, u" Open files");
+    int number = 0;
+    for (int slot = 1; slot <= tabs_.TabState.UpperBound(); ++slot) {
+        if (tabs_.TabState.InUse(slot)) FileTree.Add(kRootKey, KeyOf(slot), NodeText(++number, slot));
+    }
+    FileTree.SetExpanded(kRootKey, true);
+}
+
+Text frmLoadList::NodeText(int number, int slot) const {
+    const TabState& state = tabs_.TabState[slot];
+    const bool isLong = app_.Settings.LoadListLongForm == 1;
+    const Text shown = isLong ? state.Path : Text(app_.Files().Style().NamePart(state.Path));
+    return u"[" + NumberText(number) + u"]  " + shown + (state.Dirty != 0 ? u"   * * *" : u"") +
+           DiskInfo(app_.Files(), state.Path);
+}
+
+int frmLoadList::SelectedSlot() const {
+    int slot = 0;
+    if (FileTree.Selected().starts_with(kNodeKey))
+        ReadNumber(Mid(FileTree.Selected(), kNodeKey.size() + 1), slot);
+    return slot;
+}
+
+void frmLoadList::SwitchToText() {
+    SwitchTarget = SelectedSlot();
+    Close();
+}
+
+void frmLoadList::ListToClipboard() {
+    Text list;
+    for (int slot = 1; slot <= tabs_.TabState.UpperBound(); ++slot) {
+        if (const frmMDIChild* tab = tabs_.Document(slot)) list += tab->Caption.Get() + Text(kCrLf);
+    }
+    app_.Clipboard().SetText(list);
+    ShowPasteHint(app_);
+}
+
+void frmLoadList::ToggleForm() {
+    std::int16_t& isLong = app_.Settings.LoadListLongForm;
+    isLong = isLong == 1 ? 0 : 1;
+    const Text selected = FileTree.Selected();
+    FillTree();
+    FileTree.Select(selected);
+}
+
+void frmLoadList::Explore() {
+    const int slot = SelectedSlot();
+    if (!tabs_.TabState.InUse(slot)) return;
+    const PathStyle style = app_.Files().Style();
+    const Text folder = style.DirectoryForChange(style.FolderPart(tabs_.TabState[slot].Path));
+    app_.Shell().Open({.verb = u"explore", .file = folder, .directory = folder});
+}
+
+void frmLoadList::ShowDirLister() {
+    if (app_.MainWindow != nullptr) app_.MainWindow->RunCommand("mnuFile_DirLister");
+}
+
+void frmLoadList::CentreOnScreen() {
+    const Rect area = app_.Screen().WorkArea();
+    Height = area.height;
+    Top = area.top;
+    Left = area.left + (area.width - Width.Get()) / 2;
+}
+
+void frmLoadList::FileTree_KeyDown(KeyEvent& key) {
+    struct TreeKey {
+        int code;
+        bool withCtrl;
+        Handler run;
+    };
+    static constexpr std::array<TreeKey, 7> kKeys{{
+        {Key::Escape, false, &frmLoadList::CloseWindow},
+        {Key::Clear, false, &frmLoadList::CloseWindow},
+        {Key::Return, false, &frmLoadList::SwitchToText},
+        {Key::F(2), false, &frmLoadList::ShowDirLister},
+        {Key::F(9), true, &frmLoadList::Explore},
+        {'C', true, &frmLoadList::ListToClipboard},
+        {'D', true, &frmLoadList::ToggleForm},
+    }};
+    if (DockByKey(app_, owner_, *this, key)) return;
+    const bool withCtrl = (key.mask & Mask::Ctrl) != 0;
+    const auto* found = std::ranges::find_if(kKeys, [&](const TreeKey& each) {
+        return key.code == each.code && (each.withCtrl ? withCtrl : key.mask == Mask::None);
+    });
+    if (found == kKeys.end()) return;
+    key.consumed = true;
+    (this->*found->run)();
+}
+
+void ShowLoadedFiles(frmMDIParent& main) {
+    frmLoadList form(main.TheApp(), main.TheTabs(), main);
+    form.ShowModal();
+    if (!main.TheTabs().TabState.InUse(form.SwitchTarget)) return;
+    main.TheApp().Screen().ProcessMessages();
+    main.TheTabs().Show(form.SwitchTarget);
+    main.TheApp().Screen().ProcessMessages();
+    // What came in meanwhile may have taken the keyboard.
+    main.TheTabs().Show(form.SwitchTarget);
+}
+
+} // namespace korvane

@@ -1,0 +1,146 @@
+#include "shell/tabs/frmMDIChild.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "context/Ports.h"
+#include "dbops/commands/RowHeight.h"
+#include "dbops/rules/TableSearch.h"
+#include "shell/commands/GridKeys.h"
+#include "shell/commands/TabCommands.h"
+#include "shell/tabs/TabStates.h"
+#include "table/SaveCommands.h"
+
+namespace korvane {
+
+frmMDIChild::frmMDIChild(App& app, TabStates& states)
+    : Form(app.Forms(), "frmMDIChild", u""),
+      iGrid1(*this, "iGrid1", app.MakeGrid()),
+      app_(app),
+      states_(states),
+      table_(iGrid1.Store()),
+      history_(table_, *this) {
+    cmdFind.Click = [this] { cmdFind_Click(); };
+    txtFindString.Change = [this] { iGrid1.MarkedText = txtFindString.Text; };
+    txtFindString.KeyDown = [this](KeyEvent& key) { txtFindString_KeyDown(key); };
+    txtRowHeight.KeyDown = [this](KeyEvent& key) { txtRowHeight_KeyDown(key); };
+    ZoomSlider.Scroll = [this] { ZoomSlider_Scroll(); };
+    ZoomSlider.Released = [this] { ZoomSlider_Released(); };
+    iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
+    iGrid1.AfterChange = [this] { history_.EndStep(); };
+    iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
+    iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
+    iGrid1.KeyDown = [this](KeyEvent& key) { iGrid1_KeyDown(key); };
+    ForwardToMainWindow(cmdWebsites, "mnuMisc_Websites");
+    ForwardToMainWindow(cmdWallpaper, "mnuMisc_Wallpaper");
+    ForwardToMainWindow(cmdSettings, "mnuMisc_Settings");
+    ForwardToMainWindow(cmdHelp, "mnuHelpText");
+}
+
+TabContext frmMDIChild::Context() {
+    return {app_, table_, *this, &history_};
+}
+
+void frmMDIChild::Invoke(std::string_view routine) {
+    const TabCommand run = FindTabCommand(routine);
+    if (run == nullptr) return;
+    const TableStep step(history_);
+    run(Context());
+}
+
+int frmMDIChild::Slot() const {
+    std::int16_t slot = 0;
+    ReadNumber(TextView(Tag), slot);
+    return slot;
+}
+
+void frmMDIChild::Load() {
+    txtFindString.Text = app_.Settings.LastDbFindText;
+}
+
+bool frmMDIChild::QueryUnload() {
+    if (!AskToSaveAtClosing(Context())) return false;
+    app_.Settings.LastDbFindText = txtFindString.Text;
+    states_[Slot()].Deleted = -1;
+    return true;
+}
+
+void frmMDIChild::Activate() {
+    GridStore().GridSetFocus();
+}
+
+void frmMDIChild::cmdFind_Click() {
+    FindFromBox(Context(), txtFindString.Text.Get());
+}
+
+void frmMDIChild::txtFindString_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Return, Mask::None)) return;
+    key.consumed = true;
+    cmdFind_Click();
+}
+
+void frmMDIChild::txtRowHeight_KeyDown(KeyEvent& key) {
+    if (!key.Is(Key::Return, Mask::Ctrl | Mask::Shift)) return;
+    const TableStep step(history_);
+    ApplyTypedRowHeight(Context(), txtRowHeight.Text.Get());
+    key.consumed = true;
+}
+
+void frmMDIChild::ZoomSlider_Scroll() {
+    if (!sliding_) sliding_.emplace(history_);
+    MoveRowHeight(Context(), ZoomSlider.Value);
+}
+
+void frmMDIChild::ZoomSlider_Released() {
+    ApplyRowHeight(Context());
+    sliding_.reset();
+}
+
+void frmMDIChild::iGrid1_AfterEdit() {
+    table_.TableAltered = 1;
+}
+
+void frmMDIChild::iGrid1_HeaderClick() {
+    // Taking the setting away doesn't take sorting away from a tab that has it. Deliberate: a table keeps
+    // behaving as it did when its headers were first clicked.
+    if (app_.Settings.AllowSorting == 1) GridStore().SetSortOnHeaderClick(true);
+    if (GridStore().SortOnHeaderClick()) table_.TableAltered = 1;
+}
+
+void frmMDIChild::iGrid1_MouseUp(MouseButton button) {
+    if (button == MouseButton::Right && app_.MainWindow != nullptr) app_.MainWindow->ShowPopupMenu();
+}
+
+void frmMDIChild::iGrid1_KeyDown(KeyEvent& key) {
+    const GridKey* rule = FindGridKey(key);
+    if (rule == nullptr) return;
+    key.consumed = rule->swallowed;
+    if (rule->target == GridKey::Target::Main) {
+        RunOnMainWindow(rule->routine);
+    } else {
+        Invoke(rule->routine);
+    }
+    if (rule->target == GridKey::Target::TabThenFocus) GridStore().GridSetFocus();
+}
+
+void frmMDIChild::ForwardToMainWindow(CommandButton& button, std::string_view command) {
+    button.Click = [this, command] { RunOnMainWindow(command); };
+}
+
+void frmMDIChild::RunOnMainWindow(std::string_view command) {
+    if (app_.MainWindow != nullptr) app_.MainWindow->RunCommand(command);
+}
+
+void frmMDIChild::ShowRowHeight(std::int16_t height) {
+    ZoomSlider.Value = height;
+    txtRowHeight.Text = NumberText(height);
+}
+
+void frmMDIChild::SetTabCaption(TextView caption) {
+    Caption = Text(caption);
+}
+
+void frmMDIChild::ClearDirty() {
+    states_[Slot()].Dirty = 0;
+}
+
+} // namespace korvane

@@ -1,0 +1,26 @@
+#include "shell/commands/frmAbout.h"
+
+#include "shell/main/frmMDIParent.h"
+#include "support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+TEST(AboutTest, TheMenuShowsTheNameOfTheProgram) {
+    TestApp t;
+    frmMDIParent main(t.app, u"");
+    bool shown = false;
+    t.user.On<frmAbout>([&shown](frmAbout& f) {
+        shown = true;
+        EXPECT_EQ(f.lblTitle.Caption.Get(), u"Korvane");
+        EXPECT_TRUE(f.cmdClose.Cancel);
+        f.cmdClose.Press();
+    });
+    main.RunCommand("mnuMisc_About");
+    EXPECT_TRUE(shown);
+}
+
+} // namespace
+} // namespace korvane
