@@ -1,0 +1,2 @@
+// The moc of Qt 6.4 can't read <compare> before <cstddef>.
+#include <cstddef>
