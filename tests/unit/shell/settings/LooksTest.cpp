@@ -21,25 +21,25 @@ protected:
 TEST_F(ShellLooks, Settings) {
     p.StartWith({});
     ExpectLook(
-        frmSettings(p.Main()), "shell",
+        frmSettings(p.Main()), "shell/settings",
         {"Your custom browser", "Your program for viewing PDF files", "Wallpaper file:", "Return password"});
 }
 
 TEST_F(ShellLooks, ProgramLocations) {
-    ExpectLook(frmProgramLocations(p.app), "shell", {});
+    ExpectLook(frmProgramLocations(p.app), "shell/settings", {});
 }
 
 TEST_F(ShellLooks, SetYourProgram) {
-    ExpectLook(frmSetYourProg(p.app), "shell", {"Program to load"});
+    ExpectLook(frmSetYourProg(p.app), "shell/settings", {"Program to load"});
 }
 
 TEST_F(ShellLooks, StringsForKeys) {
-    ExpectLook(frmCtrlRet(p.app), "shell", {"Ctrl-Shift+Return", "Alt+Return"});
+    ExpectLook(frmCtrlRet(p.app), "shell/settings", {"Ctrl-Shift+Return", "Alt+Return"});
 }
 
 TEST_F(ShellLooks, WindowSize) {
     WindowSizeChoice choice;
-    ExpectLook(frmWindowSize(p.app, choice), "shell", {"Choose size or percent of screen"});
+    ExpectLook(frmWindowSize(p.app, choice), "shell/settings", {"Choose size or percent of screen"});
 }
 
 } // namespace

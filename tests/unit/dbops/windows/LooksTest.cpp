@@ -24,8 +24,8 @@ protected:
     /// Each control has its widget, the keyboard reaches it, and each plain text stands in the look.
     static void Check(const Form& form, const std::set<std::string>& reached,
                       const std::set<std::string>& plainTexts) {
-        ExpectLook(form, "dbops", plainTexts);
-        EXPECT_EQ(Between(LookOf("dbops", form.Name()), "<tabstop>", "</tabstop>"), reached);
+        ExpectLook(form, "dbops/windows", plainTexts);
+        EXPECT_EQ(Between(LookOf("dbops/windows", form.Name()), "<tabstop>", "</tabstop>"), reached);
     }
 
     TestTab t;
