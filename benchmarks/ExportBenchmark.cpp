@@ -3,7 +3,7 @@
 #include "LimitTable.h"
 #include "ProceedingUser.h"
 #include "RawFile.h"
-#include "context/Ports.h"
+#include "context/ports/SystemFileDialog.h"
 #include "dbops/commands/ExcelExport.h"
 #include "dbops/windows/frmChooseRange.h"
 #include "platform/xls/XlsSpreadsheet.h"
@@ -38,7 +38,7 @@ void ExportXls(benchmark::State& state) {
     App app{{program.files, program.messages, program.clipboard, program.clock, program.screen, program.shell,
              program.instance, user, [] { return nullptr; }, CodePage::Windows1252(), nullptr,
              [&program] { return std::make_unique<XlsSpreadsheet>(program.files, program.shell); }}};
-    app.SystemFileDialog = &dialog;
+    app.SetPort<SystemFileDialog>(&dialog);
     const TabContext tab{app, program.table, program.host};
     mnuExport_Excel_Clack(tab);
     const RawFile exported = ReadRaw(path);

@@ -1,6 +1,7 @@
 #include "BenchProgram.h"
 #include "Contest.h"
 #include "LimitTable.h"
+#include "grid/Grid.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "BenchProgram.h"
 #include "Contest.h"
-#include "context/Ports.h"
+#include "context/ports/ClipboardView.h"
 #include "table/ImportCommand.h"
 
 #include <cstdlib>
@@ -51,7 +51,7 @@ void Import(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state) {
         const auto program = std::make_unique<BenchProgram>();
         program->clipboard.SetText(TabbedText());
-        program->app.ClipboardView = &view;
+        program->app.SetPort<ClipboardView>(&view);
         program->messages.QueueAnswer(Answer::Yes);
         const double floor = SecondsOf([&program] {
             const Text text = program->clipboard.GetText();

@@ -3,6 +3,7 @@
 
 #include "StateStage.h"
 #include "common/number/DateTime.h"
+#include "context/exchange/StateFiles.h"
 #include "shell/recent/RecentRecord.h"
 
 #include <algorithm>
@@ -17,7 +18,7 @@ constexpr DateTime kNow{2026, 11, 21, 10, 30, 0};
 constexpr std::size_t kMostLoads = 8;
 
 RecentRecord Read(std::string_view bytes, StateStage& stage) {
-    stage.files.AddFile(stage.app.RecFilePath, bytes);
+    stage.files.AddFile(stage.app.Exchange<StateFiles>().RecFilePath, bytes);
     RecentRecord record;
     record.Read(stage.app);
     return record;
@@ -25,7 +26,7 @@ RecentRecord Read(std::string_view bytes, StateStage& stage) {
 
 std::string Write(const RecentRecord& record, StateStage& stage) {
     record.Write(stage.app);
-    return stage.files.Contents(stage.app.RecFilePath).value_or("");
+    return stage.files.Contents(stage.app.Exchange<StateFiles>().RecFilePath).value_or("");
 }
 
 void RequireWithinBounds(const RecentRecord& record) {

@@ -2,6 +2,7 @@
 
 #include "StateStage.h"
 #include "common/settings/Settings.h"
+#include "context/exchange/StateFiles.h"
 #include "shell/settings/SettingsFile.h"
 
 #include <array>
@@ -28,11 +29,11 @@ constexpr std::array kNumberTexts{&Settings::FileDialogFilter, &Settings::PageSi
 
 std::string Write(StateStage& stage) {
     WriteSettings(stage.app);
-    return stage.files.Contents(stage.app.IniFilePath).value_or("");
+    return stage.files.Contents(stage.app.Exchange<StateFiles>().IniFilePath).value_or("");
 }
 
 void Read(std::string_view bytes, StateStage& stage) {
-    stage.files.AddFile(stage.app.IniFilePath, bytes);
+    stage.files.AddFile(stage.app.Exchange<StateFiles>().IniFilePath, bytes);
     ReadSettings(stage.app);
 }
 

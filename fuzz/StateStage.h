@@ -2,6 +2,7 @@
 
 #include "Require.h"
 #include "context/App.h"
+#include "context/exchange/StateFiles.h"
 #include "controls/FormHost.h"
 #include "grid/GridStore.h"
 #include "platform/MessageBoxes.h"
@@ -34,8 +35,8 @@ public:
 class StateStage {
 public:
     StateStage() {
-        app.IniFilePath = u"C:\\Korvane\\Korvane.ini";
-        app.RecFilePath = u"C:\\Korvane\\Korvane.rec";
+        app.Exchange<StateFiles>().IniFilePath = u"C:\\Korvane\\Korvane.ini";
+        app.Exchange<StateFiles>().RecFilePath = u"C:\\Korvane\\Korvane.rec";
     }
 
     MemoryClock clock;

@@ -1,6 +1,12 @@
 #include "app/Program.h"
 
 #include "app/SystemParts.h"
+#include "context/exchange/StartState.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FilePicker.h"
+#include "context/ports/FileViewer.h"
+#include "context/ports/FontPicker.h"
+#include "context/ports/SystemFileDialog.h"
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
@@ -42,17 +48,17 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
           system.Folders(), locale_)) {
-    app_.FilePicker = &filePicker_;
-    app_.SystemFileDialog = &systemFileDialog_;
-    app_.FontPicker = &fontPicker_;
-    app_.ColourPicker = &colourPicker_;
-    app_.FileViewer = &fileViewer_;
+    app_.SetPort<FilePicker>(&filePicker_);
+    app_.SetPort<SystemFileDialog>(&systemFileDialog_);
+    app_.SetPort<FontPicker>(&fontPicker_);
+    app_.SetPort<ColourPicker>(&colourPicker_);
+    app_.SetPort<FileViewer>(&fileViewer_);
 }
 
 int Program::Run(const Text& path) {
     frmMDIParent main(app_, path);
     main.EnsureLoaded();
-    if (app_.SecondInstance == 1) return 0;
+    if (app_.Exchange<StartState>().SecondInstance == 1) return 0;
     main.Show();
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
     QObject whileItRuns;

@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/Launching.h"
+#include "context/exchange/SystemDirs.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
@@ -29,10 +30,11 @@ constexpr std::array<TextView, 6> kCalculators{u"gnome-calculator", u"kcalc",   
                                                u"qalculate-gtk",    u"galculator", u"xcalc"};
 
 void StartCalculator(App& app, TextView) {
+    SystemDirs& dirs = app.Exchange<SystemDirs>();
     if (app.Files().Style().HasDrives()) {
         // By its full path: a bare name would be looked for in the current directory first, where it may be
         // anything.
-        if (!app.SystemDir.empty()) app.Shell().Run(app.SystemDir + u"calc.exe", {}, WindowState::Normal);
+        if (!dirs.SystemDir.empty()) app.Shell().Run(dirs.SystemDir + u"calc.exe", {}, WindowState::Normal);
         return;
     }
     std::ranges::find_if(kCalculators, [&app](TextView calculator) {

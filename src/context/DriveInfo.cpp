@@ -2,6 +2,7 @@
 
 #include "common/path/PathStyle.h"
 #include "context/App.h"
+#include "context/exchange/DriveReport.h"
 #include "platform/FileSystem.h"
 
 #include <array>
@@ -43,14 +44,15 @@ Text DriveRoot(const PathStyle& style, TextView drive) {
 } // namespace
 
 void ReadDriveInfo(App& app, TextView drive) {
+    DriveReport& report = app.Exchange<DriveReport>();
     const FileSystem& files = app.Files();
     const auto volume = files.Volume(DriveRoot(files.Style(), drive));
     if (!volume) {
-        if (IsBlank(app.DriveLabel)) app.DriveLabel = LabelOf({});
+        if (IsBlank(report.DriveLabel)) report.DriveLabel = LabelOf({});
         return;
     }
-    app.DriveTypeText = TypeText(volume->type);
-    app.DriveLabel = LabelOf(*volume);
+    report.DriveTypeText = TypeText(volume->type);
+    report.DriveLabel = LabelOf(*volume);
 }
 
 } // namespace korvane

@@ -1,7 +1,8 @@
 #include "context/FileChooser.h"
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/FilePicker.h"
 #include "platform/FileSystem.h"
 
 namespace korvane {
@@ -10,27 +11,29 @@ namespace {
 
 /// What the chooser leaves behind. The filter is a line of the settings file as well; "0" is what the reader
 /// of that line makes of any filter.
-void LeaveAtRest(App& app) {
-    app.Lister.FileDialogFilter = u"0";
-    app.Lister.FileDialogCaption.clear();
-    app.Settings.FileDialogFilter = app.Lister.FileDialogFilter;
+void LeaveAtRest(App& app, ListerRequest& request) {
+    request.FileDialogFilter = u"0";
+    request.FileDialogCaption.clear();
+    app.Settings.FileDialogFilter = request.FileDialogFilter;
 }
 
 void Show(App& app, TextView filter, TextView caption) {
-    app.Lister.FileDialogFilter = Text(filter);
-    app.Lister.FileDialogCaption = Text(caption);
-    app.Lister.ChosenFilePath.clear();
-    if (app.FilePicker != nullptr) app.FilePicker->Choose(app.Lister);
-    LeaveAtRest(app);
+    ListerRequest& request = app.Exchange<ListerRequest>();
+    request.FileDialogFilter = Text(filter);
+    request.FileDialogCaption = Text(caption);
+    request.ChosenFilePath.clear();
+    if (auto* filePicker = app.Port<FilePicker>()) filePicker->Choose(request);
+    LeaveAtRest(app, request);
 }
 
 } // namespace
 
 void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView caption, TextView defaultName) {
-    app.Lister.ListerMode = static_cast<std::int16_t>(mode);
-    app.Lister.FileDialogDefaultName = Text(defaultName);
+    ListerRequest& request = app.Exchange<ListerRequest>();
+    request.ListerMode = static_cast<std::int16_t>(mode);
+    request.FileDialogDefaultName = Text(defaultName);
     Show(app, filter, caption);
-    app.Lister.ListerMode = static_cast<std::int16_t>(ChooserMode::Load);
+    request.ListerMode = static_cast<std::int16_t>(ChooserMode::Load);
 }
 
 void ShowDirectoryLister(App& app) {

@@ -6,6 +6,7 @@
 #include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/StoredPaths.h"
+#include "context/exchange/SystemDirs.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
@@ -100,7 +101,8 @@ Text FindOfficeProgram(const App& app, TextView name) {
     Text path;
     for (const TextView folder : kOfficeFolders) {
         // The folder of programs ends in a backslash already; the system takes two for one.
-        path = app.ProgramFilesDir + u"\\Microsoft Office\\" + Text(folder) + u"\\" + Text(name);
+        path = app.Exchange<SystemDirs>().ProgramFilesDir + u"\\Microsoft Office\\" + Text(folder) + u"\\" +
+               Text(name);
         if (files.FileExists(path)) break;
     }
     return path;

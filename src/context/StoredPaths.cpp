@@ -2,6 +2,7 @@
 
 #include "common/path/DriveForms.h"
 #include "context/App.h"
+#include "context/exchange/ListerRequest.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
@@ -34,7 +35,7 @@ Text MapFolderPath(App& app, TextView path) {
     const FileSystem& files = app.Files();
     const Text folder = files.DirExists(path) ? Text(path) : OtherFolderForm(files.Style(), path);
     if (files.DirExists(folder)) {
-        app.Lister.CurrentFolderHint = folder;
+        app.Exchange<ListerRequest>().CurrentFolderHint = folder;
     } else {
         ShowCannotLocateDirectory(app, folder);
     }

@@ -2,6 +2,7 @@
 
 #include "common/number/Units.h"
 #include "common/text/Text.h"
+#include "controls/FontSpec.h"
 #include "controls/KeyEvent.h"
 #include "controls/Observed.h"
 
@@ -12,14 +13,6 @@
 namespace korvane {
 
 class Form;
-
-/// The font of a control; an empty name and size 0 leave the system's own.
-struct FontSpec {
-    Text name;
-    int size = 0;
-    bool bold = false;
-    bool operator==(const FontSpec&) const = default;
-};
 
 /// A named part of a window. It joins its window's list of controls when it is made, in the order of
 /// declaration.

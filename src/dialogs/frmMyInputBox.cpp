@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "context/Desktop.h"
+#include "context/exchange/InputQuestion.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
@@ -17,10 +18,11 @@ frmMyInputBox::frmMyInputBox(App& app) : Form(app.Forms(), "frmMyInputBox", u"Ko
 }
 
 void frmMyInputBox::Load() {
-    txtBoxText.Text = app_.InputInitial;
+    InputQuestion& question = app_.Exchange<InputQuestion>();
+    txtBoxText.Text = question.InputInitial;
     txtBoxText.SelectAll();
-    txtBoxCaption.Caption = app_.InputCaption;
-    app_.InputResult.clear();
+    txtBoxCaption.Caption = question.InputCaption;
+    question.InputResult.clear();
 }
 
 void frmMyInputBox::txtBoxText_KeyDown(KeyEvent& key) {
@@ -30,7 +32,7 @@ void frmMyInputBox::txtBoxText_KeyDown(KeyEvent& key) {
 }
 
 void frmMyInputBox::cmdOk_Click() {
-    app_.InputResult = txtBoxText.Text;
+    app_.Exchange<InputQuestion>().InputResult = txtBoxText.Text;
     app_.DialogResult = 1;
     Close();
 }
@@ -46,11 +48,12 @@ void frmMyInputBox::cmdExplorer_Click() {
 }
 
 Text AskForText(App& app, TextView caption, TextView initial) {
-    app.InputCaption = Text(caption);
-    app.InputInitial = Text(initial);
+    InputQuestion& question = app.Exchange<InputQuestion>();
+    question.InputCaption = Text(caption);
+    question.InputInitial = Text(initial);
     app.DialogResult = 0;
     frmMyInputBox(app).ShowModal();
-    return app.InputResult;
+    return question.InputResult;
 }
 
 } // namespace korvane

@@ -5,6 +5,7 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/StandardMessages.h"
+#include "context/exchange/MessageQuestion.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
@@ -75,7 +76,7 @@ void frmMyMsgBox::Wire() {
 }
 
 void frmMyMsgBox::Load() {
-    facts_ = FactsOfFile(app_, app_.MsgFilePath);
+    facts_ = FactsOfFile(app_, app_.Exchange<MessageQuestion>().MsgFilePath);
     const DateTime now = app_.Clock().Now();
     today_ = FormatDate(now, u"dd/mm/yyyy");
     now_ = FormatDate(now, u"hh:mm:ss");
@@ -100,7 +101,7 @@ void frmMyMsgBox::Unload() {
 }
 
 void frmMyMsgBox::CloseWith(MsgAnswer answer) {
-    app_.MsgAnswer = answer;
+    app_.Exchange<MessageQuestion>().MsgAnswer = answer;
     Close();
 }
 

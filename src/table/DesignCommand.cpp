@@ -1,6 +1,7 @@
 #include "table/DesignCommand.h"
 
 #include "context/App.h"
+#include "grid/Grid.h"
 #include "table/NewTable.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"

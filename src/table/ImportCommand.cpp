@@ -2,7 +2,8 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/ClipboardView.h"
+#include "grid/Grid.h"
 #include "platform/Clipboard.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -55,7 +56,8 @@ void ImportClipboard(const TabContext& tab) {
 } // namespace
 
 void mnuImport_Clip_Clack(const TabContext& tab) {
-    if (tab.app.ClipboardView == nullptr || !tab.app.ClipboardView->Choose()) return;
+    auto* clipboardView = tab.app.Port<ClipboardView>();
+    if (clipboardView == nullptr || !clipboardView->Choose()) return;
     if (AskToSave(tab) && AskToImport(tab.app)) ImportClipboard(tab);
 }
 

@@ -2,6 +2,9 @@
 
 #include "context/App.h"
 #include "context/FileChooser.h"
+#include "context/exchange/ClosingSave.h"
+#include "context/exchange/ListerRequest.h"
+#include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "table/TabContext.h"
@@ -27,7 +30,7 @@ void SaveAndTell(const TabContext& tab) {
 }
 
 void SaveUnderChosenName(const TabContext& tab) {
-    tab.table.TxtDbFile = tab.app.Lister.ChosenFilePath;
+    tab.table.TxtDbFile = tab.app.Exchange<ListerRequest>().ChosenFilePath;
     SaveAndTell(tab);
     tab.host.SetTabCaption(tab.table.TxtDbFile);
     tab.app.DialogResult = 1;
@@ -40,11 +43,12 @@ Answer AskAboutChanges(const TabContext& tab, MessageIcon icon) {
 }
 
 bool SaveAtClosing(const TabContext& tab) {
+    ClosingSave& closing = tab.app.Exchange<ClosingSave>();
     // An old answer of another window mustn't refuse this closing.
     tab.app.DialogResult = 0;
-    tab.app.ClosingTabSave = 1;
+    closing.ClosingTabSave = 1;
     mnuFile_Save_Clack(tab);
-    tab.app.ClosingTabSave = 0;
+    closing.ClosingTabSave = 0;
     return tab.table.TableAltered == 0 && tab.app.DialogResult != kKeepTabOpen;
 }
 
@@ -67,7 +71,7 @@ void mnuFile_SaveAs_Clack(const TabContext& tab) {
     {
         const KeepCurrentDir keep(tab.app.Files());
         ShowFileChooser(tab.app, ChooserMode::Save, u"*.tbx", u"Save database to disk", tab.table.TxtDbFile);
-        if (!tab.app.Lister.ChosenFilePath.empty()) SaveUnderChosenName(tab);
+        if (!tab.app.Exchange<ListerRequest>().ChosenFilePath.empty()) SaveUnderChosenName(tab);
     }
     tab.table.GridStore().GridSetFocus();
 }

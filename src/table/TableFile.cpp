@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
+#include "grid/Grid.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"

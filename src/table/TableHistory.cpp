@@ -1,5 +1,6 @@
 #include "table/TableHistory.h"
 
+#include "grid/Grid.h"
 #include "table/TableHost.h"
 
 #include <utility>

@@ -1,6 +1,7 @@
 #include "table/TbxWriter.h"
 
 #include "common/number/Number.h"
+#include "grid/Grid.h"
 #include "table/TableModel.h"
 #include "table/TbxFormat.h"
 

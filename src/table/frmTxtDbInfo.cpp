@@ -2,6 +2,8 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "context/exchange/ClosingSave.h"
+#include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/UserLocale.h"
 #include "table/SaveCommands.h"
@@ -21,7 +23,7 @@ void frmTxtDbInfo::Load() {
     lblRows.Caption = NumberText(table.GridStore().RowCount().Number());
     lblCols.Caption = NumberText(table.GridStore().ColCount().Number());
     ShowFile();
-    cmdCancel.Visible = tab_.app.ClosingTabSave == 1;
+    cmdCancel.Visible = tab_.app.Exchange<ClosingSave>().ClosingTabSave == 1;
 }
 
 void frmTxtDbInfo::ShowFile() {

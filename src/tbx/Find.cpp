@@ -1,3 +1,4 @@
+#include "grid/Grid.h"
 #include "tbx/LoadedTable.h"
 
 namespace korvane {

@@ -1,6 +1,7 @@
 #include "tbx/TableCheck.h"
 
 #include "common/text/CodePage.h"
+#include "grid/Grid.h"
 #include "table/TbxFormat.h"
 
 namespace korvane {

@@ -1,5 +1,6 @@
 #include "tbx/TableDump.h"
 
+#include "grid/Grid.h"
 #include "tbx/Json.h"
 
 #include <array>

@@ -1,6 +1,8 @@
 #include "text/ClipboardWindow.h"
 
 #include "context/App.h"
+#include "context/exchange/TextWindowState.h"
+#include "context/ports/ClipboardView.h"
 #include "text/frmViewAndPaste.h"
 
 #include <utility>
@@ -8,11 +10,11 @@
 namespace korvane {
 
 ClipboardWindow::ClipboardWindow(App& app) : app_(app) {
-    app_.ClipboardView = this;
+    app_.SetPort<ClipboardView>(this);
 }
 
 ClipboardWindow::~ClipboardWindow() {
-    if (app_.ClipboardView == this) app_.ClipboardView = nullptr;
+    if (app_.Port<ClipboardView>() == this) app_.SetPort<ClipboardView>(nullptr);
 }
 
 void ClipboardWindow::Show() {
@@ -20,11 +22,12 @@ void ClipboardWindow::Show() {
 }
 
 bool ClipboardWindow::Choose() {
+    TextWindowState& textWindow = app_.Exchange<TextWindowState>();
     // The window takes a text window that isn't open for a caller who collects the contents himself.
-    const std::int16_t open = std::exchange(app_.TextWindowOpen, std::int16_t{0});
+    const std::int16_t open = std::exchange(textWindow.TextWindowOpen, std::int16_t{0});
     app_.DialogResult = 0;
     Show();
-    app_.TextWindowOpen = open;
+    textWindow.TextWindowOpen = open;
     return app_.DialogResult == 1;
 }
 

@@ -5,8 +5,11 @@
 #include "context/Companions.h"
 #include "context/Desktop.h"
 #include "context/Launching.h"
-#include "context/Ports.h"
 #include "context/WindowFitting.h"
+#include "context/exchange/TextWindowState.h"
+#include "context/ports/MainWindow.h"
+#include "context/ports/SystemFileDialog.h"
+#include "context/ports/TextWindow.h"
 #include "platform/Clipboard.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"
@@ -165,16 +168,17 @@ void frmViewAndPaste::iGridListBar_KeyDown(KeyEvent& key) {
 }
 
 void frmViewAndPaste::PutIntoTextWindow() {
-    if (app_.TextWindow == nullptr) return;
+    auto* textWindow = app_.Port<TextWindow>();
+    if (textWindow == nullptr) return;
     const TextBox& view = this->*Current().view;
-    if (&view == &Text1) return app_.TextWindow->TextWindowInsert(Text1.Text.Get());
+    if (&view == &Text1) return textWindow->TextWindowInsert(Text1.Text.Get());
     // Of a formatted rendering only what is selected in it. Deliberate: so a part can be pasted.
     const Text selected = view.SelText();
-    if (!selected.empty()) app_.TextWindow->TextWindowInsert(selected);
+    if (!selected.empty()) textWindow->TextWindowInsert(selected);
 }
 
 void frmViewAndPaste::mnuRetrieve_Click() {
-    if (app_.TextWindowOpen == 1) PutIntoTextWindow();
+    if (app_.Exchange<TextWindowState>().TextWindowOpen == 1) PutIntoTextWindow();
     app_.DialogResult = 1;
     Close();
 }
@@ -190,14 +194,16 @@ void frmViewAndPaste::mnuClipViewer_Click() {
 }
 
 void frmViewAndPaste::mnuSave_Click() {
-    const Text folder = app_.MainWindow == nullptr ? Text() : app_.MainWindow->GetActiveFolder();
-    if (app_.SystemFileDialog == nullptr) return;
-    const auto path = app_.SystemFileDialog->Choose({SystemFileDialog::Purpose::Save,
-                                                     u"All files (*.*)|*.*",
-                                                     u"Save clipboard contents to file",
-                                                     {},
-                                                     {},
-                                                     folder});
+    const Text folder =
+        app_.Port<MainWindow>() == nullptr ? Text() : app_.Port<MainWindow>()->GetActiveFolder();
+    auto* systemFileDialog = app_.Port<SystemFileDialog>();
+    if (systemFileDialog == nullptr) return;
+    const auto path = systemFileDialog->Choose({SystemFileDialog::Purpose::Save,
+                                                u"All files (*.*)|*.*",
+                                                u"Save clipboard contents to file",
+                                                {},
+                                                {},
+                                                folder});
     if (!path) return;
     const auto file = app_.Files().OpenRaw(*path);
     if (!file) return;
@@ -210,7 +216,7 @@ void frmViewAndPaste::mnuPinsey_Click() {
 }
 
 void frmViewAndPaste::mnuYourProgram_Click() {
-    if (app_.MainWindow != nullptr) app_.MainWindow->RunCommand("mnuMisc_YourProgram");
+    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand("mnuMisc_YourProgram");
 }
 
 void frmViewAndPaste::mnuExplorer_Click() {

@@ -1,4 +1,6 @@
 #include "QtSupport.h"
+#include "context/ports/FilePicker.h"
+#include "grid/Grid.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/binder/QtFormHost.h"
@@ -47,7 +49,7 @@ protected:
         outside.files.AddFile(outside.files.Style().JoinPath(outside.files.ProgramDir(), u"Korvane.ini"),
                               SettingsBytes(settings));
         outside.files.AddFile(kFile, NameTable(kFile, {"Bert", "Anna"}));
-        app.FilePicker = &outside.user;
+        app.SetPort<FilePicker>(&outside.user);
     }
 
     void SetUp() override {

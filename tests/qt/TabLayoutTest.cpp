@@ -1,3 +1,4 @@
+#include "grid/Grid.h"
 #include "platform/qt/binder/FormEntry.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "shell/tabs/TabStates.h"

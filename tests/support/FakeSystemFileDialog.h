@@ -1,7 +1,7 @@
 #pragma once
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/SystemFileDialog.h"
 
 #include <functional>
 #include <optional>
@@ -12,7 +12,7 @@ namespace korvane {
 /// Chooses a file, or nothing, and remembers what it was asked.
 class FakeSystemFileDialog final : public SystemFileDialog {
 public:
-    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
+    explicit FakeSystemFileDialog(App& app) { app.SetPort<SystemFileDialog>(this); }
     std::optional<Text> answer;
     std::vector<Request> requests;
     /// Runs while the dialog stands open.

@@ -2,6 +2,7 @@
 
 #include "common/number/Number.h"
 #include "common/text/CodePage.h"
+#include "grid/Grid.h"
 #include "table/TableModel.h"
 
 #include <cmath>

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "context/ListerRequest.h"
-#include "context/Ports.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FilePicker.h"
+#include "context/ports/FontPicker.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
 #include "testing/ScriptedMessageBoxes.h"

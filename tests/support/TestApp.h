@@ -1,6 +1,9 @@
 #pragma once
 
 #include "context/App.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FilePicker.h"
+#include "context/ports/FontPicker.h"
 #include "grid/GridStore.h"
 #include "support/ScriptedUser.h"
 #include "testing/MemoryClipboard.h"
@@ -22,9 +25,9 @@ namespace korvane {
 class TestApp {
 public:
     explicit TestApp(const PathStyle& style = PathStyle::Windows) : files(style, clock) {
-        app.FilePicker = &user;
-        app.ColourPicker = &user;
-        app.FontPicker = &user;
+        app.SetPort<FilePicker>(&user);
+        app.SetPort<ColourPicker>(&user);
+        app.SetPort<FontPicker>(&user);
     }
 
     MemoryClock clock;

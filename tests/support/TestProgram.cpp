@@ -1,6 +1,8 @@
 #include "support/TestProgram.h"
 
 #include "common/text/CodePage.h"
+#include "context/exchange/StartState.h"
+#include "grid/Grid.h"
 #include "shell/commands/Commands.h"
 #include "table/frmDesignTable.h"
 
@@ -21,7 +23,7 @@ void TestProgram::AddTable(const Text& path, const TestRow& names) {
 void TestProgram::Start(const Text& commandLine) {
     main_ = std::make_unique<frmMDIParent>(app, commandLine);
     main_->EnsureLoaded();
-    if (app.SecondInstance == 1) return;
+    if (app.Exchange<StartState>().SecondInstance == 1) return;
     user.On<frmMDIParent>([](frmMDIParent& main) { main.Activate(); });
     main_->Show();
 }

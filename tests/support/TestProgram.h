@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/settings/Settings.h"
+#include "grid/Grid.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "support/TableBytes.h"

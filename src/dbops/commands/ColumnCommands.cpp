@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/FontPicker.h"
 #include "dbops/rules/Dialogs.h"
 #include "dbops/windows/frmTxtDbColName.h"
 #include "grid/GridUpdate.h"
@@ -102,8 +102,9 @@ void MnuEdit_RefreshColumnWidths_Clack(const TabContext& tab) {
 
 void mnuEdit_Font_Clack(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
-    if (tab.app.FontPicker != nullptr) {
-        if (const auto font = tab.app.FontPicker->Choose({grid.GridFontName(), grid.GridFontSize()})) {
+    if (tab.app.Port<FontPicker>() != nullptr) {
+        if (const auto font =
+                tab.app.Port<FontPicker>()->Choose({grid.GridFontName(), grid.GridFontSize()})) {
             TakeFont(tab.table, *font);
             tab.table.TableAltered = 1;
         }

@@ -1,7 +1,8 @@
 #include "dbops/commands/CopyCommands.h"
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/ClipboardView.h"
+#include "context/ports/TextWindow.h"
 #include "dbops/rules/CellsText.h"
 #include "dbops/rules/DeleteMark.h"
 #include "dbops/rules/Dialogs.h"
@@ -21,7 +22,7 @@ namespace {
 enum class RowsToCopy : std::uint8_t { Ticked, All };
 
 void ShowClipboard(App& app) {
-    if (app.ClipboardView != nullptr) app.ClipboardView->Show();
+    if (auto* clipboardView = app.Port<ClipboardView>()) clipboardView->Show();
 }
 
 void PutInClipboard(App& app, Text text) {
@@ -31,7 +32,7 @@ void PutInClipboard(App& app, Text text) {
 }
 
 void PutInTextWindow(App& app, Text text) {
-    if (app.TextWindow != nullptr) app.TextWindow->TextWindowInsert(text);
+    if (auto* textWindow = app.Port<TextWindow>()) textWindow->TextWindowInsert(text);
 }
 
 std::size_t CellLength(const Grid& grid, Row row, Col col) {

@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
-#include "context/Ports.h"
+#include "context/ports/SystemFileDialog.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/windows/frmChooseRange.h"
 #include "platform/Screen.h"
@@ -39,13 +39,14 @@ Text ProposedName(TextView path) {
 
 /// The directory is the same again afterwards, whichever the user went to.
 std::optional<Text> ChooseFileName(const TabContext& tab) {
-    if (tab.app.SystemFileDialog == nullptr) return std::nullopt;
+    auto* systemFileDialog = tab.app.Port<SystemFileDialog>();
+    if (systemFileDialog == nullptr) return std::nullopt;
     const KeepCurrentDir keep(tab.app.Files());
-    return tab.app.SystemFileDialog->Choose({.purpose = SystemFileDialog::Purpose::Save,
-                                             .filter = u"Excel tables (*.xls)|*.xls",
-                                             .title = u"Save database as Excel table",
-                                             .name = ProposedName(tab.table.TxtDbFile),
-                                             .defaultExtension = u"xls"});
+    return systemFileDialog->Choose({.purpose = SystemFileDialog::Purpose::Save,
+                                     .filter = u"Excel tables (*.xls)|*.xls",
+                                     .title = u"Save database as Excel table",
+                                     .name = ProposedName(tab.table.TxtDbFile),
+                                     .defaultExtension = u"xls"});
 }
 
 void PutCell(Spreadsheet& excel, Row row, Col col, TextView value) {

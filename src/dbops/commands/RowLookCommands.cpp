@@ -2,7 +2,8 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/exchange/RowColourMemory.h"
+#include "context/ports/ColourPicker.h"
 #include "dbops/commands/TickCommands.h"
 #include "dbops/rules/Dialogs.h"
 #include "dbops/rules/RowColours.h"
@@ -52,7 +53,7 @@ int TickRowsOfColours(Grid& grid, const RowColours& colours) {
 }
 
 void SelectByColours(const TabContext& tab) {
-    if (tab.app.RemoveChecksAtStart == 1) ClearAllTicks(tab, AskFirst::No);
+    if (tab.app.Exchange<RowColourMemory>().RemoveChecksAtStart == 1) ClearAllTicks(tab, AskFirst::No);
     const int selected = TickRowsOfColours(tab.table.GridStore(), ChosenColours(tab.app));
     tab.table.TableAltered = 1;
     Inform(tab.app, u"[ " + NumberText(selected) + u" ] items selected.");
@@ -71,7 +72,7 @@ int ShowRows(Grid& grid, const Wanted& wanted) {
 
 void FilterToAttribute(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
-    const CellFlag flag = tab.app.RowAttribute;
+    const CellFlag flag = tab.app.Exchange<RowColourMemory>().RowAttribute;
     const int shown = ShowRows(grid, [&](Row row) { return grid.CellFontFlag(row, Col{1}, flag); });
     Inform(tab.app, u"[ " + NumberText(shown) + u" ] items with chosen attribute.");
 }
@@ -119,8 +120,9 @@ void mnuFormat_RowColour_Clack(const TabContext& tab) {
 }
 
 void mnuFormat_BColor_Clack(const TabContext& tab) {
-    if (tab.app.ColourPicker == nullptr) return;
-    const auto chosen = tab.app.ColourPicker->Choose(TableBack(tab.table), ColourPicker::Extent::Full);
+    auto* colourPicker = tab.app.Port<ColourPicker>();
+    if (colourPicker == nullptr) return;
+    const auto chosen = colourPicker->Choose(TableBack(tab.table), ColourPicker::Extent::Full);
     // Pure black counts as no choice. Deliberate: the texts are black.
     if (!chosen || *chosen == Colour{0}) return;
     Grid& grid = tab.table.GridStore();

@@ -1,6 +1,7 @@
 #include "dbops/rules/TableSearch.h"
 
 #include "context/App.h"
+#include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"

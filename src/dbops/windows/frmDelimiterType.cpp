@@ -2,6 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "context/exchange/DelimiterChoice.h"
 #include "table/TableModel.h"
 
 namespace korvane {
@@ -28,7 +29,7 @@ frmDelimiterType::frmDelimiterType(const TabContext& tab, CopyRequest& request)
 void frmDelimiterType::Load() {
     ListColumns();
     ShowDelimiter();
-    chkBreakAfterFieldThree.Value = tab_.app.BreakAfterFieldThree;
+    chkBreakAfterFieldThree.Value = tab_.app.Exchange<DelimiterChoice>().BreakAfterFieldThree;
     lblDestination.Caption = Text(DestinationText(request_.destination));
     lblCheckedRows.Caption = NumberText(request_.rowsToCopy);
 }
@@ -62,7 +63,7 @@ void frmDelimiterType::cmdProceed_Click() {
         if (!lstColumns.Selected(index)) request_.ColumnIncluded.Set(Col{index + 1}, false);
     }
     TakeDelimiter();
-    tab_.app.BreakAfterFieldThree = chkBreakAfterFieldThree.Value;
+    tab_.app.Exchange<DelimiterChoice>().BreakAfterFieldThree = chkBreakAfterFieldThree.Value;
     tab_.app.DialogResult = 1;
     Close();
 }

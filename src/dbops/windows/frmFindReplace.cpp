@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "dbops/rules/UndoCommands.h"
+#include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
 

@@ -1,9 +1,11 @@
 #include "dbops/windows/frmRowColour.h"
 
 #include "context/App.h"
+#include "context/exchange/RowColourMemory.h"
 #include "dbops/rules/RowColours.h"
 #include "dbops/rules/RowFontFlags.h"
 #include "dbops/rules/UndoCommands.h"
+#include "grid/Grid.h"
 
 namespace korvane {
 
@@ -44,6 +46,7 @@ void frmRowColour::ConnectButtons() {
 }
 
 void frmRowColour::Load() {
+    RowColourMemory& memory = tab_.app.Exchange<RowColourMemory>();
     Text keys;
     for (const RowColourChoice& choice : RowColourChoices()) {
         lstColourOptions.AddItem(choice.listText);
@@ -51,19 +54,21 @@ void frmRowColour::Load() {
         keys += choice.keyText;
     }
     Text1.Text = keys;
-    lstColourOptions.SetListIndex(tab_.app.RowColourIndex);
-    chkRemoveChecksAtstart.Value = tab_.app.RemoveChecksAtStart;
-    optAttribute[static_cast<std::size_t>(tab_.app.RowAttribute)].Value = true;
+    lstColourOptions.SetListIndex(memory.RowColourIndex);
+    chkRemoveChecksAtstart.Value = memory.RemoveChecksAtStart;
+    optAttribute[static_cast<std::size_t>(memory.RowAttribute)].Value = true;
 }
 
 void frmRowColour::RememberChoices() {
-    App& app = tab_.app;
-    lstColourOptions.Click = [this, &app] {
-        app.RowColourIndex = static_cast<std::int16_t>(lstColourOptions.ListIndex());
+    RowColourMemory& memory = tab_.app.Exchange<RowColourMemory>();
+    lstColourOptions.Click = [this, &memory] {
+        memory.RowColourIndex = static_cast<std::int16_t>(lstColourOptions.ListIndex());
     };
-    chkRemoveChecksAtstart.Click = [this, &app] { app.RemoveChecksAtStart = chkRemoveChecksAtstart.Value; };
+    chkRemoveChecksAtstart.Click = [this, &memory] {
+        memory.RemoveChecksAtStart = chkRemoveChecksAtstart.Value;
+    };
     for (std::size_t i = 0; i < optAttribute.size(); ++i)
-        optAttribute[i].Click = [&app, i] { app.RowAttribute = static_cast<CellFlag>(i); };
+        optAttribute[i].Click = [&memory, i] { memory.RowAttribute = static_cast<CellFlag>(i); };
 }
 
 void frmRowColour::TakeColours() {

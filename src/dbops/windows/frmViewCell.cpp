@@ -3,9 +3,14 @@
 #include "common/text/FindEntry.h"
 #include "common/text/LineEnds.h"
 #include "context/App.h"
-#include "context/Ports.h"
 #include "context/WindowFitting.h"
+#include "context/ports/ClipboardView.h"
+#include "context/ports/FontPicker.h"
+#include "context/ports/InsertTools.h"
+#include "context/ports/MarkupPicker.h"
+#include "context/ports/WordList.h"
 #include "dbops/rules/Dialogs.h"
+#include "grid/Grid.h"
 #include "platform/Clipboard.h"
 #include "table/TableModel.h"
 
@@ -156,31 +161,35 @@ void frmViewCell::cmdOk_Click() {
 }
 
 void frmViewCell::cmdClipboard_Click() {
-    if (app_.ClipboardView == nullptr || !app_.ClipboardView->Choose()) return;
+    auto* clipboardView = app_.Port<ClipboardView>();
+    if (clipboardView == nullptr || !clipboardView->Choose()) return;
     txtCell.SetSelText(WithCrLf(app_.Clipboard().GetText()));
 }
 
 void frmViewCell::cmdWordList_Click() {
-    if (app_.WordList == nullptr) return;
-    if (const auto word = app_.WordList->Choose()) txtCell.SetSelText(*word);
+    auto* wordList = app_.Port<WordList>();
+    if (wordList == nullptr) return;
+    if (const auto word = wordList->Choose()) txtCell.SetSelText(*word);
 }
 
 void frmViewCell::cmdDateTime_Click() {
-    if (app_.InsertTools == nullptr) return;
-    if (const auto text = app_.InsertTools->ChooseDateTime()) txtCell.SetSelText(*text);
+    auto* insertTools = app_.Port<InsertTools>();
+    if (insertTools == nullptr) return;
+    if (const auto text = insertTools->ChooseDateTime()) txtCell.SetSelText(*text);
 }
 
 void frmViewCell::cmdAsciiBox_Click() {
-    if (app_.InsertTools != nullptr) app_.InsertTools->ShowCharacters(txtCell);
+    if (auto* insertTools = app_.Port<InsertTools>()) insertTools->ShowCharacters(txtCell);
 }
 
 void frmViewCell::cmdElements_Click() {
-    if (app_.InsertTools != nullptr) app_.InsertTools->ShowElements(txtCell);
+    if (auto* insertTools = app_.Port<InsertTools>()) insertTools->ShowElements(txtCell);
 }
 
 void frmViewCell::cmdFonts_Click() {
-    if (app_.FontPicker == nullptr) return;
-    const auto font = app_.FontPicker->Choose(txtCell.Font);
+    auto* fontPicker = app_.Port<FontPicker>();
+    if (fontPicker == nullptr) return;
+    const auto font = fontPicker->Choose(txtCell.Font);
     if (!font) return;
     txtCell.Font = {font->name, font->size};
     app_.Settings.ViewCellFontName = font->name;
@@ -188,7 +197,7 @@ void frmViewCell::cmdFonts_Click() {
 }
 
 void frmViewCell::cmdHTML_Click() {
-    if (app_.MarkupPicker != nullptr) app_.MarkupPicker->InsertTagPair(txtCell);
+    if (auto* markupPicker = app_.Port<MarkupPicker>()) markupPicker->InsertTagPair(txtCell);
 }
 
 void mnuEdit_EditCell_Clack(const TabContext& tab) {

@@ -6,8 +6,10 @@
 #include "context/Desktop.h"
 #include "context/FileChooser.h"
 #include "context/Launching.h"
-#include "context/Ports.h"
 #include "context/StandardMessages.h"
+#include "context/exchange/StateFiles.h"
+#include "context/ports/ClipboardView.h"
+#include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "shell/commands/Styles.h"
@@ -66,7 +68,7 @@ void SetWindowSize(frmMDIParent& main) {
 }
 
 void ViewAndPaste(frmMDIParent& main) {
-    if (main.TheApp().ClipboardView != nullptr) main.TheApp().ClipboardView->Show();
+    if (auto* clipboardView = main.TheApp().Port<ClipboardView>()) clipboardView->Show();
 }
 
 template <int Index>
@@ -115,7 +117,9 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_DirLister", [](frmMDIParent& main) { ShowDirectoryLister(main.TheApp()); }},
     NamedRoutine{"ViewAndPaste", &ViewAndPaste},
     NamedRoutine{"mnuHelpText",
-                 [](frmMDIParent& main) { LaunchDunmark(main.TheApp(), main.TheApp().HelpFilePath); }},
+                 [](frmMDIParent& main) {
+                     LaunchDunmark(main.TheApp(), main.TheApp().Exchange<StateFiles>().HelpFilePath);
+                 }},
     NamedRoutine{"mnuMisc_About", &ShowWindow<frmAbout>},
     NamedRoutine{"mnuMisc_Settings", [](frmMDIParent& main) { frmSettings(main).ShowModal(); }},
     NamedRoutine{"mnuMisc_YourProgram", &ShowWindow<frmSetYourProg>},

@@ -3,7 +3,7 @@
 #include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Desktop.h"
-#include "context/Ports.h"
+#include "context/ports/MainWindow.h"
 #include "dbops/commands/TabCommands.h"
 #include "platform/FileSystem.h"
 #include "table/DesignCommand.h"
@@ -26,7 +26,7 @@ void ExploreTableFolder(const TabContext& tab) {
 }
 
 void RunOnMainWindow(const TabContext& tab, std::string_view command) {
-    if (tab.app.MainWindow != nullptr) tab.app.MainWindow->RunCommand(command);
+    if (auto* mainWindow = tab.app.Port<MainWindow>()) mainWindow->RunCommand(command);
 }
 
 void mnuSidebarWidth_Clack(const TabContext& tab) {

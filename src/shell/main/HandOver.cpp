@@ -1,6 +1,7 @@
 #include "shell/main/HandOver.h"
 
 #include "context/App.h"
+#include "context/exchange/StartState.h"
 #include "platform/FileSystem.h"
 #include "platform/InstanceChannel.h"
 #include "platform/MessageBoxes.h"
@@ -17,7 +18,7 @@ void TellNoAccess(App& app) {
 } // namespace
 
 bool HandOver(App& app, const Text& startFile) {
-    app.SecondInstance = 1;
+    app.Exchange<StartState>().SecondInstance = 1;
     if (startFile.empty() || !app.Files().FileExists(startFile)) return true;
     InstanceChannel& running = app.Instance();
     if (!running.FindReceiver() || !running.WaitUntilSlotEmpty()) {

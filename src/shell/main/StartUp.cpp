@@ -2,6 +2,8 @@
 
 #include "context/App.h"
 #include "context/WindowFitting.h"
+#include "context/exchange/StartState.h"
+#include "context/exchange/StateFiles.h"
 #include "platform/FileSystem.h"
 #include "platform/InstanceChannel.h"
 #include "platform/Screen.h"
@@ -19,13 +21,14 @@ namespace {
 constexpr std::int16_t kStartTabUnit = 720;
 
 void SetStartValues(App& app) {
+    StateFiles& files = app.Exchange<StateFiles>();
     app.Settings.TabUnitTwips = kStartTabUnit;
-    app.FirstLoadPending = -1;
+    app.Exchange<StartState>().FirstLoadPending = -1;
     const PathStyle style = app.Files().Style();
-    app.HelpFilePath = style.JoinPath(app.Files().ProgramDir(), u"Korvane_Help.rtf");
+    files.HelpFilePath = style.JoinPath(app.Files().ProgramDir(), u"Korvane_Help.rtf");
     const Text stateDir = app.Files().StateDir();
-    app.IniFilePath = style.JoinPath(stateDir, u"Korvane.ini");
-    app.RecFilePath = style.JoinPath(stateDir, u"Korvane.rec");
+    files.IniFilePath = style.JoinPath(stateDir, u"Korvane.ini");
+    files.RecFilePath = style.JoinPath(stateDir, u"Korvane.rec");
     SetWordRules(app);
 }
 
@@ -77,6 +80,7 @@ void EndSecondStart(frmMDIParent& main, const Text& startFile) {
 
 void StartUp(frmMDIParent& main) {
     App& app = main.TheApp();
+    StartState& start = app.Exchange<StartState>();
     SetStartValues(app);
     LocateSystemFolders(app);
     ReadSettings(app);
@@ -86,8 +90,8 @@ void StartUp(frmMDIParent& main) {
     BuildSideBar(main);
     // The whole line is one path, blanks and all.
     const Text startFile = WithoutOuterQuotes(main.CommandLine());
-    app.SecondInstance = 0;
-    app.LoadedByCommand = 0;
+    start.SecondInstance = 0;
+    start.LoadedByCommand = 0;
     if (app.Instance().PreviousInstanceRuns()) return EndSecondStart(main, startFile);
     main.MDITabs1.On = true;
     ListenForFiles(main);

@@ -1,6 +1,9 @@
 #include "shell/main/frmMDIParent.h"
 
 #include "context/App.h"
+#include "context/exchange/StartState.h"
+#include "context/ports/MainWindow.h"
+#include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -33,14 +36,14 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       tabs_(app, MDITabs1),
       pipeline_(app, tabs_, recents_),
       sideBar_(iGridListBar, [this](std::string_view command) { RunCommand(command); }) {
-    app_.MainWindow = this;
+    app_.SetPort<MainWindow>(this);
     MakeToolBar();
     CheckFirstStyle(*this);
     Wire();
 }
 
 frmMDIParent::~frmMDIParent() {
-    if (app_.MainWindow == this) app_.MainWindow = nullptr;
+    if (app_.Port<MainWindow>() == this) app_.SetPort<MainWindow>(nullptr);
 }
 
 void frmMDIParent::MakeToolBar() {
@@ -135,7 +138,7 @@ void frmMDIParent::Load() {
 }
 
 void frmMDIParent::Activate() {
-    app_.FirstLoadPending = 0;
+    app_.Exchange<StartState>().FirstLoadPending = 0;
     if (firstActivation_) {
         firstActivation_ = false;
         if (app_.Settings.ShowRecentAtStart == 1 && commandLine_.empty()) RunCommand("mnuFile_Recent");
@@ -157,14 +160,14 @@ void frmMDIParent::txtCommand_Change() {
     const Text path(Trim(txtCommand.Text.Get()));
     if (!path.empty() && app_.Files().FileExists(path)) {
         pipeline_.OpenDatabase(path, LoadInto::NewTab);
-        app_.LoadedByCommand = -1;
+        app_.Exchange<StartState>().LoadedByCommand = -1;
     }
     // Tells the second start that the next path may come.
     txtCommand.Text = Text();
 }
 
 bool frmMDIParent::QueryUnload() {
-    if (app_.SecondInstance != 1) {
+    if (app_.Exchange<StartState>().SecondInstance != 1) {
         MDITabs1.On = false;
         if (State == FormState::Minimised) State = FormState::Maximised;
         StorePlace();
@@ -183,12 +186,12 @@ void frmMDIParent::StorePlace() {
 
 void frmMDIParent::Unload() {
     MDITabs1.On = false;
-    if (app_.SecondInstance == 0) {
+    if (app_.Exchange<StartState>().SecondInstance == 0) {
         WriteSettings(app_);
         recents_.Write(app_);
     }
     CloseOtherWindows();
-    app_.MainWindow = nullptr;
+    app_.SetPort<MainWindow>(nullptr);
 }
 
 void frmMDIParent::CloseOtherWindows() {

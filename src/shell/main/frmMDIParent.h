@@ -1,6 +1,6 @@
 #pragma once
 
-#include "context/Ports.h"
+#include "context/ports/MainWindow.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/GridBox.h"

@@ -7,6 +7,7 @@
 #include "common/text/Lines.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
+#include "context/exchange/StateFiles.h"
 #include "platform/FileSystem.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ Text RecordLine(TextView path, int offset, const DateTime& now) {
 } // namespace
 
 void RecentRecord::Read(App& app) {
-    const auto bytes = app.Files().ReadAll(app.RecFilePath);
+    const auto bytes = app.Files().ReadAll(app.Exchange<StateFiles>().RecFilePath);
     if (!bytes) return;
     LineReader lines(bytes->View(), LineEnds::CrLfOrCr);
     std::string_view line;
@@ -34,10 +35,11 @@ void RecentRecord::Read(App& app) {
 }
 
 void RecentRecord::Write(App& app) const {
-    DeleteFileQuietly(app, app.RecFilePath);
-    const auto file = app.Files().OpenPrivate(app.RecFilePath);
+    StateFiles& files = app.Exchange<StateFiles>();
+    DeleteFileQuietly(app, files.RecFilePath);
+    const auto file = app.Files().OpenPrivate(files.RecFilePath);
     if (file == nullptr) {
-        ShowCannotAccess(app, app.RecFilePath);
+        ShowCannotAccess(app, files.RecFilePath);
         return;
     }
     std::string bytes;

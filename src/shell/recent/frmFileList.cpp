@@ -4,10 +4,14 @@
 #include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
-#include "context/Ports.h"
 #include "context/StandardMessages.h"
 #include "context/StoredPaths.h"
 #include "context/WindowFitting.h"
+#include "context/exchange/FileOperation.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FileViewer.h"
+#include "context/ports/FontPicker.h"
 #include "dbops/rules/Dialogs.h"
 #include "dialogs/Docking.h"
 #include "platform/Clock.h"
@@ -226,10 +230,11 @@ Text frmFileList::PathOf(const ListRow& row) const {
 }
 
 void frmFileList::LoadFiles() {
+    ListerRequest& request = app_.Exchange<ListerRequest>();
     if (const auto row = CurrentRow()) {
-        app_.Lister.ListerFolder = row->texts[kLocation];
-        app_.Lister.CurrentFolderHint = row->texts[kLocation];
-        app_.FileOpName = row->texts[kFile];
+        request.ListerFolder = row->texts[kLocation];
+        request.CurrentFolderHint = row->texts[kLocation];
+        app_.Exchange<FileOperation>().FileOpName = row->texts[kFile];
     }
     for (int index = 1; index <= ListView1.Count(); ++index)
         TakePick(ListView1.RowAt(index));
@@ -279,7 +284,7 @@ void frmFileList::ViewFile() {
     if (!row) return;
     Text path = PathOf(*row);
     if (row->image == kLostImage) return ShowCannotLocate(app_, path);
-    if (app_.FileViewer != nullptr) app_.FileViewer->View(path);
+    if (auto* fileViewer = app_.Port<FileViewer>()) fileViewer->View(path);
 }
 
 void frmFileList::ShowInfo() {
@@ -312,7 +317,7 @@ void frmFileList::GotoFileFolder() {
         app_.Messages().Show({u"Cannot change to this folder:\r\n\r\n" + folder, MessageIcon::Exclamation});
         return;
     }
-    app_.Lister.CurrentFolderHint = folder;
+    app_.Exchange<ListerRequest>().CurrentFolderHint = folder;
     app_.DialogResult = kGoToFolder;
     Close();
 }
@@ -325,8 +330,9 @@ void frmFileList::ToggleColumns() {
 }
 
 void frmFileList::ChooseFont() {
-    if (app_.FontPicker == nullptr) return;
-    const auto font = app_.FontPicker->Choose(ListView1.Font);
+    auto* fontPicker = app_.Port<FontPicker>();
+    if (fontPicker == nullptr) return;
+    const auto font = fontPicker->Choose(ListView1.Font);
     if (!font) return;
     app_.Settings.FileListFontName = font->name;
     app_.Settings.FileListFontSize = static_cast<std::int16_t>(font->size);
@@ -334,9 +340,10 @@ void frmFileList::ChooseFont() {
 }
 
 void frmFileList::ChooseColour() {
-    if (app_.ColourPicker == nullptr) return;
+    auto* colourPicker = app_.Port<ColourPicker>();
+    if (colourPicker == nullptr) return;
     const auto colour =
-        app_.ColourPicker->Choose(Colour{app_.Settings.FileListColour}, ColourPicker::Extent::Simple);
+        colourPicker->Choose(Colour{app_.Settings.FileListColour}, ColourPicker::Extent::Simple);
     if (!colour) return;
     app_.Settings.FileListColour = colour->value;
     ApplyLook();
@@ -348,8 +355,8 @@ void frmFileList::ExternalEdit() {
     const Text path = PathOf(*row);
     if (row->image == kLostImage) {
         app_.Messages().Show({u"This item is not a valid file:\r\n\r\n" + path, MessageIcon::Exclamation});
-    } else if (app_.FileViewer != nullptr) {
-        app_.FileViewer->OpenWith(path);
+    } else if (auto* fileViewer = app_.Port<FileViewer>()) {
+        fileViewer->OpenWith(path);
     }
 }
 

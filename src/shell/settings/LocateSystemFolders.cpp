@@ -2,6 +2,7 @@
 
 #include "common/text/Names.h"
 #include "context/App.h"
+#include "context/exchange/SystemDirs.h"
 #include "platform/FileSystem.h"
 #include "platform/SystemFolders.h"
 
@@ -21,15 +22,16 @@ Text AsFolder(const Text& path, const PathStyle& style) {
 } // namespace
 
 void LocateSystemFolders(App& app) {
+    SystemDirs& dirs = app.Exchange<SystemDirs>();
     const SystemFolders* folders = app.Folders();
     if (folders == nullptr) return;
     const PathStyle style = app.Files().Style();
-    app.ProgramFilesDir = AsFolder(folders->ProgramFiles(), style);
-    if (app.ProgramFilesDir.empty() && app.Files().DirExists(kDriveC)) app.ProgramFilesDir = Text(kDriveC);
-    app.WindowsDir = AsFolder(folders->Windows(), style);
-    app.SystemDir = AsFolder(folders->System(), style);
-    app.FontsDir = AsFolder(folders->Fonts(), style);
-    app.DocumentsDir = AsFolder(folders->Documents(), style);
+    dirs.ProgramFilesDir = AsFolder(folders->ProgramFiles(), style);
+    if (dirs.ProgramFilesDir.empty() && app.Files().DirExists(kDriveC)) dirs.ProgramFilesDir = Text(kDriveC);
+    dirs.WindowsDir = AsFolder(folders->Windows(), style);
+    dirs.SystemDir = AsFolder(folders->System(), style);
+    dirs.FontsDir = AsFolder(folders->Fonts(), style);
+    dirs.DocumentsDir = AsFolder(folders->Documents(), style);
 }
 
 } // namespace korvane

@@ -6,6 +6,7 @@
 #include "common/text/Lines.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
+#include "context/exchange/StateFiles.h"
 #include "platform/FileSystem.h"
 
 #include <cmath>
@@ -55,11 +56,12 @@ void TakeCurrentDir(App& app) {
 } // namespace
 
 void ReadSettings(App& app) {
-    if (!app.Files().FileExists(app.IniFilePath)) {
-        ShowCannotLoad(app, app.IniFilePath);
+    StateFiles& files = app.Exchange<StateFiles>();
+    if (!app.Files().FileExists(files.IniFilePath)) {
+        ShowCannotLoad(app, files.IniFilePath);
         return;
     }
-    const auto bytes = app.Files().ReadAll(app.IniFilePath);
+    const auto bytes = app.Files().ReadAll(files.IniFilePath);
     if (!bytes) return;
     // A line ends at the pair alone: the word delimiters, a line of their own, end in a lone CR.
     LineReader lines(bytes->View(), LineEnds::CrLf);
@@ -72,11 +74,12 @@ void ReadSettings(App& app) {
 }
 
 void WriteSettings(App& app) {
-    DeleteFileQuietly(app, app.IniFilePath);
+    StateFiles& files = app.Exchange<StateFiles>();
+    DeleteFileQuietly(app, files.IniFilePath);
     TakeCurrentDir(app);
-    const auto file = app.Files().OpenPrivate(app.IniFilePath);
+    const auto file = app.Files().OpenPrivate(files.IniFilePath);
     if (file == nullptr) {
-        ShowCannotAccess(app, app.IniFilePath);
+        ShowCannotAccess(app, files.IniFilePath);
         return;
     }
     file->Write(AllLines(app.Settings, app.Page()));

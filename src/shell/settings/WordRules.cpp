@@ -2,6 +2,7 @@
 
 #include "common/text/Names.h"
 #include "context/App.h"
+#include "context/exchange/WordEnds.h"
 
 namespace korvane {
 
@@ -12,12 +13,13 @@ constexpr TextView kDelimiters = u"'\",.;:#/()[]{} \t\f\n\r";
 } // namespace
 
 void SetWordRules(App& app) {
+    WordEnds& ends = app.Exchange<WordEnds>();
     app.Settings.WordDelimiters = Text(kDelimiters);
-    app.TitlePunctuation = Text(kTitlePunctuation);
-    app.DelimiterTable.fill(false);
+    ends.TitlePunctuation = Text(kTitlePunctuation);
+    ends.DelimiterTable.fill(false);
     for (const char16_t delimiter : kDelimiters) {
         const auto code = app.Page().Encode(delimiter);
-        if (code) app.DelimiterTable[*code] = true;
+        if (code) ends.DelimiterTable[*code] = true;
     }
 }
 

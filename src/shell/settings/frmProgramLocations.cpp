@@ -1,7 +1,7 @@
 #include "shell/settings/frmProgramLocations.h"
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/SystemFileDialog.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 
@@ -45,8 +45,9 @@ void frmProgramLocations::Load() {
 }
 
 void frmProgramLocations::Locate(const Program& program) {
-    if (app_.SystemFileDialog == nullptr) return;
-    const auto file = app_.SystemFileDialog->Choose(
+    auto* systemFileDialog = app_.Port<SystemFileDialog>();
+    if (systemFileDialog == nullptr) return;
+    const auto file = systemFileDialog->Choose(
         {.filter = u"Programs (*.exe)|*.exe;All files (*.*)|*.*", .title = Text(program.title)});
     if (!file || file->empty()) return;
     app_.Settings.*program.location = *file;

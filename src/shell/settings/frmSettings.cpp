@@ -2,7 +2,8 @@
 
 #include "context/App.h"
 #include "context/FileChooser.h"
-#include "context/Ports.h"
+#include "context/ports/FontPicker.h"
+#include "context/ports/SystemFileDialog.h"
 #include "platform/FileSystem.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/settings/ProgramPicker.h"
@@ -38,8 +39,9 @@ struct FontFields {
 
 /// Lets the user choose a font and stores it; what he leaves open stays as it was.
 void ChooseFont(const App& app, const FontFields& fields, Control& control) {
-    if (app.FontPicker == nullptr) return;
-    const auto font = app.FontPicker->Choose({fields.name, fields.size, fields.bold != 0});
+    auto* fontPicker = app.Port<FontPicker>();
+    if (fontPicker == nullptr) return;
+    const auto font = fontPicker->Choose({fields.name, fields.size, fields.bold != 0});
     if (!font) return;
     if (!font->name.empty()) fields.name = font->name;
     if (font->size > 0) fields.size = static_cast<std::int16_t>(font->size);
@@ -112,9 +114,10 @@ void frmSettings::cmdBrannockLocation_Click() {
 }
 
 void frmSettings::cmdGetWallpaperFile_Click() {
-    if (app_.SystemFileDialog == nullptr) return;
+    auto* systemFileDialog = app_.Port<SystemFileDialog>();
+    if (systemFileDialog == nullptr) return;
     const KeepCurrentDir keep(app_.Files());
-    const auto file = app_.SystemFileDialog->Choose(
+    const auto file = systemFileDialog->Choose(
         {.filter = u"Image files (*.jpg;*.png;*.bmp;*.gif)|*.jpg;*.jpeg;*.png;*.bmp;*.gif",
          .title = u"Get image file for wallpaper"});
     if (!file || file->empty()) return;

@@ -4,7 +4,8 @@
 #include "common/path/PathStyle.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
-#include "context/Ports.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/MainWindow.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
@@ -26,7 +27,7 @@ Text WithoutBlanks(Text text) {
 }
 
 void ShowLoadedFiles(App& app) {
-    if (app.MainWindow != nullptr) app.MainWindow->RunCommand("mnuFile_AreLoaded");
+    if (auto* mainWindow = app.Port<MainWindow>()) mainWindow->RunCommand("mnuFile_AreLoaded");
 }
 
 void TellAlreadyLoaded(App& app, const Text& path) {
@@ -37,14 +38,15 @@ void TellAlreadyLoaded(App& app, const Text& path) {
 } // namespace
 
 bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
-    app_.Lister.ChosenFileCount = 1;
-    app_.Lister.ChosenFiles.assign(2, Text());
+    ListerRequest& request = app_.Exchange<ListerRequest>();
+    request.ChosenFileCount = 1;
+    request.ChosenFiles.assign(2, Text());
     if (!TakeFiles(path)) return false;
     // `ReadTableData` takes the hourglass back; where nothing is read it stays.
     app_.Screen().SetPointer(Pointer::Hourglass);
     // The list of files is the process's: a file that arrives while a box stands here starts it anew.
-    for (int number = 1; number <= app_.Lister.ChosenFileCount; ++number) {
-        const Text file = app_.Lister.ChosenFiles[static_cast<std::size_t>(number)];
+    for (int number = 1; number <= request.ChosenFileCount; ++number) {
+        const Text file = request.ChosenFiles[static_cast<std::size_t>(number)];
         if (IsLoaded(file)) {
             TellAlreadyLoaded(app_, file);
             ShowLoadedFiles(app_);
@@ -52,13 +54,13 @@ bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
         }
         LoadFile(number, file, into);
     }
-    if (app_.Lister.ChosenFileCount >= 2) ShowLoadedFiles(app_);
-    return app_.Lister.ChosenFileCount > 0;
+    if (request.ChosenFileCount >= 2) ShowLoadedFiles(app_);
+    return request.ChosenFileCount > 0;
 }
 
 bool LoadPipeline::TakeFiles(const Text& path) {
     if (path.empty()) return ChooseFiles();
-    app_.Lister.ChosenFiles[1] = path;
+    app_.Exchange<ListerRequest>().ChosenFiles[1] = path;
     return true;
 }
 
@@ -68,7 +70,7 @@ bool LoadPipeline::ChooseFiles() {
         const KeepCurrentDir keep(app_.Files());
         ShowFileChooser(app_, ChooserMode::Load, u"*.tbx", u"Select a text database to edit");
     }
-    ListerRequest& lister = app_.Lister;
+    ListerRequest& lister = app_.Exchange<ListerRequest>();
     if (lister.ChosenFilePath.empty()) return false;
     if (lister.ChosenFileCount >= 2) return ConfirmSeveral();
     lister.ChosenFiles[static_cast<std::size_t>(lister.ChosenFileCount)] = lister.ChosenFilePath;
@@ -76,7 +78,8 @@ bool LoadPipeline::ChooseFiles() {
 }
 
 bool LoadPipeline::ConfirmSeveral() {
-    const Text question = u"Load  >   " + NumberText(app_.Lister.ChosenFileCount) + u"   <  text databases?";
+    const Text question =
+        u"Load  >   " + NumberText(app_.Exchange<ListerRequest>().ChosenFileCount) + u"   <  text databases?";
     return app_.Messages().Show({question, MessageIcon::Question, MessageButtons::YesNo}) == Answer::Yes;
 }
 

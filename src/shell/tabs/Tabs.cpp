@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "controls/TabStrip.h"
+#include "grid/Grid.h"
 #include "platform/Screen.h"
 #include "shell/tabs/frmMDIChild.h"
 

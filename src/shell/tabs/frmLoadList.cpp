@@ -4,9 +4,9 @@
 #include "common/number/Number.h"
 #include "common/text/FindEntry.h"
 #include "context/App.h"
-#include "context/Ports.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
+#include "context/ports/MainWindow.h"
 #include "dialogs/Docking.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
@@ -161,7 +161,7 @@ void frmLoadList::Explore() {
 }
 
 void frmLoadList::ShowDirLister() {
-    if (app_.MainWindow != nullptr) app_.MainWindow->RunCommand("mnuFile_DirLister");
+    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand("mnuFile_DirLister");
 }
 
 void frmLoadList::CentreOnScreen() {

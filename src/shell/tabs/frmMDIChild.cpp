@@ -2,9 +2,10 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/MainWindow.h"
 #include "dbops/commands/RowHeight.h"
 #include "dbops/rules/TableSearch.h"
+#include "grid/Grid.h"
 #include "shell/commands/GridKeys.h"
 #include "shell/commands/TabCommands.h"
 #include "shell/tabs/TabStates.h"
@@ -107,7 +108,8 @@ void frmMDIChild::iGrid1_HeaderClick() {
 }
 
 void frmMDIChild::iGrid1_MouseUp(MouseButton button) {
-    if (button == MouseButton::Right && app_.MainWindow != nullptr) app_.MainWindow->ShowPopupMenu();
+    if (button == MouseButton::Right && app_.Port<MainWindow>() != nullptr)
+        app_.Port<MainWindow>()->ShowPopupMenu();
 }
 
 void frmMDIChild::iGrid1_KeyDown(KeyEvent& key) {
@@ -127,7 +129,7 @@ void frmMDIChild::ForwardToMainWindow(CommandButton& button, std::string_view co
 }
 
 void frmMDIChild::RunOnMainWindow(std::string_view command) {
-    if (app_.MainWindow != nullptr) app_.MainWindow->RunCommand(command);
+    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand(command);
 }
 
 void frmMDIChild::ShowRowHeight(std::int16_t height) {

@@ -1,6 +1,8 @@
 #include "render/Stage.h"
 
 #include "SourceTree.h"
+#include "context/exchange/InputQuestion.h"
+#include "context/exchange/MessageQuestion.h"
 #include "platform/qt/services/QtScreen.h"
 #include "table/TableFile.h"
 
@@ -59,9 +61,9 @@ void Stage::FillRequests() {
     const Text path = InData(kSamples[0]);
     outside_.clipboard.SetText(u"Title\tAuthor\tYear\r\nThe garden of letters\tMarie Brook\t1987\r\n"
                                u"Notes on a river\tH. Lindqvist\t2004\r\n");
-    app_.MsgFilePath = path;
-    app_.InputCaption = u"Enter new name of column";
-    app_.InputInitial = u"Title";
+    app_.Exchange<MessageQuestion>().MsgFilePath = path;
+    app_.Exchange<InputQuestion>().InputCaption = u"Enter new name of column";
+    app_.Exchange<InputQuestion>().InputInitial = u"Title";
     all_.facts = FactsOfFile(app_, path);
     all_.copy.rowsToCopy = 12;
     all_.child.Table().TxtDbFile = path;

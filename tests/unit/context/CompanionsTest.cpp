@@ -1,5 +1,6 @@
 #include "context/Companions.h"
 
+#include "context/exchange/SystemDirs.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>
@@ -155,7 +156,7 @@ TEST(CalculatorStandIn, IsTheFirstThatTheDesktopHas) {
 
 TEST(CalculatorStandIn, IsTheSystemsOwnWhereThereAreDrives) {
     TestApp t;
-    t.app.SystemDir = u"C:\\Windows\\System32\\";
+    t.app.Exchange<SystemDirs>().SystemDir = u"C:\\Windows\\System32\\";
     t.shell.SetStartable([](TextView program) { return program == u"C:\\Windows\\System32\\calc.exe"; });
     LaunchCompanion(t.app, Companion::Abrill);
     EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"C:\\Korvane\\Abrill.exe"},

@@ -1,5 +1,6 @@
 #include "context/DriveInfo.h"
 
+#include "context/exchange/DriveReport.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -14,12 +15,12 @@ protected:
     Text TypeTextOf(DriveType type) {
         t.files.SetVolume(u"D:\\", {.type = type});
         ReadDriveInfo(t.app, u"D:\\");
-        return t.app.DriveTypeText;
+        return t.app.Exchange<DriveReport>().DriveTypeText;
     }
     Text LabelOf(const VolumeInfo& info) {
         t.files.SetVolume(u"D:\\", info);
         ReadDriveInfo(t.app, u"D:\\");
-        return t.app.DriveLabel;
+        return t.app.Exchange<DriveReport>().DriveLabel;
     }
 
     TestApp t;
@@ -63,9 +64,9 @@ TEST_F(DriveInfo, SaysNotReadyOfACdDriveWithoutAMediumOnly) {
 TEST_F(DriveInfo, TakesTheDriveByItsLetter) {
     t.files.SetVolume(u"D:\\", {.type = DriveType::Network, .name = u"Share"});
     for (const TextView drive : {u"D", u"D:", u"D:\\", u"d:\\Data\\x"}) {
-        t.app.DriveLabel.clear();
+        t.app.Exchange<DriveReport>().DriveLabel.clear();
         ReadDriveInfo(t.app, drive);
-        EXPECT_EQ(t.app.DriveLabel, u"Share");
+        EXPECT_EQ(t.app.Exchange<DriveReport>().DriveLabel, u"Share");
     }
 }
 
@@ -73,22 +74,22 @@ TEST_F(DriveInfo, OfADriveThatIsNotThereIsThatOfTheLastOne) {
     t.files.SetVolume(u"D:\\", {.type = DriveType::CdRom, .name = u"Songs"});
     ReadDriveInfo(t.app, u"D:\\");
     ReadDriveInfo(t.app, u"Q:\\");
-    EXPECT_EQ(t.app.DriveTypeText, u"CD-ROM");
-    EXPECT_EQ(t.app.DriveLabel, u"Songs");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveTypeText, u"CD-ROM");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveLabel, u"Songs");
 }
 
 TEST_F(DriveInfo, OfADriveThatIsNotThereHasNoLabelAtFirst) {
     ReadDriveInfo(t.app, u"Q:\\");
-    EXPECT_EQ(t.app.DriveTypeText, u"");
-    EXPECT_EQ(t.app.DriveLabel, u"no label");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveTypeText, u"");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveLabel, u"no label");
 }
 
 TEST(DriveInfoOnPosix, IsThatOfTheVolumeThatThePathIsOn) {
     TestApp t(PathStyle::Posix);
     t.files.SetVolume(u"/", {.type = DriveType::Fixed, .name = u"Disk"});
     ReadDriveInfo(t.app, u"/home/ann");
-    EXPECT_EQ(t.app.DriveTypeText, u"Fixed");
-    EXPECT_EQ(t.app.DriveLabel, u"Disk");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveTypeText, u"Fixed");
+    EXPECT_EQ(t.app.Exchange<DriveReport>().DriveLabel, u"Disk");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "context/FileChooser.h"
 
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/FilePicker.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +11,7 @@ namespace {
 
 TEST(FileChooser, HandsOverTheRequestAndClearsAnEarlierChoice) {
     TestApp t;
-    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    t.app.Exchange<ListerRequest>().ChosenFilePath = u"C:\\old.tbx";
     t.user.CancelChooser();
     ShowFileChooser(t.app, ChooserMode::Save, u"*.tbx", u"Save database to disk", u"C:\\a.tbx");
     const ListerRequest& request = t.user.Requests().at(0);
@@ -18,39 +20,40 @@ TEST(FileChooser, HandsOverTheRequestAndClearsAnEarlierChoice) {
     EXPECT_EQ(request.FileDialogCaption, u"Save database to disk");
     EXPECT_EQ(request.FileDialogDefaultName, u"C:\\a.tbx");
     EXPECT_EQ(request.ChosenFilePath, u"");
-    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"");
 }
 
 TEST(FileChooser, LeavesLoadModeAndAFilterOfZeroAlsoInTheSettings) {
     TestApp t;
     t.user.ChooseFile(u"C:\\b.tbx");
     ShowFileChooser(t.app, ChooserMode::Save, u"*.tbx", u"Save database to disk");
-    EXPECT_EQ(t.app.Lister.ListerMode, 0);
-    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ListerMode, 0);
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().FileDialogFilter, u"0");
     EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
-    EXPECT_EQ(t.app.Lister.FileDialogCaption, u"");
-    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"C:\\b.tbx");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"C:\\b.tbx");
 }
 
 TEST(FileChooser, ChoosesNothingWhereNobodyAnswers) {
     TestApp t;
-    t.app.FilePicker = nullptr;
-    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    t.app.SetPort<FilePicker>(nullptr);
+    t.app.Exchange<ListerRequest>().ChosenFilePath = u"C:\\old.tbx";
     ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
-    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"");
 }
 
 TEST(FileChooser, HandsOverSeveralFilesWithTheirNumber) {
     TestApp t;
     t.user.ChooseFiles({u"C:\\a.tbx", u"C:\\b.tbx"});
     ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
-    EXPECT_EQ(t.app.Lister.ChosenFileCount, 2);
-    EXPECT_EQ(t.app.Lister.ChosenFiles, (std::vector<Text>{u"", u"C:\\a.tbx", u"C:\\b.tbx"}));
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFileCount, 2);
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFiles,
+              (std::vector<Text>{u"", u"C:\\a.tbx", u"C:\\b.tbx"}));
 }
 
 TEST(FileChooser, ProposesNoNameOfASaveBefore) {
     TestApp t;
-    t.app.Lister.FileDialogDefaultName = u"C:\\saved.tbx";
+    t.app.Exchange<ListerRequest>().FileDialogDefaultName = u"C:\\saved.tbx";
     t.user.CancelChooser();
     ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
     EXPECT_EQ(t.user.Requests().at(0).FileDialogDefaultName, u"");
@@ -58,36 +61,36 @@ TEST(FileChooser, ProposesNoNameOfASaveBefore) {
 
 TEST(DirectoryLister, IsTheChooserForAllFilesUnderItsOwnCaption) {
     TestApp t;
-    t.app.Lister.ChosenFilePath = u"C:\\old.tbx";
+    t.app.Exchange<ListerRequest>().ChosenFilePath = u"C:\\old.tbx";
     t.user.CancelChooser();
     ShowDirectoryLister(t.app);
     const ListerRequest& request = t.user.Requests().at(0);
     EXPECT_EQ(request.FileDialogFilter, u"*.*");
     EXPECT_EQ(request.FileDialogCaption, u"Directory lister");
     EXPECT_EQ(request.ChosenFilePath, u"");
-    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
-    EXPECT_EQ(t.app.Lister.FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().FileDialogCaption, u"");
     EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
 }
 
 // Deliberate: a save that was given up leaves its mode and name to the lister.
 TEST(DirectoryLister, KeepsTheModeAndTheNameThatWereLeftLast) {
     TestApp t;
-    t.app.Lister.ListerMode = 1;
-    t.app.Lister.FileDialogDefaultName = u"C:\\saved.rtf";
+    t.app.Exchange<ListerRequest>().ListerMode = 1;
+    t.app.Exchange<ListerRequest>().FileDialogDefaultName = u"C:\\saved.rtf";
     t.user.CancelChooser();
     ShowDirectoryLister(t.app);
     EXPECT_EQ(t.user.Requests().at(0).ListerMode, 1);
     EXPECT_EQ(t.user.Requests().at(0).FileDialogDefaultName, u"C:\\saved.rtf");
-    EXPECT_EQ(t.app.Lister.ListerMode, 1);
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ListerMode, 1);
 }
 
 TEST(DirectoryLister, DoesNothingWhereNobodyAnswers) {
     TestApp t;
-    t.app.FilePicker = nullptr;
+    t.app.SetPort<FilePicker>(nullptr);
     ShowDirectoryLister(t.app);
-    EXPECT_EQ(t.app.Lister.ChosenFilePath, u"");
-    EXPECT_EQ(t.app.Lister.FileDialogFilter, u"0");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().FileDialogFilter, u"0");
 }
 
 TEST(KeepCurrentDir, StaysWhereItIsWhenTheDirectoryHasGone) {

@@ -1,5 +1,6 @@
 #include "context/Launching.h"
 
+#include "context/exchange/SystemDirs.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>
@@ -149,12 +150,12 @@ TEST_F(LaunchingOnWindows, FindsOfficeWhereTheSettingsSay) {
 TEST_F(LaunchingOnWindows, KnowsTheNamesOfOfficeProgramsExactly) {
     t.app.Settings.WordPath = u"C:\\W\\w.exe";
     t.files.AddFile(u"C:\\W\\w.exe");
-    t.app.ProgramFilesDir = u"C:\\P\\";
+    t.app.Exchange<SystemDirs>().ProgramFilesDir = u"C:\\P\\";
     EXPECT_EQ(FindOfficeProgram(t.app, u"winword.exe"), u"C:\\P\\\\Microsoft Office\\Office\\winword.exe");
 }
 
 TEST_F(LaunchingOnWindows, FindsOfficeInTheNewestOfItsFoldersWithTwoBackslashesInARowDeliberately) {
-    t.app.ProgramFilesDir = u"C:\\P\\";
+    t.app.Exchange<SystemDirs>().ProgramFilesDir = u"C:\\P\\";
     t.app.Settings.ExcelPath = u"C:\\lost\\EXCEL.EXE";
     EXPECT_EQ(FindOfficeProgram(t.app, u"EXCEL.EXE"), u"C:\\P\\\\Microsoft Office\\Office\\EXCEL.EXE");
     for (const TextView folder : {u"OFFICE11", u"OFFICE12", u"OFFICE16"}) {

@@ -1,5 +1,6 @@
 #include "context/StoredPaths.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>
@@ -60,24 +61,24 @@ TEST_F(StoredPathsOnWindows, ARecentFileIsFoundOnTheFirstDriveWithItsMirror) {
 TEST_F(StoredPathsOnWindows, AFolderThatIsThereBecomesTheHint) {
     t.files.AddDir(u"D:\\Data");
     EXPECT_EQ(MapFolderPath(t.app, u"D:\\Data"), u"D:\\Data");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"D:\\Data");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"D:\\Data");
     EXPECT_THAT(t.shell.Calls(), IsEmpty());
 }
 
 TEST_F(StoredPathsOnWindows, ALostFolderIsTakenInItsOtherForm) {
     t.files.AddDir(u"G:\\Data");
     EXPECT_EQ(MapFolderPath(t.app, u"C:\\drive_G\\Data"), u"G:\\Data");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"G:\\Data");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"G:\\Data");
     t.files.AddDir(u"C:\\Drive_D\\Music");
     EXPECT_EQ(MapFolderPath(t.app, u"D:\\Music"), u"C:\\Drive_D\\Music");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"C:\\Drive_D\\Music");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\Drive_D\\Music");
 }
 
 TEST_F(StoredPathsOnWindows, AFolderLostInBothFormsIsToldInTheFormLastTried) {
-    t.app.Lister.CurrentFolderHint = u"C:\\";
+    t.app.Exchange<ListerRequest>().CurrentFolderHint = u"C:\\";
     t.user.Answer(CannotLocateDirectory(u"G:\\Lost"), Answer::Ok);
     EXPECT_EQ(MapFolderPath(t.app, u"C:\\Drive_G\\Lost"), u"G:\\Lost");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"C:\\");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\");
     EXPECT_THAT(t.shell.Calls(), ElementsAre(kBeep));
 }
 
@@ -85,14 +86,14 @@ TEST_F(StoredPathsOnWindows, AFileOfThatNameIsNoFolder) {
     t.files.AddFile(u"D:\\x");
     t.user.Answer(CannotLocateDirectory(u"C:\\Drive_D\\x"), Answer::Ok);
     MapFolderPath(t.app, u"D:\\x");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"");
 }
 
 TEST_F(StoredPathsOnWindows, AHyphenOrABlankIsNoFolderAndDoesNothing) {
-    t.app.Lister.CurrentFolderHint = u"C:\\";
+    t.app.Exchange<ListerRequest>().CurrentFolderHint = u"C:\\";
     for (const TextView path : {u"-", u"-x", u"", u"   "})
         EXPECT_EQ(MapFolderPath(t.app, path), path);
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"C:\\");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\");
     EXPECT_THAT(t.shell.Calls(), IsEmpty());
 }
 
@@ -110,13 +111,13 @@ TEST_F(StoredPathsOnPosix, AWindowsPathIsGivenUp) {
 TEST_F(StoredPathsOnPosix, AFolderThatIsThereBecomesTheHint) {
     t.files.AddDir(u"/home/ann/Drive_x");
     EXPECT_EQ(MapFolderPath(t.app, u"/home/ann/Drive_x"), u"/home/ann/Drive_x");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"/home/ann/Drive_x");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"/home/ann/Drive_x");
 }
 
 TEST_F(StoredPathsOnPosix, ALostFolderIsToldAsItStands) {
     t.user.Answer(CannotLocateDirectory(u"/a/Drive_G/lost"), Answer::Ok);
     MapFolderPath(t.app, u"/a/Drive_G/lost");
-    EXPECT_EQ(t.app.Lister.CurrentFolderHint, u"");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"");
     EXPECT_THAT(t.shell.Calls(), ElementsAre(kBeep));
 }
 

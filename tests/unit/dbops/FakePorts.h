@@ -1,7 +1,12 @@
 #pragma once
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/ClipboardView.h"
+#include "context/ports/FontPicker.h"
+#include "context/ports/InsertTools.h"
+#include "context/ports/MarkupPicker.h"
+#include "context/ports/TextWindow.h"
+#include "context/ports/WordList.h"
 #include "controls/TextBox.h"
 
 #include <optional>
@@ -12,7 +17,7 @@ namespace korvane {
 /// Takes down what was put into the text window.
 class FakeTextWindow final : public TextWindow {
 public:
-    explicit FakeTextWindow(App& app) { app.TextWindow = this; }
+    explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }
     std::vector<Text> inserted;
 
     void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
@@ -21,7 +26,7 @@ public:
 /// Counts its openings, and retrieves the contents when told.
 class FakeClipboardView final : public ClipboardView {
 public:
-    explicit FakeClipboardView(App& app) { app.ClipboardView = this; }
+    explicit FakeClipboardView(App& app) { app.SetPort<ClipboardView>(this); }
     int shown = 0;
     int offered = 0;
     bool retrieves = false;
@@ -36,7 +41,7 @@ public:
 /// Gives out a word, unless it has none.
 class FakeWordList final : public WordList {
 public:
-    explicit FakeWordList(App& app) { app.WordList = this; }
+    explicit FakeWordList(App& app) { app.SetPort<WordList>(this); }
     std::optional<Text> word;
 
     std::optional<Text> Choose() override { return word; }
@@ -45,7 +50,7 @@ public:
 /// Gives out a date, unless it has none, and writes characters and elements at the selection.
 class FakeInsertTools final : public InsertTools {
 public:
-    explicit FakeInsertTools(App& app) { app.InsertTools = this; }
+    explicit FakeInsertTools(App& app) { app.SetPort<InsertTools>(this); }
     std::optional<Text> dateTime;
 
     std::optional<Text> ChooseDateTime() override { return dateTime; }
@@ -56,7 +61,7 @@ public:
 /// Puts a bold pair round the selection.
 class FakeMarkupPicker final : public MarkupPicker {
 public:
-    explicit FakeMarkupPicker(App& app) { app.MarkupPicker = this; }
+    explicit FakeMarkupPicker(App& app) { app.SetPort<MarkupPicker>(this); }
 
     void InsertTagPair(TextBox& target) override { target.SetSelText(u"<B>" + target.SelText() + u"</B>"); }
 };
@@ -64,7 +69,7 @@ public:
 /// Gives out a font, unless it has none.
 class FakeFontPicker final : public FontPicker {
 public:
-    explicit FakeFontPicker(App& app) { app.FontPicker = this; }
+    explicit FakeFontPicker(App& app) { app.SetPort<FontPicker>(this); }
     FontSpec offered;
     std::optional<FontSpec> font;
 

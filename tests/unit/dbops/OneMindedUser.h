@@ -1,6 +1,7 @@
 #pragma once
 
-#include "context/Ports.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FontPicker.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"

@@ -1,5 +1,6 @@
 #include "dialogs/frmMyInputBox.h"
 
+#include "context/exchange/InputQuestion.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -21,13 +22,13 @@ TEST_F(MyInputBoxTest, HasItsCaptions) {
 }
 
 TEST_F(MyInputBoxTest, OffersTheTextWithAllOfItSelectedAndTheCaretAtItsEnd) {
-    t.app.InputResult = u"left over";
+    t.app.Exchange<InputQuestion>().InputResult = u"left over";
     t.user.On<frmMyInputBox>([this](frmMyInputBox& f) {
         EXPECT_EQ(f.txtBoxCaption.Caption.Get(), u"Edit text line as required.");
         EXPECT_EQ(f.txtBoxText.Text.Get(), u"offered");
         EXPECT_EQ(f.txtBoxText.SelText(), u"offered");
         EXPECT_EQ(f.txtBoxText.SelStart.Get() + f.txtBoxText.SelLength.Get(), 7);
-        EXPECT_EQ(t.app.InputResult, u"");
+        EXPECT_EQ(t.app.Exchange<InputQuestion>().InputResult, u"");
         f.cmdCancel.Press();
     });
     AskForText(t.app, u"Edit text line as required.", u"offered");
@@ -39,7 +40,7 @@ TEST_F(MyInputBoxTest, OkGivesTheText) {
         f.cmdOk.Press();
     });
     EXPECT_EQ(AskForText(t.app, u"Question", u"offered"), u"typed");
-    EXPECT_EQ(t.app.InputResult, u"typed");
+    EXPECT_EQ(t.app.Exchange<InputQuestion>().InputResult, u"typed");
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 

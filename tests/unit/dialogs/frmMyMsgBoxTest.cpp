@@ -1,5 +1,6 @@
 #include "dialogs/frmMyMsgBox.h"
 
+#include "context/exchange/MessageQuestion.h"
 #include "support/MenuEntries.h"
 #include "support/TestApp.h"
 
@@ -18,17 +19,17 @@ protected:
         t.files.AddFile(kFile, std::string(1234, 'x'));
         t.files.SetModified(kFile, {2026, 3, 1, 14, 5, 9});
         t.clock.Set({2026, 11, 21, 9, 8, 7});
-        t.app.MsgFilePath = kFile;
+        t.app.Exchange<MessageQuestion>().MsgFilePath = kFile;
     }
     /// Shows the box and lets `act` be done in it.
     MsgAnswer Ask(const std::function<void(frmMyMsgBox&)>& act) {
-        t.app.MsgAnswer = MsgAnswer::Cancel;
+        t.app.Exchange<MessageQuestion>().MsgAnswer = MsgAnswer::Cancel;
         t.user.On<frmMyMsgBox>([&act](frmMyMsgBox& f) {
             act(f);
             if (f.Shown()) f.Close();
         });
         frmMyMsgBox(t.app).ShowModal();
-        return t.app.MsgAnswer;
+        return t.app.Exchange<MessageQuestion>().MsgAnswer;
     }
 
     TestApp t;
@@ -46,7 +47,7 @@ TEST_F(MyMsgBoxTest, ShowsTheFile) {
 
 TEST_F(MyMsgBoxTest, AFileNotSavedYetHasNoDateAndNoSize) {
     for (const TextView path : {TextView(), TextView(u"C:\\gone.rtf")}) {
-        t.app.MsgFilePath = Text(path);
+        t.app.Exchange<MessageQuestion>().MsgFilePath = Text(path);
         Ask([](frmMyMsgBox& f) {
             EXPECT_EQ(f.lblFileSize.Caption.Get(), u"0");
             EXPECT_EQ(f.lblFileDate.Caption.Get(), u"(not yet saved!)     [ now: 21/11/2026, 09:08:07 ]");
@@ -90,7 +91,7 @@ TEST_F(MyMsgBoxTest, EachButtonHasItsAnswer) {
     EXPECT_EQ(Ask([](frmMyMsgBox& f) { f.OfficeMenu1.Choose("mnuSave"); }), MsgAnswer::SaveDirectly);
     EXPECT_EQ(Ask([](frmMyMsgBox& f) { f.cmdNo.Press(); }), MsgAnswer::DoNotSave);
     EXPECT_EQ(Ask([this](frmMyMsgBox& f) {
-                  t.app.MsgAnswer = MsgAnswer::SaveDirectly;
+                  t.app.Exchange<MessageQuestion>().MsgAnswer = MsgAnswer::SaveDirectly;
                   f.cmdCancel.Press();
               }),
               MsgAnswer::Cancel);
@@ -111,7 +112,7 @@ TEST_F(MyMsgBoxTest, EscapeOnAButtonClosesAndLeavesTheAnswer) {
 
 TEST_F(MyMsgBoxTest, EscapeLeavesAnyAnswerAsItStands) {
     EXPECT_EQ(Ask([this](frmMyMsgBox& f) {
-                  t.app.MsgAnswer = MsgAnswer::SaveDirectly;
+                  t.app.Exchange<MessageQuestion>().MsgAnswer = MsgAnswer::SaveDirectly;
                   KeyEvent key{Key::Escape};
                   f.cmdCancel.KeyDown(key);
               }),

@@ -1,4 +1,5 @@
 #include "GridFixtures.h"
+#include "grid/Grid.h"
 
 namespace korvane {
 namespace {

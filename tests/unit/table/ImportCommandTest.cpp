@@ -1,6 +1,6 @@
 #include "table/ImportCommand.h"
 
-#include "context/Ports.h"
+#include "context/ports/ClipboardView.h"
 #include "support/TableBytes.h"
 #include "support/TestTable.h"
 #include "table/SaveCommands.h"
@@ -26,7 +26,7 @@ constexpr std::size_t kVeryLong = 50'000'000;
 /// Offers the clipboard, and retrieves it unless told otherwise.
 class OfferedClipboard final : public ClipboardView {
 public:
-    explicit OfferedClipboard(App& app) { app.ClipboardView = this; }
+    explicit OfferedClipboard(App& app) { app.SetPort<ClipboardView>(this); }
     int offered = 0;
     bool retrieves = true;
 
@@ -314,7 +314,7 @@ TEST_F(Import, WhoRetrievesNothingImportsNothing) {
 }
 
 TEST_F(Import, WithoutAViewOfTheClipboardNothingIsImported) {
-    on.program.app.ClipboardView = nullptr;
+    on.program.app.SetPort<ClipboardView>(nullptr);
     mnuImport_Clip_Clack(on.tab);
     ExpectSize(0, 0);
 }

@@ -1,5 +1,6 @@
 #include "table/SaveCommands.h"
 
+#include "context/exchange/ClosingSave.h"
 #include "support/TableBytes.h"
 #include "support/TestTable.h"
 #include "table/TableFile.h"
@@ -224,7 +225,7 @@ TEST_F(ClosingQuestion, TheCancelButtonIsThereOnlyDuringTheSave) {
         info.cmdClose.Press();
     });
     EXPECT_TRUE(AskToSaveAtClosing(tab));
-    EXPECT_EQ(t.app.ClosingTabSave, 0);
+    EXPECT_EQ(t.app.Exchange<ClosingSave>().ClosingTabSave, 0);
     t.user.On<frmTxtDbInfo>([](frmTxtDbInfo& info) {
         info.cmdCancel.Press();
         EXPECT_TRUE(info.Shown());

@@ -1,4 +1,5 @@
 #include "TbxFixtures.h"
+#include "grid/Grid.h"
 
 namespace korvane {
 namespace {

@@ -1,5 +1,7 @@
 #include "text/ClipboardWindow.h"
 
+#include "context/exchange/TextWindowState.h"
+#include "context/ports/ClipboardView.h"
 #include "support/TestApp.h"
 #include "text/frmViewAndPaste.h"
 #include "unit/text/FakeTextPorts.h"
@@ -31,9 +33,9 @@ protected:
 };
 
 TEST_F(ClipboardWindowTest, AnswersTheProgram) {
-    EXPECT_EQ(t.app.ClipboardView, &window);
+    EXPECT_EQ(t.app.Port<ClipboardView>(), &window);
     { const ClipboardWindow other(t.app); }
-    EXPECT_EQ(t.app.ClipboardView, nullptr);
+    EXPECT_EQ(t.app.Port<ClipboardView>(), nullptr);
 }
 
 TEST_F(ClipboardWindowTest, ShowTellsByTheResultWhetherTheContentsWereRetrieved) {
@@ -46,23 +48,23 @@ TEST_F(ClipboardWindowTest, ShowTellsByTheResultWhetherTheContentsWereRetrieved)
 }
 
 TEST_F(ClipboardWindowTest, ShowWritesToTheTextWindowThatStandsOpen) {
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     UserRetrieves();
     window.Show();
     EXPECT_EQ(textWindow.inserted, std::vector<Text>{u"some text"});
 }
 
 TEST_F(ClipboardWindowTest, AChoiceLeavesTheContentsToTheCallerAlsoWithATextWindowOpen) {
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     std::int16_t during = -1;
     t.user.On<frmViewAndPaste>([&](frmViewAndPaste& f) {
-        during = t.app.TextWindowOpen;
+        during = t.app.Exchange<TextWindowState>().TextWindowOpen;
         f.Activate();
         f.OfficeMenu1.Choose("mnuRetrieve");
     });
     EXPECT_TRUE(window.Choose());
     EXPECT_EQ(during, 0);
-    EXPECT_EQ(t.app.TextWindowOpen, 1);
+    EXPECT_EQ(t.app.Exchange<TextWindowState>().TextWindowOpen, 1);
     EXPECT_TRUE(textWindow.inserted.empty());
 }
 

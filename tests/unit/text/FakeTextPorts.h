@@ -1,7 +1,9 @@
 #pragma once
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/MainWindow.h"
+#include "context/ports/SystemFileDialog.h"
+#include "context/ports/TextWindow.h"
 
 #include <optional>
 #include <string>
@@ -12,7 +14,7 @@ namespace korvane {
 /// Takes down what was put into the text window.
 class FakeTextWindow final : public TextWindow {
 public:
-    explicit FakeTextWindow(App& app) { app.TextWindow = this; }
+    explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }
     std::vector<Text> inserted;
 
     void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
@@ -21,7 +23,7 @@ public:
 /// Knows the folder of its tab, and remembers what it was to run.
 class FakeMainWindow final : public MainWindow {
 public:
-    explicit FakeMainWindow(App& app) { app.MainWindow = this; }
+    explicit FakeMainWindow(App& app) { app.SetPort<MainWindow>(this); }
     Text folder;
     std::vector<std::string> commands;
 
@@ -34,7 +36,7 @@ public:
 /// Chooses a file, or nothing, and remembers what it was asked.
 class FakeSystemFileDialog final : public SystemFileDialog {
 public:
-    explicit FakeSystemFileDialog(App& app) { app.SystemFileDialog = this; }
+    explicit FakeSystemFileDialog(App& app) { app.SetPort<SystemFileDialog>(this); }
     std::optional<Text> answer;
     std::vector<Request> requests;
 

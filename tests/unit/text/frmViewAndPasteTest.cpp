@@ -1,5 +1,7 @@
 #include "text/frmViewAndPaste.h"
 
+#include "context/exchange/TextWindowState.h"
+#include "context/ports/SystemFileDialog.h"
 #include "support/TestApp.h"
 #include "unit/text/FakeTextPorts.h"
 
@@ -214,7 +216,7 @@ TEST_F(ViewAndPaste, ShowsTheHourglassWhileItFills) {
 
 TEST_F(ViewAndPaste, RetrieveOfThePlainRenderingPutsTheWholeTextIntoTheTextWindow) {
     FakeTextWindow window(t.app);
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"one\r\ntwo");
     LookTillClosed([](frmViewAndPaste& f) {
         f.Text1.SelStart = 1;
@@ -228,7 +230,7 @@ TEST_F(ViewAndPaste, RetrieveOfThePlainRenderingPutsTheWholeTextIntoTheTextWindo
 
 TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingPutsItsSelectionOnly) {
     FakeTextWindow window(t.app);
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"one two");
     LookTillClosed([](frmViewAndPaste& f) {
         f.OfficeMenu1.Choose("mnuToggle");
@@ -247,7 +249,7 @@ TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingPutsItsSelectionOnly) {
 
 TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingWithoutASelectionWritesNothingDeliberately) {
     FakeTextWindow window(t.app);
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"text");
     LookTillClosed([](frmViewAndPaste& f) {
         f.OfficeMenu1.Choose("mnuToggle");
@@ -267,14 +269,14 @@ TEST_F(ViewAndPaste, WithoutATextWindowOpenRetrieveOnlyTellsTheCaller) {
 
 TEST_F(ViewAndPaste, RetrieveOfAnEmptyPlainRenderingPutsNothingInPlaceOfTheSelection) {
     FakeTextWindow window(t.app);
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
     EXPECT_EQ(window.inserted, std::vector<Text>{u""});
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 
 TEST_F(ViewAndPaste, RetrieveForATextWindowThatIsGoneOnlyTellsTheCaller) {
-    t.app.TextWindowOpen = 1;
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"text");
     LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
     EXPECT_EQ(t.app.DialogResult, 1);
@@ -312,7 +314,7 @@ TEST_F(ViewAndPaste, EveryListedCommandRuns) {
         FakeSystemFileDialog dialog(t.app);
         f.iGridListBar.DoubleClick(3);
         EXPECT_EQ(dialog.requests.size(), 1u);
-        t.app.SystemFileDialog = nullptr;
+        t.app.SetPort<SystemFileDialog>(nullptr);
     });
 }
 

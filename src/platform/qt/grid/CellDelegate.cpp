@@ -1,5 +1,6 @@
 #include "platform/qt/grid/CellDelegate.h"
 
+#include "grid/Grid.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/grid/CellEditor.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "context/Ports.h"
+#include "context/ports/FilePicker.h"
 
 namespace korvane {
 

@@ -1,7 +1,9 @@
 #include "dbops/commands/ColumnCommands.h"
 
 #include "common/number/Number.h"
+#include "context/ports/FontPicker.h"
 #include "dbops/windows/frmTxtDbColName.h"
+#include "grid/Grid.h"
 #include "table/DesignCommand.h"
 #include "table/frmDesignTable.h"
 #include "unit/dbops/TestTab.h"
@@ -410,7 +412,7 @@ TEST_F(ChoosingTheFont, OnlyTakesTheFocusAfterACancel) {
 }
 
 TEST_F(ChoosingTheFont, OnlyTakesTheFocusWithoutAFontDialog) {
-    t.app.FontPicker = nullptr;
+    t.app.SetPort<FontPicker>(nullptr);
     mnuEdit_Font_Clack(t.tab);
     EXPECT_EQ(t.watcher.focusWanted, 1);
     EXPECT_EQ(t.table.TableAltered, 0);

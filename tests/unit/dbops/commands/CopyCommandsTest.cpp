@@ -1,6 +1,9 @@
 #include "dbops/commands/CopyCommands.h"
 
 #include "common/number/Number.h"
+#include "context/exchange/DelimiterChoice.h"
+#include "context/ports/ClipboardView.h"
+#include "context/ports/TextWindow.h"
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmDelimiterType.h"
 #include "unit/dbops/FakePorts.h"
@@ -250,7 +253,7 @@ TEST_F(CopyCommands, DeliberatelyTheLineBreakBoxHasNoEffectOnTheOutput) {
     t.Tick({1});
     mnuCopyCheckedRowsToClipb_Clack(t.tab);
     EXPECT_EQ(t.clipboard.GetText(), u"a1\tb1\tc1\r\n\r\n");
-    EXPECT_EQ(t.app.BreakAfterFieldThree, 1);
+    EXPECT_EQ(t.app.Exchange<DelimiterChoice>().BreakAfterFieldThree, 1);
 }
 
 TEST_F(CopyCommands, TextsThatTheCodePageDoesNotHoldComeThroughInTheirPlace) {
@@ -310,8 +313,8 @@ TEST_F(CopyCommands, LeavesTheTableUnaltered) {
 }
 
 TEST_F(CopyCommands, WithoutATextWindowAndAClipboardViewDoesTheRest) {
-    t.app.TextWindow = nullptr;
-    t.app.ClipboardView = nullptr;
+    t.app.SetPort<TextWindow>(nullptr);
+    t.app.SetPort<ClipboardView>(nullptr);
     mnuEdit_CopyCellToText_Clack(t.tab);
     mnuEdit_CopyRowToText_Clack(t.tab);
     mnuEdit_WinClip_Clack(t.tab);

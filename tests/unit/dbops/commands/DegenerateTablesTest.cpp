@@ -1,6 +1,8 @@
 // Runs every command on tables that have too little, or too much, to work on.
 
 #include "common/number/Number.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FontPicker.h"
 #include "dbops/commands/TabCommands.h"
 #include "support/FakeSystemFileDialog.h"
 #include "support/GridState.h"
@@ -48,8 +50,8 @@ public:
         watcher.watched = &grid;
         grid.SetListener(&watcher);
         Fill(shape);
-        app.ColourPicker = &user;
-        app.FontPicker = &user;
+        app.SetPort<ColourPicker>(&user);
+        app.SetPort<FontPicker>(&user);
         clipboardView.retrieves = button.has_value();
         if (button) dialog.answer = u"C:\\out.xls";
     }

@@ -1,6 +1,8 @@
 #include "dbops/commands/ExcelExport.h"
 
+#include "context/ports/SystemFileDialog.h"
 #include "dbops/windows/frmChooseRange.h"
+#include "grid/Grid.h"
 #include "support/FakeSystemFileDialog.h"
 #include "unit/dbops/TestTab.h"
 
@@ -217,7 +219,7 @@ TEST_F(ExcelExport, WithoutASpreadsheetApplicationOnlyThePointerComesBack) {
 }
 
 TEST_F(ExcelExport, OnASystemWithoutAFileDialogNothingHappens) {
-    t.app.SystemFileDialog = nullptr;
+    t.app.SetPort<SystemFileDialog>(nullptr);
     Run();
     EXPECT_THAT(t.spreadsheetSteps, IsEmpty());
     EXPECT_THAT(t.screen.Pointers(), IsEmpty());

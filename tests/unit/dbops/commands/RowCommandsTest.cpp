@@ -1,6 +1,7 @@
 #include "dbops/commands/RowCommands.h"
 
 #include "dbops/windows/frmTxtDbAddRows.h"
+#include "grid/Grid.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>

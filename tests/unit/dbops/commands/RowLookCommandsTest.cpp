@@ -1,9 +1,12 @@
 #include "dbops/commands/RowLookCommands.h"
 
+#include "context/exchange/RowColourMemory.h"
+#include "context/ports/ColourPicker.h"
 #include "dbops/commands/TickCommands.h"
 #include "dbops/rules/RowColours.h"
 #include "dbops/rules/RowFontFlags.h"
 #include "dbops/windows/frmRowColour.h"
+#include "grid/Grid.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
@@ -197,7 +200,7 @@ TEST_F(RowColourCommand, SelectsAfterTakingAllTicksAwayWithoutAsking) {
     PaintRedRows();
     t.Tick({2, 3});
     t.Hide({3});
-    t.app.RemoveChecksAtStart = 1;
+    t.app.Exchange<RowColourMemory>().RemoveChecksAtStart = 1;
     Choose(kRed, &frmRowColour::cmdSelect);
     t.AnswerInformation(u"[ 2 ] items selected.");
     Run();
@@ -352,7 +355,7 @@ TEST_F(TableBackground, DeliberatelyCannotBeBlack) {
 TEST_F(TableBackground, StaysAfterACancelAndWithoutAColourDialog) {
     t.user.ChooseColour(std::nullopt);
     mnuFormat_BColor_Clack(t.tab);
-    t.app.ColourPicker = nullptr;
+    t.app.SetPort<ColourPicker>(nullptr);
     mnuFormat_BColor_Clack(t.tab);
     EXPECT_EQ(t.table.TableBackColour, Colour{0xABCDEF});
     EXPECT_EQ(t.table.TableAltered, 0);

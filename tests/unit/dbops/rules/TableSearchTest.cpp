@@ -1,5 +1,6 @@
 #include "dbops/rules/TableSearch.h"
 
+#include "grid/Grid.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>

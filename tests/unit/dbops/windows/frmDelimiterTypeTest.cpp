@@ -1,5 +1,6 @@
 #include "dbops/windows/frmDelimiterType.h"
 
+#include "context/exchange/DelimiterChoice.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
@@ -129,7 +130,7 @@ TEST_F(DelimiterType, ACancelGivesZeroAndTakesNothing) {
     });
     EXPECT_EQ(t.app.DialogResult, 0);
     EXPECT_EQ(t.app.Settings.DelimiterString, u",");
-    EXPECT_EQ(t.app.BreakAfterFieldThree, 0);
+    EXPECT_EQ(t.app.Exchange<DelimiterChoice>().BreakAfterFieldThree, 0);
 }
 
 TEST_F(DelimiterType, RestoresTheLineBreakBox) {

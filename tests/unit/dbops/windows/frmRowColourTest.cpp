@@ -1,5 +1,7 @@
 #include "dbops/windows/frmRowColour.h"
 
+#include "context/exchange/RowColourMemory.h"
+#include "grid/Grid.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
@@ -99,7 +101,7 @@ TEST_F(RowColourWindow, SelectPutsTheColoursOfTheEntryIntoTheSettings) {
 }
 
 TEST_F(RowColourWindow, WithoutAnEntryTheChosenColoursStay) {
-    t.app.RowColourIndex = -1;
+    t.app.Exchange<RowColourMemory>().RowColourIndex = -1;
     t.app.Settings.ColourChoiceB = 11;
     t.app.Settings.ColourChoiceA = 12;
     EXPECT_EQ(Show([](frmRowColour& window) { window.cmdAccept.Press(); }), 1);
@@ -139,7 +141,7 @@ TEST_F(RowColourWindow, RemembersItsChoicesHoweverItWasClosed) {
         window.optAttribute[2].Press();
         window.cmdCancel.Press();
     });
-    EXPECT_EQ(t.app.RowAttribute, CellFlag::Strikethrough);
+    EXPECT_EQ(t.app.Exchange<RowColourMemory>().RowAttribute, CellFlag::Strikethrough);
     Show([](frmRowColour& window) {
         EXPECT_EQ(window.lstColourOptions.ListIndex(), 4);
         EXPECT_EQ(window.chkRemoveChecksAtstart.Value, 1);
@@ -149,8 +151,8 @@ TEST_F(RowColourWindow, RemembersItsChoicesHoweverItWasClosed) {
         window.optAttribute[1].Press();
         window.cmdFilterToAttribute.Press();
     });
-    EXPECT_EQ(t.app.RemoveChecksAtStart, 0);
-    EXPECT_EQ(t.app.RowAttribute, CellFlag::Bold);
+    EXPECT_EQ(t.app.Exchange<RowColourMemory>().RemoveChecksAtStart, 0);
+    EXPECT_EQ(t.app.Exchange<RowColourMemory>().RowAttribute, CellFlag::Bold);
 }
 
 TEST_F(RowColourWindow, TheFlagButtonsFlipTheCurrentRowAndLeaveTheWindowOpen) {

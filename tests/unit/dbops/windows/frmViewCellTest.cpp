@@ -1,5 +1,6 @@
 #include "dbops/windows/frmViewCell.h"
 
+#include "context/ports/FontPicker.h"
 #include "unit/dbops/FakePorts.h"
 #include "unit/dbops/TestTab.h"
 
@@ -392,7 +393,7 @@ TEST_F(ViewCell, TheChosenFontGoesToTheBoxAndTheSettings) {
 }
 
 TEST_F(ViewCell, ToolsThatAreNotThereChangeNothing) {
-    t.app.FontPicker = nullptr;
+    t.app.SetPort<FontPicker>(nullptr);
     Look([](frmViewCell& f) {
         for (CommandButton* tool : {&f.cmdClipboard, &f.cmdWordList, &f.cmdDateTime, &f.cmdAsciiBox,
                                     &f.cmdElements, &f.cmdFonts, &f.cmdHTML})

@@ -1,3 +1,5 @@
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/ClipboardView.h"
 #include "shell/settings/frmSetYourProg.h"
 #include "support/TestProgram.h"
 
@@ -20,21 +22,21 @@ protected:
 
 TEST_F(MainRoutinesTest, TheDirectoryListerKeepsItsModeAndEndsAtRest) {
     p.StartWith({});
-    p.app.Lister.ListerMode = 1;
-    p.app.Lister.ChosenFilePath = u"left over";
+    p.app.Exchange<ListerRequest>().ListerMode = 1;
+    p.app.Exchange<ListerRequest>().ChosenFilePath = u"left over";
     p.user.CancelChooser();
     p.Choose("mnuFile_DirLister");
     EXPECT_EQ(p.user.Requests().at(0).FileDialogFilter, u"*.*");
     EXPECT_EQ(p.user.Requests().at(0).FileDialogCaption, u"Directory lister");
     EXPECT_EQ(p.user.Requests().at(0).ChosenFilePath, u"");
-    EXPECT_EQ(p.app.Lister.ListerMode, 1);
-    EXPECT_EQ(p.app.Lister.FileDialogFilter, u"0");
-    EXPECT_EQ(p.app.Lister.FileDialogCaption, u"");
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().ListerMode, 1);
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().FileDialogFilter, u"0");
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().FileDialogCaption, u"");
 }
 
 TEST_F(MainRoutinesTest, TheGridsKeyShowsTheClipboard) {
     CountingClipboardView view;
-    p.app.ClipboardView = &view;
+    p.app.SetPort<ClipboardView>(&view);
     p.StartWith({});
     p.OpenNewTab();
     EXPECT_TRUE(p.PressKey('V', Mask::Ctrl | Mask::Alt));

@@ -1,3 +1,4 @@
+#include "grid/Grid.h"
 #include "shell/commands/Commands.h"
 #include "support/TestProgram.h"
 #include "table/frmDesignTable.h"

@@ -1,5 +1,7 @@
 // A whole run without a display, from the command line to the bytes on disk.
 
+#include "context/exchange/StateFiles.h"
+#include "grid/Grid.h"
 #include "support/TestProgram.h"
 #include "table/frmTxtDbInfo.h"
 
@@ -72,10 +74,11 @@ protected:
         expected.PageSizeName = u"0";
         expected.WallpaperNumber = u"0";
         expected.LastDbFindText = findText;
-        EXPECT_EQ(p.FileBytes(p.app.IniFilePath), SettingsBytes(expected));
-        EXPECT_EQ(p.FileBytes(p.app.RecFilePath), "C:\\Data\\Places.tbx | 0*2026.11.21   10:30\r\n"
-                                                  "C:\\Data\\People.tbx | 0*2026.11.21   10:30\r\n"
-                                                  "C:\\Data\\Books.tbx | 0*2026.11.21   10:30\r\n");
+        EXPECT_EQ(p.FileBytes(p.app.Exchange<StateFiles>().IniFilePath), SettingsBytes(expected));
+        EXPECT_EQ(p.FileBytes(p.app.Exchange<StateFiles>().RecFilePath),
+                  "C:\\Data\\Places.tbx | 0*2026.11.21   10:30\r\n"
+                  "C:\\Data\\People.tbx | 0*2026.11.21   10:30\r\n"
+                  "C:\\Data\\Books.tbx | 0*2026.11.21   10:30\r\n");
     }
 
     TestProgram p;
@@ -123,7 +126,7 @@ TEST_F(EndToEnd, AllAreAlteredAndTheEndIsCancelledAtTheSecondAndThenGoesThrough)
     EXPECT_TRUE(p.Main().Shown());
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"People.tbx", u"Places.tbx"}));
     // Nothing of the state is written before the end.
-    EXPECT_EQ(p.FileBytes(p.app.IniFilePath), SettingsBytes(StartSettings()));
+    EXPECT_EQ(p.FileBytes(p.app.Exchange<StateFiles>().IniFilePath), SettingsBytes(StartSettings()));
 
     p.Tab(3).txtFindString.Type(u"Ems");
     AnswerQuestion(kPeople, Answer::No);
@@ -189,7 +192,7 @@ TEST_F(EndToEnd, AValueOfItsOwnOnEveryLineOfTheSettingsComesThroughARun) {
     std::swap(lines[26], lines[27]);
     std::swap(lines[28], lines[29]);
     std::swap(lines[30], lines[31]);
-    EXPECT_EQ(p.FileBytes(p.app.IniFilePath), Joined(lines));
+    EXPECT_EQ(p.FileBytes(p.app.Exchange<StateFiles>().IniFilePath), Joined(lines));
 }
 
 TEST_F(EndToEnd, TheNextStartComesUpAsTheLastRunEnded) {
@@ -199,7 +202,8 @@ TEST_F(EndToEnd, TheNextStartComesUpAsTheLastRunEnded) {
     p.EndProcess();
 
     TestProgram next;
-    for (const Text& path : {p.app.IniFilePath, p.app.RecFilePath}) {
+    for (const Text& path :
+         {p.app.Exchange<StateFiles>().IniFilePath, p.app.Exchange<StateFiles>().RecFilePath}) {
         next.files.AddFile(path, p.FileBytes(path));
     }
     next.Start();
@@ -231,7 +235,8 @@ TEST_F(EndToEnd, TheSameRunOnPosix) {
     posix.user.Answer(Answer::Yes);
     posix.Choose("mnuFile_Exit");
     EXPECT_EQ(posix.FileBytes(file), NameTable(file, {"Walden"}));
-    EXPECT_EQ(posix.FileBytes(posix.app.RecFilePath), "/home/me/Books.tbx | 0*2026.11.21   10:30\r\n");
+    EXPECT_EQ(posix.FileBytes(posix.app.Exchange<StateFiles>().RecFilePath),
+              "/home/me/Books.tbx | 0*2026.11.21   10:30\r\n");
 }
 
 } // namespace

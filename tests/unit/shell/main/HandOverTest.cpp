@@ -1,5 +1,6 @@
 #include "shell/main/HandOver.h"
 
+#include "context/exchange/StartState.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +32,7 @@ TEST_F(HandOverTest, ASecondStartHandsItsFileOverWithItsFullPathAndEnds) {
     EXPECT_EQ(p.instance.Delivered(), std::vector<Text>{kFile});
     EXPECT_EQ(p.instance.Waits(), 1);
     EXPECT_EQ(p.instance.Activations(), 1);
-    EXPECT_EQ(p.app.SecondInstance, 1);
+    EXPECT_EQ(p.app.Exchange<StartState>().SecondInstance, 1);
     EXPECT_FALSE(p.Main().Shown());
     EXPECT_TRUE(p.Captions().empty());
     ExpectNothingChangedOnDisk();
@@ -78,7 +79,7 @@ TEST_F(HandOverTest, APathThatIsNotTakenIsToldAndTheStartEndsAsUsual) {
     p.user.Answer(kNoAccess, Answer::Ok);
     p.Start(kFile);
     EXPECT_EQ(p.instance.Activations(), 1);
-    EXPECT_EQ(p.app.SecondInstance, 1);
+    EXPECT_EQ(p.app.Exchange<StartState>().SecondInstance, 1);
 }
 
 TEST_F(HandOverTest, ASecondStartReadsTheSettingsToo) {
@@ -101,7 +102,7 @@ protected:
 TEST_F(ReceptionTest, APathFromASecondStartIsLoaded) {
     EXPECT_TRUE(p.instance.Arrive(kFile));
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
-    EXPECT_EQ(p.app.LoadedByCommand, -1);
+    EXPECT_EQ(p.app.Exchange<StartState>().LoadedByCommand, -1);
 }
 
 TEST_F(ReceptionTest, TheSlotIsTakenWhileALoadRuns) {

@@ -1,5 +1,9 @@
 #include "shell/main/StartUp.h"
 
+#include "context/exchange/StartState.h"
+#include "context/exchange/StateFiles.h"
+#include "context/exchange/SystemDirs.h"
+#include "context/exchange/WordEnds.h"
 #include "shell/recent/frmFileList.h"
 #include "shell/tabs/frmLoadList.h"
 #include "support/TestProgram.h"
@@ -61,9 +65,9 @@ TEST_F(StartUpTest, AMenuFontThatIsNotSetLeavesTheSystemsOwn) {
 
 TEST_F(StartUpTest, TheFilesOfTheProgramAreNamed) {
     p.StartWith({});
-    EXPECT_EQ(p.app.HelpFilePath, u"C:\\Korvane\\Korvane_Help.rtf");
-    EXPECT_EQ(p.app.IniFilePath, u"C:\\Korvane\\Korvane.ini");
-    EXPECT_EQ(p.app.RecFilePath, u"C:\\Korvane\\Korvane.rec");
+    EXPECT_EQ(p.app.Exchange<StateFiles>().HelpFilePath, u"C:\\Korvane\\Korvane_Help.rtf");
+    EXPECT_EQ(p.app.Exchange<StateFiles>().IniFilePath, u"C:\\Korvane\\Korvane.ini");
+    EXPECT_EQ(p.app.Exchange<StateFiles>().RecFilePath, u"C:\\Korvane\\Korvane.rec");
 }
 
 TEST_F(StartUpTest, WhereTheProgramsFolderIsNotTheUsersTheStateIsElsewhereAndTheHelpBesideTheProgram) {
@@ -71,9 +75,9 @@ TEST_F(StartUpTest, WhereTheProgramsFolderIsNotTheUsersTheStateIsElsewhereAndThe
     posix.files.SetStateDir(u"/home/me/.config/korvane");
     posix.files.AddFile(u"/home/me/.config/korvane/Korvane.ini", SettingsBytes({}));
     posix.Start();
-    EXPECT_EQ(posix.app.HelpFilePath, u"/opt/korvane/Korvane_Help.rtf");
-    EXPECT_EQ(posix.app.IniFilePath, u"/home/me/.config/korvane/Korvane.ini");
-    EXPECT_EQ(posix.app.RecFilePath, u"/home/me/.config/korvane/Korvane.rec");
+    EXPECT_EQ(posix.app.Exchange<StateFiles>().HelpFilePath, u"/opt/korvane/Korvane_Help.rtf");
+    EXPECT_EQ(posix.app.Exchange<StateFiles>().IniFilePath, u"/home/me/.config/korvane/Korvane.ini");
+    EXPECT_EQ(posix.app.Exchange<StateFiles>().RecFilePath, u"/home/me/.config/korvane/Korvane.rec");
 }
 
 TEST_F(StartUpTest, TheSystemsFoldersEndInABackslash) {
@@ -81,18 +85,18 @@ TEST_F(StartUpTest, TheSystemsFoldersEndInABackslash) {
     p.folders.windows = u"C:\\Windows";
     p.folders.documents = u"C:\\Users\\me\\Documents\\";
     p.StartWith({});
-    EXPECT_EQ(p.app.ProgramFilesDir, u"C:\\Program Files\\");
-    EXPECT_EQ(p.app.WindowsDir, u"C:\\Windows\\");
-    EXPECT_EQ(p.app.DocumentsDir, u"C:\\Users\\me\\Documents\\");
-    EXPECT_EQ(p.app.FontsDir, u"");
+    EXPECT_EQ(p.app.Exchange<SystemDirs>().ProgramFilesDir, u"C:\\Program Files\\");
+    EXPECT_EQ(p.app.Exchange<SystemDirs>().WindowsDir, u"C:\\Windows\\");
+    EXPECT_EQ(p.app.Exchange<SystemDirs>().DocumentsDir, u"C:\\Users\\me\\Documents\\");
+    EXPECT_EQ(p.app.Exchange<SystemDirs>().FontsDir, u"");
 }
 
 TEST_F(StartUpTest, WithoutTheRegistrysEntryDriveCStandsForTheFolderOfPrograms) {
     p.StartWith({});
-    EXPECT_EQ(p.app.ProgramFilesDir, u"C:\\");
+    EXPECT_EQ(p.app.Exchange<SystemDirs>().ProgramFilesDir, u"C:\\");
     TestProgram posix(PathStyle::Posix);
     posix.StartWith({});
-    EXPECT_EQ(posix.app.ProgramFilesDir, u"");
+    EXPECT_EQ(posix.app.Exchange<SystemDirs>().ProgramFilesDir, u"");
 }
 
 TEST_F(StartUpTest, TheRecordIsRead) {
@@ -132,7 +136,7 @@ TEST_F(StartUpTest, TheBuiltInDelimitersMakeTheTableAndTheFileReplacesThemAfterw
     EXPECT_EQ(p.app.Settings.WordDelimiters, u"+");
     std::string marked;
     for (std::size_t code = 0; code <= 256; ++code) {
-        if (p.app.DelimiterTable[code]) marked += static_cast<char>(code);
+        if (p.app.Exchange<WordEnds>().DelimiterTable[code]) marked += static_cast<char>(code);
     }
     EXPECT_EQ(marked, "\t\n\f\r \"#'(),./:;[]{}");
 }
@@ -145,7 +149,7 @@ TEST_F(StartUpTest, AFirstRunHasTheBuiltInDelimiters) {
 
 TEST_F(StartUpTest, ThePunctuationOfTitlesIsBuiltIn) {
     p.StartWith({});
-    EXPECT_EQ(p.app.TitlePunctuation, u"\"'`\u00B4!?.:,;-_");
+    EXPECT_EQ(p.app.Exchange<WordEnds>().TitlePunctuation, u"\"'`\u00B4!?.:,;-_");
 }
 
 TEST_F(StartUpTest, ASecondStartsSlotIsTheFirstTextBoxOfTheFirstPanel) {
@@ -163,16 +167,16 @@ TEST_F(StartUpTest, TheFirstActivationEndsTheFirstLoad) {
     p.AddSettings();
     frmMDIParent main(p.app, {});
     main.EnsureLoaded();
-    EXPECT_EQ(p.app.FirstLoadPending, -1);
+    EXPECT_EQ(p.app.Exchange<StartState>().FirstLoadPending, -1);
     main.Activate();
-    EXPECT_EQ(p.app.FirstLoadPending, 0);
+    EXPECT_EQ(p.app.Exchange<StartState>().FirstLoadPending, 0);
 }
 
 TEST_F(StartUpTest, EveryActivationEndsTheFirstLoad) {
     p.StartWith({});
-    p.app.FirstLoadPending = -1;
+    p.app.Exchange<StartState>().FirstLoadPending = -1;
     p.Main().Activate();
-    EXPECT_EQ(p.app.FirstLoadPending, 0);
+    EXPECT_EQ(p.app.Exchange<StartState>().FirstLoadPending, 0);
 }
 
 TEST_F(StartUpTest, TwoQuotesWithNothingBetweenThemAreNoFile) {
@@ -227,10 +231,10 @@ TEST_F(RecentAtStart, OnlyAOneAsksForIt) {
 
 TEST_F(StartUpTest, AFileThatArrivesIsLoadedIntoANewTabAndTheSlotIsEmptyAgain) {
     p.StartWith({});
-    EXPECT_EQ(p.app.LoadedByCommand, 0);
+    EXPECT_EQ(p.app.Exchange<StartState>().LoadedByCommand, 0);
     p.Main().txtCommand.Text = u"  " + kFile + u" ";
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a b.tbx"});
-    EXPECT_EQ(p.app.LoadedByCommand, -1);
+    EXPECT_EQ(p.app.Exchange<StartState>().LoadedByCommand, -1);
     EXPECT_EQ(p.Main().txtCommand.Text.Get(), u"");
 }
 
@@ -239,7 +243,7 @@ TEST_F(StartUpTest, AFileThatArrivesAndIsntThereOnlyEmptiesTheSlot) {
     p.Main().txtCommand.Text = Text(u"C:\\missing.tbx");
     p.Main().txtCommand.Text = Text(u"   ");
     EXPECT_TRUE(p.Captions().empty());
-    EXPECT_EQ(p.app.LoadedByCommand, 0);
+    EXPECT_EQ(p.app.Exchange<StartState>().LoadedByCommand, 0);
     EXPECT_EQ(p.Main().txtCommand.Text.Get(), u"");
 }
 
@@ -249,14 +253,14 @@ TEST_F(StartUpTest, AFileThatArrivesTwiceIsToldAsLoaded) {
     p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
     p.Main().txtCommand.Text = kFile;
     EXPECT_EQ(p.Captions().size(), 1u);
-    EXPECT_EQ(p.app.LoadedByCommand, -1);
+    EXPECT_EQ(p.app.Exchange<StartState>().LoadedByCommand, -1);
 }
 
 TEST_F(StartUpTest, OnPosixTheProgramFolderIsAPosixPath) {
     TestProgram posix(PathStyle::Posix);
     posix.AddTable(u"/home/me/a b.tbx", {"x"});
     posix.StartWith({}, u"/home/me/a b.tbx");
-    EXPECT_EQ(posix.app.IniFilePath, u"/opt/korvane/Korvane.ini");
+    EXPECT_EQ(posix.app.Exchange<StateFiles>().IniFilePath, u"/opt/korvane/Korvane.ini");
     EXPECT_EQ(posix.Captions(), std::vector<Text>{u"a b.tbx"});
 }
 

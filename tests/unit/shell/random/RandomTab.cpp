@@ -2,7 +2,11 @@
 
 #include "TableWatch.h"
 #include "common/number/Number.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FilePicker.h"
+#include "context/ports/FontPicker.h"
 #include "dbops/commands/TabCommands.h"
+#include "grid/Grid.h"
 #include "support/GridState.h"
 #include "support/TableBytes.h"
 
@@ -37,9 +41,9 @@ std::string RandomFile(Chance& chance) {
 } // namespace
 
 RandomTab::RandomTab(unsigned seed) : chance_(seed) {
-    app_.FilePicker = &user_;
-    app_.ColourPicker = &user_;
-    app_.FontPicker = &user_;
+    app_.SetPort<FilePicker>(&user_);
+    app_.SetPort<ColourPicker>(&user_);
+    app_.SetPort<FontPicker>(&user_);
     app_.Settings.AllowSorting = chance_.OneIn(4) ? std::int16_t{0} : std::int16_t{1};
     tab_.Tag = NumberText(states_.FindFreeIndex());
     tab_.EnsureLoaded();

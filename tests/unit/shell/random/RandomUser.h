@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Chance.h"
-#include "context/Ports.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FilePicker.h"
+#include "context/ports/FontPicker.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
 #include "platform/MessageBoxes.h"

@@ -2,6 +2,7 @@
 
 #include "common/number/DateTime.h"
 #include "common/number/Number.h"
+#include "context/exchange/StateFiles.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -30,8 +31,10 @@ RecentRecord Filled(int count) {
 
 class RecentRecordTest : public testing::Test {
 protected:
-    RecentRecordTest() { t.app.RecFilePath = u"C:\\Korvane\\Korvane.rec"; }
-    std::string Written() { return t.files.Contents(t.app.RecFilePath).value_or("(none)"); }
+    RecentRecordTest() { t.app.Exchange<StateFiles>().RecFilePath = u"C:\\Korvane\\Korvane.rec"; }
+    std::string Written() {
+        return t.files.Contents(t.app.Exchange<StateFiles>().RecFilePath).value_or("(none)");
+    }
 
     TestApp t;
     RecentRecord record;
@@ -145,7 +148,8 @@ TEST_F(RecentRecordTest, EmptyingAndForgettingLeaveTheCount) {
 }
 
 TEST_F(RecentRecordTest, ReadsLinesFromOneOn) {
-    t.files.AddFile(t.app.RecFilePath, "C:\\a.tbx | 0*2026.03.01   14:05\r\n\xE4.tbx\rlast");
+    t.files.AddFile(t.app.Exchange<StateFiles>().RecFilePath,
+                    "C:\\a.tbx | 0*2026.03.01   14:05\r\n\xE4.tbx\rlast");
     record.Read(t.app);
     EXPECT_EQ(record.RecentNext, 4);
     EXPECT_EQ(record.RecentEntries[1], LineOf(u"C:\\a.tbx"));
@@ -157,7 +161,7 @@ TEST_F(RecentRecordTest, ReadsAtMost72Lines) {
     std::string bytes;
     for (int i = 1; i <= 80; ++i)
         bytes += std::to_string(i) + "\r\n";
-    t.files.AddFile(t.app.RecFilePath, bytes);
+    t.files.AddFile(t.app.Exchange<StateFiles>().RecFilePath, bytes);
     record.Read(t.app);
     EXPECT_EQ(record.RecentNext, 73);
     EXPECT_EQ(record.RecentEntries[72], u"72");
@@ -167,7 +171,7 @@ TEST_F(RecentRecordTest, ReadsAtMost72Lines) {
 TEST_F(RecentRecordTest, AMissingOrUnreadableRecordIsEmptyWithoutAWord) {
     record.Read(t.app);
     EXPECT_EQ(record.RecentNext, 1);
-    t.files.AddFile(t.app.RecFilePath, "a\r\n");
+    t.files.AddFile(t.app.Exchange<StateFiles>().RecFilePath, "a\r\n");
     t.files.Faults().FailNth(FileStep::OpenToRead, 1);
     record.Read(t.app);
     EXPECT_EQ(record.RecentNext, 1);
@@ -175,7 +179,7 @@ TEST_F(RecentRecordTest, AMissingOrUnreadableRecordIsEmptyWithoutAWord) {
 }
 
 TEST_F(RecentRecordTest, WritesWhatIsntEmpty) {
-    t.files.AddFile(t.app.RecFilePath, "old\r\nolder\r\n");
+    t.files.AddFile(t.app.Exchange<StateFiles>().RecFilePath, "old\r\nolder\r\n");
     record.RecentEntries[1] = u"a";
     record.RecentEntries[3] = u"\u00E4\u4E00";
     record.RecentEntries[72] = u"z";
@@ -186,11 +190,11 @@ TEST_F(RecentRecordTest, WritesWhatIsntEmpty) {
 
 TEST_F(RecentRecordTest, IsForItsOwnersEyesOnly) {
     record.Write(t.app);
-    EXPECT_TRUE(t.files.IsPrivate(t.app.RecFilePath));
+    EXPECT_TRUE(t.files.IsPrivate(t.app.Exchange<StateFiles>().RecFilePath));
 }
 
 TEST_F(RecentRecordTest, SaysWhenItCannotBeWritten) {
-    t.files.AddFile(t.app.RecFilePath, "old\r\n");
+    t.files.AddFile(t.app.Exchange<StateFiles>().RecFilePath, "old\r\n");
     t.files.Faults().FailNth(FileStep::OpenToWrite, 1, u"Permission denied");
     t.user.Answer({u"Cannot save this file :\r\n\r\nC:\\Korvane\\Korvane.rec\r\n\r\n"
                    u"The error was probably triggered for the following reason : \r\n\r\n"

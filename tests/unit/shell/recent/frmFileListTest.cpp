@@ -1,6 +1,12 @@
 #include "shell/recent/frmFileList.h"
 
 #include "common/number/Number.h"
+#include "context/exchange/FileOperation.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/exchange/StateFiles.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FontPicker.h"
+#include "grid/Grid.h"
 #include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 #include "unit/shell/settings/FakeDialogs.h"
@@ -95,9 +101,9 @@ TEST_F(FileListTest, LoadsTheSelectedFilesInTheOrderOfTheList) {
     });
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"b.tbx"}));
     EXPECT_EQ(p.files.CurrentDir(), u"C:\\Data");
-    EXPECT_EQ(p.app.Lister.CurrentFolderHint, u"C:\\Data");
-    EXPECT_EQ(p.app.Lister.ListerFolder, u"C:\\Data");
-    EXPECT_EQ(p.app.FileOpName, u"a.tbx");
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\Data");
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().ListerFolder, u"C:\\Data");
+    EXPECT_EQ(p.app.Exchange<FileOperation>().FileOpName, u"a.tbx");
     EXPECT_EQ(Recents().LoadFromRecent, 0);
 }
 
@@ -241,7 +247,7 @@ TEST_F(FileListTest, AFullListIsCutToSixteenWhenToldTo) {
     });
     EXPECT_EQ(Recents().EmptyWhenFull, 0);
     p.Main().Close();
-    const std::string bytes = p.FileBytes(p.app.RecFilePath);
+    const std::string bytes = p.FileBytes(p.app.Exchange<StateFiles>().RecFilePath);
     EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 16);
 }
 
@@ -299,7 +305,7 @@ TEST_F(FileListTest, GoesToTheFolderOfTheFile) {
     });
     EXPECT_EQ(p.app.DialogResult, 99);
     EXPECT_EQ(p.files.CurrentDir(), u"C:\\Data");
-    EXPECT_EQ(p.app.Lister.CurrentFolderHint, u"C:\\Data");
+    EXPECT_EQ(p.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\Data");
     EXPECT_TRUE(p.Captions().empty());
 }
 
@@ -565,8 +571,8 @@ TEST_F(FileListTest, KeysOfTheListAreWithoutModifiers) {
 }
 
 TEST_F(FileListTest, WithoutAViewerAndPickersTheirCommandsDoNothing) {
-    p.app.FontPicker = nullptr;
-    p.app.ColourPicker = nullptr;
+    p.app.SetPort<FontPicker>(nullptr);
+    p.app.SetPort<ColourPicker>(nullptr);
     InList([](frmFileList& f) {
         for (CommandButton* button : {&f.cmdViewFile, &f.cmdFont, &f.cmdColour})
             button->Press();

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "context/App.h"
-#include "context/Ports.h"
+#include "context/ports/ColourPicker.h"
+#include "context/ports/FileViewer.h"
+#include "context/ports/FontPicker.h"
 #include "support/FakeSystemFileDialog.h"
 
 #include <optional>
@@ -12,7 +14,7 @@ namespace korvane {
 /// Gives a font, or nothing, and remembers from which one it was to start.
 class FakeFontPicker final : public FontPicker {
 public:
-    explicit FakeFontPicker(App& app) { app.FontPicker = this; }
+    explicit FakeFontPicker(App& app) { app.SetPort<FontPicker>(this); }
     std::optional<FontSpec> answer;
     std::vector<FontSpec> starts;
 
@@ -25,7 +27,7 @@ public:
 /// The same with colours.
 class FakeColourPicker final : public ColourPicker {
 public:
-    explicit FakeColourPicker(App& app) { app.ColourPicker = this; }
+    explicit FakeColourPicker(App& app) { app.SetPort<ColourPicker>(this); }
     std::optional<Colour> answer;
     std::vector<Colour> starts;
 
@@ -38,7 +40,7 @@ public:
 /// Remembers which files were to be viewed or opened.
 class FakeFileViewer final : public FileViewer {
 public:
-    explicit FakeFileViewer(App& app) { app.FileViewer = this; }
+    explicit FakeFileViewer(App& app) { app.SetPort<FileViewer>(this); }
     std::vector<Text> viewed;
     std::vector<Text> opened;
 

@@ -1,5 +1,6 @@
 #include "shell/settings/SettingsFile.h"
 
+#include "context/exchange/StateFiles.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,7 @@ std::string Joined(const std::vector<std::string>& lines) {
 
 class SettingsFile : public testing::Test {
 protected:
-    SettingsFile() { t.app.IniFilePath = kIni; }
+    SettingsFile() { t.app.Exchange<StateFiles>().IniFilePath = kIni; }
 
     /// Reads a file of these lines.
     void Read(const std::string& bytes) {
@@ -248,12 +249,13 @@ TEST_F(SettingsFile, TheCurrentDirectoryIsTakenAtTheMomentOfSaving) {
 
 TEST(SettingsFileOnPosix, TheDriveIsTheRoot) {
     TestApp t(PathStyle::Posix);
-    t.app.IniFilePath = u"/opt/korvane/Korvane.ini";
+    t.app.Exchange<StateFiles>().IniFilePath = u"/opt/korvane/Korvane.ini";
     t.files.AddDir(u"/opt/korvane");
     t.files.AddDir(u"/home/me");
     t.files.ChangeDir(u"/home/me");
     WriteSettings(t.app);
-    EXPECT_TRUE(t.files.Contents(t.app.IniFilePath)->starts_with("/\r\n/home/me\r\n0\r\n"));
+    EXPECT_TRUE(
+        t.files.Contents(t.app.Exchange<StateFiles>().IniFilePath)->starts_with("/\r\n/home/me\r\n0\r\n"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "shell/settings/frmSettings.h"
 
+#include "context/ports/SystemFileDialog.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"
 #include "support/TestProgram.h"
@@ -158,7 +159,7 @@ TEST_F(SettingsWindowTest, TheWallpaperIsChosenInTheSystemsDialog) {
 TEST_F(SettingsWindowTest, TheWallpaperDialogLeavesTheCurrentDirectoryAlone) {
     class WanderingDialog final : public SystemFileDialog {
     public:
-        explicit WanderingDialog(App& app) : app_(app) { app.SystemFileDialog = this; }
+        explicit WanderingDialog(App& app) : app_(app) { app.SetPort<SystemFileDialog>(this); }
         std::optional<Text> Choose(const Request&) override {
             app_.Files().ChangeDir(u"C:\\");
             return u"C:\\sea.png";

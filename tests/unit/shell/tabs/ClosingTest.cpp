@@ -1,3 +1,5 @@
+#include "context/exchange/ClosingSave.h"
+#include "grid/Grid.h"
 #include "support/TestProgram.h"
 #include "table/frmTxtDbInfo.h"
 
@@ -71,7 +73,7 @@ TEST_F(Closing, YesSavesUnderThePresentNameWhereOtherQuestionsAskForOneDeliberat
     p.Choose("mnuFile_Close");
     EXPECT_EQ(p.Captions().size(), 2u);
     EXPECT_EQ(Saved(u'c'), With(u'c', "new"));
-    EXPECT_EQ(p.app.ClosingTabSave, 0);
+    EXPECT_EQ(p.app.Exchange<ClosingSave>().ClosingTabSave, 0);
 }
 
 TEST_F(Closing, TheInfoWindowAfterTheSaveCanKeepTheTab) {

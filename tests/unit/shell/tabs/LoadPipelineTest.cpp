@@ -1,5 +1,7 @@
 #include "shell/tabs/LoadPipeline.h"
 
+#include "context/exchange/ListerRequest.h"
+#include "grid/Grid.h"
 #include "shell/tabs/frmLoadList.h"
 #include "support/TestProgram.h"
 
@@ -50,7 +52,7 @@ TEST_F(LoadPipelineTest, TheCaptionIsTheFullPathWhereTheSettingsSaySo) {
 TEST_F(LoadPipelineTest, AsksForFilesByTheRequestOfALoad) {
     p.StartWith({});
     p.app.DialogResult = 5;
-    p.app.Lister.FileDialogDefaultName = u"saved before.tbx";
+    p.app.Exchange<ListerRequest>().FileDialogDefaultName = u"saved before.tbx";
     p.user.CancelChooser();
     p.Choose("mnuFile_Open");
     const ListerRequest& request = p.user.Requests().at(0);

@@ -1,3 +1,4 @@
+#include "grid/Grid.h"
 #include "support/TestProgram.h"
 #include "text/frmViewAndPaste.h"
 

@@ -1,5 +1,6 @@
 #include "shell/tabs/Tabs.h"
 
+#include "grid/Grid.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

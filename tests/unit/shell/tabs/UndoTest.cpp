@@ -1,5 +1,6 @@
 #include "dbops/windows/frmFindReplace.h"
 #include "dbops/windows/frmRowColour.h"
+#include "grid/Grid.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

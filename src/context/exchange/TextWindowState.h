@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+
+namespace korvane {
+
+/// Whether the text window is open.
+struct TextWindowState {
+    /// 1 while it is. Who asks for the clipboard's contents himself sets it to 0 meanwhile.
+    std::int16_t TextWindowOpen = 0;
+};
+
+} // namespace korvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <array>
+
+namespace korvane {
+
+/// Where words end.
+struct WordEnds {
+    /// By the byte of a character: whether it ends a word in the text find.
+    std::array<bool, 257> DelimiterTable{};
+    /// The characters after which a title goes on with a capital.
+    Text TitlePunctuation;
+};
+
+} // namespace korvane

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace korvane {
+
+/// The window that shows what the clipboard holds. Modal.
+class ClipboardView {
+public:
+    virtual ~ClipboardView() = default;
+    virtual void Show() = 0;
+    /// Leaves what becomes of the contents to the caller: true when the user retrieved them.
+    virtual bool Choose() = 0;
+};
+
+} // namespace korvane

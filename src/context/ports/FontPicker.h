@@ -1,0 +1,17 @@
+#pragma once
+
+#include "controls/FontSpec.h"
+
+#include <optional>
+
+namespace korvane {
+
+/// The font dialog of the program.
+class FontPicker {
+public:
+    virtual ~FontPicker() = default;
+    /// The chosen font, in which what the user left open is as in `present`; nothing on a cancel.
+    virtual std::optional<FontSpec> Choose(const FontSpec& present) = 0;
+};
+
+} // namespace korvane
