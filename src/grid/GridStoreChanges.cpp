@@ -1,7 +1,6 @@
 #include "grid/GridStoreChanges.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace korvane {
 
@@ -229,7 +228,7 @@ void GridStore::Changes::Turn(GridStore& grid) {
     if (takenBack_)
         std::ranges::for_each(notes_, turn);
     else
-        std::ranges::for_each(std::views::reverse(notes_), turn);
+        std::for_each(notes_.rbegin(), notes_.rend(), turn);
     takenBack_ = !takenBack_;
     grid.GoTo(takenBack_ ? before_ : after_);
     if (several) grid.GridEndUpdate();

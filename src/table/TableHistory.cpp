@@ -46,7 +46,8 @@ void TableHistory::EndStep() {
 std::vector<TableHistory::AttributeNote> TableHistory::ChangedAttributes() const {
     std::vector<AttributeNote> notes;
     const auto note = [&](auto field) {
-        if (attributes_.*field != table_.*field) notes.push_back(FieldNote{field, attributes_.*field});
+        using Value = std::remove_cvref_t<decltype(attributes_.*field)>;
+        if (attributes_.*field != table_.*field) notes.push_back(FieldNote<Value>{field, attributes_.*field});
     };
     std::apply([&note](auto... field) { (note(field), ...); }, kFields);
     return notes;

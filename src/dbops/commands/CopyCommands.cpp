@@ -31,7 +31,7 @@ void PutInClipboard(App& app, Text text) {
     ShowClipboard(app);
 }
 
-void PutInTextWindow(App& app, Text text) {
+void PutInTextWindow(App& app, TextView text) {
     if (auto* textWindow = app.Port<TextWindow>()) textWindow->TextWindowInsert(text);
 }
 
