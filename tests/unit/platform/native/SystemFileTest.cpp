@@ -1,0 +1,132 @@
+// Stands in for the system's own calls, so that a call can be interrupted by a signal whenever a test wants.
+
+#include "platform/native/SystemFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <deque>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+namespace {
+
+/// What a call answers: so many bytes, or a failure with this reason.
+struct Step {
+    std::ptrdiff_t bytes = -1;
+    int reason = 0;
+};
+
+constexpr Step kInterrupted{-1, EINTR};
+constexpr Step kBroken{-1, EIO};
+
+std::deque<Step> steps;
+std::string written;
+
+/// The next step, for as many bytes as were asked for at most.
+std::ptrdiff_t Take(std::size_t size) {
+    if (steps.empty()) return 0;
+    const Step step = steps.front();
+    steps.pop_front();
+    errno = step.reason;
+    return std::min(step.bytes, static_cast<std::ptrdiff_t>(size));
+}
+
+} // namespace
+
+namespace system_calls {
+
+int OpenToRead(const std::filesystem::path&) {
+    return 7;
+}
+
+int OpenToWrite(const std::filesystem::path&, const std::optional<FileRights>&) {
+    return 7;
+}
+
+std::ptrdiff_t ReadSome(int, char* buffer, std::size_t size) {
+    const std::ptrdiff_t count = Take(size);
+    if (count > 0) std::memset(buffer, 'r', static_cast<std::size_t>(count));
+    return count;
+}
+
+std::ptrdiff_t WriteSome(int, const char* bytes, std::size_t size) {
+    const std::ptrdiff_t count = Take(size);
+    if (count > 0) written.append(bytes, static_cast<std::size_t>(count));
+    return count;
+}
+
+bool Close(int) {
+    return Take(0) >= 0;
+}
+
+std::size_t SizeOf(int) {
+    return 0;
+}
+
+} // namespace system_calls
+
+namespace {
+
+class SystemFileTest : public testing::Test {
+protected:
+    SystemFileTest() {
+        steps.clear();
+        written.clear();
+    }
+    std::string Read(std::size_t size) {
+        std::string buffer(size, '.');
+        buffer.resize(file.Read(buffer.data(), size, error));
+        return buffer;
+    }
+
+    std::error_code error;
+    SystemFile file = SystemFile::OpenToRead("any", error);
+};
+
+TEST_F(SystemFileTest, AnInterruptedReadGoesOn) {
+    steps = {kInterrupted, {2}, kInterrupted, kInterrupted, {3}};
+    EXPECT_EQ(Read(5), "rrrrr");
+    EXPECT_FALSE(error);
+}
+
+TEST_F(SystemFileTest, AReadEndsAtTheEndOfTheFileAndAtAFailure) {
+    steps = {{2}, {0}, {3}};
+    EXPECT_EQ(Read(5), "rr");
+    EXPECT_FALSE(error);
+    steps = {{2}, kBroken, {3}};
+    EXPECT_EQ(Read(5), "rr");
+    EXPECT_EQ(error, std::errc::io_error);
+}
+
+TEST_F(SystemFileTest, AnInterruptedWriteGoesOnWhereItWas) {
+    steps = {kInterrupted, {2}, kInterrupted, {9}};
+    file.Write("abcde", error);
+    EXPECT_EQ(written, "abcde");
+    EXPECT_FALSE(error);
+}
+
+TEST_F(SystemFileTest, AWriteEndsAtAFailure) {
+    steps = {{2}, kBroken, {3}};
+    file.Write("abcde", error);
+    EXPECT_EQ(written, "ab");
+    EXPECT_EQ(error, std::errc::io_error);
+}
+
+TEST_F(SystemFileTest, AnInterruptedCloseIsOne) {
+    steps = {kInterrupted};
+    file.Close(error);
+    EXPECT_FALSE(error);
+    EXPECT_FALSE(file.IsOpen());
+    SystemFile other = SystemFile::OpenToRead("any", error);
+    steps = {kBroken};
+    other.Close(error);
+    EXPECT_EQ(error, std::errc::io_error);
+    EXPECT_FALSE(other.IsOpen());
+}
+
+} // namespace
+} // namespace korvane
