@@ -1,12 +1,11 @@
 #include "platform/qt/services/QtFilePicker.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/services/ChoosingDialog.h"
 #include "platform/qt/services/FileDialogFilters.h"
 #include "platform/qt/services/ProgramsOnly.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 
 namespace korvane {
@@ -15,16 +14,16 @@ namespace {
 
 constexpr std::int16_t kSave = 1;
 
-void SetUp(QFileDialog& dialog, const ListerRequest& request) {
-    const bool save = request.ListerMode == kSave;
-    dialog.setWindowTitle(ToQString(request.FileDialogCaption));
-    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFiles);
+bool IsSave(const ListerRequest& request) {
+    return request.ListerMode == kSave;
+}
+
+void SetUp(ChoosingDialog& dialog, const ListerRequest& request) {
     dialog.setNameFilter(FilePatterns(request.FileDialogFilter));
     OfferProgramsFor(request.FileDialogFilter, dialog);
     const QFileInfo present(ToQString(request.FileDialogDefaultName));
     if (present.isAbsolute()) dialog.setDirectory(present.absolutePath());
-    if (save && !present.fileName().isEmpty()) dialog.selectFile(present.fileName());
+    if (IsSave(request) && !present.fileName().isEmpty()) dialog.selectFile(present.fileName());
 }
 
 void TellChosen(const QStringList& files, ListerRequest& request) {
@@ -38,10 +37,12 @@ void TellChosen(const QStringList& files, ListerRequest& request) {
 } // namespace
 
 void QtFilePicker::Choose(ListerRequest& request) {
-    QFileDialog dialog(QApplication::activeWindow());
+    const bool save = IsSave(request);
+    ChoosingDialog dialog(request.FileDialogCaption, save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen,
+                          save ? QFileDialog::AnyFile : QFileDialog::ExistingFiles);
     SetUp(dialog, request);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-    TellChosen(dialog.selectedFiles(), request);
+    const QStringList chosen = dialog.Choose();
+    if (!chosen.isEmpty()) TellChosen(chosen, request);
 }
 
 } // namespace korvane

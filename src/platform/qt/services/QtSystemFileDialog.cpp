@@ -1,28 +1,23 @@
 #include "platform/qt/services/QtSystemFileDialog.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/services/ChoosingDialog.h"
 #include "platform/qt/services/FileDialogFilters.h"
 
-#include <QApplication>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 
 namespace korvane {
 
 namespace {
 
-void OfferName(QFileDialog& dialog, const QString& name) {
+void OfferName(ChoosingDialog& dialog, const QString& name) {
     const QFileInfo offered(name);
     if (offered.isAbsolute()) dialog.setDirectory(offered.absolutePath());
     if (!offered.fileName().isEmpty()) dialog.selectFile(offered.fileName());
 }
 
-void SetUp(QFileDialog& dialog, const SystemFileDialog::Request& request) {
-    const bool save = request.purpose == SystemFileDialog::Purpose::Save;
-    dialog.setWindowTitle(ToQString(request.title));
-    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+void SetUp(ChoosingDialog& dialog, const SystemFileDialog::Request& request) {
     dialog.setNameFilters(FileNameFilters(request.filter));
     dialog.setDefaultSuffix(ToQString(request.defaultExtension));
     if (!request.folder.empty()) dialog.setDirectory(ToQString(request.folder));
@@ -32,10 +27,13 @@ void SetUp(QFileDialog& dialog, const SystemFileDialog::Request& request) {
 } // namespace
 
 std::optional<Text> QtSystemFileDialog::Choose(const Request& request) {
-    QFileDialog dialog(QApplication::activeWindow());
+    const bool save = request.purpose == Purpose::Save;
+    ChoosingDialog dialog(request.title, save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen,
+                          save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     SetUp(dialog, request);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return ToText(QDir::toNativeSeparators(dialog.selectedFiles().constFirst()));
+    const QStringList chosen = dialog.Choose();
+    if (chosen.isEmpty()) return std::nullopt;
+    return ToText(QDir::toNativeSeparators(chosen.constFirst()));
 }
 
 } // namespace korvane

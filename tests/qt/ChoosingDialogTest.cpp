@@ -1,0 +1,141 @@
+#include "platform/qt/services/ChoosingDialog.h"
+
+#include "SourceTree.h"
+#include "context/ListerRequest.h"
+#include "context/Ports.h"
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/services/QtFilePicker.h"
+#include "platform/qt/services/QtSystemFileDialog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileSystemModel>
+#include <QMessageBox>
+#include <QSortFilterProxyModel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+void PickFile(const Text& filter, std::int16_t mode, const Text& path) {
+    ListerRequest request;
+    request.FileDialogFilter = filter;
+    request.FileDialogDefaultName = path;
+    request.ListerMode = mode;
+    QtFilePicker().Choose(request);
+}
+
+void AskSystemDialog(SystemFileDialog::Purpose purpose, const Text& path) {
+    QtSystemFileDialog().Choose({.purpose = purpose, .filter = u"All files (*.*)|*.*", .name = path});
+}
+
+struct Opening {
+    const char* name;
+    void (*open)(const Text& path);
+};
+
+void PrintTo(const Opening& opening, std::ostream* out) {
+    *out << opening.name;
+}
+
+const Opening kOpenings[] = {
+    {"Load", [](const Text& path) { PickFile(u"*.tbx", 0, path); }},
+    {"SaveUnderAName", [](const Text& path) { PickFile(u"*.tbx", 1, path); }},
+    {"ChooseProgram", [](const Text& path) { PickFile(u"*.exe", 0, path); }},
+    {"SystemOpen", [](const Text& path) { AskSystemDialog(SystemFileDialog::Purpose::Open, path); }},
+    {"SystemSave", [](const Text& path) { AskSystemDialog(SystemFileDialog::Purpose::Save, path); }},
+};
+
+/// A dialog on a folder of the test's own in which another one lies, with a file in it.
+class ChoosingDialogTest : public testing::TestWithParam<Opening> {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(dir.isValid());
+        ASSERT_TRUE(QDir(dir.path()).mkdir("inner"));
+        QFile file(dir.filePath("inner/text.txt"));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    /// Opens the dialog, and closes it when `act` has done its work there.
+    void Open(const std::function<void(QFileDialog&)>& act) {
+        QTimer::singleShot(0, [act] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+            dialog->reject();
+        });
+        GetParam().open(ToText(dir.filePath("present.tbx")));
+    }
+
+    /// The inner folder as the dialog lists it.
+    QModelIndex InnerFolder(const QFileDialog& dialog) const {
+        const auto* files = dialog.findChild<QFileSystemModel*>("qt_filesystem_model");
+        const QModelIndex index = files->index(dir.filePath("inner"));
+        const auto* proxy = qobject_cast<QSortFilterProxyModel*>(dialog.proxyModel());
+        return proxy == nullptr ? index : proxy->mapFromSource(index);
+    }
+
+    static QAbstractItemView& VisibleList(const QFileDialog& dialog) {
+        auto* list = dialog.findChild<QAbstractItemView*>("listView");
+        return list->isVisible() ? *list : *dialog.findChild<QAbstractItemView*>("treeView");
+    }
+
+    QTemporaryDir dir;
+};
+
+/// Answers the question whether to delete, if there is one, as a user who presses "y".
+void SayYes() {
+    if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+        question->button(QMessageBox::Yes)->click();
+}
+
+TEST_P(ChoosingDialogTest, TheKeyDeleteAndAYesDeleteNoFolder) {
+    Open([this](QFileDialog& dialog) {
+        QAbstractItemView& list = VisibleList(dialog);
+        list.setFocus();
+        list.setCurrentIndex(InnerFolder(dialog));
+        ASSERT_TRUE(list.currentIndex().isValid());
+        QTimer::singleShot(0, &SayYes);
+        QTest::keyClick(&list, Qt::Key_Delete);
+        QTest::keyClick(&list, Qt::Key_Y);
+    });
+    EXPECT_TRUE(QFile::exists(dir.filePath("inner/text.txt")));
+}
+
+TEST_P(ChoosingDialogTest, NothingIsRenamed) {
+    Open([this](QFileDialog& dialog) {
+        const QModelIndex inner = InnerFolder(dialog);
+        ASSERT_TRUE(inner.isValid());
+        EXPECT_FALSE(inner.flags().testFlag(Qt::ItemIsEditable));
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Openings, ChoosingDialogTest, testing::ValuesIn(kOpenings),
+                         [](const auto& each) { return each.param.name; });
+
+TEST(ChoosingDialog, NobodyOpensAnotherFileDialog) {
+    std::set<std::string> naming;
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(KORVANE_SOURCE_DIR) / "src")) {
+        std::ifstream file(entry.path());
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        if (text.find("<QFileDialog>") != std::string::npos) naming.insert(entry.path().filename().string());
+    }
+    EXPECT_THAT(naming, testing::ElementsAre("ChoosingDialog.h", "ProgramsOnly.cpp"));
+}
+
+} // namespace
+} // namespace korvane
