@@ -1,5 +1,6 @@
 #include "context/FileChooser.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/FilePicker.h"
@@ -9,31 +10,41 @@ namespace korvane {
 
 namespace {
 
-/// What the chooser leaves behind. The filter is a line of the settings file as well; "0" is what the reader
-/// of that line makes of any filter.
-void LeaveAtRest(App& app, ListerRequest& request) {
-    request.FileDialogFilter = u"0";
-    request.FileDialogCaption.clear();
-    app.Settings.FileDialogFilter = request.FileDialogFilter;
-}
+/// What the chooser leaves at its end. The filter is a line of the settings file as well; "0" is what the
+/// reader of that line makes of any filter.
+class LeaveAtRest {
+public:
+    explicit LeaveAtRest(App& app) : app_(app) {}
+    LeaveAtRest(const LeaveAtRest&) = delete;
+    LeaveAtRest& operator=(const LeaveAtRest&) = delete;
+    ~LeaveAtRest() {
+        auto& request = app_.Exchange<ListerRequest>();
+        request.FileDialogFilter = u"0";
+        request.FileDialogCaption.clear();
+        app_.Settings.FileDialogFilter = request.FileDialogFilter;
+    }
+
+private:
+    App& app_;
+};
 
 void Show(App& app, TextView filter, TextView caption) {
+    const LeaveAtRest atEnd(app);
     ListerRequest& request = app.Exchange<ListerRequest>();
     request.FileDialogFilter = Text(filter);
     request.FileDialogCaption = Text(caption);
     request.ChosenFilePath.clear();
     if (auto* filePicker = app.Port<FilePicker>()) filePicker->Choose(request);
-    LeaveAtRest(app, request);
 }
 
 } // namespace
 
 void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView caption, TextView defaultName) {
     ListerRequest& request = app.Exchange<ListerRequest>();
-    request.ListerMode = static_cast<std::int16_t>(mode);
+    const ScopedValue inMode(request.ListerMode, static_cast<std::int16_t>(mode),
+                             static_cast<std::int16_t>(ChooserMode::Load));
     request.FileDialogDefaultName = Text(defaultName);
     Show(app, filter, caption);
-    request.ListerMode = static_cast<std::int16_t>(ChooserMode::Load);
 }
 
 void ShowDirectoryLister(App& app) {

@@ -1,11 +1,10 @@
 #include "text/ClipboardWindow.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/ClipboardView.h"
 #include "text/frmViewAndPaste.h"
-
-#include <utility>
 
 namespace korvane {
 
@@ -24,10 +23,9 @@ void ClipboardWindow::Show() {
 bool ClipboardWindow::Choose() {
     TextWindowState& textWindow = app_.Exchange<TextWindowState>();
     // The window takes a text window that isn't open for a caller who collects the contents himself.
-    const std::int16_t open = std::exchange(textWindow.TextWindowOpen, std::int16_t{0});
+    const ScopedValue open(textWindow.TextWindowOpen, 0);
     app_.DialogResult = 0;
     Show();
-    textWindow.TextWindowOpen = open;
     return app_.DialogResult == 1;
 }
 

@@ -92,10 +92,9 @@ void mnuExport_Excel_Clack(const TabContext& tab) {
     if (!ChooseRange(app)) return;
     const auto path = ChooseFileName(tab);
     if (!path) return;
-    app.Screen().SetPointer(Pointer::Hourglass);
+    const Hourglass hourglass(app.Screen());
     app.Screen().ProcessMessages();
     Export(tab, *path);
-    app.Screen().SetPointer(Pointer::Default);
 }
 
 } // namespace korvane

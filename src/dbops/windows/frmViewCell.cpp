@@ -2,6 +2,7 @@
 
 #include "common/text/FindEntry.h"
 #include "common/text/LineEnds.h"
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/WindowFitting.h"
 #include "context/ports/ClipboardView.h"
@@ -87,12 +88,11 @@ void frmViewCell::ConnectButtons() {
 void frmViewCell::Load() {
     const Settings& settings = app_.Settings;
     // Filling the box is no change of the cell.
-    altered_ = true;
+    const ScopedValue filling(altered_, true, false);
     RestorePlace(app_, *this, kPlace);
     txtCell.Font = {settings.ViewCellFontName, settings.ViewCellFontSize};
     txtCell.Text = exchange_.text;
     ShowSelection();
-    altered_ = false;
     txtCell.SetFocus();
 }
 

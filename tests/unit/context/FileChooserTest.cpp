@@ -2,6 +2,7 @@
 
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/FilePicker.h"
+#include "support/HandlerFailure.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -57,6 +58,18 @@ TEST(FileChooser, ProposesNoNameOfASaveBefore) {
     t.user.CancelChooser();
     ShowFileChooser(t.app, ChooserMode::Load, u"*.tbx", u"Select");
     EXPECT_EQ(t.user.Requests().at(0).FileDialogDefaultName, u"");
+}
+
+TEST(FileChooser, IsAtRestAlsoAfterAFailure) {
+    TestApp t;
+    t.user.OnChooser([](ListerRequest&) { FailInHandler(); });
+    EXPECT_THROW(ShowFileChooser(t.app, ChooserMode::Save, u"*.tbx", u"Save database to disk"),
+                 HandlerFailure);
+    const auto& request = t.app.Exchange<ListerRequest>();
+    EXPECT_EQ(request.ListerMode, 0);
+    EXPECT_EQ(request.FileDialogFilter, u"0");
+    EXPECT_EQ(request.FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
 }
 
 TEST(DirectoryLister, IsTheChooserForAllFilesUnderItsOwnCaption) {

@@ -2,6 +2,7 @@
 
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/ClipboardView.h"
+#include "support/HandlerFailure.h"
 #include "support/TestApp.h"
 #include "text/frmViewAndPaste.h"
 #include "unit/text/FakeTextPorts.h"
@@ -77,6 +78,13 @@ TEST_F(ClipboardWindowTest, AChoiceClosedBeforeItWasSeenIsNone) {
     t.app.DialogResult = 1;
     t.user.On<frmViewAndPaste>([](frmViewAndPaste& f) { f.Close(); });
     EXPECT_FALSE(window.Choose());
+}
+
+TEST_F(ClipboardWindowTest, AChoiceThatFailsLeavesTheTextWindowOpen) {
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
+    t.user.On<frmViewAndPaste>([](frmViewAndPaste&) { FailInHandler(); });
+    EXPECT_THROW(window.Choose(), HandlerFailure);
+    EXPECT_EQ(t.app.Exchange<TextWindowState>().TextWindowOpen, 1);
 }
 
 } // namespace

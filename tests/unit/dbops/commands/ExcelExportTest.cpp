@@ -4,6 +4,7 @@
 #include "dbops/windows/frmChooseRange.h"
 #include "grid/Grid.h"
 #include "support/FakeSystemFileDialog.h"
+#include "support/HandlerFailure.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gmock/gmock.h>
@@ -243,6 +244,12 @@ TEST_F(ExcelExport, TicksColoursAndFontsDoNotGoOut) {
     t.grid.SetRowFontFlag(Row{1}, CellFlag::Bold, false);
     Run();
     EXPECT_EQ(t.spreadsheetSteps, withLooks);
+}
+
+TEST_F(ExcelExport, TakesTheHourglassBackAlsoAfterAFailure) {
+    t.screen.QueueMessage(&FailInHandler);
+    EXPECT_THROW(Run(), HandlerFailure);
+    EXPECT_EQ(t.screen.Pointers(), (std::vector{Pointer::Hourglass, Pointer::Default}));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "dbops/windows/frmViewCell.h"
 
 #include "context/ports/FontPicker.h"
+#include "support/HandlerFailure.h"
 #include "unit/dbops/FakePorts.h"
 #include "unit/dbops/TestTab.h"
 
@@ -417,6 +418,16 @@ TEST_F(ViewCell, TheMenuHasTheWaysOutToo) {
         });
     }
     EXPECT_EQ(t.Cell(1, 1), u"by menu");
+}
+
+TEST_F(ViewCell, EscClosesItAlsoAfterAFailureWhileTheBoxWasFilled) {
+    CellExchange exchange{u"text"};
+    frmViewCell form(t.app, exchange);
+    form.txtCell.Change = &FailInHandler;
+    EXPECT_THROW(form.Load(), HandlerFailure);
+    t.app.DialogResult = 5;
+    EXPECT_TRUE(Press(form, Key::Escape, Mask::None));
+    EXPECT_EQ(t.app.DialogResult, 0);
 }
 
 } // namespace
