@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "grid/Grid.h"
+#include "grid/GridUpdate.h"
 #include "table/NewTable.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"
@@ -25,7 +26,7 @@ void TakeColumnNames(TableModel& table) {
 }
 
 void FillGrid(Grid& grid, const std::vector<Text>& titles) {
-    grid.GridBeginUpdate();
+    const GridUpdate update(grid);
     grid.SetRowCount(kNewRows);
     Col col{1};
     for (const Text& title : titles) {
@@ -39,7 +40,6 @@ void FillGrid(Grid& grid, const std::vector<Text>& titles) {
         grid.SetRowHeight(row, kNewRowHeight);
         grid.SetCellCheckShown(row, true);
     }
-    grid.GridEndUpdate();
 }
 
 void TakeLook(TableModel& table) {

@@ -4,6 +4,7 @@
 #include "context/App.h"
 #include "context/ports/ClipboardView.h"
 #include "grid/Grid.h"
+#include "grid/GridUpdate.h"
 #include "platform/Clipboard.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -26,7 +27,7 @@ bool AskToImport(App& app) {
 /// Without check boxes, names of columns or a look of the model. Deliberate: a save writes for these what
 /// they held before.
 void FillGrid(Grid& grid, TextView text, bool sortOnHeaderClick) {
-    grid.GridBeginUpdate();
+    const GridUpdate update(grid);
     const Col columns = ColumnsOfTabbedText(text);
     for (Col col{1}; col <= columns; ++col)
         AddNewColumn(grid, col, u"Col. " + NumberText(col.Number()));
@@ -34,14 +35,13 @@ void FillGrid(Grid& grid, TextView text, bool sortOnHeaderClick) {
     grid.SetSortOnHeaderClick(sortOnHeaderClick);
     GiveNewTableLook(grid);
     FillFromTabbedText(grid, text);
-    grid.GridEndUpdate();
 }
 
 void ImportClipboard(const TabContext& tab) {
     App& app = tab.app;
     TableModel& table = tab.table;
     table.TxtDbFile = NewDatabaseFilePath(app.Files());
-    app.Screen().SetPointer(Pointer::Hourglass);
+    const Hourglass hourglass(app.Screen());
     app.Screen().ProcessMessages();
     const Text text = app.Clipboard().GetText();
     // The new name goes at once, for the one that the tab shows. Deliberate: an import stays in its tab under
@@ -50,7 +50,6 @@ void ImportClipboard(const TabContext& tab) {
     FillGrid(table.GridStore(), text, app.Settings.AllowSorting == 1);
     table.TableAltered = 1;
     table.GridStore().GridSetFocus();
-    app.Screen().SetPointer(Pointer::Default);
 }
 
 } // namespace

@@ -34,7 +34,6 @@ void EndLoad(const TabContext& tab) {
     tab.app.Screen().ProcessMessages();
     grid.GridSetFocus();
     tab.host.ClearDirty();
-    tab.app.Screen().SetPointer(Pointer::Default);
 }
 
 /// The update bracket stays open and the end of the load doesn't come: the tab is left as it is.
@@ -43,7 +42,33 @@ void EndStoppedLoad(App& app) {
     app.Messages().Show(
         {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
          MessageIcon::Stop});
-    app.Screen().SetPointer(Pointer::Default);
+}
+
+/// The update bracket of a load, at the end of which what the reader hid is shown again.
+class LoadBracket {
+public:
+    explicit LoadBracket(Grid& grid) : grid_(grid) { grid_.GridBeginUpdate(); }
+    LoadBracket(const LoadBracket&) = delete;
+    LoadBracket& operator=(const LoadBracket&) = delete;
+    ~LoadBracket() {
+        if (leftOpen_) return;
+        grid_.GridEndUpdate();
+        grid_.SetGridVisible(true);
+    }
+    void LeaveOpen() { leftOpen_ = true; }
+
+private:
+    Grid& grid_;
+    bool leftOpen_ = false;
+};
+
+/// False when the table can't hold what the file has.
+bool FillTable(const TabContext& tab, const SharedBytes& bytes) {
+    LoadBracket bracket(tab.table.GridStore());
+    TbxReader reader(tab.table, tab.host, tab.app.Settings.AllowSorting == 1, bytes);
+    if (reader.Read() == TbxReader::Outcome::Done) return true;
+    bracket.LeaveOpen();
+    return false;
 }
 
 /// The height of the current row stands for all rows of the file. Where no row is current the first one
@@ -56,25 +81,35 @@ void TakeRowHeight(TableModel& table) {
     if (StoreRounded(grid.RowHeight(row), height)) table.SetRowHeight = height;
 }
 
+void WriteTable(const TabContext& tab, FileWriter& file) {
+    const Hourglass hourglass(tab.app.Screen());
+    tab.app.Screen().ProcessMessages();
+    TakeRowHeight(tab.table);
+    if (tab.history != nullptr) tab.history->IgnoreRowHeight();
+    TbxWriter(tab.table, file).Write();
+    file.Close();
+    tab.table.TableAltered = 0;
+    tab.app.Clock().Wait(kWaitAfterSave);
+}
+
 } // namespace
 
 void ReadTableData(const TabContext& tab) {
     App& app = tab.app;
     const Text& path = tab.table.TxtDbFile;
     if (path.empty() || !app.Files().FileExists(path)) return;
-    const HistoryRestart restart(tab.history);
-    app.Screen().SetPointer(Pointer::Hourglass);
+    const Hourglass hourglass(app.Screen());
     const auto bytes = app.Files().ReadAll(path);
     if (!bytes) {
         ShowCannotLoad(app, path);
         return EndLoad(tab);
     }
-    Grid& grid = tab.table.GridStore();
-    grid.GridBeginUpdate();
-    TbxReader reader(tab.table, tab.host, app.Settings.AllowSorting == 1, *bytes);
-    if (reader.Read() == TbxReader::Outcome::TooManyColumns) return EndStoppedLoad(app);
-    grid.GridEndUpdate();
-    EndLoad(tab);
+    // Only now: a load that finds no file leaves the table, and what can be undone in it.
+    const HistoryRestart restart(tab.history);
+    if (FillTable(tab, *bytes))
+        EndLoad(tab);
+    else
+        EndStoppedLoad(app);
 }
 
 void SaveThisTable(const TabContext& tab) {
@@ -88,15 +123,7 @@ void SaveThisTable(const TabContext& tab) {
         table.GridStore().GridSetFocus();
         return;
     }
-    app.Screen().SetPointer(Pointer::Hourglass);
-    app.Screen().ProcessMessages();
-    TakeRowHeight(table);
-    if (tab.history != nullptr) tab.history->IgnoreRowHeight();
-    TbxWriter(table, *file).Write();
-    file->Close();
-    table.TableAltered = 0;
-    app.Clock().Wait(kWaitAfterSave);
-    app.Screen().SetPointer(Pointer::Default);
+    WriteTable(tab, *file);
     table.GridStore().GridSetFocus();
 }
 

@@ -1,6 +1,7 @@
 #include "table/ImportCommand.h"
 
 #include "context/ports/ClipboardView.h"
+#include "support/HandlerFailure.h"
 #include "support/TableBytes.h"
 #include "support/TestTable.h"
 #include "table/SaveCommands.h"
@@ -391,6 +392,12 @@ TEST(TabbedText, IntoAGridWithoutRowsOrColumnsGoesNothing) {
     grid.SetRowCount(Row{1});
     FillFromTabbedText(grid, u"a\tb\nc");
     EXPECT_EQ(grid.ColCount(), Col{0});
+}
+
+TEST_F(Import, TakesTheHourglassBackAlsoAfterAFailure) {
+    on.program.screen.QueueMessage(&FailInHandler);
+    EXPECT_THROW(Take(u"a\tb\r\n"), HandlerFailure);
+    EXPECT_EQ(on.program.screen.Pointers(), (std::vector{Pointer::Hourglass, Pointer::Default}));
 }
 
 } // namespace

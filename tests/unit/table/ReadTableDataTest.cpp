@@ -1,5 +1,6 @@
 #include "TbxFixtures.h"
 #include "grid/Grid.h"
+#include "support/HandlerFailure.h"
 #include "table/TableFile.h"
 
 namespace korvane {
@@ -170,6 +171,27 @@ TEST_F(ReadTableDataTest, WorksOnSystemsOfEitherPathStyle) {
     posix.program.files.AddFile(u"/home/a/people.tbx", kFile);
     ReadTableData(posix.tab);
     EXPECT_EQ(posix.grid.RowCount(), Row{2});
+}
+
+/// A tab that fails when the file's row height reaches it, in the middle of a load.
+class FailingHost final : public TableHost {
+public:
+    void ShowRowHeight(std::int16_t) override { FailInHandler(); }
+    Text TabCaption() const override { return {}; }
+    void SetTabCaption(TextView) override {}
+    void ClearDirty() override {}
+};
+
+TEST_F(ReadTableDataTest, ALoadThatFailsHalfwayLeavesAGridThatPaintsAndTheNormalPointer) {
+    FailingHost failing;
+    const TabContext tab{table.program.app, table.model, failing};
+    table.program.files.AddFile(kPath, kFile);
+    grid.SetGridVisible(false);
+    EXPECT_THROW(ReadTableData(tab), HandlerFailure);
+    EXPECT_TRUE(grid.GridVisible());
+    EXPECT_EQ(pointers, (Pointers{Pointer::Hourglass, Pointer::Default}));
+    grid.AddCol(u"key", u"caption");
+    EXPECT_EQ(protocol.events.back(), "table");
 }
 
 } // namespace

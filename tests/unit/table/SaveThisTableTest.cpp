@@ -1,5 +1,6 @@
 #include "TbxFixtures.h"
 #include "grid/Grid.h"
+#include "support/HandlerFailure.h"
 #include "table/TableFile.h"
 
 namespace korvane {
@@ -179,6 +180,13 @@ TEST_F(SaveThisTableTest, AFailingCloseIsNotLookedAt) {
     Save();
     EXPECT_EQ(table.model.TableAltered, 0);
     EXPECT_TRUE(table.program.user.Messages().empty());
+}
+
+TEST_F(SaveThisTableTest, TakesTheHourglassBackAlsoAfterAFailure) {
+    table.program.screen.QueueMessage(&FailInHandler);
+    EXPECT_THROW(Save(), HandlerFailure);
+    EXPECT_EQ(table.program.screen.Pointers(), (Pointers{Pointer::Hourglass, Pointer::Default}));
+    EXPECT_EQ(table.model.TableAltered, 1);
 }
 
 } // namespace

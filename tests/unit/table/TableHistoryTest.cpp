@@ -129,6 +129,38 @@ TEST_F(TableHistoryTest, TheOldestStepsAreForgottenWhereMemoryRunsOut) {
     EXPECT_LT(undone, 20);
 }
 
+TEST_F(TableHistoryTest, UndoingAndRedoingOverAndOverForgetsNothing) {
+    TableHistory small(table.model, table.host, 20000);
+    const auto write = [&](int row) {
+        table.grid.SetCellValue(Row{row}, Col{1}, u"text");
+        small.EndStep();
+    };
+    write(1);
+    write(2);
+    for (int times = 0; times < 100; ++times) {
+        ASSERT_TRUE(small.Undo());
+        ASSERT_TRUE(small.Redo());
+    }
+    write(3);
+    EXPECT_TRUE(small.Undo());
+    EXPECT_TRUE(small.Undo());
+    EXPECT_TRUE(small.Undo());
+}
+
+TEST_F(TableHistoryTest, WhatChangesInTheModelOutsideOfACommandIsNoStep) {
+    table.model.SetRowHeight = std::int16_t{30};
+    history.EndStep();
+    EXPECT_FALSE(history.Undo());
+    EXPECT_EQ(table.model.SetRowHeight, 30);
+    {
+        const TableStep step(history);
+        table.model.TableFontSize = std::int16_t{9};
+    }
+    EXPECT_TRUE(history.Undo());
+    EXPECT_EQ(table.model.TableFontSize, std::nullopt);
+    EXPECT_EQ(table.model.SetRowHeight, 30);
+}
+
 TEST_F(TableHistoryTest, TheLatestStepIsKeptHoweverLargeItIs) {
     TableHistory tiny(table.model, table.host, 1);
     table.grid.SetCellValue(Row{1}, Col{1}, u"a");
@@ -154,6 +186,22 @@ TEST_F(TableHistoryTest, ALoadStartsANewHistory) {
     Write(1, u"edited");
     EXPECT_TRUE(history.Undo());
     EXPECT_EQ(Cell(1), u"x");
+}
+
+TEST_F(TableHistoryTest, ALoadOfAFileThatCannotBeReadLeavesTheHistoryOfTheTableThatStays) {
+    Write(1, u"a");
+    const Text path = u"C:\\t.tbx";
+    table.program.files.AddFile(path, NameTable(path, {"x"}));
+    table.program.files.Faults().FailNth(FileStep::OpenToRead, 1);
+    table.program.user.Answer(Answer::Ok);
+    table.model.TxtDbFile = path;
+    {
+        const TableStep step(history);
+        ReadTableData(table.tab);
+    }
+    EXPECT_EQ(Cell(1), u"a");
+    EXPECT_TRUE(history.Undo());
+    EXPECT_EQ(Cell(1), u"");
 }
 
 TEST_F(TableHistoryTest, ASaveKeepsTheHistoryAndIsNoStep) {
