@@ -215,12 +215,19 @@ std::optional<std::string_view> GridStore::CellBytes(Row row, Col col) const {
 }
 
 void GridStore::ShiftTextsRight(Col first) {
-    if (!HasCol(first)) return;
+    if (!HasCol(first) || !HasTextsFrom(first)) return;
     if (noted_) return noted_->Do(*this, Changes::ShiftNote{first});
     GiveUpTexts(ColCount(), ColCount());
     cells_.ShiftRight(Index(first));
     notifier_.TableChanged();
     PackTextsIfWorthwhile();
+}
+
+bool GridStore::HasTextsFrom(Col first) const {
+    for (Row row{1}; row <= RowCount(); ++row)
+        for (Col col = first; col <= ColCount(); ++col)
+            if (!HandleAt(row, col).IsEmpty()) return true;
+    return false;
 }
 
 void GridStore::GiveUpTexts(std::size_t firstRow) {

@@ -1,6 +1,12 @@
 #include "grid/GridStoreChanges.h"
 
+#include "common/text/ScopedValue.h"
+#include "grid/GridUpdate.h"
+
 #include <algorithm>
+#include <optional>
+#include <set>
+#include <tuple>
 
 namespace korvane {
 
@@ -8,6 +14,21 @@ namespace {
 
 std::size_t HeapOf(const Text& text) {
     return text.capacity() * sizeof(char16_t);
+}
+
+/// What a note is about: its kind, and the row and column if it is about one.
+using Thing = std::tuple<std::size_t, Row, Col>;
+
+template <class AnyNote>
+Thing ThingOf(const AnyNote& note) {
+    Thing thing{note.index(), Row{0}, Col{0}};
+    std::visit(
+        [&thing](const auto& each) {
+            if constexpr (requires { each.row; }) std::get<Row>(thing) = each.row;
+            if constexpr (requires { each.col; }) std::get<Col>(thing) = each.col;
+        },
+        note);
+    return thing;
 }
 
 } // namespace
@@ -154,6 +175,33 @@ void GridStore::Changes::Turner::operator()(OrderNote& note) {
         note.order[order[to]] = static_cast<std::uint16_t>(to);
 }
 
+/// Tells whether what a note is about is as it was then. Of rows and columns that came, went or moved it
+/// isn't.
+class GridStore::Changes::Comparison {
+public:
+    explicit Comparison(const GridStore& grid) : grid_(grid) {}
+
+    bool operator()(const TextNote& note) const { return grid_.CellValue(note.row, note.col) == note.other; }
+    bool operator()(const RowNote& note) const {
+        return grid_.HasRow(note.row) && grid_.rows_[Index(note.row)] == note.other;
+    }
+    bool operator()(const CellLookNote& note) const { return grid_.LookAt(note.row, note.col) == note.other; }
+    bool operator()(const RowLooksNote& note) const {
+        return grid_.HasRow(note.row) && grid_.looks_.OfRow(Index(note.row)) == note.other;
+    }
+    bool operator()(const ColumnNote& note) const {
+        return grid_.HasCol(note.col) && grid_.cols_[Index(note.col)] == *note.other;
+    }
+    bool operator()(const LookNote& note) const { return grid_.look_ == *note.other; }
+    template <class Other>
+    bool operator()(const Other&) const {
+        return false;
+    }
+
+private:
+    const GridStore& grid_;
+};
+
 namespace {
 
 /// Whether a note holds already what the other one, about the same thing, would.
@@ -181,6 +229,14 @@ struct Covers {
 
 } // namespace
 
+/// The first note about a thing tells how it was; the later ones hold what came between.
+bool GridStore::Changes::LeaveAllAsItWas(const GridStore& grid) const {
+    std::set<Thing> compared;
+    return std::ranges::all_of(notes_, [&](const Note& note) {
+        return !compared.insert(ThingOf(note)).second || std::visit(Comparison(grid), note);
+    });
+}
+
 void GridStore::Changes::Add(const GridStore& grid, Note note) {
     if (!notes_.empty() && std::visit(Covers(), notes_.back(), note)) return;
     NoteWhere(grid);
@@ -195,9 +251,10 @@ void GridStore::Changes::Do(GridStore& grid, Note note) {
     const Row rowsBefore = grid.RowCount();
     const bool onlyRows = std::holds_alternative<RowCountNote>(note);
     const bool covered = GoesOnAppending(note, rowsBefore);
-    std::unique_ptr<Changes> self = std::move(grid.noted_);
-    std::visit(Turner(grid), note);
-    grid.noted_ = std::move(self);
+    {
+        const ScopedValue unnoted(grid.noted_, nullptr);
+        std::visit(Turner(grid), note);
+    }
     oldRows_ = onlyRows ? std::min(oldRows_, rowsBefore) : kMaxRows;
     oldCols_ = onlyRows ? oldCols_ : kAllCols;
     if (!covered) notes_.push_back(std::move(note));
@@ -222,8 +279,14 @@ void GridStore::Changes::Finish(const GridStore& grid) {
 }
 
 void GridStore::Changes::Turn(GridStore& grid) {
-    const bool several = notes_.size() > 1;
-    if (several) grid.GridBeginUpdate();
+    TurnNotes(grid);
+    grid.PackTextsIfWorthwhile();
+    Measure();
+}
+
+void GridStore::Changes::TurnNotes(GridStore& grid) {
+    std::optional<GridUpdate> update;
+    if (notes_.size() > 1) update.emplace(grid);
     const auto turn = [&grid](Note& note) { std::visit(Turner(grid), note); };
     if (takenBack_)
         std::ranges::for_each(notes_, turn);
@@ -231,9 +294,6 @@ void GridStore::Changes::Turn(GridStore& grid) {
         std::for_each(notes_.rbegin(), notes_.rend(), turn);
     takenBack_ = !takenBack_;
     grid.GoTo(takenBack_ ? before_ : after_);
-    if (several) grid.GridEndUpdate();
-    grid.PackTextsIfWorthwhile();
-    Measure();
 }
 
 // What the grid asks.
@@ -243,15 +303,16 @@ void GridStore::NoteChanges(bool on) {
 }
 
 std::unique_ptr<GridChanges> GridStore::TakeNotedChanges() {
-    if (noted_ == nullptr || noted_->IsEmpty()) return nullptr;
-    noted_->Finish(*this);
-    return std::exchange(noted_, std::make_unique<Changes>());
+    if (noted_ == nullptr) return nullptr;
+    std::unique_ptr<Changes> changes = std::exchange(noted_, std::make_unique<Changes>());
+    if (changes->LeaveAllAsItWas(*this)) return nullptr;
+    changes->Finish(*this);
+    return changes;
 }
 
 void GridStore::TurnChanges(GridChanges& changes) {
-    std::unique_ptr<Changes> noting = std::move(noted_);
+    const ScopedValue unnoted(noted_, nullptr);
     static_cast<Changes&>(changes).Turn(*this);
-    noted_ = std::move(noting);
 }
 
 void GridStore::NoteText(Row row, Col col) {

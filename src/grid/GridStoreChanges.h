@@ -82,7 +82,8 @@ public:
                               RowCountNote, ColumnPresenceNote, ShiftNote, OrderNote>;
 
     std::size_t MemoryUse() const override { return memoryUse_; }
-    bool IsEmpty() const { return notes_.empty(); }
+    /// Whether everything is as it was, though it may have been otherwise meanwhile.
+    bool LeaveAllAsItWas(const GridStore& grid) const;
 
     /// Whether a change to the row or cell has to be noted: what came within these changes goes as a whole.
     bool Wants(Row row) const { return row <= oldRows_; }
@@ -100,9 +101,11 @@ public:
 
 private:
     class Turner;
+    class Comparison;
 
     bool GoesOnAppending(const Note& note, Row rows) const;
     void NoteWhere(const GridStore& grid);
+    void TurnNotes(GridStore& grid);
     void Measure();
 
     std::vector<Note> notes_;

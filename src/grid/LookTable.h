@@ -38,6 +38,7 @@ public:
         CellLook row;
         /// By column, the cells that look otherwise.
         std::vector<std::pair<std::size_t, CellLook>> others;
+        bool operator==(const RowLooks&) const = default;
     };
     /// The looks of one column's cells.
     struct ColumnLooks {

@@ -1,6 +1,7 @@
 #include "GridFixtures.h"
 #include "grid/Grid.h"
 #include "support/GridState.h"
+#include "support/HandlerFailure.h"
 
 #include <array>
 #include <functional>
@@ -200,6 +201,74 @@ TEST_F(GridStoreChangesTest, WhatChangesNothingIsntNoted) {
     grid.SetSortOnHeaderClick(true);
     grid.SetCellValue(Row{99}, Col{1}, u"x");
     EXPECT_EQ(grid.TakeNotedChanges(), nullptr);
+}
+
+TEST_F(GridStoreChangesTest, WhatIsAsBeforeInTheEndIsNoChange) {
+    const auto comesBack = [this](const std::function<void(Grid&, bool)>& change) {
+        change(grid, true);
+        change(grid, false);
+        return grid.TakeNotedChanges() == nullptr;
+    };
+    EXPECT_TRUE(comesBack([](Grid& g, bool to) {
+        for (Row row{1}; row <= g.RowCount(); ++row)
+            g.SetCellCheck(row, to == (row == Row{2}) ? 0 : 1);
+    }));
+    EXPECT_TRUE(comesBack([](Grid& g, bool to) {
+        g.SetCellValue(Row{1}, Col{1}, to ? u"fig" : u"pear");
+        g.SetCellValue(Row{2}, Col{1}, to ? u"pear" : u"fig");
+    }));
+    EXPECT_TRUE(comesBack([](Grid& g, bool to) {
+        g.SetRowFontFlag(Row{3}, CellFlag::Bold, to);
+        g.SetCellFontFlag(Row{4}, Col{1}, CellFlag::Bold, to);
+    }));
+    EXPECT_TRUE(comesBack([](Grid& g, bool to) {
+        g.SetColWidth(Col{1}, to ? 7 : GridStore::kDefaultColWidth);
+        g.SetGridFontSize(to ? 7 : 0);
+    }));
+}
+
+TEST_F(GridStoreChangesTest, WhatIsOtherwiseInTheEndIsOneStepThatTurnsAsAWhole) {
+    ExpectTurns([](Grid& g) {
+        g.SetCellCheck(Row{1}, 1);
+        g.SetCellCheck(Row{2}, 0);
+        g.SetCellCheck(Row{1}, 0);
+    });
+    ExpectTurns([](Grid& g) {
+        g.SetCellValue(Row{4}, Col{1}, u"last");
+        g.SetRowCount(Row{2});
+    });
+    ExpectTurns([](Grid& g) {
+        g.SetColWidth(Col{3}, 9);
+        g.RemoveCol(Col{3});
+    });
+}
+
+TEST_F(GridStoreChangesTest, ToMoveTextsWhereThereAreNoneIsNoChange) {
+    FillColumn(Col{3}, {u"", u"", u"", u""});
+    grid.TakeNotedChanges();
+    grid.ShiftTextsRight(Col{2});
+    EXPECT_EQ(grid.TakeNotedChanges(), nullptr);
+    ExpectTurns([](Grid& g) { g.ShiftTextsRight(Col{1}); });
+}
+
+TEST_F(GridStoreChangesTest, ChangesGoOnBeingNotedWhereAListenerFails) {
+    class Failing final : public GridListener {
+        void RowsChanged(Row, Row) override { FailInHandler(); }
+        void TableChanged() override { FailInHandler(); }
+        void ColumnChanged(Col) override {}
+        void LookChanged() override {}
+        void CurrentCellChanged() override {}
+        void FocusWanted() override {}
+        void RowWantedInView(Row) override {}
+    } failing;
+    grid.SetCellValue(Row{1}, Col{1}, u"x");
+    const auto changes = grid.TakeNotedChanges();
+    grid.SetListener(&failing);
+    EXPECT_THROW(grid.TurnChanges(*changes), HandlerFailure);
+    EXPECT_THROW(grid.SetRowCount(Row{5}), HandlerFailure);
+    grid.SetListener(nullptr);
+    grid.SetCellValue(Row{2}, Col{1}, u"y");
+    EXPECT_NE(grid.TakeNotedChanges(), nullptr);
 }
 
 TEST_F(GridStoreChangesTest, NothingIsNotedUnlessAskedFor) {

@@ -84,6 +84,25 @@ TEST_F(GridStoreListenerTest, ShapeVisibilityHeightAndOrderTellTheTable) {
     expectTable("refresh");
 }
 
+TEST_F(GridStoreListenerTest, AChangeThatIsTakenBackTellsWhatItTold) {
+    const auto takenBack = [this](const auto& change) {
+        grid.NoteChanges(true);
+        change();
+        const auto changes = grid.TakeNotedChanges();
+        Heard();
+        grid.TurnChanges(*changes);
+        return Heard();
+    };
+    EXPECT_EQ(takenBack([this] { grid.SetRowVisible(Row{2}, false); }), Lines{"table"});
+    grid.SetRowHeight(Row{2}, 30);
+    EXPECT_EQ(takenBack([this] { grid.SetRowHeight(Row{2}, 40); }), Lines{"table"});
+    EXPECT_EQ(takenBack([this] { grid.SetCellCheck(Row{2}, 1); }), Lines{"rows 2-2"});
+    EXPECT_EQ(takenBack([this] { grid.SetCellBackColor(Row{2}, Col{1}, Colour{1}); }), Lines{"rows 2-2"});
+    EXPECT_EQ(takenBack([this] { grid.SetRowBackColor(Row{2}, Colour{1}); }), Lines{"rows 2-2"});
+    EXPECT_EQ(takenBack([this] { grid.SetColWidth(Col{1}, 5); }), Lines{"column 1"});
+    EXPECT_EQ(takenBack([this] { grid.SetGridFontSize(7); }), Lines{"look"});
+}
+
 TEST_F(GridStoreListenerTest, CaptionAndWidthTellTheColumn) {
     grid.SetColHeaderText(Col{2}, u"x");
     EXPECT_EQ(Heard(), Lines{"column 2"});

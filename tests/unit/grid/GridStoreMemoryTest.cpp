@@ -1,6 +1,8 @@
 #include "GridFixtures.h"
 #include "grid/TextBlocks.h"
 
+#include <algorithm>
+
 namespace korvane {
 namespace {
 
@@ -99,6 +101,32 @@ TEST_F(TextBlocksTest, WideTextsArePackedAsWell) {
     EXPECT_TRUE(blocks.HasWideTexts());
     Rewrite(handles[2], u"narrow");
     EXPECT_FALSE(blocks.HasWideTexts());
+}
+
+TEST_F(TextBlocksTest, PackingRemembersWhatOfTheFilesBytesIsGarbage) {
+    const SharedBytes bytes = BytesOf(std::string(100000, 'a'));
+    blocks.Adopt(bytes);
+    handles.clear();
+    for (std::size_t at = 0; at < 100; ++at)
+        handles.push_back(blocks.Slice(at * 1000, 1000));
+    const auto giveUp = [this](std::size_t count) {
+        for (; count > 0; --count) {
+            blocks.GiveUp(handles.back());
+            handles.pop_back();
+        }
+    };
+    const auto pack = [this] {
+        blocks.Pack([this](const auto& visit) { std::ranges::for_each(handles, visit); });
+    };
+    giveUp(45);
+    pack();
+    EXPECT_TRUE(blocks.HasAdopted());
+    giveUp(25);
+    EXPECT_TRUE(blocks.WantsPacking());
+    pack();
+    EXPECT_FALSE(blocks.HasAdopted());
+    EXPECT_EQ(Holders(bytes), 1);
+    EXPECT_EQ(blocks.ToText(handles.back()), Text(1000, u'a'));
 }
 
 TEST_F(TextBlocksTest, AnEmptyTextHasNoPlace) {
