@@ -43,7 +43,9 @@ void InsertColumn(TableModel& table) {
     if (grid.ColCount() < kWidestByInsert) grid.SetColCount(grid.ColCount() + 1);
     const Col first = std::max(current, Col{1});
     ShiftCaptions(table, first);
-    grid.ShiftTextsRight(first);
+    // In a table that can't grow, the last column has nowhere to move: it gets the caption and keeps its
+    // texts.
+    if (first < grid.ColCount()) grid.ShiftTextsRight(first);
     RenameColumn(table, current, Text(kNewColumnName));
 }
 

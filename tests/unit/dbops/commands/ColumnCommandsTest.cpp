@@ -230,14 +230,16 @@ TEST_P(InsertingIntoAWideTable, DeliberatelyKeepsTheColumnCountAndLosesTheLastCo
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_P(InsertingIntoAWideTable, AtTheLastColumnEmptiesIt) {
+TEST_P(InsertingIntoAWideTable, AtTheLastColumnChangesItsCaptionAlone) {
     const int cols = GetParam();
     Widen(cols);
     t.GoTo(1, cols);
     mnuEdit_InsertColumn_Clack(t.tab);
-    EXPECT_EQ(t.Cell(1, cols), u"");
+    EXPECT_EQ(t.Cell(1, cols), NumberText(cols));
     EXPECT_EQ(t.Cell(1, cols - 1), NumberText(cols - 1));
     EXPECT_EQ(Headers().back(), u"NEW");
+    EXPECT_EQ(Names(cols).back(), u"NEW");
+    EXPECT_EQ(t.table.TableAltered, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(AtTheLimit, InsertingIntoAWideTable, testing::Values(23, 24));
@@ -272,6 +274,25 @@ TEST(InsertingWithoutACurrentColumn, AddsAColumnWithoutTouchingOthersCaptions) {
     EXPECT_EQ(t.grid.ColCount(), Col{1});
     EXPECT_EQ(t.grid.ColHeaderText(Col{1}), u"");
     EXPECT_EQ(t.table.ColumnNames[Col{1}], u"");
+}
+
+TEST(InsertingWithoutACurrentColumn, MovesAllTextsAndKeepsTheFirstCaption) {
+    TestTab t;
+    t.grid.AddCol(u"1no", u"One");
+    t.grid.AddCol(u"2no", u"Two");
+    t.grid.SetRowCount(Row{1});
+    t.table.ColumnNames.Set(Col{1}, u"One");
+    t.table.ColumnNames.Set(Col{2}, u"Two");
+    t.SetCell(1, 1, u"a");
+    t.SetCell(1, 2, u"b");
+    ASSERT_EQ(t.grid.CurCol(), Col{0});
+    mnuEdit_InsertColumn_Clack(t.tab);
+    EXPECT_EQ(t.grid.ColHeaderText(Col{1}), u"One");
+    EXPECT_EQ(t.grid.ColHeaderText(Col{2}), u"One");
+    EXPECT_EQ(t.grid.ColHeaderText(Col{3}), u"Two");
+    EXPECT_EQ(t.Cell(1, 1), u"");
+    EXPECT_EQ(t.Cell(1, 2), u"a");
+    EXPECT_EQ(t.Cell(1, 3), u"b");
 }
 
 class RemovingAColumn : public ColumnCommands {};
