@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 namespace korvane {
 namespace {
 
@@ -76,18 +78,16 @@ TEST_F(Tbx, EveryCommandHasItsHelpWithOrWithoutArguments) {
 }
 
 TEST_F(Tbx, NoLineOfHelpIsWiderThanATerminal) {
-    std::string help;
-    run.Run({"--help"});
-    help += run.out;
-    for (const Verb& verb : Verbs()) {
-        run.Run({std::string(verb.name), "--help"});
-        help += run.out;
-    }
-    for (std::size_t start = 0; start < help.size();) {
-        const std::size_t end = help.find('\n', start);
-        EXPECT_LE(end - start, 80u) << help.substr(start, end - start);
-        start = end + 1;
-    }
+    const auto expectNarrow = [this](const std::vector<std::string>& arguments) {
+        run.Run(arguments);
+        EXPECT_THAT(run.out, EndsWith("\n"));
+        std::istringstream lines(run.out);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_LE(line.size(), 80u) << line;
+    };
+    expectNarrow({"--help"});
+    for (const Verb& verb : Verbs())
+        expectNarrow({std::string(verb.name), "--help"});
 }
 
 TEST_F(Tbx, VersionNamesTheProgram) {
