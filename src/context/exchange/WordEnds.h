@@ -1,7 +1,5 @@
 #pragma once
 
-#include "common/text/Text.h"
-
 #include <array>
 
 namespace korvane {
@@ -10,8 +8,6 @@ namespace korvane {
 struct WordEnds {
     /// By the byte of a character: whether it ends a word in the text find.
     std::array<bool, 257> DelimiterTable{};
-    /// The characters after which a title goes on with a capital.
-    Text TitlePunctuation;
 };
 
 } // namespace korvane

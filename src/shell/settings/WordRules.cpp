@@ -1,6 +1,5 @@
 #include "shell/settings/WordRules.h"
 
-#include "common/text/Names.h"
 #include "context/App.h"
 #include "context/exchange/WordEnds.h"
 
@@ -15,7 +14,6 @@ constexpr TextView kDelimiters = u"'\",.;:#/()[]{} \t\f\n\r";
 void SetWordRules(App& app) {
     WordEnds& ends = app.Exchange<WordEnds>();
     app.Settings.WordDelimiters = Text(kDelimiters);
-    ends.TitlePunctuation = Text(kTitlePunctuation);
     ends.DelimiterTable.fill(false);
     for (const char16_t delimiter : kDelimiters) {
         const auto code = app.Page().Encode(delimiter);

@@ -147,11 +147,6 @@ TEST_F(StartUpTest, AFirstRunHasTheBuiltInDelimiters) {
     EXPECT_EQ(p.app.Settings.WordDelimiters, u"'\",.;:#/()[]{} \t\f\n\r");
 }
 
-TEST_F(StartUpTest, ThePunctuationOfTitlesIsBuiltIn) {
-    p.StartWith({});
-    EXPECT_EQ(p.app.Exchange<WordEnds>().TitlePunctuation, u"\"'`\u00B4!?.:,;-_");
-}
-
 TEST_F(StartUpTest, ASecondStartsSlotIsTheFirstTextBoxOfTheFirstPanel) {
     p.StartWith({});
     const auto first = [this]<class Kind>(std::type_identity<Kind>) {
