@@ -30,8 +30,8 @@ struct OpenRequest {
 class Shell {
 public:
     virtual ~Shell() = default;
-    /// Starts a program, which gets each argument as it stands: no command interpreter reads them. The task
-    /// number; 0 when the program didn't start, as an empty one never does.
+    /// Starts a program, which gets each argument as it stands: no command interpreter makes more of one. The
+    /// task number; 0 when the program didn't start, as an empty one never does.
     virtual int Run(TextView program, const std::vector<Text>& arguments, WindowState window) = 0;
     /// What can't be opened is passed over.
     virtual void Open(const OpenRequest& request) = 0;

@@ -13,10 +13,16 @@ constexpr char16_t kBackslash = u'\\';
 constexpr TextView kBlanks = u" \t";
 constexpr TextView kNeedsQuotes = u" \t\n\v\"";
 
-bool IsBatchFile(TextView program) {
-    // The system drops points and blanks at the end of a name.
+/// The longest line that the command interpreter reads.
+constexpr std::size_t kLongestCommand = 8191;
+
+/// The name that counts: the system drops points and blanks at its end.
+TextView WithoutEnd(TextView program) {
     const std::size_t last = program.find_last_not_of(u". ");
-    const TextView name = program.substr(0, last == TextView::npos ? 0 : last + 1);
+    return program.substr(0, last == TextView::npos ? 0 : last + 1);
+}
+
+bool IsBatchFile(TextView name) {
     return EndsWithIgnoringCase(name, u".bat") || EndsWithIgnoringCase(name, u".cmd");
 }
 
@@ -27,7 +33,6 @@ bool HoldsNull(const Text& argument) {
 bool CanBeStarted(TextView program, const std::vector<Text>& arguments) {
     constexpr TextView kInNoName(u"\"\0", 2);
     if (program.empty() || program.find_first_of(kInNoName) != TextView::npos) return false;
-    if (!arguments.empty() && IsBatchFile(program)) return false;
     return std::ranges::none_of(arguments, HoldsNull);
 }
 
@@ -48,6 +53,47 @@ bool NeedsQuotes(TextView argument) {
     return argument.empty() || argument.find_first_of(kNeedsQuotes) != TextView::npos;
 }
 
+/// Whether a batch file may get the argument. What it does with it the interpreter reads once more: there a
+/// quote would end the quotes round the argument, and a line end the command.
+bool IsSafeForBatchFile(const Text& argument) {
+    return std::ranges::none_of(argument, [](char16_t each) { return each == kQuote || each < u' '; });
+}
+
+/// Of a character that takes two units.
+bool IsSecondHalf(char16_t unit) {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// The argument as the interpreter hands it on. A caret before every character takes its meaning away, that
+/// of a percent sign too, because no variable has a name with carets in it.
+Text Careted(TextView argument) {
+    Text careted;
+    for (const char16_t unit : argument) {
+        if (!IsSecondHalf(unit)) careted += u'^';
+        careted += unit;
+    }
+    return careted;
+}
+
+/// Between plain quotes only a percent sign means something to the interpreter.
+bool IsSafeInPlainQuotes(TextView name) {
+    return name.find(u'%') == TextView::npos &&
+           std::ranges::none_of(name, [](char16_t each) { return each < u' '; });
+}
+
+std::optional<Text> BatchCommandLine(TextView batch, const std::vector<Text>& arguments,
+                                     TextView interpreter) {
+    if (!IsSafeInPlainQuotes(batch) || !std::ranges::all_of(arguments, IsSafeForBatchFile))
+        return std::nullopt;
+    Text command = kQuote + Text(batch) + kQuote;
+    for (const Text& argument : arguments)
+        command += u' ' + Careted(Quoted(argument));
+    if (command.size() > kLongestCommand) return std::nullopt;
+    // Without commands of the user's own at the start and without "!" for variables, and with the outer
+    // quotes always taken off.
+    return kQuote + Text(interpreter) + u"\" /d /v:off /s /c \"" + command + kQuote;
+}
+
 /// Where the first word ends. It is the program's name, in which a backslash escapes no quote.
 std::size_t EndOfProgramName(TextView commandLine) {
     bool quoted = false;
@@ -60,8 +106,11 @@ std::size_t EndOfProgramName(TextView commandLine) {
 
 } // namespace
 
-std::optional<Text> ProcessCommandLine(TextView program, const std::vector<Text>& arguments) {
+std::optional<Text> ProcessCommandLine(TextView program, const std::vector<Text>& arguments,
+                                       TextView interpreter) {
     if (!CanBeStarted(program, arguments)) return std::nullopt;
+    const TextView name = WithoutEnd(program);
+    if (IsBatchFile(name) && !arguments.empty()) return BatchCommandLine(name, arguments, interpreter);
     // Always in quotes: otherwise the system tries every blank of the name as its end.
     Text line = kQuote + Text(program) + kQuote;
     for (const Text& argument : arguments)

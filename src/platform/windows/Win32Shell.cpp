@@ -78,7 +78,8 @@ const wchar_t* OrNull(const std::wstring& text) {
 } // namespace
 
 int Win32Shell::Run(TextView program, const std::vector<Text>& arguments, WindowState window) {
-    const auto commandLine = ProcessCommandLine(program, arguments);
+    const Text interpreter = Win32SystemFolders().System() + u"\\cmd.exe";
+    const auto commandLine = ProcessCommandLine(program, arguments, interpreter);
     if (!commandLine) return 0;
     STARTUPINFOW start{};
     start.cb = sizeof start;

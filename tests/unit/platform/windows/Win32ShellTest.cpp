@@ -56,9 +56,22 @@ TEST_F(Win32ShellTest, WhatIsNoProgramDoesNotStart) {
     EXPECT_EQ(shell.Run(FromWide((probe.Dir() / "a.tbx").wstring()), {}, WindowState::Normal), 0);
 }
 
-TEST_F(Win32ShellTest, ABatchFileIsNotStartedWithArguments) {
+TEST_F(Win32ShellTest, ABatchFileFindsEachArgumentAsItStandsAndStartsNothingElse) {
+    const std::filesystem::path batch = probe.Dir() / "a & b.bat";
+    WriteBytes(batch, "@\"" + ToUtf8(Probe::Program()) + "\" arguments \"" + ToUtf8(probe.File()) + "\" " +
+                          ToUtf8(probe.Event()) + " %1 %2 %3 %4\r\n");
+    const std::vector<Text> arguments{u"b & echo more > more.txt", u"%PATH%", u"^(c)!PATH!|",
+                                      u"C:\\my data\\"};
+    EXPECT_NE(shell.Run(FromWide(batch.wstring()), arguments, WindowState::Normal), 0);
+    ASSERT_TRUE(probe.Ready());
+    EXPECT_EQ(probe.Told(), "normal\n<b & echo more > more.txt>\n<%PATH%>\n<^(c)!PATH!|>\n<C:\\my data\\>\n");
+}
+
+TEST_F(Win32ShellTest, ABatchFileIsNotStartedWithWhatNoQuotesHold) {
     WriteBytes(probe.Dir() / "a.bat", "echo started> %~dp0told.txt\r\n");
-    EXPECT_EQ(shell.Run(FromWide((probe.Dir() / "a.bat").wstring()), {u"b"}, WindowState::Normal), 0);
+    const Text batch = FromWide((probe.Dir() / "a.bat").wstring());
+    EXPECT_EQ(shell.Run(batch, {u"b\" & echo more"}, WindowState::Normal), 0);
+    EXPECT_EQ(shell.Run(batch, {u"b\r\necho more"}, WindowState::Normal), 0);
     EXPECT_EQ(probe.Told(), "");
 }
 
