@@ -42,6 +42,8 @@ bool ReadNumber(std::string_view bytes, Int& field) {
 /// A finite number as it is written to files and cells, whatever the locale: the fewest digits that read back
 /// as the same double, "." as the point, no blank in front, no exponent.
 Text NumberText(double number);
+/// The same with so many significant digits at most, as a person wants to read the outcome of a calculation.
+Text NumberText(double number, int significantDigits);
 /// The whole number in decimal, no blank in front.
 template <std::integral Int>
 Text NumberText(Int number) {

@@ -15,6 +15,9 @@ namespace korvane {
 
 namespace {
 
+/// As many as a double always holds: more would show that it counts in binary fractions.
+constexpr int kDigitsOfTotal = 15;
+
 double NumericValue(const Grid& grid, Row row, Col col) {
     if (const auto bytes = grid.CellBytes(row, col)) return Val(*bytes);
     return Val(TextView(grid.CellValue(row, col)));
@@ -39,7 +42,7 @@ void AppendTotal(Grid& grid, Col col, double sum) {
     grid.SetRowCount(total);
     grid.SetCellCheckShown(total, true);
     grid.SetRowHeight(total, grid.RowHeight(Row{1}));
-    grid.SetCellValue(total, col, NumberText(sum));
+    grid.SetCellValue(total, col, NumberText(sum, kDigitsOfTotal));
     if (col > Col{1}) grid.SetCellValue(total, col - 1, u"Total:");
 }
 

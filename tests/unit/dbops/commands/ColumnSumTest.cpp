@@ -134,6 +134,14 @@ TEST_F(ColumnSum, ANumberStopsAtTheComma) {
     EXPECT_EQ(TotalOf({u"1,5"}), u"1");
 }
 
+TEST_F(ColumnSum, IsWrittenWithFifteenDigitsAtMost) {
+    EXPECT_EQ(TotalOf({u"0.1", u"0.2"}), u"0.3");
+    EXPECT_EQ(TotalOf({u".1", u".1", u".1", u".1", u".1", u".1", u".1", u".1", u".1", u".1"}), u"1");
+    EXPECT_EQ(TotalOf({u"1", u"-0.9"}), u"0.1");
+    EXPECT_EQ(TotalOf({u"123456789012345678"}), u"123456789012346000");
+    EXPECT_EQ(TotalOf({u"123456789012345", u"0.25"}), u"123456789012345");
+}
+
 TEST_F(ColumnSum, AddsInDoublePrecisionWithAsManyDigitsAsItNeeds) {
     EXPECT_EQ(TotalOf({u"0.25", u"1000000000"}), u"1000000000.25");
     EXPECT_EQ(TotalOf({u"1.5", u"1.5"}), u"3");
