@@ -27,10 +27,11 @@ void frmSetRowHeight::Load() {
 }
 
 void frmSetRowHeight::cmdProceed_Click() {
-    std::int16_t height = 0;
-    ReadNumber(cboRowHeight.Chosen(), height);
-    tab_.table.SetRowHeight = height;
-    tab_.app.DialogResult = 1;
+    // The present height need not be one of the list: then nothing is chosen, and all heights stay.
+    if (const int index = cboRowHeight.ListIndex(); index >= 0) {
+        tab_.table.SetRowHeight = static_cast<std::int16_t>(index + 1);
+        tab_.app.DialogResult = 1;
+    }
     Close();
 }
 

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace korvane {
 namespace {
 
@@ -79,10 +81,17 @@ TEST_F(RowHeight, TheDialogSelectsNothingForAHeightItDoesNotOffer) {
     }
 }
 
-TEST_F(RowHeight, ProceedingWithNothingChosenDeliberatelyGivesTheNumberOfAnEmptyText) {
-    Proceed([](frmSetRowHeight&) {});
-    EXPECT_EQ(t.table.SetRowHeight, 0);
-    EXPECT_EQ(t.Heights(), (Numbers{0, 0, 0}));
+TEST_F(RowHeight, ProceedingWithNothingChosenLeavesAllHeightsAsTheyAre) {
+    t.grid.SetRowHeight(Row{1}, 31);
+    for (const std::optional<std::int16_t> height : {std::optional<std::int16_t>(200), {}}) {
+        t.table.SetRowHeight = height;
+        t.table.TableAltered = 0;
+        Proceed([](frmSetRowHeight&) {});
+        EXPECT_EQ(t.table.SetRowHeight, height);
+        EXPECT_EQ(t.Heights(), (Numbers{31, 24, 24}));
+        EXPECT_EQ(t.app.DialogResult, 0);
+        EXPECT_EQ(t.table.TableAltered, 1);
+    }
 }
 
 TEST_F(RowHeight, TheMovingSliderTakesTheHeightOverAndLeavesTheRows) {
