@@ -1,8 +1,8 @@
 #include "platform/qt/services/ChoosingDialog.h"
 
 #include "SourceTree.h"
-#include "context/ListerRequest.h"
-#include "context/Ports.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/SystemFileDialog.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/services/QtFilePicker.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
