@@ -1,0 +1,15 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+namespace korvane {
+
+/// Whether the name matches one of the patterns, which semicolons separate ("*.rtf;*.doc"). "*" stands for
+/// any characters and "?" for one; case is ignored. "*.*" matches every name, one without a point too.
+bool MatchesPatterns(TextView name, TextView patterns);
+
+/// The order in which names are listed, the same on every system: by character with case ignored, and names
+/// that differ by nothing else by case.
+bool ComesBefore(TextView a, TextView b);
+
+} // namespace korvane
