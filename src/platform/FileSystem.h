@@ -7,9 +7,11 @@
 #include "platform/Volume.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace korvane {
 
@@ -21,6 +23,26 @@ public:
     virtual bool Write(std::string_view bytes) = 0;
     /// False when something written before didn't reach the disk.
     virtual bool Close() = 0;
+};
+
+/// A drive, or the one root on a disk without drives.
+struct Drive {
+    /// Its topmost folder: "C:\\", "/".
+    Text root;
+    /// As a list of drives shows it: "c: [System]", "/".
+    Text entry;
+    DriveType type = DriveType::Unknown;
+
+    bool operator==(const Drive&) const = default;
+};
+
+enum class CopyOutcome : std::uint8_t { Copied, DiskFull, Failed };
+
+struct CopyOptions {
+    /// Whether the copy has to be safe on the disk before it takes its name, since its source goes next.
+    bool flush = false;
+    /// Runs between the steps of a long copy.
+    std::function<void()> betweenSteps{};
 };
 
 /// The disk. Paths are text in the style of `Style()`; relative ones start at the current directory.
@@ -48,6 +70,36 @@ public:
     /// link stays, so that a save goes through the link.
     virtual bool Remove(TextView path) = 0;
 
+    // Folders and whole files. A disk that only reads and writes files has none of this.
+
+    /// The names of a folder's files that match the patterns, sorted by name, case ignored. Names that start
+    /// with a point are left out where that hides them. None for a folder that can't be read.
+    virtual std::vector<Text> FileNames(TextView /*folder*/, TextView /*patterns*/) const { return {}; }
+    /// The same of its folders and of links to folders.
+    virtual std::vector<Text> FolderNames(TextView /*folder*/) const { return {}; }
+    /// Whether there are any: the disk is asked for the first only.
+    virtual bool HasFolders(TextView /*folder*/) const { return false; }
+    virtual std::vector<Drive> Drives() const { return {}; }
+    virtual bool MakeDir(TextView /*path*/) { return false; }
+    /// Takes away a folder in which nothing is.
+    virtual bool RemoveDir(TextView /*path*/) { return false; }
+    /// Gives a file, folder or link another name, in another folder too. Nothing is replaced, and nothing
+    /// goes to another volume.
+    virtual bool Rename(TextView /*from*/, TextView /*to*/) { return false; }
+    /// Whether both paths lead to one file or folder that is there.
+    virtual bool IsSame(TextView /*a*/, TextView /*b*/) const { return false; }
+    virtual bool IsLink(TextView /*path*/) const { return false; }
+    /// Takes away a symbolic link and leaves what it names.
+    virtual bool RemoveLink(TextView /*path*/) { return false; }
+    /// Copies a file with its modified time and its rights, over one that is there unless that can't be
+    /// written. The copy takes the target's name when it is whole, so that a failure leaves the target as it
+    /// was: only where the disk hasn't room for both does the old target go first. A link in the target's
+    /// place is replaced, not followed. A file isn't copied onto itself, and what isn't a plain file is
+    /// neither opened nor replaced.
+    virtual CopyOutcome Copy(TextView /*from*/, TextView /*to*/, const CopyOptions& /*options*/ = {}) {
+        return CopyOutcome::Failed;
+    }
+
     virtual std::optional<std::int64_t> Size(TextView path) const = 0;
     virtual std::optional<DateTime> Modified(TextView path) const = 0;
 
@@ -55,8 +107,7 @@ public:
     /// a disk that doesn't know its volumes.
     virtual std::optional<VolumeInfo> Volume(TextView /*path*/) const { return std::nullopt; }
 
-    /// The system's words for why the last `ChangeDir`, `ReadAll`, `OpenRaw`, `OpenPrivate` or `Remove`
-    /// failed, or a write since; empty when nothing did.
+    /// The system's words for why the last step that can fail did, or a write since; empty when nothing did.
     virtual Text LastErrorText() const = 0;
 
     /// The folder of the program and of the files that ship with it.

@@ -19,6 +19,8 @@ struct VolumeInfo {
     /// The name as a search of the directory finds it: with a dot behind the eighth character when it is
     /// longer. Empty where such a search finds none.
     Text labelEntry{};
+    /// Its topmost folder: "D:\\", or where it is mounted.
+    Text root{};
     std::int64_t totalBytes = 0;
     std::int64_t freeBytes = 0;
 

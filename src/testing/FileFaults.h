@@ -9,7 +9,16 @@
 namespace korvane {
 
 /// What can be made to fail on a disk in memory.
-enum class FileStep : std::uint8_t { OpenToRead, OpenToWrite, Write, Close, Remove };
+enum class FileStep : std::uint8_t {
+    OpenToRead,
+    OpenToWrite,
+    Write,
+    Close,
+    Remove,
+    Rename,
+    MakeDir,
+    RemoveDir,
+};
 
 /// Failures to order. Each strikes once.
 class FileFaults {

@@ -37,7 +37,20 @@ std::vector<Text> WithoutSteppingUp(const std::vector<Text>& names) {
     return plain;
 }
 
+std::int64_t BytesBelow(const MemoryNode& node) {
+    auto bytes = static_cast<std::int64_t>(node.bytes.size());
+    for (const auto& [name, child] : node.children)
+        bytes += BytesBelow(*child);
+    return bytes;
+}
+
 } // namespace
+
+std::optional<std::int64_t> MemoryVolume::Room() const {
+    if (!quota) return freeBytes;
+    const std::int64_t left = std::max<std::int64_t>(*quota - BytesBelow(*root), 0);
+    return std::min(left, freeBytes.value_or(left));
+}
 
 MemoryDisk::MemoryDisk(const PathStyle& style)
     : style_(style), currentRoot_(style.HasDrives() ? DriveRoot(u'C') : Text(u"/")) {
@@ -106,9 +119,13 @@ bool MemoryDisk::ChangeDir(TextView path) {
 std::shared_ptr<MemoryNode> MemoryDisk::Put(const Place& place, MemoryNode::Kind kind) {
     auto node = std::make_shared<MemoryNode>();
     node->kind = kind;
-    node->name = place.name;
-    place.folder->children[style_.FoldedName(place.name)] = node;
+    PutBack(place, node);
     return node;
+}
+
+void MemoryDisk::PutBack(const Place& place, std::shared_ptr<MemoryNode> node) {
+    node->name = place.name;
+    place.folder->children[style_.FoldedName(place.name)] = std::move(node);
 }
 
 void MemoryDisk::Erase(const Place& place) {
@@ -127,6 +144,13 @@ void MemoryDisk::MakeDirs(TextView path) {
 
 void MemoryDisk::AddDrive(char16_t letter) {
     volumes_[DriveRoot(letter)];
+}
+
+std::vector<Text> MemoryDisk::Roots() const {
+    std::vector<Text> roots;
+    for (const auto& [root, volume] : volumes_)
+        roots.push_back(root);
+    return roots;
 }
 
 MemoryVolume* MemoryDisk::VolumeOf(TextView path) {

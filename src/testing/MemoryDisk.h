@@ -14,9 +14,10 @@
 
 namespace korvane {
 
-/// A file, folder or symbolic link of a disk in memory.
+/// A file, folder or symbolic link of a disk in memory, or a pipe, which stands for all that must not be
+/// opened.
 struct MemoryNode {
-    enum class Kind : std::uint8_t { File, Dir, Link };
+    enum class Kind : std::uint8_t { File, Dir, Link, Pipe };
 
     Kind kind = Kind::Dir;
     /// As it was written when the node was made.
@@ -42,6 +43,11 @@ struct MemoryVolume {
     bool readOnly = false;
     /// How many more bytes the volume takes; without limit when nothing is given.
     std::optional<std::int64_t> freeBytes;
+    /// How many bytes its files may hold together; without limit when nothing is given.
+    std::optional<std::int64_t> quota;
+
+    /// How many bytes more the volume takes; nothing when there is no limit.
+    std::optional<std::int64_t> Room() const;
 };
 
 enum class LastLink : std::uint8_t { Follow, Keep };
@@ -71,13 +77,20 @@ public:
 
     /// Puts a node in the place, over one that stands there.
     std::shared_ptr<MemoryNode> Put(const Place& place, MemoryNode::Kind kind);
+    /// Puts a node that was taken out of its place into this one, under its name.
+    void PutBack(const Place& place, std::shared_ptr<MemoryNode> node);
     void Erase(const Place& place);
     /// Makes the folder and those above it as far as they are missing.
     void MakeDirs(TextView path);
 
     void AddDrive(char16_t letter);
+    /// The topmost folders of the volumes.
+    std::vector<Text> Roots() const;
+    /// That of the volume that the path is on.
+    Text RootOf(TextView path) const { return Split(path).root; }
     /// The volume that a path is on; null for a drive that isn't there.
     MemoryVolume* VolumeOf(TextView path);
+    const MemoryVolume& VolumeAt(const Text& root) const { return volumes_.at(root); }
 
     const PathStyle& Style() const { return style_; }
 

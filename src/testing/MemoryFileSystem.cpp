@@ -1,5 +1,7 @@
 #include "testing/MemoryFileSystem.h"
 
+#include "common/path/FilePatterns.h"
+
 #include <algorithm>
 
 namespace korvane {
@@ -11,6 +13,15 @@ constexpr TextView kIsDirectory = u"Is a directory";
 constexpr TextView kDenied = u"Permission denied";
 constexpr TextView kReadOnlyDisk = u"Read-only file system";
 constexpr TextView kDiskFull = u"No space left on device";
+constexpr TextView kExists = u"File exists";
+constexpr TextView kNotEmpty = u"Directory not empty";
+constexpr TextView kNotDirectory = u"Not a directory";
+constexpr TextView kBusy = u"Device or resource busy";
+constexpr TextView kOtherVolume = u"Invalid cross-device link";
+constexpr TextView kNotPermitted = u"Operation not permitted";
+constexpr TextView kInvalid = u"Invalid argument";
+// No name that a test would give a file.
+constexpr TextView kUnfinishedCopy = u".korvane-copy";
 
 bool IsKind(const MemoryDisk::Place& place, MemoryNode::Kind kind) {
     return place.node && place.node->kind == kind;
@@ -22,6 +33,22 @@ bool IsFile(const MemoryDisk::Place& place) {
 
 bool IsDir(const MemoryDisk::Place& place) {
     return IsKind(place, MemoryNode::Kind::Dir);
+}
+
+bool IsFileLike(const MemoryDisk::Place& place) {
+    return IsFile(place) || IsKind(place, MemoryNode::Kind::Pipe);
+}
+
+bool Holds(const MemoryNode& folder, const MemoryNode* node) {
+    return &folder == node || std::ranges::any_of(folder.children, [node](const auto& child) {
+        return Holds(*child.second, node);
+    });
+}
+
+/// "c: [System]", or "c:" where there is no medium's name.
+Text DriveEntry(const Text& root, const VolumeInfo& info) {
+    Text entry{static_cast<char16_t>(root[0] + 0x20), u':'};
+    return info.name.empty() ? entry : entry + u" [" + info.name + u"]";
 }
 
 SharedBytes Share(std::string_view bytes) {
@@ -65,7 +92,7 @@ MemoryFileSystem::MemoryFileSystem(const PathStyle& style, const Clock& clock) :
 }
 
 bool MemoryFileSystem::FileExists(TextView path) const {
-    return IsFile(Find(path));
+    return IsFileLike(Find(path));
 }
 
 bool MemoryFileSystem::DirExists(TextView path) const {
@@ -111,6 +138,7 @@ std::unique_ptr<FileWriter> MemoryFileSystem::Open(TextView path, bool makePriva
 
 bool MemoryFileSystem::CanOpenToWrite(const Place& place) {
     if (IsDir(place)) return Fail(kIsDirectory);
+    if (IsKind(place, MemoryNode::Kind::Pipe)) return Fail(kNotPermitted);
     if (!place.node && !place.folder) return Fail(kNotFound);
     if (place.volume->readOnly) return Fail(kReadOnlyDisk);
     if (place.node && place.node->readOnly) return Fail(kDenied);
@@ -134,6 +162,7 @@ bool MemoryFileSystem::Remove(TextView path) {
 bool MemoryFileSystem::CanRemove(const Place& place, const Place& target) {
     if (!place.node || !target.node) return Fail(kNotFound);
     if (IsDir(target)) return Fail(kIsDirectory);
+    if (!IsFile(target)) return Fail(kNotPermitted);
     if (target.volume->readOnly) return Fail(kReadOnlyDisk);
     if (target.node->readOnly) return Fail(kDenied);
     return true;
@@ -155,8 +184,161 @@ std::optional<VolumeInfo> MemoryFileSystem::Volume(TextView path) const {
     const MemoryVolume* volume = disk_.VolumeOf(path);
     if (volume == nullptr) return std::nullopt;
     VolumeInfo info = volume->info;
-    info.freeBytes = volume->freeBytes.value_or(info.freeBytes);
+    info.root = disk_.RootOf(path);
+    info.freeBytes = volume->Room().value_or(info.freeBytes);
+    info.totalBytes = volume->quota.value_or(info.totalBytes);
     return info;
+}
+
+std::vector<Text> MemoryFileSystem::Names(TextView folder,
+                                          const std::function<bool(const Place&)>& wanted) const {
+    std::vector<Text> names;
+    const Place place = Find(folder);
+    if (!IsDir(place)) return names;
+    for (const auto& [key, child] : place.node->children) {
+        const bool hidden = !Style().HasDrives() && child->name.starts_with(u'.');
+        if (!hidden && wanted(Find(Style().JoinPath(folder, child->name)))) names.push_back(child->name);
+    }
+    std::ranges::sort(names, ComesBefore);
+    return names;
+}
+
+std::vector<Text> MemoryFileSystem::FileNames(TextView folder, TextView patterns) const {
+    std::vector<Text> names = Names(folder, [](const Place& place) { return !IsDir(place); });
+    std::erase_if(names, [patterns](const Text& name) { return !MatchesPatterns(name, patterns); });
+    return names;
+}
+
+std::vector<Text> MemoryFileSystem::FolderNames(TextView folder) const {
+    return Names(folder, [](const Place& place) { return IsDir(place); });
+}
+
+std::vector<Drive> MemoryFileSystem::Drives() const {
+    std::vector<Drive> drives;
+    for (const Text& root : disk_.Roots()) {
+        const VolumeInfo& info = disk_.VolumeAt(root).info;
+        drives.push_back({root, Style().HasDrives() ? DriveEntry(root, info) : root, info.type});
+    }
+    return drives;
+}
+
+bool MemoryFileSystem::CanMake(const Place& place) {
+    if (place.node) return Fail(kExists);
+    if (!place.folder) return Fail(kNotFound);
+    if (place.volume->readOnly) return Fail(kReadOnlyDisk);
+    return true;
+}
+
+bool MemoryFileSystem::MakeDir(TextView path) {
+    if (Strikes(FileStep::MakeDir)) return false;
+    const Place place = Find(path, LastLink::Keep);
+    if (!CanMake(place)) return false;
+    disk_.Put(place, MemoryNode::Kind::Dir)->modified = clock_.Now();
+    return Succeed();
+}
+
+bool MemoryFileSystem::RemoveDir(TextView path) {
+    if (Strikes(FileStep::RemoveDir)) return false;
+    const Place place = Find(path, LastLink::Keep);
+    if (!place.node) return Fail(kNotFound);
+    if (!IsDir(place)) return Fail(kNotDirectory);
+    if (!place.folder) return Fail(kBusy);
+    if (!place.node->children.empty()) return Fail(kNotEmpty);
+    if (place.volume->readOnly) return Fail(kReadOnlyDisk);
+    disk_.Erase(place);
+    return Succeed();
+}
+
+bool MemoryFileSystem::Rename(TextView from, TextView to) {
+    if (Strikes(FileStep::Rename)) return false;
+    const Place source = Find(from, LastLink::Keep);
+    const Place target = Find(to, LastLink::Keep);
+    if (!source.node) return Fail(kNotFound);
+    if (!source.folder) return Fail(kBusy);
+    if (!CanMake(target)) return false;
+    if (source.volume != target.volume) return Fail(kOtherVolume);
+    if (Holds(*source.node, target.folder.get())) return Fail(kInvalid);
+    disk_.Erase(source);
+    disk_.PutBack(target, source.node);
+    return Succeed();
+}
+
+bool MemoryFileSystem::IsSame(TextView a, TextView b) const {
+    const Place placeA = Find(a);
+    return placeA.node && placeA.node == Find(b).node;
+}
+
+bool MemoryFileSystem::RemoveLink(TextView path) {
+    if (Strikes(FileStep::Remove)) return false;
+    const Place place = Find(path, LastLink::Keep);
+    if (!place.node) return Fail(kNotFound);
+    if (!IsKind(place, MemoryNode::Kind::Link)) return Fail(kInvalid);
+    if (place.volume->readOnly) return Fail(kReadOnlyDisk);
+    disk_.Erase(place);
+    return Succeed();
+}
+
+CopyOutcome MemoryFileSystem::Copy(TextView from, TextView to, const CopyOptions& options) {
+    Vanish(from);
+    if (Strikes(FileStep::OpenToRead)) return CopyOutcome::Failed;
+    const Place source = Find(from);
+    const Place place = Find(to, LastLink::Keep);
+    if (!CanCopy(source, place, Find(to)) || Strikes(FileStep::OpenToWrite)) return CopyOutcome::Failed;
+    const CopyOutcome outcome = CopyBeside(source, place, options);
+    if (outcome != CopyOutcome::DiskFull || !HasRoomInstead(source, place)) return outcome;
+    disk_.Erase(place);
+    return CopyBeside(source, {place.volume, place.folder, place.name, nullptr}, options);
+}
+
+bool MemoryFileSystem::CanCopy(const Place& source, const Place& place, const Place& target) {
+    if (!source.node || !place.folder) return Fail(kNotFound);
+    if (IsDir(source) || IsDir(target)) return Fail(kIsDirectory);
+    if (!IsFile(source) || IsKind(target, MemoryNode::Kind::Pipe)) return Fail(kNotPermitted);
+    const bool ontoItself = source.node == target.node;
+    const bool overNothing = place.node && !target.node;
+    if (ontoItself || overNothing) return Fail(kExists);
+    if (place.volume->readOnly) return Fail(kReadOnlyDisk);
+    if (target.node && target.node->readOnly) return Fail(kDenied);
+    return true;
+}
+
+/// Whether the copy fits once the file in its place is gone.
+bool MemoryFileSystem::HasRoomInstead(const Place& source, const Place& place) {
+    if (!IsFile(place)) return false;
+    const auto room = place.volume->Room().value_or(0) + static_cast<std::int64_t>(place.node->bytes.size());
+    return static_cast<std::int64_t>(source.node->bytes.size()) <= room;
+}
+
+/// The place's own node is still there when the copy can't be finished.
+CopyOutcome MemoryFileSystem::CopyBeside(const Place& source, const Place& place,
+                                         const CopyOptions& options) {
+    Place unfinished{place.volume, place.folder, Text(kUnfinishedCopy), nullptr};
+    const auto copy = unfinished.node = disk_.Put(unfinished, MemoryNode::Kind::File);
+    CopyOutcome outcome = FillCopy(unfinished, source, options);
+    if (outcome == CopyOutcome::Copied && (Strikes(FileStep::Close) || Strikes(FileStep::Rename)))
+        outcome = CopyOutcome::Failed;
+    disk_.Erase(unfinished);
+    const bool nameWasTaken = !place.node && place.folder->children.contains(Style().FoldedName(place.name));
+    if (outcome == CopyOutcome::Copied && nameWasTaken && !Fail(kExists)) outcome = CopyOutcome::Failed;
+    if (outcome != CopyOutcome::Copied) return outcome;
+    copy->modified = source.node->modified;
+    copy->readOnly = source.node->readOnly;
+    copy->isPrivate = source.node->isPrivate;
+    disk_.PutBack(place, copy);
+    Succeed();
+    return outcome;
+}
+
+CopyOutcome MemoryFileSystem::FillCopy(const Place& copy, const Place& source, const CopyOptions& options) {
+    std::string_view rest = source.node->bytes;
+    while (!rest.empty()) {
+        if (Strikes(FileStep::Write)) return CopyOutcome::Failed;
+        const std::string_view step = rest.substr(0, kBytesInStep);
+        if (!Append(*copy.node, *copy.volume, step)) return CopyOutcome::DiskFull;
+        rest.remove_prefix(step.size());
+        if (!rest.empty() && options.betweenSteps) options.betweenSteps();
+    }
+    return CopyOutcome::Copied;
 }
 
 void MemoryFileSystem::AddFile(TextView path, std::string_view bytes) {
@@ -170,6 +352,11 @@ void MemoryFileSystem::AddFile(TextView path, std::string_view bytes) {
 void MemoryFileSystem::AddLink(TextView path, TextView target) {
     const Place place = MakePlace(path);
     if (place.folder) disk_.Put(place, MemoryNode::Kind::Link)->target = target;
+}
+
+void MemoryFileSystem::AddPipe(TextView path) {
+    const Place place = MakePlace(path);
+    if (place.folder) disk_.Put(place, MemoryNode::Kind::Pipe);
 }
 
 void MemoryFileSystem::SetFileReadOnly(TextView path, bool readOnly) {
@@ -203,6 +390,10 @@ void MemoryFileSystem::Erase(TextView path) {
 
 void MemoryFileSystem::SetFreeBytes(std::int64_t bytes, TextView path) {
     if (MemoryVolume* volume = disk_.VolumeOf(path)) volume->freeBytes = bytes;
+}
+
+void MemoryFileSystem::SetQuota(std::int64_t bytes, TextView path) {
+    if (MemoryVolume* volume = disk_.VolumeOf(path)) volume->quota = bytes;
 }
 
 void MemoryFileSystem::SetDiskReadOnly(bool readOnly, TextView path) {
@@ -261,7 +452,7 @@ void MemoryFileSystem::Vanish(TextView path) {
 /// Writes as much as the volume takes.
 bool MemoryFileSystem::Append(MemoryNode& file, MemoryVolume& volume, std::string_view bytes) {
     const auto size = static_cast<std::int64_t>(bytes.size());
-    const std::int64_t taken = std::min(size, volume.freeBytes.value_or(size));
+    const std::int64_t taken = std::min(size, volume.Room().value_or(size));
     file.bytes += bytes.substr(0, static_cast<std::size_t>(taken));
     file.modified = clock_.Now();
     if (volume.freeBytes) *volume.freeBytes -= taken;

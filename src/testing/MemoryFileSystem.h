@@ -28,6 +28,18 @@ public:
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
     bool Remove(TextView path) override;
+    std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
+    std::vector<Text> FolderNames(TextView folder) const override;
+    bool HasFolders(TextView folder) const override { return !FolderNames(folder).empty(); }
+    std::vector<Drive> Drives() const override;
+    bool MakeDir(TextView path) override;
+    bool RemoveDir(TextView path) override;
+    bool Rename(TextView from, TextView to) override;
+    bool IsSame(TextView a, TextView b) const override;
+    bool IsLink(TextView path) const override;
+    bool RemoveLink(TextView path) override;
+    /// Takes a step for each `kBytesInStep` of the file.
+    CopyOutcome Copy(TextView from, TextView to, const CopyOptions& options = {}) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;
@@ -41,9 +53,14 @@ public:
     /// What is told of the drive that the path is on; a fixed one without a name until it is set.
     void SetVolume(TextView path, const VolumeInfo& info);
     void AddDir(TextView path) { disk_.MakeDirs(path); }
+    /// What a copy takes at once.
+    static constexpr std::size_t kBytesInStep = 1024;
+
     /// Makes the file or replaces it.
     void AddFile(TextView path, std::string_view bytes = {});
     void AddLink(TextView path, TextView target);
+    /// Puts there what must not be opened: a pipe, a socket. Opening it fails.
+    void AddPipe(TextView path);
     void SetFileReadOnly(TextView path, bool readOnly = true);
     void SetModified(TextView path, const DateTime& time);
     void SetProgramDir(TextView path);
@@ -56,6 +73,8 @@ public:
     FileFaults& Faults() { return faults_; }
     /// The disk of the path (the current one when it is empty) takes so many more bytes and then is full.
     void SetFreeBytes(std::int64_t bytes, TextView path = {});
+    /// The files on the disk of the path (the current one when it is empty) may hold so many bytes together.
+    void SetQuota(std::int64_t bytes, TextView path = {});
     /// Nothing on the disk of the path (the current one when it is empty) can be written or removed.
     void SetDiskReadOnly(bool readOnly = true, TextView path = {});
     /// The file goes away just before it is opened the next time, behind the back of who has tested for it.
@@ -65,7 +84,6 @@ public:
 
     /// The bytes of the file, also behind a link; nothing when there is no file.
     std::optional<std::string> Contents(TextView path) const;
-    bool IsLink(TextView path) const;
     /// Whether only its owner may read the file.
     bool IsPrivate(TextView path) const;
 
@@ -82,6 +100,12 @@ private:
     std::unique_ptr<FileWriter> Open(TextView path, bool makePrivate);
     bool CanOpenToWrite(const Place& place);
     bool CanRemove(const Place& place, const Place& target);
+    std::vector<Text> Names(TextView folder, const std::function<bool(const Place&)>& wanted) const;
+    bool CanMake(const Place& place);
+    bool CanCopy(const Place& source, const Place& place, const Place& target);
+    static bool HasRoomInstead(const Place& source, const Place& place);
+    CopyOutcome FillCopy(const Place& copy, const Place& source, const CopyOptions& options);
+    CopyOutcome CopyBeside(const Place& source, const Place& place, const CopyOptions& options);
     bool Append(MemoryNode& file, MemoryVolume& volume, std::string_view bytes);
 
     // Looking up a path changes nothing, but hands out what can be changed.

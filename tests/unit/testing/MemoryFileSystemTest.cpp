@@ -353,14 +353,15 @@ TEST_F(PosixDisk, AFileCanVanishBetweenTestAndOpen) {
 TEST(MemoryVolumes, AreFixedWithoutANameUntilTheyAreSet) {
     const MemoryClock clock;
     MemoryFileSystem files(PathStyle::Windows, clock);
-    EXPECT_EQ(files.Volume(u"C:\\Data"), (VolumeInfo{.type = DriveType::Fixed}));
+    EXPECT_EQ(files.Volume(u"C:\\Data"), (VolumeInfo{.type = DriveType::Fixed, .root = u"C:\\"}));
     EXPECT_EQ(files.Volume(u"D:\\"), std::nullopt);
 
     files.AddDrive(u'D');
-    const VolumeInfo disc{.type = DriveType::CdRom, .ready = false, .name = u"Music", .totalBytes = 700};
+    const VolumeInfo disc{
+        .type = DriveType::CdRom, .ready = false, .name = u"Music", .root = u"D:\\", .totalBytes = 700};
     files.SetVolume(u"D:\\", disc);
     EXPECT_EQ(files.Volume(u"D:\\x"), disc);
-    EXPECT_EQ(files.Volume(u"C:\\"), (VolumeInfo{.type = DriveType::Fixed}));
+    EXPECT_EQ(files.Volume(u"C:\\"), (VolumeInfo{.type = DriveType::Fixed, .root = u"C:\\"}));
 }
 
 TEST(MemoryVolumes, TellTheFreeBytesThatADiskStillTakes) {
