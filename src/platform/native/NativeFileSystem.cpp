@@ -1,10 +1,14 @@
 #include "platform/native/NativeFileSystem.h"
 
+#include "common/path/FilePatterns.h"
+#include "platform/native/FileCopy.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/NativeVolume.h"
 #include "platform/native/ReadFile.h"
 #include "platform/native/SystemFile.h"
+
+#include <algorithm>
 
 namespace korvane {
 
@@ -31,6 +35,39 @@ fs::path WithoutDetours(const fs::path& path) {
         }
     }
     return plain.make_preferred();
+}
+
+/// On a system without hidden attributes, names that start with a point are hidden.
+bool IsHidden(const fs::path& path) {
+    return fs::path::preferred_separator == '/' && path.filename().native().front() == '.';
+}
+
+/// Goes over the folder's entries that aren't hidden until `take` says false.
+template <class TakeT>
+void ForEachEntry(const fs::path& folder, TakeT take) {
+    std::error_code error;
+    fs::directory_iterator entry(folder, error);
+    while (!error && entry != fs::directory_iterator()) {
+        if (!IsHidden(entry->path()) && !take(*entry)) return;
+        entry.increment(error);
+    }
+}
+
+bool IsFolder(const fs::directory_entry& entry) {
+    std::error_code error;
+    return entry.is_directory(error);
+}
+
+template <class WantedT>
+std::vector<Text> SortedNames(TextView folder, WantedT wanted) {
+    std::vector<Text> names;
+    ForEachEntry(ToNativePath(folder), [&](const fs::directory_entry& entry) {
+        Text name = FromNativePath(entry.path().filename());
+        if (wanted(entry, name)) names.push_back(std::move(name));
+        return true;
+    });
+    std::ranges::sort(names, ComesBefore);
+    return names;
 }
 
 } // namespace
@@ -156,6 +193,74 @@ bool NativeFileSystem::Empty(const fs::path& path) {
 
 std::optional<system_calls::FileRights> NativeFileSystem::RightsToRestore(const fs::path& path) const {
     return path == removed_.path ? removed_.rights : std::nullopt;
+}
+
+std::vector<Text> NativeFileSystem::FileNames(TextView folder, TextView patterns) const {
+    return SortedNames(folder, [patterns](const fs::directory_entry& entry, const Text& name) {
+        return MatchesPatterns(name, patterns) && !IsFolder(entry);
+    });
+}
+
+std::vector<Text> NativeFileSystem::FolderNames(TextView folder) const {
+    return SortedNames(folder, [](const fs::directory_entry& entry, const Text&) { return IsFolder(entry); });
+}
+
+bool NativeFileSystem::HasFolders(TextView folder) const {
+    bool found = false;
+    ForEachEntry(ToNativePath(folder), [&found](const fs::directory_entry& entry) {
+        found = IsFolder(entry);
+        return !found;
+    });
+    return found;
+}
+
+std::vector<Drive> NativeFileSystem::Drives() const {
+    return ListDrives();
+}
+
+bool NativeFileSystem::MakeDir(TextView path) {
+    const bool made = fs::create_directory(ToNativePath(path), lastError_);
+    if (!made && !lastError_) lastError_ = std::make_error_code(std::errc::file_exists);
+    return made;
+}
+
+bool NativeFileSystem::RemoveDir(TextView path) {
+    const fs::path native = ToNativePath(path);
+    const fs::file_status status = fs::symlink_status(native, lastError_);
+    if (lastError_) return false;
+    if (!fs::is_directory(status)) {
+        lastError_ = std::make_error_code(std::errc::not_a_directory);
+        return false;
+    }
+    return fs::remove(native, lastError_);
+}
+
+bool NativeFileSystem::Rename(TextView from, TextView to) {
+    lastError_ = RenameToFree(ToNativePath(from), ToNativePath(to));
+    return !lastError_;
+}
+
+bool NativeFileSystem::IsSame(TextView a, TextView b) const {
+    std::error_code error;
+    return fs::equivalent(ToNativePath(a), ToNativePath(b), error) && !error;
+}
+
+bool NativeFileSystem::IsLink(TextView path) const {
+    std::error_code error;
+    return fs::is_symlink(ToNativePath(path), error);
+}
+
+bool NativeFileSystem::RemoveLink(TextView path) {
+    const fs::path native = ToNativePath(path);
+    const bool isLink = fs::is_symlink(native, lastError_);
+    if (!isLink && !lastError_) lastError_ = std::make_error_code(std::errc::invalid_argument);
+    return isLink && fs::remove(native, lastError_);
+}
+
+CopyOutcome NativeFileSystem::Copy(TextView from, TextView to, const CopyOptions& options) {
+    lastError_ = CopyPlainFile(ToNativePath(from), ToNativePath(to), options);
+    if (!lastError_) return CopyOutcome::Copied;
+    return IsDiskFull(lastError_) ? CopyOutcome::DiskFull : CopyOutcome::Failed;
 }
 
 std::optional<std::int64_t> NativeFileSystem::Size(TextView path) const {

@@ -28,6 +28,17 @@ public:
     /// Of the rights that a file had, its owner's stay.
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
     bool Remove(TextView path) override;
+    std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
+    std::vector<Text> FolderNames(TextView folder) const override;
+    bool HasFolders(TextView folder) const override;
+    std::vector<Drive> Drives() const override;
+    bool MakeDir(TextView path) override;
+    bool RemoveDir(TextView path) override;
+    bool Rename(TextView from, TextView to) override;
+    bool IsSame(TextView a, TextView b) const override;
+    bool IsLink(TextView path) const override;
+    bool RemoveLink(TextView path) override;
+    CopyOutcome Copy(TextView from, TextView to, const CopyOptions& options = {}) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;

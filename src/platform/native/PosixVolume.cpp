@@ -23,7 +23,8 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     const fs::path plain = fs::weakly_canonical(fs::absolute(path, error), error);
     // Where the root is a folder of another system, the table doesn't name it.
     const Mount mount = MountOf(MountTable(), plain.native()).value_or(Mount{"/", ""});
-    VolumeInfo info{.type = TypeOf(mount), .name = FromNativePath(NameOf(mount))};
+    VolumeInfo info{
+        .type = TypeOf(mount), .name = FromNativePath(NameOf(mount)), .root = FromNativePath(mount.point)};
     const fs::space_info space = fs::space(mount.point, error);
     if (error) {
         info.ready = false;
@@ -32,6 +33,11 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     info.totalBytes = static_cast<std::int64_t>(space.capacity);
     info.freeBytes = static_cast<std::int64_t>(space.available);
     return info;
+}
+
+std::vector<Drive> ListDrives() {
+    // What is mounted stands in this one tree, where the user looks for it.
+    return {{u"/", u"/", DriveType::Fixed}};
 }
 
 } // namespace korvane

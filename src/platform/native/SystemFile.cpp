@@ -28,6 +28,11 @@ SystemFile SystemFile::OpenToWrite(const fs::path& path,
 SystemFile::SystemFile(SystemFile&& other) noexcept
     : file_(std::exchange(other.file_, system_calls::kNoFile)) {}
 
+SystemFile& SystemFile::operator=(SystemFile&& other) noexcept {
+    std::swap(file_, other.file_);
+    return *this;
+}
+
 SystemFile::~SystemFile() {
     if (IsOpen()) system_calls::Close(file_);
 }

@@ -13,6 +13,8 @@ namespace korvane {
 /// An open file without a buffer of its own. Closes itself.
 class SystemFile {
 public:
+    /// Takes over an open file, or is none.
+    explicit SystemFile(int file = system_calls::kNoFile) : file_(file) {}
     /// Not open, with the reason in `error`, when it can't be.
     static SystemFile OpenToRead(const std::filesystem::path& path, std::error_code& error);
     static SystemFile OpenToWrite(const std::filesystem::path& path,
@@ -20,10 +22,11 @@ public:
                                   std::error_code& error);
 
     SystemFile(SystemFile&& other) noexcept;
-    SystemFile& operator=(SystemFile&& other) = delete;
+    SystemFile& operator=(SystemFile&& other) noexcept;
     ~SystemFile();
 
     bool IsOpen() const { return file_ != system_calls::kNoFile; }
+    int Number() const { return file_; }
     /// 0 for what has no size, such as a pipe.
     std::size_t Size() const { return system_calls::SizeOf(file_); }
     /// The number of bytes read: fewer than `size` only at the end and after an error.

@@ -61,7 +61,7 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     if (driveType == DRIVE_NO_ROOT_DIR) return std::nullopt;
     Buffer name{};
     const auto size = static_cast<DWORD>(name.size());
-    VolumeInfo info{.type = TypeOf(driveType)};
+    VolumeInfo info{.type = TypeOf(driveType), .root = FromNativePath(root)};
     info.ready =
         GetVolumeInformationW(root.c_str(), name.data(), size, nullptr, nullptr, nullptr, nullptr, 0) != 0;
     info.name = FromNativePath(name.data());
@@ -71,6 +71,22 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     info.totalBytes = static_cast<std::int64_t>(total.QuadPart);
     info.freeBytes = static_cast<std::int64_t>(available.QuadPart);
     return info;
+}
+
+std::vector<Drive> ListDrives() {
+    std::vector<Drive> drives;
+    const DWORD letters = GetLogicalDrives();
+    for (int index = 0; index < 26; ++index) {
+        if ((letters & (DWORD{1} << index)) == 0) continue;
+        const auto letter = static_cast<char16_t>(u'a' + index);
+        const Text root{static_cast<char16_t>(u'A' + index), u':', u'\\'};
+        // Only the names of fixed disks: another drive would have to start up to tell its own.
+        const DriveType type = TypeOf(GetDriveTypeW(ToNativePath(root).c_str()));
+        const Text name = type == DriveType::Fixed ? VolumeAt(ToNativePath(root))->name : Text();
+        const Text entry = Text{letter, u':'} + (name.empty() ? Text() : u" [" + name + u"]");
+        drives.push_back({root, entry, type});
+    }
+    return drives;
 }
 
 } // namespace korvane

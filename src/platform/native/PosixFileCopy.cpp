@@ -1,0 +1,264 @@
+#include "platform/native/FileCopy.h"
+#include "platform/native/SystemFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <string>
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// So much of a file at once that a slow stick takes about a second, in which the user waits for an answer.
+constexpr std::size_t kStep = std::size_t{4} << 20;
+/// Up to here reading and writing costs less than asking the system to copy.
+constexpr std::int64_t kSmallFile = 64 * 1024;
+constexpr std::size_t kBuffer = 256 * 1024;
+constexpr mode_t kRightsBits = 0777;
+constexpr mode_t kGroupBits = 0070;
+constexpr mode_t kOthersBits = 0007;
+
+std::error_code Error(std::errc error) {
+    return std::make_error_code(error);
+}
+
+/// What a call left behind that gives 0 when all is well.
+std::error_code ErrorOf(int result) {
+    return result == 0 ? std::error_code() : LastSystemError();
+}
+
+/// Copies what is left of one open file to another, step by step.
+class Pump {
+public:
+    Pump(int from, int to, bool small) : from_(from), to_(to), kernelCopies_(!small) {}
+
+    /// The number of bytes copied, 0 at the end, -1 with the reason in `errno`.
+    std::ptrdiff_t Step() {
+        for (;;) {
+            const std::ptrdiff_t count = kernelCopies_ ? KernelStep() : BufferStep();
+            if (count >= 0 || errno != EINTR) return count;
+        }
+    }
+
+private:
+    std::ptrdiff_t KernelStep() {
+        const std::ptrdiff_t count = copy_file_range(from_, nullptr, to_, nullptr, kStep, 0);
+        // Not between these two disks; and a file without a size of its own looks empty to this call.
+        if (count == 0 || (count < 0 && IsRefusal(errno))) {
+            kernelCopies_ = false;
+            return BufferStep();
+        }
+        return count;
+    }
+
+    static bool IsRefusal(int error) {
+        return error == EXDEV || error == EINVAL || error == ENOSYS || error == EOPNOTSUPP ||
+               error == EPERM || error == EBADF;
+    }
+
+    std::ptrdiff_t BufferStep() {
+        if (!buffer_) buffer_ = std::make_unique_for_overwrite<char[]>(kBuffer);
+        const std::ptrdiff_t count = read(from_, buffer_.get(), kBuffer);
+        for (std::ptrdiff_t done = 0; done < count;) {
+            const std::ptrdiff_t written =
+                write(to_, buffer_.get() + done, static_cast<std::size_t>(count - done));
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) return -1;
+            done += written;
+        }
+        return count;
+    }
+
+    int from_;
+    int to_;
+    bool kernelCopies_;
+    std::unique_ptr<char[]> buffer_;
+};
+
+/// Rights of a group that the copy isn't in are not handed to the group that it is in.
+mode_t RightsForCopy(const struct stat& source, const struct stat& copy) {
+    const mode_t mode = source.st_mode & kRightsBits;
+    if (source.st_gid == copy.st_gid) return mode;
+    const mode_t everybody = mode & kOthersBits;
+    return (mode & ~kGroupBits) | (mode & (everybody << 3));
+}
+
+std::error_code FlushFolder(const fs::path& folder) {
+    const SystemFile file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!file.IsOpen()) return LastSystemError();
+    // Not every disk knows how to.
+    return fsync(file.Number()) == 0 || errno == EINVAL ? std::error_code() : LastSystemError();
+}
+
+/// One copy on its way.
+class PlainFileCopy {
+public:
+    PlainFileCopy(const fs::path& from, const fs::path& to, const CopyOptions& options)
+        : from_(from),
+          to_(to),
+          folder_(to.has_parent_path() ? to.parent_path() : fs::path(".")),
+          options_(options) {}
+
+    std::error_code Run() {
+        std::error_code error = OpenSource();
+        if (!error) error = LookAtTarget();
+        if (error) return error;
+        error = HasRoomBeside() ? CopyBeside() : Error(std::errc::no_space_on_device);
+        return IsDiskFull(error) && HasRoomInstead() ? CopyInstead() : error;
+    }
+
+private:
+    std::error_code OpenSource() {
+        // Before it is opened: opening a pipe waits for who writes into it.
+        if (stat(from_.c_str(), &source_) != 0) return LastSystemError();
+        if (!S_ISREG(source_.st_mode))
+            return Error(S_ISDIR(source_.st_mode) ? std::errc::is_a_directory
+                                                  : std::errc::operation_not_permitted);
+        sourceFile_ = SystemFile(open(from_.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        return sourceFile_.IsOpen() ? std::error_code() : LastSystemError();
+    }
+
+    std::error_code LookAtTarget() {
+        struct stat own {};
+        isThere_ = lstat(to_.c_str(), &own) == 0;
+        if (!isThere_) return errno == ENOENT ? std::error_code() : LastSystemError();
+        isLink_ = S_ISLNK(own.st_mode);
+        // Behind a link to nothing, a file would be made where nobody asked for one.
+        if (stat(to_.c_str(), &target_) != 0) return Error(std::errc::file_exists);
+        if (S_ISDIR(target_.st_mode)) return Error(std::errc::is_a_directory);
+        if (!S_ISREG(target_.st_mode)) return Error(std::errc::operation_not_permitted);
+        if (target_.st_dev == source_.st_dev && target_.st_ino == source_.st_ino)
+            return Error(std::errc::file_exists);
+        return system_calls::IsWritable(to_) ? std::error_code() : LastSystemError();
+    }
+
+    std::int64_t Room() const {
+        struct statvfs space {};
+        const bool known = statvfs(folder_.c_str(), &space) == 0 && space.f_blocks != 0;
+        if (!known) return source_.st_size;
+        return static_cast<std::int64_t>(space.f_bavail) * static_cast<std::int64_t>(space.f_frsize);
+    }
+
+    /// Asked only where a target would be in the way: a new file simply fails when the disk is full.
+    bool HasRoomBeside() const { return !isThere_ || source_.st_size <= Room(); }
+
+    /// Whether the copy fits once the target is gone. A link gives no room, nor does a file that keeps other
+    /// names, whose bytes aren't only the target's.
+    bool HasRoomInstead() const {
+        constexpr int kBlock = 512;
+        if (!isThere_ || isLink_ || target_.st_nlink != 1) return false;
+        return source_.st_size <= Room() + static_cast<std::int64_t>(target_.st_blocks) * kBlock;
+    }
+
+    /// Makes the file that is the copy until it is whole, for the user alone.
+    bool MakeUnfinished() {
+        std::string name = (folder_ / ".korvane-XXXXXX").native();
+        copyFile_ = SystemFile(mkostemp(name.data(), O_CLOEXEC));
+        copy_ = name;
+        return copyFile_.IsOpen();
+    }
+
+    std::error_code CopyBeside() { return MakeUnfinished() ? Complete() : LastSystemError(); }
+
+    /// The target itself becomes the unfinished copy, so that its name never stands for half a file.
+    std::error_code CopyInstead() {
+        if (!MakeUnfinished()) return LastSystemError();
+        if (rename(to_.c_str(), copy_.c_str()) != 0) return GiveUp(LastSystemError());
+        isThere_ = false;
+        copyFile_ = SystemFile(open(copy_.c_str(), O_WRONLY | O_TRUNC | O_NOFOLLOW | O_CLOEXEC));
+        if (!copyFile_.IsOpen()) return GiveUp(LastSystemError());
+        lseek(sourceFile_.Number(), 0, SEEK_SET);
+        return Complete();
+    }
+
+    std::error_code Complete() {
+        std::error_code error = Fill();
+        if (!error) error = Finish();
+        return error ? GiveUp(error) : error;
+    }
+
+    std::error_code GiveUp(const std::error_code& error) {
+        // An open file would keep its room on the disk.
+        copyFile_ = SystemFile();
+        unlink(copy_.c_str());
+        return error;
+    }
+
+    std::error_code Fill() {
+        Pump pump(sourceFile_.Number(), copyFile_.Number(), source_.st_size <= kSmallFile);
+        std::int64_t copied = 0;
+        for (;;) {
+            const std::ptrdiff_t count = pump.Step();
+            if (count < 0) return LastSystemError();
+            if (count == 0) return {};
+            copied += count;
+            if (copied < source_.st_size && options_.betweenSteps) options_.betweenSteps();
+        }
+    }
+
+    std::error_code Finish() {
+        KeepRightsAndTimes();
+        // The old target goes when the copy takes its name, and the source may go next.
+        const bool flush = options_.flush || isThere_;
+        std::error_code error = flush ? ErrorOf(fsync(copyFile_.Number())) : std::error_code();
+        if (!error) copyFile_.Close(error);
+        if (!error) error = isThere_ ? ErrorOf(rename(copy_.c_str(), to_.c_str())) : RenameToFree(copy_, to_);
+        return error || !options_.flush ? error : FlushFolder(folder_);
+    }
+
+    /// As far as the disk knows rights and times.
+    void KeepRightsAndTimes() const {
+        struct stat copy {};
+        const std::array times{source_.st_atim, source_.st_mtim};
+        futimens(copyFile_.Number(), times.data());
+        if (fstat(copyFile_.Number(), &copy) != 0) return;
+        [[maybe_unused]] const int result = fchmod(copyFile_.Number(), RightsForCopy(source_, copy));
+    }
+
+    const fs::path& from_;
+    const fs::path& to_;
+    fs::path folder_;
+    const CopyOptions& options_;
+    struct stat source_ {};
+    struct stat target_ {};
+    /// Whether there is something to replace, and whether that is a link.
+    bool isThere_ = false;
+    bool isLink_ = false;
+    fs::path copy_;
+    SystemFile sourceFile_;
+    SystemFile copyFile_;
+};
+
+} // namespace
+
+std::error_code CopyPlainFile(const fs::path& from, const fs::path& to, const CopyOptions& options) {
+    return PlainFileCopy(from, to, options).Run();
+}
+
+bool IsDiskFull(const std::error_code& error) {
+    return error == std::errc::no_space_on_device ||
+           error == std::error_code(EDQUOT, std::generic_category());
+}
+
+std::error_code RenameToFree(const fs::path& from, const fs::path& to) {
+#ifdef RENAME_NOREPLACE
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
+    if (errno != EINVAL && errno != ENOSYS) return LastSystemError();
+#endif
+    // A disk that can't do both at once. A folder into itself is refused here once more.
+    struct stat status {};
+    if (lstat(to.c_str(), &status) == 0) return Error(std::errc::file_exists);
+    return ErrorOf(rename(from.c_str(), to.c_str()));
+}
+
+} // namespace korvane
