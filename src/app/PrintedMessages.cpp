@@ -10,6 +10,7 @@ Answer PrintedMessages::Show(const Message& message) {
     case MessageButtons::YesNo:
         return Answer::No;
     case MessageButtons::YesNoCancel:
+    case MessageButtons::OkCancel:
         return Answer::Cancel;
     case MessageButtons::Ok:
         break;

@@ -8,7 +8,7 @@
 namespace korvane {
 
 enum class MessageIcon : std::uint8_t { None, Information, Question, Exclamation, Stop };
-enum class MessageButtons : std::uint8_t { Ok, YesNo, YesNoCancel };
+enum class MessageButtons : std::uint8_t { Ok, YesNo, YesNoCancel, OkCancel };
 enum class Answer : std::uint8_t { Ok, Yes, No, Cancel };
 
 /// One message box: its title is the program's name.

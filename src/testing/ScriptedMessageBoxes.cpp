@@ -12,6 +12,7 @@ namespace {
 constexpr std::array kOk{Answer::Ok};
 constexpr std::array kYesNo{Answer::Yes, Answer::No};
 constexpr std::array kYesNoCancel{Answer::Yes, Answer::No, Answer::Cancel};
+constexpr std::array kOkCancel{Answer::Ok, Answer::Cancel};
 
 struct ButtonRow {
     const char* name;
@@ -22,6 +23,7 @@ constexpr std::array kButtonRows{
     ButtonRow{"Ok", kOk},
     ButtonRow{"YesNo", kYesNo},
     ButtonRow{"YesNoCancel", kYesNoCancel},
+    ButtonRow{"OkCancel", kOkCancel},
 };
 constexpr std::array kIconNames{"None", "Information", "Question", "Exclamation", "Stop"};
 

@@ -93,6 +93,7 @@ TEST_F(QtMessageBoxesTest, EscAnswersWhatHarmsLeast) {
     EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::Ok}, esc), Answer::Ok);
     EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::YesNo}, esc), Answer::No);
     EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::YesNoCancel}, esc), Answer::Cancel);
+    EXPECT_EQ(Show({u"", MessageIcon::None, MessageButtons::OkCancel}, esc), Answer::Cancel);
 }
 
 TEST_F(QtMessageBoxesTest, TheCloseBoxIsEsc) {

@@ -17,12 +17,12 @@ constexpr std::array kAwaited{"a window",      "a message box",     "the file ch
 bool HasButton(MessageButtons buttons, Answer answer) {
     switch (answer) {
     case Answer::Ok:
-        return buttons == MessageButtons::Ok;
+        return buttons == MessageButtons::Ok || buttons == MessageButtons::OkCancel;
     case Answer::Yes:
     case Answer::No:
-        return buttons != MessageButtons::Ok;
+        return buttons == MessageButtons::YesNo || buttons == MessageButtons::YesNoCancel;
     case Answer::Cancel:
-        return buttons == MessageButtons::YesNoCancel;
+        return buttons == MessageButtons::YesNoCancel || buttons == MessageButtons::OkCancel;
     }
     return false;
 }

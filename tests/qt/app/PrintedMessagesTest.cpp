@@ -13,6 +13,7 @@ TEST(PrintedMessages, AreAnsweredAsEscWould) {
     EXPECT_EQ(AnswerTo(MessageButtons::Ok), Answer::Ok);
     EXPECT_EQ(AnswerTo(MessageButtons::YesNo), Answer::No);
     EXPECT_EQ(AnswerTo(MessageButtons::YesNoCancel), Answer::Cancel);
+    EXPECT_EQ(AnswerTo(MessageButtons::OkCancel), Answer::Cancel);
 }
 
 TEST(PrintedMessages, StandOnTheErrorStream) {

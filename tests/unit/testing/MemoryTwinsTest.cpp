@@ -115,6 +115,7 @@ TEST(ScriptedMessageBoxesTest, WithoutAComplaintAnswersAsEscDoes) {
     EXPECT_EQ(boxes.Show({u"a", MessageIcon::Stop, MessageButtons::Ok, 1}), Answer::Ok);
     EXPECT_EQ(boxes.Show({u"b", MessageIcon::Stop, MessageButtons::YesNo, 1}), Answer::No);
     EXPECT_EQ(boxes.Show({u"c", MessageIcon::Stop, MessageButtons::YesNoCancel, 1}), Answer::Cancel);
+    EXPECT_EQ(boxes.Show({u"d", MessageIcon::Stop, MessageButtons::OkCancel, 1}), Answer::Cancel);
 }
 
 TEST(MemoryInstanceChannelTest, IsTheFirstStartUntilToldOtherwise) {

@@ -20,9 +20,10 @@ constexpr Button kOk[] = {{QMessageBox::Ok, Answer::Ok}};
 constexpr Button kYesNo[] = {{QMessageBox::Yes, Answer::Yes}, {QMessageBox::No, Answer::No}};
 constexpr Button kYesNoCancel[] = {
     {QMessageBox::Yes, Answer::Yes}, {QMessageBox::No, Answer::No}, {QMessageBox::Cancel, Answer::Cancel}};
+constexpr Button kOkCancel[] = {{QMessageBox::Ok, Answer::Ok}, {QMessageBox::Cancel, Answer::Cancel}};
 
 std::span<const Button> ButtonsOf(MessageButtons buttons) {
-    constexpr std::array<std::span<const Button>, 3> all{kOk, kYesNo, kYesNoCancel};
+    constexpr std::array<std::span<const Button>, 4> all{kOk, kYesNo, kYesNoCancel, kOkCancel};
     return all[static_cast<std::size_t>(buttons)];
 }
 
