@@ -8,6 +8,11 @@
 #include "dbops/windows/frmTxtDbColName.h"
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
+#include "files/names/frmDupFile.h"
+#include "files/names/frmEnterFileName.h"
+#include "files/names/frmNewDir.h"
+#include "files/names/frmRenDir.h"
+#include "files/names/frmRenFile.h"
 #include "shell/commands/frmAbout.h"
 #include "shell/recent/frmFileList.h"
 #include "shell/settings/frmCtrlRet.h"
@@ -39,6 +44,11 @@ constexpr Window kWindows[] = {
      }},
     {"frmDesignTable",
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmDesignTable>(all.tab); }},
+    {"frmDupFile", FromApp<frmDupFile>},
+    {"frmEnterFileName",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmEnterFileName>(all.app, all.nameLine);
+     }},
     {"frmFileList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFileList>(all.app, all.main.Recents(), all.main);
@@ -61,7 +71,10 @@ constexpr Window kWindows[] = {
      }},
     {"frmMyInputBox", FromApp<frmMyInputBox>},
     {"frmMyMsgBox", FromApp<frmMyMsgBox>},
+    {"frmNewDir", FromApp<frmNewDir>},
     {"frmProgramLocations", FromApp<frmProgramLocations>},
+    {"frmRenDir", FromApp<frmRenDir>},
+    {"frmRenFile", FromApp<frmRenFile>},
     {"frmRowColour",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmRowColour>(all.tab, Colour{0xFFFFFF});

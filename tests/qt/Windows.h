@@ -4,6 +4,7 @@
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
+#include "files/names/NameLine.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/TabStates.h"
 #include "shell/tabs/frmMDIChild.h"
@@ -13,6 +14,15 @@
 #include <string_view>
 
 namespace korvane {
+
+/// The lister's line, with no lister around it.
+struct LoneNameLine final : NameLine {
+    Text FileName() const override { return name; }
+    void SetFileName(TextView text) override { name = text; }
+    void SetPattern(TextView) override {}
+
+    Text name = u"Letters to Ann.docx";
+};
 
 /// What the program's windows are made from.
 struct Surroundings {
@@ -25,6 +35,7 @@ struct Surroundings {
     CopyRequest copy;
     CellExchange cell;
     FileFacts facts;
+    LoneNameLine nameLine;
     frmMDIParent main{app, Text()};
 };
 

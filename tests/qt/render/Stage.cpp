@@ -1,7 +1,9 @@
 #include "render/Stage.h"
 
 #include "SourceTree.h"
+#include "context/exchange/FileOperation.h"
 #include "context/exchange/InputQuestion.h"
+#include "context/exchange/ListerRequest.h"
 #include "context/exchange/MessageQuestion.h"
 #include "platform/qt/services/QtScreen.h"
 #include "table/TableFile.h"
@@ -61,6 +63,11 @@ void Stage::FillRequests() {
     const Text path = InData(kSamples[0]);
     outside_.clipboard.SetText(u"Title\tAuthor\tYear\r\nThe garden of letters\tMarie Brook\t1987\r\n"
                                u"Notes on a river\tH. Lindqvist\t2004\r\n");
+    outside_.files.ChangeDir(u"C:\\data");
+    auto& file = app_.Exchange<FileOperation>();
+    file.FileOpFolder = u"C:\\data";
+    file.FileOpName = Text(kSamples[0]);
+    app_.Exchange<ListerRequest>().ListerFolder = u"C:\\data";
     app_.Exchange<MessageQuestion>().MsgFilePath = path;
     app_.Exchange<InputQuestion>().InputCaption = u"Enter new name of column";
     app_.Exchange<InputQuestion>().InputInitial = u"Title";

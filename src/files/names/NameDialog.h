@@ -1,0 +1,58 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "controls/TextBox.h"
+
+namespace korvane {
+
+class App;
+struct FileOperation;
+
+/// What the small windows for a new name share: a common width, which they keep for their next opening, and
+/// fields in which Return accepts and Esc gives up.
+class NameDialog : public Form {
+public:
+    /// A stored width above `leastWidth` is taken.
+    NameDialog(App& app, std::string_view name, TextView caption, Twips leastWidth);
+
+    CommandButton cmdAccept{*this, "cmdAccept", u"&Accept"};
+    CommandButton cmdCancel{*this, "cmdCancel", u"&Cancel"};
+
+    void Load() override;
+    void Unload() override;
+
+protected:
+    /// The widths above which a stored one is taken.
+    static constexpr Twips kUsualWidth{6840};
+
+    virtual void Accept() = 0;
+    /// A key of one of the fields that neither accepts nor gives up.
+    virtual void FieldKey(TextBox& /*field*/, KeyEvent& /*key*/) {}
+
+    void AddField(TextBox& field);
+    /// Ends with the outcome 1.
+    void Done();
+    App& TheApp() const { return app_; }
+    FileOperation& File() const;
+
+private:
+    void Cancel();
+    void Field_KeyDown(TextBox& field, KeyEvent& key);
+
+    App& app_;
+    Twips leastWidth_;
+};
+
+/// Handles the keys that turn a field's text into a file name: Ctrl+U, with Shift with capitals as well.
+/// Whether the key was one of them; it is consumed then.
+bool ChangeCaseByKey(TextBox& field, KeyEvent& key);
+
+/// Selects the name in a field up to its last point, which is what most often changes.
+void SelectStem(TextBox& field);
+
+/// Puts today's date into a field's name.
+void AddDate(const App& app, TextBox& field);
+
+} // namespace korvane

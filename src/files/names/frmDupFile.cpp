@@ -1,0 +1,79 @@
+#include "files/names/frmDupFile.h"
+
+#include "context/App.h"
+#include "context/StandardMessages.h"
+#include "context/exchange/FileOperation.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+
+namespace korvane {
+
+namespace {
+
+// The boxes of this window break their lines by carriage returns alone. Kept for compatibility.
+
+Message MustDiffer(const Text& source, const Text& target) {
+    return {u"Files must be different!\r\rSource :  " + source + u"\rTarget  :  " + target + u"\r",
+            MessageIcon::Exclamation};
+}
+
+Message AlreadyExists(const Text& name) {
+    return {u"A file with this name already exists in the current directory!\r\r" + name + u"\r",
+            MessageIcon::Exclamation};
+}
+
+} // namespace
+
+frmDupFile::frmDupFile(App& app)
+    : NameDialog(app, "frmDupFile", u"Enter name for file duplicate", kUsualWidth) {
+    Frame1.Caption = u"Current file : ";
+    Frame2.Caption = u"Duplicate : ";
+    Text1.Locked = true;
+    AddField(Text1);
+    AddField(Text2);
+    cmdAddDate.Click = [this] { AddDate(TheApp(), Text2); };
+}
+
+void frmDupFile::Load() {
+    NameDialog::Load();
+    Text1.Text = File().FileOpName;
+    Text2.Text = File().FileOpName;
+    SelectStem(Text2);
+    Text2.SetFocus();
+}
+
+void frmDupFile::FieldKey(TextBox&, KeyEvent& key) {
+    if (!key.Is('T', Mask::Ctrl)) return;
+    key.consumed = true;
+    AddDate(TheApp(), Text2);
+}
+
+void frmDupFile::Accept() {
+    if (copying_) return;
+    App& app = TheApp();
+    const Text& target = Text2.Text;
+    if (app.Files().Style().SameName(File().FileOpName, target)) {
+        app.Messages().Show(MustDiffer(File().FileOpName, target));
+    } else if (app.Files().FileExists(target)) {
+        app.Messages().Show(AlreadyExists(target));
+    } else {
+        Copy(target);
+    }
+}
+
+void frmDupFile::Copy(const Text& target) {
+    App& app = TheApp();
+    copying_ = true;
+    CopyOutcome outcome{};
+    {
+        const Hourglass hourglass(app.Screen());
+        const CopyOptions options{.betweenSteps = [&app] { app.Screen().ProcessMessages(); }};
+        outcome = app.Files().Copy(File().FileOpName, target, options);
+    }
+    copying_ = false;
+    if (outcome == CopyOutcome::Copied) return Done();
+    ShowCannotAccess(app, target);
+}
+
+} // namespace korvane
