@@ -1,0 +1,124 @@
+#include "files/tree/FolderTree.h"
+
+#include "common/text/CaseFold.h"
+#include "controls/TreeView.h"
+#include "platform/FileSystem.h"
+
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+/// No path holds a null, so that no folder has this key.
+Text PlaceholderKey(const Text& folder) {
+    return folder + u'\0';
+}
+
+bool IsPlaceholder(TextView key) {
+    return key.ends_with(u'\0');
+}
+
+/// Drive B is shown as any other one. Kept for compatibility.
+Text DriveText(const Drive& drive) {
+    const Text entry = ToUpper(drive.entry);
+    return entry.starts_with(u"A:") ? u"A:[ Floppy Disk ]" : entry;
+}
+
+} // namespace
+
+FolderTree::FolderTree(const FileSystem& files, TreeView& tree) : files_(files), tree_(tree) {
+    tree_.NodeClick = [this] { GoTo(tree_.Selected()); };
+    tree_.Expand = [this](TextView key) { Expand(Text(key)); };
+}
+
+FolderTree::~FolderTree() {
+    tree_.NodeClick = nullptr;
+    tree_.Expand = nullptr;
+}
+
+void FolderTree::Fill() {
+    tree_.Clear();
+    for (const Drive& drive : files_.Drives()) {
+        tree_.Add({}, drive.root, files_.Style().HasDrives() ? DriveText(drive) : drive.entry);
+        AddPlaceholder(drive.root);
+    }
+}
+
+void FolderTree::GoTo(const Text& folder) {
+    if (IsPlaceholder(folder)) return;
+    folder_ = folder;
+    if (!moving_ && FolderChanged) FolderChanged();
+}
+
+void FolderTree::Expand(const Text& key) {
+    tree_.Remove(PlaceholderKey(key));
+    if (tree_.Children(key).empty()) ReadFolders(key);
+    GoTo(key);
+}
+
+void FolderTree::AddPlaceholder(const Text& folder) {
+    tree_.Add(folder, PlaceholderKey(folder), {});
+}
+
+void FolderTree::ReadFolders(const Text& folder) {
+    for (const Text& name : files_.FolderNames(folder)) {
+        const Text path = files_.Style().JoinPath(folder, name);
+        tree_.Add(folder, path, name);
+        if (files_.HasFolders(path)) AddPlaceholder(path);
+    }
+}
+
+bool FolderTree::SetTreePath(TextView path) {
+    const Text full = files_.FullPath(path);
+    if (!files_.DirExists(full)) return false;
+    Text node = Root(full);
+    const std::vector<Text> names = NamesBelow(node, full);
+    if (names.size() >= kMostLevels) return false;
+    moving_ = true;
+    if (tree_.Node(node) == nullptr) tree_.Add({}, node, node);
+    tree_.SetExpanded(node, true);
+    for (const Text& name : names) {
+        node = NodeBelow(node, name);
+        tree_.SetExpanded(node, true);
+    }
+    moving_ = false;
+    tree_.Select(node);
+    return true;
+}
+
+void FolderTree::Remove(TextView folder) {
+    tree_.Remove(folder);
+}
+
+/// A drive, a share of another machine, or the one root.
+Text FolderTree::Root(TextView fullPath) const {
+    if (!files_.Style().HasDrives()) return u"/";
+    if (!fullPath.starts_with(u"\\\\")) return ToUpper(fullPath.substr(0, 3));
+    const std::size_t endOfMachine = std::min(fullPath.find(u'\\', 2), fullPath.size());
+    return Text(fullPath.substr(0, fullPath.find(u'\\', endOfMachine + 1)));
+}
+
+std::vector<Text> FolderTree::NamesBelow(TextView root, TextView fullPath) const {
+    std::vector<Text> names;
+    TextView rest = fullPath.substr(std::min(root.size(), fullPath.size()));
+    while (!rest.empty()) {
+        const std::size_t length = std::min(rest.find(files_.Style().Separator()), rest.size());
+        if (length > 0) names.emplace_back(rest.substr(0, length));
+        rest.remove_prefix(std::min(length + 1, rest.size()));
+    }
+    return names;
+}
+
+/// The key of the node. A folder that isn't listed, or not yet, is there all the same.
+Text FolderTree::NodeBelow(const Text& parent, const Text& name) {
+    for (const TreeNode& child : tree_.Children(parent)) {
+        if (!IsPlaceholder(child.key) && files_.Style().SameName(child.text, name)) return child.key;
+    }
+    const Text path = files_.Style().JoinPath(parent, name);
+    tree_.Add(parent, path, name);
+    if (files_.HasFolders(path)) AddPlaceholder(path);
+    return path;
+}
+
+} // namespace korvane

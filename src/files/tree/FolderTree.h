@@ -1,0 +1,55 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <functional>
+#include <vector>
+
+namespace korvane {
+
+class FileSystem;
+class TreeView;
+
+/// The folders of the disk in a tree. A folder's key is its full path. What lies below it is read when it is
+/// opened: until then an empty child stands for it.
+class FolderTree {
+public:
+    /// Both outlive the object, which answers the tree's events from now on.
+    FolderTree(const FileSystem& files, TreeView& tree);
+    FolderTree(const FolderTree&) = delete;
+    FolderTree& operator=(const FolderTree&) = delete;
+    ~FolderTree();
+
+    /// The current folder; empty until there is one.
+    const Text& Folder() const { return folder_; }
+    /// The user or the program went to a folder, maybe the same one.
+    std::function<void()> FolderChanged;
+
+    /// Shows the drives alone, with nothing of them read.
+    void Fill();
+    /// Opens the tree down to the folder and goes there. Nothing happens, and the result is false, when there
+    /// is no such folder or when it lies deeper than `kMostLevels`.
+    bool SetTreePath(TextView path);
+    /// Takes the folder, which has gone from the disk, out of the tree.
+    void Remove(TextView folder);
+
+    /// The root counts as one. Kept for compatibility.
+    static constexpr std::size_t kMostLevels = 21;
+
+private:
+    void GoTo(const Text& folder);
+    void Expand(const Text& key);
+    void AddPlaceholder(const Text& folder);
+    void ReadFolders(const Text& folder);
+    Text Root(TextView fullPath) const;
+    std::vector<Text> NamesBelow(TextView root, TextView fullPath) const;
+    Text NodeBelow(const Text& parent, const Text& name);
+
+    const FileSystem& files_;
+    TreeView& tree_;
+    Text folder_;
+    /// While the program moves in the tree, the steps in between aren't told.
+    bool moving_ = false;
+};
+
+} // namespace korvane

@@ -1,0 +1,227 @@
+#include "files/tree/FolderTree.h"
+
+#include "controls/TreeView.h"
+#include "support/TestApp.h"
+
+#include <gmock/gmock.h>
+
+namespace korvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class TreeWindow : public Form {
+public:
+    explicit TreeWindow(App& app) : Form(app.Forms(), "TreeWindow", u"") {}
+    TreeView TreeView1{*this, "TreeView1"};
+};
+
+struct FolderTreeTest : testing::Test {
+    explicit FolderTreeTest(const PathStyle& style = PathStyle::Windows) : t(style) {
+        folders.FolderChanged = [this] { visited.push_back(folders.Folder()); };
+    }
+
+    std::vector<Text> TextsBelow(TextView parent) {
+        std::vector<Text> texts;
+        for (const TreeNode& node : window.TreeView1.Children(parent))
+            texts.push_back(node.text);
+        return texts;
+    }
+
+    TestApp t;
+    TreeWindow window{t.app};
+    TreeView& tree = window.TreeView1;
+    FolderTree folders{t.files, tree};
+    std::vector<Text> visited;
+};
+
+struct PosixFolderTreeTest : FolderTreeTest {
+    PosixFolderTreeTest() : FolderTreeTest(PathStyle::Posix) {}
+};
+
+TEST_F(FolderTreeTest, ShowsTheDrivesWithAPlaceholderEach) {
+    t.files.SetVolume(u"C:\\", {.type = DriveType::Fixed, .name = u"System"});
+    t.files.AddDrive(u'D');
+    folders.Fill();
+    EXPECT_THAT(TextsBelow(u""), ElementsAre(u"C: [SYSTEM]", u"D:"));
+    EXPECT_NE(tree.Node(u"C:\\"), nullptr);
+    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u""));
+    EXPECT_THAT(TextsBelow(u"D:\\"), ElementsAre(u""));
+    EXPECT_EQ(folders.Folder(), u"");
+    EXPECT_THAT(visited, IsEmpty());
+}
+
+TEST_F(FolderTreeTest, DriveAIsLabelledAsAFloppyAndDriveBIsNotDeliberately) {
+    t.files.AddDrive(u'A');
+    t.files.AddDrive(u'B');
+    t.files.SetVolume(u"A:\\", {.type = DriveType::Removable, .name = u"Disk 1"});
+    folders.Fill();
+    EXPECT_THAT(TextsBelow(u""), ElementsAre(u"A:[ Floppy Disk ]", u"B:", u"C:"));
+}
+
+TEST_F(FolderTreeTest, ANodeIsReadWhenItIsOpened) {
+    t.files.AddDir(u"C:\\Data\\sub\\deep");
+    t.files.AddDir(u"C:\\Alone");
+    t.files.AddFile(u"C:\\Data\\a.txt");
+    folders.Fill();
+    tree.SetExpanded(u"C:\\", true);
+    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Alone", u"Data", u"Korvane"));
+    EXPECT_THAT(TextsBelow(u"C:\\Alone"), IsEmpty());
+    EXPECT_THAT(TextsBelow(u"C:\\Data"), ElementsAre(u""));
+    tree.SetExpanded(u"C:\\Data", true);
+    EXPECT_THAT(TextsBelow(u"C:\\Data"), ElementsAre(u"sub"));
+    EXPECT_NE(tree.Node(u"C:\\Data\\sub"), nullptr);
+    EXPECT_THAT(visited, ElementsAre(u"C:\\", u"C:\\Data"));
+}
+
+TEST_F(FolderTreeTest, ANodeOpenedAgainIsAsItWas) {
+    t.files.AddDir(u"C:\\Data");
+    folders.Fill();
+    tree.SetExpanded(u"C:\\", true);
+    tree.SetExpanded(u"C:\\", false);
+    t.files.AddDir(u"C:\\New");
+    tree.SetExpanded(u"C:\\", true);
+    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Data", u"Korvane"));
+}
+
+TEST_F(FolderTreeTest, ASelectedNodeIsTheFolder) {
+    t.files.AddDir(u"C:\\Data");
+    folders.Fill();
+    tree.SetExpanded(u"C:\\", true);
+    visited.clear();
+    tree.Select(u"C:\\Data");
+    EXPECT_EQ(folders.Folder(), u"C:\\Data");
+    EXPECT_THAT(visited, ElementsAre(u"C:\\Data"));
+}
+
+TEST_F(FolderTreeTest, APlaceholderIsNoFolder) {
+    folders.Fill();
+    tree.Select(tree.Children(u"C:\\").front().key);
+    EXPECT_EQ(folders.Folder(), u"");
+    EXPECT_THAT(visited, IsEmpty());
+}
+
+TEST_F(FolderTreeTest, APathOpensTheTreeDownToIt) {
+    t.files.AddDir(u"C:\\Data\\sub\\deep\\below");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(u"C:\\Data\\sub\\deep"));
+    EXPECT_EQ(tree.Selected(), u"C:\\Data\\sub\\deep");
+    EXPECT_EQ(folders.Folder(), u"C:\\Data\\sub\\deep");
+    for (const TextView node : {u"C:\\", u"C:\\Data", u"C:\\Data\\sub", u"C:\\Data\\sub\\deep"})
+        EXPECT_TRUE(tree.Node(node)->expanded);
+    EXPECT_THAT(TextsBelow(u"C:\\Data\\sub\\deep"), ElementsAre(u"below"));
+    EXPECT_THAT(visited, ElementsAre(u"C:\\Data\\sub\\deep"));
+}
+
+TEST_F(FolderTreeTest, APathMayBeWrittenInOtherWays) {
+    t.files.AddDir(u"C:\\Data\\sub");
+    folders.Fill();
+    for (const TextView path : {u"c:\\data\\SUB", u"C:\\Data\\sub\\", u"C:\\Data\\..\\Data\\.\\sub"}) {
+        EXPECT_TRUE(folders.SetTreePath(path));
+        EXPECT_EQ(folders.Folder(), u"C:\\Data\\sub");
+    }
+    EXPECT_TRUE(folders.SetTreePath(u"c:\\"));
+    EXPECT_EQ(folders.Folder(), u"C:\\");
+    EXPECT_EQ(TextsBelow(u"C:\\").size(), 2u);
+}
+
+TEST_F(FolderTreeTest, APathThatIsNotThereChangesNothing) {
+    t.files.AddFile(u"C:\\Data\\a.txt");
+    folders.Fill();
+    folders.SetTreePath(u"C:\\Data");
+    visited.clear();
+    for (const TextView path : {u"C:\\Gone\\sub", u"Q:\\", u"C:\\Data\\a.txt", u""})
+        EXPECT_FALSE(folders.SetTreePath(path));
+    EXPECT_EQ(folders.Folder(), u"C:\\Data");
+    EXPECT_THAT(visited, IsEmpty());
+}
+
+TEST_F(FolderTreeTest, TwentyOneLevelsAreTheMostDeliberately) {
+    Text path = u"C:";
+    for (int level = 2; level <= 21; ++level)
+        path += u"\\d";
+    t.files.AddDir(path + u"\\d");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(path));
+    EXPECT_EQ(folders.Folder(), path);
+    EXPECT_FALSE(folders.SetTreePath(path + u"\\d"));
+    EXPECT_EQ(folders.Folder(), path);
+}
+
+TEST_F(FolderTreeTest, AFolderMadeMeanwhileIsAdded) {
+    folders.Fill();
+    folders.SetTreePath(u"C:\\");
+    t.files.AddDir(u"C:\\New\\sub");
+    EXPECT_TRUE(folders.SetTreePath(u"C:\\New"));
+    EXPECT_EQ(tree.Selected(), u"C:\\New");
+    EXPECT_THAT(TextsBelow(u"C:\\New"), ElementsAre(u"sub"));
+}
+
+TEST_F(FolderTreeTest, AFolderThatIsGoneIsTakenOut) {
+    t.files.AddDir(u"C:\\Data\\sub");
+    folders.Fill();
+    folders.SetTreePath(u"C:\\Data\\sub");
+    folders.Remove(u"C:\\Data\\sub");
+    EXPECT_EQ(tree.Node(u"C:\\Data\\sub"), nullptr);
+    folders.Remove(u"C:\\Gone");
+}
+
+TEST_F(FolderTreeTest, FillingAgainForgetsWhatWasRead) {
+    t.files.AddDir(u"C:\\Data");
+    folders.Fill();
+    folders.SetTreePath(u"C:\\Data");
+    t.files.AddDir(u"C:\\New");
+    folders.Fill();
+    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u""));
+    EXPECT_TRUE(folders.SetTreePath(u"C:\\Data"));
+    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Data", u"Korvane", u"New"));
+}
+
+TEST_F(PosixFolderTreeTest, HasOneRootAsItStands) {
+    t.files.AddDir(u"/home/me");
+    folders.Fill();
+    EXPECT_THAT(TextsBelow(u""), ElementsAre(u"/"));
+    EXPECT_TRUE(folders.SetTreePath(u"/home/me/"));
+    EXPECT_EQ(folders.Folder(), u"/home/me");
+    EXPECT_TRUE(folders.SetTreePath(u"/"));
+    EXPECT_EQ(folders.Folder(), u"/");
+}
+
+TEST_F(PosixFolderTreeTest, WhereCaseCountsTwoFoldersMayDifferByIt) {
+    t.files.AddDir(u"/a");
+    t.files.AddDir(u"/A");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(u"/A"));
+    EXPECT_EQ(folders.Folder(), u"/A");
+    EXPECT_TRUE(folders.SetTreePath(u"/a"));
+    EXPECT_EQ(folders.Folder(), u"/a");
+}
+
+TEST_F(PosixFolderTreeTest, AHiddenFolderIsShownWhenItIsAskedFor) {
+    t.files.AddDir(u"/home/.config/korvane");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(u"/home/.config/korvane"));
+    EXPECT_EQ(folders.Folder(), u"/home/.config/korvane");
+}
+
+TEST_F(PosixFolderTreeTest, LinksInACircleAreOpenedOneByOne) {
+    t.files.AddDir(u"/home");
+    t.files.AddLink(u"/home/circle", u".");
+    t.files.AddLink(u"/home/gone", u"nowhere");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(u"/home/circle/circle"));
+    EXPECT_EQ(folders.Folder(), u"/home/circle/circle");
+    EXPECT_THAT(TextsBelow(u"/home"), ElementsAre(u"circle"));
+    EXPECT_THAT(TextsBelow(u"/home/circle/circle"), ElementsAre(u"circle"));
+}
+
+TEST_F(PosixFolderTreeTest, NamesWithLineBreaksAreFolders) {
+    t.files.AddDir(u"/two\nlines");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(u"/two\nlines"));
+    EXPECT_EQ(folders.Folder(), u"/two\nlines");
+}
+
+} // namespace
+} // namespace korvane
