@@ -27,11 +27,11 @@ std::string DumpOf(const Workbench& workbench) {
 
 void CheckAndRewrite(std::string_view bytes) {
     const CodePage page = CodePage::Windows1252();
-    Workbench first(PathStyle::Posix, page);
+    Workbench first(page);
     first.Load(u"/a.tbx", Share(bytes));
     const std::string dump = DumpOf(first);
     const bool sound = CheckFile(bytes, page).empty() && CheckTable(first.Grid()).empty();
-    Workbench again(PathStyle::Posix, page);
+    Workbench again(page);
     again.Load(u"/a.tbx", Share(first.Save(u"/a.tbx")));
     if (sound && DumpOf(again) != dump) std::abort();
 }

@@ -1,6 +1,5 @@
 #include "table/TableFile.h"
 
-#include "common/number/Number.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "grid/Grid.h"
@@ -15,9 +14,7 @@
 #include "table/TbxReader.h"
 #include "table/TbxWriter.h"
 
-#include <algorithm>
 #include <chrono>
-#include <limits>
 
 namespace korvane {
 
@@ -38,10 +35,7 @@ void EndLoad(const TabContext& tab) {
 
 /// The update bracket stays open and the end of the load doesn't come: the tab is left as it is.
 void EndStoppedLoad(App& app) {
-    // Two blanks before the number: deliberate.
-    app.Messages().Show(
-        {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
-         MessageIcon::Stop});
+    app.Messages().Show(TooManyColumnsMessage());
 }
 
 /// The update bracket of a load, at the end of which what the reader hid is shown again.
@@ -71,20 +65,10 @@ bool FillTable(const TabContext& tab, const SharedBytes& bytes) {
     return false;
 }
 
-/// The height of the current row stands for all rows of the file. Where no row is current the first one
-/// speaks, and a table without rows keeps what it has.
-void TakeRowHeight(TableModel& table) {
-    const Grid& grid = table.GridStore();
-    const Row row = std::max(grid.CurRow(), Row{1});
-    if (!grid.HasRow(row)) return;
-    std::int16_t height = 0;
-    if (StoreRounded(grid.RowHeight(row), height)) table.SetRowHeight = height;
-}
-
 void WriteTable(const TabContext& tab, FileWriter& file) {
     const Hourglass hourglass(tab.app.Screen());
     tab.app.Screen().ProcessMessages();
-    TakeRowHeight(tab.table);
+    tab.table.TakeHeightOfCurrentRow();
     if (tab.history != nullptr) tab.history->IgnoreRowHeight();
     TbxWriter(tab.table, file).Write();
     file.Close();

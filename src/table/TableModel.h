@@ -52,6 +52,10 @@ public:
     Grid& GridStore() { return grid_; }
     const Grid& GridStore() const { return grid_; }
 
+    /// Sets `SetRowHeight` to the height of the current row, which stands for all rows in a file. Where no
+    /// row is current the first one counts, and a table without rows keeps what it has.
+    void TakeHeightOfCurrentRow();
+
     /// Full path of the file; empty for a table that has none.
     Text TxtDbFile;
     /// 1 when the table has changes that aren't on disk.

@@ -223,4 +223,10 @@ void TbxReader::DressRow() {
     grid_.SetCellCheckShown(row_, true);
 }
 
+Message TooManyColumnsMessage() {
+    // Two blanks before the number: deliberate.
+    return {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
+            MessageIcon::Stop};
+}
+
 } // namespace korvane

@@ -2,6 +2,7 @@
 
 #include "common/number/Units.h"
 #include "grid/Grid.h"
+#include "platform/MessageBoxes.h"
 #include "table/TbxLines.h"
 
 #include <cstdint>
@@ -62,5 +63,8 @@ private:
     bool colourLineSeen_ = false;
     bool inCell_ = false;
 };
+
+/// What the user is shown when a load ended with `TooManyColumns`.
+Message TooManyColumnsMessage();
 
 } // namespace korvane

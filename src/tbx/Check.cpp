@@ -18,7 +18,7 @@ ExitStatus RunCheck(const Call& call, Environment& environment) {
     const std::string& name = call.operands.front();
     const auto bytes = ReadInput(name, environment);
     if (!bytes) return ExitStatus::Error;
-    Workbench workbench(environment.files.Style(), call.page);
+    Workbench workbench(call.page);
     workbench.Load(PathOfArgument(name, environment), *bytes);
     // The load itself is what the first looks at, the save after it what the second does.
     const auto inFile = CheckFile(bytes->View(), call.page);

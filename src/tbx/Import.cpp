@@ -62,7 +62,7 @@ ExitStatus RunImport(const Call& call, Environment& environment) {
     const CsvTable csv = ReadCsvTable(bytes->View(), call.delimiter, call.page);
     if (!csv.fault.empty()) return Fail(environment, Quoted(in) + ": " + csv.fault);
 
-    Workbench workbench(environment.files.Style(), call.page);
+    Workbench workbench(call.page);
     SetLook(workbench.Table());
     AddColumns(csv.headers, workbench.Grid());
     AddRows(csv.rows, workbench.Grid());

@@ -6,10 +6,10 @@ namespace korvane {
 
 std::unique_ptr<Workbench> LoadTable(const Call& call, Environment& environment) {
     const std::string& name = call.operands.front();
-    auto bytes = ReadInput(name, environment);
+    const auto bytes = ReadInput(name, environment);
     if (!bytes) return nullptr;
-    auto workbench = std::make_unique<Workbench>(environment.files.Style(), call.page);
-    workbench->Load(PathOfArgument(name, environment), *std::move(bytes));
+    auto workbench = std::make_unique<Workbench>(call.page);
+    workbench->Load(PathOfArgument(name, environment), *bytes);
     return workbench;
 }
 
