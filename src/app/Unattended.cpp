@@ -1,4 +1,4 @@
-#include "app/PrintedMessages.h"
+#include "app/Unattended.h"
 
 #include <cstdio>
 

@@ -1,14 +1,27 @@
 #pragma once
 
+#include "platform/InstanceChannel.h"
 #include "platform/MessageBoxes.h"
 
 namespace korvane {
 
-/// Message boxes of a run without a user: each is printed to the standard error stream and answered as Esc
-/// would.
+// What takes the place of the user and of other copies in a run that only draws a picture.
+
+/// Prints each message box to the standard error stream and answers it as Esc would.
 class PrintedMessages final : public MessageBoxes {
 public:
     Answer Show(const Message& message) override;
+};
+
+/// Finds no running copy, and no second start finds this one.
+class NoOtherCopy final : public InstanceChannel {
+public:
+    bool PreviousInstanceRuns() override { return false; }
+    bool FindReceiver() override { return false; }
+    bool WaitUntilSlotEmpty() override { return false; }
+    bool Deliver(TextView) override { return false; }
+    void ActivateRunning() override {}
+    void Listen(Reception) override {}
 };
 
 } // namespace korvane

@@ -1,11 +1,10 @@
 #include "app/Application.h"
 #include "app/CommandLine.h"
-#include "app/PrintedMessages.h"
 #include "app/Program.h"
 #include "app/SystemParts.h"
+#include "app/Unattended.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/services/QtMessageBoxes.h"
-#include "testing/MemoryInstanceChannel.h"
 
 namespace korvane {
 namespace {
@@ -14,7 +13,7 @@ namespace {
 int Render(const CommandLine& line) {
     if (line.dark) Application::setPalette(DarkPalette());
     const auto system = OwnSystemParts();
-    MemoryInstanceChannel nobody;
+    NoOtherCopy nobody;
     PrintedMessages messages;
     return Program(*system, nobody, messages).Render(line.path, line.picture);
 }

@@ -1,4 +1,4 @@
-#include "app/PrintedMessages.h"
+#include "app/Unattended.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +20,13 @@ TEST(PrintedMessages, StandOnTheErrorStream) {
     testing::internal::CaptureStderr();
     AnswerTo(MessageButtons::Ok);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Größe?\n");
+}
+
+TEST(NoOtherCopy, IsNeverFoundAndTakesNoPath) {
+    NoOtherCopy channel;
+    EXPECT_FALSE(channel.PreviousInstanceRuns());
+    EXPECT_FALSE(channel.FindReceiver());
+    EXPECT_FALSE(channel.Deliver(u"/tables/people.tbx"));
 }
 
 } // namespace
