@@ -2,8 +2,8 @@
 
 #include "FirstPaint.h"
 #include "app/Application.h"
-#include "app/CommandLine.h"
 #include "app/Program.h"
+#include "app/StartArguments.h"
 #include "app/SystemParts.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/grid/GridView.h"
@@ -23,12 +23,12 @@ bool IsTable(const QWidget& widget) {
 
 int main(int argc, char** argv) {
     using namespace korvane;
-    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    const StartArguments start = ReadStartArguments(Arguments(argc, argv));
     int own = 1;
     const Application application(own, argv);
     const bench::EndAtFirstPaint end(&IsTable);
     FollowDesktopPalette();
     const auto system = OwnSystemParts();
     QtMessageBoxes messages;
-    return Program(*system, system->Channel(), messages).Run(line.path);
+    return Program(*system, system->Channel(), messages).Run(start.path);
 }

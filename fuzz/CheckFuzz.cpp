@@ -1,8 +1,8 @@
 // Any bytes as a table's file: a file that is found to be sound is the same table after a rewrite.
 
+#include "tbx/Dump.h"
 #include "tbx/FileCheck.h"
 #include "tbx/TableCheck.h"
-#include "tbx/TableDump.h"
 #include "tbx/Workbench.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "app/CommandLine.h"
+#include "app/StartArguments.h"
 
 namespace korvane {
 

@@ -1,4 +1,4 @@
-#include "app/CommandLine.h"
+#include "app/StartArguments.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/WindowsText.h"

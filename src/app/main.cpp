@@ -1,6 +1,6 @@
 #include "app/Application.h"
-#include "app/CommandLine.h"
 #include "app/Program.h"
+#include "app/StartArguments.h"
 #include "app/SystemParts.h"
 #include "app/Unattended.h"
 #include "platform/qt/base/Palettes.h"
@@ -10,19 +10,19 @@ namespace korvane {
 namespace {
 
 /// A picture is taken beside whatever runs, and nobody is there to answer a box.
-int Render(const CommandLine& line) {
-    if (line.dark) Application::setPalette(DarkPalette());
+int Render(const StartArguments& start) {
+    if (start.dark) Application::setPalette(DarkPalette());
     const auto system = OwnSystemParts();
     NoOtherCopy nobody;
     PrintedMessages messages;
-    return Program(*system, nobody, messages).Render(line.path, line.picture);
+    return Program(*system, nobody, messages).Render(start.path, start.picture);
 }
 
-int Run(const CommandLine& line) {
+int Run(const StartArguments& start) {
     FollowDesktopPalette();
     const auto system = OwnSystemParts();
     QtMessageBoxes messages;
-    return Program(*system, system->Channel(), messages).Run(line.path);
+    return Program(*system, system->Channel(), messages).Run(start.path);
 }
 
 } // namespace
@@ -30,9 +30,9 @@ int Run(const CommandLine& line) {
 
 int main(int argc, char** argv) {
     using namespace korvane;
-    const CommandLine line = ReadCommandLine(Arguments(argc, argv));
+    const StartArguments start = ReadStartArguments(Arguments(argc, argv));
     // The toolkit sees no argument, lest it take the file's name for an option of its own.
     int own = 1;
     const Application application(own, argv);
-    return line.picture.isEmpty() ? Run(line) : Render(line);
+    return start.picture.isEmpty() ? Run(start) : Render(start);
 }

@@ -1,6 +1,6 @@
 #include "context/Launching.h"
 
-#include "common/path/CommandLine.h"
+#include "common/path/CommandWords.h"
 #include "common/path/DriveForms.h"
 #include "common/path/PathStyle.h"
 #include "common/text/FindEntry.h"

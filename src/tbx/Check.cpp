@@ -1,6 +1,9 @@
+#include "tbx/Check.h"
+
 #include "tbx/FileCheck.h"
 #include "tbx/Files.h"
 #include "tbx/TableCheck.h"
+#include "tbx/Verb.h"
 #include "tbx/Workbench.h"
 
 namespace korvane {
@@ -13,6 +16,17 @@ void WriteFindings(const std::vector<Finding>& findings, Output& out) {
 }
 
 } // namespace
+
+std::string FindingText(const Finding& finding) {
+    std::string text;
+    if (finding.cell.row > Row{0}) {
+        text += std::to_string(finding.cell.row.Number()) + ":";
+        if (finding.cell.col > Col{0}) text += std::to_string(finding.cell.col.Number()) + ":";
+        text += " ";
+    }
+    if (finding.line > 0) text += "line " + std::to_string(finding.line) + ": ";
+    return text + finding.what;
+}
 
 ExitStatus RunCheck(const Call& call, Environment& environment) {
     const std::string& name = call.operands.front();

@@ -1,7 +1,5 @@
 #include "tbx/CsvReader.h"
 
-#include "tbx/Utf8Mark.h"
-
 namespace korvane {
 
 CsvReader::CsvReader(std::string_view bytes, char delimiter) : bytes_(bytes), delimiter_(delimiter) {

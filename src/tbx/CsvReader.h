@@ -8,6 +8,9 @@
 
 namespace korvane {
 
+/// What some programs put in front of a UTF-8 file.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
 enum class CsvFault { UnclosedQuote, TextBehindQuote };
 
 /// Takes the bytes of a CSV file (RFC 4180) apart, record by record. A record ends at CR LF, a lone LF or a

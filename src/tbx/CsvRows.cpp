@@ -1,6 +1,6 @@
 #include "tbx/CsvRows.h"
 
-#include "tbx/Utf8Mark.h"
+#include "tbx/CsvReader.h"
 
 namespace korvane {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
-#include "tbx/Finding.h"
+#include "tbx/Check.h"
 
 #include <string_view>
 #include <vector>

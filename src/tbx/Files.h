@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/SharedBytes.h"
-#include "tbx/Verb.h"
+#include "tbx/Environment.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "tbx/Help.h"
 
-#include "tbx/CommandLine.h"
+#include "tbx/ParsedArguments.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 #include "tbx/CsvTable.h"
 #include "tbx/Files.h"
 #include "tbx/TableCheck.h"
+#include "tbx/Verb.h"
 #include "tbx/Workbench.h"
 
 namespace korvane {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
-#include "tbx/Finding.h"
+#include "tbx/Check.h"
 
 #include <vector>
 

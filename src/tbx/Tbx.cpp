@@ -1,7 +1,8 @@
 #include "tbx/Tbx.h"
 
-#include "tbx/CommandLine.h"
 #include "tbx/Help.h"
+#include "tbx/ParsedArguments.h"
+#include "tbx/Verb.h"
 
 #include <algorithm>
 #include <charconv>
@@ -36,11 +37,11 @@ std::optional<char> ReadDelimiter(const std::string& value) {
 /// Tests the arguments of one command and runs it.
 class VerbCall {
 public:
-    VerbCall(const Verb& verb, const CommandLine& line, Environment& environment)
+    VerbCall(const Verb& verb, const ParsedArguments& parsed, Environment& environment)
         : verb_(verb),
-          line_(line),
+          parsed_(parsed),
           environment_(environment),
-          call_{{line.words.begin() + 1, line.words.end()}, environment.page} {}
+          call_{{parsed.words.begin() + 1, parsed.words.end()}, environment.page} {}
 
     ExitStatus Run() {
         std::string fault = OptionFault();
@@ -52,7 +53,7 @@ public:
 private:
     std::string OptionFault() const {
         for (const OptionSpec& option : OptionSpecs()) {
-            const bool given = line_.options.contains(option.letter);
+            const bool given = parsed_.options.contains(option.letter);
             if (given && verb_.options.find(option.letter) == verb_.options.npos)
                 return std::string(verb_.name) + " takes no option --" + std::string(option.name);
         }
@@ -66,7 +67,7 @@ private:
     }
 
     std::string ReadOptions() {
-        for (const auto& [letter, value] : line_.options) {
+        for (const auto& [letter, value] : parsed_.options) {
             if (letter == 'p') {
                 const auto page = ReadCodePage(value);
                 if (!page) return "the code page has to be 874 or 1250 to 1258, not \"" + value + "\"";
@@ -81,7 +82,7 @@ private:
     }
 
     const Verb& verb_;
-    const CommandLine& line_;
+    const ParsedArguments& parsed_;
     Environment& environment_;
     Call call_;
 };
@@ -89,22 +90,22 @@ private:
 } // namespace
 
 ExitStatus RunTbx(std::span<const std::string> arguments, Environment& environment) {
-    const CommandLine line = ParseCommandLine(arguments);
-    if (!line.fault.empty()) return Fail(environment, line.fault);
-    if (line.options.contains('V')) {
+    const ParsedArguments parsed = ParseArguments(arguments);
+    if (!parsed.fault.empty()) return Fail(environment, parsed.fault);
+    if (parsed.options.contains('V')) {
         environment.out.Write(VersionText());
         return ExitStatus::Success;
     }
-    const bool help = line.options.contains('h');
-    if (line.words.empty() && !help) return Fail(environment, "no command given; try tbx --help");
-    const Verb* verb = line.words.empty() ? nullptr : FindVerb(line.words.front());
-    if (!verb && !line.words.empty())
-        return Fail(environment, "there is no command \"" + line.words.front() + "\"; try tbx --help");
+    const bool help = parsed.options.contains('h');
+    if (parsed.words.empty() && !help) return Fail(environment, "no command given; try tbx --help");
+    const Verb* verb = parsed.words.empty() ? nullptr : FindVerb(parsed.words.front());
+    if (!verb && !parsed.words.empty())
+        return Fail(environment, "there is no command \"" + parsed.words.front() + "\"; try tbx --help");
     if (help) {
         environment.out.Write(verb ? VerbHelp(*verb) : GeneralHelp());
         return ExitStatus::Success;
     }
-    return VerbCall(*verb, line, environment).Run();
+    return VerbCall(*verb, parsed, environment).Run();
 }
 
 } // namespace korvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tbx/Verb.h"
+#include "tbx/Environment.h"
 
 #include <span>
 #include <string>

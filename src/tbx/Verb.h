@@ -1,40 +1,15 @@
 #pragma once
 
 #include "common/text/CodePage.h"
-#include "tbx/Output.h"
+#include "tbx/Environment.h"
 
 #include <cstddef>
-#include <functional>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace korvane {
-
-class FileSystem;
-
-/// What the command tells the shell that started it.
-enum class ExitStatus {
-    Success = 0,
-    /// The command did its work and found something wrong, or nothing where it was to find something.
-    Problem = 1,
-    /// The arguments or a file prevented the work.
-    Error = 2,
-};
-
-/// What a command works on and with.
-struct Environment {
-    FileSystem& files;
-    Output& out;
-    /// For the lines that say what is wrong.
-    Output& err;
-    /// Reads all of the standard input; nothing when that fails.
-    std::function<std::optional<std::string>()> readInput;
-    /// The code page of files for which none is named.
-    CodePage page;
-};
 
 /// One call of a command, its arguments tested.
 struct Call {
@@ -70,11 +45,5 @@ ExitStatus RunImport(const Call& call, Environment& environment);
 ExitStatus RunFind(const Call& call, Environment& environment);
 ExitStatus RunInfo(const Call& call, Environment& environment);
 ExitStatus RunCheck(const Call& call, Environment& environment);
-
-/// Writes one line that says what is wrong; control characters in it become "?", so that it stays one line.
-void Complain(Environment& environment, std::string_view what);
-
-/// Complains, and gives the status for it.
-ExitStatus Fail(Environment& environment, std::string_view what);
 
 } // namespace korvane

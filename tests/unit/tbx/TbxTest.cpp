@@ -1,3 +1,4 @@
+#include "tbx/Verb.h"
 #include "unit/tbx/TbxHarness.h"
 
 #include <gmock/gmock.h>

@@ -1,4 +1,4 @@
-#include "common/path/CommandLine.h"
+#include "common/path/CommandWords.h"
 
 #include <utility>
 

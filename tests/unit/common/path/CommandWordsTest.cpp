@@ -1,4 +1,4 @@
-#include "common/path/CommandLine.h"
+#include "common/path/CommandWords.h"
 
 #include <gmock/gmock.h>
 
@@ -8,28 +8,28 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(CommandLine, BlanksSeparateWords) {
+TEST(SplitCommandLine, BlanksSeparateWords) {
     EXPECT_THAT(SplitCommandLine(u"one two"), ElementsAre(u"one", u"two"));
     EXPECT_THAT(SplitCommandLine(u"  one   two  "), ElementsAre(u"one", u"two"));
     EXPECT_THAT(SplitCommandLine(u""), IsEmpty());
     EXPECT_THAT(SplitCommandLine(u"   "), IsEmpty());
 }
 
-TEST(CommandLine, DoubleQuotesHoldWordsTogether) {
+TEST(SplitCommandLine, DoubleQuotesHoldWordsTogether) {
     EXPECT_THAT(SplitCommandLine(u"\"my file.txt\" -x"), ElementsAre(u"my file.txt", u"-x"));
     EXPECT_THAT(SplitCommandLine(u"--name=\"a b\"c d"), ElementsAre(u"--name=a bc", u"d"));
 }
 
-TEST(CommandLine, AnEmptyPairOfQuotesIsAnEmptyWord) {
+TEST(SplitCommandLine, AnEmptyPairOfQuotesIsAnEmptyWord) {
     EXPECT_THAT(SplitCommandLine(u"a \"\" b"), ElementsAre(u"a", u"", u"b"));
 }
 
-TEST(CommandLine, ALoneQuoteHoldsUpToTheEnd) {
+TEST(SplitCommandLine, ALoneQuoteHoldsUpToTheEnd) {
     EXPECT_THAT(SplitCommandLine(u"a \"b c "), ElementsAre(u"a", u"b c "));
     EXPECT_THAT(SplitCommandLine(u"a b\""), ElementsAre(u"a", u"b"));
 }
 
-TEST(CommandLine, NothingElseIsSpecial) {
+TEST(SplitCommandLine, NothingElseIsSpecial) {
     EXPECT_THAT(SplitCommandLine(u"$HOME;rm $(id) `id` a|b a&b >x 'c d' e\\ f *.txt ~"),
                 ElementsAre(u"$HOME;rm", u"$(id)", u"`id`", u"a|b", u"a&b", u">x", u"'c", u"d'", u"e\\", u"f",
                             u"*.txt", u"~"));
@@ -37,7 +37,7 @@ TEST(CommandLine, NothingElseIsSpecial) {
     EXPECT_THAT(SplitCommandLine(u"\\\"a b\\\""), ElementsAre(u"\\a b\\"));
 }
 
-TEST(CommandLine, ALeadingHyphenStaysInItsWord) {
+TEST(SplitCommandLine, ALeadingHyphenStaysInItsWord) {
     EXPECT_THAT(SplitCommandLine(u"-rf --all"), ElementsAre(u"-rf", u"--all"));
 }
 

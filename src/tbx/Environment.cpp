@@ -1,4 +1,4 @@
-#include "tbx/Verb.h"
+#include "tbx/Environment.h"
 
 #include <algorithm>
 

@@ -8,7 +8,7 @@
 namespace korvane {
 
 /// What the program was started with.
-struct CommandLine {
+struct StartArguments {
     /// All that isn't an option, joined with one blank: it counts as one path.
     Text path;
     /// `--render FILE`: where the picture of the main window goes; empty for a usual start.
@@ -20,6 +20,6 @@ struct CommandLine {
 /// What was typed behind the program's name: its words, or all of it where the system hands it over so.
 QStringList Arguments(int argc, char** argv);
 /// Options count only in front, so that a file may have any name behind them.
-CommandLine ReadCommandLine(const QStringList& arguments);
+StartArguments ReadStartArguments(const QStringList& arguments);
 
 } // namespace korvane

@@ -22,7 +22,7 @@ std::span<const OptionSpec> OptionSpecs();
 
 /// The arguments taken apart. Options may stand before, between and behind the words; behind `--` all are
 /// words, and so is a lone `-`.
-struct CommandLine {
+struct ParsedArguments {
     std::vector<std::string> words;
     /// Value by letter; of an option given twice the last counts.
     std::map<char, std::string> options;
@@ -30,6 +30,6 @@ struct CommandLine {
     std::string fault;
 };
 
-CommandLine ParseCommandLine(std::span<const std::string> arguments);
+ParsedArguments ParseArguments(std::span<const std::string> arguments);
 
 } // namespace korvane

@@ -1,4 +1,4 @@
-#include "tbx/CommandLine.h"
+#include "tbx/ParsedArguments.h"
 
 #include <gmock/gmock.h>
 
@@ -9,48 +9,48 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-CommandLine Parse(std::vector<std::string> arguments) {
-    return ParseCommandLine(arguments);
+ParsedArguments Parse(std::vector<std::string> arguments) {
+    return ParseArguments(arguments);
 }
 
-TEST(CommandLine, OptionsStandBeforeBetweenAndBehindTheWords) {
-    const CommandLine line = Parse({"-p", "1250", "find", "--help", "a.tbx", "text", "-d;"});
-    EXPECT_THAT(line.words, ElementsAre("find", "a.tbx", "text"));
-    EXPECT_THAT(line.options, ElementsAre(Pair('d', ";"), Pair('h', ""), Pair('p', "1250")));
-    EXPECT_EQ(line.fault, "");
+TEST(ParsedArguments, OptionsStandBeforeBetweenAndBehindTheWords) {
+    const ParsedArguments parsed = Parse({"-p", "1250", "find", "--help", "a.tbx", "text", "-d;"});
+    EXPECT_THAT(parsed.words, ElementsAre("find", "a.tbx", "text"));
+    EXPECT_THAT(parsed.options, ElementsAre(Pair('d', ";"), Pair('h', ""), Pair('p', "1250")));
+    EXPECT_EQ(parsed.fault, "");
 }
 
-TEST(CommandLine, AValueStandsBehindTheNameALetterOrAnEqualsSign) {
+TEST(ParsedArguments, AValueStandsBehindTheNameALetterOrAnEqualsSign) {
     for (const auto& arguments : std::vector<std::vector<std::string>>{
              {"-p", "1250"}, {"-p1250"}, {"--code-page", "1250"}, {"--code-page=1250"}}) {
         EXPECT_THAT(Parse(arguments).options, ElementsAre(Pair('p', "1250")));
     }
 }
 
-TEST(CommandLine, AValueMayBeginWithADash) {
+TEST(ParsedArguments, AValueMayBeginWithADash) {
     EXPECT_THAT(Parse({"-d", "-"}).options, ElementsAre(Pair('d', "-")));
 }
 
-TEST(CommandLine, LettersWithoutValuesStandTogether) {
+TEST(ParsedArguments, LettersWithoutValuesStandTogether) {
     EXPECT_THAT(Parse({"-hV"}).options, ElementsAre(Pair('V', ""), Pair('h', "")));
     EXPECT_THAT(Parse({"-hp1250"}).options, ElementsAre(Pair('h', ""), Pair('p', "1250")));
 }
 
-TEST(CommandLine, OfAnOptionGivenTwiceTheLastCounts) {
+TEST(ParsedArguments, OfAnOptionGivenTwiceTheLastCounts) {
     EXPECT_THAT(Parse({"-p", "1250", "-p", "1251"}).options, ElementsAre(Pair('p', "1251")));
 }
 
-TEST(CommandLine, BehindTwoDashesAllAreWords) {
-    const CommandLine line = Parse({"find", "--", "-h", "--", "--help"});
-    EXPECT_THAT(line.words, ElementsAre("find", "-h", "--", "--help"));
-    EXPECT_THAT(line.options, IsEmpty());
+TEST(ParsedArguments, BehindTwoDashesAllAreWords) {
+    const ParsedArguments parsed = Parse({"find", "--", "-h", "--", "--help"});
+    EXPECT_THAT(parsed.words, ElementsAre("find", "-h", "--", "--help"));
+    EXPECT_THAT(parsed.options, IsEmpty());
 }
 
-TEST(CommandLine, ALoneDashAndAnEmptyArgumentAreWords) {
+TEST(ParsedArguments, ALoneDashAndAnEmptyArgumentAreWords) {
     EXPECT_THAT(Parse({"dump", "-", ""}).words, ElementsAre("dump", "-", ""));
 }
 
-TEST(CommandLine, SaysWhichOptionIsWrong) {
+TEST(ParsedArguments, SaysWhichOptionIsWrong) {
     EXPECT_EQ(Parse({"--foo=1"}).fault, "there is no option --foo");
     EXPECT_EQ(Parse({"-hx"}).fault, "there is no option -x");
     EXPECT_EQ(Parse({"dump", "-p"}).fault, "the option --code-page needs a value");

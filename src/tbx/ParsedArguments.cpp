@@ -1,4 +1,4 @@
-#include "tbx/CommandLine.h"
+#include "tbx/ParsedArguments.h"
 
 #include <algorithm>
 #include <array>
@@ -20,17 +20,18 @@ const OptionSpec* FindOption(Predicate fits) {
     return found == kOptions.end() ? nullptr : &*found;
 }
 
-/// Walks over the arguments and sorts them into the command line.
+/// Walks over the arguments and sorts them into words and options.
 class Parser {
 public:
-    Parser(std::span<const std::string> arguments, CommandLine& line) : rest_(arguments), line_(line) {}
+    Parser(std::span<const std::string> arguments, ParsedArguments& parsed)
+        : rest_(arguments), parsed_(parsed) {}
 
     void Parse() {
         bool wordsOnly = false;
-        while (!rest_.empty() && line_.fault.empty()) {
+        while (!rest_.empty() && parsed_.fault.empty()) {
             const std::string_view argument = TakeNext();
             if (wordsOnly || argument.size() < 2 || argument[0] != '-')
-                line_.words.emplace_back(argument);
+                parsed_.words.emplace_back(argument);
             else if (argument == "--")
                 wordsOnly = true;
             else if (argument.starts_with("--"))
@@ -58,11 +59,11 @@ private:
         else if (option->value.empty())
             Fail("the option --" + std::string(name) + " takes no value");
         else
-            line_.options[option->letter] = argument.substr(equals + 1);
+            parsed_.options[option->letter] = argument.substr(equals + 1);
     }
 
     void ParseLetters(std::string_view letters) {
-        while (!letters.empty() && line_.fault.empty()) {
+        while (!letters.empty() && parsed_.fault.empty()) {
             const char letter = letters.front();
             letters.remove_prefix(1);
             const OptionSpec* option = FindOption([&](const auto& spec) { return spec.letter == letter; });
@@ -71,7 +72,7 @@ private:
             } else if (option->value.empty() || letters.empty()) {
                 Store(*option);
             } else {
-                line_.options[letter] = letters;
+                parsed_.options[letter] = letters;
                 return;
             }
         }
@@ -80,17 +81,17 @@ private:
     /// Stores an option whose value, if it takes one, is the next argument.
     void Store(const OptionSpec& option) {
         if (option.value.empty())
-            line_.options[option.letter] = {};
+            parsed_.options[option.letter] = {};
         else if (rest_.empty())
             Fail("the option --" + std::string(option.name) + " needs a value");
         else
-            line_.options[option.letter] = TakeNext();
+            parsed_.options[option.letter] = TakeNext();
     }
 
-    void Fail(std::string fault) { line_.fault = std::move(fault); }
+    void Fail(std::string fault) { parsed_.fault = std::move(fault); }
 
     std::span<const std::string> rest_;
-    CommandLine& line_;
+    ParsedArguments& parsed_;
 };
 
 } // namespace
@@ -99,10 +100,10 @@ std::span<const OptionSpec> OptionSpecs() {
     return kOptions;
 }
 
-CommandLine ParseCommandLine(std::span<const std::string> arguments) {
-    CommandLine line;
-    Parser(arguments, line).Parse();
-    return line;
+ParsedArguments ParseArguments(std::span<const std::string> arguments) {
+    ParsedArguments parsed;
+    Parser(arguments, parsed).Parse();
+    return parsed;
 }
 
 } // namespace korvane
