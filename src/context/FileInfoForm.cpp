@@ -31,8 +31,7 @@ Text FileInfoForm::NameLines() const {
 }
 
 Text FileInfoForm::SizeLines() const {
-    // Of a size that comes with its " bytes" the word stands twice. Deliberate: readers of these texts expect
-    // the line like this.
+    // A size that comes with its " bytes" gets the word twice. Kept for compatibility: bytes-twice.
     const Text size = FormatGrouped(TextView(lblFileSize.Caption.Get())) + u" bytes";
     return Line(u"Size: ", size) + Line(u"Archived: ", lblArchived.Caption.Get()) + Text(kCrLf);
 }

@@ -44,7 +44,7 @@ void Shrink(const Axis& axis, Twips gap) {
 }
 
 void MoveBack(const Axis& axis, Twips gap) {
-    // Without the start of the work area, on a screen whose task bar is at the left or top too. Deliberate.
+    // Kept for compatibility: fit-without-area-start.
     if (axis.storedStart + axis.storedLength <= axis.areaLength) return;
     axis.start = Less(Less(axis.areaStart + axis.areaLength, axis.storedLength), gap);
 }

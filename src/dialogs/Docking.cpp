@@ -17,7 +17,7 @@ constexpr int kRoomNeeded = 5000;
 
 bool HasRoom(App& app, int room) {
     if (room > kRoomNeeded) return true;
-    // The number is in twips, whatever the text says. Deliberate: the text is known so.
+    // The number is in twips, whatever the text says. Kept for compatibility: docking-needs-5000.
     app.Messages().Show({u"Not enough space to move window as requested.\r\n\r\n"
                          u"Minimum required: 5,000 pixels.",
                          MessageIcon::Exclamation});

@@ -33,8 +33,7 @@ void FillGrid(Grid& grid, const std::vector<Text>& titles) {
         AddNewColumn(grid, col, title);
         ++col;
     }
-    // Whether a click on a header sorts stays as it was in the tab. Deliberate: it is the first click that
-    // asks the settings.
+    // The switch for sorting stays as it was in the tab. Kept for compatibility: design-leaves-sorting.
     GiveNewTableLook(grid);
     for (Row row{1}; row <= kNewRows; ++row) {
         grid.SetRowHeight(row, kNewRowHeight);
@@ -66,8 +65,8 @@ void MakeDesignedTable(const TabContext& tab) {
 void mnuEdit_DesignDb_Clack(const TabContext& tab) {
     if (AskToSave(tab)) {
         frmDesignTable(tab).ShowModal();
-        // Only the titles count, not how the window was left: after a cancel those of an earlier design are
-        // taken again. Deliberate.
+        // Only the titles count, not how the window was left. Kept for compatibility:
+        // design-cancel-takes-titles.
         if (!tab.table.lstNewTableColumns.empty()) MakeDesignedTable(tab);
     }
     tab.table.GridStore().GridSetFocus();

@@ -24,8 +24,8 @@ bool AskToImport(App& app) {
                                 MessageIcon::Question, MessageButtons::YesNo}) == Answer::Yes;
 }
 
-/// Without check boxes, names of columns or a look of the model. Deliberate: a save writes for these what
-/// they held before.
+/// There are no check boxes, and the model gets no column names and no look. Kept for compatibility:
+/// import-has-no-look.
 void FillGrid(Grid& grid, TextView text, bool sortOnHeaderClick) {
     const GridUpdate update(grid);
     const Col columns = ColumnsOfTabbedText(text);
@@ -44,8 +44,8 @@ void ImportClipboard(const TabContext& tab) {
     const Hourglass hourglass(app.Screen());
     app.Screen().ProcessMessages();
     const Text text = app.Clipboard().GetText();
-    // The new name goes at once, for the one that the tab shows. Deliberate: an import stays in its tab under
-    // its name.
+    // The new name gives way at once to the one that the tab shows. Kept for compatibility:
+    // import-keeps-tab-name.
     table.TxtDbFile = tab.host.TabCaption();
     FillGrid(table.GridStore(), text, app.Settings.AllowSorting == 1);
     table.TableAltered = 1;

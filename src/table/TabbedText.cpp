@@ -35,8 +35,8 @@ Row RowsOfTabbedText(TextView text) {
 void FillFromTabbedText(Grid& grid, TextView text) {
     Row row{1};
     Col col{1};
-    // Only a row that its line end closes gets its height, and the first one. Deliberate: an unfinished line
-    // keeps the height of the grid.
+    // Only the first row, and rows that a line end closes, get their height. Kept for compatibility:
+    // import-row-heights.
     grid.SetRowHeight(row, kNewRowHeight);
     const auto* cell = text.begin();
     const auto* end = std::find_if(cell, text.end(), EndsCell);

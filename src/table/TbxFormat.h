@@ -5,8 +5,8 @@
 
 namespace korvane::tbx {
 
-// What the reader and the writer of `.tbx` files both know of the format. It escapes nothing: a line is told
-// by its first bytes alone.
+// What the reader and the writer of `.tbx` files both know of the format. A line is told by its first bytes
+// alone, and no text is escaped. Kept for compatibility: tbx-escapes-nothing.
 
 inline constexpr char kComment = ';';
 inline constexpr char kValue = '!';
@@ -20,7 +20,7 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 
 // Each section begins with a title between two lines of no more than the comment mark, and so does the end.
 inline constexpr std::string_view kCommentLine = ";";
-/// The header holds no cell width, whatever its title says.
+/// The header holds no cell width. Kept for compatibility: tbx-title-names-five.
 inline constexpr std::string_view kHeaderTitle =
     "; Values for colour, font type, font size, cell height, cell width";
 inline constexpr std::string_view kColumnsTitle = "; Column names";

@@ -191,8 +191,9 @@ void TbxReader::TakeOther() {
     inCell_ = false;
 }
 
-/// A cell goes on until a line begins with a mark, and a last line of the file isn't part of it. Its text is
-/// a slice of the file unless a lone CR stands in it.
+/// A cell goes on until a line begins with a mark, or until the last line of the file, which isn't part of it
+/// (kept for compatibility: tbx-last-line-dropped). Its text is a slice of the file unless it contains a lone
+/// CR.
 void TbxReader::CollectCell() {
     const std::size_t begin = lines_.Begin();
     std::size_t end = begin;
@@ -224,7 +225,7 @@ void TbxReader::DressRow() {
 }
 
 Message TooManyColumnsMessage() {
-    // Two blanks before the number: deliberate.
+    // Kept for compatibility: columns-message-two-blanks.
     return {u"Numbers of columns in this table exceeds the maximum of  " + NumberText(MaxColumns.Number()),
             MessageIcon::Stop};
 }

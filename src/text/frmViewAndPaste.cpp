@@ -172,7 +172,8 @@ void frmViewAndPaste::PutIntoTextWindow() {
     if (textWindow == nullptr) return;
     const TextBox& view = this->*Current().view;
     if (&view == &Text1) return textWindow->TextWindowInsert(Text1.Text.Get());
-    // Of a formatted rendering only what is selected in it. Deliberate: so a part can be pasted.
+    // Of a formatted rendering only the selected text is taken. Kept for compatibility:
+    // retrieve-takes-selection.
     const Text selected = view.SelText();
     if (!selected.empty()) textWindow->TextWindowInsert(selected);
 }

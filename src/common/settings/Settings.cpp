@@ -13,7 +13,7 @@ namespace {
         line, u"" #name, SettingKind::NumberAsText, &Settings::name, &Settings::name                         \
     }
 // The writer exchanges three pairs of lines that the reader doesn't, so that two windows come up with their
-// measures exchanged after every restart. Deliberate: it is the settled format of the file.
+// measures exchanged after every restart. Kept for compatibility: settings-lines-exchanged.
 #define KORVANE_EXCHANGED(line, name, writtenName)                                                           \
     SettingLine {                                                                                            \
         line, u"" #name, SettingKind::Plain, &Settings::name, &Settings::writtenName                         \

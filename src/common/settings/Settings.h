@@ -233,7 +233,8 @@ struct Settings {
 /// How a line of the settings file stands in its field.
 enum class SettingKind : std::uint8_t {
     Plain,
-    /// Text that the reader passes through the leading-number rule: a name comes back as "0".
+    /// The reader takes the leading number of the text: a name comes back as "0". Kept for compatibility:
+    /// settings-numbers-as-text.
     NumberAsText,
 };
 

@@ -27,9 +27,9 @@ void RenameColumn(TableModel& table, Col col, const Text& name) {
     table.ColumnNames.Set(col, name);
 }
 
-/// The captions come from `ColumnNames`, which itself isn't shifted, so that those of a later insert are the
-/// names of other columns. Deliberate: names and captions are known to go apart here, and a save keeps the
-/// captions. A column whose left neighbour has no name keeps its caption.
+/// The captions come from `ColumnNames`, which itself isn't shifted, so that a later insert gives captions of
+/// other columns. Kept for compatibility: column-names-not-shifted. A column whose left neighbour has no name
+/// keeps its caption.
 void ShiftCaptions(TableModel& table, Col first) {
     Grid& grid = table.GridStore();
     for (Col col = std::min(grid.ColCount() - 1, MaxColumns); col >= first; --col)

@@ -35,8 +35,7 @@ double SumOfColumn(const TabContext& tab, Col col) {
     return sum;
 }
 
-/// `TableAltered` stays as it is, so that a total can go without a question. Deliberate: it is there to be
-/// read, and made anew when wanted.
+/// `TableAltered` stays as it is. Kept for compatibility: sum-is-no-change.
 void AppendTotal(Grid& grid, Col col, double sum) {
     const Row total = grid.RowCount() + 1;
     grid.SetRowCount(total);
@@ -52,8 +51,8 @@ void mnuCalc_Add_Clack(const TabContext& tab) {
     if (!ChooseRange(tab.app)) return;
     Grid& grid = tab.table.GridStore();
     const Col col = grid.CurCol();
-    // The name as it was read or designed: once columns came or went, it may be another column's. Deliberate:
-    // the question is there to make the user look at the column itself.
+    // The question shows the name as it was read or designed, which may be another column's once columns came
+    // or went. Kept for compatibility: sum-asks-by-old-name.
     const Text question = u"Is this the column with values to use for calculating the total?\r\n\r\n\"" +
                           tab.table.ColumnNames[col] + u"\"";
     if (AskYesNo(tab.app, question)) AppendTotal(grid, col, SumOfColumn(tab, col));

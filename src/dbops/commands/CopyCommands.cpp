@@ -50,8 +50,8 @@ public:
           included_(included),
           delimiter_(tab.app.Settings.DelimiterString) {}
 
-    /// Rows marked for deletion and hidden ones are copied like others. Deliberate: they are in the table
-    /// until it is saved.
+    /// Rows that are marked for deletion, and hidden ones, are copied like others. Kept for compatibility:
+    /// copies-take-all-rows.
     Text MakeText() const {
         CellsText text(grid_, LengthAtMost());
         ForEachRowToCopy([&](Row row) { Append(text, row); });
@@ -59,9 +59,8 @@ public:
     }
 
 private:
-    /// The included cells with the delimiter behind each but the table's last column, which ends the line,
-    /// and an empty line. Without the last column the record ends in its delimiter. Deliberate: what reads
-    /// these texts counts on both.
+    /// Appends the included cells, each but the table's last column followed by the delimiter, and an empty
+    /// line. Kept for compatibility: copied-record-ends.
     void Append(CellsText& text, Row row) const {
         ForEachColumnToCopy([&](Col col) {
             text.AppendCell(row, col);
@@ -141,7 +140,7 @@ void mnuCopyColumn_Clack(const TabContext& tab) {
     if (!ChooseRange(tab.app)) return;
     Grid& grid = tab.table.GridStore();
     CellsText text(grid);
-    // Nothing goes between the values. Deliberate: a column that holds its own line ends comes out as it is.
+    // Nothing goes between the values. Kept for compatibility: copied-column-runs-together.
     ForEachRow(grid, [&](Row row) {
         if (!IsInChosenRange(tab.app, grid, row) || IsMarkedForDeletion(grid, row)) return;
         text.AppendCell(row, grid.CurCol());

@@ -32,7 +32,7 @@ Text CellName(Row row, Col col) {
 }
 
 /// Everything up to the last dot is kept, even one in the name of a folder; without any dot, the extension
-/// alone is proposed. Both deliberate.
+/// alone is proposed. Kept for compatibility: export-name-after-last-dot.
 Text ProposedName(TextView path) {
     return Text(Left(path, InStrRev(path, u"."))) + u"xls";
 }
@@ -62,8 +62,8 @@ void PutHeader(Spreadsheet& excel, const Grid& grid) {
     }
 }
 
-/// Hidden rows and those marked for deletion go out like others. Deliberate: they are in the table until it
-/// is saved.
+/// Hidden rows, and rows that are marked for deletion, are exported like others. Kept for compatibility:
+/// export-takes-all-rows.
 void PutRows(Spreadsheet& excel, const App& app, const Grid& grid) {
     Row target{2};
     ForEachRow(grid, [&](Row row) {

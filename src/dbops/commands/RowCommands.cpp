@@ -24,8 +24,8 @@ void AddRows(const TabContext& tab, int count) {
     Grid& grid = tab.table.GridStore();
     const Row old = grid.RowCount();
     grid.SetRowCount(old + count);
-    // From the row that was the last one until now, which thereby gets the fixed height as well. Deliberate:
-    // the rows of a table have always come out this way.
+    // The loop starts at the row that was the last one until now. Kept for compatibility:
+    // added-rows-set-last-height.
     for (Row row = old; row <= grid.RowCount(); ++row) {
         grid.SetRowHeight(row, kAddedRowHeight);
         grid.SetCellCheckShown(row, true);
@@ -50,8 +50,8 @@ void WriteRowTexts(Grid& grid, Row row, const std::vector<Text>& texts) {
         grid.SetCellValue(row, std::exchange(col, col + 1), text);
 }
 
-/// Only the texts change places: ticks, colours, font flags and heights belong to the position. Deliberate:
-/// a colour marks a place in the list rather than an entry.
+/// Only the texts change places: ticks, colours, font flags and heights belong to the position. Kept for
+/// compatibility: moves-swap-texts-only.
 void SwapTexts(Grid& grid, Row current, Row neighbour) {
     const std::vector<Text> currentTexts = RowTexts(grid, current);
     const std::vector<Text> neighbourTexts = RowTexts(grid, neighbour);
@@ -100,8 +100,8 @@ void MarkTickedRows(const TabContext& tab) {
         }
     }
     FinishMarking(tab);
-    // The row behind the last one: the grid doesn't take it and the current row stays. Deliberate: marking
-    // moves nobody away from where he works.
+    // The grid doesn't take a row after the last one, so the current row stays. Kept for compatibility:
+    // marking-stays-on-row.
     grid.SetCurRow(row);
     tab.table.TableAltered = 1;
 }

@@ -29,7 +29,7 @@ void SetAllRowHeights(TableModel& table) {
 void mnuEdit_SetRowHeight_Clack(const TabContext& tab) {
     frmSetRowHeight form(tab);
     if (ShowForResult(tab.app, form) == 1) SetAllRowHeights(tab.table);
-    // Also after a Cancel. Deliberate: who asked for another height is asked to save.
+    // This also happens after a cancel. Kept for compatibility: row-height-counts-after-cancel.
     tab.table.TableAltered = 1;
 }
 

@@ -33,8 +33,8 @@ RowColours ChosenColours(const App& app) {
     return {Colour{app.Settings.ColourChoiceB}, Colour{app.Settings.ColourChoiceA}};
 }
 
-/// The current row alone, though the dialog speaks of the checked items. Deliberate: ticks serve to copy and
-/// total, colours mark single rows.
+/// Only the current row is coloured, though the dialog speaks of the checked items. Kept for compatibility:
+/// colour-for-current-row.
 void ColourCurrentRow(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
     const GridHidden hidden(grid);
@@ -123,7 +123,7 @@ void mnuFormat_BColor_Clack(const TabContext& tab) {
     auto* colourPicker = tab.app.Port<ColourPicker>();
     if (colourPicker == nullptr) return;
     const auto chosen = colourPicker->Choose(TableBack(tab.table), ColourPicker::Extent::Full);
-    // Pure black counts as no choice. Deliberate: the texts are black.
+    // Pure black counts as no choice. Kept for compatibility: background-never-black.
     if (!chosen || *chosen == Colour{0}) return;
     Grid& grid = tab.table.GridStore();
     tab.table.TableBackColour = *chosen;

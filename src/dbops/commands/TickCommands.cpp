@@ -11,8 +11,8 @@ namespace korvane {
 
 namespace {
 
-/// Doesn't count as a change of the table, although the file keeps ticks. Deliberate: ticking all is mostly
-/// the start of a copy, and nobody wants to be asked about it at closing.
+/// This doesn't count as a change of the table, although the file keeps ticks. Kept for compatibility:
+/// ticks-are-no-change.
 void SetVisibleChecks(Grid& grid, int check) {
     const GridUpdate update(grid);
     ForEachRow(grid, [&](Row row) {

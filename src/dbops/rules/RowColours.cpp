@@ -15,9 +15,8 @@ constexpr RowColourChoice Same(TextView listText, TextView keyText, Colour back,
     return {listText, keyText, back, back, text};
 }
 
-// The help text names Alt alone, and a bracket of the green one is turned. Deliberate: users know the list by
-// these texts. So is the second yellow: it tells rows coloured by key from those coloured by the dialog,
-// whose selection by colour then leaves the former out.
+// The texts of the keys name Alt alone, a bracket of the green one is turned, and yellow is another colour by
+// key than by the dialog. Kept for compatibility: row-colour-texts, two-yellows.
 constexpr std::array kChoices{
     Same(u" De[f]ault", u" Alt-1,Ctrl-Alt-F", kOfTable, kBlack),
     Same(u" G[h]osted", u" Alt-2,Ctrl-Alt-H", kOfTable, Colour{0xE0E0E0}),

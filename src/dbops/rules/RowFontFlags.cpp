@@ -8,7 +8,8 @@ namespace korvane {
 
 namespace {
 
-/// The table doesn't count as altered, although the file keeps the flags of column 1. Deliberate.
+/// The table doesn't count as altered, although the file keeps the flags of column 1. Kept for compatibility:
+/// font-flags-are-no-change.
 void FlipFlagOfCurrentRow(Grid& grid, CellFlag flag) {
     const Row row = grid.CurRow();
     for (Col col{1}; col <= grid.ColCount(); ++col)

@@ -12,8 +12,8 @@ namespace {
 
 CellPosition SearchStart(const Grid& grid) {
     const CellPosition next{grid.CurRow(), grid.CurCol() + 1};
-    // Strictly below, so that the last column of the current row is passed over when it is the next one.
-    // Deliberate: who repeats the search relies on this order.
+    // The column has to be below the last one, so that the last column of the current row is passed over when
+    // it is the next one. Kept for compatibility: find-passes-over-last-column.
     if (next.col < grid.ColCount()) return next;
     return {grid.CurRow() + 1, Col{1}};
 }

@@ -22,9 +22,8 @@ void PressOnReturn(TextBox& box, CommandButton& button) {
 
 /// The cell's text with the match replaced.
 Text ReplacedText(const Grid& grid, const TableMatch& match, TextView part, TextView replacement) {
-    // Where in its cell a match stands is known only for the rows below: replacing a match in the rest of
-    // the current row empties the cell. Deliberate: tables have been kept with this tool, and its two stages
-    // with their different results are part of how it works.
+    // The place of a match in its cell is known only for the rows below. Kept for compatibility:
+    // replace-empties-cell.
     if (match.inCurrentRow) return {};
     const Text text = grid.CellText(match.cell.row, match.cell.col);
     const std::size_t at = InStr(text, part);
@@ -90,7 +89,7 @@ void frmFindReplace::cmdReplaceButton_Click() {
 void frmFindReplace::ReplaceIn(const TableMatch& match) {
     Settings& settings = tab_.app.Settings;
     settings.ReplaceText = Text2.Text;
-    // A match can't be deleted this way. Deliberate: an empty field is taken as one not filled in yet.
+    // Kept for compatibility: empty-replacement-does-nothing.
     if (settings.ReplaceText.empty()) return;
     Grid& grid = tab_.table.GridStore();
     grid.SetCellValue(match.cell.row, match.cell.col,

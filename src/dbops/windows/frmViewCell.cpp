@@ -140,7 +140,7 @@ void frmViewCell::txtCell_KeyDown(KeyEvent& key) {
     (this->*rule->run)();
 }
 
-/// With changes nothing happens, so that Esc never loses them. Deliberate: the user has to choose a button.
+/// Nothing happens once the text was changed. Kept for compatibility: esc-keeps-changed-cell.
 void frmViewCell::PressOk() {
     if (!altered_) cmdOk.Press();
 }

@@ -110,8 +110,8 @@ constexpr std::array kCommands{
     Command{kNotInMenu, "ViewAndPaste", u"", "", Main},
 };
 
-// The tool-tips of the style buttons stand crosswise and one has a slip of the pen: deliberate, users know
-// them so.
+// The tool-tips of the style buttons are crosswise, and one tip has a misspelt word. Kept for compatibility:
+// toolbar-tips.
 constexpr std::array kToolBar{
     ToolBarButton{"cmdDesignDb", u"Design database", "mnuEdit_DesignDb"},
     ToolBarButton{"cmdSetColour", u"Specify background colour for database", "mnuFormat_BColor"},

@@ -11,8 +11,8 @@ namespace korvane {
 
 namespace {
 
-/// The style numbers by the index of the menu, from 0; any other index has the last style. Eight comes
-/// before nine with the higher number: deliberate, the menu's order isn't that of the numbers.
+/// The style numbers by the index of the menu, from 0; any other index has the last style. Kept for
+/// compatibility: style-numbers-out-of-order.
 constexpr std::array kStylesByIndex{0, 1, 5, 6, 7, 10, 11, 12, 14, 13, 20, 25, 30, 31, 32, 33};
 constexpr int kAnyOtherStyle = 40;
 

@@ -195,8 +195,8 @@ void frmMDIParent::Unload() {
 }
 
 void frmMDIParent::CloseOtherWindows() {
-    // What these store when they close is lost, and a refusal no longer stops the end. Deliberate: the
-    // settings are written at one place only.
+    // What these store when they close is lost, and a refusal no longer stops the end. Kept for
+    // compatibility: late-windows-lose-settings.
     const std::vector<Form*> loaded = Host().LoadedForms();
     for (auto form = loaded.rbegin(); form != loaded.rend(); ++form) {
         // One that closes may take others with it.

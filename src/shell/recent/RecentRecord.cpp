@@ -79,8 +79,8 @@ void RecentRecord::Empty() {
 
 void RecentRecord::TrimWhenFull() {
     if (RecentNext < kEntries) return;
-    // From the far end: the oldest entries stay, in reverse order, and at the next load of a full record they
-    // are trimmed again. Deliberate: a record that has run full empties itself.
+    // The copy runs from the far end, so the oldest entries stay, in reverse order, and the next load of a
+    // full record trims them again. Kept for compatibility: recent-list-cuts-itself.
     std::array<Text, 8> kept;
     for (int i = 0; i < 8; ++i)
         kept[static_cast<std::size_t>(i)] = Entry(RecentNext - i);
@@ -89,7 +89,8 @@ void RecentRecord::TrimWhenFull() {
 }
 
 bool RecentRecord::Update(TextView path, const Text& line) {
-    // A path that begins a longer one matches the longer one as well; the first in the list is taken.
+    // A path that begins a longer one matches that one too; the first in the list is taken. Kept for
+    // compatibility: recent-entry-by-containment.
     const auto end = RecentEntries.begin() + kEntries + 1;
     const auto found = std::find_if(RecentEntries.begin() + 1, end,
                                     [path](const Text& entry) { return ContainsIgnoringCase(entry, path); });

@@ -243,7 +243,7 @@ void frmFileList::LoadFiles() {
 }
 
 void frmFileList::TakePick(const ListRow& row) {
-    // Some lists of old mark lost files so in the place of the folder.
+    // Nothing writes this text. Kept for compatibility: lost-rows-by-text.
     if (!row.selected || InStr(row.texts[kLocation], u"found !") > 0) return;
     int offset = 0;
     ReadNumber(TextView(row.texts[kOffset]), offset);

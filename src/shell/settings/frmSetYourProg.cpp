@@ -40,7 +40,8 @@ void frmSetYourProg::cmdOK_Click() {
         app_.Messages().Show({u"Cannot find this program:\r\n\r\n" + program, MessageIcon::Exclamation});
         return;
     }
-    // As it stands, without looking for its other drive form, and the window stays. Deliberate.
+    // The program starts as it was typed, without a look for its other drive form, and the window stays. Kept
+    // for compatibility: your-program-started-as-given.
     StartProgram(app_, program);
 }
 

@@ -19,7 +19,7 @@ public:
     CheckBox chkAllowSorting{*this, "chkAllowSorting", u"Allow sorting on column header click"};
     CheckBox chkShowFileInfoAfterSave{*this, "chkShowFileInfoAfterSave", u"Show info after saving database"};
     CheckBox chkUseSmartQuotes{*this, "chkUseSmartQuotes", u"Use &smart quotes when typing in editor"};
-    /// Without an effect. Deliberate: the end of the program never asks.
+    /// It has no effect. Kept for compatibility: confirm-exit-inert.
     CheckBox chkConfirmExit{*this, "chkConfirmExit", u"Confirm exit of program"};
     TextBox txtBrowserLocation{*this, "txtBrowserLocation"};
     CommandButton cmdCustomBrowser{*this, "cmdCustomBrowser", u"Specify your browser"};

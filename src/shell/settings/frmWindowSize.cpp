@@ -39,7 +39,7 @@ struct Percentage {
     double tenths;
 };
 
-// From 85 on the sizes run one entry ahead of their names. Deliberate: users know the list by its outcome.
+// From 85 on, the sizes are one entry ahead of their names. Kept for compatibility: window-sizes-one-ahead.
 constexpr std::array<Percentage, 9> kPercentages{{
     {u"  30%", 3},
     {u"  40%", 4},
@@ -74,8 +74,8 @@ struct Axis {
 
     void Put(Place place) const {
         if (place == Place::Centre) return Centre();
-        // The offset is added to the half, so that it overshoots on a work area that doesn't start at 0.
-        // Deliberate.
+        // The start of the area is added to the half, so that the window leaves an area that doesn't start at
+        // 0. Kept for compatibility: half-sizes-overshoot.
         const double half = (areaLength - areaStart) / 2.0 + areaStart;
         start = place == Place::SecondHalf ? Nearest(half) : Twips{areaStart};
         length = place == Place::Whole ? Twips{areaLength} : Nearest(half);

@@ -84,7 +84,7 @@ bool LoadPipeline::ConfirmSeveral() {
 }
 
 bool LoadPipeline::IsLoaded(const Text& file) {
-    // Exactly as written: the same file in other case, or by its other drive form, loads twice. Deliberate.
+    // The paths are compared as they are written. Kept for compatibility: same-file-loads-twice.
     for (int slot = 1; slot <= tabs_.TabState.UpperBound(); ++slot) {
         const Text& path = tabs_.TabState[slot].Path;
         if (tabs_.TabState.InUse(slot) && !WithoutBlanks(path).empty() && path == file) return true;

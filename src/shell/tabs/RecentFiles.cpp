@@ -12,7 +12,7 @@ namespace korvane {
 
 namespace {
 
-/// A result that no button gives any more; what it asks for is kept for those that still know it.
+/// No button gives this result. Kept for compatibility: recent-result-two.
 constexpr std::int16_t kChooseFiles = 2;
 
 void GoToFolderOf(FileSystem& files, const Text& path) {
@@ -45,7 +45,8 @@ void ShowRecentFiles(frmMDIParent& main) {
     const std::int16_t result = ShowForResult(main.TheApp(), form);
     if (result < 1) return;
     if (result == kChooseFiles) return OpenFromRecord(main, {});
-    // The button for a new text comes here too, with no picks. Deliberate: it leads to no new tab.
+    // The button for a new text comes here too, without a pick. Kept for compatibility:
+    // new-text-opens-nothing.
     for (std::size_t i = 0; i < main.Recents().RecentPicks.size(); ++i)
         LoadPick(main, i);
 }
@@ -55,8 +56,8 @@ void DiscardPristineUntitled(frmMDIParent& main) {
     frmMDIChild* only = tabs.TabState.UpperBound() == 1 ? tabs.Document(1) : nullptr;
     if (only == nullptr || !only->Caption.Get().starts_with(u"Untitled")) return;
     TabState& state = tabs.TabState[1];
-    // Not the table's own mark: one that was typed into asks before it goes, and stays without a slot when
-    // the user refuses. Deliberate.
+    // This isn't the mark of the table: a table that was typed into asks before it goes, and stays without a
+    // slot when the user refuses. Kept for compatibility: untitled-tab-asks.
     if (state.Dirty != 0) return;
     tabs.Show(1);
     state.Discard = -1;

@@ -27,7 +27,7 @@ namespace {
 constexpr TextView kRootKey = u"Root";
 constexpr TextView kNodeKey = u"X_";
 
-// The third name has a slip of the pen. Deliberate: it is the entry's name.
+// One name is misspelt. Kept for compatibility: explorer-entry-misspelt.
 constexpr std::array kMenu{
     MenuEntry{0, "mnuFile", u"&File", ""},
     MenuEntry{1, "mnuSwitch", u"&Switch to text", ""},

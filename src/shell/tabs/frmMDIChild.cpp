@@ -101,8 +101,8 @@ void frmMDIChild::iGrid1_AfterEdit() {
 }
 
 void frmMDIChild::iGrid1_HeaderClick() {
-    // Taking the setting away doesn't take sorting away from a tab that has it. Deliberate: a table keeps
-    // behaving as it did when its headers were first clicked.
+    // A tab that sorts goes on sorting when the setting is taken away. Kept for compatibility:
+    // sorting-stays-on.
     if (app_.Settings.AllowSorting == 1) GridStore().SetSortOnHeaderClick(true);
     if (GridStore().SortOnHeaderClick()) table_.TableAltered = 1;
 }
