@@ -86,7 +86,7 @@ TEST(DirectoryLister, IsTheChooserForAllFilesUnderItsOwnCaption) {
     EXPECT_EQ(t.app.Settings.FileDialogFilter, u"0");
 }
 
-// Deliberate: a save that was given up leaves its mode and name to the lister.
+// Kept for compatibility: save-mode-stays.
 TEST(DirectoryLister, KeepsTheModeAndTheNameThatWereLeftLast) {
     TestApp t;
     t.app.Exchange<ListerRequest>().ListerMode = 1;

@@ -16,7 +16,8 @@ TEST(CheckFileName, PassesAGoodNameWithoutABox) {
 
 class CheckFileNameInStyle : public testing::TestWithParam<PathStyle> {};
 
-TEST_P(CheckFileNameInStyle, TellsTheFirstForbiddenCharacterOfItsOwnListDeliberately) {
+// Kept for compatibility: forbidden-character-order.
+TEST_P(CheckFileNameInStyle, TellsTheFirstForbiddenCharacterOfItsOwnList) {
     TestApp t(GetParam());
     t.user.Answer(
         {u"File name contains this forbidden character:    :\t\r\n\r\nPending operation will not be "

@@ -66,7 +66,8 @@ TEST_F(LaunchingOnWindows, AFolderIsNoProgram) {
     EXPECT_EQ(Started(u"C:\\Tools\\a.exe"), u"C:\\Korvane\\a.exe");
 }
 
-TEST_F(LaunchingOnWindows, AStartThatFailsIsSwallowedDeliberately) {
+// Kept for compatibility: failed-start-is-silent.
+TEST_F(LaunchingOnWindows, AStartThatFailsIsSwallowed) {
     t.shell.SetStartable([this](TextView program) { return t.files.FileExists(program); });
     EXPECT_EQ(LaunchProgram(t.app, u"C:\\Drive_G\\lost.exe", u"x"), 0);
     EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"C:\\Korvane\\lost.exe", {u"x"}}));
@@ -109,7 +110,8 @@ TEST_F(LaunchingOnWindows, AHostileFileNameIsNoMoreThanAWordOfTheArgument) {
         EXPECT_EQ(start.program, u"C:\\Korvane\\a.exe");
 }
 
-TEST_F(LaunchingOnWindows, LosesThePlaceOfANameWithoutAFolderToItsMirrorDeliberately) {
+// Kept for compatibility: drive-mirror-of-bare-name.
+TEST_F(LaunchingOnWindows, LosesThePlaceOfANameWithoutAFolderToItsMirror) {
     EXPECT_EQ(Started(u"a.exe"), u"C:\\Korvane\\Drive_a.exe");
 }
 
@@ -118,7 +120,8 @@ TEST_F(LaunchingOnWindows, ABlankArgumentIsNone) {
     EXPECT_THAT(Words(u"   "), SizeIs(0));
 }
 
-TEST_F(LaunchingOnWindows, NobodyQuotesTheArgumentDeliberately) {
+// Kept for compatibility: argument-not-quoted.
+TEST_F(LaunchingOnWindows, NobodyQuotesTheArgument) {
     EXPECT_THAT(Words(u" C:\\My Files\\x.txt "), ElementsAre(u"C:\\My", u"Files\\x.txt"));
 }
 
@@ -126,7 +129,8 @@ TEST_F(LaunchingOnWindows, AnArgumentInQuotesIsStrippedOfThemAndSplit) {
     EXPECT_THAT(Words(u"\"C:\\My Files\\x.txt\""), ElementsAre(u"C:\\My", u"Files\\x.txt"));
 }
 
-TEST_F(LaunchingOnWindows, AQuoteAnywhereTakesTheOuterCharactersWhateverTheyAreDeliberately) {
+// Kept for compatibility: argument-loses-outer-characters.
+TEST_F(LaunchingOnWindows, AQuoteAnywhereTakesTheOuterCharactersWhateverTheyAre) {
     EXPECT_THAT(Words(u"ab \"c d\" ef"), ElementsAre(u"b", u"c d", u"e"));
     EXPECT_THAT(Words(u"\""), SizeIs(0));
     EXPECT_THAT(Words(u"\"\""), SizeIs(0));
@@ -154,7 +158,8 @@ TEST_F(LaunchingOnWindows, KnowsTheNamesOfOfficeProgramsExactly) {
     EXPECT_EQ(FindOfficeProgram(t.app, u"winword.exe"), u"C:\\P\\\\Microsoft Office\\Office\\winword.exe");
 }
 
-TEST_F(LaunchingOnWindows, FindsOfficeInTheNewestOfItsFoldersWithTwoBackslashesInARowDeliberately) {
+// Kept for compatibility: office-path-two-backslashes.
+TEST_F(LaunchingOnWindows, FindsOfficeInTheNewestOfItsFoldersWithTwoBackslashesInARow) {
     t.app.Exchange<SystemDirs>().ProgramFilesDir = u"C:\\P\\";
     t.app.Settings.ExcelPath = u"C:\\lost\\EXCEL.EXE";
     EXPECT_EQ(FindOfficeProgram(t.app, u"EXCEL.EXE"), u"C:\\P\\\\Microsoft Office\\Office\\EXCEL.EXE");

@@ -35,7 +35,8 @@ TEST_F(StandardMessages, CannotLocateTakesTheHourglassAway) {
     EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
 }
 
-TEST_F(StandardMessages, CannotLocateSaysThatAnEmptyNameIsEmptyAlsoToItsCallerDeliberately) {
+// Kept for compatibility: cannot-locate-names-empty.
+TEST_F(StandardMessages, CannotLocateSaysThatAnEmptyNameIsEmptyAlsoToItsCaller) {
     t.user.Answer(
         {u"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\n"
          u"Check the path before the name and see whether\r\nthe program/file exists on your hard disk.",

@@ -40,7 +40,8 @@ TEST_F(WindowFitting, OtherWindowsStand600TwipsInside) {
     EXPECT_EQ(Fit(other, Place(0, 0, 0, 0)), Place(750, 660, 4800, 3200));
 }
 
-TEST_F(WindowFitting, TheDefaultsDoNotReachTheStoredValuesDeliberately) {
+// Kept for compatibility: fit-keeps-stored-zeros.
+TEST_F(WindowFitting, TheDefaultsDoNotReachTheStoredValues) {
     Fit(main, Place(0, 0, 0, 0));
     EXPECT_EQ(place, Place(0, 0, 0, 0));
 }
@@ -60,7 +61,8 @@ TEST_F(WindowFitting, AWindowPartlyOffTheEdgeMovesBackWithItsSize) {
     EXPECT_EQ(Fit(other, Place(1000, 9000, 9000, 8000)), Place(1000, 6460, 9000, 8000));
 }
 
-TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkAreaDeliberately) {
+// Kept for compatibility: fit-without-area-start.
+TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkArea) {
     // Its right edge lies inside the work area, and yet it moves.
     EXPECT_EQ(Fit(main, Place(11001, 2000, 9000, 8000)), Place(10850, 2000, 9000, 8000));
 }
@@ -77,7 +79,8 @@ TEST_F(WindowFitting, AWindowExactlyAsLargeAsTheWorkAreaIsNotMadeSmaller) {
     EXPECT_EQ(place, Place(10, 10, 20000, 15000));
 }
 
-TEST_F(WindowFitting, AStoredZeroLeavesTheWindowOverTheEdgeDeliberately) {
+// Kept for compatibility: fit-keeps-stored-zeros.
+TEST_F(WindowFitting, AStoredZeroLeavesTheWindowOverTheEdge) {
     EXPECT_EQ(Fit(main, Place(0, 0, 20000, 15000)), Place(450, 360, 20000, 15000));
 }
 

@@ -67,7 +67,8 @@ TEST_F(DockingTest, RightWithStretchFillsTheSpace) {
     EXPECT_EQ(PlaceOf(window), MakeRect(21400, 700, 7000, 9000));
 }
 
-TEST_F(DockingTest, ExactlyFiveThousandOnTheLeftIsRefusedDeliberately) {
+// Kept for compatibility: docking-needs-5000.
+TEST_F(DockingTest, ExactlyFiveThousandOnTheLeftIsRefused) {
     owner.Left = Twips{5400};
     t.user.Answer(kNoRoom, Answer::Ok);
     DockLeftOf(t.app, owner, window, Stretch::FillSpace);
@@ -77,7 +78,8 @@ TEST_F(DockingTest, ExactlyFiveThousandOnTheLeftIsRefusedDeliberately) {
     EXPECT_EQ(window.Width.Get(), Twips{5001});
 }
 
-TEST_F(DockingTest, ExactlyFiveThousandOnTheRightIsRefusedDeliberately) {
+// Kept for compatibility: docking-needs-5000.
+TEST_F(DockingTest, ExactlyFiveThousandOnTheRightIsRefused) {
     owner.Width = Twips{28000 - 5000 - 6400};
     t.user.Answer(kNoRoom, Answer::Ok);
     DockRightOf(t.app, owner, window, Stretch::FillSpace);

@@ -79,7 +79,8 @@ TEST_F(MyInputBoxTest, EscIsCancel) {
     EXPECT_TRUE(frmMyInputBox(t.app).cmdCancel.Cancel);
 }
 
-TEST_F(MyInputBoxTest, OkWithAnEmptyFieldGivesAnEmptyResultAndOneDeliberately) {
+// Kept for compatibility: input-empty-and-cancel.
+TEST_F(MyInputBoxTest, OkWithAnEmptyFieldGivesAnEmptyResultAndOne) {
     t.user.On<frmMyInputBox>([](frmMyInputBox& f) {
         f.txtBoxText.Text = u"";
         f.cmdOk.Press();

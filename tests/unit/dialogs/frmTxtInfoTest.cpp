@@ -42,7 +42,8 @@ TEST_F(TxtInfoTest, PutsTheFactsInTheClipboard) {
               u"\r\nFile: a.txt\r\nPath: D:\\Data\r\nSize: 1,234 bytes\r\nArchived: today\r\n\r\n");
 }
 
-TEST_F(TxtInfoTest, ASizeThatNamesItsBytesHasTheWordTwiceDeliberately) {
+// Kept for compatibility: bytes-twice.
+TEST_F(TxtInfoTest, ASizeThatNamesItsBytesHasTheWordTwice) {
     EXPECT_EQ(Clip({u"a", u"b", u"1,234 bytes", u"c"}),
               u"\r\nFile: a\r\nPath: b\r\nSize: 1,234 bytes bytes\r\nArchived: c\r\n\r\n");
 }

@@ -100,7 +100,8 @@ TEST_F(Design, GivesTheTableItsLook) {
     EXPECT_EQ(on.host.shownRowHeights, std::vector<std::int16_t>{24});
 }
 
-TEST_F(Design, LeavesSortingAsItWasWhateverTheSettingsDeliberately) {
+// Kept for compatibility: design-leaves-sorting.
+TEST_F(Design, LeavesSortingAsItWasWhateverTheSettings) {
     on.program.app.Settings.AllowSorting = 1;
     Make({u"Name"});
     EXPECT_FALSE(on.grid.SortOnHeaderClick());
@@ -164,7 +165,8 @@ TEST_F(Design, ItsFirstSaveGoesOnAsSaveAs) {
     EXPECT_EQ(again.grid.RowCount(), Row{8});
 }
 
-TEST_F(Design, AnExistingFileOfTheDefaultNameIsOverwrittenBySaveWithoutAskingDeliberately) {
+// Kept for compatibility: design-overwrites-file.
+TEST_F(Design, AnExistingFileOfTheDefaultNameIsOverwrittenBySaveWithoutAsking) {
     const Text path = u"C:\\Work\\NewTextDatabase.tbx";
     on.program.files.AddFile(path, "of before");
     Make({u"Name"});
@@ -173,7 +175,8 @@ TEST_F(Design, AnExistingFileOfTheDefaultNameIsOverwrittenBySaveWithoutAskingDel
     EXPECT_EQ(table.TableAltered, 0);
 }
 
-TEST_F(Design, AddsItsColumnsToThoseOfTheGridAndClearsNothingDeliberately) {
+// Kept for compatibility: design-adds-columns.
+TEST_F(Design, AddsItsColumnsToThoseOfTheGridAndClearsNothing) {
     on.grid.AddCol(u"1no", u"Old");
     on.grid.SetColWidth(Col{1}, 77);
     on.grid.SetRowCount(Row{2});
@@ -188,7 +191,8 @@ TEST_F(Design, AddsItsColumnsToThoseOfTheGridAndClearsNothingDeliberately) {
     EXPECT_EQ(on.grid.ColWidth(Col{1}), 240);
 }
 
-TEST_F(Design, DropsTheRowsBeyondEightDeliberately) {
+// Kept for compatibility: design-has-eight-rows.
+TEST_F(Design, DropsTheRowsBeyondEight) {
     on.grid.AddCol(u"1no", u"Old");
     on.grid.SetRowCount(Row{20});
     on.grid.SetCellValue(Row{8}, Col{1}, u"kept");
@@ -198,7 +202,8 @@ TEST_F(Design, DropsTheRowsBeyondEightDeliberately) {
     EXPECT_EQ(on.grid.CellValue(Row{8}, Col{1}), u"kept");
 }
 
-TEST_F(Design, ASecondOneGrowsATableBeyondItsMostColumnsDeliberately) {
+// Kept for compatibility: design-adds-columns.
+TEST_F(Design, ASecondOneGrowsATableBeyondItsMostColumns) {
     Make(std::vector<Text>(24, u"x"));
     table.TableAltered = 0;
     Make(std::vector<Text>(24, u"y"));
@@ -226,7 +231,8 @@ TEST_F(Design, ACancelLeavesTheTabAsItIs) {
     EXPECT_TRUE(on.host.captions.empty());
 }
 
-TEST_F(Design, ACancelTakesTheTitlesOfAnEarlierDesignAgainDeliberately) {
+// Kept for compatibility: design-cancel-takes-titles.
+TEST_F(Design, ACancelTakesTheTitlesOfAnEarlierDesignAgain) {
     Make({u"Name"});
     table.TableAltered = 0;
     table.TxtDbFile.clear();

@@ -126,7 +126,8 @@ TEST_F(Import, AClipboardWithoutTextMakesOneEmptyCellToo) {
     EXPECT_EQ(Cell(1, 1), u"");
 }
 
-TEST_F(Import, OfCrLfTheCrStaysInTheLastCellDeliberately) {
+// Kept for compatibility: import-keeps-cr.
+TEST_F(Import, OfCrLfTheCrStaysInTheLastCell) {
     Take(u"a\tb\r\nc\td\r\n");
     ExpectSize(2, 2);
     EXPECT_EQ(Cell(1, 1), u"a");
@@ -162,7 +163,8 @@ TEST_F(Import, ShorterLinesLeaveTheirLastCellsEmpty) {
     EXPECT_EQ(Cell(3, 2), u"e");
 }
 
-TEST_F(Import, AddsItsColumnsBehindThoseOfTheGridAndWritesFromTheFirstOneDeliberately) {
+// Kept for compatibility: import-adds-columns.
+TEST_F(Import, AddsItsColumnsBehindThoseOfTheGridAndWritesFromTheFirstOne) {
     on.grid.AddCol(u"1no", u"Old");
     on.grid.SetColWidth(Col{1}, 77);
     on.grid.SetRowCount(Row{3});
@@ -181,7 +183,8 @@ TEST_F(Import, AddsItsColumnsBehindThoseOfTheGridAndWritesFromTheFirstOneDeliber
     EXPECT_EQ(Cell(2, 3), u"");
 }
 
-TEST_F(Import, AnEmptyCellIsWrittenOnlyWhereATabOrALineEndClosesItDeliberately) {
+// Kept for compatibility: import-unclosed-cell.
+TEST_F(Import, AnEmptyCellIsWrittenOnlyWhereATabOrALineEndClosesIt) {
     on.grid.SetColCount(Col{2});
     on.grid.SetRowCount(Row{2});
     for (Row row{1}; row <= Row{2}; ++row)
@@ -194,7 +197,8 @@ TEST_F(Import, AnEmptyCellIsWrittenOnlyWhereATabOrALineEndClosesItDeliberately) 
     EXPECT_EQ(Cell(2, 2), u"old");
 }
 
-TEST_F(Import, FortyColumnsAreTakenThoughTheirFileCannotBeLoadedAgainDeliberately) {
+// Kept for compatibility: import-takes-any-width.
+TEST_F(Import, FortyColumnsAreTakenThoughTheirFileCannotBeLoadedAgain) {
     Take(Text(39, u'\t') + u"last");
     ExpectSize(1, 40);
     EXPECT_EQ(Cell(1, 40), u"last");
@@ -211,7 +215,8 @@ TEST_F(Import, FortyColumnsAreTakenThoughTheirFileCannotBeLoadedAgainDeliberatel
     EXPECT_EQ(again.grid.RowCount(), Row{0});
 }
 
-TEST_F(Import, ItsFirstSaveAsksForANameAndWritesNoLookDeliberately) {
+// Kept for compatibility: import-has-no-look.
+TEST_F(Import, ItsFirstSaveAsksForANameAndWritesNoLook) {
     Take(u"a\tb\r\nc\td");
     user.Answer({u"Cannot save this file: \r\n\r\nUntitled_1.tbx\r\n\r\nTry saving it explicitly.",
                  MessageIcon::Stop},
@@ -232,7 +237,8 @@ TEST_F(Import, ItsFirstSaveAsksForANameAndWritesNoLookDeliberately) {
     EXPECT_EQ(again.grid.CellValue(Row{2}, Col{2}), u"d");
 }
 
-TEST_F(Import, SetsTheHeightOfTheFirstRowAndOfThoseThatEndButNotOfAnUnfinishedOneDeliberately) {
+// Kept for compatibility: import-row-heights.
+TEST_F(Import, SetsTheHeightOfTheFirstRowAndOfThoseThatEndButNotOfAnUnfinishedOne) {
     Take(u"a\nb\nc");
     EXPECT_TRUE(on.grid.HasRowHeight(Row{1}));
     EXPECT_TRUE(on.grid.HasRowHeight(Row{2}));
@@ -246,13 +252,15 @@ TEST_F(Import, AnUnfinishedFirstLineHasItsHeight) {
     EXPECT_EQ(on.grid.RowHeight(Row{1}), 24);
 }
 
-TEST_F(Import, ShowsNoCheckBoxesDeliberately) {
+// Kept for compatibility: import-has-no-look.
+TEST_F(Import, ShowsNoCheckBoxes) {
     Take(u"a\nb\n");
     EXPECT_FALSE(on.grid.CellCheckShown(Row{1}));
     EXPECT_FALSE(on.grid.CellCheckShown(Row{2}));
 }
 
-TEST_F(Import, LeavesTheNamesAndTheLookThatASaveWritesAsTheyWereDeliberately) {
+// Kept for compatibility: import-has-no-look.
+TEST_F(Import, LeavesTheNamesAndTheLookThatASaveWritesAsTheyWere) {
     table.SetRowHeight = std::int16_t{40};
     table.TableFontName = u"Arial";
     Take(u"a\tb");
@@ -274,14 +282,16 @@ TEST_F(Import, SortsByHeadersAsTheSettingsSay) {
     EXPECT_FALSE(on.grid.SortOnHeaderClick());
 }
 
-TEST_F(Import, KeepsTheTabsNameForItsFileDeliberately) {
+// Kept for compatibility: import-keeps-tab-name.
+TEST_F(Import, KeepsTheTabsNameForItsFile) {
     Take(u"a");
     EXPECT_EQ(table.TxtDbFile, u"Untitled_1.tbx");
     EXPECT_EQ(on.host.captions, std::vector<Text>{u"Untitled_1.tbx"});
     EXPECT_EQ(table.TableAltered, 1);
 }
 
-TEST_F(Import, HasTheDefaultNameWhileMessagesRunBeforeTheTextIsReadDeliberately) {
+// Kept for compatibility: import-keeps-tab-name.
+TEST_F(Import, HasTheDefaultNameWhileMessagesRunBeforeTheTextIsRead) {
     Text during;
     on.program.screen.QueueMessage([&] { during = table.TxtDbFile; });
     Take(u"a");

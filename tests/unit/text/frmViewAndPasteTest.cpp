@@ -120,7 +120,8 @@ TEST_F(ViewAndPaste, AnEmptyTextSaysSoToo) {
     Look([](frmViewAndPaste& f) { EXPECT_EQ(f.TXTextControl1.Text.Get(), kNoText); });
 }
 
-TEST_F(ViewAndPaste, OpensOnThePlainRenderingDeliberately) {
+// Kept for compatibility: clipboard-view-opens-plain.
+TEST_F(ViewAndPaste, OpensOnThePlainRendering) {
     Put(u"text");
     Look([](frmViewAndPaste& f) {
         EXPECT_EQ(f.ClipViewMode, 2);
@@ -247,7 +248,8 @@ TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingPutsItsSelectionOnly) {
     EXPECT_EQ(window.inserted, (std::vector<Text>{u"two", u"one"}));
 }
 
-TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingWithoutASelectionWritesNothingDeliberately) {
+// Kept for compatibility: retrieve-takes-selection.
+TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingWithoutASelectionWritesNothing) {
     FakeTextWindow window(t.app);
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"text");
@@ -385,7 +387,8 @@ TEST_F(ViewAndPaste, ACancelledSaveWritesNothing) {
     EXPECT_EQ(t.files.Contents(u"C:\\clip.txt"), "of before");
 }
 
-TEST_F(ViewAndPaste, ASaveThatFailsIsSilentDeliberately) {
+// Kept for compatibility: clipboard-save-is-silent.
+TEST_F(ViewAndPaste, ASaveThatFailsIsSilent) {
     FakeSystemFileDialog dialog(t.app);
     dialog.answer = u"C:\\missing\\clip.txt";
     Put(u"text");

@@ -45,17 +45,20 @@ TEST(MapDrivePath, TurnsTheMirrorIntoTheDrive) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\Data\\x", Only({u"G:\\Data\\x"})), u"G:\\Data\\x");
 }
 
-TEST(MapDrivePath, DoesNotTestTheOtherFormDeliberately) {
+// Kept for compatibility: drive-form-not-tested.
+TEST(MapDrivePath, DoesNotTestTheOtherForm) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\a.exe"), u"G:\\a.exe");
     EXPECT_EQ(MapOnWindows(u"Q:\\x"), u"C:\\Drive_Q\\x");
 }
 
-TEST(MapDrivePath, SearchesNoOtherDriveDeliberately) {
+// Kept for compatibility: drive-form-not-tested.
+TEST(MapDrivePath, SearchesNoOtherDrive) {
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_G\\a.exe", Only({u"D:\\Drive_G\\a.exe", u"E:\\a.exe"})), u"G:\\a.exe");
     EXPECT_EQ(MapOnWindows(u"Q:\\x", Only({u"D:\\Drive_Q\\x"})), u"C:\\Drive_Q\\x");
 }
 
-TEST(MapDrivePath, PutsANameWithoutADriveWhollyIntoTheMirrorDeliberately) {
+// Kept for compatibility: drive-mirror-of-bare-name.
+TEST(MapDrivePath, PutsANameWithoutADriveWhollyIntoTheMirror) {
     EXPECT_EQ(MapOnWindows(u"x.txt"), u"C:\\Drive_x.txt");
     EXPECT_EQ(MapOnWindows(u"x"), u"C:\\Drive_x");
     EXPECT_EQ(MapOnWindows(u"sub\\x.txt"), u"C:\\Drive_sub\\x.txt");

@@ -27,7 +27,8 @@ TEST(MakeFileName, ChangesTheTextButKeepsItsBlanks) {
     EXPECT_EQ(text, u"war and peace");
 }
 
-TEST(MakeFileName, LeavesALastWordOfOneLetterAloneDeliberately) {
+// Kept for compatibility: names-last-letter.
+TEST(MakeFileName, LeavesALastWordOfOneLetterAlone) {
     EXPECT_EQ(TitleName(u"the end of a day"), u"The_End_of_a_Day");
     EXPECT_EQ(TitleName(u"plan b"), u"Plan_b");
     EXPECT_EQ(TitleName(u"plan bc"), u"Plan_Bc");
@@ -38,7 +39,8 @@ TEST(MakeFileName, KeepsEverySmallWordOfItsListSmall) {
               u"X_and_or_in_an_to_by_of_on_the_a_for_over_about_with_both_through_x");
 }
 
-TEST(MakeFileName, CapitalisesTheSmallWordsOfTextsDeliberately) {
+// Kept for compatibility: names-small-words.
+TEST(MakeFileName, CapitalisesTheSmallWordsOfTexts) {
     EXPECT_EQ(TitleName(u"x as is at are how why from into xx"), u"X_As_Is_At_Are_How_Why_From_Into_Xx");
 }
 
@@ -74,12 +76,14 @@ TEST(SmartUpper, SetsTheCapitalsOfATitle) {
     EXPECT_EQ(SmartUpper(u"the cat, and the dog", u' '), u"The Cat, and the Dog");
 }
 
-TEST(SmartUpper, CapitalisesASmallWordAtTheVeryEndDeliberately) {
+// Kept for compatibility: names-small-words.
+TEST(SmartUpper, CapitalisesASmallWordAtTheVeryEnd) {
     EXPECT_EQ(SmartUpper(u"for a", u' '), u"For A");
     EXPECT_EQ(SmartUpper(u"carry on", u' '), u"Carry On");
 }
 
-TEST(SmartUpper, CapitalisesASmallWordWithoutABlankRightBehindItDeliberately) {
+// Kept for compatibility: names-small-words.
+TEST(SmartUpper, CapitalisesASmallWordWithoutABlankRightBehindIt) {
     EXPECT_EQ(SmartUpper(u"carry on, and on.", u' '), u"Carry On, and On.");
     EXPECT_EQ(SmartUpper(u"an on-off switch", u' '), u"An On-Off Switch");
 }
@@ -113,7 +117,8 @@ TEST(SmartUpper, OfNothingIsNothing) {
     EXPECT_EQ(SmartUpper(u"", u' '), u"");
 }
 
-TEST(ForbiddenCharacter, IsFoundInTheOrderOfItsOwnListDeliberately) {
+// Kept for compatibility: forbidden-character-order.
+TEST(ForbiddenCharacter, IsFoundInTheOrderOfItsOwnList) {
     EXPECT_EQ(ForbiddenCharacter(u"a:b*c"), u':');
     EXPECT_EQ(ForbiddenCharacter(u"a*b:c"), u':');
     EXPECT_EQ(ForbiddenCharacter(u"|<>\"*:?/\\"), u'\\');

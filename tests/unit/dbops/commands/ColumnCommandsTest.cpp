@@ -178,7 +178,8 @@ TEST_F(InsertingAColumn, LeavesColoursFlagsAndWidthsAtTheirPositions) {
     EXPECT_NE(t.grid.ColWidth(Col{3}), 77);
 }
 
-TEST_F(InsertingAColumn, DeliberatelyDoesNotShiftColumnNamesSoThatASecondInsertTakesStaleCaptions) {
+// Kept for compatibility: column-names-not-shifted.
+TEST_F(InsertingAColumn, DoesNotShiftColumnNamesSoThatASecondInsertTakesStaleCaptions) {
     t.GoTo(1, 2);
     mnuEdit_InsertColumn_Clack(t.tab);
     EXPECT_EQ(Names(4), (Texts{u"One", u"NEW", u"Three", u""}));
@@ -215,7 +216,8 @@ TEST_F(InsertingIntoAWideTable, GrowsTo23Columns) {
     EXPECT_EQ(t.Cell(1, 23), u"22");
 }
 
-TEST_P(InsertingIntoAWideTable, DeliberatelyKeepsTheColumnCountAndLosesTheLastColumnsText) {
+// Kept for compatibility: insert-column-full-table.
+TEST_P(InsertingIntoAWideTable, KeepsTheColumnCountAndLosesTheLastColumnsText) {
     const int cols = GetParam();
     Widen(cols);
     t.GoTo(1, 3);
@@ -308,7 +310,8 @@ TEST_F(RemovingAColumn, AsksAndTakesItsCellsAway) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(RemovingAColumn, DeliberatelyLeavesColumnNamesAsTheyWere) {
+// Kept for compatibility: column-names-not-shifted.
+TEST_F(RemovingAColumn, LeavesColumnNamesAsTheyWere) {
     t.GoTo(1, 2);
     t.user.Answer(Answer::Yes);
     mnuEdit_DeleteColumn_Clack(t.tab);
@@ -329,7 +332,8 @@ TEST_F(RemovingAColumn, LeavesItOnNo) {
     EXPECT_EQ(t.table.TableAltered, 0);
 }
 
-TEST_F(RemovingAColumn, DeliberatelyTakesCheckBoxesAndMarksWithTheFirstOne) {
+// Kept for compatibility: first-column-takes-marks.
+TEST_F(RemovingAColumn, TakesCheckBoxesAndMarksWithTheFirstOne) {
     t.grid.SetCellCheckShown(Row{1}, true);
     t.Tick({1});
     t.SetCell(2, 1, u"---");
@@ -376,7 +380,8 @@ TEST_F(RefreshingWidths, RoundsAHalfToTheEvenNumber) {
     EXPECT_EQ(t.grid.ColWidth(Col{4}), 12);
 }
 
-TEST_F(RefreshingWidths, DeliberatelyDoesNotCountAsAChange) {
+// Kept for compatibility: widths-are-no-change.
+TEST_F(RefreshingWidths, DoesNotCountAsAChange) {
     t.host.gridWidth = Twips{9300};
     MnuEdit_RefreshColumnWidths_Clack(t.tab);
     EXPECT_EQ(t.table.TableAltered, 0);

@@ -63,7 +63,8 @@ TEST_F(ColumnSum, TheNewRowHasACheckBoxAndTheHeightOfTheFirst) {
     EXPECT_EQ(t.grid.RowHeight(Row{4}), 57);
 }
 
-TEST_F(ColumnSum, DeliberatelyLeavesTheTableUnaltered) {
+// Kept for compatibility: sum-is-no-change.
+TEST_F(ColumnSum, LeavesTheTableUnaltered) {
     Add();
     EXPECT_EQ(t.table.TableAltered, 0);
 }
@@ -82,7 +83,8 @@ TEST_F(ColumnSum, InColumn1TheSumStandsAlone) {
     EXPECT_EQ(t.Cell(4, 2), u"");
 }
 
-TEST_F(ColumnSum, DeliberatelyAsksByTheNameAsReadOrDesigned) {
+// Kept for compatibility: sum-asks-by-old-name.
+TEST_F(ColumnSum, AsksByTheNameAsReadOrDesigned) {
     t.grid.SetColHeaderText(Col{2}, u"Another caption");
     AnswerRange();
     AnswerQuestion(u"Amount", Answer::No);
@@ -155,7 +157,8 @@ TEST_F(ColumnSum, ANumberTooLargeToBeAddedLeavesTheSumAsItWas) {
     EXPECT_EQ(TotalOf({u"1", Text(400, u'9'), u"2"}), u"3");
 }
 
-TEST_F(ColumnSum, DeliberatelyASecondSumAddsTheFirstTotal) {
+// Kept for compatibility: second-sum-adds-first.
+TEST_F(ColumnSum, ASecondSumAddsTheFirstTotal) {
     Add();
     t.SetCell(3, 2, u"4");
     Add();

@@ -82,7 +82,8 @@ TEST_F(CopyCommands, AnEmptyTableGivesAnEmptyCellAndABareLineEnd) {
 
 // A column.
 
-TEST_F(CopyCommands, DeliberatelyRunsTheValuesOfAColumnTogether) {
+// Kept for compatibility: copied-column-runs-together.
+TEST_F(CopyCommands, RunsTheValuesOfAColumnTogether) {
     t.GoTo(1, 2);
     EXPECT_EQ(CopiedColumn(), u"b1b2b3");
     EXPECT_EQ(clipboardView.shown, 1);
@@ -186,7 +187,8 @@ TEST_F(CopyCommands, ACancelledDelimiterStopsTheCopy) {
     EXPECT_EQ(t.watcher.focusWanted, 0);
 }
 
-TEST_F(CopyCommands, DeliberatelyEndsARecordWithoutTheLastColumnInItsDelimiter) {
+// Kept for compatibility: copied-record-ends.
+TEST_F(CopyCommands, EndsARecordWithoutTheLastColumnInItsDelimiter) {
     EXPECT_EQ(CopiedTable({2}), u"a1\tb1\t\r\n\r\n"
                                 u"a2\tb2\t\r\n\r\n"
                                 u"a3\tb3\t\r\n\r\n");
@@ -226,7 +228,8 @@ TEST_F(CopyCommands, ADelimiterBehindALineEndHidesIt) {
     EXPECT_EQ(CopiedTable({2}), u"a1\tb1\r\n\t\r\n\r\n");
 }
 
-TEST_F(CopyCommands, DeliberatelyCopiesRowsMarkedForDeletionWithTheirMark) {
+// Kept for compatibility: copies-take-all-rows.
+TEST_F(CopyCommands, CopiesRowsMarkedForDeletionWithTheirMark) {
     t.SetCell(2, 1, u"---");
     EXPECT_EQ(CopiedTable({1}), u"a1\tc1\r\n\r\n---\tc2\r\n\r\na3\tc3\r\n\r\n");
 }
@@ -245,7 +248,8 @@ TEST_F(CopyCommands, CopiesATickedRowThatIsHidden) {
     EXPECT_EQ(t.clipboard.GetText(), u"a2\tb2\tc2\r\n\r\n");
 }
 
-TEST_F(CopyCommands, DeliberatelyTheLineBreakBoxHasNoEffectOnTheOutput) {
+// Kept for compatibility: line-break-box-without-effect.
+TEST_F(CopyCommands, TheLineBreakBoxHasNoEffectOnTheOutput) {
     t.user.On<frmDelimiterType>([](frmDelimiterType& f) {
         f.chkBreakAfterFieldThree.Press();
         f.cmdProceed.Press();

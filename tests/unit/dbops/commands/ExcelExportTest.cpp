@@ -82,12 +82,14 @@ TEST_F(ExcelExport, ProposesTheNameUpToItsLastDotWithXlsBehind) {
     EXPECT_EQ(ProposedFor(u"C:\\Data\\my.old.table.tbx"), u"C:\\Data\\my.old.table.xls");
 }
 
-TEST_F(ExcelExport, DeliberatelyProposesXlsAloneForANameWithoutADot) {
+// Kept for compatibility: export-name-after-last-dot.
+TEST_F(ExcelExport, ProposesXlsAloneForANameWithoutADot) {
     EXPECT_EQ(ProposedFor(u"C:\\Data\\table"), u"xls");
     EXPECT_EQ(ProposedFor(u""), u"xls");
 }
 
-TEST_F(ExcelExport, DeliberatelyTakesADotInAFoldersNameForTheLastOne) {
+// Kept for compatibility: export-name-after-last-dot.
+TEST_F(ExcelExport, TakesADotInAFoldersNameForTheLastOne) {
     EXPECT_EQ(ProposedFor(u"C:\\my.data\\table"), u"C:\\my.xls");
 }
 
@@ -123,7 +125,8 @@ TEST_F(ExcelExport, ATableWithoutColumnsGivesAnEmptyWorkbook) {
                 ElementsAre("add workbook", "save C:\\Other\\out.xls as -4143", "select A1", "visible"));
 }
 
-TEST_F(ExcelExport, DeliberatelyRowsMarkedForDeletionGoOutWithTheirMark) {
+// Kept for compatibility: export-takes-all-rows.
+TEST_F(ExcelExport, RowsMarkedForDeletionGoOutWithTheirMark) {
     t.SetCell(2, 1, u"---");
     Run();
     EXPECT_THAT(Data(), ElementsAre("A2=a1", "B2=b1", "A3=---", "B3=b2", "A4=a3", "B4=b3"));
@@ -144,7 +147,8 @@ TEST_F(ExcelExport, EmptyCellsAndCellsOfSeveralLinesGoOutAsTheyAre) {
                 ElementsAre("A2=", "B2=b1", "A3=one\r\ntwo\r\n", "B3=b2", "A4==\xE4\xB8\xAD", "B4=b3"));
 }
 
-TEST_F(ExcelExport, DeliberatelyTakesNoWidthsFromTheTable) {
+// Kept for compatibility: export-own-widths.
+TEST_F(ExcelExport, TakesNoWidthsFromTheTable) {
     t.grid.SetColWidth(Col{1}, 700);
     Run();
     EXPECT_THAT(t.spreadsheetSteps, Contains("width of A:A 32"));

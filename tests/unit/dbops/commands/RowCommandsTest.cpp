@@ -46,7 +46,8 @@ TEST_F(AddingRows, AppendsAnEmptyRowWithACheckBoxAndGoesThere) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(AddingRows, DeliberatelyGivesTheRowThatWasTheLastOneTheFixedHeightToo) {
+// Kept for compatibility: added-rows-set-last-height.
+TEST_F(AddingRows, GivesTheRowThatWasTheLastOneTheFixedHeightToo) {
     SetAllHeights(40);
     t.table.SetRowHeight = 40;
     mnuEdit_AddOneRow_Clack(t.tab);
@@ -154,7 +155,8 @@ TEST_F(MovingRows, UpOnTheFirstRowDoesNothingButTakeTheFocus) {
     EXPECT_EQ(t.table.TableAltered, 0);
 }
 
-TEST_F(MovingRows, DeliberatelyLeaveTicksColoursFlagsAndHeightsWhereTheyAre) {
+// Kept for compatibility: moves-swap-texts-only.
+TEST_F(MovingRows, LeaveTicksColoursFlagsAndHeightsWhereTheyAre) {
     const Row first{1};
     t.Tick({1});
     t.grid.SetRowBackColor(first, Colour{255});
@@ -286,7 +288,8 @@ TEST_F(MarkingRows, TellsTheShownGridOfAMassMarkingOnceBeforeItRefreshes) {
     EXPECT_EQ(t.watcher.refreshes, 2);
 }
 
-TEST_F(MarkingRows, DeliberatelyStaysOnTheCurrentRowAfterMarkingTickedOnes) {
+// Kept for compatibility: marking-stays-on-row.
+TEST_F(MarkingRows, StaysOnTheCurrentRowAfterMarkingTickedOnes) {
     t.GoTo(2, 2);
     t.Tick({3});
     t.user.Answer(Answer::Yes);

@@ -41,7 +41,8 @@ TEST_F(RowHeight, TheCommandSetsAllRowsToTheChosenHeight) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(RowHeight, DeliberatelyCountsAsAChangeEvenAfterACancel) {
+// Kept for compatibility: row-height-counts-after-cancel.
+TEST_F(RowHeight, CountsAsAChangeEvenAfterACancel) {
     t.table.SetRowHeight = 50;
     t.app.DialogResult = 1;
     t.user.On<frmSetRowHeight>([](frmSetRowHeight& window) {
@@ -106,7 +107,8 @@ TEST_F(RowHeight, TheMovingSliderTakesTheHeightOverAndLeavesTheRows) {
     }
 }
 
-TEST_F(RowHeight, TheSliderDeliberatelyIgnoresHeightsOutsideItsRange) {
+// Kept for compatibility: row-height-box-goes-further.
+TEST_F(RowHeight, TheSliderIgnoresHeightsOutsideItsRange) {
     t.table.SetRowHeight = 30;
     for (const int height : {-1, 0, 12, 361, 70000}) {
         MoveRowHeight(t.tab, height);
@@ -141,7 +143,8 @@ TEST_F(RowHeight, TheTypedHeightIsShownAndAppliedToAllRows) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(RowHeight, TheBoxDeliberatelyReachesHeightsThatTheSliderRefuses) {
+// Kept for compatibility: row-height-box-goes-further.
+TEST_F(RowHeight, TheBoxReachesHeightsThatTheSliderRefuses) {
     for (const int height : {5, 12, 361, 500}) {
         ApplyTypedRowHeight(t.tab, NumberText(height));
         EXPECT_EQ(t.table.SetRowHeight, height);

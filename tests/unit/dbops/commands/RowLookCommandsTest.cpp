@@ -113,7 +113,8 @@ TEST_P(FontFlags, LeaveAMixedRowMixed) {
     EXPECT_EQ(FlagsOf(2), (Flags{true, false}));
 }
 
-TEST_P(FontFlags, DeliberatelyDoNotCountAsAChange) {
+// Kept for compatibility: font-flags-are-no-change.
+TEST_P(FontFlags, DoNotCountAsAChange) {
     GetParam().run(t.tab);
     EXPECT_EQ(t.table.TableAltered, 0);
 }
@@ -155,7 +156,8 @@ protected:
     }
 };
 
-TEST_F(RowColourCommand, DeliberatelyColoursTheCurrentRowAloneWhateverIsTicked) {
+// Kept for compatibility: colour-for-current-row.
+TEST_F(RowColourCommand, ColoursTheCurrentRowAloneWhateverIsTicked) {
     t.Tick({1, 3});
     Choose(kYellow, &frmRowColour::cmdAccept);
     Run();
@@ -215,7 +217,8 @@ TEST_F(RowColourCommand, CountsAsAChangeEvenWhenNothingWasSelected) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(RowColourCommand, DeliberatelyDoesNotFindRowsThatTheKeyMadeYellow) {
+// Kept for compatibility: two-yellows.
+TEST_F(RowColourCommand, DoesNotFindRowsThatTheKeyMadeYellow) {
     ColourCurrentRowByKey(t.tab, kYellow);
     Choose(kYellow, &frmRowColour::cmdSelect);
     t.AnswerInformation(u"[ 0 ] items selected.");
@@ -263,7 +266,8 @@ TEST_F(RowColourCommand, AFilterToAnAttributeOfNoRowHidesAllRows) {
     EXPECT_EQ(t.grid.RowCount(), Row{4});
 }
 
-TEST_F(RowColourCommand, AFilterDeliberatelyDoesNotCountAsAChange) {
+// Kept for compatibility: filters-are-no-change.
+TEST_F(RowColourCommand, AFilterDoesNotCountAsAChange) {
     ChooseFilter(CellFlag::Bold);
     t.user.Answer(Answer::Ok);
     Run();
@@ -343,7 +347,8 @@ TEST_F(TableBackground, TakesTheChosenColour) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(TableBackground, DeliberatelyCannotBeBlack) {
+// Kept for compatibility: background-never-black.
+TEST_F(TableBackground, CannotBeBlack) {
     t.user.ChooseColour(Colour{0});
     mnuFormat_BColor_Clack(t.tab);
     EXPECT_EQ(t.table.TableBackColour, Colour{0xABCDEF});

@@ -74,7 +74,8 @@ TEST_F(TickCommands, UntickAllLeavesTheTicksOnNo) {
     EXPECT_EQ(t.Ticks(), (Numbers{1, 0, 0, 0}));
 }
 
-TEST_F(TickCommands, TickAllAndUntickAllDeliberatelyDoNotCountAsChanges) {
+// Kept for compatibility: ticks-are-no-change.
+TEST_F(TickCommands, TickAllAndUntickAllDoNotCountAsChanges) {
     t.user.Answer(Answer::Yes);
     mnuSelAll_TickBoxes_Clack(t.tab);
     EXPECT_EQ(t.table.TableAltered, 0);
@@ -93,7 +94,8 @@ TEST_F(TickCommands, MassTickingIsToldToTheShownGridOnce) {
     EXPECT_EQ(t.watcher.rowChanges, 0);
 }
 
-TEST_F(TickCommands, ClearAllAsksAndDeliberatelyReachesHiddenRows) {
+// Kept for compatibility: clear-ticks-reaches-hidden.
+TEST_F(TickCommands, ClearAllAsksAndReachesHiddenRows) {
     t.Tick({1, 2});
     t.Hide({2});
     t.AnswerQuestion(u" Deselect [ 2 ] grid rows?", Answer::Yes);

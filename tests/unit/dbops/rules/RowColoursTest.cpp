@@ -28,7 +28,8 @@ constexpr Expected kExpected[] = {
     {u" [O]range", u" Alt-9,Ctrl-Alt-O", 0x80C0FF, 0x80C0FF, 0xC00000},
 };
 
-TEST(RowColours, AreTheNineOfTheListWithItsDeliberatelyTurnedBracket) {
+// Kept for compatibility: row-colour-texts.
+TEST(RowColours, AreTheNineOfTheListWithItsTurnedBracket) {
     ASSERT_EQ(RowColourChoices().size(), std::size(kExpected));
     for (int index = 0; index < 9; ++index) {
         const RowColourChoice& choice = *RowColourChoiceAt(index);
@@ -40,7 +41,8 @@ TEST(RowColours, AreTheNineOfTheListWithItsDeliberatelyTurnedBracket) {
     }
 }
 
-TEST(RowColours, DeliberatelyDifferInYellowAloneBetweenDialogAndKey) {
+// Kept for compatibility: two-yellows.
+TEST(RowColours, DifferInYellowAloneBetweenDialogAndKey) {
     for (int index = 0; index < 9; ++index) {
         const RowColourChoice& choice = *RowColourChoiceAt(index);
         EXPECT_EQ(choice.ByDialog(kTableBack) == choice.ByKey(kTableBack), index != 2);

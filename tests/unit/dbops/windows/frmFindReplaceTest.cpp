@@ -117,7 +117,8 @@ TEST_F(FindReplace, FindGoesToTheNextMatchWithEachClick) {
     EXPECT_EQ(t.watcher.rowsWanted, (std::vector{Row{2}, Row{3}}));
 }
 
-TEST_F(FindReplace, DeliberatelyPassesOverTheLastColumnOfTheCurrentRowFromTheOneBeforeIt) {
+// Kept for compatibility: find-passes-over-last-column.
+TEST_F(FindReplace, PassesOverTheLastColumnOfTheCurrentRowFromTheOneBeforeIt) {
     t.GoTo(2, 3);
     InFindMode([this](frmFindReplace& f) {
         f.Text1.Type(u"last");
@@ -127,7 +128,8 @@ TEST_F(FindReplace, DeliberatelyPassesOverTheLastColumnOfTheCurrentRowFromTheOne
     });
 }
 
-TEST_F(FindReplace, DeliberatelyCountsCaseWithAndWithoutTheCheckBox) {
+// Kept for compatibility: case-box-without-effect.
+TEST_F(FindReplace, CountsCaseWithAndWithoutTheCheckBox) {
     t.GoTo(2, 1);
     InFindMode([this](frmFindReplace& f) {
         f.Text1.Type(u"abc");
@@ -227,7 +229,8 @@ TEST_F(FindReplace, ReplacesOnlyTheFirstMatchInACellAndOneCellForEachClick) {
     });
 }
 
-TEST_F(FindReplace, DeliberatelyEmptiesTheCellOfAMatchInTheRestOfTheCurrentRow) {
+// Kept for compatibility: replace-empties-cell.
+TEST_F(FindReplace, EmptiesTheCellOfAMatchInTheRestOfTheCurrentRow) {
     InReplaceMode([this](frmFindReplace& f) {
         f.Text1.Type(u"re");
         f.Text2.Type(u"RE");
@@ -238,7 +241,8 @@ TEST_F(FindReplace, DeliberatelyEmptiesTheCellOfAMatchInTheRestOfTheCurrentRow) 
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
-TEST_F(FindReplace, DeliberatelyReplacesNothingByAnEmptyText) {
+// Kept for compatibility: empty-replacement-does-nothing.
+TEST_F(FindReplace, ReplacesNothingByAnEmptyText) {
     t.app.Settings.ReplaceText = u"before";
     InReplaceMode([this](frmFindReplace& f) {
         f.Text2.Type(u"");

@@ -209,7 +209,8 @@ TEST_F(ViewCell, JustContinueLeavesCellAndTable) {
     EXPECT_EQ(t.table.TableAltered, 0);
 }
 
-TEST_F(ViewCell, DeliberatelyClosesAfterChangesWithoutAQuestionAndWithoutWritingBack) {
+// Kept for compatibility: cell-window-closes-unasked.
+TEST_F(ViewCell, ClosesAfterChangesWithoutAQuestionAndWithoutWritingBack) {
     Look([](frmViewCell& f) { f.txtCell.Type(u"lost"); });
     EXPECT_EQ(t.Cell(1, 1), u"one");
     EXPECT_EQ(t.table.TableAltered, 0);
@@ -250,7 +251,8 @@ TEST_F(ViewCell, EscWithAnyModifierContinuesWhileNothingIsAltered) {
     }
 }
 
-TEST_F(ViewCell, DeliberatelyEscAfterAChangeDoesNothing) {
+// Kept for compatibility: esc-keeps-changed-cell.
+TEST_F(ViewCell, EscAfterAChangeDoesNothing) {
     Look([](frmViewCell& f) {
         f.txtCell.Type(u"changed");
         EXPECT_TRUE(Press(f, Key::Escape, Mask::None));

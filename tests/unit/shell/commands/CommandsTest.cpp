@@ -69,7 +69,8 @@ std::string RoutineOf(int code, int mask) {
     return key == nullptr ? "" : std::string(key->routine);
 }
 
-TEST(GridKeys, F10MeansSaveAsWithAnyModifiersDeliberately) {
+// Kept for compatibility: f10-with-any-modifier.
+TEST(GridKeys, F10MeansSaveAsWithAnyModifiers) {
     for (int mask = Mask::None; mask <= (Mask::Shift | Mask::Ctrl | Mask::Alt); ++mask) {
         EXPECT_EQ(RoutineOf(Key::F(10), mask), "mnuFile_SaveAs_Clack");
     }
@@ -92,7 +93,8 @@ TEST(GridKeys, AMaskMeansExactlyThatMask) {
     EXPECT_EQ(RoutineOf('V', Mask::Ctrl | Mask::Alt), "ViewAndPaste");
 }
 
-TEST(GridKeys, OnlyTheRowColourKeysAreNotSwallowedDeliberately) {
+// Kept for compatibility: row-colour-keys-reach-grid.
+TEST(GridKeys, OnlyTheRowColourKeysAreNotSwallowed) {
     for (const GridKey& key : GridKeys()) {
         EXPECT_EQ(key.swallowed, !key.routine.starts_with("RowColour")) << key.routine;
     }

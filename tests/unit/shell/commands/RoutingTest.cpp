@@ -15,7 +15,8 @@ protected:
     TestProgram p;
 };
 
-TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothingDeliberately) {
+// Kept for compatibility: no-tab-no-word.
+TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothing) {
     p.StartWith({});
     for (const Command& command : Commands()) {
         if (command.target == CommandTarget::Tab) p.Main().RunCommand(command.name);
@@ -46,7 +47,8 @@ TEST_F(Routing, ACommandReachesTheTabThatIsActiveAtTheTime) {
     EXPECT_EQ(p.FileBytes(u"C:\\a.tbx"), NameTable(u"C:\\a.tbx", {"A"}));
 }
 
-TEST_F(Routing, DesignAndImportMakeTheirOwnTabWhichStaysWhenTheyFailDeliberately) {
+// Kept for compatibility: failed-design-keeps-tab.
+TEST_F(Routing, DesignAndImportMakeTheirOwnTabWhichStaysWhenTheyFail) {
     p.StartWith({});
     p.OpenNewTab();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});
@@ -85,7 +87,8 @@ TEST_F(Routing, AnImportFillsTheTabThatItMade) {
     EXPECT_EQ(p.Tab(1).Table().TxtDbFile, u"Untitled_1.tbx");
 }
 
-TEST_F(Routing, SaveAllRewritesUnalteredTabsTooAndListsAllDeliberately) {
+// Kept for compatibility: save-all-rewrites-all.
+TEST_F(Routing, SaveAllRewritesUnalteredTabsTooAndListsAll) {
     for (const char* name : {"a", "b", "c", "d"}) {
         const Text path = u"C:\\" + FromAscii(name) + u".tbx";
         p.AddTable(path, {name});
@@ -214,7 +217,8 @@ TEST_F(Routing, AltBTellsABrowserThatIsntThereAndLeavesTheSettingAlone) {
     EXPECT_TRUE(p.shell.Starts().empty());
 }
 
-TEST_F(Routing, TheBrowserOfTheMenuIsAnotherThanThatOfTheKeyInItsCaptionDeliberately) {
+// Kept for compatibility: two-browsers.
+TEST_F(Routing, TheBrowserOfTheMenuIsAnotherThanThatOfTheKeyInItsCaption) {
     p.files.AddFile(u"C:\\Web\\first.exe");
     Settings settings;
     settings.WebListA = u"C:\\Web\\first.exe";

@@ -18,8 +18,8 @@ namespace {
 using testing::ElementsAreArray;
 using Lines = std::vector<std::string>;
 
-// Name, caption, bound key and target. Some captions name keys that aren't theirs, and some mnemonics stand
-// twice in a menu: deliberate.
+// Name, caption, bound key and target. Some captions name keys that aren't theirs, and some menus have a
+// mnemonic twice. Kept for compatibility: captions-name-other-keys.
 constexpr std::string_view kMenuBar = R"(
 mnuFile | &File |  | menu
     mnuFile_Open | &Open database (new tab) | Ctrl+O | main
@@ -118,8 +118,8 @@ mnuImport_Clip | Import tabbed text
 mnuFile_Exit | Exit program
 )";
 
-// Name, tool-tip and command. The tips of the style buttons stand crosswise, one has a slip of the pen, and
-// two name keys that do something else: deliberate.
+// Name, tool-tip and command. The tips of the style buttons are crosswise, one has a misspelt word, and two
+// name keys that do something else. Kept for compatibility: toolbar-tips, captions-name-other-keys.
 constexpr std::string_view kToolBar = R"(
 cmdDesignDb | Design database | mnuEdit_DesignDb
 cmdSetColour | Specify background colour for database | mnuFormat_BColor
@@ -250,7 +250,8 @@ std::string NameOfKey(const GridKey& key) {
     return key.swallowed ? name : "(" + name + ")";
 }
 
-TEST(Vocabulary, OfTheMenuBarDeliberatelyWithTheKeysThatItsCaptionsNameWrongly) {
+// Kept for compatibility: captions-name-other-keys.
+TEST(Vocabulary, OfTheMenuBarWithTheKeysThatItsCaptionsNameWrongly) {
     Lines lines;
     for (const MenuEntry& entry : MenuBarEntries()) {
         const std::string indent(entry.level == 0 ? 0 : 4, ' ');
@@ -271,7 +272,8 @@ TEST(Vocabulary, OfThePopUpMenu) {
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kPopUpMenu)));
 }
 
-TEST(Vocabulary, OfTheToolBarDeliberatelyWithTipsThatAreCrosswiseMisspeltOrNameOtherKeys) {
+// Kept for compatibility: toolbar-tips.
+TEST(Vocabulary, OfTheToolBarWithTipsThatAreCrosswiseMisspeltOrNameOtherKeys) {
     Lines lines;
     for (const ToolBarButton& button : ToolBarButtons()) {
         lines.push_back(

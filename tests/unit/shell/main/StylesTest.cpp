@@ -33,12 +33,14 @@ TEST_F(StylesTest, TheToolBarStepsTheStyleOfTheStrip) {
     EXPECT_EQ(t.app.Settings.TabStyle, 40);
 }
 
-TEST_F(StylesTest, TheToolTipsOfTheStepsStandCrosswiseDeliberately) {
+// Kept for compatibility: toolbar-tips.
+TEST_F(StylesTest, TheToolTipsOfTheStepsStandCrosswise) {
     EXPECT_EQ(main.Find("cmdStyleBack")->ToolTipText.Get(), u"Next style");
     EXPECT_EQ(main.Find("cmdStyleForward")->ToolTipText.Get(), u"Previous style");
 }
 
-TEST_F(StylesTest, AStepLeavesTheColoursOfTheWindowAloneDeliberately) {
+// Kept for compatibility: style-step-keeps-colours.
+TEST_F(StylesTest, AStepLeavesTheColoursOfTheWindowAlone) {
     main.RunCommand("StyleForward");
     EXPECT_EQ(main.lblListBar.BackColor.Get(), kNoColour);
 }
@@ -59,7 +61,8 @@ TEST_F(StylesTest, AMenuEntryGivesItsStyleAndTakesTheOnlyCheckMark) {
     }
 }
 
-TEST_F(StylesTest, TheMenuKnowsMoreIndexesThanItHasEntriesDeliberately) {
+// Kept for compatibility: style-numbers-out-of-order.
+TEST_F(StylesTest, TheMenuKnowsMoreIndexesThanItHasEntries) {
     std::vector<int> numbers;
     for (int index = 0; index <= 16; ++index)
         numbers.push_back(TabStyleOfMenuIndex(index));

@@ -63,7 +63,8 @@ TEST_F(RecentRecordTest, AnEmptyPathAndAnUntitledOneNeverEnter) {
     EXPECT_EQ(record.RecentNext, 2);
 }
 
-TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDateDeliberately) {
+// Kept for compatibility: recent-entry-keeps-place.
+TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDate) {
     record = Filled(3);
     record.AddToRecent(u"c:\\F2.TBX", 0, {2026, 11, 21, 9, 7, 0});
     EXPECT_EQ(record.RecentEntries[2], u"c:\\F2.TBX | 0*2026.11.21   09:07");
@@ -71,7 +72,8 @@ TEST_F(RecentRecordTest, AFileOfTheRecordKeepsItsPlaceAndGetsANewDateDeliberatel
     EXPECT_EQ(record.RecentNext, 4);
 }
 
-TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirstDeliberately) {
+// Kept for compatibility: recent-entry-by-containment.
+TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirst) {
     record.RecentEntries[1] = LineOf(u"C:\\a.tbx.bak");
     record.RecentEntries[2] = LineOf(u"C:\\a.tbx");
     record.RecentNext = 3;
@@ -80,7 +82,8 @@ TEST_F(RecentRecordTest, APathThatBeginsALongerOneUpdatesWhicheverComesFirstDeli
     EXPECT_EQ(record.RecentEntries[2], LineOf(u"C:\\a.tbx"));
 }
 
-TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversedDeliberately) {
+// Kept for compatibility: recent-list-cuts-itself.
+TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed) {
     record = Filled(71);
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     EXPECT_EQ(record.RecentNext, 73);
@@ -94,7 +97,8 @@ TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed
         EXPECT_EQ(record.RecentEntries[i], u"") << i;
 }
 
-TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnewDeliberately) {
+// Kept for compatibility: recent-list-cuts-itself.
+TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnew) {
     record = Filled(72);
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     // Entry 73 was empty; 72 to 66 follow it. The new file takes its place, without making room.

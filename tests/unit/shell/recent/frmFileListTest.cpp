@@ -73,7 +73,8 @@ TEST_F(FileListTest, ShowsFoundAndLostFiles) {
     });
 }
 
-TEST_F(FileListTest, TheOffsetColumnShowsTheDateTooDeliberately) {
+// Kept for compatibility: offset-column-shows-date.
+TEST_F(FileListTest, TheOffsetColumnShowsTheDateToo) {
     InList([](frmFileList& f) { EXPECT_EQ(f.ListView1.RowAt(1).texts.at(2), u" 0*2026.03.01   14:05"); });
 }
 
@@ -128,6 +129,7 @@ TEST_F(FileListTest, ALostFileIsReportedAndTheNextOneLoaded) {
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"b.tbx"});
 }
 
+// Kept for compatibility: lost-rows-by-text.
 TEST_F(FileListTest, RowsMarkedAsLostInTheirPlaceAreSkipped) {
     p.AddTable(u"C:\\not found !\\x.tbx", {"x"});
     SetRecord({u"C:\\not found !\\x.tbx"});
@@ -150,7 +152,8 @@ TEST_F(FileListTest, OneOfTwoEmptyTabsStays) {
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx", u"a.tbx"}));
 }
 
-TEST_F(FileListTest, ATypedInEmptyTabAsksAndStaysWithoutASlotOnCancelDeliberately) {
+// Kept for compatibility: untitled-tab-asks.
+TEST_F(FileListTest, ATypedInEmptyTabAsksAndStaysWithoutASlotOnCancel) {
     p.Main().TheTabs().AddNewTab();
     p.Tab(1).Table().TableAltered = 1;
     p.user.On<frmFileList>([](frmFileList& f) { f.cmdLoad.Press(); });
@@ -164,7 +167,8 @@ TEST_F(FileListTest, ATypedInEmptyTabAsksAndStaysWithoutASlotOnCancelDeliberatel
     EXPECT_TRUE(p.Main().Close());
 }
 
-TEST_F(FileListTest, ANewTextLeadsToNoNewTabDeliberately) {
+// Kept for compatibility: new-text-opens-nothing.
+TEST_F(FileListTest, ANewTextLeadsToNoNewTab) {
     InList([](frmFileList& f) { f.cmdNewText.Press(); });
     EXPECT_EQ(p.app.DialogResult, 11);
     EXPECT_TRUE(p.Captions().empty());
@@ -191,7 +195,8 @@ TEST_F(FileListTest, DeletingTheLastRowSelectsTheNewLastRow) {
     });
 }
 
-TEST_F(FileListTest, DeletingARowInItsOtherFormLeavesTheRecordDeliberately) {
+// Kept for compatibility: delete-by-shown-path.
+TEST_F(FileListTest, DeletingARowInItsOtherFormLeavesTheRecord) {
     p.AddTable(u"C:\\Drive_D\\x.tbx", {"x"});
     SetRecord({u"D:\\x.tbx"});
     InList([](frmFileList& f) { f.cmdDelete.Press(); });
@@ -460,7 +465,8 @@ TEST_F(FileListTest, TheMenuDoesAsTheButtonsDo) {
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"b.tbx"});
 }
 
-TEST_F(FileListTest, AResultThatNoButtonGivesStillAsksForFilesDeliberately) {
+// Kept for compatibility: recent-result-two.
+TEST_F(FileListTest, AResultThatNoButtonGivesStillAsksForFiles) {
     p.user.On<frmFileList>([this](frmFileList& f) {
         p.app.DialogResult = 2;
         f.Close();
@@ -475,7 +481,8 @@ TEST_F(FileListTest, AResultThatNoButtonGivesStillAsksForFilesDeliberately) {
     EXPECT_EQ(Recents().LoadFromRecent, 0);
 }
 
-TEST_F(FileListTest, TheOffsetOfAnEntryIsReadBackForNobodyDeliberately) {
+// Kept for compatibility: record-offset-unused.
+TEST_F(FileListTest, TheOffsetOfAnEntryIsReadBackForNobody) {
     Recents().RecentEntries[1] = kA + u" | 17*2026.03.01   14:05";
     InList([](frmFileList& f) { f.cmdLoad.Press(); });
     EXPECT_EQ(Recents().RecentOffsets, std::vector<int>{17});
@@ -506,7 +513,8 @@ TEST_F(FileListTest, AFileAtTheRootOfADriveIsLoadedFromThere) {
     EXPECT_EQ(p.AllTabs().TabState[1].Path, u"D:\\x.tbx");
 }
 
-TEST_F(FileListTest, ASoleTabWhoseCaptionOnlyStartsLikeAnEmptyOneGoesTooDeliberately) {
+// Kept for compatibility: untitled-by-caption.
+TEST_F(FileListTest, ASoleTabWhoseCaptionOnlyStartsLikeAnEmptyOneGoesToo) {
     p.AddTable(u"C:\\Data\\Untitled plans.tbx", {"x"});
     p.Open(u"C:\\Data\\Untitled plans.tbx");
     SetRecord({kA});
@@ -522,7 +530,8 @@ TEST_F(FileListTest, ATabThatWasWrittenToFromOutsideStays) {
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"a.tbx"}));
 }
 
-TEST_F(FileListTest, AFirstFileThatIsLostLeavesTheEmptyTabThereDeliberately) {
+// Kept for compatibility: lost-first-file-keeps-tab.
+TEST_F(FileListTest, AFirstFileThatIsLostLeavesTheEmptyTabThere) {
     p.Main().TheTabs().AddNewTab();
     SetRecord({kGone, kA});
     p.user.On<frmFileList>([](frmFileList& f) {

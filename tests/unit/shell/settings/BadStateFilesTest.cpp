@@ -205,7 +205,7 @@ TEST_F(BadState, ReadOnlyFilesAreToldAndStay) {
     EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
 }
 
-// Deliberate: only a file that can't be opened is told.
+// Kept for compatibility: cut-files-are-silent.
 TEST_F(BadState, AFullDiskCutsTheFilesInSilenceAndTheNextStartReadsWhatThereIs) {
     p.files.SetFreeBytes(20);
     Start();

@@ -59,7 +59,8 @@ TEST_F(SetYourProgTest, BrowsesInTheLister) {
     EXPECT_EQ(t.user.Requests().at(0).FileDialogCaption, u"");
 }
 
-TEST_F(SetYourProgTest, StartsTheProgramAsItStandsAndStaysOpenDeliberately) {
+// Kept for compatibility: your-program-started-as-given.
+TEST_F(SetYourProgTest, StartsTheProgramAsItStandsAndStaysOpen) {
     t.app.Settings.YourProgramPath = u"C:\\My Tools\\tool.exe";
     InWindow([](frmSetYourProg& f) { f.cmdOK.Press(); });
     EXPECT_EQ(t.shell.Starts(),
@@ -77,7 +78,8 @@ TEST_F(SetYourProgTest, ANameWithoutAFolderIsTheFileOfTheCurrentDirectory) {
               (std::vector<ProgramStart>{{u"C:\\My Tools\\tool.exe", {}, WindowState::Normal}}));
 }
 
-TEST_F(SetYourProgTest, DoesNotLookForTheOtherDriveFormDeliberately) {
+// Kept for compatibility: your-program-started-as-given.
+TEST_F(SetYourProgTest, DoesNotLookForTheOtherDriveForm) {
     t.files.AddFile(u"C:\\Drive_G\\tool.exe");
     t.app.Settings.YourProgramPath = u"G:\\tool.exe";
     InWindow([this](frmSetYourProg& f) {

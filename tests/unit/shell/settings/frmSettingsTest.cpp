@@ -51,7 +51,8 @@ TEST_F(SettingsWindowTest, HasItsCaptions) {
     });
 }
 
-TEST_F(SettingsWindowTest, OneCaptionHasItsSlipOfThePenDeliberately) {
+// Kept for compatibility: pdf-caption-misspelt.
+TEST_F(SettingsWindowTest, OneCaptionHasItsSlipOfThePen) {
     p.StartWith({});
     InWindow([](frmSettings& f) {
         EXPECT_EQ(f.cmdBrannockLocation.Caption.Get(), u"Specify program for viewng PDFs");
@@ -77,7 +78,8 @@ TEST_F(SettingsWindowTest, EachBoxStoresItsStateAtOnce) {
     });
 }
 
-TEST_F(SettingsWindowTest, TheQuestionAtTheEndHasNoEffectDeliberately) {
+// Kept for compatibility: confirm-exit-inert.
+TEST_F(SettingsWindowTest, TheQuestionAtTheEndHasNoEffect) {
     p.StartWith({});
     const std::string before = SettingsBytes(p.app.Settings);
     InWindow([](frmSettings& f) { f.chkConfirmExit.Press(); });
@@ -86,7 +88,8 @@ TEST_F(SettingsWindowTest, TheQuestionAtTheEndHasNoEffectDeliberately) {
     EXPECT_TRUE(p.user.Messages().empty());
 }
 
-TEST_F(SettingsWindowTest, TheFullPathChangesTheCaptionOfTheActiveTabOnlyDeliberately) {
+// Kept for compatibility: full-path-active-tab-only.
+TEST_F(SettingsWindowTest, TheFullPathChangesTheCaptionOfTheActiveTabOnly) {
     OpenThree();
     InWindow([this](frmSettings& f) {
         f.chkYesShowFullPath.Press();

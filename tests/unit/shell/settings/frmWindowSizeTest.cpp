@@ -111,7 +111,8 @@ TEST_F(WindowSizeTest, EachLayoutHasItsPlace) {
     }
 }
 
-TEST_F(WindowSizeTest, HalvesAddTheOffsetToTheSizeAndOvershootDeliberately) {
+// Kept for compatibility: half-sizes-overshoot.
+TEST_F(WindowSizeTest, HalvesAddTheOffsetToTheSizeAndOvershoot) {
     t.screen.SetWorkArea(MakeRect(1000, 600, 19000, 9600));
     ChooseLayout(3);
     EXPECT_EQ(PlaceOf(main), MakeRect(10000, 600, 10000, 9600));
@@ -119,7 +120,8 @@ TEST_F(WindowSizeTest, HalvesAddTheOffsetToTheSizeAndOvershootDeliberately) {
     EXPECT_EQ(PlaceOf(main), MakeRect(1000, 5100, 19000, 5100));
 }
 
-TEST_F(WindowSizeTest, ThePercentagesRunAheadOfTheirNamesFrom85OnDeliberately) {
+// Kept for compatibility: window-sizes-one-ahead.
+TEST_F(WindowSizeTest, ThePercentagesRunAheadOfTheirNamesFrom85On) {
     t.screen.SetWorkArea(MakeRect(0, 0, 20000, 10000));
     const std::vector<Rect> expected{
         MakeRect(7000, 3500, 6000, 3000),  MakeRect(6000, 3000, 8000, 4000),
@@ -134,7 +136,8 @@ TEST_F(WindowSizeTest, ThePercentagesRunAheadOfTheirNamesFrom85OnDeliberately) {
     }
 }
 
-TEST_F(WindowSizeTest, TheLastPercentageOnlyCentresDeliberately) {
+// Kept for compatibility: window-sizes-one-ahead.
+TEST_F(WindowSizeTest, TheLastPercentageOnlyCentres) {
     ChoosePercent(8);
     EXPECT_EQ(PlaceOf(main), MakeRect(7000, 3000, 6000, 4001));
 }

@@ -66,7 +66,8 @@ TEST_F(Closing, CancelKeepsTheTab) {
     EXPECT_EQ(p.app.Settings.LastDbFindText, u"");
 }
 
-TEST_F(Closing, YesSavesUnderThePresentNameWhereOtherQuestionsAskForOneDeliberately) {
+// Kept for compatibility: closing-saves-directly.
+TEST_F(Closing, YesSavesUnderThePresentNameWhereOtherQuestionsAskForOne) {
     Start();
     p.app.DialogResult = 99;
     p.user.Answer(Question(PathOf(u'c')), Answer::Yes);
@@ -135,7 +136,8 @@ TEST_F(Closing, TheEndAsksForEveryTabInTheOrderOfTheStripAndWritesBothFiles) {
                                  "C:\\Data\\a.tbx | 0*2026.11.21   10:30\r\n");
 }
 
-TEST_F(Closing, ACancelOnTheWayLeavesTheRestOpenTheAnsweredClosedAndTheStripOffDeliberately) {
+// Kept for compatibility: cancelled-end-leaves-strip-off.
+TEST_F(Closing, ACancelOnTheWayLeavesTheRestOpenTheAnsweredClosedAndTheStripOff) {
     Start();
     p.user.Answer(Question(PathOf(u'a')), Answer::No);
     p.user.Answer(Question(PathOf(u'b')), Answer::Cancel);
@@ -204,7 +206,8 @@ TEST_F(Closing, AnEndInWhichTheSettingsCannotBeWrittenGoesOn) {
         u"Cannot save this file :\r\n\r\nC:\\Korvane\\Korvane.rec\r\n\r\n"));
 }
 
-TEST_F(Closing, WindowsThatStillStandCloseAfterTheSettingsAreWrittenAndCannotStopTheEndDeliberately) {
+// Kept for compatibility: late-windows-lose-settings.
+TEST_F(Closing, WindowsThatStillStandCloseAfterTheSettingsAreWrittenAndCannotStopTheEnd) {
     class Standing : public Form {
     public:
         Standing(App& app, std::vector<Text>& log, TextView caption)

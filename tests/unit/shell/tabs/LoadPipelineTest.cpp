@@ -131,7 +131,8 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenIsNotLoadedTwice) {
     EXPECT_EQ(p.screen.CurrentPointer(), Pointer::Hourglass);
 }
 
-TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStayDeliberately) {
+// Kept for compatibility: open-file-stops-load.
+TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStay) {
     p.StartWith({}, kB);
     p.user.ChooseFiles({kA, kB, kC});
     p.user.Answer(Answer::Yes);
@@ -141,7 +142,8 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenStopsTheLoadAndThoseBeforeItStayDelibera
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"b.tbx", u"a.tbx"}));
 }
 
-TEST_F(LoadPipelineTest, TheSameFileInOtherCaseLoadsTwiceDeliberately) {
+// Kept for compatibility: same-file-loads-twice.
+TEST_F(LoadPipelineTest, TheSameFileInOtherCaseLoadsTwice) {
     p.StartWith({}, kA);
     p.Open(u"c:\\data\\A.TBX");
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"a.tbx", u"A.TBX"}));
@@ -165,7 +167,8 @@ TEST_F(LoadPipelineTest, TheThirdOfFiveFilesStopsTheLoadWhenItIsOpen) {
     EXPECT_TRUE(Recent(1).starts_with(files[1]));
 }
 
-TEST_F(LoadPipelineTest, TheSameFileByItsOtherDriveFormLoadsTwiceDeliberately) {
+// Kept for compatibility: same-file-loads-twice.
+TEST_F(LoadPipelineTest, TheSameFileByItsOtherDriveFormLoadsTwice) {
     p.files.AddDrive(u'D');
     p.AddTable(u"D:\\x.tbx", {"x"});
     p.AddTable(u"C:\\Drive_D\\x.tbx", {"x"});
@@ -202,7 +205,8 @@ TEST_F(LoadPipelineTest, AFileWhoseTabWasClosedLoadsAgain) {
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
 }
 
-TEST_F(LoadPipelineTest, AFileOfAnotherExtensionLoadsNothingKeepsItsTabAndEntersTheRecordDeliberately) {
+// Kept for compatibility: other-files-keep-tab.
+TEST_F(LoadPipelineTest, AFileOfAnotherExtensionLoadsNothingKeepsItsTabAndEntersTheRecord) {
     p.files.AddFile(u"C:\\Data\\a.txt", "text");
     p.StartWith({});
     p.Open(u"C:\\Data\\a.txt");
@@ -237,7 +241,8 @@ TEST_F(LoadPipelineTest, LoadedFilesEnterTheRecordTheLastOneFirst) {
     EXPECT_EQ(Recent(2), kA + u" | 0*2026.11.21   10:30");
 }
 
-TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOverToNobodyDeliberately) {
+// Kept for compatibility: record-offset-unused.
+TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOverToNobody) {
     p.StartWith({});
     p.Main().Recents().LoadFromRecent = 1;
     p.Main().Recents().RecentOffsets = {42};

@@ -50,7 +50,8 @@ TEST_F(TabTest, AHeaderClickDoesNothingWhenSortingIsntAllowed) {
     EXPECT_EQ(Tab().Table().TableAltered, 0);
 }
 
-TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTabDeliberately) {
+// Kept for compatibility: sorting-stays-on.
+TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTab) {
     Settings settings;
     settings.AllowSorting = 1;
     Start(settings);
@@ -182,7 +183,8 @@ TEST_F(TabTest, CtrlShiftReturnInTheBoxSetsTheHeightOfAllRows) {
     EXPECT_EQ(Tab().GridStore().RowHeight(Row{2}), 500);
 }
 
-TEST_F(TabTest, RowColourKeysColourTheCurrentRowAndDeliberatelyReachTheGrid) {
+// Kept for compatibility: row-colour-keys-reach-grid.
+TEST_F(TabTest, RowColourKeysColourTheCurrentRowAndReachTheGrid) {
     Start();
     struct KeyColour {
         char16_t digit, letter;

@@ -22,7 +22,8 @@ protected:
     TestProgram p;
 };
 
-TEST_F(TabsTest, ANewTabIsUntitledByItsSlotDeliberately) {
+// Kept for compatibility: untitled-by-slot.
+TEST_F(TabsTest, ANewTabIsUntitledByItsSlot) {
     Start(2);
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
     EXPECT_EQ(p.AllTabs().TabState[2].Path, u"Untitled_2.tbx");
@@ -70,7 +71,8 @@ TEST_F(TabsTest, ATabThatClosesFromItsOwnHandlerLivesToTheEndOfIt) {
     EXPECT_EQ(tab.Caption.Get(), u"Untitled_1.tbx");
 }
 
-TEST_F(TabsTest, TheNextTabIsTheNextSlotWhateverTheStripShowsDeliberately) {
+// Kept for compatibility: tabs-switch-by-slot.
+TEST_F(TabsTest, TheNextTabIsTheNextSlotWhateverTheStripShows) {
     Start(3);
     CloseTab(1);
     p.AllTabs().AddNewTab();
@@ -137,7 +139,8 @@ TEST_F(TabsTest, SwitchingLetsPendingMessagesRunFirst) {
     EXPECT_EQ(ActiveSlot(), 1);
 }
 
-TEST_F(TabsTest, ThePaperSizeIsLookedUpByTheSettingsNameForNobodyDeliberately) {
+// Kept for compatibility: page-size-unused.
+TEST_F(TabsTest, ThePaperSizeIsLookedUpByTheSettingsNameForNobody) {
     struct Case {
         TextView name;
         int width;

@@ -147,7 +147,8 @@ TEST_F(LoadListTest, ExploresTheFolderOfTheSelectedTab) {
     EXPECT_EQ(p.shell.Opened(), (std::vector<OpenRequest>{request, request, request}));
 }
 
-TEST_F(LoadListTest, HasItsMenuAndToolTipsOneNameMisspeltDeliberately) {
+// Kept for compatibility: explorer-entry-misspelt.
+TEST_F(LoadListTest, HasItsMenuAndToolTipsOneNameMisspelt) {
     p.StartWith({});
     const frmLoadList f(p.app, p.AllTabs(), p.Main());
     EXPECT_EQ(EntriesOf(f.OfficeMenu1), (Entries{{"mnuSwitch", u"&Switch to text"},
