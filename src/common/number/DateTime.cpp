@@ -39,7 +39,7 @@ struct Part {
     Text (*text)(const Moment&);
 };
 
-/// The longer of two that begin alike stands first.
+/// Of two parts that begin alike, the longer one comes first.
 constexpr Part kParts[] = {
     {u"yyyy", [](const Moment& m) { return Padded(m.when.year, 4); }},
     {u"yy", [](const Moment& m) { return Padded(m.when.year % 100, 2); }},
@@ -66,7 +66,7 @@ const Part* PartAt(TextView pattern) {
     return found == std::end(kParts) ? nullptr : found;
 }
 
-/// The part that writes minutes in place of one that stands for the month as a number.
+/// The part that writes minutes instead of the month as a number.
 const Part* MinutesFor(const Part* part) {
     if (part->token == u"mm") return PartAt(u"nn");
     if (part->token == u"m") return PartAt(u"n");

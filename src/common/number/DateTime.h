@@ -19,7 +19,7 @@ struct DateTime {
     auto operator<=>(const DateTime&) const = default;
 };
 
-/// The words that stand in dates, in the user's language.
+/// The words of dates in the user's language.
 struct DateNames {
     std::array<Text, 12> months;
     std::array<Text, 12> shortMonths;
@@ -37,10 +37,10 @@ int Weekday(const DateTime& when);
 /// Date and time in the general form, the same on every system: "2026-11-21 09:12:00".
 Text GeneralDate(const DateTime& when);
 
-/// Date and time by a pattern. The parts are, the longest that fits taken first: yyyy, yy; m, mm, mmm, mmmm
-/// (number, two digits, short name, name); d, dd, ddd, dddd (day and weekday likewise); h, hh; n, nn
+/// Date and time by a pattern. The parts, of which the longest that fits is taken, are yyyy, yy; m, mm, mmm,
+/// mmmm (number, two digits, short name, name); d, dd, ddd, dddd (day and weekday likewise); h, hh; n, nn
 /// (minutes); s, ss; AMPM (half of the day, which makes h count to 12). After an hour, m and mm are minutes.
-/// Anything else stands for itself.
+/// Anything else is copied.
 Text FormatDate(const DateTime& when, TextView pattern, const DateNames& names = EnglishDateNames());
 
 } // namespace korvane

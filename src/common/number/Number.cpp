@@ -14,7 +14,7 @@ namespace {
 constexpr char kGroupSign = ',';
 constexpr std::size_t kGroupLength = 3;
 
-/// Room for every double in plain decimal: a sign, "0." and the digits of the smallest one.
+/// This is long enough for every double in plain decimal: a sign, "0." and the digits of the smallest one.
 constexpr std::size_t kLongestNumber = 400;
 
 constexpr bool IsDigit(char16_t unit) {
@@ -41,7 +41,7 @@ public:
         const char* const end = number_.data() + number_.size();
         const auto result = std::from_chars(number_.data(), end, value, std::chars_format::fixed);
         if (result.ec == std::errc::result_out_of_range && IsHuge()) value = HUGE_VAL;
-        // No negative zero: it would be written with a sign.
+        // A negative zero would be written with a sign.
         return negative_ && value != 0 ? -value : value;
     }
 
@@ -54,7 +54,7 @@ private:
         return true;
     }
 
-    /// Out of the range of double, a number is either too large or too small: the large one has a whole part.
+    /// A number out of the range of double is either too large or too small. The large one has a whole part.
     bool IsHuge() const { return number_.find_first_not_of('0') < number_.find('.'); }
 
     std::string number_;
@@ -128,7 +128,7 @@ Text Grouped(std::string decimal) {
     return FromAscii(decimal);
 }
 
-/// Whether the text is a sign or none, digits, and a point or none in, before or behind them.
+/// Whether the text is a sign or none, then digits with at most one point among them or at either end.
 bool IsWhollyNumber(TextView text) {
     if (text.starts_with(u'-') || text.starts_with(u'+')) text.remove_prefix(1);
     const auto digits = std::ranges::count_if(text, IsDigit);

@@ -11,7 +11,7 @@ namespace korvane {
 
 /// The numeric value of a text: its leading number, 0 if there is none. Blanks (0x20 only) are skipped,
 /// before and inside the number; then an optional sign, digits, an optional point and digits. An exponent
-/// ends it. The nearest double; a number past the range of double is infinite.
+/// ends it. The result is the nearest double; a number past the range of double is infinite.
 double Val(TextView text);
 double Val(std::string_view bytes);
 
@@ -39,12 +39,12 @@ bool ReadNumber(std::string_view bytes, Int& field) {
     return StoreRounded(Val(bytes), field);
 }
 
-/// A finite number as it is written to files and cells, whatever the locale: the fewest digits that read back
-/// as the same double, "." as the point, no blank in front, no exponent.
+/// A finite number as it is written to files and cells in any locale: the fewest digits that read back as the
+/// same double, with "." as the point, without a blank at the beginning and without an exponent.
 Text NumberText(double number);
 /// The same with so many significant digits at most, as a person wants to read the outcome of a calculation.
 Text NumberText(double number, int significantDigits);
-/// The whole number in decimal, no blank in front.
+/// The whole number in decimal, without a blank at the beginning.
 template <std::integral Int>
 Text NumberText(Int number) {
     return FromAscii(std::to_string(number));

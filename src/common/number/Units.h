@@ -54,7 +54,7 @@ inline constexpr Row kMaxRows{32767};
 /// What a `.tbx` file and the design dialog can hold; a grid itself can be wider.
 inline constexpr Col MaxColumns{24};
 
-/// A colour with red in the low byte (0x00BBGGRR), as it stands in decimal in files. -1 is "none set".
+/// A colour with red in the low byte (0x00BBGGRR). Files hold the number in decimal. -1 is "none set".
 struct Colour {
     std::int32_t value = -1;
     constexpr auto operator<=>(const Colour&) const = default;

@@ -6,9 +6,9 @@
 
 namespace korvane {
 
-/// The words of a command line written as one text. Blanks separate words; double quotes hold blanks together
-/// and are left out, a lone one holding up to the end. Nothing else is special, and no file name can be more
-/// than an argument: `$`, `;`, `\`, a line end stand for themselves.
+/// The words of a command line written as one text. Blanks separate words. Double quotes keep blanks in a
+/// word and are left out; a lone quote counts up to the end. Nothing else is special: `$`, `;`, `\` and line
+/// ends stay as they are, so a file name can't be more than an argument.
 std::vector<Text> SplitCommandLine(TextView line);
 
 } // namespace korvane

@@ -10,7 +10,7 @@ constexpr TextView kMarker = u"Drive_";
 constexpr TextView kRootMarker = u":\\Drive_";
 constexpr TextView kMirrorRoot = u"C:\\Drive_";
 
-// Where the parts of "C:\Drive_G\..." stand.
+// The places of the parts of "C:\Drive_G\...".
 constexpr std::size_t kMarkerPlace = 4;
 constexpr std::size_t kLetterPlace = 10;
 
@@ -45,7 +45,7 @@ bool HasWindowsForm(TextView path) {
 Text MapDrivePath(const PathStyle& style, TextView path, const PathQuestion& fileExists) {
     if (path.empty() || !HasOtherForm(style, path) || fileExists(path)) return Text(path);
     if (ContainsIgnoringCase(path, kRootMarker)) return DriveOfMirror(path);
-    // Without a drive the whole name stands in the mirror: "x.txt" gives "C:\Drive_x.txt".
+    // Without a drive the whole name follows the mirror's: "x.txt" gives "C:\Drive_x.txt".
     return HasColonSecond(path) ? MirrorOfDrive(kMirrorRoot, path) : Text(kMirrorRoot).append(path);
 }
 

@@ -8,22 +8,23 @@
 namespace korvane {
 
 // A disk may be seen as a drive, "G:\Data\x", and as a folder that mirrors it, "C:\Drive_G\Data\x". A stored
-// path may be in either form, and gets one exchange of form before it is given up. The mirror form is read by
-// place: character 10 is the drive's letter, character 11 starts the rest, whatever stands in front. A path
-// that is in no Windows form has no other form; on a system without drives it comes back as it is.
+// path may be in either form. When it isn't found, its other form is tried once. The mirror form is read by
+// place: character 10 is the letter of the drive and the rest starts with character 11, whatever comes before
+// them. A path that is in no Windows form has no other form; on a system without drives it comes back as it
+// is.
 
-/// Whether there is a file, or a folder where it is said, of that path.
+/// Whether there is a file of that path, or a folder where the function says so.
 using PathQuestion = std::function<bool(TextView path)>;
 
-/// Whether the path is in one of the two forms: "X:\..." or holding ":\Drive_".
+/// Whether the path is in one of the two forms: it is "X:\..." or contains ":\Drive_".
 bool HasWindowsForm(TextView path);
 
-/// The path itself when it is empty or there is a file of that name, otherwise its other form, which nobody
-/// tests.
+/// The path itself when it is empty or there is a file of that name, otherwise its other form, which isn't
+/// tested.
 Text MapDrivePath(const PathStyle& style, TextView path, const PathQuestion& fileExists);
 
-/// The other form of a folder that wasn't found; the folder as it is when it has none. Stricter than
-/// `MapDrivePath`: the mirror's name has to stand at character 4.
+/// The other form of a folder that wasn't found; the folder as it is when it has none. This is stricter than
+/// `MapDrivePath`: the name of the mirror has to start at character 4.
 Text OtherFolderForm(const PathStyle& style, TextView folder);
 
 /// The path's other form when there is a file of that name, otherwise the path. A mirror is looked for on all
@@ -33,9 +34,9 @@ Text SwapDriveForm(const PathStyle& style, TextView path, const PathQuestion& fi
 /// The first of "C" to "Z" before `tail` that names a file; the one with "Z" when none does.
 Text FirstDriveWithPath(TextView tail, const PathQuestion& fileExists);
 
-/// A path in "C:\Program Files\" moved to "C:\Program Files (x86)\". Any other moves the other way when
-/// `programFilesDir`, the system's folder of programs, holds "C:\Program Files (x86)\"; what the path itself
-/// holds isn't asked then.
+/// Moves a path in "C:\Program Files\" to "C:\Program Files (x86)\". Any other path is moved back when
+/// `programFilesDir`, the system's folder of programs, contains "C:\Program Files (x86)\"; the path itself
+/// isn't tested for that.
 Text Check3264Dirs(TextView path, TextView programFilesDir);
 
 } // namespace korvane

@@ -5,40 +5,41 @@
 namespace korvane {
 
 /// How a system writes paths: its separator, roots, drives, and whether names differ by case. Every question
-/// about a path goes to the style of the file system in force. A small value, cheap to copy.
+/// about a path goes to the style of the file system that is in use. A small value, cheap to copy.
 class PathStyle {
 public:
-    /// "\" between folders, drive letters, capital and small letters alike.
+    /// "\" separates folders, there are drive letters, and capital and small letters are alike.
     static const PathStyle Windows;
-    /// "/" between folders, one root, capital and small letters different; a "\" is a letter like any other.
+    /// "/" separates folders, there is one root, and capital and small letters differ. A "\" is an ordinary
+    /// character.
     static const PathStyle Posix;
 
     constexpr char16_t Separator() const { return separator_; }
     constexpr bool HasDrives() const { return kind_ == Kind::kWindows; }
     constexpr bool IgnoresCase() const { return kind_ == Kind::kWindows; }
 
-    /// What stands before the last separator, without it: empty for a bare name. On Posix the folder directly
-    /// under the root is "/", on Windows it is the drive alone ("C:"); `DirectoryForChange` completes that.
+    /// The part before the last separator; empty for a bare name. For a file directly under the root this is
+    /// "/" on Posix and the drive alone ("C:") on Windows, which `DirectoryForChange` completes.
     TextView FolderPart(TextView path) const;
-    /// What stands behind the last separator; the whole of a bare name.
+    /// The part after the last separator; the whole of a bare name.
     TextView NamePart(TextView path) const;
     /// The path of a name in a folder. On Windows a folder of 3 characters or fewer ("C:\") takes no
     /// separator.
     Text JoinPath(TextView folder, TextView name) const;
-    /// Ends the path with a separator in place, unless it has one, outer blanks aside.
+    /// Adds a separator to the end of `path` unless there is one; outer blanks don't count.
     void AddBackslash(Text& path) const;
 
     /// Whether a full path is a root, which can't be deleted. Windows knows it by its length of 3.
     bool IsRoot(TextView path) const;
     /// Whether the path starts from a root and not from the current directory.
     bool IsAbsolute(TextView path) const;
-    /// Whether the text names a folder too: it holds a separator anywhere.
+    /// Whether the text names a folder too, that is, contains a separator anywhere.
     bool IsFullPath(TextView path) const;
     /// The folder in the form in which a change of directory takes it: on Windows a drive alone ("C:"), which
     /// is the drive's current directory, gets a backslash. Empty for the folder of a bare name.
     Text DirectoryForChange(TextView folder) const;
 
-    /// The name in the form that is the same for all names the file system holds to be the same.
+    /// The name in a form that is the same for all names that mean the same file.
     Text FoldedName(TextView name) const;
     bool SameName(TextView a, TextView b) const;
 

@@ -230,7 +230,7 @@ struct Settings {
     std::int16_t ImportDelimiterType = 0;
 };
 
-/// How a line of the settings file stands in its field.
+/// How a line of the settings file relates to its field.
 enum class SettingKind : std::uint8_t {
     Plain,
     /// The reader takes the leading number of the text: a name comes back as "0". Kept for compatibility:
@@ -249,7 +249,7 @@ struct SettingLine {
     SettingKind kind;
     /// Where the reader puts the line.
     SettingMember read;
-    /// What the writer puts on the line: the same field but for three pairs.
+    /// Where the writer takes the line from: the same field, but for three pairs.
     SettingMember written;
 };
 

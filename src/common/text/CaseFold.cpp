@@ -8,7 +8,7 @@ namespace korvane {
 
 namespace {
 
-/// Small letters, every `step`th unit of the range, and how far from each its capital stands.
+/// Small letters, every `step`th unit of the range, and the distance from each to its capital.
 struct CaseRange {
     char16_t first;
     char16_t last;
@@ -32,7 +32,7 @@ constexpr CaseRange kCaseRanges[] = {
     {u'\u1EA1', u'\u1EFF', 2, -1},
 };
 
-/// What to add to each character, in blocks of 256 of which few are touched: block 0 changes nothing.
+/// What to add to each character, in blocks of 256. Few blocks hold changes, and block 0 changes nothing.
 class CaseMap {
 public:
     constexpr void Set(char16_t from, char16_t to) {

@@ -4,8 +4,9 @@
 
 namespace korvane {
 
-// Capital and small letters whatever the locale, one unit for one unit: Latin with its accents, Greek and
-// Cyrillic. Accents themselves count, and what has no partner of one unit (the sharp s) stays as it is.
+// Capital and small letters in any locale, one unit for one unit: Latin with its accents, Greek and Cyrillic.
+// Letters with different accents are different, and a letter without a partner of one unit (the sharp s)
+// stays as it is.
 
 char16_t ToUpper(char16_t character);
 char16_t ToLower(char16_t character);

@@ -44,7 +44,8 @@ struct LanguagePage {
     int page;
 };
 
-/// Languages in the script they are mostly written in; one in another script is named with its modifier.
+/// Languages by the script in which they are mostly written. A language in another script has a modifier in
+/// its name.
 constexpr LanguagePage kLanguagePages[] = {
     {"bs", 1250}, {"cs", 1250}, {"hr", 1250}, {"hu", 1250}, {"pl", 1250}, {"ro", 1250},
     {"sh", 1250}, {"sk", 1250}, {"sl", 1250}, {"sq", 1250}, {"tk", 1250}, {"sr@latin", 1250},

@@ -10,8 +10,8 @@
 
 namespace korvane {
 
-/// The two directions of one code page, made by the compiler. The 65,536 characters lie in blocks of 256, of
-/// which a page touches few: block 0 is the empty one, and byte 0 in a block says "no place".
+/// The two directions of one code page, made by the compiler. The 65,536 characters are in blocks of 256, of
+/// which a page uses few. Block 0 is empty, and byte 0 in a block means that the page lacks the character.
 struct CodePageMaps {
     int number = 0;
     std::array<char16_t, 256> characters{};
@@ -19,12 +19,12 @@ struct CodePageMaps {
     std::array<std::array<std::uint8_t, 256>, 8> blocks{};
 };
 
-/// A Windows code page of single bytes, between the bytes of files and text. All 256 byte values come back
-/// unchanged from text: a byte without a character stands for the character of the same number. The byte
+/// A Windows code page of single bytes: it turns bytes of files into text and back. All 256 byte values come
+/// back unchanged from text: a byte without a character stands for the character of the same number. The byte
 /// 0xA7 is the section mark in all pages but 874, where it is a Thai letter. A small value, cheap to copy.
 class CodePage {
 public:
-    /// What stands in bytes for a character without a place in the page.
+    /// The byte for a character that the page doesn't have.
     static constexpr char kSubstitute = '?';
 
     /// The page of Western Europe.
@@ -37,13 +37,13 @@ public:
     int Number() const { return maps_->number; }
 
     char16_t Decode(unsigned char byte) const { return maps_->characters[byte]; }
-    /// The byte of the character; nothing when it has no place in the page.
+    /// The byte of the character; nothing when the page doesn't have it.
     std::optional<unsigned char> Encode(char16_t character) const;
-    /// Whether every character has a place in the page.
+    /// Whether the page has every character of the text.
     bool Holds(TextView text) const;
 
     Text ToText(std::string_view bytes) const;
-    /// One byte for each unit, `kSubstitute` for what has no place: a surrogate pair gives two.
+    /// One byte for each unit, `kSubstitute` for what the page doesn't have. A surrogate pair gives two.
     std::string ToBytes(TextView text) const;
     /// As `ToText`, put at the end of `text`.
     void AppendText(std::string_view bytes, Text& text) const;
@@ -55,7 +55,7 @@ public:
 private:
     explicit CodePage(const CodePageMaps& maps) : maps_(&maps) {}
 
-    /// The byte of the character; 0 for the character 0 and for any without a place.
+    /// The byte of the character; 0 for the character 0 and for one that the page doesn't have.
     std::uint8_t ByteOf(char16_t character) const;
 
     const CodePageMaps* maps_;

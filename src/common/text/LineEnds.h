@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The text with CR LF in the place of each LF that stands alone.
+/// The text with CR LF in place of each lone LF.
 Text WithCrLf(TextView text);
 
 } // namespace korvane

@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-/// What ends a line of a file. What stands behind the last line end is a line too, unless it is empty.
+/// What ends a line of a file. The rest after the last line end is a line too, unless it is empty.
 enum class LineEnds : std::uint8_t { CrLf, CrLfOrCr, CrLfOrCrOrLf };
 
 /// Walks the lines of a file's bytes, which outlive it.

@@ -11,7 +11,8 @@ namespace {
 
 constexpr TextView kForbidden = u"\\/?:*\"><|";
 
-// The two lists differ on purpose: a file name keeps "both" small, a text "is", "how" and "from".
+// A file name keeps "both" small, and a text "is", "how" and "from". Kept for compatibility:
+// names-small-words.
 constexpr std::array<TextView, 16> kSmallInFileNames{u"and",   u"or",   u"in",   u"an",     u"to",  u"by",
                                                      u"of",    u"on",   u"the",  u"a",      u"for", u"over",
                                                      u"about", u"with", u"both", u"through"};
@@ -33,14 +34,16 @@ bool StartsSmallWord(TextView text, std::size_t at) {
 }
 
 void SetTitleCapitals(Text& text) {
-    // A last word of one letter is left alone, hence the two places kept at the end.
+    // The loop ends two places early, so a last word of one letter is left alone. Kept for compatibility:
+    // names-last-letter.
     for (std::size_t i = 0; i + 2 < text.size(); ++i) {
         if (EndsFileNameWord(text[i]) && !StartsSmallWord(text, i + 1)) text[i + 1] = ToUpper(text[i + 1]);
     }
     if (!text.empty()) text[0] = ToUpper(text[0]);
 }
 
-/// A small word counts only with a blank right behind it: before a comma and at the end it gets its capital.
+/// A small word counts only with a blank right after it. Before a comma and at the end it gets a capital.
+/// Kept for compatibility: names-small-words.
 bool SmallWordAndBlankAt(TextView text, std::size_t at) {
     const TextView rest = text.substr(at);
     return std::ranges::any_of(kSmallInTexts, [rest](TextView word) {

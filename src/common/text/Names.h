@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// What ends a word of a title besides blanks and line ends.
+/// These characters end a word of a title, besides blanks and line ends.
 inline constexpr TextView kTitlePunctuation = u"\"'`´!?.:,;-_";
 
 enum class NameCase : std::uint8_t {
@@ -16,22 +16,22 @@ enum class NameCase : std::uint8_t {
     Title,
 };
 
-/// The file name made of a title: "  war and peace " gives "War_and_Peace". Outer blanks and, with `Title`,
-/// capitals are set in `text` too, which keeps its inner blanks.
+/// The file name made of a title: "  war and peace " gives "War_and_Peace". `text` loses its outer blanks
+/// and, with `Title`, gets its capitals too; it keeps its inner blanks.
 Text MakeFileName(Text& text, NameCase nameCase);
 
-/// The text with the capitals of a title. `before` is the character in front of the text, 0 where there is
-/// none: the first character becomes a capital only behind a line feed, blank or tab.
+/// The text with the capitals of a title. `before` is the character before the text, 0 where there is none.
+/// The first character becomes a capital only after a line feed, blank or tab.
 Text SmartUpper(TextView text, char16_t before);
 
-/// The first of the characters that no file name may hold, in the order `\/?:*"><|`, that is in the name.
-/// They are the same on every system, so that a file keeps its name on all of them.
+/// The first character of the list `\/?:*"><|` that the name contains. No file name may contain these
+/// characters on any system, so that a file keeps its name on all of them.
 std::optional<char16_t> ForbiddenCharacter(TextView name);
 
 /// Whether a word ends at the character: blank, tab, line end, form feed or one of `kTitlePunctuation`.
 bool IsWordBreak(char16_t character);
 
-/// What stands before the first NUL.
+/// The text up to the first NUL.
 TextView CutAtNul(TextView text);
 
 } // namespace korvane

@@ -61,7 +61,7 @@ Utf8Lead ReadLead(std::uint8_t byte) {
     return {0, 0, 0};
 }
 
-/// Reads one code point at `at` and moves `at` behind it; behind one byte only when that byte is ill-formed.
+/// Reads one code point at `at` and moves `at` after it. An ill-formed byte counts alone.
 char32_t NextCodePoint(std::string_view bytes, std::size_t& at) {
     const Utf8Lead lead = ReadLead(static_cast<std::uint8_t>(bytes[at]));
     if (lead.length == 0 || at + lead.length > bytes.size()) {
@@ -103,7 +103,7 @@ Text FromUtf8(std::string_view utf8) {
 bool IsUtf8(std::string_view bytes) {
     for (std::size_t at = 0; at < bytes.size();) {
         const std::size_t start = at;
-        // A replacement character that stands in the bytes itself takes three of them.
+        // A replacement character that is really in the bytes takes three of them.
         if (NextCodePoint(bytes, at) == kReplacement && at - start == 1) return false;
     }
     return true;

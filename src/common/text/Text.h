@@ -26,7 +26,7 @@ TextView Mid(TextView text, std::size_t start, std::size_t length = TextView::np
 TextView Left(TextView text, std::size_t length);
 /// The last `length` units, or all.
 TextView Right(TextView text, std::size_t length);
-/// Position (1-based) of the first occurrence of `part` at or behind `start`; 0 when there is none.
+/// Position (1-based) of the first occurrence of `part` from `start` on; 0 when there is none.
 std::size_t InStr(TextView text, TextView part, std::size_t start = 1);
 /// Position (1-based) of the last occurrence of `part`; 0 when there is none.
 std::size_t InStrRev(TextView text, TextView part);

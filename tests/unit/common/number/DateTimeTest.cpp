@@ -72,7 +72,7 @@ TEST(DateTime, HoursCountTo12WithAHalfOfTheDay) {
     EXPECT_EQ(FormatDate(kEvening, u"hh:mm:ss AMPM"), u"09:07:00 PM");
 }
 
-TEST(DateTime, AnythingElseStandsForItself) {
+TEST(DateTime, AnythingElseIsCopied) {
     EXPECT_EQ(FormatDate(kMorning, u""), u"");
     EXPECT_EQ(FormatDate(kMorning, u"_(dd)§ A"), u"_(21)§ A");
 }

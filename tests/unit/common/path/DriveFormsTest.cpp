@@ -12,7 +12,7 @@ namespace {
 constexpr PathStyle kWindows = PathStyle::Windows;
 constexpr PathStyle kPosix = PathStyle::Posix;
 
-/// A disk on which just these files stand.
+/// A disk with just these files.
 PathQuestion Only(std::initializer_list<Text> files) {
     return [files = std::set<Text>(files)](TextView path) { return files.contains(Text(path)); };
 }
@@ -73,7 +73,7 @@ TEST(MapDrivePath, KnowsTheMarkerInAnyCase) {
     EXPECT_EQ(MapOnWindows(u"c:\\dRIVE_g\\a.exe"), u"g:\\a.exe");
 }
 
-TEST(MapDrivePath, ReadsTheLetterByPlaceWhereverTheMarkerStands) {
+TEST(MapDrivePath, ReadsTheLetterByPlaceWhereverTheMarkerIs) {
     EXPECT_EQ(MapOnWindows(u"ab:\\Drive_G\\x"), u"_:G\\x");
     EXPECT_EQ(MapOnWindows(u"C:\\Drive_"), u":");
 }

@@ -24,7 +24,7 @@ TEST(PathStyle, TheTwoStylesDiffer) {
     EXPECT_EQ(kWindows, PathStyle::Windows);
 }
 
-TEST(PathStyle, FolderPartStandsBeforeTheLastSeparator) {
+TEST(PathStyle, FolderPartEndsBeforeTheLastSeparator) {
     EXPECT_EQ(kWindows.FolderPart(u"C:\\Data\\x.tbx"), u"C:\\Data");
     EXPECT_EQ(kWindows.FolderPart(u"C:\\x.tbx"), u"C:");
     EXPECT_EQ(kWindows.FolderPart(u"C:\\Data\\"), u"C:\\Data");
@@ -42,7 +42,7 @@ TEST(PathStyle, FolderPartUnderThePosixRootIsTheRoot) {
     EXPECT_EQ(kPosix.FolderPart(u"/"), u"/");
 }
 
-TEST(PathStyle, NamePartStandsBehindTheLastSeparator) {
+TEST(PathStyle, NamePartBeginsAfterTheLastSeparator) {
     EXPECT_EQ(kWindows.NamePart(u"C:\\Data\\x.tbx"), u"x.tbx");
     EXPECT_EQ(kWindows.NamePart(u"C:\\Data\\"), u"");
     EXPECT_EQ(kWindows.NamePart(u"x.tbx"), u"x.tbx");

@@ -129,7 +129,7 @@ TEST(CodePage, EmptyGivesEmpty) {
     EXPECT_EQ(CodePage::Windows1252().ToBytes(u""), "");
 }
 
-TEST(CodePage, AppendsBehindWhatIsThere) {
+TEST(CodePage, AppendsToWhatIsThere) {
     const CodePage page = CodePage::Windows1252();
     Text text = u"Ж:";
     page.AppendText("\x80", text);

@@ -83,12 +83,12 @@ TEST(SmartUpper, CapitalisesASmallWordAtTheVeryEnd) {
 }
 
 // Kept for compatibility: names-small-words.
-TEST(SmartUpper, CapitalisesASmallWordWithoutABlankRightBehindIt) {
+TEST(SmartUpper, CapitalisesASmallWordWithoutABlankRightAfterIt) {
     EXPECT_EQ(SmartUpper(u"carry on, and on.", u' '), u"Carry On, and On.");
     EXPECT_EQ(SmartUpper(u"an on-off switch", u' '), u"An On-Off Switch");
 }
 
-TEST(SmartUpper, CapitalisesTheFirstCharacterBehindABreakOnly) {
+TEST(SmartUpper, CapitalisesTheFirstCharacterAfterABreakOnly) {
     EXPECT_EQ(SmartUpper(u"cat", u'\n'), u"Cat");
     EXPECT_EQ(SmartUpper(u"cat", u'\t'), u"Cat");
     EXPECT_EQ(SmartUpper(u"cat", u' '), u"Cat");
@@ -98,7 +98,7 @@ TEST(SmartUpper, CapitalisesTheFirstCharacterBehindABreakOnly) {
     EXPECT_EQ(SmartUpper(u"the cat", u'('), u"the Cat");
 }
 
-TEST(SmartUpper, CapitalisesBehindEachBreakInTheText) {
+TEST(SmartUpper, CapitalisesAfterEachBreakInTheText) {
     EXPECT_EQ(SmartUpper(u"x a1\tb,c;d.e:f-g(h\ni", u'x'), u"x A1\tB,C;D.E:F-G(h\ni");
 }
 
@@ -144,7 +144,7 @@ TEST(IsWordBreak, HoldsForBlanksLineEndsAndPunctuation) {
     EXPECT_FALSE(IsWordBreak(u'\0'));
 }
 
-TEST(CutAtNul, KeepsWhatStandsBeforeTheFirstNul) {
+TEST(CutAtNul, KeepsWhatComesBeforeTheFirstNul) {
     EXPECT_EQ(CutAtNul(TextView(u"ab\0cd\0", 6)), u"ab");
     EXPECT_EQ(CutAtNul(TextView(u"\0ab", 3)), u"");
     EXPECT_EQ(CutAtNul(u"ab"), u"ab");
