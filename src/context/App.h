@@ -27,12 +27,12 @@ class Shell;
 class Spreadsheet;
 class SystemFolders;
 
-/// What every window reaches: the settings, the outside, the ports and the values through which windows tell
-/// each other things. A port and a group of such values are found by their type, so that a window names only
-/// those that it uses. One per process; a test makes a fresh one.
+/// What every window reaches: the settings, the platform, the ports and the values that windows exchange. A
+/// port and a group of such values are found by their type, so that a window names only those that it uses.
+/// There is one App for a process; each test makes its own.
 class App {
 public:
-    /// The outside. Everything outlives the App.
+    /// The platform. Everything outlives the App.
     struct Platform {
         FileSystem& files;
         MessageBoxes& messages;
@@ -43,7 +43,7 @@ public:
         InstanceChannel& instance;
         FormHost& forms;
         std::function<std::unique_ptr<Grid>()> makeGrid;
-        /// In which all files stand.
+        /// The code page of all files.
         CodePage codePage = CodePage::Windows1252();
         /// Optional.
         const SystemFolders* folders = nullptr;
@@ -70,7 +70,7 @@ public:
     /// nullptr where there is no spreadsheet application.
     std::unique_ptr<Spreadsheet> MakeSpreadsheet() const;
     const CodePage& Page() const { return platform_.codePage; }
-    /// nullptr where nobody knows the system's folders.
+    /// nullptr where the system's folders aren't known.
     const SystemFolders* Folders() const { return platform_.folders; }
 
     const UserLocale& Locale() const {
@@ -80,15 +80,15 @@ public:
     korvane::Settings Settings;
     /// The outcome of the last modal window: 0 nothing or cancel, 1 done, others as the window says.
     std::int16_t DialogResult = 0;
-    /// Who answers the questions of a port (`context/ports`); nullptr where nobody does, and the step that
-    /// asks has no effect then.
+    /// The object that answers the questions of a port (`context/ports`); nullptr when there is none, and
+    /// then the step that asks has no effect.
     template <class PortT>
     PortT* Port() const {
         const auto found = ports_.find(typeid(PortT));
         return found == ports_.end() ? nullptr : static_cast<PortT*>(found->second);
     }
-    /// Ports are set while the program is put together. Who answers outlives the App or takes itself away
-    /// again with nullptr.
+    /// Ports are set while the program is put together. The object that answers outlives the App, or takes
+    /// itself away again with nullptr.
     template <class PortT>
     void SetPort(PortT* answers) {
         ports_[typeid(PortT)] = answers;

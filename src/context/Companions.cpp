@@ -32,8 +32,8 @@ constexpr std::array<TextView, 6> kCalculators{u"gnome-calculator", u"kcalc",   
 void StartCalculator(App& app, TextView) {
     SystemDirs& dirs = app.Exchange<SystemDirs>();
     if (app.Files().Style().HasDrives()) {
-        // By its full path: a bare name would be looked for in the current directory first, where it may be
-        // anything.
+        // The path is full, because a bare name would be looked for in the current directory first, where it
+        // may be anything.
         if (!dirs.SystemDir.empty()) app.Shell().Run(dirs.SystemDir + u"calc.exe", {}, WindowState::Normal);
         return;
     }
@@ -47,7 +47,7 @@ struct CompanionProgram {
     StandIn standIn = nullptr;
 };
 
-// In the order of `Companion`.
+// The order is that of `Companion`.
 constexpr std::array<CompanionProgram, 9> kCompanions{{
     {u"C:\\Drive_G\\Sandrel\\Abrill\\Abrill.exe", StartCalculator},
     {u"C:\\Drive_G\\Sandrel\\Dunmark\\Dunmark.exe", OpenOnDesktop},
@@ -60,7 +60,7 @@ constexpr std::array<CompanionProgram, 9> kCompanions{{
     {u"C:\\Drive_G\\TolmereSet\\Veldan\\Veldan.exe"},
 }};
 
-/// A file or folder that is there is meant as it stands, even where its own name holds a quote.
+/// A file or folder that exists is meant as it is, even when its name contains a quote.
 TextView StandInArgument(const FileSystem& files, TextView argument) {
     const bool isThere = files.FileExists(argument) || files.DirExists(argument);
     return isThere ? argument : BareArgument(argument);

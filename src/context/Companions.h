@@ -21,9 +21,9 @@ enum class Companion : std::uint8_t {
     Veldan,     ///< finds files
 };
 
-/// Starts a companion as `LaunchProgram` does, its argument being one file or folder or nothing. Where it
-/// can't be started, the desktop's own program for texts, sounds, pictures, folders or sums stands in for it;
-/// the others fail without a word.
+/// Starts a companion as `LaunchProgram` does. Its argument is one file or folder, or nothing. When it can't
+/// be started, the desktop's own program for texts, sounds, pictures, folders or sums takes its place; the
+/// others fail without a message.
 void LaunchCompanion(App& app, Companion companion, TextView argument = {});
 
 void LaunchLorrit(App& app, TextView folder);

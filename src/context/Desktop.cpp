@@ -9,7 +9,7 @@ namespace korvane {
 
 namespace {
 
-/// The directory "0" is none: the file manager stays where it likes to start.
+/// The directory "0" means none: the file manager starts in a place of its own choice.
 void OpenExplorer(App& app, TextView parameters) {
     app.Shell().Open({u"Open", Text(kFileManager), Text(parameters), u"0"});
 }

@@ -11,7 +11,7 @@ namespace korvane {
 
 namespace {
 
-// By the number of the type.
+// The index is the number of the type.
 constexpr std::array<TextView, 6> kTypeTexts{u"Unknown", u"Removable", u"Fixed",
                                              u"Network", u"CD-ROM",    u"RAM disk"};
 
@@ -20,7 +20,8 @@ TextView TypeText(DriveType type) {
     return kTypeTexts[number < kTypeTexts.size() ? number : static_cast<std::size_t>(DriveType::Fixed)];
 }
 
-/// A label found as a name of the directory has a dot behind its eighth character, as file names once had.
+/// A label that was found as an entry of the directory has a dot after its eighth character, like a short
+/// file name.
 Text WithoutNameDot(TextView entry) {
     constexpr std::size_t kBaseLength = 8;
     const bool dotted = Mid(entry, kBaseLength + 1, 1) == u".";

@@ -10,8 +10,8 @@ namespace korvane {
 
 namespace {
 
-/// What the chooser leaves at its end. The filter is a line of the settings file as well; "0" is what the
-/// reader of that line makes of any filter.
+/// What the chooser leaves at its end. The filter is a line of the settings file as well, and the
+/// reader of that line turns any filter into "0".
 class LeaveAtRest {
 public:
     explicit LeaveAtRest(App& app) : app_(app) {}

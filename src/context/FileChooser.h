@@ -11,13 +11,12 @@ class FileSystem;
 
 enum class ChooserMode : std::int16_t { Load = 0, Save = 1 };
 
-/// Lets the user choose files and returns when the chooser has closed. What came of it stands in
-/// `App::Lister`: `ChosenFilePath` is empty when nothing was chosen. `defaultName` is the name proposed for a
-/// save.
+/// Lets the user choose files and returns when the chooser has closed. The result is in `App::Lister`:
+/// `ChosenFilePath` is empty when nothing was chosen. `defaultName` is the name proposed for a save.
 void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView caption,
                      TextView defaultName = {});
 
-/// Shows the file chooser as the lister of directories that it is, in the mode in which it was left last.
+/// Shows the file chooser as a lister of directories, in the mode in which it was left last.
 void ShowDirectoryLister(App& app);
 
 /// Goes back, at the end of its life, to the drive and directory that were the current ones at its start.

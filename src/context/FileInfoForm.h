@@ -8,8 +8,8 @@ namespace korvane {
 
 class App;
 
-/// What a window that tells the facts of a file has in any case: captions in front of values, and buttons
-/// that put them on the clipboard and close.
+/// What every window with facts about a file has: captions before values, and buttons that copy them to the
+/// clipboard and close.
 class FileInfoForm : public Form {
 public:
     Label lblFileNameCaption{*this, "lblFileNameCaption", u"File name"};
@@ -33,7 +33,7 @@ protected:
     static Text Line(TextView title, TextView value);
     /// The text for the clipboard.
     virtual Text Facts() const = 0;
-    // Its first and its last lines, which all such windows have.
+    // The first and the last lines of the text, which all such windows have.
     Text NameLines() const;
     Text SizeLines() const;
 

@@ -6,7 +6,7 @@ namespace korvane {
 
 class App;
 
-/// Whether the name can be a file's. A box tells the first character that forbids it.
+/// Whether a file can have the name. A box shows the first character that forbids it.
 bool CheckFileName(App& app, TextView name);
 
 } // namespace korvane

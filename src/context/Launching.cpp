@@ -19,12 +19,12 @@ namespace {
 
 constexpr TextView kProgramExtension = u".exe";
 
-/// The folder in which the tools stand side by side.
+/// The folder of the companion tools.
 Text InCompanionSet(const PathStyle& style, TextView name) {
     return style.JoinPath(u"C:\\TolmereSet", name);
 }
 
-/// Where no drives are, programs go by their name without ".exe" too.
+/// On a system without drives, programs also have names without ".exe".
 Text InProgramFolder(const FileSystem& files, TextView name) {
     const Text path = files.Style().JoinPath(files.ProgramDir(), name);
     if (files.Style().HasDrives() || !HasExtension(name, kProgramExtension) || files.FileExists(path))
@@ -32,14 +32,14 @@ Text InProgramFolder(const FileSystem& files, TextView name) {
     return path.substr(0, path.size() - kProgramExtension.size());
 }
 
-/// Without drives a path in Windows form is the name of a program and nothing else: a file in the current
-/// directory that happens to be called "G:\a.exe" is none.
+/// On a system without drives, a path in Windows form only names a program. A file in the current directory
+/// that happens to be called "G:\a.exe" isn't meant.
 Text FindByName(const FileSystem& files, TextView windowsPath) {
     return InProgramFolder(files, windowsPath.substr(windowsPath.find_last_of(u"\\/") + 1));
 }
 
-/// The file that was found to be there: a bare name handed on would be looked for among the system's own
-/// programs.
+/// The full path of the file that was found. A bare name would be looked for among the system's own programs
+/// instead.
 Text ThatFile(const FileSystem& files, const Text& program) {
     return files.Style().IsAbsolute(program) ? program : files.FullPath(program);
 }
@@ -67,7 +67,7 @@ constexpr std::array<OfficeProgram, 5> kOfficePrograms{{
     {u"POWERPNT.EXE", &Settings::PowerPointPath},
 }};
 
-// From the newest on; the last is taken untested.
+// The newest comes first, and the last is taken without a test.
 constexpr std::array<TextView, 4> kOfficeFolders{u"OFFICE16", u"OFFICE12", u"OFFICE11", u"Office"};
 
 /// The location that the user set for the program; empty for none.
@@ -96,11 +96,13 @@ Text FindOfficeProgram(const App& app, TextView name) {
     const FileSystem& files = app.Files();
     const Text set = LocationSet(app.Settings, name);
     if (!set.empty() && files.FileExists(set)) return set;
-    // Without drives a path of those folders would be a name in the current directory, which may be anything.
+    // On a system without drives, a path of those folders would be a name in the current directory, which may
+    // be anything.
     if (!files.Style().HasDrives()) return files.Style().JoinPath(files.ProgramDir(), name);
     Text path;
     for (const TextView folder : kOfficeFolders) {
-        // The folder of programs ends in a backslash already; the system takes two for one.
+        // The folder of programs ends in a backslash already. Kept for compatibility:
+        // office-path-two-backslashes.
         path = app.Exchange<SystemDirs>().ProgramFilesDir + u"\\Microsoft Office\\" + Text(folder) + u"\\" +
                Text(name);
         if (files.FileExists(path)) break;

@@ -6,11 +6,12 @@ namespace korvane {
 
 class App;
 
-/// Starts a program in a normal window, with the words of `argument`, which nobody quotes: a path with blanks
-/// reaches the program as several words. Of an argument that holds a double quote anywhere, the first and the
-/// last character are dropped, quotes or not. A program that isn't there is looked for in its other drive
-/// form, in "C:\TolmereSet" and at last in the program folder. The task number; 0, without a word, when
-/// nothing was started.
+/// Starts a program in a normal window with the words of `argument`. These aren't quoted, so a path with
+/// blanks reaches the program as several words (kept for compatibility: argument-not-quoted). An argument
+/// that contains a double quote anywhere loses its first and its last character, quotes or not (kept for
+/// compatibility: argument-loses-outer-characters). A program that isn't there is looked for in its other
+/// drive form, in "C:\TolmereSet" and at last in the program folder. The result is the task number; 0,
+/// without a message, when nothing was started.
 int LaunchProgram(App& app, TextView program, TextView argument = {});
 
 /// Starts a program that is there in a normal window, without looking for it anywhere else.
@@ -21,7 +22,7 @@ int StartProgram(App& app, TextView program);
 TextView BareArgument(TextView argument);
 
 /// Where an Office program ("WINWORD.EXE") is: as the settings say, or in the folders that Office is
-/// installed in. When it is nowhere, a path that doesn't exist.
+/// installed in. The result is a path that doesn't exist when it is nowhere.
 Text FindOfficeProgram(const App& app, TextView name);
 
 } // namespace korvane

@@ -39,7 +39,7 @@ void ShowCannotLocate(App& app, Text& file) {
 }
 
 void ShowCannotAccess(App& app, TextView file, FileAccess access) {
-    // Before the box: what runs behind it may touch the disk.
+    // This is read before the box is shown, because what runs meanwhile may touch the disk.
     const Text reason = QuotedReason(app.Files().LastErrorText());
     const Text shown(Trim(file).empty() ? u"( no name specified or name is empty ! )" : file);
     ShowBox(app,

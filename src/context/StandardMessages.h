@@ -11,9 +11,9 @@ class App;
 /// Tells that a file can't be loaded, and which directory is the current one.
 void ShowCannotLoad(App& app, TextView file);
 
-/// Tells that a program or file isn't there. An empty name becomes "( Filename empty! )", for the caller too:
-/// one that holds a setting passes a copy. The mouse pointer goes back to the default, since callers often
-/// come with the hourglass on.
+/// Tells that a program or file isn't there. An empty name becomes "( Filename empty! )" for the caller too
+/// (kept for compatibility: cannot-locate-names-empty), so a caller with a setting passes a copy. The mouse
+/// pointer goes back to the default, because callers often show the hourglass.
 void ShowCannotLocate(App& app, Text& file);
 
 enum class FileAccess : std::uint8_t { Save, Delete };
@@ -21,7 +21,7 @@ enum class FileAccess : std::uint8_t { Save, Delete };
 /// Tells that a file can't be written or deleted, with the words of the file system's last failure.
 void ShowCannotAccess(App& app, TextView file, FileAccess access = FileAccess::Save);
 
-/// Tells how to get at a text that was put in the clipboard.
+/// Tells how to paste a text that was put in the clipboard.
 void ShowPasteHint(App& app);
 
 /// Deletes the file if it is there. A failure has no consequence.

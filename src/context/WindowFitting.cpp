@@ -29,7 +29,8 @@ struct Axis {
     Twips defaultLength;
 };
 
-/// What was never stored. The stored values stay 0, so that the further steps leave the window alone.
+/// Gives defaults for what was never stored. The stored values stay 0. Kept for compatibility:
+/// fit-keeps-stored-zeros.
 void GiveDefaults(const Axis& axis, Twips gap) {
     if (axis.storedStart == Twips{0}) axis.start = axis.areaStart + gap;
     if (axis.storedLength == Twips{0}) axis.length = axis.defaultLength;

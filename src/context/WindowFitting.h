@@ -11,12 +11,12 @@ namespace korvane {
 class App;
 class Form;
 
-/// How far inside the work area the main window and any other one come up.
+/// The distance from the edge of the work area at which the main window, or any other one, opens.
 inline constexpr Twips kMainWindowGap{300};
 inline constexpr Twips kWindowGap{600};
 
-/// Puts a window whose stored place is `place` (all or part of it may be 0) where it is seen, and gives
-/// `place` the new values where it had to become smaller. The window already has the place.
+/// Moves a window to where it can be seen. `place` is its stored place, all or part of which may be 0; it
+/// gets the new values when the window has to become smaller. The window has the place already.
 void FitWindowToWorkArea(const Rect& workArea, Form& window, Rect& place, Twips gap = kWindowGap);
 
 /// The settings in which a window keeps its place.
@@ -27,10 +27,10 @@ struct StoredPlace {
     std::int32_t Settings::*height;
 };
 
-/// Gives a window, not the main one, its stored place, where it is seen.
+/// Gives a window, but not the main one, its stored place, and moves it to where it can be seen.
 void RestorePlace(const App& app, Form& window, const StoredPlace& stored);
 
-/// Keeps the window's place for its next opening.
+/// Stores the window's place for its next opening.
 void StorePlace(App& app, const Form& window, const StoredPlace& stored);
 
 } // namespace korvane

@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// The request block of the file chooser: what the caller asks, and what came of it.
+/// The request block of the file chooser: what the caller asks, and the result.
 struct ListerRequest {
     /// 0 load, 1 save.
     std::int16_t ListerMode = 0;

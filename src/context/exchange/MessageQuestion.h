@@ -6,9 +6,9 @@
 
 namespace korvane {
 
-/// What is to become of an altered file.
+/// What happens to an altered file.
 enum class MsgAnswer : std::int16_t {
-    /// The closing stops. What asks sets this beforehand.
+    /// The closing stops. The window that asks sets this before it asks.
     Cancel = -1,
     DoNotSave = 0,
     SaveUnderAName = 1,

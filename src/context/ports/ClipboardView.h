@@ -7,7 +7,7 @@ class ClipboardView {
 public:
     virtual ~ClipboardView() = default;
     virtual void Show() = 0;
-    /// Leaves what becomes of the contents to the caller: true when the user retrieved them.
+    /// Leaves the use of the contents to the caller; true when the user retrieved them.
     virtual bool Choose() = 0;
 };
 

@@ -10,7 +10,7 @@ namespace korvane {
 /// The colour dialog.
 class ColourPicker {
 public:
-    /// What the dialog opens with: the ready colours alone, or what mixes others as well.
+    /// What the dialog opens with: the basic colours alone, or also the part that mixes others.
     enum class Extent : std::uint8_t { Simple, Full };
 
     virtual ~ColourPicker() = default;

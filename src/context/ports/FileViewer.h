@@ -8,10 +8,10 @@ namespace korvane {
 class FileViewer {
 public:
     virtual ~FileViewer() = default;
-    /// Shows a file that is there in what is right for its type, mostly the text window, and returns when
-    /// that has closed.
+    /// Shows an existing file in the window for its type, mostly the text window, and returns when that has
+    /// closed.
     virtual void View(TextView path) = 0;
-    /// Lets the user choose one of his programs, which then opens the file.
+    /// Lets the user choose a program, which then opens the file.
     virtual void OpenWith(TextView path) = 0;
 };
 

@@ -10,7 +10,7 @@ namespace korvane {
 class FontPicker {
 public:
     virtual ~FontPicker() = default;
-    /// The chosen font, in which what the user left open is as in `present`; nothing on a cancel.
+    /// The chosen font; what the user didn't choose is as in `present`. Nothing on a cancel.
     virtual std::optional<FontSpec> Choose(const FontSpec& present) = 0;
 };
 

@@ -20,7 +20,7 @@ public:
         Text name{};
         /// What a chosen name without an extension gets ("xls"); empty for nothing.
         Text defaultExtension{};
-        /// Where the dialog starts; empty for where it was left.
+        /// Where the dialog starts; when empty, where it was left last.
         Text folder{};
 
         bool operator==(const Request&) const = default;

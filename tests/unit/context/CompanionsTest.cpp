@@ -122,7 +122,7 @@ TEST_P(Companions, TheOthersFailWithoutAWord) {
 INSTANTIATE_TEST_SUITE_P(Styles, Companions, testing::Values(PathStyle::Windows, PathStyle::Posix),
                          [](const auto& style) { return style.param.HasDrives() ? "Windows" : "Posix"; });
 
-TEST(CompanionsOnPosix, AFileThatHoldsAQuoteIsOpenedAsItStands) {
+TEST(CompanionsOnPosix, AFileWithAQuoteInItsNameIsOpenedAsItIs) {
     TestApp t(PathStyle::Posix);
     t.shell.SetStartable([](TextView) { return false; });
     t.files.AddFile(u"/data/5\" disk ");

@@ -39,7 +39,7 @@ TEST_F(DriveInfo, TakesAnyOtherTypeForFixed) {
     EXPECT_EQ(TypeTextOf(static_cast<DriveType>(6)), u"Fixed");
 }
 
-TEST_F(DriveInfo, TakesTheVolumesNameAsItStands) {
+TEST_F(DriveInfo, TakesTheVolumesNameAsItIs) {
     EXPECT_EQ(LabelOf({.name = u"Long.name of a volume", .labelEntry = u"OTHER"}), u"Long.name of a volume");
 }
 
@@ -47,7 +47,7 @@ TEST_F(DriveInfo, TakesTheNameInTheDirectoryForABlankOne) {
     EXPECT_EQ(LabelOf({.name = u"  ", .labelEntry = u"DATA"}), u"DATA");
 }
 
-TEST_F(DriveInfo, LeavesTheDotBehindTheEighthCharacterOut) {
+TEST_F(DriveInfo, LeavesTheDotAfterTheEighthCharacterOut) {
     EXPECT_EQ(LabelOf({.labelEntry = u"DATABASE.DIS"}), u"DATABASEDIS");
     EXPECT_EQ(LabelOf({.labelEntry = u"DATABASEDIS"}), u"DATABASEDIS");
     EXPECT_EQ(LabelOf({.labelEntry = u"DATA.DIS"}), u"DATA.DIS");

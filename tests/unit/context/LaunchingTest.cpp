@@ -83,7 +83,7 @@ TEST_F(LaunchingOnWindows, NeverDoublesTheBackslashOfAProgramFolderThatIsARoot) 
     EXPECT_EQ(Started(u"D:\\a.exe"), u"C:\\a.exe");
 }
 
-TEST_F(LaunchingOnWindows, LooksWhereTheProgramStandsAlsoWhenItsStateIsElsewhere) {
+TEST_F(LaunchingOnWindows, LooksWhereTheProgramIsAlsoWhenItsStateIsElsewhere) {
     t.files.SetStateDir(u"C:\\Users\\ann");
     EXPECT_EQ(Started(u"C:\\Drive_G\\lost.exe"), u"C:\\Korvane\\lost.exe");
 }
@@ -121,7 +121,7 @@ TEST_F(LaunchingOnWindows, ABlankArgumentIsNone) {
 }
 
 // Kept for compatibility: argument-not-quoted.
-TEST_F(LaunchingOnWindows, NobodyQuotesTheArgument) {
+TEST_F(LaunchingOnWindows, DoesNotQuoteTheArgument) {
     EXPECT_THAT(Words(u" C:\\My Files\\x.txt "), ElementsAre(u"C:\\My", u"Files\\x.txt"));
 }
 
@@ -219,7 +219,7 @@ TEST_F(LaunchingOnPosix, ANameThatIsThereStartsThatFileAndNoneOfTheSystems) {
     EXPECT_EQ(Started(u"./ls"), t.files.FullPath(u"./ls"));
 }
 
-TEST_F(LaunchingOnPosix, LooksWhereTheProgramStandsAlsoWhenItsStateIsElsewhere) {
+TEST_F(LaunchingOnPosix, LooksWhereTheProgramIsAlsoWhenItsStateIsElsewhere) {
     t.files.SetStateDir(u"/home/ann/.config/korvane");
     EXPECT_EQ(Started(u"C:\\Drive_G\\Sub\\a.exe"), u"/opt/korvane/a");
     EXPECT_EQ(Started(u"/usr/bin/lost"), u"/opt/korvane/lost");

@@ -114,7 +114,7 @@ TEST_F(StoredPathsOnPosix, AFolderThatIsThereBecomesTheHint) {
     EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"/home/ann/Drive_x");
 }
 
-TEST_F(StoredPathsOnPosix, ALostFolderIsToldAsItStands) {
+TEST_F(StoredPathsOnPosix, ALostFolderIsToldAsItIsWritten) {
     t.user.Answer(CannotLocateDirectory(u"/a/Drive_G/lost"), Answer::Ok);
     MapFolderPath(t.app, u"/a/Drive_G/lost");
     EXPECT_EQ(t.app.Exchange<ListerRequest>().CurrentFolderHint, u"");

@@ -32,11 +32,11 @@ protected:
     Rect place;
 };
 
-TEST_F(WindowFitting, AFirstRunStands300TwipsInsideTheWorkArea) {
+TEST_F(WindowFitting, AFirstRunIs300TwipsInsideTheWorkArea) {
     EXPECT_EQ(Fit(main, Place(0, 0, 0, 0)), Place(450, 360, 4800, 3200));
 }
 
-TEST_F(WindowFitting, OtherWindowsStand600TwipsInside) {
+TEST_F(WindowFitting, OtherWindowsAre600TwipsInside) {
     EXPECT_EQ(Fit(other, Place(0, 0, 0, 0)), Place(750, 660, 4800, 3200));
 }
 
@@ -63,7 +63,7 @@ TEST_F(WindowFitting, AWindowPartlyOffTheEdgeMovesBackWithItsSize) {
 
 // Kept for compatibility: fit-without-area-start.
 TEST_F(WindowFitting, TheEdgeIsCountedWithoutTheStartOfTheWorkArea) {
-    // Its right edge lies inside the work area, and yet it moves.
+    // Its right edge is inside the work area, and yet it moves.
     EXPECT_EQ(Fit(main, Place(11001, 2000, 9000, 8000)), Place(10850, 2000, 9000, 8000));
 }
 
