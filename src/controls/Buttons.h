@@ -6,8 +6,7 @@
 
 namespace korvane {
 
-/// A box that holds 1 (ticked) or 0. `Click` fires whenever the value becomes another, also when the program
-/// sets it.
+/// A box that holds 1 (ticked) or 0. `Click` fires whenever the value changes, also when the program sets it.
 class CheckBox : public Control {
 public:
     CheckBox(Form& owner, std::string_view name, TextView caption = {}, TextView toolTip = {});
@@ -18,20 +17,21 @@ public:
 
     std::function<void()> Click;
 
-    /// What the user does: nothing happens while the box is disabled or hidden.
+    /// The user presses the box. Nothing happens while it is disabled or hidden.
     void Press();
 
 protected:
     void Changed(Aspect aspect) override;
 };
 
-/// One of several of which a single one is on: the buttons of a window that share a group name.
+/// One of several buttons of which only one is on: the buttons of a window with the same group name.
 class OptionButton : public Control {
 public:
     OptionButton(Form& owner, std::string_view name, std::string_view group, TextView caption = {});
 
     Property<Text> Caption{*this, Aspect::Caption};
-    /// Turning one on turns the others of its group off; `Click` fires for the one that comes on.
+    /// Turning a button on turns the others of its group off, and `Click` fires for the one that was turned
+    /// on.
     Property<bool> Value{*this, Aspect::Value};
 
     const std::string& Group() const { return group_; }

@@ -19,7 +19,7 @@ public:
 
     std::function<void()> Click;
 
-    /// What the user does: nothing happens while the button is disabled or hidden.
+    /// The user presses the button. Nothing happens while it is disabled or hidden.
     void Press();
 };
 

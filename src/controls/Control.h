@@ -29,10 +29,10 @@ public:
     Property<FontSpec> Font{*this, Aspect::Font};
     /// 0 leaves the width to the layout of the window.
     Property<Twips> Width{*this, Aspect::Place};
-    /// For the window's own use; nothing is shown of it.
+    /// This is for the window's own use and isn't shown.
     Text Tag;
 
-    /// A window that isn't shown yet keeps the wish until it is.
+    /// In a window that isn't shown yet, this takes effect when it is.
     void SetFocus();
 
     std::function<void(KeyEvent&)> KeyDown;

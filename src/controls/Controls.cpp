@@ -46,9 +46,9 @@ korvane::Text TextBox::SelText() const {
 
 void TextBox::SetSelText(TextView text) {
     const TextView before = Left(Text.Get(), AtLeastZero(SelStart));
-    const TextView behind = Mid(Text.Get(), before.size() + AtLeastZero(SelLength) + 1);
+    const TextView after = Mid(Text.Get(), before.size() + AtLeastZero(SelLength) + 1);
     korvane::Text joined;
-    joined.append(before).append(text).append(behind);
+    joined.append(before).append(text).append(after);
     const auto cursor = static_cast<int>(before.size() + text.size());
     Text = std::move(joined);
     SelStart = cursor;

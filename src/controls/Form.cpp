@@ -12,7 +12,7 @@ Form::Form(FormHost& host, std::string_view name, TextView caption) : host_(host
 
 Form::~Form() {
     LeaveLoaded();
-    // A window inside another one was never shown by itself, but has its widgets too.
+    // A window inside another one was never shown by itself, but it has widgets too.
     host_.Hide(*this);
 }
 

@@ -22,7 +22,7 @@ class Form : public Observed {
 public:
     /// `name` is the window's class name, by which its look is found. The host outlives the form.
     Form(FormHost& host, std::string_view name, TextView caption);
-    /// A form that is still shown goes from the screen without its closing handlers.
+    /// A form that is still shown leaves the screen without running its closing handlers.
     ~Form() override;
 
     const std::string& Name() const { return name_; }
@@ -37,24 +37,25 @@ public:
     Property<FormState> State{*this, Aspect::State, FormState::Normal};
     Text Tag;
 
-    /// The controls in the order of their declaration. They live and die with the form.
+    /// The controls in the order of their declaration. They live as long as the form.
     const std::vector<Control*>& Controls() const { return controls_; }
     /// nullptr when there is no such control.
     Control* Find(std::string_view name) const;
-    /// The control that has, or on showing will have, the keyboard; nullptr when none was ever given it.
+    /// The control that has the keyboard, or will have it when the window is shown; nullptr when none was
+    /// given it yet.
     Control* Focused() const { return focused_; }
-    /// The keyboard went to the control, whoever moved it there.
+    /// Tells the form that the keyboard has moved to the control.
     void FocusMoved(Control& control) { focused_ = &control; }
 
-    /// Runs `Load` unless it has run. Showing the window does so too; a window that stands inside another one
-    /// is loaded only.
+    /// Runs `Load` unless it has run. Showing the window does so too; a window inside another one is only
+    /// loaded.
     void EnsureLoaded();
     /// Returns when the window has closed.
     void ShowModal();
     void Show();
     bool Shown() const { return shown_; }
     /// Asks `QueryUnload`; when it agrees, runs `Unload` and takes the window from the screen. False when
-    /// refused. Shown again afterwards, the window loads anew.
+    /// refused. When the window is shown later, it loads again.
     bool Close();
 
     // Handlers.

@@ -14,15 +14,15 @@ public:
     /// Shows the window and returns when it has closed.
     virtual void RunModal(Form& form) = 0;
     virtual void Show(Form& form) = 0;
-    /// The window has closed, or its object is going away: it leaves the screen. Nothing happens for one that
-    /// isn't there.
+    /// Takes a window from the screen that has closed or whose object is going away. Nothing happens when it
+    /// isn't shown.
     virtual void Hide(Form& form) = 0;
-    /// Shows the menu at the mouse pointer; its entries are chosen as the user does.
+    /// Shows the menu at the mouse pointer and lets the user choose from it.
     virtual void PopUp(Menu& menu) = 0;
-    /// Brings the window to the front with the keyboard.
+    /// Brings the window to the front and gives it the keyboard.
     virtual void Raise(Form& form) = 0;
 
-    /// The windows that have run their `Load` and not yet closed, in this order.
+    /// The windows that have run their `Load` and haven't closed yet, in the order of loading.
     const std::vector<Form*>& LoadedForms() const { return loaded_; }
 
 private:

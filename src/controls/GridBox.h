@@ -10,8 +10,8 @@ namespace korvane {
 
 enum class MouseButton : std::uint8_t { Left, Right, Middle };
 
-/// The grid of a window: owns the store and tells what the user does to it. What the shown grid must follow
-/// it hears from the store itself (`GridListener`).
+/// The grid of a window. It owns the store and reports what the user does. The shown grid hears of changes
+/// from the store itself (`GridListener`).
 class GridBox : public Control {
 public:
     GridBox(Form& owner, std::string_view name, std::unique_ptr<Grid> store);
@@ -24,12 +24,12 @@ public:
 
     /// The user typed a new value into the cell and committed it; the store holds it already.
     std::function<void(Row, Col)> AfterEdit;
-    /// Before the grid sorts, which it does when `SortOnHeaderClick` is true afterwards.
+    /// This runs before the grid sorts. It sorts when `SortOnHeaderClick` is true afterwards.
     std::function<void(Col)> HeaderClick;
-    /// The user changed the table himself, and all that this brings about has happened.
+    /// The user changed the table, and everything that follows from it has happened.
     std::function<void()> AfterChange;
     std::function<void(MouseButton)> MouseUp;
-    /// The cell is the current one by then.
+    /// The cell is the current one already.
     std::function<void(Row, Col)> CellClick;
     /// The mouse pointer came over the grid (true) or left it.
     std::function<void(bool)> Hover;
@@ -37,14 +37,16 @@ public:
     /// How the current row is drawn; `kNoColour` leaves it to the look of the grid.
     Property<Colour> HighlightBackColor{*this, Aspect::Colours};
     Property<Colour> HighlightForeColor{*this, Aspect::Colours};
-    /// Stands out wherever it is in a cell, with case counting; nothing does while it is empty. Only painted.
+    /// This text is highlighted wherever a cell contains it; case counts. Nothing is highlighted while it is
+    /// empty.
     Property<Text> MarkedText{*this, Aspect::Text};
-    /// What the mouse pointer is over the grid.
+    /// The form of the mouse pointer over the grid.
     Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
-    /// A picture file for the pointer that is a hand; where it can't be read, it is the system's hand.
+    /// A picture file for the pointer in the form of a hand. When it can't be read, the system's hand is
+    /// used.
     Property<Text> HandImage{*this, Aspect::Pointer};
 
-    /// How wide the grid is on the screen, as the view last told; 0 while it isn't shown.
+    /// How wide the grid is on the screen, as the view set it last; 0 while it isn't shown.
     Twips ShownWidth;
 
     // What the user does.
@@ -53,11 +55,11 @@ public:
     void CommitEdit(Row row, Col col, TextView text);
     /// Ticks or unticks the row's box, which counts as a committed edit.
     void ClickCheck(Row row);
-    /// A second click on the same header turns the order round.
+    /// A second click on the same header reverses the order.
     void ClickHeader(Col col);
     /// Makes the cell the current one and raises `CellClick`.
     void ClickCell(Row row, Col col);
-    /// Gives the column a width while he drags its edge; `ReleaseColumn` follows when he lets go.
+    /// Gives the column a width while its edge is dragged. `ReleaseColumn` follows when the edge is let go.
     void DragColumn(Col col, int width);
     void ReleaseColumn();
 

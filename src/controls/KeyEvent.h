@@ -2,7 +2,7 @@
 
 namespace korvane {
 
-/// The modifier mask of a key: a test for a mask means exactly that mask.
+/// The modifier mask of a key. A test for a mask means exactly that mask.
 namespace Mask {
 inline constexpr int None = 0;
 inline constexpr int Shift = 1;

@@ -18,7 +18,7 @@ class Panel : public Control {
 public:
     using Control::Control;
 
-    /// Stands in the border of a frame; other panels show none.
+    /// This is shown in the border of a frame; other panels don't show it.
     Property<Text> Caption{*this, Aspect::Caption};
     /// `kNoColour` leaves it to the look of the window.
     Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};

@@ -20,11 +20,11 @@ public:
     void RemoveItem(int index);
     void Clear();
 
-    /// Fires `Click` when it becomes another. An index outside the list has no effect.
+    /// Fires `Click` when the current line changes. An index outside the list has no effect.
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int index);
 
-    // The check marks of a list that has them, and the picks of one that takes several.
+    // The check marks of a list with check boxes, and the picked lines of a list that allows several.
     bool Selected(int index) const;
     void SetSelected(int index, bool selected);
 

@@ -14,9 +14,9 @@ struct ListRow {
     std::vector<Text> texts;
     bool checked = false;
     bool selected = false;
-    /// A number that the window keeps with the row; nothing is shown of it.
+    /// A number that the window keeps with the row. It isn't shown.
     int tag = 0;
-    /// Which of the window's images stands in front of the row; 0 for none.
+    /// Which of the window's images is shown before the row; 0 for none.
     int image = 0;
 };
 

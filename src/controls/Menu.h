@@ -8,8 +8,8 @@
 
 namespace korvane {
 
-/// One entry of a menu, in the order in which it is shown. `level` 0 stands on the bar (or directly in a
-/// pop-up), 1 in the menu of the entry of level 0 before it. An empty caption draws a separator.
+/// One entry of a menu, in the order in which it is shown. `level` 0 is on the bar (or directly in a pop-up),
+/// and 1 is in the menu of the entry of level 0 before it. An empty caption draws a separator.
 struct MenuEntry {
     int level = 0;
     std::string_view name;

@@ -7,7 +7,8 @@ Observed::~Observed() {
 }
 
 void Observed::Notify(Aspect aspect) {
-    // The view first: a handler may look at the screen, and may even close the window it belongs to.
+    // The view comes first, because a handler may look at the screen and may even close the window that it
+    // belongs to.
     if (view_ != nullptr) view_->Follow(*this, aspect);
     Changed(aspect);
 }

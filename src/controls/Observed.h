@@ -7,7 +7,7 @@ namespace korvane {
 
 class Observed;
 
-/// What of a control or window changed, so that its widget can follow.
+/// The property of a control or window that changed, so that its widget can follow.
 enum class Aspect : std::uint8_t {
     Text,
     Caption,
@@ -23,20 +23,20 @@ enum class Aspect : std::uint8_t {
     Value,
     Range,
     Pointer,
-    /// The keyboard focus is wanted; nothing is stored.
+    /// The keyboard focus is wanted. Nothing is stored for it.
     Focus,
 };
 
-/// The shown side of a control or window.
+/// The view of a control or window on the screen.
 class View {
 public:
     virtual ~View() = default;
     virtual void Follow(Observed& observed, Aspect aspect) = 0;
-    /// What it follows is going away. The derived part of it has gone already.
+    /// The object that the view follows is going away. Its derived part is gone already.
     virtual void Gone() {}
 };
 
-/// Something whose properties reach the screen: at most one view follows it.
+/// An object whose properties are shown on the screen. At most one view follows it.
 class Observed {
 public:
     Observed(const Observed&) = delete;
@@ -57,7 +57,7 @@ private:
     View* view_ = nullptr;
 };
 
-/// A value of a control: writing another value tells the control and its view.
+/// A value of a control. Writing another value tells the control and its view.
 template <class T>
 class Property {
 public:

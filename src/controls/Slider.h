@@ -4,8 +4,8 @@
 
 namespace korvane {
 
-/// `Change` fires whenever the value becomes another, also when the program sets it. A value outside the
-/// range is kept as it is; the widget stands at the nearer end.
+/// `Change` fires whenever the value changes, also when the program sets it. A value outside the range is
+/// kept as it is, and the widget shows the nearer end.
 class Slider : public Control {
 public:
     Slider(Form& owner, std::string_view name, int min, int max, TextView toolTip = {});
@@ -15,7 +15,7 @@ public:
     Property<int> Value{*this, Aspect::Value};
 
     std::function<void()> Change;
-    /// The user moved it; `Change` has fired by then.
+    /// The user moved it. `Change` has fired before.
     std::function<void()> Scroll;
     /// The user let go of it.
     std::function<void()> Released;

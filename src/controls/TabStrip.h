@@ -11,7 +11,7 @@ class TabStrip : public Control {
 public:
     using Control::Control;
 
-    /// False holds the painting of the strip.
+    /// False stops the painting of the strip.
     Property<bool> AllowDrawing{*this, Aspect::Visible, true};
     /// The switch that start-up turns on and the end of the program turns off.
     Property<bool> On{*this, Aspect::Enabled};
@@ -24,14 +24,14 @@ public:
     void Add(Form& child);
     void Remove(Form& child);
     const std::vector<Form*>& Children() const { return children_; }
-    /// nullptr when no tab stands.
+    /// nullptr when there is no tab.
     Form* ActiveChild() const { return active_; }
-    /// Shows the child and runs its `Activate`. What the user does as well.
+    /// Shows the child and runs its `Activate`, as a click of the user does.
     void Select(Form& child);
 
     /// A click with the context button on a tab.
     std::function<void()> TabContextClick;
-    /// The same on the free strip.
+    /// The same on the part of the strip without tabs.
     std::function<void()> ContextMenu;
     /// The user wants the tab closed.
     std::function<void(Form&)> CloseWanted;

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// A field of text. `Change` fires whenever the text becomes another, also when the program sets it.
+/// A field of text. `Change` fires whenever the text changes, also when the program sets it.
 class TextBox : public Control {
 public:
     TextBox(Form& owner, std::string_view name, TextView text = {}, TextView toolTip = {});
@@ -21,7 +21,7 @@ public:
 
     void SelectAll();
     korvane::Text SelText() const;
-    /// Puts the text in place of the selection, with the cursor behind it.
+    /// Puts the text in place of the selection, with the cursor after it.
     void SetSelText(TextView text);
     /// What the user does.
     void Type(TextView text);

@@ -14,10 +14,10 @@ struct TreeNode {
     bool expanded = false;
 };
 
-/// Picture files for the nodes of a tree; the view draws its own where one can't be read.
+/// Picture files for the nodes of a tree. Where one can't be read, the view draws its own.
 struct TreeImages {
     Text closed;
-    /// Of a node that is expanded or selected.
+    /// The picture of a node that is expanded or selected.
     Text open;
     bool operator==(const TreeImages&) const = default;
 };
@@ -35,7 +35,7 @@ public:
     std::vector<TreeNode> Children(TextView parent) const;
     /// False when the key is taken or the parent isn't there.
     bool Add(TextView parent, TextView key, TextView text);
-    /// The node with all that hangs below it.
+    /// Removes the node with everything below it.
     void Remove(TextView key);
     void SetNodeText(TextView key, TextView text);
     void Clear();

@@ -71,7 +71,7 @@ TEST_F(FormTest, TheHostKnowsLoadedWindowsInTheOrderOfTheirLoading) {
     EXPECT_TRUE(user.LoadedForms().empty());
 }
 
-TEST_F(FormTest, AWindowThatIsClosedLoadsAnewWhenItIsShownAgain) {
+TEST_F(FormTest, AWindowThatIsClosedLoadsOnceMoreWhenItIsShownAgain) {
     Recorded form(user);
     user.On<Recorded>([](Recorded& shown) { shown.Close(); });
     user.On<Recorded>([](Recorded& shown) { shown.Close(); });

@@ -79,7 +79,7 @@ TEST_F(GridBoxTest, AHeaderClickSortsWhenTheHandlerAllowsIt) {
     EXPECT_EQ(log, "header 1 pear header 1 pear ");
 }
 
-TEST_F(GridBoxTest, ASecondClickTurnsTheOrderRoundAndAnotherColumnStartsAnew) {
+TEST_F(GridBoxTest, ASecondClickTurnsTheOrderRoundAndAnotherColumnStartsAgain) {
     box.Store().SetSortOnHeaderClick(true);
     box.ClickHeader(Col{1});
     box.ClickHeader(Col{1});

@@ -41,7 +41,7 @@ TEST_F(SliderTest, HasTakenTheValueWhenItTellsOfTheMove) {
     EXPECT_EQ(seen, 30);
 }
 
-TEST_F(SliderTest, AMoveToWhereItStandsIsNone) {
+TEST_F(SliderTest, AMoveToWhereItIsAlreadyIsNone) {
     slider.MoveTo(30);
     slider.MoveTo(30);
     EXPECT_EQ(scrolls, 1);

@@ -44,7 +44,7 @@ TEST_F(TabStripTest, TheViewHearsOfTheTabBeforeItsSelection) {
     EXPECT_EQ(followed, (std::vector<Aspect>{Aspect::Items, Aspect::Selection}));
 }
 
-TEST_F(TabStripTest, TheTabBehindAClosedOneBecomesActiveAndAtTheEndTheOneBefore) {
+TEST_F(TabStripTest, TheTabAfterAClosedOneBecomesActiveAndAtTheEndTheOneBefore) {
     for (Child* child : {&a, &b, &c})
         strip.Add(*child);
     strip.Select(b);
@@ -72,7 +72,7 @@ TEST_F(TabStripTest, AWindowThatIsNoTabCannotBeSelected) {
     EXPECT_EQ(b.activations, 0);
 }
 
-TEST_F(TabStripTest, SelectingTheActiveTabActivatesItAnewWithoutAChangeOfSelection) {
+TEST_F(TabStripTest, SelectingTheActiveTabActivatesItAgainWithoutAChangeOfSelection) {
     strip.Add(a);
     followed.clear();
     strip.Select(a);

@@ -11,7 +11,7 @@
 namespace korvane {
 namespace {
 
-/// The share of light that the screen gives, as the contrast of texts is reckoned.
+/// The relative luminance of a colour, by which the contrast of texts is measured.
 double Luminance(Colour colour) {
     const auto channel = [&colour](unsigned shift) {
         const double share = static_cast<double>(static_cast<unsigned>(colour.value) >> shift & 0xFFU) / 255;
@@ -25,7 +25,7 @@ double Contrast(Colour a, Colour b) {
     return (more + 0.05) / (less + 0.05);
 }
 
-TEST(TabStylesTest, TheSeventeenNumbersStandInTheirOrder) {
+TEST(TabStylesTest, TheSeventeenNumbersAreInTheirOrder) {
     std::vector<int> numbers;
     for (const TabStyle& style : TabStyles())
         numbers.push_back(style.number);

@@ -28,7 +28,7 @@ TEST_F(TextBoxTest, TellsItsSelectedText) {
     EXPECT_EQ(box.SelText(), u"one two");
 }
 
-TEST_F(TextBoxTest, PutsATextInPlaceOfTheSelectionWithTheCursorBehindIt) {
+TEST_F(TextBoxTest, PutsATextInPlaceOfTheSelectionWithTheCursorAfterIt) {
     Select(0, 3);
     box.SetSelText(u"three");
     EXPECT_EQ(box.Text.Get(), u"three two");
@@ -50,7 +50,7 @@ TEST_F(TextBoxTest, DeletesTheSelectionByAnEmptyText) {
     EXPECT_EQ(box.SelStart, 3);
 }
 
-TEST_F(TextBoxTest, ASelectionPastTheTextStandsForItsEnd) {
+TEST_F(TextBoxTest, ASelectionPastTheTextIsAtItsEnd) {
     Select(99, 99);
     box.SetSelText(u"!");
     EXPECT_EQ(box.Text.Get(), u"one two!");
