@@ -12,7 +12,7 @@ namespace korvane {
 namespace {
 
 constexpr std::size_t kSample = std::size_t{16} * 1024;
-/// Where a byte occurs less often than this, looking for it alone is the fastest.
+/// When a byte occurs less often than this, a search for that byte alone is the fastest.
 constexpr std::size_t kRareDistance = 1024;
 
 constexpr std::size_t kBlock = 128;
@@ -65,8 +65,8 @@ bool BytePattern::IsIn(std::string_view bytes) const {
 }
 
 bool BytePattern::IsInByRareByte(std::string_view bytes) const {
-    const std::size_t behind = pattern_.size() - rare_ - 1;
-    for (std::size_t at = bytes.find(pattern_[rare_], rare_); at < bytes.size() - behind;
+    const std::size_t after = pattern_.size() - rare_ - 1;
+    for (std::size_t at = bytes.find(pattern_[rare_], rare_); at < bytes.size() - after;
          at = bytes.find(pattern_[rare_], at + 1))
         if (bytes.compare(at - rare_, pattern_.size(), pattern_) == 0) return true;
     return false;

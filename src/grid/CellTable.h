@@ -8,8 +8,8 @@
 
 namespace korvane {
 
-/// The handles of a table's cells, row by row; rows and columns count from 0 here. Rows stand in chunks, so
-/// that a growing table never moves, and a chunk without any text takes no memory.
+/// The handles of a table's cells, row by row; rows and columns count from 0 here. Rows are kept in chunks,
+/// so that a growing table never moves, and a chunk without any text takes no memory.
 class CellTable {
 public:
     std::size_t Rows() const { return rows_; }
@@ -20,12 +20,12 @@ public:
     /// Appends empty columns or drops columns from the end.
     void SetCols(std::size_t cols);
     void EraseCol(std::size_t col);
-    /// Puts an empty column in front of the one that stands at `col`.
+    /// Puts an empty column before the one at `col`.
     void InsertCol(std::size_t col);
     /// Moves the cells of the columns from `first` on one column to the right, over those of the last one,
     /// and empties `first`.
     void ShiftRight(std::size_t first);
-    /// Moves the cells of the columns behind `first` on one column to the left, over those of `first`, and
+    /// Moves the cells of the columns after `first` one column to the left, over those of `first`, and
     /// empties the last column.
     void ShiftLeft(std::size_t first);
     /// Puts row `order[i]` in the place of row i.
@@ -43,7 +43,7 @@ public:
         return chunk[IndexOf(row, col)];
     }
 
-    /// The cells of a row; none when no row of its chunk holds a text.
+    /// The cells of a row; none when no row of its chunk has a text.
     std::span<const TextHandle> Row(std::size_t row) const {
         const Chunk& chunk = chunks_[row / kChunkRows];
         if (chunk.empty()) return {};
@@ -68,7 +68,7 @@ private:
         if (chunk.empty() || chunk[IndexOf(row, col)].IsEmpty()) return nullptr;
         return &chunk[IndexOf(row, col)];
     }
-    /// A table of `cols` columns, filled with the cells of this one; `source(col)` tells a column's old
+    /// A table of `cols` columns, filled with the cells of this one; `source(col)` gives a column's old
     /// number.
     template <class Source>
     void Rebuild(std::size_t cols, const Source& source);

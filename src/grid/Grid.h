@@ -15,7 +15,7 @@ namespace korvane {
 
 class CodePage;
 
-/// Where a cell stands.
+/// The place of a cell.
 struct CellPosition {
     Row row;
     Col col;
@@ -25,15 +25,15 @@ struct CellPosition {
 /// The flags of a cell's own font.
 enum class CellFlag : std::uint8_t { Italic, Bold, Strikethrough };
 
-/// What a shown grid hears of its store. Between `GridBeginUpdate` and `GridEndUpdate` it hears nothing;
-/// what was held back arrives as one `TableChanged`.
+/// Tells a shown grid what changed in its store. Between `GridBeginUpdate` and `GridEndUpdate` nothing is
+/// told; what was held back arrives as one `TableChanged`.
 class GridListener {
 public:
     virtual ~GridListener() = default;
 
     /// Texts, colours, flags or check boxes in these rows (both ends included) changed.
     virtual void RowsChanged(Row first, Row last) = 0;
-    /// Rows came or went, were hidden, shown, sorted or resized, or columns changed: read everything anew.
+    /// Rows were added, removed, hidden, shown, sorted or resized, or columns changed: read everything again.
     virtual void TableChanged() = 0;
     /// A column's caption or width changed.
     virtual void ColumnChanged(Col col) = 0;
@@ -44,7 +44,7 @@ public:
     virtual void RowWantedInView(Row row) = 0;
 };
 
-/// Changes to a grid that belong together. Only the grid that noted them can do anything with them.
+/// Changes to a grid that belong together. Only the grid that noted them can use them.
 class GridChanges {
 public:
     virtual ~GridChanges() = default;
@@ -54,8 +54,8 @@ public:
 
 /// The table's data and the vocabulary in which every command speaks about it. There is no second copy.
 ///
-/// Rows and columns count from 1. Nothing throws: a write that addresses no cell has no effect, a read gives
-/// the value of an empty cell. Every access by row and column takes constant time.
+/// Rows and columns count from 1. Nothing throws: a write to a cell that isn't there has no effect, and a
+/// read from it gives the value of an empty cell. Every access by row and column takes constant time.
 class Grid {
 public:
     virtual ~Grid() = default;
@@ -66,7 +66,7 @@ public:
     virtual Col ColCount() const = 0;
     /// A larger number appends columns without key and caption; a smaller one drops columns from the end.
     virtual void SetColCount(Col count) = 0;
-    /// Appends a column; nothing happens when one of this key stands already.
+    /// Appends a column. Nothing happens when there is one with this key already.
     virtual void AddCol(TextView key, TextView header) = 0;
     virtual void RemoveCol(Col col) = 0;
 
@@ -78,7 +78,7 @@ public:
 
     virtual Text CellValue(Row row, Col col) const = 0;
     virtual void SetCellValue(Row row, Col col, TextView value) = 0;
-    /// The text shown in the cell: for text cells the same as `CellValue`.
+    /// The text that the cell shows, which is its value.
     Text CellText(Row row, Col col) const { return CellValue(row, col); }
 
     virtual Text ColKey(Col col) const = 0;
@@ -132,7 +132,7 @@ public:
     virtual void GridBeginUpdate() = 0;
     virtual void GridEndUpdate() = 0;
     virtual void GridRefresh() = 0;
-    /// Commands end with this call: a bracket that a stopped one left open is closed.
+    /// Commands end with this call. It also closes a bracket that a command left open when it stopped.
     virtual void GridSetFocus() = 0;
     virtual void EnsureRowVisible(Row row) = 0;
 
@@ -140,13 +140,13 @@ public:
     /// order.
     virtual void SortByColumn(Col col, SortOrder order) = 0;
 
-    // What makes a table at the format's limit load, save and search at the speed of memory.
+    // The following make a table at the format's limit load, save and search at the speed of memory.
 
-    /// The page in which the store keeps texts as bytes.
+    /// The code page in which the store keeps texts as bytes.
     virtual const CodePage& Page() const = 0;
     /// Hands the grid a file's bytes, to which `SetCellSlice` then points.
     virtual void AdoptBytes(SharedBytes bytes) = 0;
-    /// The cell's value is `length` of the adopted bytes from `offset` on; none are copied.
+    /// Sets the cell's value to `length` of the adopted bytes from `offset` on, without copying them.
     virtual void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) = 0;
     /// The cell's value as bytes of `Page()`, valid until the next change; nullopt when the page can't hold
     /// it.
@@ -154,17 +154,18 @@ public:
     /// Moves the texts of the columns from `first` on one column to the right: those of the last column are
     /// lost, and `first` is left empty.
     virtual void ShiftTextsRight(Col first) = 0;
-    /// The first cell at or behind `from`, row by row, whose text holds `part`, with case counting.
+    /// The first cell from `from` on, row by row, whose text contains `part`. Case counts.
     virtual std::optional<CellPosition> FindText(TextView part, CellPosition from) const = 0;
 
-    // Taking changes back. Moves of the current cell, `GridVisible` and `SortOnHeaderClick` are no changes.
+    // The following take changes back. Moves of the current cell, `GridVisible` and `SortOnHeaderClick`
+    // aren't changes.
 
-    /// Whether the grid notes from now on how to take back what changes. What it has noted is forgotten.
+    /// Sets whether the grid notes from now on how to take changes back. What it has noted is forgotten.
     virtual void NoteChanges(bool on) = 0;
     /// What was noted since the last call; nullptr when nothing changed.
     virtual std::unique_ptr<GridChanges> TakeNotedChanges() = 0;
-    /// Takes the changes back, or makes them again when they are taken back, and goes to the cell that was
-    /// the current one then. Neither is noted. The table has to be as they left it.
+    /// Takes the changes back, or makes them again when they were taken back, and goes to the cell that was
+    /// the current one then. This isn't noted itself. The table has to be as the changes left it.
     virtual void TurnChanges(GridChanges& changes) = 0;
 
     /// At most one listener; nullptr takes it away. The caller owns it.

@@ -6,7 +6,7 @@
 
 namespace korvane {
 
-/// Tells a grid's listener what changed, or keeps it back while an update bracket is open.
+/// Tells a grid's listener what changed, or holds it back while an update bracket is open.
 class GridNotifier {
 public:
     void SetListener(GridListener* listener) { listener_ = listener; }
@@ -17,7 +17,7 @@ public:
     void CloseAll();
     bool IsOpen() const { return depth_ > 0; }
 
-    /// A row changed within.
+    /// Something in the row changed.
     void RowChanged(Row row) {
         if (Hears()) listener_->RowsChanged(row, row);
     }
@@ -39,7 +39,7 @@ public:
     void RowWantedInView(Row row);
 
 private:
-    /// Whether the listener is told now; inside a bracket it is noted that something was kept back.
+    /// Whether the listener is told now. Inside a bracket, it is noted that something was held back.
     bool Hears() {
         keptBack_ = keptBack_ || IsOpen();
         return !IsOpen() && listener_ != nullptr;

@@ -86,7 +86,7 @@ void GridStore::ColsChanged() {
     PackTextsIfWorthwhile();
 }
 
-/// The check boxes live in the cells of column 1 and go with it.
+/// The check boxes belong to the cells of column 1 and go when it goes.
 void GridStore::ForgetChecks() {
     for (RowState& row : rows_) {
         row.check = 0;
@@ -98,7 +98,7 @@ void GridStore::KeepCurrentCellInside() {
     GoTo({curRow_, curCol_});
 }
 
-/// Or as near as there is a cell.
+/// Goes to the cell, or to the nearest one that there is.
 void GridStore::GoTo(CellPosition cell) {
     const CellPosition before{curRow_, curCol_};
     curRow_ = std::min(cell.row, RowCount());
@@ -240,8 +240,8 @@ void GridStore::GiveUpTexts(Col firstCol, Col lastCol) {
             texts_.GiveUp(HandleAt(row, col));
 }
 
-/// Not inside a bracket: a load may have given up texts there and still be about to point to the adopted
-/// bytes.
+/// Packing waits until no bracket is open: inside one, a load may have given up texts and may still be going
+/// to point to the adopted bytes.
 void GridStore::PackTextsIfWorthwhile() {
     if (notifier_.IsOpen() || !texts_.WantsPacking()) return;
     texts_.Pack([this](const auto& visit) { cells_.ForEach(visit); });
@@ -304,7 +304,7 @@ void GridStore::SetRowFontFlag(Row row, CellFlag flag, bool on) {
     ChangeRowLook(row, [=](CellLook& look) { look.Set(flag, on); });
 }
 
-// Nothing reads the mode back and nothing is drawn by it, so there is nothing to keep.
+// Nothing reads the mode and nothing is drawn by it, so it isn't kept.
 void GridStore::SetCellColourMode(Row, Col, int) {}
 void GridStore::SetRowColourMode(Row, int) {}
 

@@ -14,11 +14,10 @@
 
 namespace korvane {
 
-/// The table's data, whoever shows them. A table at the format's limit takes little more memory than its
-/// file.
+/// The data of the table. A table at the format's limit takes little more memory than its file.
 class GridStore final : public Grid {
 public:
-    /// What a row has for its height until one is written to it.
+    /// The height of a row until one is written to it.
     static constexpr int kDefaultRowHeight = 24;
     static constexpr int kDefaultColWidth = 240;
 
@@ -111,7 +110,7 @@ private:
         int width = kDefaultColWidth;
         bool operator==(const Column&) const = default;
     };
-    /// What a row has once, its height and the check box of column 1 among it.
+    /// What a row has only once, such as its height and the check box of column 1.
     struct RowState {
         int height = kDefaultRowHeight;
         int check = 0;
@@ -154,7 +153,7 @@ private:
     void ForgetChecks();
     void KeepCurrentCellInside();
     void GoTo(CellPosition cell);
-    /// The cell itself where there is one, or the first one behind.
+    /// The cell itself if there is one, or the first one after it.
     std::optional<CellPosition> FirstCellFrom(CellPosition from) const;
     std::vector<std::size_t> SortedOrder(Col col, SortOrder order) const;
 
@@ -170,7 +169,7 @@ private:
     template <class Change>
     void ChangeRowLook(Row row, const Change& change);
 
-    // Each is called before its change, while changes are noted.
+    // Each of these is called before its change, while changes are noted.
     void NoteText(Row row, Col col);
     void NoteRow(Row row);
     void NoteColumn(Col col);

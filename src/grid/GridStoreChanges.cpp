@@ -33,7 +33,7 @@ Thing ThingOf(const AnyNote& note) {
 
 } // namespace
 
-/// Turns the notes of one grid.
+/// Turns a note: exchanges what the grid has with what the note holds.
 class GridStore::Changes::Turner {
 public:
     explicit Turner(GridStore& grid) : grid_(grid) {}
@@ -82,8 +82,8 @@ private:
             grid_.PutHandle(row, col, grid_.texts_.Put(text));
     }
     RowTexts TextsOf(Col col) const;
-    RowsAway TakeRowsBehind(Row last) const;
-    void PutRows(RowsAway rows, Row behind);
+    RowsAway TakeRowsAfter(Row last) const;
+    void PutRows(RowsAway rows, Row after);
     ColumnAway TakeColumn(Col col);
     void PutColumn(ColumnAway away, Col col);
 
@@ -99,13 +99,13 @@ GridStore::Changes::RowTexts GridStore::Changes::Turner::TextsOf(Col col) const 
 
 void GridStore::Changes::Turner::operator()(RowCountNote& note) {
     const Row now = grid_.RowCount();
-    if (note.other < now) note.away = std::make_unique<RowsAway>(TakeRowsBehind(note.other));
+    if (note.other < now) note.away = std::make_unique<RowsAway>(TakeRowsAfter(note.other));
     grid_.ResizeRows(note.other);
     if (note.away != nullptr && note.other > now) PutRows(std::move(*std::exchange(note.away, nullptr)), now);
     note.other = now;
 }
 
-GridStore::Changes::RowsAway GridStore::Changes::Turner::TakeRowsBehind(Row last) const {
+GridStore::Changes::RowsAway GridStore::Changes::Turner::TakeRowsAfter(Row last) const {
     RowsAway away;
     for (Row row = last + 1; row <= grid_.RowCount(); ++row) {
         away.states.push_back(grid_.rows_[Index(row)]);
@@ -117,10 +117,10 @@ GridStore::Changes::RowsAway GridStore::Changes::Turner::TakeRowsBehind(Row last
     return away;
 }
 
-void GridStore::Changes::Turner::PutRows(RowsAway rows, Row behind) {
-    std::ranges::copy(rows.states, grid_.rows_.begin() + behind.Number());
+void GridStore::Changes::Turner::PutRows(RowsAway rows, Row after) {
+    std::ranges::copy(rows.states, grid_.rows_.begin() + after.Number());
     for (LookTable::RowLooks& looks : rows.looks)
-        grid_.looks_.ExchangeRow(Index(++behind), looks);
+        grid_.looks_.ExchangeRow(Index(++after), looks);
     for (TextNote& text : rows.texts)
         PutText(text.row, text.col, text.other);
 }
@@ -204,7 +204,8 @@ private:
 
 namespace {
 
-/// Whether a note holds already what the other one, about the same thing, would.
+/// Whether the last note makes the next one unnecessary: both are about the same thing, and the last one
+/// already holds what was there before.
 struct Covers {
     template <class Note>
     bool operator()(const Note& last, const Note& note) const {
@@ -245,7 +246,8 @@ void GridStore::Changes::Add(const GridStore& grid, Note note) {
     notes_.push_back(std::move(note));
 }
 
-/// What came within the changes needs no notes of its own, until texts move between it and the rest.
+/// Rows that these changes append need no further notes, because turning takes them away as a whole. Any
+/// other note may move texts between them and the other rows, so from then on all is noted again.
 void GridStore::Changes::Do(GridStore& grid, Note note) {
     NoteWhere(grid);
     const Row rowsBefore = grid.RowCount();
@@ -260,7 +262,8 @@ void GridStore::Changes::Do(GridStore& grid, Note note) {
     if (!covered) notes_.push_back(std::move(note));
 }
 
-/// Whether the note appends rows to those that the last one appended: that one leads back past both.
+/// Whether the note appends rows right after those that the last note appended. Turning that one takes both
+/// away.
 bool GridStore::Changes::GoesOnAppending(const Note& note, Row rows) const {
     const auto* const next = std::get_if<RowCountNote>(&note);
     const auto* const last = notes_.empty() ? nullptr : std::get_if<RowCountNote>(&notes_.back());
@@ -296,7 +299,7 @@ void GridStore::Changes::TurnNotes(GridStore& grid) {
     grid.GoTo(takenBack_ ? before_ : after_);
 }
 
-// What the grid asks.
+// The members of the grid that deal with its changes.
 
 void GridStore::NoteChanges(bool on) {
     noted_ = on ? std::make_unique<Changes>() : nullptr;
@@ -334,7 +337,7 @@ void GridStore::NoteLook() {
 
 namespace {
 
-/// About how much memory a note takes beside itself.
+/// About how much memory a note takes on the heap.
 struct HeapMeasure {
     template <class Note>
     std::size_t operator()(const Note& note) const {

@@ -10,9 +10,10 @@
 
 namespace korvane {
 
-/// What changed in a grid, in the order in which it did. A note holds the other state of the thing that it is
-/// about, and turning it exchanges the two: the same note takes a change back and makes it again. So it costs
-/// what the change is about, never the table.
+/// What changed in a grid, in order. A note is about one thing: a text, a row, a column and so on. It holds
+/// that thing's other state, and turning the note exchanges the two. So the same note takes a change back and
+/// makes it again, and it costs as much memory as the thing, not the table. Rows and columns that are away
+/// are those that were removed, and that a note keeps until they are put back.
 class GridStore::Changes final : public GridChanges {
 public:
     struct RowText {
@@ -46,7 +47,7 @@ public:
     struct LookNote {
         std::unique_ptr<Look> other;
     };
-    /// What stands in the rows behind the last one, while they are away.
+    /// The contents of rows after the last one, while they are away.
     struct RowsAway {
         std::vector<RowState> states;
         std::vector<LookTable::RowLooks> looks;
@@ -56,7 +57,7 @@ public:
         Row other;
         std::unique_ptr<RowsAway> away{};
     };
-    /// What stands in a column while it is away.
+    /// The contents of a column while it is away.
     struct ColumnAway {
         Column column;
         LookTable::ColumnLooks looks;
@@ -67,7 +68,7 @@ public:
         Col col;
         std::unique_ptr<ColumnAway> away{};
     };
-    /// Texts moved one column to the right, and those that fell off the end.
+    /// A move of texts by one column to the right, and the texts of the last column, which were lost.
     struct ShiftNote {
         Col first;
         bool shifted = false;
@@ -85,16 +86,17 @@ public:
     /// Whether everything is as it was, though it may have been otherwise meanwhile.
     bool LeaveAllAsItWas(const GridStore& grid) const;
 
-    /// Whether a change to the row or cell has to be noted: what came within these changes goes as a whole.
+    /// Whether the changes want a note of a change to the row, cell or column. They don't for rows and
+    /// columns that they added themselves, because these go as a whole.
     bool Wants(Row row) const { return row <= oldRows_; }
     bool Wants(Row row, Col col) const { return row <= oldRows_ && col <= oldCols_; }
     bool Wants(Col col) const { return col <= oldCols_; }
 
     /// Notes what is about to change.
     void Add(const GridStore& grid, Note note);
-    /// Makes the change by turning its note, and keeps that.
+    /// Makes the change by turning its note, and keeps the note.
     void Do(GridStore& grid, Note note);
-    /// No more changes come.
+    /// Ends the changes: nothing is added any more.
     void Finish(const GridStore& grid);
     /// Takes the changes back or makes them again, by turns.
     void Turn(GridStore& grid);
@@ -112,7 +114,7 @@ private:
     CellPosition before_;
     CellPosition after_;
     bool takenBack_ = false;
-    // The rows and columns that stood there before: up to these.
+    // The last row and column that were there before these changes; those after them are new.
     Row oldRows_ = kMaxRows;
     Col oldCols_ = kAllCols;
     std::size_t memoryUse_ = 0;

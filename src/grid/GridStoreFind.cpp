@@ -8,21 +8,21 @@ namespace korvane {
 
 namespace {
 
-/// The part of the adopted bytes in which the texts of a row lie.
+/// The part of the adopted bytes that holds the texts of a row.
 struct Stretch {
     std::size_t begin = std::string_view::npos;
     std::size_t end = 0;
     std::size_t used = 0;
-    bool hasOthers = false; // texts that lie elsewhere
+    bool hasOthers = false; // texts that are elsewhere
 
-    /// For every cell of every row, hence without a branch.
+    /// This runs for every cell of every row, so it has no branch.
     void Include(TextHandle handle) {
         hasOthers |= handle.GetKind() != TextHandle::Kind::Adopted;
         begin = std::min(begin, handle.IsEmpty() ? begin : handle.Offset());
         end = std::max(end, handle.Offset() + handle.Length());
         used += handle.Length();
     }
-    /// Whether looking through the stretch as a whole is cheaper than looking through each text.
+    /// Whether a search of the whole stretch is cheaper than a search of each text.
     bool IsDense() const { return end - begin < 4 * used + 256; }
     std::string_view Of(std::string_view bytes) const { return bytes.substr(begin, end - begin); }
 };
@@ -44,11 +44,11 @@ public:
         if (page.Holds(part)) pattern_.emplace(page.ToBytes(part), texts_.AdoptedBytes());
     }
 
-    /// Whether any text of the table can hold the part.
+    /// Whether any text of the table can contain the part.
     bool CanFind() const { return pattern_ || texts_.HasWideTexts(); }
 
-    /// The number of the first cell that holds the part, among those from `first` on; as many as there are
-    /// when none does.
+    /// The number of the first cell that contains the part, from `first` on; the number of cells when none
+    /// does.
     std::size_t FindIn(std::span<const TextHandle> cells, std::size_t first) const {
         if (!MayBeIn(cells)) return cells.size();
         while (first < cells.size() && !texts_.Contains(cells[first], part_, pattern_))
@@ -57,8 +57,8 @@ public:
     }
 
 private:
-    /// A loaded row lies in one stretch of the file, markers and all: where the part isn't in the stretch, it
-    /// is in no cell.
+    /// A loaded row is one stretch of the file, including its markers. When the stretch doesn't contain the
+    /// part, no cell does.
     bool MayBeIn(std::span<const TextHandle> cells) const {
         const Stretch stretch = StretchOf(cells);
         if (stretch.hasOthers) return true;

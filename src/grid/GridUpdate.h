@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// Brackets a mass change as long as it lives: nothing is painted in between.
+/// Brackets a mass change as long as it lives. Nothing is painted meanwhile.
 class GridUpdate {
 public:
     /// The grid outlives the bracket.

@@ -10,7 +10,7 @@ void LookTable::SetRows(std::size_t rows) {
     rowLooks_.resize(rows);
     for (Looks& looks : ownLooks_)
         if (!looks.empty()) looks.resize(rows);
-    // Without rows a column has no looks of its own left.
+    // Without rows, no column has looks of its own.
     if (rows == 0) CountOwnCols();
 }
 
@@ -58,7 +58,7 @@ void LookTable::ExchangeRow(std::size_t row, RowLooks& looks) {
     looks = std::move(before);
 }
 
-/// Columns came or went. Where none are left, no cell has a look.
+/// Columns were added or removed. When none are left, no cell has a look.
 void LookTable::CountOwnCols() {
     ownCols_ = static_cast<std::size_t>(
         std::ranges::count_if(ownLooks_, [](const Looks& looks) { return !looks.empty(); }));

@@ -29,14 +29,14 @@ private:
 };
 
 /// The looks of a table's cells; rows and columns count from 0 here. Rows are nearly always uniform, so there
-/// is one look for each row, and a column in which a cell once differed from its row keeps its own.
+/// is one look for each row. A column in which a cell once differed from its row has looks of its own.
 class LookTable {
 public:
     using Looks = std::vector<CellLook>;
     /// The looks of one row's cells.
     struct RowLooks {
         CellLook row;
-        /// By column, the cells that look otherwise.
+        /// The cells that look different, by column.
         std::vector<std::pair<std::size_t, CellLook>> others;
         bool operator==(const RowLooks&) const = default;
     };
@@ -50,7 +50,7 @@ public:
     /// Appends columns of the plain look or drops columns from the end.
     void SetCols(std::size_t cols);
     ColumnLooks TakeCol(std::size_t col);
-    /// Puts a column that was taken where it stood.
+    /// Puts a column back where it was taken.
     void InsertCol(std::size_t col, ColumnLooks looks);
     /// Puts row `order[i]` in the place of row i.
     void Permute(std::span<const std::size_t> order);
@@ -59,9 +59,9 @@ public:
         return ownLooks_[col].empty() ? rowLooks_[row] : ownLooks_[col][row];
     }
     RowLooks OfRow(std::size_t row) const;
-    /// Gives a row these looks, and takes the ones that it had.
+    /// Exchanges the looks of a row with these.
     void ExchangeRow(std::size_t row, RowLooks& looks);
-    /// Changes one cell by `change(CellLook&)`; false when that left the cell as it was.
+    /// Changes one cell by `change(CellLook&)`; false when the cell stayed as it was.
     template <class Change>
     bool ChangeCell(std::size_t row, std::size_t col, const Change& change) {
         CellLook look = At(row, col);
@@ -71,7 +71,7 @@ public:
         ownLooks_[col][row] = look;
         return true;
     }
-    /// Changes every cell of a row by `change(CellLook&)`; false when that left all as they were.
+    /// Changes every cell of a row by `change(CellLook&)`; false when all stayed as they were.
     template <class Change>
     bool ChangeRow(std::size_t row, const Change& change) {
         bool changed = false;

@@ -7,7 +7,7 @@ namespace korvane {
 
 namespace {
 
-/// Less garbage than this isn't worth a walk over all cells.
+/// Packing goes over all cells, which isn't worth it for less garbage than this.
 constexpr std::size_t kLeastGarbage = std::size_t{64} * 1024;
 
 } // namespace

@@ -16,9 +16,9 @@
 namespace korvane {
 
 /// The texts of a table in few large blocks: the bytes of the loaded file, which are shared and never copied,
-/// and behind them what was written since, as bytes of the code page where every character has one and as
-/// 16-bit characters where not. Who holds the handles tells when one is given up, and has the blocks packed
-/// once that pays.
+/// and other blocks for what was written since, as bytes of the code page or, where a character has no byte,
+/// as 16-bit characters. The holder of the handles tells when one is given up, and has the blocks packed when
+/// that pays.
 class TextBlocks {
 public:
     explicit TextBlocks(const CodePage& page) : page_(page) {}
@@ -33,7 +33,7 @@ public:
     bool HasSlice(std::size_t offset, std::size_t length) const {
         return offset <= adopted_.size && length <= adopted_.size - offset;
     }
-    /// A part of the adopted bytes, one that they have.
+    /// A part of the adopted bytes, which has to lie within them.
     TextHandle Slice(std::size_t offset, std::size_t length) {
         return HandleOf({TextHandle::Kind::Adopted, offset, length});
     }
@@ -47,14 +47,14 @@ public:
     bool Equals(TextHandle handle, TextView text) const;
     /// By character code.
     std::strong_ordering Compare(TextHandle a, TextHandle b) const;
-    /// Whether the text holds `part`; `pattern` is the same in bytes, or nothing.
+    /// Whether the text contains `part`; `pattern` is the same in bytes, or nothing.
     bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;
     bool HasWideTexts() const { return wideTexts_ > 0; }
 
-    /// Whether the garbage outweighs what is alive, so that packing frees half of the memory at least.
+    /// Whether there is more garbage than live text, so that packing frees at least half of the memory.
     bool WantsPacking() const;
-    /// Moves what is alive together. `forEachHandle(visit)` calls `visit(TextHandle&)` for every handle in
-    /// use. The adopted bytes go too when more of them is garbage than alive, or when `dropAdopted` says so.
+    /// Moves the live texts together. `forEachHandle(visit)` calls `visit(TextHandle&)` for every handle in
+    /// use. The adopted bytes are dropped when most of them are garbage, or when `dropAdopted` says so.
     template <class ForEachHandle>
     void Pack(const ForEachHandle& forEachHandle, bool dropAdopted = false) {
         TextBlocks packed(page_);

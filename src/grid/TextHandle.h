@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-/// Where the text of one cell lies, in eight bytes. A table at the limit holds 786,408 of them, so nothing
+/// The place of the text of one cell, in eight bytes. A table at the limit holds 786,408 of them, so nothing
 /// else is kept for a cell. A handle of all zeros is an empty text.
 class TextHandle {
 public:

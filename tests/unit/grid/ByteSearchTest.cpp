@@ -10,7 +10,7 @@
 namespace korvane {
 namespace {
 
-/// The pattern by every way of looking for it: the bytes of the sample decide.
+/// The pattern for each of the ways to search, which the bytes of the sample choose.
 std::vector<BytePattern> Patterns(const std::string& bytes) {
     const std::string common = bytes + bytes + bytes;
     std::string wholeOfIt = std::string(20000, '.');
@@ -27,7 +27,7 @@ bool IsIn(const std::string& bytes, std::string_view searched) {
     return first;
 }
 
-TEST(ByteSearch, FindsThePartWhereverItStands) {
+TEST(ByteSearch, FindsThePartWhereverItIs) {
     const std::vector<std::string> parts{"x", "xy", "x23456789y", std::string(100, 'x')};
     for (const std::string& part : parts) {
         for (std::size_t length = part.size(); length < 300; ++length) {

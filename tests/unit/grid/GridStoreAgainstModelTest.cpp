@@ -24,7 +24,7 @@ struct PlainRow {
     bool checkShown = false;
 };
 
-/// The table in the plainest form there is, to hold the store against.
+/// The table in the plainest form, with which the store is compared.
 struct PlainTable {
     std::vector<PlainRow> rows;
     std::vector<Text> keys;

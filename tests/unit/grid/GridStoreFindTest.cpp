@@ -67,7 +67,7 @@ TEST_F(GridStoreFindTest, HiddenRowsAreSearched) {
     EXPECT_EQ(Find(u"b"), At(2, 1));
 }
 
-TEST_F(GridStoreFindTest, WhatStandsBetweenTheTextsInTheFileIsNotFound) {
+TEST_F(GridStoreFindTest, WhatComesBetweenTheTextsInTheFileIsNotFound) {
     Resize(2, 2);
     grid.AdoptBytes(BytesOf("@col_1\r\nab\r\n@col_2\r\ncd\r\n@row_2\r\n@col_1\r\nef\r\n@col_2\r\ncol"));
     grid.SetCellSlice(Row{1}, Col{1}, 8, 2);

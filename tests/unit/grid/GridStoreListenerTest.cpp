@@ -209,7 +209,7 @@ TEST_F(GridStoreListenerTest, AnEndWithoutABeginHasNoEffect) {
     EXPECT_EQ(Heard(), Lines{"table"});
 }
 
-TEST_F(GridStoreListenerTest, ARowWantedInViewWithinABracketIsShownBehindIt) {
+TEST_F(GridStoreListenerTest, ARowWantedInViewWithinABracketIsShownAfterIt) {
     grid.GridBeginUpdate();
     grid.SetRowCount(Row{9});
     grid.EnsureRowVisible(Row{9});

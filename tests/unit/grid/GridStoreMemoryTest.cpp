@@ -6,7 +6,7 @@
 namespace korvane {
 namespace {
 
-/// How often the table's memory is held: 1 by the test alone, more while the grid keeps the file's bytes.
+/// How many holders the file's bytes have: 1 for the test alone, more while the grid keeps them.
 long Holders(const SharedBytes& bytes) {
     return bytes.data.use_count();
 }
@@ -50,7 +50,7 @@ TEST_F(GridStoreMemoryTest, DroppedRowsAndColumnsAreGarbageToo) {
 }
 
 TEST_F(GridStoreMemoryTest, InsideABracketTheFilesBytesStay) {
-    // A load that starts its rows anew gives up all texts and points to the same bytes again.
+    // A load that starts its rows again gives up all texts and points to the same bytes again.
     const SharedBytes bytes = LoadRows();
     grid.GridBeginUpdate();
     grid.SetRowCount(Row{1});
@@ -64,7 +64,7 @@ TEST_F(GridStoreMemoryTest, InsideABracketTheFilesBytesStay) {
 
 class TextBlocksTest : public testing::Test {
 protected:
-    /// Writes the text anew, giving up the old one, and packs when the blocks ask for it.
+    /// Writes the text again, gives up the old one, and packs when the blocks want it.
     void Rewrite(TextHandle& handle, TextView text) {
         blocks.GiveUp(handle);
         handle = blocks.Put(text);

@@ -27,7 +27,7 @@ TEST_F(GridStoreTextsTest, TextsShiftRightOverThoseOfTheLastColumn) {
     EXPECT_EQ(Column(Col{3}), (std::vector<Text>{u"b", u""}));
 }
 
-TEST_F(GridStoreTextsTest, NothingShiftsFromAColumnThatDoesNotStand) {
+TEST_F(GridStoreTextsTest, NothingShiftsFromAColumnThatIsNotThere) {
     Resize(1, 1);
     grid.SetCellValue(Row{1}, Col{1}, u"a");
     grid.ShiftTextsRight(Col{0});
