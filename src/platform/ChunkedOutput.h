@@ -8,11 +8,11 @@
 
 namespace korvane {
 
-/// Gathers what is written to a file, so that the system is asked once for many small pieces. What the file
+/// Collects what is written to a file, so that the system is called once for many small pieces. What the file
 /// doesn't take is lost.
 class ChunkedOutput {
 public:
-    // Small enough to stay in the processor's cache between the gathering and the handing over.
+    // This is small enough to stay in the processor's cache until it is written.
     static constexpr std::size_t kUsualChunk = std::size_t{256} * 1024;
 
     explicit ChunkedOutput(FileWriter& file, std::size_t chunkSize = kUsualChunk);
@@ -22,8 +22,8 @@ public:
         bytes.copy(chunk_.get() + filled_, bytes.size());
         filled_ += bytes.size();
     }
-    /// Hands over what is gathered. Nothing does so by itself at the end. False when the file lost anything
-    /// so far.
+    /// Writes what is collected. This has to be called at the end. False when the file has lost anything so
+    /// far.
     bool Flush();
 
 private:

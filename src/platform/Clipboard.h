@@ -8,7 +8,7 @@ class Clipboard {
 public:
     virtual ~Clipboard() = default;
     virtual bool HasText() const = 0;
-    /// With the line ends that the program gave it that put it there: on some systems LF alone.
+    /// The line ends are those of the program that put the text there: on some systems LF alone.
     virtual Text GetText() const = 0;
     virtual void SetText(Text text) = 0;
     virtual void Clear() = 0;

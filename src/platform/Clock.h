@@ -11,7 +11,7 @@ public:
     virtual ~Clock() = default;
     /// Local date and time.
     virtual DateTime Now() const = 0;
-    /// Holds the caller for so long without letting messages run.
+    /// Blocks the caller for this time without letting messages run.
     virtual void Wait(std::chrono::milliseconds time) = 0;
 };
 

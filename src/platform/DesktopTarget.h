@@ -12,7 +12,7 @@ struct DesktopTarget {
     enum class Kind : std::uint8_t { Path, Home, RecycleStore };
 
     Kind kind = Kind::Path;
-    /// Of a file or folder, never an address: what a request names is a file even when it reads like one.
+    /// The path of a file or folder. A request never names an address, even when it reads like one.
     Text path;
 
     bool operator==(const DesktopTarget&) const = default;

@@ -66,8 +66,8 @@ public:
     /// The same for a file that only its owner may read, also when others could read it before. On a disk
     /// that doesn't know owners it is `OpenRaw`.
     virtual std::unique_ptr<FileWriter> OpenPrivate(TextView path) { return OpenRaw(path); }
-    /// Refuses a file that can't be written. Behind a symbolic link the file that it names is emptied and the
-    /// link stays, so that a save goes through the link.
+    /// Removes a file; one that can't be written is refused. For a symbolic link, the file that it names is
+    /// emptied and the link stays, so that a save goes through the link.
     virtual bool Remove(TextView path) = 0;
 
     // Folders and whole files. A disk that only reads and writes files has none of this.
@@ -103,11 +103,12 @@ public:
     virtual std::optional<std::int64_t> Size(TextView path) const = 0;
     virtual std::optional<DateTime> Modified(TextView path) const = 0;
 
-    /// What the path stands on: a drive ("D:\") or a mounted file system. Nothing when there is none, and on
-    /// a disk that doesn't know its volumes.
+    /// The volume of the path: a drive ("D:\") or a mounted file system. Nothing when there is none, and on a
+    /// disk that doesn't know its volumes.
     virtual std::optional<VolumeInfo> Volume(TextView /*path*/) const { return std::nullopt; }
 
-    /// The system's words for why the last step that can fail did, or a write since; empty when nothing did.
+    /// The system's words for why the last step that can fail, or a write after it, failed; empty when nothing
+    /// failed.
     virtual Text LastErrorText() const = 0;
 
     /// The folder of the program and of the files that ship with it.

@@ -14,7 +14,7 @@ public:
     // The second start.
 
     virtual bool PreviousInstanceRuns() = 0;
-    /// False when the running copy offers no slot for a path.
+    /// False when the running copy has no slot for a path.
     virtual bool FindReceiver() = 0;
     /// Waits, without a time-out, until the receiver's slot is empty; false when the receiver died meanwhile.
     virtual bool WaitUntilSlotEmpty() = 0;

@@ -30,10 +30,10 @@ struct OpenRequest {
 class Shell {
 public:
     virtual ~Shell() = default;
-    /// Starts a program, which gets each argument as it stands: no command interpreter makes more of one. The
-    /// task number; 0 when the program didn't start, as an empty one never does.
+    /// Starts a program. It gets each argument unchanged: no command interpreter makes more of one. The result
+    /// is the task number; 0 when the program didn't start, as for an empty name.
     virtual int Run(TextView program, const std::vector<Text>& arguments, WindowState window) = 0;
-    /// What can't be opened is passed over.
+    /// Nothing happens when it can't be opened.
     virtual void Open(const OpenRequest& request) = 0;
     /// Shows a folder in the desktop's file manager.
     virtual void Explore(TextView folder) = 0;

@@ -7,8 +7,8 @@ namespace korvane {
 /// The number of the file format `.xls`, for `Spreadsheet::SaveAs`.
 inline constexpr int kNormalWorkbook = -4143;
 
-/// A spreadsheet application, driven from here. Ranges go by name: "B3" is a cell, "B:B" a column. A step
-/// that can't be done has no effect.
+/// A spreadsheet application that the program controls. Ranges have names: "B3" is a cell, "B:B" a column. A
+/// step that can't be done has no effect.
 class Spreadsheet {
 public:
     virtual ~Spreadsheet() = default;
@@ -26,7 +26,7 @@ public:
     virtual void SetInteriorColorIndex(TextView cell, int index) = 0;
     /// Writes the workbook to a file. `format` is the number of a file format.
     virtual void SaveAs(TextView path, int format) = 0;
-    /// Shows the application to the user, who works on in the workbook.
+    /// Shows the application to the user, who goes on in the workbook.
     virtual void MakeVisible() = 0;
 };
 

@@ -9,7 +9,7 @@ namespace korvane {
 class SystemFolders {
 public:
     virtual ~SystemFolders() = default;
-    /// As the registry names it; empty on a system without one.
+    /// The folder that the registry names; empty on a system without a registry.
     virtual Text ProgramFiles() const = 0;
     virtual Text Windows() const = 0;
     virtual Text System() const = 0;

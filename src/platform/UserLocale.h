@@ -10,7 +10,7 @@ public:
     virtual ~UserLocale() = default;
     /// Date and time in the form in which the system shows them.
     virtual Text GeneralDate(const DateTime& when) const { return korvane::GeneralDate(when); }
-    /// The words that stand in dates.
+    /// The words of dates.
     virtual const DateNames& Names() const { return EnglishDateNames(); }
 };
 

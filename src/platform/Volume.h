@@ -16,8 +16,8 @@ struct VolumeInfo {
     bool ready = true;
     /// The name of the medium; empty for none.
     Text name{};
-    /// The name as a search of the directory finds it: with a dot behind the eighth character when it is
-    /// longer. Empty where such a search finds none.
+    /// The name as a search of the directory finds it: with a dot after the eighth character when it is
+    /// longer. Empty when such a search finds none.
     Text labelEntry{};
     /// Its topmost folder: "D:\\", or where it is mounted.
     Text root{};
