@@ -70,7 +70,7 @@ enum class RecordType : U16 {
     Bof = 0x0809,
 };
 
-/// Type and length, in front of a record's data.
+/// Type and length, which come before a record's data.
 inline constexpr std::size_t kRecordHead = 4;
 /// The most data that one record holds.
 inline constexpr std::size_t kMaxRecordData = 8224;

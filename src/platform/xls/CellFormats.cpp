@@ -20,7 +20,7 @@ constexpr U8 kAllButNumberOwn = 0xF4;
 constexpr U32 kSolidPattern = U32{1} << 26;
 constexpr U16 kDefaultForeground = 0x40;
 constexpr U16 kDefaultBackground = 0x41;
-/// The numbers of colours in a file start with eight fixed ones; the palette follows, its first being 1.
+/// Numbers of colours in a file start with eight fixed ones. Colour 1 of the palette comes after them.
 constexpr U16 kBeforePalette = 7;
 
 struct Xf {

@@ -20,11 +20,11 @@ struct CellFormat {
 /// The formats that a workbook's cells have, each once.
 class CellFormats {
 public:
-    /// In the file, the formats of cells stand behind those of styles, of which there are always as many.
+    /// In the file, the formats of cells come after those of styles, whose number never changes.
     static constexpr U16 kFirst = 15;
 
-    /// The number of the format as cells give it, from `kFirst` on; that of the plain format is `kFirst`
-    /// itself. A format that wasn't there is added.
+    /// The number of the format for cells, from `kFirst` on; `kFirst` itself is the plain format. A new
+    /// format is added.
     U16 NumberOf(const CellFormat& format);
     /// The format of a number that `NumberOf` has given.
     const CellFormat& At(U16 number) const { return formats_[static_cast<std::size_t>(number - kFirst)]; }

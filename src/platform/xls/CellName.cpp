@@ -8,14 +8,14 @@ namespace {
 
 constexpr int kLetters = 26;
 
-/// 1 for "A" or "a"; nothing for what is no letter.
+/// 1 for "A" or "a"; nothing when it isn't a letter.
 std::optional<U32> LetterNumber(char16_t letter) {
     if (letter >= u'a' && letter <= u'z') return static_cast<U32>(letter - u'a' + 1);
     if (letter >= u'A' && letter <= u'Z') return static_cast<U32>(letter - u'A' + 1);
     return std::nullopt;
 }
 
-/// Takes the letters off the front of the name.
+/// Takes the letters from the beginning of the name.
 std::optional<U16> TakeColumn(TextView& name) {
     U32 number = 0;
     while (!name.empty() && number <= kSheetCols) {

@@ -11,7 +11,7 @@ namespace korvane::xls {
 inline constexpr U32 kSheetRows = 65536;
 inline constexpr U16 kSheetCols = 256;
 
-/// Where a cell stands, row and column counted from 0.
+/// The place of a cell, with row and column counted from 0.
 struct CellPlace {
     U16 row = 0;
     U16 col = 0;
@@ -19,9 +19,9 @@ struct CellPlace {
     bool operator==(const CellPlace&) const = default;
 };
 
-/// The place of "B3", letters of either case; nothing for what is no cell of a sheet.
+/// The place of "B3", with letters of either case; nothing when it isn't a cell of a sheet.
 std::optional<CellPlace> ParseCellName(TextView name);
-/// The column of "B:B", counted from 0; nothing for what isn't exactly one column.
+/// The column of "B:B", counted from 0; nothing when it isn't exactly one column.
 std::optional<U16> ParseColumnName(TextView name);
 
 } // namespace korvane::xls

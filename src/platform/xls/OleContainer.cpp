@@ -14,7 +14,7 @@ constexpr U32 kEntriesInFatSector = kSector / sizeof(U32);
 /// The last entry of such a sector says where the next one is.
 constexpr U32 kEntriesInDifatSector = kEntriesInFatSector - 1;
 constexpr U32 kEntriesInHeader = 109;
-/// Smaller streams would stand in a stream of their own for small ones.
+/// Smaller streams would have to go into a special stream for small ones.
 constexpr std::size_t kSmallestStream = 4096;
 
 constexpr U32 kDifatSector = 0xFFFFFFFC;
@@ -49,7 +49,7 @@ void AppendName(std::string& bytes, TextView name) {
     constexpr std::size_t kUnits = 32;
     for (std::size_t i = 0; i < kUnits; ++i)
         AppendLittle(bytes, static_cast<U16>(i < name.size() ? name[i] : u'\0'));
-    // Counted in bytes, with the zero behind the name.
+    // The length counts bytes, with the zero after the name.
     AppendLittle(bytes, static_cast<U16>(name.empty() ? 0 : (name.size() + 1) * 2));
 }
 

@@ -12,14 +12,14 @@
 
 namespace korvane::xls {
 
-/// A compound file that holds one stream. What stands around the stream depends on the stream's size alone,
-/// so that the file can be written from its beginning to its end: `Front()`, the stream, `Back()`.
+/// A compound file that holds one stream. Everything around the stream depends on the stream's size alone, so
+/// the file can be written from its beginning to its end: `Front()`, the stream, `Back()`.
 class OleContainer {
 public:
     /// The largest stream that such a file may have.
     static constexpr std::size_t kMaxStream = 0x7FFF'FFFF;
 
-    /// `classId` are the 16 bytes that say what kind of document the file is. The name has at most 31
+    /// `classId` has the 16 bytes that tell what kind of document the file is. The name has at most 31
     /// characters. A stream under 4,096 bytes counts as that long, with zeros at its end.
     OleContainer(std::string_view classId, TextView streamName, std::size_t streamSize);
 
@@ -38,9 +38,9 @@ private:
     Text streamName_;
     std::size_t streamSize_;
     U32 streamSectors_;
-    /// Sectors that say for each sector which is the next.
+    /// Sectors that hold the next sector for each sector.
     U32 fatSectors_ = 0;
-    /// Sectors that list those for which the file's first sector has no room.
+    /// Sectors that list those that don't fit into the list in the file's first sector.
     U32 difatSectors_ = 0;
 };
 

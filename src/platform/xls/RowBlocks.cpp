@@ -13,7 +13,7 @@ using Rows = std::span<const SheetRow>;
 
 constexpr std::size_t kRowsInBlock = 32;
 
-/// High enough for the lines in it, in twips.
+/// A height for all lines of the row, in twips.
 U16 HeightOf(const SheetRow& row) {
     constexpr int kLine = 255;
     constexpr int kHighest = 8190;
@@ -39,8 +39,8 @@ void AppendCells(std::string& bytes, std::size_t row, const std::vector<Cell>& c
     }
 }
 
-/// Tells how far back the block began, and from each row's first cell to the next row's. The first of these
-/// ways starts behind the block's first row record.
+/// Writes the distance back to the beginning of the block, and the distances from each row's first cell to
+/// the next row's. The first of these starts after the block's first row record.
 void AppendEnd(RowBlocks& blocks, std::size_t start, std::size_t cellsStart,
                std::span<const std::size_t> rowStarts) {
     const std::size_t end = blocks.bytes.size();

@@ -11,7 +11,7 @@ namespace korvane::xls {
 /// The cells of a sheet as records, in blocks of 32 rows, so that a reader finds a row without reading all.
 struct RowBlocks {
     std::string bytes;
-    /// Where the record that ends each block stands among the bytes.
+    /// For each block, the place of the record that ends it.
     std::vector<U32> ends;
 };
 

@@ -9,16 +9,16 @@ namespace korvane::xls {
 
 namespace {
 
-/// In front of the first text: how often texts are used, and how many there are.
+/// The head before the first text: how often texts are used, and how many there are.
 constexpr std::size_t kCounts = 8;
-/// In front of each text: its length and the width of its characters. Never cut.
+/// The head before each text: its length and the width of its characters. It is never split.
 constexpr std::size_t kTextHead = 3;
 constexpr std::size_t kWidthAt = 2;
 constexpr char kNarrow = 0;
 constexpr char kWide = 1;
 constexpr std::size_t kFirstSlots = 1024;
 
-/// Characters up to U+00FF take one byte each when all of a text are such.
+/// When all characters of a text are at most U+00FF, each takes one byte.
 bool IsNarrow(TextView text) {
     char16_t all = 0;
     for (const char16_t character : text)
@@ -52,7 +52,7 @@ U32 SharedStrings::Add(TextView text) {
     return number;
 }
 
-/// At the end of the bytes, where it stays if it is new.
+/// Writes the text to the end of the bytes, where it stays if it is new.
 void SharedStrings::Encode(TextView text) {
     const bool narrow = IsNarrow(text);
     AppendLittle(bytes_, static_cast<U16>(text.size()), static_cast<U8>(narrow ? kNarrow : kWide));

@@ -11,7 +11,7 @@
 
 namespace korvane::xls {
 
-/// The texts of a workbook, each once; cells give them by their number. They are kept as they stand in the
+/// The texts of a workbook, each once; cells give them by their number. They are kept in the form of the
 /// file, with the places at which one record ends and the next goes on.
 class SharedStrings {
 public:
@@ -24,7 +24,7 @@ public:
     U32 Add(TextView text);
     U32 Count() const { return static_cast<U32>(starts_.size() - 1); }
 
-    /// How many bytes `Write` puts out.
+    /// How many bytes `Write` writes.
     std::size_t RecordsSize() const;
     void Write(ChunkedOutput& output) const;
 
@@ -32,7 +32,7 @@ private:
     /// A place among the bytes at which a new record begins.
     struct Cut {
         std::size_t at;
-        /// In the midst of a text, whose width of characters the new record repeats.
+        /// The place is inside a text, and the new record repeats the width of its characters.
         bool insideText;
         char width;
     };
@@ -45,7 +45,7 @@ private:
 
     void Encode(TextView text);
     std::string_view BytesOf(U32 number) const;
-    /// The slot in which the text stands or is to stand.
+    /// The slot of the text, or the one where it goes.
     Slot& SlotOf(std::string_view encoded, std::size_t hash);
     void GrowSlots();
     void LayOut(std::string_view encoded);

@@ -10,7 +10,7 @@ bool IsHighSurrogate(char16_t unit) {
     return unit >= 0xD800 && unit <= 0xDBFF;
 }
 
-/// Never between the two units of one character.
+/// A text is never cut between the two units of one character.
 TextView CutToLimit(TextView text) {
     if (text.size() <= SharedStrings::kMaxLength) return text;
     text = text.substr(0, SharedStrings::kMaxLength);
@@ -18,7 +18,7 @@ TextView CutToLimit(TextView text) {
     return text;
 }
 
-/// `text` itself where it has no line end, or what it becomes, in `changed`.
+/// `text` itself when it has no line end; otherwise `changed`, which gets the changed text.
 TextView WithLineFeeds(TextView text, Text& changed) {
     std::size_t end = text.find(kCrLf);
     if (end == TextView::npos) return text;
@@ -79,7 +79,7 @@ Cell* Workbook::FindCell(CellPlace place) {
 Cell& Workbook::CellAt(CellPlace place) {
     if (place.row >= rows_.size()) rows_.resize(std::size_t{place.row} + 1);
     std::vector<Cell>& cells = rows_[place.row].cells;
-    // Most come in their order.
+    // Most cells come in their order.
     if (cells.empty() || cells.back().col < place.col) return cells.emplace_back(Cell{.col = place.col});
     const auto found = FirstAtOrBehind(cells, place.col);
     return found->col == place.col ? *found : *cells.insert(found, Cell{.col = place.col});

@@ -15,25 +15,25 @@ struct Cell {
     static constexpr U32 kNoText = 0xFFFFFFFF;
 
     U16 col = 0;
-    /// As `CellFormats` numbers it.
+    /// The number is that of `CellFormats`.
     U16 format = CellFormats::kFirst;
-    /// As `SharedStrings` numbers it.
+    /// The number is that of `SharedStrings`.
     U32 text = kNoText;
 };
 
 /// The cells of a row by their columns.
 struct SheetRow {
     std::vector<Cell> cells;
-    /// The most that a text put into the row had.
+    /// The largest number of lines of a text in the row.
     U16 lines = 1;
 };
 
 /// A workbook of one sheet of texts.
 class Workbook {
 public:
-    /// The text as it stands: one that reads like a number or a formula is neither. A line break is a line
-    /// feed in a workbook, and a cell with one shows its lines. What is longer than a cell holds is cut. An
-    /// empty text leaves nothing in the cell but its look.
+    /// Puts the text into the cell as it is, also when it looks like a number or a formula. A line break is a
+    /// line feed in a workbook, and a cell with one shows its lines. A text that is too long for a cell is
+    /// cut. An empty text leaves only the look of the cell.
     void SetText(CellPlace place, TextView text);
     /// Fills the cell with a colour of the palette, from 1 to 56.
     void SetFill(CellPlace place, U8 colour);
@@ -43,12 +43,12 @@ public:
     const std::map<U16, U8>& ColumnWidths() const { return widths_; }
     const SharedStrings& Strings() const { return strings_; }
     const CellFormats& Formats() const { return formats_; }
-    /// Up to the last row with a cell.
+    /// The rows up to the last one with a cell.
     const std::vector<SheetRow>& Rows() const { return rows_; }
 
 private:
     Cell* FindCell(CellPlace place);
-    /// The cell, made if it isn't there.
+    /// The cell; it is made when it isn't there.
     Cell& CellAt(CellPlace place);
     void SetWraps(Cell& cell, bool wraps);
     void EmptyCell(CellPlace place);

@@ -9,8 +9,8 @@
 
 namespace korvane {
 
-/// Stands for a spreadsheet application where none can be driven: writes the workbook itself, and shows it by
-/// having the desktop open the file with whatever program is there for such files.
+/// Takes the place of a spreadsheet application that can be controlled: it writes the workbook itself, and
+/// shows it by letting the desktop open the file with its program for such files.
 class XlsSpreadsheet final : public Spreadsheet {
 public:
     /// Both outlive the object.
@@ -21,8 +21,8 @@ public:
     void SetActiveCellValue(TextView value) override;
     void SetColumnWidth(TextView column, int characters) override;
     void SetInteriorColorIndex(TextView cell, int index) override;
-    /// Knows `kNormalWorkbook` alone. A file that can't be written whole doesn't stay. The file opens at
-    /// "A1", whichever cell is active: a caller goes there only behind the save.
+    /// Only `kNormalWorkbook` is known. A file that can't be written completely is removed. The file opens at
+    /// "A1", whichever cell is active, because callers go there only after the save.
     void SaveAs(TextView path, int format) override;
     /// Nothing happens unless the workbook was saved.
     void MakeVisible() override;

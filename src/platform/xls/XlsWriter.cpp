@@ -30,7 +30,7 @@ constexpr FixedRecord kBookStart[]{
     {RecordType::InterfaceHdr, "\xB0\x04"sv},
     {RecordType::Mms, kOff},
     {RecordType::InterfaceEnd, ""sv},
-    // Who wrote the file, filled up with blanks.
+    // The name of the program that wrote the file, filled up with blanks.
     {RecordType::WriteAccess, "\x07\0\0Korvane"
                               "                                                  "
                               "                                                    "sv},
@@ -51,7 +51,7 @@ constexpr FixedRecord kBookStart[]{
     {RecordType::CalcPrecision, kOn},
     {RecordType::RefreshAll, kOff},
     {RecordType::BookBool, kOff},
-    // The first four of a file, which readers take for granted.
+    // The first four of a file, which readers expect.
     {RecordType::Font, kFont},
     {RecordType::Font, kFont},
     {RecordType::Font, kFont},
@@ -82,7 +82,7 @@ constexpr FixedRecord kSheetSettings[]{
     {RecordType::Footer, ""sv},
     {RecordType::HCenter, kOff},
     {RecordType::VCenter, kOff},
-    // The printer's own, at full size, with margins of half an inch for header and footer.
+    // The printer's own paper, at full size, with margins of half an inch for header and footer.
     {RecordType::Setup, "\0\0\x64\0\x01\0\x01\0\x01\0\x04\0\0\0\0\0"
                         "\0\0\0\0\0\0\xE0\x3F\0\0\0\0\0\0\xE0\x3F\x01\0"sv},
 };
@@ -115,7 +115,7 @@ void AppendSheetEntry(std::string& bytes, std::size_t sheetAt) {
     AppendRecord(bytes, RecordType::BoundSheet, data.append(kSheetName));
 }
 
-/// What stands in front of the texts.
+/// The records before the texts.
 std::string BookHead(const Workbook& book, std::size_t sheetAt) {
     std::string bytes;
     Append(bytes, kBookStart);
@@ -126,8 +126,8 @@ std::string BookHead(const Workbook& book, std::size_t sheetAt) {
     return bytes;
 }
 
-/// A column shows its characters and 5 pixels around them. The file wants that in parts of a character, which
-/// is 7 pixels wide in the standard font.
+/// A column shows its characters and 5 pixels around them. The file counts in 256ths of a character, which is
+/// 7 pixels wide in the standard font.
 U16 WidthInFile(U8 characters) {
     constexpr unsigned kCharacter = 7;
     constexpr unsigned kAround = 5;
@@ -156,7 +156,7 @@ std::string DimensionsRecord(const Workbook& book) {
     return bytes;
 }
 
-/// Says where in the stream the columns and the ends of the blocks of rows stand.
+/// Tells the places of the columns and of the ends of the row blocks in the stream.
 std::string IndexRecord(std::size_t rows, std::size_t columnsAt, std::size_t cellsAt,
                         std::span<const U32> blockEnds) {
     std::string data;
@@ -168,7 +168,7 @@ std::string IndexRecord(std::size_t rows, std::size_t columnsAt, std::size_t cel
     return bytes;
 }
 
-/// What stands in front of the cells.
+/// The records before the cells.
 std::string SheetHead(const Workbook& book, std::size_t sheetAt, std::span<const U32> blockEnds) {
     std::string start;
     Append(start, kSheetStart);

@@ -12,7 +12,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::size_t kMaxData = 8224;
-/// Counts in front of the first text; its length and width.
+/// The counts before the first text, then its length and width.
 constexpr std::size_t kCounts = 8;
 constexpr std::size_t kHead = 3;
 
@@ -105,7 +105,7 @@ TEST(SharedStrings, AWideCharacterIsNeverCut) {
 }
 
 TEST(SharedStrings, AHeadWithoutRoomForACharacterGoesToTheNextRecord) {
-    // Behind the first text, 0 to 5 bytes are free.
+    // After the first text, 0 to 5 bytes are free.
     for (std::size_t room = 0; room <= 5; ++room) {
         const Text first(kMaxData - kCounts - kHead - room, u'x');
         const auto narrow = RecordsOf({first, u"yz"});

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-/// The number of the palette's colour 35 as files count it.
+/// The number of the palette's colour 35 in files.
 constexpr int kLightGreen = 42;
 constexpr PlainFormat kPlain;
 constexpr PlainFormat kWrapped{true, 0};
@@ -22,7 +22,7 @@ constexpr PlainFormat kWrapped{true, 0};
 class StringFile final : public FileWriter {
 public:
     std::string bytes;
-    /// Takes so many bytes and then is full.
+    /// Takes this many bytes and then is full.
     std::size_t room = std::string().max_size();
 
     bool Write(std::string_view more) override {
@@ -54,7 +54,7 @@ TEST(XlsWriter, AnEmptyWorkbookIsASheetWithoutCells) {
     EXPECT_EQ(read.activeCell, (PlainXls::Place{0, 0}));
 }
 
-TEST(XlsWriter, CellsStandWhereTheyWerePut) {
+TEST(XlsWriter, CellsAreWhereTheyWerePut) {
     Workbook book;
     book.SetText({0, 0}, u"a1");
     book.SetText({0, 23}, u"x1");
