@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// What can be made to fail on a disk in memory.
+/// The steps that can be made to fail on a disk in memory.
 enum class FileStep : std::uint8_t {
     OpenToRead,
     OpenToWrite,
@@ -20,14 +20,14 @@ enum class FileStep : std::uint8_t {
     RemoveDir,
 };
 
-/// Failures to order. Each strikes once.
+/// Failures that a test orders. Each happens once.
 class FileFaults {
 public:
     /// The `nth` step of this kind from now on fails, the next one being 1, with `errorText` as the system's
     /// words.
     void FailNth(FileStep step, int nth, TextView errorText = u"Input/output error");
 
-    /// Counts one step; the words of the failure ordered for it, nothing when it is to succeed.
+    /// Counts one step. Returns the words of the failure that was ordered for it; nothing when it succeeds.
     std::optional<Text> Strike(FileStep step);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace korvane {
 
-/// A clock that stands still until it is set or somebody waits.
+/// A clock that doesn't move until it is set or somebody waits.
 class MemoryClock final : public Clock {
 public:
     explicit MemoryClock(const DateTime& start = {2026, 11, 21, 10, 30, 0}) { Set(start); }

@@ -14,7 +14,7 @@ Text DriveRoot(char16_t letter) {
     return {static_cast<char16_t>(small ? letter - 0x20 : letter), u':', u'\\'};
 }
 
-/// Appends the names between the separators; "." and nothing are no names.
+/// Appends the names between the separators, without "." and empty names.
 void AppendNames(std::vector<Text>& names, TextView path, char16_t separator) {
     while (!path.empty()) {
         const std::size_t length = std::min(path.find(separator), path.size());

@@ -26,11 +26,11 @@ struct MemoryNode {
     bool readOnly = false;
     /// Only its owner may read it.
     bool isPrivate = false;
-    /// Of a file.
+    /// The contents of a file.
     std::string bytes;
-    /// Of a link: the path that it names, relative ones starting at the link's folder.
+    /// The path that a link names; a relative one starts at the link's folder.
     Text target;
-    /// Of a folder, under their names as the disk compares them.
+    /// The nodes in a folder, by their names as the disk compares them.
     std::map<Text, std::shared_ptr<MemoryNode>> children;
 };
 
@@ -41,7 +41,7 @@ struct MemoryVolume {
     std::vector<Text> currentDir;
     VolumeInfo info{.type = DriveType::Fixed};
     bool readOnly = false;
-    /// How many more bytes the volume takes; without limit when nothing is given.
+    /// How many more bytes the volume takes; nothing for no limit.
     std::optional<std::int64_t> freeBytes;
     /// How many bytes its files may hold together; without limit when nothing is given.
     std::optional<std::int64_t> quota;
@@ -52,7 +52,7 @@ struct MemoryVolume {
 
 enum class LastLink : std::uint8_t { Follow, Keep };
 
-/// Folders and files in memory, and the ways of a path style to name them.
+/// Folders and files in memory, and their paths in one style.
 class MemoryDisk {
 public:
     /// Starts with drive C or the root folder, and nothing in it.
@@ -61,7 +61,8 @@ public:
     /// What a path leads to.
     struct Place {
         MemoryVolume* volume = nullptr;
-        /// The folder that holds the node, or would; null when there is no such folder, and for a root.
+        /// The folder of the node, or the one where it would be; null when there is no such folder, and for a
+        /// root.
         std::shared_ptr<MemoryNode> folder;
         /// The node's name in this folder.
         Text name;
@@ -75,12 +76,12 @@ public:
     /// Makes the folder current, and its drive.
     bool ChangeDir(TextView path);
 
-    /// Puts a node in the place, over one that stands there.
+    /// Puts a node in the place, and replaces one that is there.
     std::shared_ptr<MemoryNode> Put(const Place& place, MemoryNode::Kind kind);
     /// Puts a node that was taken out of its place into this one, under its name.
     void PutBack(const Place& place, std::shared_ptr<MemoryNode> node);
     void Erase(const Place& place);
-    /// Makes the folder and those above it as far as they are missing.
+    /// Makes the folder and those above it that are missing.
     void MakeDirs(TextView path);
 
     void AddDrive(char16_t letter);

@@ -419,7 +419,7 @@ MemoryFileSystem::Place MemoryFileSystem::Find(TextView path, LastLink lastLink)
     return disk_.Find(path, lastLink);
 }
 
-/// The place of a node that is about to be put on the stage, in a folder that is made if need be.
+/// The place of a node that a test adds, in a folder that is made when it is missing.
 MemoryFileSystem::Place MemoryFileSystem::MakePlace(TextView path) {
     const Text full = disk_.FullPath(path);
     const std::size_t end = full.rfind(Style().Separator());

@@ -9,9 +9,9 @@
 
 namespace korvane {
 
-/// A disk in memory, in either path style, with failures to order. On Windows it has drive C and names are
-/// compared without case; elsewhere it is one tree. The program folder is `C:\Korvane` or `/opt/korvane`
-/// until another one is set, and the state lies there until it is given a folder of its own.
+/// A disk in memory, in either path style, with failures that a test orders. On Windows it has drive C and
+/// names are compared without case; elsewhere it is one tree. The program folder is `C:\Korvane` or
+/// `/opt/korvane` until another one is set, and the state is there too until it gets a folder of its own.
 class MemoryFileSystem final : public FileSystem {
 public:
     /// The clock gives the modified times and has to live as long as the disk.
@@ -47,10 +47,11 @@ public:
     Text ProgramDir() const override { return programDir_; }
     Text StateDir() const override { return stateDir_.empty() ? programDir_ : stateDir_; }
 
-    // Setting the stage. None of this meets a failure or a permission; missing folders are made.
+    // These prepare the disk for a test. They never fail and need no permission, and missing folders are
+    // made.
 
     void AddDrive(char16_t letter) { disk_.AddDrive(letter); }
-    /// What is told of the drive that the path is on; a fixed one without a name until it is set.
+    /// Sets the facts of the drive that the path is on. It is a fixed one without a name until then.
     void SetVolume(TextView path, const VolumeInfo& info);
     void AddDir(TextView path) { disk_.MakeDirs(path); }
     /// What a copy takes at once.
@@ -65,24 +66,24 @@ public:
     void SetModified(TextView path, const DateTime& time);
     void SetProgramDir(TextView path);
     void SetStateDir(TextView path);
-    /// Takes away a file, link or folder with all that is in it.
+    /// Removes a file, a link, or a folder with all that is in it.
     void Erase(TextView path);
 
-    // Failures to order.
+    // These order failures.
 
     FileFaults& Faults() { return faults_; }
-    /// The disk of the path (the current one when it is empty) takes so many more bytes and then is full.
+    /// The disk of the path (the current one when it is empty) takes this many more bytes and then is full.
     void SetFreeBytes(std::int64_t bytes, TextView path = {});
     /// The files on the disk of the path (the current one when it is empty) may hold so many bytes together.
     void SetQuota(std::int64_t bytes, TextView path = {});
     /// Nothing on the disk of the path (the current one when it is empty) can be written or removed.
     void SetDiskReadOnly(bool readOnly = true, TextView path = {});
-    /// The file goes away just before it is opened the next time, behind the back of who has tested for it.
+    /// The file goes away just before it is opened the next time, so that an earlier test for it is wrong.
     void VanishBeforeOpen(TextView path) { vanishing_ = FullPath(path); }
 
-    // Looking at the outcome.
+    // These show the outcome.
 
-    /// The bytes of the file, also behind a link; nothing when there is no file.
+    /// The bytes of the file, also through a link; nothing when there is no file.
     std::optional<std::string> Contents(TextView path) const;
     /// Whether only its owner may read the file.
     bool IsPrivate(TextView path) const;
@@ -108,7 +109,7 @@ private:
     CopyOutcome CopyBeside(const Place& source, const Place& place, const CopyOptions& options);
     bool Append(MemoryNode& file, MemoryVolume& volume, std::string_view bytes);
 
-    // Looking up a path changes nothing, but hands out what can be changed.
+    // A look-up changes nothing, but its result can be changed.
     mutable MemoryDisk disk_;
     const Clock& clock_;
     FileFaults faults_;

@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// Both ends of the way between two starts, in one process. A test plays the other end: the running copy as
-/// `running` says, or a second start through `Arrive` and `AskToActivate`.
+/// Both ends of the way between two starts, in one process. A test plays the other end: a running copy with
+/// the facts of `running`, or a second start through `Arrive` and `AskToActivate`.
 class MemoryInstanceChannel final : public InstanceChannel {
 public:
     bool PreviousInstanceRuns() override { return running.runs; }

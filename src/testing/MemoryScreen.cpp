@@ -5,7 +5,7 @@ namespace korvane {
 void MemoryScreen::ProcessMessages() {
     ++processMessagesCount_;
     if (messages_.empty()) return;
-    // Taken out first: the action may process messages in its turn.
+    // It is taken out first, because the action may process messages itself.
     const auto action = std::move(messages_.front());
     messages_.pop_front();
     action();

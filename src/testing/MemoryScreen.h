@@ -8,8 +8,8 @@
 
 namespace korvane {
 
-/// A screen that nobody sees: it remembers the pointers, and runs what a test wants to happen while messages
-/// are processed.
+/// A screen in memory. It remembers the pointers, and runs what a test wants to happen while messages are
+/// processed.
 class MemoryScreen final : public Screen {
 public:
     Rect WorkArea() const override { return workArea_; }
@@ -19,8 +19,8 @@ public:
 
     void SetDark(bool dark) { dark_ = dark; }
     void SetWorkArea(const Rect& workArea) { workArea_ = workArea; }
-    /// Runs `action` in one of the next `ProcessMessages`: each of these runs one action, the first queued
-    /// first.
+    /// Runs `action` in one of the next calls of `ProcessMessages`. Each call runs one action, in the order
+    /// of queuing.
     void QueueMessage(std::function<void()> action) { messages_.push_back(std::move(action)); }
 
     /// The pointer that shows now.

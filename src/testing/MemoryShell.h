@@ -29,7 +29,7 @@ struct ProgramStart {
     bool operator==(const ProgramStart&) const = default;
 };
 
-/// A desktop that does nothing but remember what it was asked for.
+/// A desktop that only remembers what it was asked for.
 class MemoryShell final : public Shell {
 public:
     int Run(TextView program, const std::vector<Text>& arguments, WindowState window) override {
@@ -42,10 +42,10 @@ public:
     void ToggleDesktop() override { calls_.push_back({ShellCall::Kind::ToggleDesktop, {}}); }
     void Beep() override { calls_.push_back({ShellCall::Kind::Beep, {}}); }
 
-    /// Which programs can be started; every one until it is told.
+    /// Sets which programs can be started; all can be until then.
     void SetStartable(std::function<bool(TextView program)> startable) { startable_ = std::move(startable); }
 
-    /// All calls so far but starts and openings, in order.
+    /// All calls so far except starts and openings, in order.
     const std::vector<ShellCall>& Calls() const { return calls_; }
     /// All starts so far, also those that failed, in order.
     const std::vector<ProgramStart>& Starts() const { return starts_; }

@@ -8,8 +8,8 @@
 
 namespace korvane {
 
-/// A spreadsheet application that does nothing but take down its steps, one line each. It knows the cells of
-/// the columns A to Z.
+/// A spreadsheet application that only writes down its steps, one line each. It knows the cells of the
+/// columns A to Z.
 class MemorySpreadsheet final : public Spreadsheet {
 public:
     /// The steps outlive the application.

@@ -58,7 +58,7 @@ void ScriptedMessageBoxes::Complain(const char* fault, const Message& message) c
 }
 
 Answer EscAnswer(MessageButtons buttons) {
-    // The button that takes nothing on itself stands last.
+    // The last button is the one that changes nothing.
     return RowOf(buttons).answers.back();
 }
 

@@ -12,11 +12,11 @@ namespace korvane {
 /// Message boxes that are answered from a script and remembered.
 class ScriptedMessageBoxes final : public MessageBoxes {
 public:
-    /// Hears of a box without a scripted answer, or with one that the box has no button for, in words that
-    /// name the box.
+    /// Is called with a description of a box that has no scripted answer, or whose scripted answer has no
+    /// button.
     using Complaint = std::function<void(const std::string& what)>;
 
-    /// Without a complaint, every box that nobody scripted is answered as by Esc.
+    /// Without a complaint, every box without a scripted answer is answered as by Esc.
     explicit ScriptedMessageBoxes(Complaint complaint = {});
 
     Answer Show(const Message& message) override;
@@ -27,7 +27,7 @@ public:
     /// All boxes so far, in order.
     const std::vector<Message>& Shown() const { return shown_; }
     void ForgetShown() { shown_.clear(); }
-    /// The number of answers that no box has asked for yet.
+    /// The number of answers that aren't used yet.
     std::size_t PendingAnswers() const { return answers_.size(); }
 
 private:

@@ -15,7 +15,7 @@ public:
     explicit FakeSystemFileDialog(App& app) { app.SetPort<SystemFileDialog>(this); }
     std::optional<Text> answer;
     std::vector<Request> requests;
-    /// Runs while the dialog stands open.
+    /// Runs while the dialog is open.
     std::function<void()> whileOpen = [] {};
 
     std::optional<Text> Choose(const Request& request) override {

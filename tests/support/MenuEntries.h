@@ -11,7 +11,7 @@ namespace korvane {
 /// Name and caption.
 using Entries = std::vector<std::pair<std::string, Text>>;
 
-/// What can be chosen in a window's menu bar, in order, without the heads of the menus.
+/// The entries that can be chosen in a window's menu bar, in order, without the titles of the menus.
 inline Entries EntriesOf(const Menu& menu) {
     Entries entries;
     for (const MenuEntry& entry : menu.Entries()) {

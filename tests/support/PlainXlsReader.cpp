@@ -107,7 +107,7 @@ Text EntryName(std::string_view entry) {
 
 // ---- Texts --------------------------------------------------------------------------------------------
 
-/// Reads the texts across the records in which they stand.
+/// Reads texts that go on in several records.
 class TextSource {
 public:
     explicit TextSource(std::vector<std::string_view> parts) : parts_(std::move(parts)) {}

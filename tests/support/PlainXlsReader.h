@@ -12,7 +12,7 @@
 namespace korvane {
 
 /// A plain second way to read workbooks, which shares nothing with the writer but the format. It throws
-/// std::runtime_error, which says what is wrong, at everything that a reader could stumble over.
+/// std::runtime_error, which says what is wrong, at everything that could confuse another reader.
 struct PlainRecord {
     std::size_t at = 0;
     std::uint16_t type = 0;
@@ -39,7 +39,7 @@ struct PlainXls {
     std::uint32_t textUses = 0;
     std::vector<Text> sharedTexts;
     std::map<Place, Text> texts;
-    /// Of all cells that are in the file, empty ones too.
+    /// The formats of all cells in the file, empty ones too.
     std::map<Place, PlainFormat> formats;
     std::map<int, int> columnWidths;
     std::map<int, int> rowHeights;

@@ -19,8 +19,8 @@
 namespace korvane {
 
 /// Plays the user without a screen: windows, message boxes, choosers and pop-up menus are answered from one
-/// script, in the order in which they come. What nobody scripted, what comes out of turn, what a script
-/// leaves open and what never came fails the test and names itself.
+/// script, in the order in which they come. A window that isn't scripted, that comes out of turn, that a
+/// script leaves open or that never comes fails the test, with its name.
 class ScriptedUser final : public FormHost,
                            public MessageBoxes,
                            public FilePicker,
@@ -49,11 +49,11 @@ public:
     void Answer(const Message& expected, korvane::Answer answer) {
         steps_.push_back(BoxStep{expected, answer, {}});
     }
-    /// The same, and this happens while the box stands.
+    /// The same, and this happens while the box is shown.
     void AnswerAfter(std::function<void()> meanwhile, korvane::Answer answer) {
         steps_.push_back(BoxStep{std::nullopt, answer, std::move(meanwhile)});
     }
-    /// The next to come is the file chooser; `choose` fills in what comes of it.
+    /// The next to come is the file chooser; `choose` fills in the result.
     void OnChooser(std::function<void(ListerRequest&)> choose) {
         steps_.push_back(ChooserStep{std::move(choose)});
     }
@@ -77,15 +77,15 @@ public:
         Extent extent;
         bool operator==(const ColourRequest&) const = default;
     };
-    /// With what the colour dialog opened, each time.
+    /// What the colour dialog opened with, each time.
     const std::vector<ColourRequest>& ColourRequests() const { return colourRequests_; }
-    /// With what the font dialog opened, each time.
+    /// What the font dialog opened with, each time.
     const std::vector<FontSpec>& FontRequests() const { return fontRequests_; }
     /// The names of all pop-up menus that were shown.
     const std::vector<std::string>& PopUps() const { return popUps_; }
     /// The names of all windows that were brought to the front.
     const std::vector<std::string>& Raised() const { return raised_; }
-    /// The windows that stand open and aren't modal.
+    /// The windows that are open and aren't modal.
     const std::vector<Form*>& Shown() const { return shown_; }
 
     // The outside.

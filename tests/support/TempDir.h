@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// A folder of its own for one test, the user's alone, gone with it.
+/// A folder for one test, which only the user can enter and which is removed after it.
 class TempDir {
 public:
     TempDir() {

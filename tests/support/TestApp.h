@@ -21,7 +21,7 @@
 
 namespace korvane {
 
-/// A fresh program without windows: an App on a platform in memory, with a scripted user in front of it.
+/// A fresh program without windows: an App on a platform in memory, with a scripted user.
 class TestApp {
 public:
     explicit TestApp(const PathStyle& style = PathStyle::Windows) : files(style, clock) {

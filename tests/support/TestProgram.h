@@ -15,16 +15,16 @@
 
 namespace korvane {
 
-/// The whole program on a platform in memory, with a scripted user in front of it.
+/// The whole program on a platform in memory, with a scripted user.
 class TestProgram : public TestApp {
 public:
     explicit TestProgram(const PathStyle& style = PathStyle::Windows) : TestApp(style) {}
 
-    // Setting the stage.
+    // These prepare the test.
 
     /// Puts a settings file beside the program, each line from the field that the reader puts it in.
     void AddSettings(const Settings& settings = {});
-    /// Puts a table of one column beside nothing in particular.
+    /// Makes a file with a table of one column.
     void AddTable(const Text& path, const TestRow& names);
 
     /// Starts the program, which shows its main window unless it hands its file over.
@@ -35,7 +35,7 @@ public:
     /// Takes the program's windows away, as the end of its process does.
     void EndProcess() { main_.reset(); }
 
-    // What the user does.
+    // These play the user.
 
     void Choose(std::string_view command) { main_->OfficeMenu1.Choose(command); }
     /// Opens an empty tab, by starting a design and giving it up.
@@ -44,12 +44,12 @@ public:
     void CancelDesign();
     /// Opens a file through the menu.
     void Open(const Text& path);
-    /// Presses a key with the keyboard in the grid of the active tab: the menu bar sees it first. Whether it
-    /// was kept from the grid.
+    /// Presses a key with the keyboard in the grid of the active tab: the menu bar sees it first. The result
+    /// is whether the grid didn't get it.
     bool PressKey(int code, int mask = Mask::None);
     bool PressSideBarKey(int code, int mask = Mask::None);
 
-    // What is to be seen.
+    // These show the outcome.
 
     frmMDIChild& Tab(int slot);
     Tabs& AllTabs() { return main_->TheTabs(); }

@@ -25,7 +25,7 @@ public:
     int dirtyCleared = 0;
 };
 
-/// An empty table on a tab, in a program in memory with a scripted user in front of it.
+/// An empty table on a tab, in a program in memory with a scripted user.
 class TestTable {
 public:
     explicit TestTable(const PathStyle& style = PathStyle::Windows,

@@ -1,5 +1,4 @@
-// The scripted user stands between every test of a window and its rules: it has to notice what nobody
-// scripted.
+// Every test of a window relies on the scripted user: it has to notice what isn't scripted.
 
 #include "support/ScriptedUser.h"
 
@@ -40,7 +39,7 @@ TEST(ScriptedUser, PlaysWindowsAndBoxesInTheOrderOfTheScript) {
     EXPECT_EQ(user.Messages(), std::vector<Message>{kYesNo});
 }
 
-TEST(ScriptedUser, FailsForAWindowThatNobodyScripted) {
+TEST(ScriptedUser, FailsForAWindowThatIsNotScripted) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedUser user;
@@ -72,7 +71,7 @@ TEST(ScriptedUser, FailsForAnotherWindowThanTheScriptAwaits) {
         "another window than Question");
 }
 
-TEST(ScriptedUser, FailsForABoxThatNobodyScriptedAndNamesIt) {
+TEST(ScriptedUser, FailsForABoxThatIsNotScriptedAndNamesIt) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedUser user;
@@ -156,7 +155,7 @@ TEST(ScriptedUser, ChoosesAFontAndTellsWithWhichTheDialogOpened) {
     EXPECT_EQ(user.FontRequests(), (std::vector<FontSpec>{present, chosen}));
 }
 
-TEST(ScriptedUser, FailsForAColourOrFontDialogThatNobodyScripted) {
+TEST(ScriptedUser, FailsForAColourOrFontDialogThatIsNotScripted) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedUser user;

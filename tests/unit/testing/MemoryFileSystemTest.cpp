@@ -153,7 +153,7 @@ TEST_F(PosixDisk, TheModifiedTimeIsThatOfTheLastWrite) {
     EXPECT_FALSE(files.Modified(u"/b.tbx"));
 }
 
-TEST_F(PosixDisk, TheProgramFolderStandsFromTheStart) {
+TEST_F(PosixDisk, TheProgramFolderIsThereFromTheStart) {
     EXPECT_TRUE(files.DirExists(files.ProgramDir()));
     files.SetProgramDir(u"/usr/lib/korvane");
     EXPECT_EQ(files.ProgramDir(), u"/usr/lib/korvane");
@@ -272,7 +272,7 @@ TEST_F(WindowsDisk, ADisksLimitsAreItsOwn) {
     EXPECT_EQ(files.LastErrorText(), u"Read-only file system");
 }
 
-// Failures to order.
+// Failures that a test orders.
 
 TEST_F(PosixDisk, TheOrderedOpenFailsOnceWithTheOrderedWords) {
     files.AddFile(u"/a.tbx", "old");

@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-TEST(MemoryClockTest, StandsStillUntilItIsSet) {
+TEST(MemoryClockTest, DoesNotMoveUntilItIsSet) {
     MemoryClock clock({2026, 1, 2, 3, 4, 5});
     EXPECT_EQ(clock.Now(), (DateTime{2026, 1, 2, 3, 4, 5}));
     clock.Set({2027, 1, 1, 0, 0, 0});
@@ -94,7 +94,7 @@ TEST(ScriptedMessageBoxesTest, AnswersInTheOrderOfTheScript) {
     EXPECT_THAT(boxes.Shown(), IsEmpty());
 }
 
-TEST(ScriptedMessageBoxesTest, ComplainsByNameOfABoxThatNobodyScripted) {
+TEST(ScriptedMessageBoxesTest, ComplainsByNameOfABoxThatIsNotScripted) {
     std::string complaint;
     ScriptedMessageBoxes boxes([&](const std::string& what) { complaint = what; });
     EXPECT_EQ(boxes.Show(kQuestion), Answer::Cancel);
