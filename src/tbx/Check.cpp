@@ -34,7 +34,7 @@ ExitStatus RunCheck(const Call& call, Environment& environment) {
     if (!bytes) return ExitStatus::Error;
     Workbench workbench(call.page);
     workbench.Load(PathOfArgument(name, environment), *bytes);
-    // The load itself is what the first looks at, the save after it what the second does.
+    // The first list is about the load, the second about a save after it.
     const auto inFile = CheckFile(bytes->View(), call.page);
     const auto inTable = CheckTable(workbench.Grid());
     WriteFindings(inFile, environment.out);

@@ -57,7 +57,7 @@ std::string CsvReader::ReadQuotedField() {
         open = Take('"');
         if (open) field += '"';
     }
-    if (!AtFieldEnd()) Stop(CsvFault::TextBehindQuote, line_);
+    if (!AtFieldEnd()) Stop(CsvFault::TextAfterQuote, line_);
     return field;
 }
 

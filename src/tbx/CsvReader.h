@@ -8,28 +8,28 @@
 
 namespace korvane {
 
-/// What some programs put in front of a UTF-8 file.
+/// Some programs write this at the beginning of a UTF-8 file.
 inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-enum class CsvFault { UnclosedQuote, TextBehindQuote };
+enum class CsvFault { UnclosedQuote, TextAfterQuote };
 
-/// Takes the bytes of a CSV file (RFC 4180) apart, record by record. A record ends at CR LF, a lone LF or a
-/// lone CR, or at the end of the file; a field in quotes may hold line breaks, delimiters and doubled quotes,
-/// all of which come out as they stand. A quote inside a field that doesn't begin with one is a character
-/// like any other. A UTF-8 byte-order mark in front is passed over.
+/// Reads the bytes of a CSV file (RFC 4180), record by record. A record ends at CR LF, a lone LF or a lone
+/// CR, or at the end of the file; a field in quotes may hold line breaks, delimiters and doubled quotes, all
+/// of which stay as they are, but for doubled quotes, which become one. A quote inside a field that doesn't
+/// begin with one is an ordinary character. A UTF-8 byte-order mark at the beginning is skipped.
 class CsvReader {
 public:
     /// The bytes have to live as long as the reader. The delimiter is neither a quote nor CR or LF.
     explicit CsvReader(std::string_view bytes, char delimiter = ',');
 
     /// Puts the fields of the next record in `fields`; an empty line is a record of one empty field. False at
-    /// the end of the bytes, and at a fault, behind which nothing more is read.
+    /// the end of the bytes, and at a fault, after which nothing more is read.
     bool ReadRecord(std::vector<std::string>& fields);
 
     /// The line, counted from 1, on which the last record began.
     std::size_t RecordLine() const { return recordLine_; }
     std::optional<CsvFault> Fault() const { return fault_; }
-    /// The line of the fault: that of the quote.
+    /// The line of the fault, which is that of the quote.
     std::size_t FaultLine() const { return faultLine_; }
 
 private:

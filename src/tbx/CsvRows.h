@@ -4,8 +4,8 @@
 
 namespace korvane {
 
-/// CSV (RFC 4180): a first record of the headers, every record ended by CR LF. A field is put in quotes where
-/// it would not be read back otherwise; so is the empty field of a one-column table, which would leave an
+/// CSV (RFC 4180). The headers are the first record, and every record ends in CR LF. A field is put in quotes
+/// when it wouldn't be read back otherwise; so is the empty field of a one-column table, which would be an
 /// empty line. A table without columns gives nothing.
 class CsvRows final : public RowFormat {
 public:

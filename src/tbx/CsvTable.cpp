@@ -13,7 +13,7 @@ std::string AtLine(std::size_t line, std::string_view what) {
 std::string FaultText(const CsvReader& reader) {
     const bool unclosed = reader.Fault() == CsvFault::UnclosedQuote;
     return AtLine(reader.FaultLine(), unclosed ? "the quoted field that begins here doesn't end"
-                                               : "there is text behind the closing quote of a field");
+                                               : "there is text after the closing quote of a field");
 }
 
 /// Fills the table from the records, up to the first fault.

@@ -15,7 +15,7 @@ constexpr std::array<std::string_view, 5> kIconNames{"none", "information", "que
                                                      "stop"};
 constexpr std::array<std::string_view, 3> kButtonNames{"ok", "yesno", "yesnocancel"};
 
-/// Puts values together to JSON objects and lists.
+/// Builds JSON objects and lists.
 class JsonLine {
 public:
     void Open(char bracket) {
@@ -48,7 +48,7 @@ public:
     }
 
 private:
-    /// A comma stands between two values, and before a key that follows a value.
+    /// A comma comes between two values, and before a key that follows a value.
     void Separate() {
         const char last = json_.empty() ? last_ : json_.back();
         if (last != '{' && last != '[' && last != ':' && last != '\0') json_ += ',';

@@ -15,7 +15,7 @@ class FileSystem;
 /// What the command tells the shell that started it.
 enum class ExitStatus {
     Success = 0,
-    /// The command did its work and found something wrong, or nothing where it was to find something.
+    /// The command did its work and found something wrong, or found nothing when it looked for something.
     Problem = 1,
     /// The arguments or a file prevented the work.
     Error = 2,

@@ -55,7 +55,7 @@ ExitStatus RunRewrite(const Call& call, Environment& environment) {
     const ExitStatus status = ReportMessages(*workbench, environment);
     const std::string& out = call.operands[1];
     const Text path = PathOfArgument(out, environment);
-    // A load that stopped leaves an empty table: saved in place it would take the file with it.
+    // A load that stopped leaves an empty table. A save to the same path would destroy the file.
     if (status != ExitStatus::Success && path == workbench->Table().TxtDbFile)
         return Fail(environment, Quoted(out) + " is left as it was");
     return WriteOutput(out, workbench->Save(path), environment) ? status : ExitStatus::Error;

@@ -22,7 +22,7 @@ bool StartsWithMarker(std::string_view text) {
     return !text.empty() && IsMarkerByte(text.front());
 }
 
-/// Whether the bytes are the three lines with which a file ends.
+/// Whether the bytes are the three lines of the end of a file.
 bool IsTrailer(std::string_view bytes) {
     TbxLines lines(bytes);
     const auto next = [&lines] {
@@ -34,7 +34,8 @@ bool IsTrailer(std::string_view bytes) {
            lines.AtEnd();
 }
 
-/// Goes over the lines of one file in the steps of the reader, and notes where they leave the writer's form.
+/// Goes over the lines of one file in the same steps as the reader, and notes where they differ from the
+/// writer's form.
 class FileCheck {
 public:
     FileCheck(std::string_view bytes, const CodePage& page) : bytes_(bytes), page_(page), lines_(bytes) {}
@@ -57,7 +58,7 @@ public:
     }
 
 private:
-    /// How far the lines between a row's start and its cells have come.
+    /// Which of the lines between a row's start and its cells came last.
     enum class RowPart { Elsewhere, Start, State, BackColour, TextColour };
 
     void CheckEncoding() {
@@ -76,7 +77,7 @@ private:
         }
         if (cutCell_) collecting_ = inCell_ = false;
         if (cutCell_ && lines_.AtEnd())
-            Add("is the last line of the file, right behind a cell, and is dropped");
+            Add("is the last line of the file, right after a cell, and is dropped");
         else if (line_.starts_with(tbx::kComment))
             TakeComment();
         else if (headerCount_ < kHeaderValues)
@@ -135,7 +136,7 @@ private:
     }
 
     void TakeDataLine() {
-        if (!inData_ && expectWidth_) Add("stands where the width of the last column is missing");
+        if (!inData_ && expectWidth_) Add("comes where the width of the last column is missing");
         inData_ = true;
         if (line_.starts_with(tbx::kRow))
             TakeRowLine();
@@ -200,8 +201,8 @@ private:
     void TakeTextLine() {
         part_ = RowPart::Elsewhere;
         if (!inCell_) {
-            // An empty line ahead of the first row is nothing that could be missed.
-            if (row_ > 0 || !line_.empty()) Add("stands in no cell and is dropped" + CutText());
+            // Nobody misses an empty line before the first row.
+            if (row_ > 0 || !line_.empty()) Add("is in no cell and is dropped" + CutText());
             return;
         }
         if (col_ > columnCount_) return;
@@ -215,13 +216,13 @@ private:
     }
 
     void TakeCellLine() {
-        // The empty line of an empty cell may go: the cell stays the same.
+        // When the empty line of an empty cell is dropped, the cell stays the same.
         if (lines_.AtEnd() && (collecting_ || !line_.empty()))
             Add("is the end of the file inside a cell and is dropped");
         collecting_ = true;
     }
 
-    /// What the writer never leaves out: the reader gives a row its height and its box with its first cell.
+    /// The writer never leaves cells out. The reader gives a row its height and its box with its first cell.
     void CheckRowEnd() {
         if (row_ > 0 && columnCount_ > 0 && !rowHasCell_)
             findings_.push_back({{Row(row_), Col{0}}, 0, "the row has no cell"});
@@ -237,7 +238,7 @@ private:
         if (value != saved) Add("holds a value that comes back as \"" + std::string(saved) + "\"");
     }
 
-    /// What a marker does to the cell in whose text it stands.
+    /// What a marker in the text of a cell does to the cell.
     std::string CutText() const { return cutCell_ ? "; the cell ends before it" : ""; }
 
     void Add(std::string what) {
@@ -264,7 +265,7 @@ private:
     bool cutCell_ = false;
     bool rowHasCell_ = false;
     bool trailerReached_ = false;
-    /// What follows doesn't arrive, whatever it is.
+    /// The rest of the file doesn't reach the table.
     bool stopped_ = false;
 };
 

@@ -8,9 +8,10 @@
 
 namespace korvane {
 
-/// What of a `.tbx` file doesn't arrive in the table, arrives as something else than it was written for, or
-/// stands otherwise in the file once the table is saved. Order: by line, what concerns the whole file first
-/// or last. What the file's writer would have written itself gives no finding, whatever its row numbers.
+/// Finds what doesn't reach the table when the `.tbx` file is loaded, what is read as something else than it
+/// was written for, and what a save of the table would write differently. The findings are in the order of
+/// the lines; those about the whole file come first or last. A line in the form in which the program writes
+/// it gives no finding; the numbers of rows don't matter.
 std::vector<Finding> CheckFile(std::string_view bytes, const CodePage& page);
 
 } // namespace korvane

@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// The name that stands for the standard input or output.
+/// The name that means the standard input or output.
 inline constexpr std::string_view kStandardStream = "-";
 
 /// All bytes of the file named by an argument, or of the standard input. When it can't be read the reason
@@ -23,7 +23,7 @@ bool WriteOutput(const std::string& name, std::string_view bytes, Environment& e
 /// The full path of the file named by an argument; the standard stream's name is left as it is.
 Text PathOfArgument(const std::string& name, Environment& environment);
 
-/// The argument's name in quotes, as it stands in complaints.
+/// The argument's name in quotes, for complaints.
 std::string Quoted(std::string_view name);
 
 } // namespace korvane

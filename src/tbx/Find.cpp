@@ -5,7 +5,7 @@ namespace korvane {
 
 namespace {
 
-/// Line breaks as \r and \n, so that every find is one line; all else stands as it is.
+/// The text with line breaks as \r and \n, so that every find is one line.
 std::string OnOneLine(TextView text) {
     std::string line;
     for (const char byte : ToUtf8(text)) {

@@ -6,7 +6,7 @@
 
 namespace korvane {
 
-/// What the command prints about itself; every text ends in a line break.
+/// The texts that the command prints about itself. Each ends in a line break.
 std::string GeneralHelp();
 std::string VerbHelp(const Verb& verb);
 std::string VersionText();

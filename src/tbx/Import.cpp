@@ -45,7 +45,7 @@ void AddRows(const std::vector<std::vector<Text>>& rows, Grid& grid) {
     grid.SetCurRow(Row{1});
 }
 
-/// Tells what of the table a load of the new file won't bring back.
+/// Tells which parts of the table a load of the new file won't bring back.
 ExitStatus ReportLosses(const std::string& name, const Grid& grid, Environment& environment) {
     const auto findings = CheckTable(grid);
     for (const Finding& finding : findings)

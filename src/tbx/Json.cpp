@@ -23,7 +23,7 @@ char EscapeLetter(char16_t unit) {
     return at == kUnits.npos ? '\0' : kLetters[at];
 }
 
-/// Puts a unit that JSON doesn't take as it is.
+/// Appends a unit that JSON doesn't allow as it is.
 void AppendUtf8JsonEscape(char16_t unit, std::string& json) {
     if (const char letter = EscapeLetter(unit)) {
         json += '\\';

@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// Puts the text as a JSON string at the end of `json`, in ASCII alone: quote and backslash behind a
-/// backslash, any unit outside 0x20 to 0x7E as \u and four hexadecimal digits with small letters.
+/// Appends the text as a JSON string to `json`, in ASCII alone: quote and backslash after a backslash, any
+/// unit outside 0x20 to 0x7E as \u and four hexadecimal digits with small letters.
 void AppendAsciiJson(TextView text, std::string& json);
 
 /// The same in UTF-8, with only the control characters escaped, the usual ones by their letter.

@@ -23,7 +23,7 @@ std::vector<Text> DistinctKeys(const std::vector<Text>& headers) {
     for (std::size_t i = 0; i < headers.size(); ++i) {
         const Text name = headers[i].empty() ? Numbered(u"column", i + 1) : headers[i];
         Text key = name;
-        // A header that stands further on keeps its own name.
+        // A later header keeps its own name.
         const auto taken = [&] { return Holds(keys, key) || (key != headers[i] && Holds(headers, key)); };
         for (std::size_t number = 2; taken(); ++number)
             key = Numbered(name, number);

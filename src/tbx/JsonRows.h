@@ -4,9 +4,9 @@
 
 namespace korvane {
 
-/// A JSON array with one object for each row, one to a line, whose keys are the headers in their order.
-/// Since the keys of an object have to differ, an empty header becomes "column N" with the number of its
-/// column, and one that stood before takes the first free number from 2 on behind it: "Name", "Name 2".
+/// A JSON array with one object for each row, one to a line, whose keys are the headers in their order. Since
+/// the keys of an object have to differ, an empty header becomes "column N" with the number of its column,
+/// and a repeated header gets the first free number from 2 on after it: "Name", "Name 2".
 class JsonRows final : public RowFormat {
 public:
     void Begin(const std::vector<Text>& headers, std::string& out) override;
@@ -14,7 +14,7 @@ public:
     void End(std::string& out) override;
 
 private:
-    /// Each key as JSON with the colon behind it.
+    /// Each key as JSON, followed by the colon.
     std::vector<std::string> keys_;
     bool first_ = true;
 };

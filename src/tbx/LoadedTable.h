@@ -12,7 +12,7 @@ namespace korvane {
 /// with the reason in `err`, when the file can't be read.
 std::unique_ptr<Workbench> LoadTable(const Call& call, Environment& environment);
 
-/// Tells in `err` what the program would have shown. A load that shows something didn't go well.
+/// Writes to `err` what the program would have shown. A load that shows something has failed.
 ExitStatus ReportMessages(const Workbench& workbench, Environment& environment);
 
 } // namespace korvane

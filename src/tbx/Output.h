@@ -7,19 +7,19 @@
 
 namespace korvane {
 
-/// Where a command's result goes. Bytes are collected and handed on in large pieces.
+/// The place for a command's result. Bytes are collected and passed on in large pieces.
 class Output {
 public:
     virtual ~Output() = default;
 
     void Write(std::string_view bytes);
-    /// Hands on what was collected; false when anything so far didn't arrive.
+    /// Passes on what was collected; false when anything so far didn't arrive.
     bool Flush();
-    /// False once something didn't arrive; what is written then goes nowhere, so a long command may stop.
+    /// False after something didn't arrive. What is written then is lost, so a long command may stop.
     bool Works() const { return works_; }
 
 protected:
-    /// Takes one piece over; false when it couldn't.
+    /// Takes one piece; false when that failed.
     virtual bool Take(std::string_view piece) = 0;
 
 private:

@@ -8,7 +8,7 @@ namespace korvane {
 namespace {
 
 constexpr std::array kOptions{
-    OptionSpec{'d', "delimiter", "CHAR", "what stands between the fields of CSV, or \"tab\""},
+    OptionSpec{'d', "delimiter", "CHAR", "what separates the fields of CSV, or \"tab\""},
     OptionSpec{'p', "code-page", "NUMBER", "code page of .tbx files: 874 or 1250 to 1258"},
     OptionSpec{'h', "help", "", "show help, of a command when one is named"},
     OptionSpec{'V', "version", "", "show the version"},

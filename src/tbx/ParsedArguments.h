@@ -13,15 +13,15 @@ namespace korvane {
 struct OptionSpec {
     char letter;
     std::string_view name;
-    /// What stands for the value in the help; empty for an option without one.
+    /// The word for the value in the help; empty for an option without one.
     std::string_view value;
     std::string_view summary;
 };
 
 std::span<const OptionSpec> OptionSpecs();
 
-/// The arguments taken apart. Options may stand before, between and behind the words; behind `--` all are
-/// words, and so is a lone `-`.
+/// The arguments, sorted. Options may come before, between and after the words. After `--` all arguments are
+/// words, and a lone `-` is always one.
 struct ParsedArguments {
     std::vector<std::string> words;
     /// Value by letter; of an option given twice the last counts.

@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// A format in which the rows of a table leave the program. Each call puts its bytes, UTF-8, at the end of
-/// `out`: `Begin` once, then `AddRow` for each row with one text per header, then `End`.
+/// A format in which the rows of a table are written. Each call appends its bytes, UTF-8, to `out`: `Begin`
+/// once, then `AddRow` for each row with one text per header, then `End`.
 class RowFormat {
 public:
     virtual ~RowFormat() = default;

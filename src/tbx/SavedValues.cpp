@@ -10,7 +10,7 @@ namespace korvane {
 
 namespace {
 
-/// In place of a row's colour: leave it as it is.
+/// Instead of a row's colour, this number leaves the colour as it is.
 constexpr double kKeepColour = -999;
 
 template <class Int>

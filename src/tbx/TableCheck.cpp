@@ -83,7 +83,7 @@ private:
     static constexpr auto kOutsidePage = " has a character outside the code page, which becomes \"?\"";
 
     const Grid& grid_;
-    /// What the byte of the mark stands for in this page.
+    /// The character of the mark's byte in this page.
     const char16_t colourMark_ = grid_.Page().Decode(static_cast<unsigned char>(tbx::kColour));
     std::vector<Finding> findings_;
 };

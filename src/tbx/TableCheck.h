@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// What of the table in memory won't be in it any more after it was saved and loaded.
+/// Finds what the table would lose if it were saved and loaded again.
 std::vector<Finding> CheckTable(const Grid& grid);
 
 } // namespace korvane

@@ -7,7 +7,8 @@
 
 namespace korvane {
 
-/// Does what the arguments, without the program's own name, ask for. The outputs aren't flushed.
+/// Runs the command that the arguments name; they don't include the program's own name. The outputs aren't
+/// flushed.
 ExitStatus RunTbx(std::span<const std::string> arguments, Environment& environment);
 
 } // namespace korvane

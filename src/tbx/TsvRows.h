@@ -4,9 +4,9 @@
 
 namespace korvane {
 
-/// Tab-separated values: a first line of the headers, every line ended by LF. Inside a field a tab is written
-/// as \t, LF as \n, CR as \r and a backslash as \\, so that a row is always one line. A table without columns
-/// gives nothing.
+/// Tab-separated values. The headers are the first line, and every line ends in LF. Inside a field a tab is
+/// written as \t, LF as \n, CR as \r and a backslash as \\, so that a row is always one line. A table without
+/// columns gives nothing.
 class TsvRows final : public RowFormat {
 public:
     void Begin(const std::vector<Text>& headers, std::string& out) override { AddRow(headers, out); }

@@ -10,7 +10,7 @@ namespace {
 constexpr std::array kVerbs{
     Verb{"dump", "FILE", "p", "Write all that a load leaves as a line of JSON",
          "The line is ASCII, with its keys in a fixed order, so that dumps can be compared\n"
-         "byte for byte. null stands where the load never set a value; \"messages\" are the\n"
+         "byte for byte. null is a value that the load never set; \"messages\" are the\n"
          "message boxes that the load would have shown.\n",
          RunDump},
     Verb{"rewrite", "IN OUT", "p", "Load IN and save it as OUT, as the program does",
@@ -19,17 +19,17 @@ constexpr std::array kVerbs{
          "that would take the place of IN itself.\n",
          RunRewrite},
     Verb{"csv", "FILE", "dp", "Write the rows as CSV",
-         "As in RFC 4180: UTF-8, the column names in the first record, CR LF behind each\n"
+         "As in RFC 4180: UTF-8, the column names in the first record, CR LF after each\n"
          "record, quotes where a field needs them.\n",
          RunCsv},
     Verb{"tsv", "FILE", "p", "Write the rows as tab-separated values",
-         "UTF-8, the column names in the first line, LF behind each line. In a field a tab\n"
+         "UTF-8, the column names in the first line, LF after each line. In a field a tab\n"
          "is written as \\t, LF as \\n, CR as \\r and a backslash as \\\\.\n",
          RunTsv},
     Verb{"json", "FILE", "p", "Write the rows as a JSON array of objects",
          "UTF-8, one object to a line, its keys the column names. An empty name becomes\n"
-         "\"column N\" with the number of its column, and a name that stood before gets the\n"
-         "first free number behind it, from 2 on.\n",
+         "\"column N\" with the number of its column, and a repeated name gets the\n"
+         "first free number after it, from 2 on.\n",
          RunJson},
     Verb{"import", "FILE.csv OUT", "dp", "Make a new table of a CSV file",
          "The first record names the columns. The file is UTF-8, or else in the code page.\n"

@@ -21,9 +21,9 @@ struct Call {
 /// One command of the program.
 struct Verb {
     std::string_view name;
-    /// As they stand in the usage line, separated by blanks.
+    /// The words for them in the usage line, separated by blanks.
     std::string_view operands;
-    /// The letters of the options it takes beside the help.
+    /// The letters of its options, besides that of the help.
     std::string_view options;
     std::string_view summary;
     /// Further lines of its help.

@@ -24,7 +24,8 @@ std::optional<std::string> ReadAllOf(std::FILE* stream) {
     return bytes;
 }
 
-/// Writes what is left. A reader that went away has seen all that it wanted; any other failure is told.
+/// Writes what is left. When the reader has gone away, it has seen all that it wanted; any other failure is
+/// reported.
 ExitStatus Finish(ExitStatus status, StreamOutput& out, Environment& environment) {
     if (out.Flush() || out.Error() == EPIPE) return status;
     return Fail(environment,

@@ -26,7 +26,8 @@ std::vector<std::string> CaseNames() {
     return names;
 }
 
-/// Which arguments have to give which file of a folder; a rewritten file is looked at, not the output.
+/// Which arguments have to give which file of a folder. Where a file is rewritten, that file is compared, not
+/// the output.
 struct Expectation {
     const char* file;
     std::vector<std::string> arguments;

@@ -108,7 +108,7 @@ TEST(FileCheck, RowsPastTheLastAreFoundOnce) {
                 ElementsAre("rows past 32767 don't arrive"));
 }
 
-/// Files in the writer's form, but for some lines that are doubled, dropped, exchanged or made anew.
+/// Files in the writer's form, but with some lines doubled, dropped, exchanged or replaced.
 std::string RandomFile(std::mt19937& random) {
     static const std::vector<std::string> kLines{"@row_1",
                                                  "@row_2",

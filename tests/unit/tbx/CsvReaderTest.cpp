@@ -85,14 +85,14 @@ TEST(CsvReader, AnUnclosedQuoteIsAFaultOfTheLineWhereItOpens) {
     EXPECT_EQ(outcome.faultLine, 2u);
 }
 
-TEST(CsvReader, TextBehindAClosingQuoteIsAFaultOfTheLineWhereItCloses) {
+TEST(CsvReader, TextAfterAClosingQuoteIsAFaultOfTheLineWhereItCloses) {
     const Outcome outcome = Read("\"a\nb\"c\n");
     EXPECT_THAT(outcome.records, IsEmpty());
-    EXPECT_EQ(outcome.fault, CsvFault::TextBehindQuote);
+    EXPECT_EQ(outcome.fault, CsvFault::TextAfterQuote);
     EXPECT_EQ(outcome.faultLine, 2u);
 }
 
-TEST(CsvReader, NothingIsReadBehindAFault) {
+TEST(CsvReader, NothingIsReadAfterAFault) {
     CsvReader reader("\"a\"b\nc\n");
     Record record;
     EXPECT_FALSE(reader.ReadRecord(record));

@@ -11,7 +11,7 @@ namespace {
 
 using Table = std::vector<std::vector<Text>>;
 
-/// Characters on which a CSV file turns stand far more often than by chance.
+/// The characters that mean something in a CSV file are far more frequent than by chance.
 char16_t RandomCharacter(std::mt19937& random) {
     constexpr std::u16string_view kTurning = u"\",;\r\n\t \uFEFF";
     if (random() % 2 == 0) return kTurning[random() % kTurning.size()];

@@ -51,7 +51,7 @@ TEST_F(FindAndInfo, FindRefusesAnEmptyText) {
     EXPECT_EQ(run.err, "tbx: the text to find is empty\n");
 }
 
-TEST_F(FindAndInfo, FindTakesATextThatLooksLikeAnOptionBehindTwoDashes) {
+TEST_F(FindAndInfo, FindTakesATextThatLooksLikeAnOptionAfterTwoDashes) {
     run.files.AddFile(u"/data/people.tbx", TbxFile(RowLines(1, {"-p", "x"})));
     EXPECT_EQ(run.Run({"find", "--", "/data/people.tbx", "-p"}), ExitStatus::Success);
     EXPECT_EQ(run.out, "1:1: -p\n");

@@ -101,7 +101,7 @@ TEST_F(Import, WhatIsNoTableIsRefused) {
     ExpectRefusal("", "there is no row of column names");
     ExpectRefusal("a,b\n1,2\n1,2,3\n", "line 3: 3 fields where there can be no more than 2");
     ExpectRefusal("a,b\n1,\"2\n", "line 2: the quoted field that begins here doesn't end");
-    ExpectRefusal("a,b\n\"1\n\"x,2\n", "line 3: there is text behind the closing quote of a field");
+    ExpectRefusal("a,b\n\"1\n\"x,2\n", "line 3: there is text after the closing quote of a field");
     ExpectRefusal("\"a\n", "line 1: the quoted field that begins here doesn't end");
     ExpectRefusal("\xFF\xFE"
                   "a",
@@ -151,7 +151,7 @@ TEST_F(Import, AFileThatCannotBeWrittenIsAnError) {
     EXPECT_THAT(run.err, HasSubstr("cannot write \"/data/out.tbx\": "));
 }
 
-/// A cell out of letters, marks and line breaks.
+/// A cell of letters, marks and line breaks.
 std::string RandomField(std::mt19937& random) {
     static const std::vector<std::string> kPieces{"a", "b", " ", ",",   "\"\"", "@",    "?",
                                                   ";", "!", "§", "---", "\r\n", "@row", "é"};

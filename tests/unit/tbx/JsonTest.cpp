@@ -17,12 +17,12 @@ std::string Utf8(TextView text) {
     return json;
 }
 
-TEST(AsciiJson, PrintableCharactersStandAsTheyAre) {
+TEST(AsciiJson, PrintableCharactersStayAsTheyAre) {
     EXPECT_EQ(Ascii(u" aZ~/"), R"(" aZ~/")");
     EXPECT_EQ(Ascii(u""), R"("")");
 }
 
-TEST(AsciiJson, QuoteAndBackslashStandBehindABackslash) {
+TEST(AsciiJson, QuoteAndBackslashComeAfterABackslash) {
     EXPECT_EQ(Ascii(u"\"D:\\data\""), R"("\"D:\\data\"")");
 }
 
@@ -33,7 +33,7 @@ TEST(AsciiJson, AllElseIsEscapedByNumberEvenLineEnds) {
     EXPECT_EQ(Ascii(u"😀"), R"("\ud83d\ude00")");
 }
 
-TEST(Utf8Json, CharactersStandInUtf8) {
+TEST(Utf8Json, CharactersAreInUtf8) {
     EXPECT_EQ(Utf8(u"é€😀 a/b"), "\"é€😀 a/b\"");
 }
 

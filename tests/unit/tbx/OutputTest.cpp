@@ -35,7 +35,7 @@ TEST(Output, CollectsSmallWritesIntoLargePieces) {
     EXPECT_EQ(total, 200000u);
 }
 
-TEST(Output, NothingIsHandedOnBehindAFailure) {
+TEST(Output, NothingIsPassedOnAfterAFailure) {
     RecordingOutput output;
     output.refuses = true;
     output.Write("a");

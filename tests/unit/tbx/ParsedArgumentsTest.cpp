@@ -13,14 +13,14 @@ ParsedArguments Parse(std::vector<std::string> arguments) {
     return ParseArguments(arguments);
 }
 
-TEST(ParsedArguments, OptionsStandBeforeBetweenAndBehindTheWords) {
+TEST(ParsedArguments, OptionsComeBeforeBetweenAndAfterTheWords) {
     const ParsedArguments parsed = Parse({"-p", "1250", "find", "--help", "a.tbx", "text", "-d;"});
     EXPECT_THAT(parsed.words, ElementsAre("find", "a.tbx", "text"));
     EXPECT_THAT(parsed.options, ElementsAre(Pair('d', ";"), Pair('h', ""), Pair('p', "1250")));
     EXPECT_EQ(parsed.fault, "");
 }
 
-TEST(ParsedArguments, AValueStandsBehindTheNameALetterOrAnEqualsSign) {
+TEST(ParsedArguments, AValueFollowsTheNameALetterOrAnEqualsSign) {
     for (const auto& arguments : std::vector<std::vector<std::string>>{
              {"-p", "1250"}, {"-p1250"}, {"--code-page", "1250"}, {"--code-page=1250"}}) {
         EXPECT_THAT(Parse(arguments).options, ElementsAre(Pair('p', "1250")));
@@ -31,7 +31,7 @@ TEST(ParsedArguments, AValueMayBeginWithADash) {
     EXPECT_THAT(Parse({"-d", "-"}).options, ElementsAre(Pair('d', "-")));
 }
 
-TEST(ParsedArguments, LettersWithoutValuesStandTogether) {
+TEST(ParsedArguments, LettersWithoutValuesCanBeJoined) {
     EXPECT_THAT(Parse({"-hV"}).options, ElementsAre(Pair('V', ""), Pair('h', "")));
     EXPECT_THAT(Parse({"-hp1250"}).options, ElementsAre(Pair('h', ""), Pair('p', "1250")));
 }
@@ -40,7 +40,7 @@ TEST(ParsedArguments, OfAnOptionGivenTwiceTheLastCounts) {
     EXPECT_THAT(Parse({"-p", "1250", "-p", "1251"}).options, ElementsAre(Pair('p', "1251")));
 }
 
-TEST(ParsedArguments, BehindTwoDashesAllAreWords) {
+TEST(ParsedArguments, AfterTwoDashesAllAreWords) {
     const ParsedArguments parsed = Parse({"find", "--", "-h", "--", "--help"});
     EXPECT_THAT(parsed.words, ElementsAre("find", "-h", "--", "--help"));
     EXPECT_THAT(parsed.options, IsEmpty());

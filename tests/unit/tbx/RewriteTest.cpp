@@ -41,7 +41,7 @@ TEST_F(Rewrite, ADashWritesToTheStandardOutput) {
     EXPECT_THAT(run.out, EndsWith("; End of File: -\r\n;\r\n"));
 }
 
-TEST_F(Rewrite, NoTimePassesBehindASave) {
+TEST_F(Rewrite, NoTimePassesAfterASave) {
     const DateTime before = run.clock.Now();
     run.Run({"rewrite", "/data/in.tbx", "/data/out.tbx"});
     EXPECT_EQ(run.clock.Now(), before);

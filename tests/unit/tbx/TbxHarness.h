@@ -10,7 +10,7 @@
 
 namespace korvane {
 
-/// The command in a world of its own, whose disk is in memory.
+/// The command with a disk in memory.
 class TbxHarness {
 public:
     MemoryClock clock;
@@ -19,7 +19,7 @@ public:
     std::optional<std::string> input = "";
     CodePage page = CodePage::Windows1252();
 
-    /// What the last run left.
+    /// The outputs of the last run.
     std::string out;
     std::string err;
 
