@@ -28,6 +28,8 @@ inline constexpr int Right = 39;
 inline constexpr int Down = 40;
 inline constexpr int Insert = 45;
 inline constexpr int Delete = 46;
+inline constexpr int NumPlus = 107;
+inline constexpr int NumMinus = 109;
 inline constexpr int F1 = 112;
 /// F1 to F12.
 constexpr int F(int number) {

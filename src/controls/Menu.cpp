@@ -5,7 +5,7 @@
 namespace korvane {
 
 Menu::Menu(Form& owner, std::string_view name, std::span<const MenuEntry> entries)
-    : Control(owner, name), entries_(entries) {}
+    : Control(owner, name), entries_(entries.begin(), entries.end()) {}
 
 bool Menu::Checked(std::string_view entry) const {
     return checked_.contains(entry);

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "controls/Control.h"
+#include "controls/Handler.h"
+#include "controls/KeyChord.h"
 
+#include <algorithm>
 #include <set>
 #include <span>
 #include <string>
+#include <type_traits>
+#include <vector>
 
 namespace korvane {
 
@@ -15,14 +20,36 @@ struct MenuEntry {
     std::string_view name;
     TextView caption;
     /// "Ctrl+Shift+F8"; empty for none.
-    std::string_view shortcut;
+    Shortcut shortcut;
 };
+
+/// An entry and what it starts in its window; nothing for one that opens a menu.
+template <class Window>
+struct MenuRow {
+    int level = 0;
+    std::string_view name;
+    TextView caption;
+    Shortcut shortcut;
+    Handler<Window> starts{};
+};
+/// The entries of a window's menu. The rows outlive it.
+template <class Window>
+using MenuTable = std::span<const MenuRow<Window>>;
 
 /// A menu bar or a pop-up menu. No entry is ever disabled.
 class Menu : public Control {
 public:
-    /// `entries` outlive the menu.
     Menu(Form& owner, std::string_view name, std::span<const MenuEntry> entries);
+    /// The same, and each entry starts what its row says.
+    template <class Window>
+    Menu(Window& owner, std::string_view name, std::type_identity_t<MenuTable<Window>> table)
+        : Menu(static_cast<Form&>(owner), name, std::span<const MenuEntry>()) {
+        for (const MenuRow<Window>& row : table)
+            entries_.push_back({row.level, row.name, row.caption, row.shortcut});
+        Chosen = [&owner, table](std::string_view entry) {
+            std::ranges::find(table, entry, &MenuRow<Window>::name)->starts.Run(owner);
+        };
+    }
 
     std::span<const MenuEntry> Entries() const { return entries_; }
 
@@ -36,7 +63,7 @@ public:
     void Choose(std::string_view entry);
 
 private:
-    std::span<const MenuEntry> entries_;
+    std::vector<MenuEntry> entries_;
     std::set<std::string, std::less<>> checked_;
 };
 

@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <charconv>
-
 namespace korvane {
 
 void TestProgram::AddSettings(const Settings& settings) {
@@ -76,33 +74,11 @@ std::vector<Text> TestProgram::Captions() const {
 
 bool TestProgram::ChooseByKey(const KeyEvent& key) {
     for (const MenuEntry& entry : main_->OfficeMenu1.Entries()) {
-        const auto bound = ParseShortcut(entry.shortcut);
-        if (!bound || !key.Is(bound->code, bound->mask)) continue;
+        if (!entry.shortcut.Matches(key)) continue;
         Choose(entry.name);
         return true;
     }
     return false;
-}
-
-std::optional<KeyEvent> ParseShortcut(std::string_view shortcut) {
-    KeyEvent key;
-    const auto takeModifier = [&](std::string_view name, int mask) {
-        if (!shortcut.starts_with(name)) return;
-        shortcut.remove_prefix(name.size());
-        key.mask |= mask;
-    };
-    takeModifier("Ctrl+", Mask::Ctrl);
-    takeModifier("Shift+", Mask::Shift);
-    if (shortcut.size() == 1) {
-        key.code = shortcut.front();
-        return key;
-    }
-    int number = 0;
-    if (!shortcut.starts_with('F')) return std::nullopt;
-    const char* end = shortcut.data() + shortcut.size();
-    if (std::from_chars(shortcut.data() + 1, end, number).ptr != end) return std::nullopt;
-    key.code = Key::F(number);
-    return key;
 }
 
 std::string SettingsBytes(const Settings& settings) {

@@ -9,7 +9,6 @@
 #include "text/ClipboardWindow.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -64,9 +63,6 @@ private:
     ClipboardWindow clipboardWindow_{app};
     std::unique_ptr<frmMDIParent> main_;
 };
-
-/// The key of a shortcut such as "Ctrl+Shift+F8"; nothing when it isn't one.
-std::optional<KeyEvent> ParseShortcut(std::string_view shortcut);
 
 /// All lines of a settings file.
 std::string SettingsBytes(const Settings& settings);

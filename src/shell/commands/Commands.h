@@ -28,7 +28,7 @@ struct Command {
     std::string_view name;
     TextView caption;
     /// The key that the menu binds. Where a caption names another one, the caption stands as it is.
-    std::string_view shortcut;
+    Shortcut shortcut;
     CommandTarget target;
 };
 inline constexpr int kNotInMenu = -1;

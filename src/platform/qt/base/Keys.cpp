@@ -16,8 +16,6 @@ struct NamedKey {
 
 constexpr int kNumpad0 = 96;
 constexpr int kMultiply = 106;
-constexpr int kAdd = 107;
-constexpr int kSubtract = 109;
 constexpr int kDivide = 111;
 
 constexpr std::array kNamedKeys{
@@ -56,8 +54,8 @@ constexpr std::array kNamedKeys{
 
 constexpr std::array kKeypadKeys{
     NamedKey{Qt::Key_Asterisk, kMultiply},
-    NamedKey{Qt::Key_Plus, kAdd},
-    NamedKey{Qt::Key_Minus, kSubtract},
+    NamedKey{Qt::Key_Plus, Key::NumPlus},
+    NamedKey{Qt::Key_Minus, Key::NumMinus},
     NamedKey{Qt::Key_Slash, kDivide},
 };
 

@@ -12,13 +12,12 @@ namespace korvane {
 
 namespace {
 
-QKeySequence ToKeySequence(std::string_view shortcut) {
-    return QKeySequence::fromString(
-        QString::fromLatin1(shortcut.data(), static_cast<qsizetype>(shortcut.size())));
+QString FromLatin(std::string_view text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QString ObjectName(const MenuEntry& entry) {
-    return QString::fromLatin1(entry.name.data(), static_cast<qsizetype>(entry.name.size()));
+    return FromLatin(entry.name);
 }
 
 bool OpensMenu(std::span<const MenuEntry> entries, std::size_t index) {
@@ -33,7 +32,7 @@ QAction* MakeAction(const MenuEntry& entry, Menu& menu, QObject& parent) {
         return action;
     }
     action->setMenuRole(QAction::NoRole);
-    if (!entry.shortcut.empty()) action->setShortcut(ToKeySequence(entry.shortcut));
+    action->setShortcut(QKeySequence::fromString(FromLatin(entry.shortcut.Name())));
     QObject::connect(action, &QAction::triggered, &parent, [&menu, name = std::string(entry.name)] {
         FinishTyping();
         menu.Choose(name);

@@ -15,12 +15,11 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(Commands, EveryKeyOfTheMenuIsAKeyAndBoundOnce) {
+TEST(Commands, EveryKeyOfTheMenuIsBoundOnce) {
     std::set<std::string_view> bound;
     for (const MenuEntry& entry : MenuBarEntries()) {
-        if (entry.shortcut.empty()) continue;
-        EXPECT_TRUE(ParseShortcut(entry.shortcut)) << entry.shortcut;
-        EXPECT_TRUE(bound.insert(entry.shortcut).second) << entry.shortcut << " is bound twice";
+        const std::string_view key = entry.shortcut.Name();
+        EXPECT_TRUE(key.empty() || bound.insert(key).second) << key << " is bound twice";
     }
     EXPECT_EQ(bound.size(), 44u);
 }
@@ -51,7 +50,7 @@ TEST(Commands, TheTabStripsMenuIsTheWindowMenuWithoutItsKeys) {
     for (const MenuEntry& entry : WindowMenuEntries()) {
         names.emplace_back(entry.name);
         EXPECT_EQ(entry.level, 0);
-        EXPECT_EQ(entry.shortcut, "");
+        EXPECT_EQ(entry.shortcut.Name(), "");
     }
     EXPECT_THAT(names, ElementsAre("mnuFile_SwitchTabsForward", "mnuFile_SwitchTabsBack", "mnuWindowSize",
                                    "mnuFile_AreLoaded"));

@@ -134,7 +134,8 @@ TEST_F(HelpTextTest, EveryCommandIsToldWithTheKeyThatTheMenuBinds) {
             ASSERT_TRUE(rows.contains(name)) << name;
             const auto& cells = rows.at(name);
             ASSERT_EQ(cells.size(), 3u) << name;
-            EXPECT_TRUE(entry.shortcut.empty() || cells[1] == entry.shortcut) << name << ": " << cells[1];
+            EXPECT_TRUE(entry.shortcut.Name().empty() || cells[1] == entry.shortcut.Name())
+                << name << ": " << cells[1];
             EXPECT_GT(cells[2].size(), 10u) << name;
         }
     }

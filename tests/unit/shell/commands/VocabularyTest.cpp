@@ -255,8 +255,9 @@ TEST(Vocabulary, OfTheMenuBarWithTheKeysThatItsCaptionsNameWrongly) {
     Lines lines;
     for (const MenuEntry& entry : MenuBarEntries()) {
         const std::string indent(entry.level == 0 ? 0 : 4, ' ');
-        lines.push_back(Joined({indent + std::string(entry.name), Plain(entry.caption),
-                                std::string(entry.shortcut), NameOf(FindCommand(entry.name)->target)}));
+        lines.push_back(
+            Joined({indent + std::string(entry.name), Plain(entry.caption),
+                    std::string(entry.shortcut.Name()), NameOf(FindCommand(entry.name)->target)}));
     }
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kMenuBar)));
 }
@@ -265,7 +266,7 @@ TEST(Vocabulary, OfThePopUpMenu) {
     Lines lines;
     for (const MenuEntry& entry : PopupMenuEntries()) {
         EXPECT_EQ(entry.level, 0);
-        EXPECT_EQ(entry.shortcut, "") << "the menu bar has the keys";
+        EXPECT_EQ(entry.shortcut.Name(), "") << "the menu bar has the keys";
         lines.push_back(entry.caption.empty() ? "-"
                                               : Joined({std::string(entry.name), Plain(entry.caption)}));
     }

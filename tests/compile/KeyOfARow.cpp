@@ -1,0 +1,7 @@
+#include "controls/KeyTable.h"
+
+namespace korvane {
+
+constexpr KeyRow<int> kRow{WORD, 1};
+
+} // namespace korvane
