@@ -2,12 +2,9 @@
 
 #include "context/App.h"
 #include "controls/Form.h"
-#include "controls/KeyEvent.h"
+#include "controls/KeyTable.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
-
-#include <algorithm>
-#include <array>
 
 namespace korvane {
 
@@ -29,23 +26,16 @@ void AlignTo(const Form& owner, Form& window) {
     window.Height = owner.Height;
 }
 
-using Dock = void (*)(App&, const Form&, Form&, Stretch);
-
-struct DockKey {
-    int code;
-    int mask;
-    Dock dock;
+struct Dock {
+    void (*beside)(App&, const Form&, Form&, Stretch);
     Stretch stretch;
 };
 
-constexpr std::array<DockKey, 6> kDockKeys{{
-    {'L', Mask::Ctrl, DockLeftOf, Stretch::FillSpace},
-    {'L', Mask::Ctrl | Mask::Alt, DockLeftOf, Stretch::FillSpace},
-    {'L', Mask::Ctrl | Mask::Shift, DockLeftOf, Stretch::KeepWidth},
-    {'R', Mask::Ctrl, DockRightOf, Stretch::FillSpace},
-    {'R', Mask::Ctrl | Mask::Alt, DockRightOf, Stretch::FillSpace},
-    {'R', Mask::Ctrl | Mask::Shift, DockRightOf, Stretch::KeepWidth},
-}};
+constexpr KeyRow<Dock> kDockKeys[] = {
+    {"Ctrl+L", {DockLeftOf, Stretch::FillSpace}},       {"Ctrl+Alt+L", {DockLeftOf, Stretch::FillSpace}},
+    {"Ctrl+Shift+L", {DockLeftOf, Stretch::KeepWidth}}, {"Ctrl+R", {DockRightOf, Stretch::FillSpace}},
+    {"Ctrl+Alt+R", {DockRightOf, Stretch::FillSpace}},  {"Ctrl+Shift+R", {DockRightOf, Stretch::KeepWidth}},
+};
 
 } // namespace
 
@@ -72,11 +62,10 @@ void DockRightOf(App& app, const Form& owner, Form& window, Stretch stretch) {
 }
 
 bool DockByKey(App& app, const Form& owner, Form& window, KeyEvent& key) {
-    const auto* found =
-        std::ranges::find_if(kDockKeys, [&key](const DockKey& each) { return key.Is(each.code, each.mask); });
-    if (found == kDockKeys.end()) return false;
+    const KeyRow<Dock>* row = FindKey<Dock>(kDockKeys, key);
+    if (row == nullptr) return false;
     key.consumed = true;
-    found->dock(app, owner, window, found->stretch);
+    row->starts.beside(app, owner, window, row->starts.stretch);
     return true;
 }
 

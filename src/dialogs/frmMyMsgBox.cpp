@@ -1,18 +1,17 @@
 #include "dialogs/frmMyMsgBox.h"
 
 #include "common/number/DateTime.h"
-#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/StandardMessages.h"
 #include "context/exchange/MessageQuestion.h"
+#include "controls/KeyTable.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 
 #include <algorithm>
-#include <array>
 
 namespace korvane {
 
@@ -21,32 +20,25 @@ namespace {
 constexpr Twips kHeight{4200};
 constexpr Twips kMinWidth{9630};
 
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuFile", u"&File", ""},
-    MenuEntry{1, "mnuSave", u"Sa&ve file directly to disk", ""},
-    MenuEntry{1, "mnuFileInfo", u"&File info", ""},
-    MenuEntry{1, "mnuClip", u"Clip &info", ""},
-    MenuEntry{1, "mnuExplorer", u"E&xplorer", ""},
-    MenuEntry{1, "mnuLorrit", u"Lor&rit", ""},
-};
-
-struct EntryButton {
-    std::string_view entry;
-    CommandButton frmMyMsgBox::*button;
-};
-constexpr std::array<EntryButton, 5> kEntryButtons{{
-    {"mnuSave", &frmMyMsgBox::cmdAutoSave},
-    {"mnuFileInfo", &frmMyMsgBox::cmdInfo},
-    {"mnuClip", &frmMyMsgBox::cmdClip},
-    {"mnuExplorer", &frmMyMsgBox::cmdExplorer},
-    {"mnuLorrit", &frmMyMsgBox::cmdLorrit},
-}};
-
 } // namespace
+
+struct frmMyMsgBox::Tables {
+    static constexpr MenuRow<frmMyMsgBox> kMenu[] = {
+        {0, "mnuFile", u"&File", ""},
+        {1, "mnuSave", u"Sa&ve file directly to disk", "", &frmMyMsgBox::cmdAutoSave},
+        {1, "mnuFileInfo", u"&File info", "", &frmMyMsgBox::cmdInfo},
+        {1, "mnuClip", u"Clip &info", "", &frmMyMsgBox::cmdClip},
+        {1, "mnuExplorer", u"E&xplorer", "", &frmMyMsgBox::cmdExplorer},
+        {1, "mnuLorrit", u"Lor&rit", "", &frmMyMsgBox::cmdLorrit},
+    };
+    static constexpr WindowKey<frmMyMsgBox> kAnswerKeys[] = {
+        {"Any+Esc", &frmMyMsgBox::Close},
+    };
+};
 
 frmMyMsgBox::frmMyMsgBox(App& app)
     : Form(app.Forms(), "frmMyMsgBox", u"Closing altered file..."),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app) {
     txtFileName.Locked = true;
     txtFilePath.Locked = true;
@@ -54,10 +46,6 @@ frmMyMsgBox::frmMyMsgBox(App& app)
 }
 
 void frmMyMsgBox::Wire() {
-    OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = FindEntry(kEntryButtons, entry, &EntryButton::entry);
-        if (found != nullptr) (this->*found->button).Press();
-    };
     cmdYes.Click = [this] { CloseWith(MsgAnswer::SaveUnderAName); };
     cmdAutoSave.Click = [this] { CloseWith(MsgAnswer::SaveDirectly); };
     cmdNo.Click = [this] { cmdNo_Click(); };
@@ -66,13 +54,8 @@ void frmMyMsgBox::Wire() {
     cmdClip.Click = [this] { cmdClip_Click(); };
     cmdExplorer.Click = [this] { cmdExplorer_Click(); };
     cmdLorrit.Click = [this] { cmdLorrit_Click(); };
-    for (CommandButton* button : {&cmdCancel, &cmdNo, &cmdYes}) {
-        button->KeyDown = [this](KeyEvent& key) {
-            if (key.code != Key::Escape) return;
-            key.consumed = true;
-            Close();
-        };
-    }
+    for (CommandButton* button : {&cmdCancel, &cmdNo, &cmdYes})
+        button->KeyDown = KeysOf(*this, Tables::kAnswerKeys);
 }
 
 void frmMyMsgBox::Load() {

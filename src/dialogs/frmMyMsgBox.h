@@ -41,6 +41,8 @@ public:
     void Unload() override;
 
 private:
+    struct Tables;
+
     void Wire();
     void CloseWith(MsgAnswer answer);
     void cmdNo_Click();

@@ -10,12 +10,12 @@
 #include "context/ports/MainWindow.h"
 #include "context/ports/SystemFileDialog.h"
 #include "context/ports/TextWindow.h"
+#include "controls/KeyTable.h"
 #include "platform/Clipboard.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"
 
 #include <algorithm>
-#include <array>
 
 namespace korvane {
 
@@ -32,33 +32,38 @@ constexpr std::int16_t kPlainText = 2;
 
 constexpr TextView kNoText = u"\r\n( Windows clipboard does not contain text )\r\n";
 
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuMisc", u"&File >>", ""},
-    MenuEntry{1, "mnuSave", u"&Save contents to disk", ""},
-    MenuEntry{1, "mnuPinsey", u"&Pinsey", ""},
-    MenuEntry{1, "mnuYourProgram", u"&Your program", ""},
-    MenuEntry{1, "mnuExplorer", u"&Explorer", ""},
-    MenuEntry{1, "mnuBrowser", u"&Browser", ""},
-    MenuEntry{1, "mnuDesktop", u"&Desktop", ""},
-    MenuEntry{1, "mnuExit", u"E&xit", ""},
-    MenuEntry{0, "mnuClipViewer", u"Clipboard &viewer", ""},
-    MenuEntry{0, "mnuToggle", u"&Text styles", ""},
-    MenuEntry{0, "mnuRetrieve", u"&Retrieve", ""},
-};
-
 } // namespace
 
-const frmViewAndPaste::Command frmViewAndPaste::kCommands[] = {
-    {"mnuRetrieve", u"Retrieve", &frmViewAndPaste::mnuRetrieve_Click},
-    {"mnuToggle", u"Text style", &frmViewAndPaste::mnuToggle_Click},
-    {"mnuClipViewer", u"Viewer", &frmViewAndPaste::mnuClipViewer_Click},
-    {"mnuSave", u"Save to disk", &frmViewAndPaste::mnuSave_Click},
-    {"mnuExplorer", u"Explorer", &frmViewAndPaste::mnuExplorer_Click},
-    {"mnuDesktop", u"Desktop", &frmViewAndPaste::mnuDesktop_Click},
-    {"mnuExit", u"Exit", &frmViewAndPaste::mnuExit_Click},
-    {"mnuPinsey", u"", &frmViewAndPaste::mnuPinsey_Click},
-    {"mnuYourProgram", u"", &frmViewAndPaste::mnuYourProgram_Click},
-    {"mnuBrowser", u"", &frmViewAndPaste::mnuBrowser_Click},
+struct frmViewAndPaste::Tables {
+    static constexpr MenuRow<frmViewAndPaste> kMenu[] = {
+        {0, "mnuMisc", u"&File >>", ""},
+        {1, "mnuSave", u"&Save contents to disk", "", &frmViewAndPaste::mnuSave_Click},
+        {1, "mnuPinsey", u"&Pinsey", "", &frmViewAndPaste::mnuPinsey_Click},
+        {1, "mnuYourProgram", u"&Your program", "", &frmViewAndPaste::mnuYourProgram_Click},
+        {1, "mnuExplorer", u"&Explorer", "", &frmViewAndPaste::mnuExplorer_Click},
+        {1, "mnuBrowser", u"&Browser", "", &frmViewAndPaste::mnuBrowser_Click},
+        {1, "mnuDesktop", u"&Desktop", "", &frmViewAndPaste::mnuDesktop_Click},
+        {1, "mnuExit", u"E&xit", "", &frmViewAndPaste::Close},
+        {0, "mnuClipViewer", u"Clipboard &viewer", "", &frmViewAndPaste::mnuClipViewer_Click},
+        {0, "mnuToggle", u"&Text styles", "", &frmViewAndPaste::mnuToggle_Click},
+        {0, "mnuRetrieve", u"&Retrieve", "", &frmViewAndPaste::mnuRetrieve_Click},
+    };
+    static constexpr WindowKey<frmViewAndPaste> kKeys[] = {{"Esc", &frmViewAndPaste::Close}};
+    static constexpr WindowKey<frmViewAndPaste> kListKeys[] = {{"Return", &frmViewAndPaste::RunListed}};
+
+    struct ListRow {
+        TextView text;
+        Handler<frmViewAndPaste> starts;
+    };
+    static constexpr ListRow kList[] = {
+        {u"Retrieve", &frmViewAndPaste::mnuRetrieve_Click},
+        {u"Text style", &frmViewAndPaste::mnuToggle_Click},
+        {u"Viewer", &frmViewAndPaste::mnuClipViewer_Click},
+        {u"Save to disk", &frmViewAndPaste::mnuSave_Click},
+        {u"Explorer", &frmViewAndPaste::mnuExplorer_Click},
+        {u"Desktop", &frmViewAndPaste::mnuDesktop_Click},
+        {u"Exit", &frmViewAndPaste::Close},
+    };
 };
 
 const frmViewAndPaste::Rendering frmViewAndPaste::kRenderings[] = {
@@ -70,14 +75,10 @@ const frmViewAndPaste::Rendering frmViewAndPaste::kRenderings[] = {
 frmViewAndPaste::frmViewAndPaste(App& app)
     : Form(app.Forms(), "frmViewAndPaste",
            u"Contents of Windows clipboard  (use [Shift-]Tab to select item in toolbar on left)"),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app) {
-    OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = std::ranges::find(kCommands, entry, &Command::entry);
-        if (found != std::end(kCommands)) (this->*found->run)();
-    };
     iGridListBar.DblClick = [this] { RunListed(); };
-    iGridListBar.KeyDown = [this](KeyEvent& key) { iGridListBar_KeyDown(key); };
+    iGridListBar.KeyDown = KeysOf(*this, Tables::kListKeys);
     TmpTextCtrl.Visible = false;
     // A locked text is handed to the toolkit no further than anyone reads, however long it is.
     TmpTextCtrl.Locked = true;
@@ -116,9 +117,7 @@ void frmViewAndPaste::Activate() {
 }
 
 void frmViewAndPaste::KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Escape, Mask::None)) return;
-    key.consumed = true;
-    Close();
+    RunKey(Tables::kKeys, *this, key);
 }
 
 std::int16_t frmViewAndPaste::Mode() const {
@@ -128,9 +127,8 @@ std::int16_t frmViewAndPaste::Mode() const {
 
 void frmViewAndPaste::FillList() {
     iGridListBar.Clear();
-    for (const Command& command : kCommands) {
-        if (!command.listed.empty()) iGridListBar.AddItem(command.listed);
-    }
+    for (const Tables::ListRow& row : Tables::kList)
+        iGridListBar.AddItem(row.text);
     iGridListBar.SetListIndex(0);
 }
 
@@ -156,15 +154,8 @@ void frmViewAndPaste::ShowMode() {
 }
 
 void frmViewAndPaste::RunListed() {
-    const Text listed = iGridListBar.List(iGridListBar.ListIndex());
-    const auto* found = std::ranges::find(kCommands, TextView(listed), &Command::listed);
-    if (!listed.empty() && found != std::end(kCommands)) (this->*found->run)();
-}
-
-void frmViewAndPaste::iGridListBar_KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Return, Mask::None)) return;
-    key.consumed = true;
-    RunListed();
+    const int index = iGridListBar.ListIndex();
+    if (index >= 0) Tables::kList[index].starts.Run(*this);
 }
 
 void frmViewAndPaste::PutIntoTextWindow() {

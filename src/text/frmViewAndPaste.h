@@ -7,7 +7,6 @@
 #include "controls/TextBox.h"
 
 #include <cstdint>
-#include <string_view>
 
 namespace korvane {
 
@@ -44,19 +43,11 @@ public:
     void KeyDown(KeyEvent& key) override;
 
 private:
-    using Handler = void (frmViewAndPaste::*)();
-    struct Command {
-        /// In the menu.
-        std::string_view entry;
-        /// In the list on the left; empty for a command that is in the menu alone.
-        TextView listed;
-        Handler run;
-    };
+    struct Tables;
     struct Rendering {
         TextBox frmViewAndPaste::*view;
         TextView caption;
     };
-    static const Command kCommands[];
     static const Rendering kRenderings[];
 
     /// `ClipViewMode`, or 0 where it is none of the three.
@@ -68,7 +59,6 @@ private:
     void RunListed();
     void PutIntoTextWindow();
 
-    void iGridListBar_KeyDown(KeyEvent& key);
     void mnuRetrieve_Click();
     void mnuToggle_Click();
     void mnuClipViewer_Click();
@@ -78,7 +68,6 @@ private:
     void mnuExplorer_Click();
     void mnuBrowser_Click();
     void mnuDesktop_Click();
-    void mnuExit_Click() { Close(); }
 
     App& app_;
     bool activated_ = false;

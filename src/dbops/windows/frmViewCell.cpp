@@ -1,6 +1,5 @@
 #include "dbops/windows/frmViewCell.h"
 
-#include "common/text/FindEntry.h"
 #include "common/text/LineEnds.h"
 #include "common/text/ScopedValue.h"
 #include "context/App.h"
@@ -10,65 +9,52 @@
 #include "context/ports/InsertTools.h"
 #include "context/ports/MarkupPicker.h"
 #include "context/ports/WordList.h"
+#include "controls/KeyTable.h"
 #include "dbops/rules/Dialogs.h"
 #include "grid/Grid.h"
 #include "platform/Clipboard.h"
 #include "table/TableModel.h"
 
-#include <algorithm>
-#include <array>
-#include <utility>
-
 namespace korvane {
 
 namespace {
-
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuCell", u"&Cell", ""},
-    MenuEntry{1, "mnuWriteBack", u"&Write back changes", ""},
-    MenuEntry{1, "mnuContinue", u"&Just continue", ""},
-    MenuEntry{1, "", u"", ""},
-    MenuEntry{1, "mnuExit", u"E&xit", ""},
-    MenuEntry{0, "mnuTools", u"&Tools", ""},
-    MenuEntry{1, "mnuClipboard", u"Clip&board", ""},
-    MenuEntry{1, "mnuWordList", u"&Wordlist", ""},
-    MenuEntry{1, "mnuDateTime", u"&Insert date/time", ""},
-    MenuEntry{1, "mnuAscii", u"&Ascii table", ""},
-    MenuEntry{1, "mnuElements", u"St&yle elements", ""},
-    MenuEntry{1, "", u"", ""},
-    MenuEntry{1, "mnuFont", u"Set fon&t", ""},
-    MenuEntry{1, "mnuHTML", u"Get& HTML code", ""},
-};
-
-/// A menu entry does what its button does.
-constexpr std::array<std::pair<std::string_view, CommandButton frmViewCell::*>, 10> kButtonOfEntry{{
-    {"mnuWriteBack", &frmViewCell::cmdWriteBack},
-    {"mnuContinue", &frmViewCell::cmdOk},
-    {"mnuExit", &frmViewCell::cmdExit},
-    {"mnuClipboard", &frmViewCell::cmdClipboard},
-    {"mnuWordList", &frmViewCell::cmdWordList},
-    {"mnuDateTime", &frmViewCell::cmdDateTime},
-    {"mnuAscii", &frmViewCell::cmdAsciiBox},
-    {"mnuElements", &frmViewCell::cmdElements},
-    {"mnuFont", &frmViewCell::cmdFonts},
-    {"mnuHTML", &frmViewCell::cmdHTML},
-}};
-
-constexpr int kCtrlAlt = Mask::Ctrl | Mask::Alt;
 
 constexpr StoredPlace kPlace{&Settings::ViewCellLeft, &Settings::ViewCellTop, &Settings::ViewCellWidth,
                              &Settings::ViewCellHeight};
 
 } // namespace
 
+struct frmViewCell::Tables {
+    static constexpr MenuRow<frmViewCell> kMenu[] = {
+        {0, "mnuCell", u"&Cell", ""},
+        {1, "mnuWriteBack", u"&Write back changes", "", &frmViewCell::cmdWriteBack},
+        {1, "mnuContinue", u"&Just continue", "", &frmViewCell::cmdOk},
+        {1, "", u"", ""},
+        {1, "mnuExit", u"E&xit", "", &frmViewCell::cmdExit},
+        {0, "mnuTools", u"&Tools", ""},
+        {1, "mnuClipboard", u"Clip&board", "", &frmViewCell::cmdClipboard},
+        {1, "mnuWordList", u"&Wordlist", "", &frmViewCell::cmdWordList},
+        {1, "mnuDateTime", u"&Insert date/time", "", &frmViewCell::cmdDateTime},
+        {1, "mnuAscii", u"&Ascii table", "", &frmViewCell::cmdAsciiBox},
+        {1, "mnuElements", u"St&yle elements", "", &frmViewCell::cmdElements},
+        {1, "", u"", ""},
+        {1, "mnuFont", u"Set fon&t", "", &frmViewCell::cmdFonts},
+        {1, "mnuHTML", u"Get& HTML code", "", &frmViewCell::cmdHTML},
+    };
+    static constexpr WindowKey<frmViewCell> kKeys[] = {
+        {"Any+Esc", &frmViewCell::PressOk},    {"Ctrl+Alt+V", &frmViewCell::cmdClipboard},
+        {"Ctrl+Alt+L", &frmViewCell::cmdHTML}, {"Ctrl+K", &frmViewCell::cmdWordList},
+        {"Any+Tab", &frmViewCell::InsertTab},
+    };
+};
+
 frmViewCell::frmViewCell(App& app, CellExchange& exchange)
     : Form(app.Forms(), "frmViewCell", u"View and edit cell"),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app),
       exchange_(exchange) {
-    OfficeMenu1.Chosen = [this](std::string_view entry) { OfficeMenu1_Chosen(entry); };
     txtCell.Change = [this] { txtCell_Change(); };
-    txtCell.KeyDown = [this](KeyEvent& key) { txtCell_KeyDown(key); };
+    txtCell.KeyDown = KeysOf(*this, Tables::kKeys);
     ConnectButtons();
 }
 
@@ -106,38 +92,10 @@ void frmViewCell::Unload() {
     StorePlace(app_, *this, kPlace);
 }
 
-void frmViewCell::OfficeMenu1_Chosen(std::string_view entry) {
-    const auto* const found = FindEntry(kButtonOfEntry, entry, [](auto& pair) { return pair.first; });
-    if (found != nullptr) (this->*found->second).Press();
-}
-
 void frmViewCell::txtCell_Change() {
     if (altered_) return;
     altered_ = true;
     Caption = u"   ( cell text has been altered )";
-}
-
-void frmViewCell::txtCell_KeyDown(KeyEvent& key) {
-    struct Rule {
-        int code;
-        /// `kAnyMask` or the exact one.
-        int mask;
-        void (frmViewCell::*run)();
-    };
-    constexpr int kAnyMask = -1;
-    static constexpr std::array kRules{
-        Rule{Key::Escape, kAnyMask, &frmViewCell::PressOk},
-        Rule{'V', kCtrlAlt, &frmViewCell::cmdClipboard_Click},
-        Rule{'L', kCtrlAlt, &frmViewCell::cmdHTML_Click},
-        Rule{'K', Mask::Ctrl, &frmViewCell::cmdWordList_Click},
-        Rule{Key::Tab, kAnyMask, &frmViewCell::InsertTab},
-    };
-    const auto* const rule = std::ranges::find_if(kRules, [&key](const Rule& candidate) {
-        return candidate.code == key.code && (candidate.mask == kAnyMask || candidate.mask == key.mask);
-    });
-    if (rule == kRules.end()) return;
-    key.consumed = true;
-    (this->*rule->run)();
 }
 
 /// Nothing happens once the text was changed. Kept for compatibility: esc-keeps-changed-cell.

@@ -46,11 +46,11 @@ public:
     void Unload() override;
 
 private:
+    struct Tables;
+
     void ConnectButtons();
     void ShowSelection();
-    void OfficeMenu1_Chosen(std::string_view entry);
     void txtCell_Change();
-    void txtCell_KeyDown(KeyEvent& key);
     void PressOk();
     void InsertTab();
     void cmdWriteBack_Click();

@@ -1,7 +1,6 @@
 #include "shell/recent/frmFileList.h"
 
 #include "common/number/Number.h"
-#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/StandardMessages.h"
@@ -12,6 +11,7 @@
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FileViewer.h"
 #include "context/ports/FontPicker.h"
+#include "controls/KeyTable.h"
 #include "dbops/rules/Dialogs.h"
 #include "dialogs/Docking.h"
 #include "platform/Clock.h"
@@ -42,25 +42,6 @@ constexpr std::int16_t kLoad = 1;
 constexpr std::int16_t kNewText = 11;
 constexpr std::int16_t kGoToFolder = 99;
 
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuFile", u"&File", ""},
-    MenuEntry{1, "mnuLoad", u"&Load item", ""},
-    MenuEntry{1, "mnuNewText", u"Start &new text", ""},
-    MenuEntry{1, "mnuViewFile", u"&View file", ""},
-    MenuEntry{1, "mnuExternalEdit", u"E&xternal edit", ""},
-    MenuEntry{1, "mnuFile_FileFolder", u"&Goto file folder", ""},
-    MenuEntry{1, "mnuInfo", u"&Info on item", ""},
-    MenuEntry{1, "mnuExit", u"E&xit", ""},
-    MenuEntry{0, "mnuEdit", u"&Edit", ""},
-    MenuEntry{1, "mnuDelete", u"&Delete item", ""},
-    MenuEntry{1, "mnuEmpty", u"&Empty grid", ""},
-    MenuEntry{1, "mnuWhenToEmpty", u"&When to empty", ""},
-    MenuEntry{0, "mnuView", u"&View", ""},
-    MenuEntry{1, "mnuFileFolder", u"&Cols to view", ""},
-    MenuEntry{1, "mnuFont", u"Font for grid", ""},
-    MenuEntry{1, "mnuColour", u"Grid colo&ur", ""},
-};
-
 /// What stands before the last bar, without the blanks around it.
 TextView PathPart(TextView entry) {
     const std::size_t bar = InStrRev(entry, u"|");
@@ -78,25 +59,38 @@ Twips WidthOr(std::int32_t stored, Twips usual) {
 
 } // namespace
 
-const frmFileList::MenuHandler frmFileList::kMenuHandlers[] = {
-    {"mnuLoad", &frmFileList::LoadFiles},
-    {"mnuNewText", &frmFileList::NewText},
-    {"mnuViewFile", &frmFileList::ViewFile},
-    {"mnuExternalEdit", &frmFileList::ExternalEdit},
-    {"mnuFile_FileFolder", &frmFileList::GotoFileFolder},
-    {"mnuInfo", &frmFileList::ShowInfo},
-    {"mnuExit", &frmFileList::CloseWindow},
-    {"mnuDelete", &frmFileList::DeleteItem},
-    {"mnuEmpty", &frmFileList::EmptyList},
-    {"mnuWhenToEmpty", &frmFileList::WhenToEmpty},
-    {"mnuFileFolder", &frmFileList::ToggleColumns},
-    {"mnuFont", &frmFileList::ChooseFont},
-    {"mnuColour", &frmFileList::ChooseColour},
+struct frmFileList::Tables {
+    static constexpr MenuRow<frmFileList> kMenu[] = {
+        {0, "mnuFile", u"&File", ""},
+        {1, "mnuLoad", u"&Load item", "", &frmFileList::LoadFiles},
+        {1, "mnuNewText", u"Start &new text", "", &frmFileList::NewText},
+        {1, "mnuViewFile", u"&View file", "", &frmFileList::ViewFile},
+        {1, "mnuExternalEdit", u"E&xternal edit", "", &frmFileList::ExternalEdit},
+        {1, "mnuFile_FileFolder", u"&Goto file folder", "", &frmFileList::GotoFileFolder},
+        {1, "mnuInfo", u"&Info on item", "", &frmFileList::ShowInfo},
+        {1, "mnuExit", u"E&xit", "", &frmFileList::Close},
+        {0, "mnuEdit", u"&Edit", ""},
+        {1, "mnuDelete", u"&Delete item", "", &frmFileList::DeleteItem},
+        {1, "mnuEmpty", u"&Empty grid", "", &frmFileList::EmptyList},
+        {1, "mnuWhenToEmpty", u"&When to empty", "", &frmFileList::WhenToEmpty},
+        {0, "mnuView", u"&View", ""},
+        {1, "mnuFileFolder", u"&Cols to view", "", &frmFileList::ToggleColumns},
+        {1, "mnuFont", u"Font for grid", "", &frmFileList::ChooseFont},
+        {1, "mnuColour", u"Grid colo&ur", "", &frmFileList::ChooseColour},
+    };
+    static constexpr WindowKey<frmFileList> kListKeys[] = {
+        {"Esc", &frmFileList::Close},
+        {"Return", &frmFileList::LoadFiles},
+        {"Delete", &frmFileList::DeleteItem},
+        {"Space", &frmFileList::ViewFile},
+        {"Alt+Backspace", &frmFileList::ExternalEdit},
+        {"Ctrl+Shift+F1", &frmFileList::LaunchLorritHere},
+    };
 };
 
 frmFileList::frmFileList(App& app, RecentRecord& recents, const Form& owner)
     : Form(app.Forms(), "frmFileList", u"Recent files list"),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       ListView1(*this, "ListView1",
                 {{u"File", kFileWidth},
                  {u"Location", kLocationWidth},
@@ -110,12 +104,8 @@ frmFileList::frmFileList(App& app, RecentRecord& recents, const Form& owner)
 }
 
 void frmFileList::Wire() {
-    OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
-        if (found != nullptr) (this->*found->run)();
-    };
-    const auto on = [this](CommandButton& button, Handler run) {
-        button.Click = [this, run] { (this->*run)(); };
+    const auto on = [this](CommandButton& button, Handler<frmFileList> starts) {
+        button.Click = [this, starts] { starts.Run(*this); };
     };
     on(cmdLoad, &frmFileList::LoadFiles);
     on(cmdNewText, &frmFileList::NewText);
@@ -127,7 +117,7 @@ void frmFileList::Wire() {
     on(cmdFileFolder, &frmFileList::ToggleColumns);
     on(cmdFont, &frmFileList::ChooseFont);
     on(cmdColour, &frmFileList::ChooseColour);
-    on(cmdCancel, &frmFileList::CloseWindow);
+    on(cmdCancel, &frmFileList::Close);
     cmdCancel.Cancel = true;
     ListView1.DblClick = [this] { LoadFiles(); };
     ListView1.ColumnClick = [this](int column) { ListView1_ColumnClick(column); };
@@ -360,6 +350,10 @@ void frmFileList::ExternalEdit() {
     }
 }
 
+void frmFileList::LaunchLorritHere() {
+    LaunchLorrit(app_, app_.Files().CurrentDir());
+}
+
 void frmFileList::ListView1_ColumnClick(int column) {
     if (ListView1.Count() < 2) return;
     sortColumn_ = column;
@@ -368,28 +362,7 @@ void frmFileList::ListView1_ColumnClick(int column) {
 }
 
 void frmFileList::ListView1_KeyDown(KeyEvent& key) {
-    struct ListKey {
-        int code;
-        int mask;
-        Handler run;
-    };
-    static constexpr std::array<ListKey, 5> kKeys{{
-        {Key::Escape, Mask::None, &frmFileList::CloseWindow},
-        {Key::Return, Mask::None, &frmFileList::LoadFiles},
-        {Key::Delete, Mask::None, &frmFileList::DeleteItem},
-        {Key::Space, Mask::None, &frmFileList::ViewFile},
-        {Key::Back, Mask::Alt, &frmFileList::ExternalEdit},
-    }};
-    if (DockByKey(app_, owner_, *this, key)) return;
-    if (key.Is(Key::F1, Mask::Ctrl | Mask::Shift)) {
-        key.consumed = true;
-        return LaunchLorrit(app_, app_.Files().CurrentDir());
-    }
-    const auto* found =
-        std::ranges::find_if(kKeys, [&key](const ListKey& each) { return key.Is(each.code, each.mask); });
-    if (found == kKeys.end()) return;
-    key.consumed = true;
-    (this->*found->run)();
+    if (!DockByKey(app_, owner_, *this, key)) RunKey(Tables::kListKeys, *this, key);
 }
 
 } // namespace korvane

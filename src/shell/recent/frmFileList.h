@@ -7,7 +7,6 @@
 #include "controls/Menu.h"
 
 #include <optional>
-#include <string_view>
 
 namespace korvane {
 
@@ -45,12 +44,7 @@ public:
     void Unload() override;
 
 private:
-    using Handler = void (frmFileList::*)();
-    struct MenuHandler {
-        std::string_view entry;
-        Handler run;
-    };
-    static const MenuHandler kMenuHandlers[];
+    struct Tables;
 
     void Wire();
     void FillList();
@@ -78,7 +72,7 @@ private:
     void ChooseFont();
     void ChooseColour();
     void ExternalEdit();
-    void CloseWindow() { Close(); }
+    void LaunchLorritHere();
     void ListView1_ColumnClick(int column);
     void ListView1_KeyDown(KeyEvent& key);
 

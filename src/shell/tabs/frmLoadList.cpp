@@ -2,11 +2,11 @@
 
 #include "common/number/DateTime.h"
 #include "common/number/Number.h"
-#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "context/ports/MainWindow.h"
+#include "controls/KeyTable.h"
 #include "dialogs/Docking.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
@@ -17,27 +17,12 @@
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 
-#include <algorithm>
-#include <array>
-
 namespace korvane {
 
 namespace {
 
 constexpr TextView kRootKey = u"Root";
 constexpr TextView kNodeKey = u"X_";
-
-// One name is misspelt. Kept for compatibility: explorer-entry-misspelt.
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuFile", u"&File", ""},
-    MenuEntry{1, "mnuSwitch", u"&Switch to text", ""},
-    MenuEntry{1, "mnuClipList", u"List to clip&board", ""},
-    MenuEntry{1, "mnuExpolorer", u"E&xplorer", ""},
-    MenuEntry{1, "mnuDirLister", u"Directory &lister", ""},
-    MenuEntry{1, "mnuExit", u"&Close", ""},
-    MenuEntry{0, "mnuView", u"&View", ""},
-    MenuEntry{1, "mnuToggle", u"Long/short &display", ""},
-};
 
 constexpr StoredPlace kPlace{&Settings::LoadListLeft, &Settings::LoadListTop, &Settings::LoadListWidth,
                              &Settings::LoadListHeight};
@@ -54,15 +39,32 @@ Text DiskInfo(const FileSystem& files, const Text& path) {
 
 } // namespace
 
-const frmLoadList::MenuHandler frmLoadList::kMenuHandlers[] = {
-    {"mnuSwitch", &frmLoadList::SwitchToText}, {"mnuClipList", &frmLoadList::ListToClipboard},
-    {"mnuExpolorer", &frmLoadList::Explore},   {"mnuDirLister", &frmLoadList::ShowDirLister},
-    {"mnuExit", &frmLoadList::CloseWindow},    {"mnuToggle", &frmLoadList::ToggleForm},
+struct frmLoadList::Tables {
+    // One name is misspelt. Kept for compatibility: explorer-entry-misspelt.
+    static constexpr MenuRow<frmLoadList> kMenu[] = {
+        {0, "mnuFile", u"&File", ""},
+        {1, "mnuSwitch", u"&Switch to text", "", &frmLoadList::SwitchToText},
+        {1, "mnuClipList", u"List to clip&board", "", &frmLoadList::ListToClipboard},
+        {1, "mnuExpolorer", u"E&xplorer", "", &frmLoadList::Explore},
+        {1, "mnuDirLister", u"Directory &lister", "", &frmLoadList::ShowDirLister},
+        {1, "mnuExit", u"&Close", "", &frmLoadList::Close},
+        {0, "mnuView", u"&View", ""},
+        {1, "mnuToggle", u"Long/short &display", "", &frmLoadList::ToggleForm},
+    };
+    static constexpr WindowKey<frmLoadList> kTreeKeys[] = {
+        {"Esc", &frmLoadList::Close},
+        {"Clear", &frmLoadList::Close},
+        {"Return", &frmLoadList::SwitchToText},
+        {"F2", &frmLoadList::ShowDirLister},
+        {"Any+Ctrl+F9", &frmLoadList::Explore},
+        {"Any+Ctrl+C", &frmLoadList::ListToClipboard},
+        {"Any+Ctrl+D", &frmLoadList::ToggleForm},
+    };
 };
 
 frmLoadList::frmLoadList(App& app, Tabs& tabs, const Form& owner)
     : Form(app.Forms(), "frmLoadList", u"Following asterisks mean text has been altered"),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app),
       tabs_(tabs),
       owner_(owner) {
@@ -70,10 +72,6 @@ frmLoadList::frmLoadList(App& app, Tabs& tabs, const Form& owner)
 }
 
 void frmLoadList::Wire() {
-    OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = FindEntry(kMenuHandlers, entry, &MenuHandler::entry);
-        if (found != nullptr) (this->*found->run)();
-    };
     cmdSwitch.Click = [this] { SwitchToText(); };
     cmdToClip.Click = [this] { ListToClipboard(); };
     cmdToggleForm.Click = [this] { ToggleForm(); };
@@ -172,28 +170,7 @@ void frmLoadList::CentreOnScreen() {
 }
 
 void frmLoadList::FileTree_KeyDown(KeyEvent& key) {
-    struct TreeKey {
-        int code;
-        bool withCtrl;
-        Handler run;
-    };
-    static constexpr std::array<TreeKey, 7> kKeys{{
-        {Key::Escape, false, &frmLoadList::CloseWindow},
-        {Key::Clear, false, &frmLoadList::CloseWindow},
-        {Key::Return, false, &frmLoadList::SwitchToText},
-        {Key::F(2), false, &frmLoadList::ShowDirLister},
-        {Key::F(9), true, &frmLoadList::Explore},
-        {'C', true, &frmLoadList::ListToClipboard},
-        {'D', true, &frmLoadList::ToggleForm},
-    }};
-    if (DockByKey(app_, owner_, *this, key)) return;
-    const bool withCtrl = (key.mask & Mask::Ctrl) != 0;
-    const auto* found = std::ranges::find_if(kKeys, [&](const TreeKey& each) {
-        return key.code == each.code && (each.withCtrl ? withCtrl : key.mask == Mask::None);
-    });
-    if (found == kKeys.end()) return;
-    key.consumed = true;
-    (this->*found->run)();
+    if (!DockByKey(app_, owner_, *this, key)) RunKey(Tables::kTreeKeys, *this, key);
 }
 
 void ShowLoadedFiles(frmMDIParent& main) {

@@ -6,8 +6,6 @@
 #include "controls/Menu.h"
 #include "controls/TreeView.h"
 
-#include <string_view>
-
 namespace korvane {
 
 class App;
@@ -38,12 +36,7 @@ public:
     void Unload() override;
 
 private:
-    using Handler = void (frmLoadList::*)();
-    struct MenuHandler {
-        std::string_view entry;
-        Handler run;
-    };
-    static const MenuHandler kMenuHandlers[];
+    struct Tables;
 
     void Wire();
     void FillTree();
@@ -57,7 +50,6 @@ private:
     void Explore();
     void ShowDirLister();
     void CentreOnScreen();
-    void CloseWindow() { Close(); }
     void FileTree_KeyDown(KeyEvent& key);
 
     App& app_;
