@@ -3,9 +3,9 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "dbops/rules/DeleteMark.h"
-#include "dbops/rules/Dialogs.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/windows/frmChooseRange.h"
+#include "dialogs/Questions.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"
 

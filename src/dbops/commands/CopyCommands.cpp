@@ -5,10 +5,10 @@
 #include "context/ports/TextWindow.h"
 #include "dbops/rules/CellsText.h"
 #include "dbops/rules/DeleteMark.h"
-#include "dbops/rules/Dialogs.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmDelimiterType.h"
+#include "dialogs/Questions.h"
 #include "platform/Clipboard.h"
 #include "table/TableModel.h"
 

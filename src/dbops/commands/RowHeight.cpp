@@ -1,9 +1,9 @@
 #include "dbops/commands/RowHeight.h"
 
 #include "common/number/Number.h"
-#include "dbops/rules/Dialogs.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/windows/frmSetRowHeight.h"
+#include "dialogs/Questions.h"
 #include "grid/GridUpdate.h"
 #include "table/TabContext.h"
 #include "table/TableHost.h"

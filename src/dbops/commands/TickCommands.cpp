@@ -1,8 +1,8 @@
 #include "dbops/commands/TickCommands.h"
 
 #include "common/number/Number.h"
-#include "dbops/rules/Dialogs.h"
 #include "dbops/rules/Rows.h"
+#include "dialogs/Questions.h"
 #include "grid/GridUpdate.h"
 #include "table/TabContext.h"
 #include "table/TableModel.h"

@@ -1,8 +1,8 @@
 #include "dbops/windows/frmChooseRange.h"
 
 #include "context/App.h"
-#include "dbops/rules/Dialogs.h"
 #include "dbops/rules/Rows.h"
+#include "dialogs/Questions.h"
 
 namespace korvane {
 

@@ -10,7 +10,7 @@
 #include "context/ports/MarkupPicker.h"
 #include "context/ports/WordList.h"
 #include "controls/KeyTable.h"
-#include "dbops/rules/Dialogs.h"
+#include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/Clipboard.h"
 #include "table/TableModel.h"

@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "dbops/rules/Dialogs.h"
+#include "dialogs/Questions.h"
 #include "platform/Screen.h"
 
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "context/App.h"
 #include "context/StandardMessages.h"
-#include "dbops/rules/Dialogs.h"
+#include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/recent/frmFileList.h"

@@ -1,4 +1,4 @@
-#include "dbops/rules/Dialogs.h"
+#include "dialogs/Questions.h"
 
 #include "context/App.h"
 #include "controls/Form.h"
