@@ -3,7 +3,7 @@
 #include "context/App.h"
 #include "controls/Form.h"
 #include "controls/KeyTable.h"
-#include "platform/MessageBoxes.h"
+#include "dialogs/Questions.h"
 #include "platform/Screen.h"
 
 namespace korvane {
@@ -15,9 +15,7 @@ constexpr int kRoomNeeded = 5000;
 bool HasRoom(App& app, int room) {
     if (room > kRoomNeeded) return true;
     // The number is in twips, whatever the text says. Kept for compatibility: docking-needs-5000.
-    app.Messages().Show({u"Not enough space to move window as requested.\r\n\r\n"
-                         u"Minimum required: 5,000 pixels.",
-                         MessageIcon::Exclamation});
+    Warn(app, u"Not enough space to move window as requested.\r\n\r\nMinimum required: 5,000 pixels.");
     return false;
 }
 

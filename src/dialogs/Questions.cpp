@@ -16,6 +16,14 @@ void Inform(App& app, const Text& text) {
     app.Messages().Show({text, MessageIcon::Information});
 }
 
+void Warn(App& app, const Text& text) {
+    app.Messages().Show({text, MessageIcon::Exclamation});
+}
+
+void TellError(App& app, const Text& text) {
+    app.Messages().Show({text, MessageIcon::Stop});
+}
+
 std::int16_t ShowForResult(App& app, Form& form) {
     app.DialogResult = 0;
     form.ShowModal();

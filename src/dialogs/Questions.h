@@ -15,8 +15,14 @@ enum class YesNoDefault : std::uint8_t { Yes, No };
 /// Asks a question with Yes and No; whether it was Yes.
 bool AskYesNo(App& app, const Text& question, YesNoDefault preset = YesNoDefault::Yes);
 
+// Boxes with an OK button alone.
+
 /// Tells what came of a command.
 void Inform(App& app, const Text& text);
+/// Tells what the user has to do otherwise.
+void Warn(App& app, const Text& text);
+/// Tells what failed.
+void TellError(App& app, const Text& text);
 
 /// Shows the window modally; the `DialogResult` that it leaves, 0 when it leaves none.
 std::int16_t ShowForResult(App& app, Form& form);

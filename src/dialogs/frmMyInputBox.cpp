@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/exchange/InputQuestion.h"
+#include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
@@ -51,8 +52,8 @@ Text AskForText(App& app, TextView caption, TextView initial) {
     InputQuestion& question = app.Exchange<InputQuestion>();
     question.InputCaption = Text(caption);
     question.InputInitial = Text(initial);
-    app.DialogResult = 0;
-    frmMyInputBox(app).ShowModal();
+    frmMyInputBox form(app);
+    ShowForResult(app, form);
     return question.InputResult;
 }
 

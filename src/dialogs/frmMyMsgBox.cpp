@@ -6,9 +6,9 @@
 #include "context/StandardMessages.h"
 #include "context/exchange/MessageQuestion.h"
 #include "controls/KeyTable.h"
+#include "dialogs/Questions.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
-#include "platform/MessageBoxes.h"
 #include "platform/Shell.h"
 
 #include <algorithm>
@@ -89,8 +89,8 @@ void frmMyMsgBox::CloseWith(MsgAnswer answer) {
 }
 
 void frmMyMsgBox::cmdNo_Click() {
-    const Message question{u"Unload file without saving?", MessageIcon::Question, MessageButtons::YesNo, 2};
-    if (app_.Settings.ConfirmNoSave == 1 && app_.Messages().Show(question) != Answer::Yes) return;
+    const bool asks = app_.Settings.ConfirmNoSave == 1;
+    if (asks && !AskYesNo(app_, u"Unload file without saving?", YesNoDefault::No)) return;
     CloseWith(MsgAnswer::DoNotSave);
 }
 

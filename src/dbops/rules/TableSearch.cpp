@@ -1,6 +1,7 @@
 #include "dbops/rules/TableSearch.h"
 
 #include "context/App.h"
+#include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
 #include "table/TabContext.h"
@@ -38,8 +39,7 @@ void FindFromBox(const TabContext& tab, TextView text) {
     if (const auto match = FindBehindCurrentCell(grid, text)) {
         GoToMatch(grid, *match);
     } else {
-        tab.app.Messages().Show(
-            {u"No (further) find for :\r\n\r\n\"" + Text(text) + u"\"\t", MessageIcon::Information});
+        Inform(tab.app, u"No (further) find for :\r\n\r\n\"" + Text(text) + u"\"\t");
     }
     grid.GridSetFocus();
 }

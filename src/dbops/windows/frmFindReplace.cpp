@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "dbops/rules/UndoCommands.h"
+#include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
@@ -76,8 +77,7 @@ std::optional<TableMatch> frmFindReplace::FindNext() {
     if (match) {
         GoToMatch(grid, *match);
     } else {
-        tab_.app.Messages().Show(
-            {u"No (further) find for string: \r\n\r\n\"" + part + u"\"", MessageIcon::Exclamation});
+        Warn(tab_.app, u"No (further) find for string: \r\n\r\n\"" + part + u"\"");
     }
     return match;
 }

@@ -9,9 +9,9 @@
 #include "context/StandardMessages.h"
 #include "context/exchange/StateFiles.h"
 #include "context/ports/ClipboardView.h"
+#include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
-#include "platform/MessageBoxes.h"
 #include "shell/commands/Styles.h"
 #include "shell/commands/frmAbout.h"
 #include "shell/main/frmMDIParent.h"
@@ -42,7 +42,7 @@ void mnuFile_SaveAll(frmMDIParent& main) {
         list += tab->Caption.Get() + Text(kCrLf);
     }
     if (list.empty()) return;
-    main.TheApp().Messages().Show({u"Databases saved to disk: \r\n\r\n" + list, MessageIcon::Information});
+    Inform(main.TheApp(), u"Databases saved to disk: \r\n\r\n" + list);
 }
 
 void mnuFile_Close(frmMDIParent& main) {

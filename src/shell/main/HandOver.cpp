@@ -2,9 +2,9 @@
 
 #include "context/App.h"
 #include "context/exchange/StartState.h"
+#include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
 #include "platform/InstanceChannel.h"
-#include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 
 namespace korvane {
@@ -12,7 +12,7 @@ namespace korvane {
 namespace {
 
 void TellNoAccess(App& app) {
-    app.Messages().Show({u"Error accessing Korvane", MessageIcon::Stop});
+    TellError(app, u"Error accessing Korvane");
 }
 
 } // namespace

@@ -16,7 +16,6 @@
 #include "dialogs/Questions.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
-#include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 #include "shell/recent/RecentRecord.h"
 
@@ -304,7 +303,7 @@ void frmFileList::GotoFileFolder() {
     if (!row) return;
     const Text folder = app_.Files().Style().DirectoryForChange(row->texts[kLocation]);
     if (!app_.Files().ChangeDir(folder)) {
-        app_.Messages().Show({u"Cannot change to this folder:\r\n\r\n" + folder, MessageIcon::Exclamation});
+        Warn(app_, u"Cannot change to this folder:\r\n\r\n" + folder);
         return;
     }
     app_.Exchange<ListerRequest>().CurrentFolderHint = folder;
@@ -344,7 +343,7 @@ void frmFileList::ExternalEdit() {
     if (!row) return;
     const Text path = PathOf(*row);
     if (row->image == kLostImage) {
-        app_.Messages().Show({u"This item is not a valid file:\r\n\r\n" + path, MessageIcon::Exclamation});
+        Warn(app_, u"This item is not a valid file:\r\n\r\n" + path);
     } else if (auto* fileViewer = app_.Port<FileViewer>()) {
         fileViewer->OpenWith(path);
     }

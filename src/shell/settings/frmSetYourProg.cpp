@@ -2,8 +2,8 @@
 
 #include "context/App.h"
 #include "context/Launching.h"
+#include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
-#include "platform/MessageBoxes.h"
 #include "shell/settings/ProgramPicker.h"
 
 namespace korvane {
@@ -37,7 +37,7 @@ void frmSetYourProg::cmdBrowse1_Click() {
 void frmSetYourProg::cmdOK_Click() {
     const Text& program = app_.Settings.YourProgramPath;
     if (!IsThere(program)) {
-        app_.Messages().Show({u"Cannot find this program:\r\n\r\n" + program, MessageIcon::Exclamation});
+        Warn(app_, u"Cannot find this program:\r\n\r\n" + program);
         return;
     }
     // The program starts as it was typed, without a look for its other drive form, and the window stays. Kept

@@ -6,9 +6,9 @@
 #include "context/FileChooser.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/MainWindow.h"
+#include "dialogs/Questions.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
-#include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
 #include "shell/recent/RecentRecord.h"
 #include "shell/tabs/QuotedPath.h"
@@ -31,8 +31,7 @@ void ShowLoadedFiles(App& app) {
 }
 
 void TellAlreadyLoaded(App& app, const Text& path) {
-    app.Messages().Show(
-        {u"The following file has already been loaded: \r\n\r\n\t" + path + u"\r\n", MessageIcon::Stop});
+    TellError(app, u"The following file has already been loaded: \r\n\r\n\t" + path + u"\r\n");
 }
 
 } // namespace
@@ -78,9 +77,8 @@ bool LoadPipeline::ChooseFiles() {
 }
 
 bool LoadPipeline::ConfirmSeveral() {
-    const Text question =
-        u"Load  >   " + NumberText(app_.Exchange<ListerRequest>().ChosenFileCount) + u"   <  text databases?";
-    return app_.Messages().Show({question, MessageIcon::Question, MessageButtons::YesNo}) == Answer::Yes;
+    const int count = app_.Exchange<ListerRequest>().ChosenFileCount;
+    return AskYesNo(app_, u"Load  >   " + NumberText(count) + u"   <  text databases?");
 }
 
 bool LoadPipeline::IsLoaded(const Text& file) {
