@@ -3,14 +3,19 @@
 #include "context/App.h"
 #include "context/Desktop.h"
 #include "context/exchange/InputQuestion.h"
+#include "controls/KeyTable.h"
 #include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
 #include "platform/Shell.h"
 
 namespace korvane {
 
+struct frmMyInputBox::Tables {
+    static constexpr WindowKey<frmMyInputBox> kTextKeys[] = {{"Any+Return", &frmMyInputBox::cmdOk}};
+};
+
 frmMyInputBox::frmMyInputBox(App& app) : Form(app.Forms(), "frmMyInputBox", u"Korvane"), app_(app) {
-    txtBoxText.KeyDown = [this](KeyEvent& key) { txtBoxText_KeyDown(key); };
+    txtBoxText.KeyDown = KeysOf(*this, Tables::kTextKeys);
     cmdOk.Click = [this] { cmdOk_Click(); };
     cmdCancel.Click = [this] { cmdCancel_Click(); };
     cmdCancel.Cancel = true;
@@ -24,12 +29,6 @@ void frmMyInputBox::Load() {
     txtBoxText.SelectAll();
     txtBoxCaption.Caption = question.InputCaption;
     question.InputResult.clear();
-}
-
-void frmMyInputBox::txtBoxText_KeyDown(KeyEvent& key) {
-    if (key.code != Key::Return) return;
-    key.consumed = true;
-    cmdOk_Click();
 }
 
 void frmMyInputBox::cmdOk_Click() {

@@ -25,7 +25,8 @@ public:
     void Load() override;
 
 private:
-    void txtBoxText_KeyDown(KeyEvent& key);
+    struct Tables;
+
     void cmdOk_Click();
     void cmdCancel_Click();
     void cmdExplorer_Click();

@@ -2,6 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "controls/KeyTable.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
 
@@ -23,14 +24,19 @@ enum Column : std::size_t { kNumber, kTitle };
 
 } // namespace
 
+struct frmDesignTable::Tables {
+    static constexpr WindowKey<frmDesignTable> kListKeys[] = {{"Delete", &frmDesignTable::cmdDeleteEntry}};
+    static constexpr WindowKey<frmDesignTable> kNameKeys[] = {{"Return", &frmDesignTable::cmdAssign}};
+};
+
 frmDesignTable::frmDesignTable(const TabContext& tab)
     : Form(tab.app.Forms(), "frmDesignTable", u"Devise columns for new table"),
       ListView1(*this, "ListView1", {{u"No.", Twips{}}, {u"Title", Twips{}}}),
       tab_(tab) {
     ListView1.MultiSelect = true;
     ListView1.GridLines = true;
-    ListView1.KeyDown = [this](KeyEvent& key) { ListView1_KeyDown(key); };
-    txtColumnName.KeyDown = [this](KeyEvent& key) { txtColumnName_KeyDown(key); };
+    ListView1.KeyDown = KeysOf(*this, Tables::kListKeys);
+    txtColumnName.KeyDown = KeysOf(*this, Tables::kNameKeys);
     Image2.Click = [this] { MoveCurrent(-1); };
     Image1.Click = [this] { MoveCurrent(1); };
     cmdAssign.Click = [this] { cmdAssign_Click(); };
@@ -104,18 +110,6 @@ void frmDesignTable::MoveCurrent(int step) {
     ListView1.Set(from, std::move(moved));
     ListView1.Set(to, std::move(neighbour));
     ListView1.SetCurrent(to);
-}
-
-void frmDesignTable::txtColumnName_KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Return, Mask::None)) return;
-    key.consumed = true;
-    cmdAssign_Click();
-}
-
-void frmDesignTable::ListView1_KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Delete, Mask::None)) return;
-    key.consumed = true;
-    cmdDeleteEntry_Click();
 }
 
 void frmDesignTable::cmdAssign_Click() {

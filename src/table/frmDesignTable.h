@@ -30,6 +30,8 @@ public:
     void Resize() override;
 
 private:
+    struct Tables;
+
     void FillList();
     void LayOutColumns();
     void SetTitle(int index, Text title);
@@ -39,8 +41,6 @@ private:
     /// happens.
     void MoveCurrent(int step);
 
-    void txtColumnName_KeyDown(KeyEvent& key);
-    void ListView1_KeyDown(KeyEvent& key);
     void cmdAssign_Click();
     void cmdAutoLabel_Click();
     void cmdDeleteEntry_Click();

@@ -1,6 +1,7 @@
 #include "dbops/windows/frmFindReplace.h"
 
 #include "context/App.h"
+#include "controls/KeyTable.h"
 #include "dbops/rules/UndoCommands.h"
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
@@ -12,14 +13,6 @@ namespace korvane {
 namespace {
 
 constexpr Colour kGreyedBack{0xE0E0E0};
-
-void PressOnReturn(TextBox& box, CommandButton& button) {
-    box.KeyDown = [&button](KeyEvent& key) {
-        if (key.code != Key::Return) return;
-        key.consumed = true;
-        button.Press();
-    };
-}
 
 /// The cell's text with the match replaced.
 Text ReplacedText(const Grid& grid, const TableMatch& match, TextView part, TextView replacement) {
@@ -40,10 +33,16 @@ void ShowFindReplace(const TabContext& tab, FindMode mode) {
 
 } // namespace
 
+struct frmFindReplace::Tables {
+    static constexpr WindowKey<frmFindReplace> kFindKeys[] = {{"Any+Return", &frmFindReplace::cmdFindButton}};
+    static constexpr WindowKey<frmFindReplace> kReplaceKeys[] = {
+        {"Any+Return", &frmFindReplace::cmdReplaceButton}};
+};
+
 frmFindReplace::frmFindReplace(const TabContext& tab, FindMode mode)
     : Form(tab.app.Forms(), "frmFindReplace", u"Find and Replace"), tab_(tab), mode_(mode) {
-    PressOnReturn(Text1, cmdFindButton);
-    PressOnReturn(Text2, cmdReplaceButton);
+    Text1.KeyDown = KeysOf(*this, Tables::kFindKeys);
+    Text2.KeyDown = KeysOf(*this, Tables::kReplaceKeys);
     cmdFindButton.Click = [this] { FindNext(); };
     cmdReplaceButton.Click = [this] { cmdReplaceButton_Click(); };
     cmdSwitch.Click = [this] { cmdSwitch_Click(); };

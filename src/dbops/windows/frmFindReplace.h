@@ -34,6 +34,8 @@ public:
     void Unload() override;
 
 private:
+    struct Tables;
+
     /// Goes to the next match; nothing, and a message, when there is none.
     std::optional<TableMatch> FindNext();
     void cmdReplaceButton_Click();

@@ -24,7 +24,8 @@ public:
     const Text& NewName() const { return newName_; }
 
 private:
-    void txtNewColumnName_KeyDown(KeyEvent& key);
+    struct Tables;
+
     void cmdColAccept_Click();
 
     App& app_;

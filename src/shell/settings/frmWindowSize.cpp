@@ -2,6 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "controls/KeyTable.h"
 #include "dialogs/Questions.h"
 #include "platform/Screen.h"
 
@@ -90,21 +91,19 @@ Axis Across(Form& window, const Rect& area) {
     return {area.left.Number(), area.width.Number(), window.Left, window.Width};
 }
 
-void MakePick(ListBox& list, CommandButton& button) {
-    list.DblClick = [&button] { button.Press(); };
-    list.KeyDown = [&button](KeyEvent& key) {
-        if (key.code != Key::Return) return;
-        key.consumed = true;
-        button.Press();
-    };
-}
-
 } // namespace
+
+struct frmWindowSize::Tables {
+    static constexpr WindowKey<frmWindowSize> kLayoutKeys[] = {{"Any+Return", &frmWindowSize::cmdOk}};
+    static constexpr WindowKey<frmWindowSize> kPercentKeys[] = {{"Any+Return", &frmWindowSize::cmdPercent}};
+};
 
 frmWindowSize::frmWindowSize(App& app, WindowSizeChoice& choice)
     : Form(app.Forms(), "frmWindowSize", u"Program window size"), app_(app), choice_(choice) {
-    MakePick(List1, cmdOk);
-    MakePick(lstSize, cmdPercent);
+    List1.DblClick = [this] { cmdOk.Press(); };
+    List1.KeyDown = KeysOf(*this, Tables::kLayoutKeys);
+    lstSize.DblClick = [this] { cmdPercent.Press(); };
+    lstSize.KeyDown = KeysOf(*this, Tables::kPercentKeys);
     List1.Click = [this] { choice_.WindowLayoutChoice = static_cast<std::int16_t>(List1.ListIndex()); };
     lstSize.Click = [this] { choice_.WindowPercentChoice = static_cast<std::int16_t>(lstSize.ListIndex()); };
     cmdOk.Click = [this] { CloseWith(kLayoutPicked); };

@@ -33,6 +33,8 @@ public:
     void Load() override;
 
 private:
+    struct Tables;
+
     void CloseWith(std::int16_t result);
 
     App& app_;

@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/ports/MainWindow.h"
+#include "controls/KeyTable.h"
 #include "dbops/commands/RowHeight.h"
 #include "dbops/rules/TableSearch.h"
 #include "grid/Grid.h"
@@ -13,6 +14,12 @@
 
 namespace korvane {
 
+struct frmMDIChild::Tables {
+    static constexpr WindowKey<frmMDIChild> kFindKeys[] = {{"Return", &frmMDIChild::cmdFind}};
+    static constexpr WindowKey<frmMDIChild> kHeightKeys[] = {
+        {"Ctrl+Shift+Return", &frmMDIChild::ApplyTypedHeight}};
+};
+
 frmMDIChild::frmMDIChild(App& app, TabStates& states)
     : Form(app.Forms(), "frmMDIChild", u""),
       iGrid1(*this, "iGrid1", app.MakeGrid()),
@@ -22,8 +29,8 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
       history_(table_, *this) {
     cmdFind.Click = [this] { cmdFind_Click(); };
     txtFindString.Change = [this] { iGrid1.MarkedText = txtFindString.Text; };
-    txtFindString.KeyDown = [this](KeyEvent& key) { txtFindString_KeyDown(key); };
-    txtRowHeight.KeyDown = [this](KeyEvent& key) { txtRowHeight_KeyDown(key); };
+    txtFindString.KeyDown = KeysOf(*this, Tables::kFindKeys);
+    txtRowHeight.KeyDown = KeysOf(*this, Tables::kHeightKeys);
     ZoomSlider.Scroll = [this] { ZoomSlider_Scroll(); };
     ZoomSlider.Released = [this] { ZoomSlider_Released(); };
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
@@ -73,17 +80,9 @@ void frmMDIChild::cmdFind_Click() {
     FindFromBox(Context(), txtFindString.Text.Get());
 }
 
-void frmMDIChild::txtFindString_KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Return, Mask::None)) return;
-    key.consumed = true;
-    cmdFind_Click();
-}
-
-void frmMDIChild::txtRowHeight_KeyDown(KeyEvent& key) {
-    if (!key.Is(Key::Return, Mask::Ctrl | Mask::Shift)) return;
+void frmMDIChild::ApplyTypedHeight() {
     const TableStep step(history_);
     ApplyTypedRowHeight(Context(), txtRowHeight.Text.Get());
-    key.consumed = true;
 }
 
 void frmMDIChild::ZoomSlider_Scroll() {

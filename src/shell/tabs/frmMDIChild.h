@@ -51,9 +51,10 @@ public:
     void Activate() override;
 
 private:
+    struct Tables;
+
     void cmdFind_Click();
-    void txtFindString_KeyDown(KeyEvent& key);
-    void txtRowHeight_KeyDown(KeyEvent& key);
+    void ApplyTypedHeight();
     void ZoomSlider_Scroll();
     void ZoomSlider_Released();
     void iGrid1_AfterEdit();
