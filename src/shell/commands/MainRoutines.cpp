@@ -49,6 +49,14 @@ void mnuFile_Close(frmMDIParent& main) {
     if (frmMDIChild* tab = main.TheTabs().Active()) main.CloseTab(*tab);
 }
 
+void mnuFile_Recent(frmMDIParent& main) {
+    RecentFiles(main.TheApp(), main.TheTabs(), main.Recents(), main.Pipeline(), main).ShowRecentFiles();
+}
+
+void mnuFile_AreLoaded(frmMDIParent& main) {
+    ShowLoadedFiles(main.TheApp(), main.TheTabs(), main);
+}
+
 void mnuSideBar(frmMDIParent& main) {
     std::int16_t& visible = main.TheApp().Settings.SideBarVisible;
     visible = visible == 1 ? 0 : 1;
@@ -105,8 +113,8 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_Open", &mnuFile_Open},
     NamedRoutine{"mnuFile_SaveAll", &mnuFile_SaveAll},
     NamedRoutine{"mnuFile_Close", &mnuFile_Close},
-    NamedRoutine{"mnuFile_Recent", &ShowRecentFiles},
-    NamedRoutine{"mnuFile_AreLoaded", &ShowLoadedFiles},
+    NamedRoutine{"mnuFile_Recent", &mnuFile_Recent},
+    NamedRoutine{"mnuFile_AreLoaded", &mnuFile_AreLoaded},
     NamedRoutine{"mnuFile_Exit", [](frmMDIParent& main) { main.Close(); }},
     NamedRoutine{"mnuFile_SwitchTabsForward", [](frmMDIParent& main) { main.TheTabs().SwitchForward(); }},
     NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},

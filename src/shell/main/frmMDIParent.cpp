@@ -34,7 +34,7 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       app_(app),
       commandLine_(std::move(commandLine)),
       tabs_(app, MDITabs1),
-      pipeline_(app, tabs_, recents_),
+      pipeline_(app, tabs_, recents_, *this),
       sideBar_(iGridListBar, [this](std::string_view command) { RunCommand(command); }) {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();

@@ -5,7 +5,6 @@
 #include "context/App.h"
 #include "context/FileChooser.h"
 #include "context/exchange/ListerRequest.h"
-#include "context/ports/MainWindow.h"
 #include "dialogs/Questions.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
@@ -13,6 +12,7 @@
 #include "shell/recent/RecentRecord.h"
 #include "shell/tabs/QuotedPath.h"
 #include "shell/tabs/Tabs.h"
+#include "shell/tabs/frmLoadList.h"
 #include "shell/tabs/frmMDIChild.h"
 
 namespace korvane {
@@ -24,10 +24,6 @@ constexpr TextView kTableExtension = u".TBX";
 Text WithoutBlanks(Text text) {
     std::erase(text, u' ');
     return text;
-}
-
-void ShowLoadedFiles(App& app) {
-    if (auto* mainWindow = app.Port<MainWindow>()) mainWindow->RunCommand("mnuFile_AreLoaded");
 }
 
 void TellAlreadyLoaded(App& app, const Text& path) {
@@ -48,12 +44,12 @@ bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
         const Text file = request.ChosenFiles[static_cast<std::size_t>(number)];
         if (IsLoaded(file)) {
             TellAlreadyLoaded(app_, file);
-            ShowLoadedFiles(app_);
+            ShowLoadedFiles(app_, tabs_, window_);
             return true;
         }
         LoadFile(number, file, into);
     }
-    if (request.ChosenFileCount >= 2) ShowLoadedFiles(app_);
+    if (request.ChosenFileCount >= 2) ShowLoadedFiles(app_, tabs_, window_);
     return request.ChosenFileCount > 0;
 }
 

@@ -7,6 +7,7 @@
 namespace korvane {
 
 class App;
+class Form;
 class RecentRecord;
 class Tabs;
 
@@ -15,8 +16,9 @@ enum class LoadInto : std::uint8_t { ActiveTab, NewTab };
 /// The way of files from wherever they come into tabs.
 class LoadPipeline {
 public:
-    /// All outlive the pipeline.
-    LoadPipeline(App& app, Tabs& tabs, RecentRecord& recents) : app_(app), tabs_(tabs), recents_(recents) {}
+    /// `window` is the main window, beside which the list of loaded files stands. All outlive the pipeline.
+    LoadPipeline(App& app, Tabs& tabs, RecentRecord& recents, const Form& window)
+        : app_(app), tabs_(tabs), recents_(recents), window_(window) {}
 
     /// Loads the file; for an empty path, those that the user chooses. Each file gets a tab of its own with
     /// `NewTab`. Stops at a file that is open already. False when no file came of it.
@@ -35,6 +37,7 @@ private:
     App& app_;
     Tabs& tabs_;
     RecentRecord& recents_;
+    const Form& window_;
 };
 
 } // namespace korvane

@@ -4,8 +4,10 @@
 #include "context/StandardMessages.h"
 #include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
-#include "shell/main/frmMDIParent.h"
+#include "shell/recent/RecentRecord.h"
 #include "shell/recent/frmFileList.h"
+#include "shell/tabs/LoadPipeline.h"
+#include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 
 namespace korvane {
@@ -22,47 +24,46 @@ void GoToFolderOf(FileSystem& files, const Text& path) {
     if (!folder.empty() && files.DirExists(folder)) files.ChangeDir(folder);
 }
 
-void OpenFromRecord(frmMDIParent& main, const Text& path) {
-    main.Recents().LoadFromRecent = 1;
-    main.Pipeline().OpenDatabase(path, LoadInto::NewTab);
-    main.Recents().LoadFromRecent = 0;
-}
-
-void LoadPick(frmMDIParent& main, std::size_t index) {
-    FileSystem& files = main.TheApp().Files();
-    Text path = main.Recents().RecentPicks[index];
-    if (!files.FileExists(path)) return ShowCannotLocate(main.TheApp(), path);
-    if (index == 0) DiscardPristineUntitled(main);
-    GoToFolderOf(files, path);
-    main.Recents().RecentOffset = main.Recents().RecentOffsets[index];
-    OpenFromRecord(main, path);
-}
-
 } // namespace
 
-void ShowRecentFiles(frmMDIParent& main) {
-    frmFileList form(main.TheApp(), main.Recents(), main);
-    const std::int16_t result = ShowForResult(main.TheApp(), form);
+void RecentFiles::ShowRecentFiles() {
+    frmFileList form(app_, recents_, window_);
+    const std::int16_t result = ShowForResult(app_, form);
     if (result < 1) return;
-    if (result == kChooseFiles) return OpenFromRecord(main, {});
+    if (result == kChooseFiles) return OpenFromRecord({});
     // The button for a new text comes here too, without a pick. Kept for compatibility:
     // new-text-opens-nothing.
-    for (std::size_t i = 0; i < main.Recents().RecentPicks.size(); ++i)
-        LoadPick(main, i);
+    for (std::size_t i = 0; i < recents_.RecentPicks.size(); ++i)
+        LoadPick(i);
 }
 
-void DiscardPristineUntitled(frmMDIParent& main) {
-    Tabs& tabs = main.TheTabs();
-    frmMDIChild* only = tabs.TabState.UpperBound() == 1 ? tabs.Document(1) : nullptr;
+void RecentFiles::LoadPick(std::size_t index) {
+    FileSystem& files = app_.Files();
+    Text path = recents_.RecentPicks[index];
+    if (!files.FileExists(path)) return ShowCannotLocate(app_, path);
+    if (index == 0) DiscardPristineUntitled();
+    GoToFolderOf(files, path);
+    recents_.RecentOffset = recents_.RecentOffsets[index];
+    OpenFromRecord(path);
+}
+
+void RecentFiles::OpenFromRecord(const Text& path) {
+    recents_.LoadFromRecent = 1;
+    pipeline_.OpenDatabase(path, LoadInto::NewTab);
+    recents_.LoadFromRecent = 0;
+}
+
+void RecentFiles::DiscardPristineUntitled() {
+    frmMDIChild* only = tabs_.TabState.UpperBound() == 1 ? tabs_.Document(1) : nullptr;
     if (only == nullptr || !only->Caption.Get().starts_with(u"Untitled")) return;
-    TabState& state = tabs.TabState[1];
+    TabState& state = tabs_.TabState[1];
     // This isn't the mark of the table: a table that was typed into asks before it goes, and stays without a
     // slot when the user refuses. Kept for compatibility: untitled-tab-asks.
     if (state.Dirty != 0) return;
-    tabs.Show(1);
+    tabs_.Show(1);
     state.Discard = -1;
     state.Deleted = -1;
-    main.CloseTab(*only);
+    tabs_.Close(*only);
 }
 
 } // namespace korvane

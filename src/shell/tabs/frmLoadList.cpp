@@ -3,9 +3,9 @@
 #include "common/number/DateTime.h"
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "context/FileChooser.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
-#include "context/ports/MainWindow.h"
 #include "controls/KeyTable.h"
 #include "dialogs/Docking.h"
 #include "platform/Clipboard.h"
@@ -13,7 +13,6 @@
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"
 #include "platform/Shell.h"
-#include "shell/main/frmMDIParent.h"
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 
@@ -159,7 +158,7 @@ void frmLoadList::Explore() {
 }
 
 void frmLoadList::ShowDirLister() {
-    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand("mnuFile_DirLister");
+    ShowDirectoryLister(app_);
 }
 
 void frmLoadList::CentreOnScreen() {
@@ -173,15 +172,15 @@ void frmLoadList::FileTree_KeyDown(KeyEvent& key) {
     if (!DockByKey(app_, owner_, *this, key)) RunKey(Tables::kTreeKeys, *this, key);
 }
 
-void ShowLoadedFiles(frmMDIParent& main) {
-    frmLoadList form(main.TheApp(), main.TheTabs(), main);
+void ShowLoadedFiles(App& app, Tabs& tabs, const Form& owner) {
+    frmLoadList form(app, tabs, owner);
     form.ShowModal();
-    if (!main.TheTabs().TabState.InUse(form.SwitchTarget)) return;
-    main.TheApp().Screen().ProcessMessages();
-    main.TheTabs().Show(form.SwitchTarget);
-    main.TheApp().Screen().ProcessMessages();
+    if (!tabs.TabState.InUse(form.SwitchTarget)) return;
+    app.Screen().ProcessMessages();
+    tabs.Show(form.SwitchTarget);
+    app.Screen().ProcessMessages();
     // What came in meanwhile may have taken the keyboard.
-    main.TheTabs().Show(form.SwitchTarget);
+    tabs.Show(form.SwitchTarget);
 }
 
 } // namespace korvane

@@ -10,7 +10,6 @@ namespace korvane {
 
 class App;
 class Tabs;
-class frmMDIParent;
 
 /// The open tabs, of which the user switches to one. Modal.
 class frmLoadList : public Form {
@@ -57,7 +56,7 @@ private:
     const Form& owner_;
 };
 
-/// Shows the open tabs and goes to the one that the user picks.
-void ShowLoadedFiles(frmMDIParent& main);
+/// Shows the open tabs beside `owner` and goes to the one that the user picks.
+void ShowLoadedFiles(App& app, Tabs& tabs, const Form& owner);
 
 } // namespace korvane
