@@ -137,7 +137,7 @@ constexpr std::array kRoutines{
                  [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Veldan); }},
     NamedRoutine{"mnuSideBar", &mnuSideBar},
     NamedRoutine{"mnuSwitchFocus", [](frmMDIParent& main) { main.mnuSwitchFocus_Click(); }},
-    NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.SetSideBarWidth(true); }},
+    NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.TheSideBar().NextWidth(); }},
     NamedRoutine{"SetWindowSize", &SetWindowSize},
     NamedRoutine{"StyleBack", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Back); }},
     NamedRoutine{"StyleForward", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Forward); }},

@@ -1,5 +1,9 @@
 #include "shell/commands/SideBar.h"
 
+#include "context/App.h"
+#include "controls/KeyTable.h"
+#include "controls/Label.h"
+#include "platform/FileSystem.h"
 #include "shell/commands/Commands.h"
 
 #include <array>
@@ -11,6 +15,8 @@ namespace {
 constexpr Col kOnlyColumn{1};
 constexpr int kColumnWidth = 146;
 constexpr int kRowHeight = 64;
+/// The panel is this much wider than the grid in it.
+constexpr int kPanelMargin = 80;
 
 constexpr Colour kBlack{0};
 constexpr Colour kWhite{0xFFFFFF};
@@ -28,14 +34,26 @@ constexpr std::array<Twips, SideBar::kWidthSteps> kWidths{Twips{kColumnWidth * k
 
 } // namespace
 
-SideBar::SideBar(GridBox& grid, RunCommand run) : grid_(grid), run_(std::move(run)) {
-    grid_.CellClick = [this](Row row, Col) { RunRow(row); };
-    grid_.KeyDown = [this](KeyEvent& key) { KeyDown(key); };
-    grid_.Hover = [this](bool over) { Hover(over); };
+struct SideBar::Tables {
+    static constexpr WindowKey<SideBar> kKeys[] = {
+        {"Ctrl+Alt+S", &SideBar::SwitchFocus},
+        {"Alt+X", &SideBar::SwitchFocus},
+        {"Any+Space", &SideBar::RunCurrentRow},
+        {"Any+Return", &SideBar::RunCurrentRow},
+    };
+};
+
+SideBar::SideBar(App& app, const Place& place, RunCommand run)
+    : app_(app), place_(place), run_(std::move(run)) {
+    place_.grid.CellClick = [this](Row row, Col) { RunRow(row); };
+    place_.grid.KeyDown = KeysOf(*this, Tables::kKeys);
+    place_.grid.Hover = [this](bool over) { Hover(over); };
 }
 
-void SideBar::BuildSideBar(const FontSpec& font) {
-    Grid& store = grid_.Store();
+void SideBar::BuildSideBar() {
+    const FileSystem& files = app_.Files();
+    place_.grid.HandImage = files.Style().JoinPath(files.ProgramDir(), u"HandOpen.ico");
+    Grid& store = place_.grid.Store();
     store.AddCol(u"1no", u"");
     store.SetColWidth(kOnlyColumn, kColumnWidth);
     store.SetRowCount(Row{static_cast<int>(SideBarRows().size())});
@@ -45,15 +63,38 @@ void SideBar::BuildSideBar(const FontSpec& font) {
         store.SetCellValue(row, kOnlyColumn, entry.text);
         ++row;
     }
-    if (!font.name.empty() && font.size > 0) grid_.Font = font;
+    const Settings& settings = app_.Settings;
+    if (!settings.SideBarFontName.empty() && settings.SideBarFontSize > 0) {
+        place_.grid.Font =
+            FontSpec{settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0};
+    }
     store.SetGridVisible(true);
     Hover(false);
     SelectRow(Row{1});
 }
 
+void SideBar::Arrange() {
+    place_.panel.Visible = app_.Settings.SideBarVisible == 1;
+    if (place_.panel.Visible) SetWidth(WidthOfStep(app_.Settings.SideBarWidthStep));
+}
+
+void SideBar::NextWidth() {
+    std::int16_t& step = app_.Settings.SideBarWidthStep;
+    step = static_cast<std::int16_t>(step >= kWidthSteps - 1 ? 0 : step + 1);
+    SetWidth(WidthOfStep(step));
+    Arrange();
+}
+
+void SideBar::SetWidth(Twips width) {
+    place_.grid.Width = width;
+    place_.heading.Width = width;
+    place_.panel.Width = width + kPanelMargin;
+}
+
 void SideBar::TakeFocus() {
-    SelectRow(grid_.Store().CurRow());
-    grid_.Store().GridSetFocus();
+    if (!place_.panel.Visible) return;
+    SelectRow(place_.grid.Store().CurRow());
+    place_.grid.Store().GridSetFocus();
 }
 
 Twips SideBar::WidthOfStep(int step) {
@@ -62,30 +103,28 @@ Twips SideBar::WidthOfStep(int step) {
 }
 
 void SideBar::RunRow(Row row) {
-    if (!grid_.Store().HasRow(row)) return;
+    if (!place_.grid.Store().HasRow(row)) return;
     run_(SideBarRows()[static_cast<std::size_t>(row.Number() - 1)].command);
     SelectRow(row);
 }
 
-void SideBar::SelectRow(Row row) {
-    grid_.Store().SetCurRow(row);
-    grid_.Store().SetCurCol(kOnlyColumn);
+void SideBar::RunCurrentRow() {
+    RunRow(place_.grid.Store().CurRow());
 }
 
-void SideBar::KeyDown(KeyEvent& key) {
-    if (key.Is('S', Mask::Ctrl | Mask::Alt) || key.Is('X', Mask::Alt)) {
-        key.consumed = true;
-        run_("mnuSwitchFocus");
-    } else if (key.code == Key::Space || key.code == Key::Return) {
-        key.consumed = true;
-        RunRow(grid_.Store().CurRow());
-    }
+void SideBar::SelectRow(Row row) {
+    place_.grid.Store().SetCurRow(row);
+    place_.grid.Store().SetCurCol(kOnlyColumn);
+}
+
+void SideBar::SwitchFocus() {
+    run_("mnuSwitchFocus");
 }
 
 void SideBar::Hover(bool over) {
-    grid_.MousePointer = over ? Pointer::Hand : Pointer::Default;
-    grid_.HighlightBackColor = over ? kHighlightUnderPointer : kHighlight;
-    grid_.HighlightForeColor = over ? kBlack : kWhite;
+    place_.grid.MousePointer = over ? Pointer::Hand : Pointer::Default;
+    place_.grid.HighlightBackColor = over ? kHighlightUnderPointer : kHighlight;
+    place_.grid.HighlightForeColor = over ? kBlack : kWhite;
 }
 
 } // namespace korvane

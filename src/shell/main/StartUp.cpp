@@ -53,15 +53,6 @@ void PlaceWindow(frmMDIParent& main) {
     FitWindowToWorkArea(main.TheApp().Screen().WorkArea(), main, place, kMainWindowGap);
 }
 
-void BuildSideBar(frmMDIParent& main) {
-    const Settings& settings = main.TheApp().Settings;
-    const FileSystem& files = main.TheApp().Files();
-    main.iGridListBar.HandImage = files.Style().JoinPath(files.ProgramDir(), u"HandOpen.ico");
-    main.TheSideBar().BuildSideBar(
-        {settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0});
-    main.Resize();
-}
-
 void ListenForFiles(frmMDIParent& main) {
     main.TheApp().Instance().Listen({
         [&main](TextView path) { main.txtCommand.Text = Text(path); },
@@ -87,7 +78,8 @@ void StartUp(frmMDIParent& main) {
     ApplySettings(main);
     main.Recents().Read(app);
     PlaceWindow(main);
-    BuildSideBar(main);
+    main.TheSideBar().BuildSideBar();
+    main.Resize();
     // The whole line is one path, blanks and all.
     const Text startFile = WithoutOuterQuotes(main.CommandLine());
     start.SecondInstance = 0;

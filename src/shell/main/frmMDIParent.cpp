@@ -18,13 +18,6 @@
 
 namespace korvane {
 
-namespace {
-
-/// The sidebar's panel is this much wider than its grid.
-constexpr int kPanelMargin = 80;
-
-} // namespace
-
 frmMDIParent::frmMDIParent(App& app, Text commandLine)
     : Form(app.Forms(), "frmMDIParent", u"Korvane"),
       OfficeMenu1(*this, "OfficeMenu1", MenuBarEntries()),
@@ -35,7 +28,8 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       commandLine_(std::move(commandLine)),
       tabs_(app, MDITabs1),
       pipeline_(app, tabs_, recents_, *this),
-      sideBar_(iGridListBar, [this](std::string_view command) { RunCommand(command); }) {
+      sideBar_(app, {Picture2, lblListBar, iGridListBar},
+               [this](std::string_view command) { RunCommand(command); }) {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();
     CheckFirstStyle(*this);
@@ -96,13 +90,12 @@ void frmMDIParent::ShowPopupMenu() {
 }
 
 void frmMDIParent::mnuSwitchFocus_Click() {
-    if (focusOnSideBar_ == 0) {
+    if (sideBar_.FocusOnSideBar == 0) {
         if (frmMDIChild* tab = tabs_.Active()) tab->GridStore().GridSetFocus();
-        focusOnSideBar_ = 1;
-        return;
+    } else {
+        sideBar_.TakeFocus();
     }
-    if (Picture2.Visible) sideBar_.TakeFocus();
-    focusOnSideBar_ = 0;
+    sideBar_.FocusOnSideBar = sideBar_.FocusOnSideBar == 0 ? 1 : 0;
 }
 
 Text frmMDIParent::GetActiveFolder() {
@@ -111,16 +104,6 @@ Text frmMDIParent::GetActiveFolder() {
     }
     app_.Messages().Show({u"No form loaded."});
     return {};
-}
-
-void frmMDIParent::SetSideBarWidth(bool advance) {
-    std::int16_t& step = app_.Settings.SideBarWidthStep;
-    if (advance) step = static_cast<std::int16_t>(step >= SideBar::kWidthSteps - 1 ? 0 : step + 1);
-    const Twips width = SideBar::WidthOfStep(step);
-    iGridListBar.Width = width;
-    lblListBar.Width = width;
-    Picture2.Width = width + kPanelMargin;
-    if (advance) Resize();
 }
 
 void frmMDIParent::CloseTab(Form& child) {
@@ -147,8 +130,7 @@ void frmMDIParent::Activate() {
 }
 
 void frmMDIParent::Resize() {
-    Picture2.Visible = app_.Settings.SideBarVisible == 1;
-    if (Picture2.Visible) SetSideBarWidth(false);
+    sideBar_.Arrange();
 }
 
 void frmMDIParent::FilesDropped(const std::vector<Text>& paths) {

@@ -55,8 +55,6 @@ public:
     void ShowPopupMenu() override;
     void mnuSwitchFocus_Click() override;
     Text GetActiveFolder() override;
-    /// Takes the sidebar's width from its step, the next one when told to advance.
-    void SetSideBarWidth(bool advance);
     /// Closes a tab, which may refuse.
     void CloseTab(Form& child);
 
@@ -83,8 +81,6 @@ private:
     LoadPipeline pipeline_;
     SideBar sideBar_;
     std::vector<std::unique_ptr<CommandButton>> toolBar_;
-    /// 1 when the next focus toggle goes to the sidebar.
-    std::int16_t focusOnSideBar_ = 1;
     bool firstActivation_ = true;
     /// How many commands run within each other.
     int commandDepth_ = 0;
