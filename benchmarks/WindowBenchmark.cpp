@@ -74,7 +74,7 @@ public:
         Settle();
     }
 
-    void Open(int number) { main.Pipeline().OpenDatabase(PathOf(number), LoadInto::NewTab); }
+    void Open(int number) { main.Parts().pipeline.OpenDatabase(PathOf(number), LoadInto::NewTab); }
     void Run(std::string_view command) { main.RunCommand(command); }
     /// Until everything is painted.
     void Settle() {

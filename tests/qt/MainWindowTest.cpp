@@ -61,7 +61,7 @@ protected:
 
     void TearDown() override {
         // A change that a test made isn't asked for at its end.
-        if (frmMDIChild* tab = main.TheTabs().Active()) tab->Table().TableAltered = 0;
+        if (frmMDIChild* tab = main.Parts().tabs.Active()) tab->Table().TableAltered = 0;
         main.Close();
     }
 
@@ -211,7 +211,7 @@ TEST_F(MainWindowTest, AHeaderSortsTheTable) {
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, QPoint(20, header.height() / 2));
     test::Settle();
     EXPECT_EQ(Table().model()->index(0, 0).data().toString(), QString("Anna"));
-    EXPECT_EQ(main.TheTabs().Active()->Table().TableAltered, 1);
+    EXPECT_EQ(main.Parts().tabs.Active()->Table().TableAltered, 1);
 }
 
 TEST_F(MainWindowTest, TheRightButtonOpensTheMenuOfTheTable) {
@@ -388,7 +388,7 @@ struct Session {
 };
 
 TEST_F(MainWindowTest, ALogOutAsksAboutChangesAndACancelKeepsTheSession) {
-    main.TheTabs().Active()->Table().TableAltered = 1;
+    main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Cancel);
     Session session;
     AnswerLogOut(session, main);
@@ -398,7 +398,7 @@ TEST_F(MainWindowTest, ALogOutAsksAboutChangesAndACancelKeepsTheSession) {
 }
 
 TEST_F(MainWindowTest, ALogOutClosesTheProgramAsItsUserWould) {
-    main.TheTabs().Active()->Table().TableAltered = 1;
+    main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Yes);
     Session session;
     AnswerLogOut(session, main);
@@ -416,7 +416,7 @@ TEST_F(MainWindowTest, ALogOutThatLetsNobodyBeAskedLeavesTheWindow) {
 }
 
 TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {
-    main.TheTabs().Active()->Table().TableAltered = 1;
+    main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Cancel);
     EXPECT_FALSE(Window().close());
     EXPECT_TRUE(Window().isVisible());
@@ -426,7 +426,7 @@ TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {
 }
 
 TEST_F(MainWindowTest, CtrlZTakesAnEditOfTheTableBackAndCtrlShiftZMakesItAgain) {
-    Grid& store = main.TheTabs().Active()->GridStore();
+    Grid& store = main.Parts().tabs.Active()->GridStore();
     Table().setFocus();
     Type("Zoe");
     Key(Qt::Key_Return);
@@ -438,7 +438,7 @@ TEST_F(MainWindowTest, CtrlZTakesAnEditOfTheTableBackAndCtrlShiftZMakesItAgain) 
 }
 
 TEST_F(MainWindowTest, CtrlZInABoxIsTheBoxesOwn) {
-    Grid& store = main.TheTabs().Active()->GridStore();
+    Grid& store = main.Parts().tabs.Active()->GridStore();
     Table().setFocus();
     Type("Zoe");
     Key(Qt::Key_Return);
@@ -446,15 +446,15 @@ TEST_F(MainWindowTest, CtrlZInABoxIsTheBoxesOwn) {
     box.setFocus();
     test::Settle();
     Type("abc");
-    EXPECT_EQ(main.TheTabs().Active()->iGrid1.MarkedText.Get(), u"abc");
+    EXPECT_EQ(main.Parts().tabs.Active()->iGrid1.MarkedText.Get(), u"abc");
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(box.text(), QString());
-    EXPECT_EQ(main.TheTabs().Active()->iGrid1.MarkedText.Get(), u"");
+    EXPECT_EQ(main.Parts().tabs.Active()->iGrid1.MarkedText.Get(), u"");
     EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
 }
 
 TEST_F(MainWindowTest, CtrlZInACellThatIsBeingEditedIsTheFieldsOwn) {
-    Grid& store = main.TheTabs().Active()->GridStore();
+    Grid& store = main.Parts().tabs.Active()->GridStore();
     Table().setFocus();
     Type("Zoe");
     Key(Qt::Key_Return);

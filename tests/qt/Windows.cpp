@@ -51,7 +51,7 @@ constexpr Window kWindows[] = {
      }},
     {"frmFileList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmFileList>(all.app, all.main.Recents(), all.main);
+         return std::make_unique<frmFileList>(all.app, all.main.Parts().recents, all.main);
      }},
     {"frmFindReplace",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -59,7 +59,7 @@ constexpr Window kWindows[] = {
      }},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmLoadList>(all.app, all.main.TheTabs(), all.main);
+         return std::make_unique<frmLoadList>(all.app, all.main.Parts().tabs, all.main);
      }},
     {"frmMDIChild",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -83,7 +83,10 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSetRowHeight>(all.tab); }},
     {"frmSetYourProg", FromApp<frmSetYourProg>},
     {"frmSettings",
-     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSettings>(all.main); }},
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmSettings>(all.app, all.main.Parts().tabs, all.main.OfficeMenu1,
+                                              all.main.iGridListBar);
+     }},
     {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
     {"frmTxtDbColName",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -104,7 +107,7 @@ constexpr Window kWindows[] = {
      }},
     {"frmWindowSize",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmWindowSize>(all.app, all.main.WindowSize);
+         return std::make_unique<frmWindowSize>(all.app, all.main.Parts().windowSize);
      }},
 };
 

@@ -51,7 +51,7 @@ public:
     // These show the outcome.
 
     frmMDIChild& Tab(int slot);
-    Tabs& AllTabs() { return main_->TheTabs(); }
+    Tabs& AllTabs() { return main_->Parts().tabs; }
     /// The captions along the strip.
     std::vector<Text> Captions() const;
     std::string FileBytes(const Text& path) const { return files.Contents(path).value_or("(no such file)"); }

@@ -12,12 +12,16 @@
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
+#include "shell/commands/MainParts.h"
+#include "shell/commands/SideBar.h"
 #include "shell/commands/Styles.h"
 #include "shell/commands/frmAbout.h"
-#include "shell/main/frmMDIParent.h"
 #include "shell/settings/frmSetYourProg.h"
 #include "shell/settings/frmSettings.h"
+#include "shell/settings/frmWindowSize.h"
+#include "shell/tabs/LoadPipeline.h"
 #include "shell/tabs/RecentFiles.h"
+#include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmLoadList.h"
 #include "shell/tabs/frmMDIChild.h"
 
@@ -28,74 +32,79 @@ namespace korvane {
 
 namespace {
 
-void mnuFile_Open(frmMDIParent& main) {
-    const Text caption = main.Caption;
-    if (!main.Pipeline().OpenDatabase({}, LoadInto::NewTab)) main.Caption = caption;
+void mnuFile_Open(const MainParts& main) {
+    const Text caption = main.window.Caption;
+    if (!main.pipeline.OpenDatabase({}, LoadInto::NewTab)) main.window.Caption = caption;
 }
 
-void mnuFile_SaveAll(frmMDIParent& main) {
+void mnuFile_SaveAll(const MainParts& main) {
     Text list;
-    for (int slot = 1; slot <= main.TheTabs().TabState.UpperBound(); ++slot) {
-        frmMDIChild* tab = main.TheTabs().Document(slot);
+    for (int slot = 1; slot <= main.tabs.TabState.UpperBound(); ++slot) {
+        frmMDIChild* tab = main.tabs.Document(slot);
         if (tab == nullptr) continue;
         tab->Invoke("SaveThisTable");
         list += tab->Caption.Get() + Text(kCrLf);
     }
     if (list.empty()) return;
-    Inform(main.TheApp(), u"Databases saved to disk: \r\n\r\n" + list);
+    Inform(main.app, u"Databases saved to disk: \r\n\r\n" + list);
 }
 
-void mnuFile_Close(frmMDIParent& main) {
-    if (frmMDIChild* tab = main.TheTabs().Active()) main.CloseTab(*tab);
+void mnuFile_Close(const MainParts& main) {
+    if (frmMDIChild* tab = main.tabs.Active()) main.tabs.Close(*tab);
 }
 
-void mnuFile_Recent(frmMDIParent& main) {
-    RecentFiles(main.TheApp(), main.TheTabs(), main.Recents(), main.Pipeline(), main).ShowRecentFiles();
+void mnuFile_Recent(const MainParts& main) {
+    RecentFiles(main.app, main.tabs, main.recents, main.pipeline, main.window).ShowRecentFiles();
 }
 
-void mnuFile_AreLoaded(frmMDIParent& main) {
-    ShowLoadedFiles(main.TheApp(), main.TheTabs(), main);
+void mnuFile_AreLoaded(const MainParts& main) {
+    ShowLoadedFiles(main.app, main.tabs, main.window);
 }
 
-void mnuSideBar(frmMDIParent& main) {
-    std::int16_t& visible = main.TheApp().Settings.SideBarVisible;
+void mnuSwitchFocus_Click(const MainParts& main) {
+    std::int16_t& turn = main.sideBar.FocusOnSideBar;
+    if (turn != 0) {
+        main.sideBar.TakeFocus();
+    } else if (frmMDIChild* tab = main.tabs.Active()) {
+        tab->GridStore().GridSetFocus();
+    }
+    turn = turn == 0 ? 1 : 0;
+}
+
+void mnuSideBar(const MainParts& main) {
+    std::int16_t& visible = main.app.Settings.SideBarVisible;
     visible = visible == 1 ? 0 : 1;
-    main.Resize();
+    main.window.Resize();
 }
 
-void ExploreCaptionFolder(frmMDIParent& main) {
-    ExploreFolder(main.TheApp(), main.TheApp().Files().Style().FolderPart(main.Caption.Get()));
+void ExploreCaptionFolder(const MainParts& main) {
+    ExploreFolder(main.app, main.app.Files().Style().FolderPart(main.window.Caption.Get()));
 }
 
-void SetWindowSize(frmMDIParent& main) {
-    if (!ChooseWindowSize(main.TheApp(), main.WindowSize, main)) return;
-    frmMDIChild* tab = main.TheTabs().Active();
+void SetWindowSize(const MainParts& main) {
+    if (!ChooseWindowSize(main.app, main.windowSize, main.window)) return;
+    frmMDIChild* tab = main.tabs.Active();
     if (tab == nullptr) return;
     tab->Resize();
     tab->GridStore().GridSetFocus();
 }
 
-void ViewAndPaste(frmMDIParent& main) {
-    if (auto* clipboardView = main.TheApp().Port<ClipboardView>()) clipboardView->Show();
-}
-
-template <int Index>
-void mnuStyle(frmMDIParent& main) {
-    ChooseTabStyle(main, Index);
+void ViewAndPaste(const MainParts& main) {
+    if (auto* clipboardView = main.app.Port<ClipboardView>()) clipboardView->Show();
 }
 
 template <class Window>
-void ShowWindow(frmMDIParent& main) {
-    Window(main.TheApp()).ShowModal();
+void ShowWindow(const MainParts& main) {
+    Window(main.app).ShowModal();
 }
 
-void mnuMisc_Browser(frmMDIParent& main) {
-    App& app = main.TheApp();
+void mnuMisc_Browser(const MainParts& main) {
+    App& app = main.app;
     LaunchProgram(app, Text(app.Settings.WebListA));
 }
 
-void CustomBrowser(frmMDIParent& main) {
-    App& app = main.TheApp();
+void CustomBrowser(const MainParts& main) {
+    App& app = main.app;
     Text browser = app.Settings.CustomBrowserPath;
     if (browser.empty() || !app.Files().FileExists(browser)) {
         ShowCannotLocate(app, browser);
@@ -106,7 +115,7 @@ void CustomBrowser(frmMDIParent& main) {
 
 struct NamedRoutine {
     std::string_view name;
-    void (*run)(frmMDIParent&);
+    void (*run)(const MainParts&);
 };
 
 constexpr std::array kRoutines{
@@ -115,32 +124,32 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuFile_Close", &mnuFile_Close},
     NamedRoutine{"mnuFile_Recent", &mnuFile_Recent},
     NamedRoutine{"mnuFile_AreLoaded", &mnuFile_AreLoaded},
-    NamedRoutine{"mnuFile_Exit", [](frmMDIParent& main) { main.Close(); }},
-    NamedRoutine{"mnuFile_SwitchTabsForward", [](frmMDIParent& main) { main.TheTabs().SwitchForward(); }},
-    NamedRoutine{"mnuFile_SwitchTabsBack", [](frmMDIParent& main) { main.TheTabs().SwitchBack(); }},
-    NamedRoutine{"mnuMisc_Calc",
-                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Abrill); }},
+    NamedRoutine{"mnuFile_Exit", [](const MainParts& main) { main.window.Close(); }},
+    NamedRoutine{"mnuFile_SwitchTabsForward", [](const MainParts& main) { main.tabs.SwitchForward(); }},
+    NamedRoutine{"mnuFile_SwitchTabsBack", [](const MainParts& main) { main.tabs.SwitchBack(); }},
+    NamedRoutine{"mnuMisc_Calc", [](const MainParts& main) { LaunchCompanion(main.app, Companion::Abrill); }},
     NamedRoutine{"mnuMisc_Browser", &mnuMisc_Browser},
-    NamedRoutine{"mnuMisc_Explorer", [](frmMDIParent& main) { RunExplorer(main.TheApp()); }},
-    NamedRoutine{"mnuFile_DirLister", [](frmMDIParent& main) { ShowDirectoryLister(main.TheApp()); }},
+    NamedRoutine{"mnuMisc_Explorer", [](const MainParts& main) { RunExplorer(main.app); }},
+    NamedRoutine{"mnuFile_DirLister", [](const MainParts& main) { ShowDirectoryLister(main.app); }},
     NamedRoutine{"ViewAndPaste", &ViewAndPaste},
-    NamedRoutine{"mnuHelpText",
-                 [](frmMDIParent& main) {
-                     LaunchDunmark(main.TheApp(), main.TheApp().Exchange<StateFiles>().HelpFilePath);
-                 }},
+    NamedRoutine{
+        "mnuHelpText",
+        [](const MainParts& main) { LaunchDunmark(main.app, main.app.Exchange<StateFiles>().HelpFilePath); }},
     NamedRoutine{"mnuMisc_About", &ShowWindow<frmAbout>},
-    NamedRoutine{"mnuMisc_Settings", [](frmMDIParent& main) { frmSettings(main).ShowModal(); }},
+    NamedRoutine{"mnuMisc_Settings",
+                 [](const MainParts& main) {
+                     frmSettings(main.app, main.tabs, main.menuBar, main.sideBar.Commands()).ShowModal();
+                 }},
     NamedRoutine{"mnuMisc_YourProgram", &ShowWindow<frmSetYourProg>},
-    NamedRoutine{"LoadFindText",
-                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Ostrel); }},
+    NamedRoutine{"LoadFindText", [](const MainParts& main) { LaunchCompanion(main.app, Companion::Ostrel); }},
     NamedRoutine{"LoadFindFiles",
-                 [](frmMDIParent& main) { LaunchCompanion(main.TheApp(), Companion::Veldan); }},
+                 [](const MainParts& main) { LaunchCompanion(main.app, Companion::Veldan); }},
     NamedRoutine{"mnuSideBar", &mnuSideBar},
-    NamedRoutine{"mnuSwitchFocus", [](frmMDIParent& main) { main.mnuSwitchFocus_Click(); }},
-    NamedRoutine{"NextSideBarWidth", [](frmMDIParent& main) { main.TheSideBar().NextWidth(); }},
+    NamedRoutine{"mnuSwitchFocus", &mnuSwitchFocus_Click},
+    NamedRoutine{"NextSideBarWidth", [](const MainParts& main) { main.sideBar.NextWidth(); }},
     NamedRoutine{"SetWindowSize", &SetWindowSize},
-    NamedRoutine{"StyleBack", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Back); }},
-    NamedRoutine{"StyleForward", [](frmMDIParent& main) { SetTabStyle(main, StyleStep::Forward); }},
+    NamedRoutine{"StyleBack", &StyleBack},
+    NamedRoutine{"StyleForward", &StyleForward},
     NamedRoutine{"mnuStyle2", &mnuStyle<2>},
     NamedRoutine{"mnuStyle3", &mnuStyle<3>},
     NamedRoutine{"mnuStyle5", &mnuStyle<5>},
@@ -148,14 +157,14 @@ constexpr std::array kRoutines{
     NamedRoutine{"mnuStyle8", &mnuStyle<8>},
     NamedRoutine{"mnuStyle9", &mnuStyle<9>},
     NamedRoutine{"mnuStyle11", &mnuStyle<11>},
-    NamedRoutine{"ToggleDesktop", [](frmMDIParent& main) { ShowDesktop(main.TheApp()); }},
+    NamedRoutine{"ToggleDesktop", [](const MainParts& main) { ShowDesktop(main.app); }},
     NamedRoutine{"ExploreCaptionFolder", &ExploreCaptionFolder},
     NamedRoutine{"CustomBrowser", &CustomBrowser},
 };
 
 } // namespace
 
-void RunMainRoutine(frmMDIParent& main, std::string_view name) {
+void RunMainRoutine(const MainParts& main, std::string_view name) {
     const auto* found = FindEntry(kRoutines, name, &NamedRoutine::name);
     if (found != nullptr) found->run(main);
 }

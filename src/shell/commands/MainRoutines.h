@@ -4,9 +4,9 @@
 
 namespace korvane {
 
-class frmMDIParent;
+struct MainParts;
 
 /// Runs a routine of the main window by its name; nothing happens when there is none.
-void RunMainRoutine(frmMDIParent& main, std::string_view name);
+void RunMainRoutine(const MainParts& main, std::string_view name);
 
 } // namespace korvane

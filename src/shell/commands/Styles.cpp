@@ -1,8 +1,14 @@
 #include "shell/commands/Styles.h"
 
 #include "context/App.h"
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "controls/Menu.h"
+#include "controls/TabStrip.h"
+#include "controls/TabStyles.h"
 #include "platform/Screen.h"
-#include "shell/main/frmMDIParent.h"
+#include "shell/commands/MainParts.h"
 
 #include <array>
 #include <string>
@@ -30,9 +36,9 @@ bool IsStyleEntry(const MenuEntry& entry) {
     return entry.level == 1 && entry.name.starts_with(kStyleEntry);
 }
 
-void SetStyle(frmMDIParent& main, int number) {
-    main.TheApp().Settings.TabStyle = static_cast<std::int16_t>(number);
-    main.MDITabs1.Style = number;
+void SetStyle(const MainParts& main, int number) {
+    main.app.Settings.TabStyle = static_cast<std::int16_t>(number);
+    main.strip.Style = number;
 }
 
 void SetBackColour(Control& control, Colour colour) {
@@ -43,13 +49,17 @@ void SetBackColour(Control& control, Colour colour) {
 
 } // namespace
 
-void SetTabStyle(frmMDIParent& main, StyleStep step) {
-    SetStyle(main, SteppedTabStyle(main.MDITabs1.Style, step));
+void StyleForward(const MainParts& main) {
+    SetStyle(main, SteppedTabStyle(main.strip.Style, StyleStep::Forward));
 }
 
-void ChooseTabStyle(frmMDIParent& main, int menuIndex) {
-    for (const MenuEntry& entry : main.OfficeMenu1.Entries()) {
-        if (IsStyleEntry(entry)) main.OfficeMenu1.SetChecked(entry.name, entry.name == EntryName(menuIndex));
+void StyleBack(const MainParts& main) {
+    SetStyle(main, SteppedTabStyle(main.strip.Style, StyleStep::Back));
+}
+
+void ChooseTabStyle(const MainParts& main, int menuIndex) {
+    for (const MenuEntry& entry : main.menuBar.Entries()) {
+        if (IsStyleEntry(entry)) main.menuBar.SetChecked(entry.name, entry.name == EntryName(menuIndex));
     }
     SetStyle(main, TabStyleOfMenuIndex(menuIndex));
     ApplyStyleColours(main);
@@ -60,16 +70,16 @@ int TabStyleOfMenuIndex(int menuIndex) {
     return known ? kStylesByIndex[static_cast<std::size_t>(menuIndex)] : kAnyOtherStyle;
 }
 
-void CheckFirstStyle(frmMDIParent& main) {
-    main.OfficeMenu1.SetChecked(EntryName(kCheckedAtFirst), true);
+void CheckFirstStyle(Menu& menuBar) {
+    menuBar.SetChecked(EntryName(kCheckedAtFirst), true);
 }
 
-void ApplyStyleColours(frmMDIParent& main) {
-    const int number = main.MDITabs1.Style;
-    const Colour strip = TabStyleOf(number).Colours(main.TheApp().Screen().IsDark()).strip;
-    for (Control* control : main.Controls())
+void ApplyStyleColours(const MainParts& main) {
+    const int number = main.strip.Style;
+    const Colour strip = TabStyleOf(number).Colours(main.app.Screen().IsDark()).strip;
+    for (Control* control : main.window.Controls())
         SetBackColour(*control, strip);
-    main.MDITabs1.Framed = number < kFirstFrameless;
+    main.strip.Framed = number < kFirstFrameless;
 }
 
 } // namespace korvane

@@ -1,24 +1,32 @@
 #pragma once
 
-#include "controls/TabStyles.h"
-
 namespace korvane {
 
-class frmMDIParent;
+class Menu;
+struct MainParts;
 
-/// Gives the tab strip the next or previous style.
-void SetTabStyle(frmMDIParent& main, StyleStep step);
-
-/// Gives the strip the style of an entry of `mnuStyle`, by the entry's index, with its check mark.
-void ChooseTabStyle(frmMDIParent& main, int menuIndex);
+/// Gives the tab strip the style of an entry of `mnuStyle`, by the entry's index, with its check mark, and
+/// the window its colours.
+template <int menuIndex>
+void mnuStyle(const MainParts& main);
+// The next and the previous style of the strip. They leave menu and colours as they are.
+void StyleForward(const MainParts& main);
+void StyleBack(const MainParts& main);
 
 /// The style number behind an index of `mnuStyle`.
 int TabStyleOfMenuIndex(int menuIndex);
 
 /// Checks the entry of `mnuStyle` that the program starts with.
-void CheckFirstStyle(frmMDIParent& main);
+void CheckFirstStyle(Menu& menuBar);
 
 /// Gives the surfaces of the main window the colours of the strip's style.
-void ApplyStyleColours(frmMDIParent& main);
+void ApplyStyleColours(const MainParts& main);
+
+void ChooseTabStyle(const MainParts& main, int menuIndex);
+
+template <int menuIndex>
+void mnuStyle(const MainParts& main) {
+    ChooseTabStyle(main, menuIndex);
+}
 
 } // namespace korvane

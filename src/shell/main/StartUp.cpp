@@ -4,14 +4,21 @@
 #include "context/WindowFitting.h"
 #include "context/exchange/StartState.h"
 #include "context/exchange/StateFiles.h"
+#include "controls/Form.h"
+#include "controls/Menu.h"
+#include "controls/TabStrip.h"
+#include "controls/TextBox.h"
 #include "platform/FileSystem.h"
 #include "platform/InstanceChannel.h"
 #include "platform/Screen.h"
+#include "shell/commands/MainParts.h"
+#include "shell/commands/SideBar.h"
 #include "shell/main/HandOver.h"
-#include "shell/main/frmMDIParent.h"
+#include "shell/recent/RecentRecord.h"
 #include "shell/settings/LocateSystemFolders.h"
 #include "shell/settings/SettingsFile.h"
 #include "shell/settings/WordRules.h"
+#include "shell/tabs/LoadPipeline.h"
 #include "shell/tabs/QuotedPath.h"
 
 namespace korvane {
@@ -32,63 +39,63 @@ void SetStartValues(App& app) {
     SetWordRules(app);
 }
 
-void ApplySettings(frmMDIParent& main) {
-    const Settings& settings = main.TheApp().Settings;
+void ApplySettings(const MainParts& main) {
+    const Settings& settings = main.app.Settings;
     if (!settings.MenuFontName.empty() && settings.MenuFontSize > 0) {
-        main.OfficeMenu1.Font =
+        main.menuBar.Font =
             FontSpec{settings.MenuFontName, settings.MenuFontSize, settings.MenuFontBold != 0};
     }
-    main.MDITabs1.Style = settings.TabStyle;
+    main.strip.Style = settings.TabStyle;
 }
 
-void PlaceWindow(frmMDIParent& main) {
-    const Settings& settings = main.TheApp().Settings;
+void PlaceWindow(const MainParts& main) {
+    const Settings& settings = main.app.Settings;
     // What is stored goes to the fitting, whatever the screen made of it: a stored 0 is a place never stored.
     Rect place{Twips{settings.MainLeft}, Twips{settings.MainTop}, Twips{settings.MainWidth},
                Twips{settings.MainHeight}};
-    main.Top = place.top;
-    main.Left = place.left;
-    main.Height = place.height;
-    main.Width = place.width;
-    FitWindowToWorkArea(main.TheApp().Screen().WorkArea(), main, place, kMainWindowGap);
+    main.window.Top = place.top;
+    main.window.Left = place.left;
+    main.window.Height = place.height;
+    main.window.Width = place.width;
+    FitWindowToWorkArea(main.app.Screen().WorkArea(), main.window, place, kMainWindowGap);
 }
 
-void ListenForFiles(frmMDIParent& main) {
-    main.TheApp().Instance().Listen({
-        [&main](TextView path) { main.txtCommand.Text = Text(path); },
-        [&main] { return main.txtCommand.Text.Get().empty(); },
-        [&main] { main.Host().Raise(main); },
+void ListenForFiles(const MainParts& main, TextBox& txtCommand) {
+    main.app.Instance().Listen({
+        [&txtCommand](TextView path) { txtCommand.Text = Text(path); },
+        [&txtCommand] { return txtCommand.Text.Get().empty(); },
+        [&window = main.window] { window.Host().Raise(window); },
     });
 }
 
-void EndSecondStart(frmMDIParent& main, const Text& startFile) {
-    const bool answered = HandOver(main.TheApp(), startFile);
-    main.Close();
-    if (answered) main.TheApp().Instance().ActivateRunning();
+void EndSecondStart(const MainParts& main, const Text& startFile) {
+    const bool answered = HandOver(main.app, startFile);
+    main.window.Close();
+    if (answered) main.app.Instance().ActivateRunning();
 }
 
 } // namespace
 
-void StartUp(frmMDIParent& main) {
-    App& app = main.TheApp();
+void StartUp(const MainParts& main, TextBox& txtCommand, const Text& commandLine) {
+    App& app = main.app;
     StartState& start = app.Exchange<StartState>();
     SetStartValues(app);
     LocateSystemFolders(app);
     ReadSettings(app);
     ApplySettings(main);
-    main.Recents().Read(app);
+    main.recents.Read(app);
     PlaceWindow(main);
-    main.TheSideBar().BuildSideBar();
-    main.Resize();
+    main.sideBar.BuildSideBar();
+    main.window.Resize();
     // The whole line is one path, blanks and all.
-    const Text startFile = WithoutOuterQuotes(main.CommandLine());
+    const Text startFile = WithoutOuterQuotes(commandLine);
     start.SecondInstance = 0;
     start.LoadedByCommand = 0;
     if (app.Instance().PreviousInstanceRuns()) return EndSecondStart(main, startFile);
-    main.MDITabs1.On = true;
-    ListenForFiles(main);
+    main.strip.On = true;
+    ListenForFiles(main, txtCommand);
     if (!startFile.empty() && app.Files().FileExists(startFile)) {
-        main.Pipeline().OpenDatabase(startFile, LoadInto::NewTab);
+        main.pipeline.OpenDatabase(startFile, LoadInto::NewTab);
     }
 }
 

@@ -29,10 +29,11 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       tabs_(app, MDITabs1),
       pipeline_(app, tabs_, recents_, *this),
       sideBar_(app, {Picture2, lblListBar, iGridListBar},
-               [this](std::string_view command) { RunCommand(command); }) {
+               [this](std::string_view command) { RunCommand(command); }),
+      parts_{app, *this, OfficeMenu1, MDITabs1, sideBar_, tabs_, pipeline_, recents_, windowSize_} {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();
-    CheckFirstStyle(*this);
+    CheckFirstStyle(OfficeMenu1);
     Wire();
 }
 
@@ -76,7 +77,7 @@ void frmMDIParent::Route(std::string_view name) {
     case CommandTarget::Menu:
         return;
     case CommandTarget::Main:
-        return RunMainRoutine(*this, command->name);
+        return RunMainRoutine(parts_, command->name);
     case CommandTarget::NewTab:
         tabs_.AddNewTab();
         [[fallthrough]];
@@ -90,12 +91,7 @@ void frmMDIParent::ShowPopupMenu() {
 }
 
 void frmMDIParent::mnuSwitchFocus_Click() {
-    if (sideBar_.FocusOnSideBar == 0) {
-        if (frmMDIChild* tab = tabs_.Active()) tab->GridStore().GridSetFocus();
-    } else {
-        sideBar_.TakeFocus();
-    }
-    sideBar_.FocusOnSideBar = sideBar_.FocusOnSideBar == 0 ? 1 : 0;
+    RunMainRoutine(parts_, "mnuSwitchFocus");
 }
 
 Text frmMDIParent::GetActiveFolder() {
@@ -117,7 +113,7 @@ void frmMDIParent::ReleaseClosedTabs() {
 }
 
 void frmMDIParent::Load() {
-    StartUp(*this);
+    StartUp(parts_, txtCommand, commandLine_);
 }
 
 void frmMDIParent::Activate() {

@@ -8,6 +8,7 @@
 #include "controls/Menu.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
+#include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
 #include "shell/recent/RecentRecord.h"
 #include "shell/settings/frmWindowSize.h"
@@ -40,14 +41,7 @@ public:
     GridBox iGridListBar;
     TabStrip MDITabs1{*this, "MDITabs1"};
 
-    WindowSizeChoice WindowSize;
-
-    App& TheApp() { return app_; }
-    Tabs& TheTabs() { return tabs_; }
-    RecentRecord& Recents() { return recents_; }
-    LoadPipeline& Pipeline() { return pipeline_; }
-    SideBar& TheSideBar() { return sideBar_; }
-    const Text& CommandLine() const { return commandLine_; }
+    const MainParts& Parts() const { return parts_; }
 
     /// Calls a routine of the tab that is active now. No tab, and no routine of this name, are no error.
     void InvokeOnActiveTab(std::string_view routine);
@@ -80,6 +74,8 @@ private:
     RecentRecord recents_;
     LoadPipeline pipeline_;
     SideBar sideBar_;
+    WindowSizeChoice windowSize_;
+    MainParts parts_;
     std::vector<std::unique_ptr<CommandButton>> toolBar_;
     bool firstActivation_ = true;
     /// How many commands run within each other.

@@ -5,10 +5,10 @@
 #include "context/ports/FontPicker.h"
 #include "context/ports/SystemFileDialog.h"
 #include "platform/FileSystem.h"
-#include "shell/main/frmMDIParent.h"
 #include "shell/settings/ProgramPicker.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"
+#include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 
 #include <array>
@@ -51,8 +51,12 @@ void ChooseFont(const App& app, const FontFields& fields, Control& control) {
 
 } // namespace
 
-frmSettings::frmSettings(frmMDIParent& main)
-    : Form(main.Host(), "frmSettings", u"Settings"), main_(main), app_(main.TheApp()) {
+frmSettings::frmSettings(App& app, Tabs& tabs, Control& menuBar, Control& sideBar)
+    : Form(app.Forms(), "frmSettings", u"Settings"),
+      app_(app),
+      tabs_(tabs),
+      menuBar_(menuBar),
+      sideBar_(sideBar) {
     txtBrannockLocation.Locked = true;
     txtWallpaper.Locked = true;
     WireButtons();
@@ -97,9 +101,9 @@ void frmSettings::Unload() {
 void frmSettings::chkYesShowFullPath_Click() {
     app_.Settings.ShowFullPath = chkYesShowFullPath.Value;
     // The other tabs follow when they are loaded the next time.
-    frmMDIChild* tab = main_.TheTabs().Active();
+    frmMDIChild* tab = tabs_.Active();
     if (tab == nullptr) return;
-    const Text& path = main_.TheTabs().TabState[tab->Slot()].Path;
+    const Text& path = tabs_.TabState[tab->Slot()].Path;
     tab->Caption = app_.Settings.ShowFullPath == 1 ? path : Text(app_.Files().Style().NamePart(path));
 }
 
@@ -127,14 +131,13 @@ void frmSettings::cmdGetWallpaperFile_Click() {
 
 void frmSettings::cmdMenuFont_Click() {
     Settings& settings = app_.Settings;
-    ChooseFont(app_, {settings.MenuFontName, settings.MenuFontSize, settings.MenuFontBold},
-               main_.OfficeMenu1);
+    ChooseFont(app_, {settings.MenuFontName, settings.MenuFontSize, settings.MenuFontBold}, menuBar_);
 }
 
 void frmSettings::cmdSidebarFont_Click() {
     Settings& settings = app_.Settings;
     ChooseFont(app_, {settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold},
-               main_.iGridListBar);
+               sideBar_);
 }
 
 } // namespace korvane

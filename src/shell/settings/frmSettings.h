@@ -8,12 +8,14 @@
 namespace korvane {
 
 class App;
-class frmMDIParent;
+class Tabs;
 
 /// The general options. Modal, without a Cancel: each control acts when it is touched.
 class frmSettings : public Form {
 public:
-    explicit frmSettings(frmMDIParent& main);
+    /// `menuBar` and `sideBar` are those of the main window, whose fonts are chosen here. All outlive the
+    /// window.
+    frmSettings(App& app, Tabs& tabs, Control& menuBar, Control& sideBar);
 
     CheckBox chkYesShowFullPath{*this, "chkYesShowFullPath", u"Show path + file name in tab"};
     CheckBox chkAllowSorting{*this, "chkAllowSorting", u"Allow sorting on column header click"};
@@ -49,8 +51,10 @@ private:
     void cmdMenuFont_Click();
     void cmdSidebarFont_Click();
 
-    frmMDIParent& main_;
     App& app_;
+    Tabs& tabs_;
+    Control& menuBar_;
+    Control& sideBar_;
 };
 
 } // namespace korvane

@@ -38,7 +38,7 @@ Stage::Stage() {
     Main().EnsureLoaded();
     Main().Show();
     for (const TextView name : kSamples)
-        Main().Pipeline().OpenDatabase(InData(name), LoadInto::NewTab);
+        Main().Parts().pipeline.OpenDatabase(InData(name), LoadInto::NewTab);
     FillRequests();
     Settle();
 }
@@ -76,7 +76,7 @@ void Stage::FillRequests() {
     all_.child.Table().TxtDbFile = path;
     ReadTableData(all_.tab);
     // A record of a file that has gone in between.
-    Main().Recents().AddToRecent(u"C:\\data\\Old list.tbx", 0, app_.Clock().Now());
+    Main().Parts().recents.AddToRecent(u"C:\\data\\Old list.tbx", 0, app_.Clock().Now());
 }
 
 } // namespace korvane

@@ -209,7 +209,7 @@ TEST_F(EndToEnd, TheNextStartComesUpAsTheLastRunEnded) {
     next.Start();
     EXPECT_EQ(next.Main().Left.Get(), Twips{900});
     EXPECT_EQ(next.Main().MDITabs1.Style, 13);
-    EXPECT_EQ(next.Main().Recents().RecentEntries[1], u"C:\\Data\\Books.tbx | 0*2026.11.21   10:30");
+    EXPECT_EQ(next.Main().Parts().recents.RecentEntries[1], u"C:\\Data\\Books.tbx | 0*2026.11.21   10:30");
     EXPECT_EQ(next.app.Settings.ReturnPassword, u"secret");
     EXPECT_TRUE(next.Captions().empty());
 }

@@ -145,14 +145,14 @@ TEST_F(SideBarTest, AStepThatIsNoneHasTheGridsOwnWidthAndStepsOnToTheFirst) {
     settings.SideBarWidthStep = 8;
     Start(settings);
     EXPECT_EQ(p.Main().iGridListBar.Width.Get(), Twips{2190});
-    p.Main().TheSideBar().NextWidth();
+    p.Main().Parts().sideBar.NextWidth();
     EXPECT_EQ(p.app.Settings.SideBarWidthStep, 0);
 }
 
 TEST_F(SideBarTest, ItsWidthIsThatOfItsLabelAndLessThanThatOfItsPanel) {
     Start();
     for (int i = 0; i < 8; ++i) {
-        p.Main().TheSideBar().NextWidth();
+        p.Main().Parts().sideBar.NextWidth();
         const Twips width = p.Main().iGridListBar.Width;
         EXPECT_EQ(p.Main().lblListBar.Width.Get(), width);
         EXPECT_EQ(p.Main().Picture2.Width.Get(), width + 80);
@@ -161,7 +161,7 @@ TEST_F(SideBarTest, ItsWidthIsThatOfItsLabelAndLessThanThatOfItsPanel) {
 
 TEST_F(SideBarTest, AHiddenOneStepsOnButComesUpOnlyWhenItIsAskedFor) {
     p.StartWith({});
-    p.Main().TheSideBar().NextWidth();
+    p.Main().Parts().sideBar.NextWidth();
     EXPECT_EQ(p.app.Settings.SideBarWidthStep, 1);
     EXPECT_FALSE(p.Main().Picture2.Visible);
     p.Choose("mnuSideBar");

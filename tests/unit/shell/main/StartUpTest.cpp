@@ -102,8 +102,8 @@ TEST_F(StartUpTest, WithoutTheRegistrysEntryDriveCStandsForTheFolderOfPrograms) 
 TEST_F(StartUpTest, TheRecordIsRead) {
     p.files.AddFile(u"C:\\Korvane\\Korvane.rec", "one\r\ntwo\r\n");
     p.StartWith({});
-    EXPECT_EQ(p.Main().Recents().RecentEntries[2], u"two");
-    EXPECT_EQ(p.Main().Recents().RecentNext, 3);
+    EXPECT_EQ(p.Main().Parts().recents.RecentEntries[2], u"two");
+    EXPECT_EQ(p.Main().Parts().recents.RecentNext, 3);
 }
 
 TEST_F(StartUpTest, TheCommandLineIsOnePathBlanksAndAll) {

@@ -1,5 +1,6 @@
 #include "shell/commands/Styles.h"
 
+#include "controls/TabStyles.h"
 #include "shell/main/frmMDIParent.h"
 #include "support/TestApp.h"
 
@@ -89,7 +90,7 @@ TEST_F(StylesTest, TheStripIsFramedBelowStyle11) {
     main.OfficeMenu1.Choose("mnuStyle5");
     EXPECT_TRUE(main.MDITabs1.Framed);
     main.MDITabs1.Style = 11;
-    ApplyStyleColours(main);
+    ApplyStyleColours(main.Parts());
     EXPECT_FALSE(main.MDITabs1.Framed);
 }
 

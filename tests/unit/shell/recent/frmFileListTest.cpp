@@ -37,7 +37,7 @@ protected:
         for (std::size_t i = 0; i < paths.size(); ++i)
             Recents().RecentEntries[i + 1] = paths[i] + u" | 0*2026.03.01   14:05";
     }
-    RecentRecord& Recents() { return p.Main().Recents(); }
+    RecentRecord& Recents() { return p.Main().Parts().recents; }
 
     /// Opens the list and lets `act` be done in it; what leaves it open is closed.
     void InList(const std::function<void(frmFileList&)>& act) {
@@ -139,22 +139,22 @@ TEST_F(FileListTest, RowsMarkedAsLostInTheirPlaceAreSkipped) {
 }
 
 TEST_F(FileListTest, TheSoleEmptyTabGoesBeforeALoad) {
-    p.Main().TheTabs().AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
     InList([](frmFileList& f) { f.cmdLoad.Press(); });
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
     EXPECT_EQ(p.Tab(1).Caption.Get(), u"a.tbx");
 }
 
 TEST_F(FileListTest, OneOfTwoEmptyTabsStays) {
-    p.Main().TheTabs().AddNewTab();
-    p.Main().TheTabs().AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
     InList([](frmFileList& f) { f.cmdLoad.Press(); });
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx", u"a.tbx"}));
 }
 
 // Kept for compatibility: untitled-tab-asks.
 TEST_F(FileListTest, ATypedInEmptyTabAsksAndStaysWithoutASlotOnCancel) {
-    p.Main().TheTabs().AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
     p.Tab(1).Table().TableAltered = 1;
     p.user.On<frmFileList>([](frmFileList& f) { f.cmdLoad.Press(); });
     p.user.Answer(Answer::Cancel);
@@ -162,7 +162,7 @@ TEST_F(FileListTest, ATypedInEmptyTabAsksAndStaysWithoutASlotOnCancel) {
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"a.tbx"}));
     EXPECT_EQ(p.Tab(1).Caption.Get(), u"a.tbx");
     p.user.Answer(Answer::No);
-    p.Main().CloseTab(*p.Main().MDITabs1.Children().front());
+    p.Main().MDITabs1.CloseWanted(*p.Main().MDITabs1.Children().front());
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
     EXPECT_TRUE(p.Main().Close());
 }
@@ -524,7 +524,7 @@ TEST_F(FileListTest, ASoleTabWhoseCaptionOnlyStartsLikeAnEmptyOneGoesToo) {
 }
 
 TEST_F(FileListTest, ATabThatWasWrittenToFromOutsideStays) {
-    p.Main().TheTabs().AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
     p.AllTabs().TabState[1].Dirty = -1;
     InList([](frmFileList& f) { f.cmdLoad.Press(); });
     EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"a.tbx"}));
@@ -532,7 +532,7 @@ TEST_F(FileListTest, ATabThatWasWrittenToFromOutsideStays) {
 
 // Kept for compatibility: lost-first-file-keeps-tab.
 TEST_F(FileListTest, AFirstFileThatIsLostLeavesTheEmptyTabThere) {
-    p.Main().TheTabs().AddNewTab();
+    p.Main().Parts().tabs.AddNewTab();
     SetRecord({kGone, kA});
     p.user.On<frmFileList>([](frmFileList& f) {
         f.ListView1.SetSelected(2, true);

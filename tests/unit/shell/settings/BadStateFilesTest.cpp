@@ -219,7 +219,7 @@ TEST_F(BadState, AFullDiskCutsTheFilesInSilenceAndTheNextStartReadsWhatThereIs) 
     next.files.AddFile(kRec, "");
     next.Start();
     EXPECT_EQ(next.app.Settings.CurDirAtSave, u"C:\\");
-    EXPECT_EQ(next.Main().Recents().RecentNext, 1);
+    EXPECT_EQ(next.Main().Parts().recents.RecentNext, 1);
 }
 
 } // namespace

@@ -21,7 +21,7 @@ protected:
 TEST_F(ShellLooks, Settings) {
     p.StartWith({});
     ExpectLook(
-        frmSettings(p.Main()), "shell/settings",
+        frmSettings(p.app, p.AllTabs(), p.Main().OfficeMenu1, p.Main().iGridListBar), "shell/settings",
         {"Your custom browser", "Your program for viewing PDF files", "Wallpaper file:", "Return password"});
 }
 

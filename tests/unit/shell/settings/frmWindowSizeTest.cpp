@@ -37,7 +37,7 @@ class WindowSizeTest : public testing::Test {
 protected:
     WindowSizeTest() {
         t.screen.SetWorkArea(MakeRect(0, 0, 20000, 10001));
-        main.TheTabs().AddNewTab();
+        main.Parts().tabs.AddNewTab();
         PutAt(main, MakeRect(100, 200, 6000, 4001));
     }
 
@@ -80,7 +80,7 @@ TEST_F(WindowSizeTest, HasItsTextsAndItsFirstEntriesChosen) {
 }
 
 TEST_F(WindowSizeTest, NeedsATab) {
-    main.CloseTab(*main.TheTabs().Active());
+    main.MDITabs1.CloseWanted(*main.Parts().tabs.Active());
     main.RunCommand("mnuWindowSize");
     EXPECT_EQ(PlaceOf(main), MakeRect(100, 200, 6000, 4001));
 }
@@ -170,7 +170,7 @@ TEST_F(WindowSizeTest, AListWithoutASelectionLeavesTheWindowAlone) {
 }
 
 TEST_F(WindowSizeTest, TheGridHasTheKeyboardAfterwards) {
-    FocusCounter focus(main.TheTabs().Active()->GridStore());
+    FocusCounter focus(main.Parts().tabs.Active()->GridStore());
     ChooseLayout(0);
     EXPECT_EQ(focus.Count(), 1);
     t.user.On<frmWindowSize>([](frmWindowSize& f) { f.cmdCancel.Press(); });

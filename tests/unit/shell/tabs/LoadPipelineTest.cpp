@@ -25,7 +25,7 @@ protected:
             p.AddTable(path, {ToUtf8(path)});
     }
     Text FirstCell(int slot) { return p.Tab(slot).GridStore().CellText(Row{1}, Col{1}); }
-    Text Recent(std::size_t number) { return p.Main().Recents().RecentEntries[number]; }
+    Text Recent(std::size_t number) { return p.Main().Parts().recents.RecentEntries[number]; }
 
     TestProgram p;
 };
@@ -244,24 +244,24 @@ TEST_F(LoadPipelineTest, LoadedFilesEnterTheRecordTheLastOneFirst) {
 // Kept for compatibility: record-offset-unused.
 TEST_F(LoadPipelineTest, ALoadFromTheRecentListHandsItsOffsetOverToNobody) {
     p.StartWith({});
-    p.Main().Recents().LoadFromRecent = 1;
-    p.Main().Recents().RecentOffsets = {42};
-    p.Main().Pipeline().OpenDatabase(kA, LoadInto::NewTab);
-    EXPECT_EQ(p.Main().Recents().RecentOffset, 42);
+    p.Main().Parts().recents.LoadFromRecent = 1;
+    p.Main().Parts().recents.RecentOffsets = {42};
+    p.Main().Parts().pipeline.OpenDatabase(kA, LoadInto::NewTab);
+    EXPECT_EQ(p.Main().Parts().recents.RecentOffset, 42);
     EXPECT_EQ(Recent(1), kA + u" | 0*2026.11.21   10:30");
 }
 
 TEST_F(LoadPipelineTest, WithoutANewTabTheActiveOneIsFilled) {
     p.StartWith({});
     p.OpenNewTab();
-    p.Main().Pipeline().OpenDatabase(kA, LoadInto::ActiveTab);
+    p.Main().Parts().pipeline.OpenDatabase(kA, LoadInto::ActiveTab);
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
     EXPECT_EQ(FirstCell(1), kA);
 }
 
 TEST_F(LoadPipelineTest, WithoutANewTabAndWithoutAnyNothingIsRead) {
     p.StartWith({});
-    EXPECT_TRUE(p.Main().Pipeline().OpenDatabase(kA, LoadInto::ActiveTab));
+    EXPECT_TRUE(p.Main().Parts().pipeline.OpenDatabase(kA, LoadInto::ActiveTab));
     EXPECT_TRUE(p.Captions().empty());
     EXPECT_TRUE(Recent(1).starts_with(kA));
 }

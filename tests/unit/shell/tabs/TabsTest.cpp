@@ -16,7 +16,7 @@ protected:
         for (int i = 0; i < tabs; ++i)
             p.AllTabs().AddNewTab();
     }
-    void CloseTab(int slot) { p.Main().CloseTab(p.Tab(slot)); }
+    void CloseTab(int slot) { p.Main().MDITabs1.CloseWanted(p.Tab(slot)); }
     int ActiveSlot() { return p.AllTabs().Active()->Slot(); }
 
     TestProgram p;

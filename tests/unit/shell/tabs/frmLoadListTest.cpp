@@ -77,7 +77,7 @@ TEST_F(LoadListTest, ShowsTheTabsShortOrLong) {
 
 TEST_F(LoadListTest, TabsAreCountedAndFoundByTheirSlots) {
     OpenBoth();
-    p.Main().CloseTab(p.Tab(1));
+    p.Main().MDITabs1.CloseWanted(p.Tab(1));
     InList([](frmLoadList& f) {
         EXPECT_TRUE(Texts(f).at(1).starts_with(u"[1]  b.tbx"));
         EXPECT_EQ(f.FileTree.Nodes().at(1).key, u"X_2");
@@ -227,7 +227,7 @@ TEST_F(LoadListTest, ATabThatClosesMeanwhileIsNotSwitchedTo) {
     InList([this](frmLoadList& f) {
         f.FileTree.Select(u"X_1");
         f.cmdSwitch.Press();
-        p.screen.QueueMessage([this] { p.Main().CloseTab(p.Tab(1)); });
+        p.screen.QueueMessage([this] { p.Main().MDITabs1.CloseWanted(p.Tab(1)); });
     });
     EXPECT_EQ(p.AllTabs().Active(), &p.Tab(2));
 }
