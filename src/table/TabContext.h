@@ -16,4 +16,7 @@ struct TabContext {
     TableHistory* history = nullptr;
 };
 
+/// A routine of a tab.
+using TabRoutine = void (*)(const TabContext&);
+
 } // namespace korvane

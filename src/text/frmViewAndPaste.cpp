@@ -208,7 +208,7 @@ void frmViewAndPaste::mnuPinsey_Click() {
 }
 
 void frmViewAndPaste::mnuYourProgram_Click() {
-    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand("mnuMisc_YourProgram");
+    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand(CommandName::mnuMisc_YourProgram);
 }
 
 void frmViewAndPaste::mnuExplorer_Click() {

@@ -6,15 +6,26 @@
 
 namespace korvane {
 
+struct KeyEvent;
+
+/// The commands that windows below the main window run by name.
+namespace CommandName {
+inline constexpr std::string_view mnuHelpText = "mnuHelpText";
+inline constexpr std::string_view mnuMisc_Settings = "mnuMisc_Settings";
+inline constexpr std::string_view mnuMisc_Wallpaper = "mnuMisc_Wallpaper";
+inline constexpr std::string_view mnuMisc_Websites = "mnuMisc_Websites";
+inline constexpr std::string_view mnuMisc_YourProgram = "mnuMisc_YourProgram";
+} // namespace CommandName
+
 /// What windows below the main window ask of it.
 class MainWindow {
 public:
     virtual ~MainWindow() = default;
-    /// Moves the keyboard between the grid and the sidebar.
-    virtual void mnuSwitchFocus_Click() = 0;
+    /// Takes a key that went down in the grid of the active tab.
+    virtual void GridKeyDown(KeyEvent& key) = 0;
     /// Shows the table's menu at the mouse pointer.
     virtual void ShowPopupMenu() = 0;
-    /// Runs a command as if it were chosen in the menu.
+    /// Runs a command as if it were chosen in the menu. An unknown name does nothing, silently.
     virtual void RunCommand(std::string_view name) = 0;
     /// The folder that the active tab's caption names; empty when it names none, and, with a message, when no
     /// tab is open.

@@ -2,24 +2,12 @@
 
 #include "common/text/Text.h"
 #include "controls/Menu.h"
+#include "shell/commands/CommandCall.h"
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 
 namespace korvane {
-
-/// Who carries a command out. A target that isn't there is no error: the command then does nothing.
-enum class CommandTarget : std::uint8_t {
-    /// Nobody: the entry opens a menu.
-    Menu,
-    /// The routine `<name>_Clack` of the tab that is active at the time of the call.
-    Tab,
-    /// The same, on a new tab that is made for it.
-    NewTab,
-    /// The routine `<name>` of the main window.
-    Main,
-};
 
 /// A command of the program.
 struct Command {
@@ -29,7 +17,7 @@ struct Command {
     TextView caption;
     /// The key that the menu binds. Where a caption names another one, the caption stands as it is.
     Shortcut shortcut;
-    CommandTarget target;
+    CommandCall calls{};
 };
 inline constexpr int kNotInMenu = -1;
 
@@ -48,14 +36,14 @@ std::span<const MenuEntry> WindowMenuEntries();
 struct ToolBarButton {
     std::string_view name;
     TextView toolTip;
-    std::string_view command;
+    const Command& command;
 };
 std::span<const ToolBarButton> ToolBarButtons();
 
 /// A row of the sidebar.
 struct SideBarRow {
     TextView text;
-    std::string_view command;
+    const Command& command;
 };
 std::span<const SideBarRow> SideBarRows();
 

@@ -1,53 +1,61 @@
 #include "shell/commands/GridKeys.h"
 
-#include <algorithm>
-#include <array>
+#include "context/App.h"
+#include "context/Desktop.h"
+#include "dbops/commands/ColumnCommands.h"
+#include "dbops/commands/RowLookCommands.h"
+#include "dbops/rules/RowFontFlags.h"
+#include "dbops/rules/UndoCommands.h"
+#include "dbops/windows/frmViewCell.h"
+#include "grid/Grid.h"
+#include "platform/FileSystem.h"
+#include "shell/commands/MainParts.h"
+#include "shell/commands/MainRoutines.h"
+#include "shell/tabs/Tabs.h"
+#include "shell/tabs/frmMDIChild.h"
+#include "table/SaveCommands.h"
+#include "table/TableModel.h"
 
 namespace korvane {
 
 namespace {
 
-using enum GridKey::Target;
+using enum KeyUse;
 
-constexpr int kShiftAlt = Mask::Shift | Mask::Alt;
-constexpr int kCtrlAlt = Mask::Ctrl | Mask::Alt;
-constexpr int kCtrlShift = Mask::Ctrl | Mask::Shift;
-constexpr bool kNotSwallowed = false;
-
-constexpr std::array kGridKeys{
-    GridKey{Key::F(10), GridKey::kAnyMask, Tab, "mnuFile_SaveAs_Clack"},
-    GridKey{'X', Mask::Alt, Main, "mnuSwitchFocus"},
-    GridKey{Key::F(4), Mask::None, Tab, "mnuEdit_EditCell_Clack"},
-    GridKey{'1', Mask::Ctrl, Tab, "mnuEdit_Font_Clack"},
-    GridKey{'D', kCtrlAlt, Main, "ToggleDesktop"},
-    GridKey{'V', kCtrlAlt, Main, "ViewAndPaste"},
-    GridKey{'X', kCtrlAlt, Tab, "ExploreTableFolder"},
+constexpr GridKey kGridKeys[] = {
+    {"Any+F10", &mnuFile_SaveAs_Clack},
+    {"Alt+X", &mnuSwitchFocus_Click},
+    {"F4", &mnuEdit_EditCell_Clack},
+    {"Ctrl+1", &mnuEdit_Font_Clack},
+    {"Ctrl+Alt+D", &ToggleDesktop},
+    {"Ctrl+Alt+V", &ViewAndPaste},
+    {"Ctrl+Alt+X", &ExploreTableFolder},
     // The nine looks of a row, by number and by letter.
-    GridKey{'1', kCtrlAlt, Tab, "RowColour0", kNotSwallowed},
-    GridKey{'F', kCtrlAlt, Tab, "RowColour0", kNotSwallowed},
-    GridKey{'2', kCtrlAlt, Tab, "RowColour1", kNotSwallowed},
-    GridKey{'H', kCtrlAlt, Tab, "RowColour1", kNotSwallowed},
-    GridKey{'3', kCtrlAlt, Tab, "RowColour2", kNotSwallowed},
-    GridKey{'Y', kCtrlAlt, Tab, "RowColour2", kNotSwallowed},
-    GridKey{'4', kCtrlAlt, Tab, "RowColour3", kNotSwallowed},
-    GridKey{'R', kCtrlAlt, Tab, "RowColour3", kNotSwallowed},
-    GridKey{'5', kCtrlAlt, Tab, "RowColour4", kNotSwallowed},
-    GridKey{'K', kCtrlAlt, Tab, "RowColour4", kNotSwallowed},
-    GridKey{'6', kCtrlAlt, Tab, "RowColour5", kNotSwallowed},
-    GridKey{'L', kCtrlAlt, Tab, "RowColour5", kNotSwallowed},
-    GridKey{'7', kCtrlAlt, Tab, "RowColour6", kNotSwallowed},
-    GridKey{'G', kCtrlAlt, Tab, "RowColour6", kNotSwallowed},
-    GridKey{'8', kCtrlAlt, Tab, "RowColour7", kNotSwallowed},
-    GridKey{'A', kCtrlAlt, Tab, "RowColour7", kNotSwallowed},
-    GridKey{'9', kCtrlAlt, Tab, "RowColour8", kNotSwallowed},
-    GridKey{'O', kCtrlAlt, Tab, "RowColour8", kNotSwallowed},
-    GridKey{Key::F(7), kShiftAlt, TabThenFocus, "mnuSidebarWidth_Clack"},
-    GridKey{'B', Mask::Alt, Main, "CustomBrowser"},
-    GridKey{'I', kCtrlShift, Tab, "MakeEmailItalic"},
-    GridKey{'B', kCtrlShift, Tab, "MakeEmailBold"},
-    GridKey{'X', kCtrlShift, Tab, "MakeEmailStrikethru"},
-    GridKey{'Z', Mask::Ctrl, Tab, "UndoEdit"},
-    GridKey{'Z', kCtrlShift, Tab, "RedoEdit"},
+    {"Ctrl+Alt+1", &RowColour<0>, Passes},
+    {"Ctrl+Alt+F", &RowColour<0>, Passes},
+    {"Ctrl+Alt+2", &RowColour<1>, Passes},
+    {"Ctrl+Alt+H", &RowColour<1>, Passes},
+    {"Ctrl+Alt+3", &RowColour<2>, Passes},
+    {"Ctrl+Alt+Y", &RowColour<2>, Passes},
+    {"Ctrl+Alt+4", &RowColour<3>, Passes},
+    {"Ctrl+Alt+R", &RowColour<3>, Passes},
+    {"Ctrl+Alt+5", &RowColour<4>, Passes},
+    {"Ctrl+Alt+K", &RowColour<4>, Passes},
+    {"Ctrl+Alt+6", &RowColour<5>, Passes},
+    {"Ctrl+Alt+L", &RowColour<5>, Passes},
+    {"Ctrl+Alt+7", &RowColour<6>, Passes},
+    {"Ctrl+Alt+G", &RowColour<6>, Passes},
+    {"Ctrl+Alt+8", &RowColour<7>, Passes},
+    {"Ctrl+Alt+A", &RowColour<7>, Passes},
+    {"Ctrl+Alt+9", &RowColour<8>, Passes},
+    {"Ctrl+Alt+O", &RowColour<8>, Passes},
+    {"Alt+Shift+F7", &NextSideBarWidthFromGrid},
+    {"Alt+B", &CustomBrowser},
+    {"Ctrl+Shift+I", &MakeEmailItalic},
+    {"Ctrl+Shift+B", &MakeEmailBold},
+    {"Ctrl+Shift+X", &MakeEmailStrikethru},
+    {"Ctrl+Z", &UndoEdit},
+    {"Ctrl+Shift+Z", &RedoEdit},
 };
 
 } // namespace
@@ -56,10 +64,14 @@ std::span<const GridKey> GridKeys() {
     return kGridKeys;
 }
 
-const GridKey* FindGridKey(const KeyEvent& key) {
-    const auto found = std::find_if(kGridKeys.begin(), kGridKeys.end(),
-                                    [&key](const GridKey& candidate) { return candidate.Matches(key); });
-    return found == kGridKeys.end() ? nullptr : &*found;
+void ExploreTableFolder(const TabContext& tab) {
+    const PathStyle style = tab.app.Files().Style();
+    ExploreFolder(tab.app, style.DirectoryForChange(style.FolderPart(tab.table.TxtDbFile)));
+}
+
+void NextSideBarWidthFromGrid(const MainParts& main) {
+    mnuSidebarWidth(main);
+    if (frmMDIChild* tab = main.tabs.Active()) tab->GridStore().GridSetFocus();
 }
 
 } // namespace korvane

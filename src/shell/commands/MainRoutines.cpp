@@ -1,6 +1,5 @@
 #include "shell/commands/MainRoutines.h"
 
-#include "common/text/FindEntry.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
@@ -14,7 +13,6 @@
 #include "platform/FileSystem.h"
 #include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
-#include "shell/commands/Styles.h"
 #include "shell/commands/frmAbout.h"
 #include "shell/settings/frmSetYourProg.h"
 #include "shell/settings/frmSettings.h"
@@ -24,13 +22,20 @@
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmLoadList.h"
 #include "shell/tabs/frmMDIChild.h"
-
-#include <algorithm>
-#include <array>
+#include "table/DesignCommand.h"
+#include "table/ImportCommand.h"
+#include "table/TableFile.h"
 
 namespace korvane {
 
 namespace {
+
+void RunOnNewTab(const MainParts& main, TabRoutine routine) {
+    main.tabs.AddNewTab();
+    main.tabs.RunOnActive(routine);
+}
+
+} // namespace
 
 void mnuFile_Open(const MainParts& main) {
     const Text caption = main.window.Caption;
@@ -42,11 +47,10 @@ void mnuFile_SaveAll(const MainParts& main) {
     for (int slot = 1; slot <= main.tabs.TabState.UpperBound(); ++slot) {
         frmMDIChild* tab = main.tabs.Document(slot);
         if (tab == nullptr) continue;
-        tab->Invoke("SaveThisTable");
+        tab->Run(&SaveThisTable);
         list += tab->Caption.Get() + Text(kCrLf);
     }
-    if (list.empty()) return;
-    Inform(main.app, u"Databases saved to disk: \r\n\r\n" + list);
+    if (!list.empty()) Inform(main.app, u"Databases saved to disk: \r\n\r\n" + list);
 }
 
 void mnuFile_Close(const MainParts& main) {
@@ -57,8 +61,51 @@ void mnuFile_Recent(const MainParts& main) {
     RecentFiles(main.app, main.tabs, main.recents, main.pipeline, main.window).ShowRecentFiles();
 }
 
+void mnuFile_DirLister(const MainParts& main) {
+    ShowDirectoryLister(main.app);
+}
+
+void mnuFile_Exit(const MainParts& main) {
+    main.window.Close();
+}
+
+void mnuFile_SwitchTabsForward(const MainParts& main) {
+    main.tabs.SwitchForward();
+}
+
+void mnuFile_SwitchTabsBack(const MainParts& main) {
+    main.tabs.SwitchBack();
+}
+
 void mnuFile_AreLoaded(const MainParts& main) {
     ShowLoadedFiles(main.app, main.tabs, main.window);
+}
+
+void mnuEdit_DesignDb(const MainParts& main) {
+    RunOnNewTab(main, &mnuEdit_DesignDb_Clack);
+}
+
+void mnuImport_Clip(const MainParts& main) {
+    RunOnNewTab(main, &mnuImport_Clip_Clack);
+}
+
+void mnuSidebarWidth(const MainParts& main) {
+    if (main.tabs.Active() != nullptr) main.sideBar.NextWidth();
+}
+
+void mnuWindowSize(const MainParts& main) {
+    if (main.tabs.Active() == nullptr) return;
+    if (!ChooseWindowSize(main.app, main.windowSize, main.window)) return;
+    frmMDIChild* tab = main.tabs.Active();
+    if (tab == nullptr) return;
+    tab->Resize();
+    tab->GridStore().GridSetFocus();
+}
+
+void mnuSideBar(const MainParts& main) {
+    std::int16_t& visible = main.app.Settings.SideBarVisible;
+    visible = visible == 1 ? 0 : 1;
+    main.window.Resize();
 }
 
 void mnuSwitchFocus_Click(const MainParts& main) {
@@ -71,102 +118,61 @@ void mnuSwitchFocus_Click(const MainParts& main) {
     turn = turn == 0 ? 1 : 0;
 }
 
-void mnuSideBar(const MainParts& main) {
-    std::int16_t& visible = main.app.Settings.SideBarVisible;
-    visible = visible == 1 ? 0 : 1;
-    main.window.Resize();
+void mnuHelpText(const MainParts& main) {
+    LaunchDunmark(main.app, main.app.Exchange<StateFiles>().HelpFilePath);
 }
 
-void ExploreCaptionFolder(const MainParts& main) {
-    ExploreFolder(main.app, main.app.Files().Style().FolderPart(main.window.Caption.Get()));
+void mnuMisc_About(const MainParts& main) {
+    frmAbout(main.app).ShowModal();
 }
 
-void SetWindowSize(const MainParts& main) {
-    if (!ChooseWindowSize(main.app, main.windowSize, main.window)) return;
-    frmMDIChild* tab = main.tabs.Active();
-    if (tab == nullptr) return;
-    tab->Resize();
-    tab->GridStore().GridSetFocus();
+void mnuMisc_Settings(const MainParts& main) {
+    frmSettings(main.app, main.tabs, main.menuBar, main.sideBar.Commands()).ShowModal();
+}
+
+void mnuMisc_YourProgram(const MainParts& main) {
+    frmSetYourProg(main.app).ShowModal();
 }
 
 void ViewAndPaste(const MainParts& main) {
     if (auto* clipboardView = main.app.Port<ClipboardView>()) clipboardView->Show();
 }
 
-template <class Window>
-void ShowWindow(const MainParts& main) {
-    Window(main.app).ShowModal();
+void mnuMisc_Calc(const MainParts& main) {
+    LaunchCompanion(main.app, Companion::Abrill);
 }
 
 void mnuMisc_Browser(const MainParts& main) {
-    App& app = main.app;
-    LaunchProgram(app, Text(app.Settings.WebListA));
+    LaunchProgram(main.app, Text(main.app.Settings.WebListA));
+}
+
+void mnuMisc_Explorer(const MainParts& main) {
+    RunExplorer(main.app);
 }
 
 void CustomBrowser(const MainParts& main) {
-    App& app = main.app;
-    Text browser = app.Settings.CustomBrowserPath;
-    if (browser.empty() || !app.Files().FileExists(browser)) {
-        ShowCannotLocate(app, browser);
+    Text browser = main.app.Settings.CustomBrowserPath;
+    if (browser.empty() || !main.app.Files().FileExists(browser)) {
+        ShowCannotLocate(main.app, browser);
     } else {
-        LaunchProgram(app, browser);
+        LaunchProgram(main.app, browser);
     }
 }
 
-struct NamedRoutine {
-    std::string_view name;
-    void (*run)(const MainParts&);
-};
+void ExploreCaptionFolder(const MainParts& main) {
+    ExploreFolder(main.app, main.app.Files().Style().FolderPart(main.window.Caption.Get()));
+}
 
-constexpr std::array kRoutines{
-    NamedRoutine{"mnuFile_Open", &mnuFile_Open},
-    NamedRoutine{"mnuFile_SaveAll", &mnuFile_SaveAll},
-    NamedRoutine{"mnuFile_Close", &mnuFile_Close},
-    NamedRoutine{"mnuFile_Recent", &mnuFile_Recent},
-    NamedRoutine{"mnuFile_AreLoaded", &mnuFile_AreLoaded},
-    NamedRoutine{"mnuFile_Exit", [](const MainParts& main) { main.window.Close(); }},
-    NamedRoutine{"mnuFile_SwitchTabsForward", [](const MainParts& main) { main.tabs.SwitchForward(); }},
-    NamedRoutine{"mnuFile_SwitchTabsBack", [](const MainParts& main) { main.tabs.SwitchBack(); }},
-    NamedRoutine{"mnuMisc_Calc", [](const MainParts& main) { LaunchCompanion(main.app, Companion::Abrill); }},
-    NamedRoutine{"mnuMisc_Browser", &mnuMisc_Browser},
-    NamedRoutine{"mnuMisc_Explorer", [](const MainParts& main) { RunExplorer(main.app); }},
-    NamedRoutine{"mnuFile_DirLister", [](const MainParts& main) { ShowDirectoryLister(main.app); }},
-    NamedRoutine{"ViewAndPaste", &ViewAndPaste},
-    NamedRoutine{
-        "mnuHelpText",
-        [](const MainParts& main) { LaunchDunmark(main.app, main.app.Exchange<StateFiles>().HelpFilePath); }},
-    NamedRoutine{"mnuMisc_About", &ShowWindow<frmAbout>},
-    NamedRoutine{"mnuMisc_Settings",
-                 [](const MainParts& main) {
-                     frmSettings(main.app, main.tabs, main.menuBar, main.sideBar.Commands()).ShowModal();
-                 }},
-    NamedRoutine{"mnuMisc_YourProgram", &ShowWindow<frmSetYourProg>},
-    NamedRoutine{"LoadFindText", [](const MainParts& main) { LaunchCompanion(main.app, Companion::Ostrel); }},
-    NamedRoutine{"LoadFindFiles",
-                 [](const MainParts& main) { LaunchCompanion(main.app, Companion::Veldan); }},
-    NamedRoutine{"mnuSideBar", &mnuSideBar},
-    NamedRoutine{"mnuSwitchFocus", &mnuSwitchFocus_Click},
-    NamedRoutine{"NextSideBarWidth", [](const MainParts& main) { main.sideBar.NextWidth(); }},
-    NamedRoutine{"SetWindowSize", &SetWindowSize},
-    NamedRoutine{"StyleBack", &StyleBack},
-    NamedRoutine{"StyleForward", &StyleForward},
-    NamedRoutine{"mnuStyle2", &mnuStyle<2>},
-    NamedRoutine{"mnuStyle3", &mnuStyle<3>},
-    NamedRoutine{"mnuStyle5", &mnuStyle<5>},
-    NamedRoutine{"mnuStyle7", &mnuStyle<7>},
-    NamedRoutine{"mnuStyle8", &mnuStyle<8>},
-    NamedRoutine{"mnuStyle9", &mnuStyle<9>},
-    NamedRoutine{"mnuStyle11", &mnuStyle<11>},
-    NamedRoutine{"ToggleDesktop", [](const MainParts& main) { ShowDesktop(main.app); }},
-    NamedRoutine{"ExploreCaptionFolder", &ExploreCaptionFolder},
-    NamedRoutine{"CustomBrowser", &CustomBrowser},
-};
+void LoadFindText(const MainParts& main) {
+    LaunchCompanion(main.app, Companion::Ostrel);
+}
 
-} // namespace
+void LoadFindFiles(const MainParts& main) {
+    LaunchCompanion(main.app, Companion::Veldan);
+}
 
-void RunMainRoutine(const MainParts& main, std::string_view name) {
-    const auto* found = FindEntry(kRoutines, name, &NamedRoutine::name);
-    if (found != nullptr) found->run(main);
+void ToggleDesktop(const MainParts& main) {
+    ShowDesktop(main.app);
 }
 
 } // namespace korvane

@@ -5,6 +5,7 @@
 #include "controls/Label.h"
 #include "platform/FileSystem.h"
 #include "shell/commands/Commands.h"
+#include "shell/commands/MainRoutines.h"
 
 #include <array>
 
@@ -104,7 +105,7 @@ Twips SideBar::WidthOfStep(int step) {
 
 void SideBar::RunRow(Row row) {
     if (!place_.grid.Store().HasRow(row)) return;
-    run_(SideBarRows()[static_cast<std::size_t>(row.Number() - 1)].command);
+    run_(SideBarRows()[static_cast<std::size_t>(row.Number() - 1)].command.calls);
     SelectRow(row);
 }
 
@@ -118,7 +119,7 @@ void SideBar::SelectRow(Row row) {
 }
 
 void SideBar::SwitchFocus() {
-    run_("mnuSwitchFocus");
+    run_(&mnuSwitchFocus_Click);
 }
 
 void SideBar::Hover(bool over) {

@@ -2,10 +2,10 @@
 
 #include "common/number/Units.h"
 #include "controls/GridBox.h"
+#include "shell/commands/CommandCall.h"
 
 #include <cstdint>
 #include <functional>
-#include <string_view>
 
 namespace korvane {
 
@@ -22,7 +22,7 @@ public:
         Label& heading;
         GridBox& grid;
     };
-    using RunCommand = std::function<void(std::string_view)>;
+    using RunCommand = std::function<void(const CommandCall&)>;
 
     /// App and controls outlive the sidebar.
     SideBar(App& app, const Place& place, RunCommand run);

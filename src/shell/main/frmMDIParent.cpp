@@ -2,8 +2,6 @@
 
 #include "context/App.h"
 #include "context/exchange/StartState.h"
-#include "context/ports/MainWindow.h"
-#include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -13,6 +11,7 @@
 #include "shell/main/StartUp.h"
 #include "shell/settings/SettingsFile.h"
 #include "shell/tabs/frmMDIChild.h"
+#include "table/SaveCommands.h"
 
 #include <algorithm>
 
@@ -29,8 +28,9 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       tabs_(app, MDITabs1),
       pipeline_(app, tabs_, recents_, *this),
       sideBar_(app, {Picture2, lblListBar, iGridListBar},
-               [this](std::string_view command) { RunCommand(command); }),
-      parts_{app, *this, OfficeMenu1, MDITabs1, sideBar_, tabs_, pipeline_, recents_, windowSize_} {
+               [this](const CommandCall& call) { runner_.Run(call); }),
+      parts_{app, *this, OfficeMenu1, MDITabs1, sideBar_, tabs_, pipeline_, recents_, windowSize_},
+      runner_(parts_) {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();
     CheckFirstStyle(OfficeMenu1);
@@ -44,7 +44,7 @@ frmMDIParent::~frmMDIParent() {
 void frmMDIParent::MakeToolBar() {
     for (const ToolBarButton& button : ToolBarButtons()) {
         toolBar_.push_back(std::make_unique<CommandButton>(*this, button.name, TextView(), button.toolTip));
-        toolBar_.back()->Click = [this, command = button.command] { RunCommand(command); };
+        toolBar_.back()->Click = [this, &command = button.command] { runner_.Run(command.calls); };
     }
 }
 
@@ -54,44 +54,21 @@ void frmMDIParent::Wire() {
     }
     txtCommand.Visible = false;
     txtCommand.Change = [this] { txtCommand_Change(); };
-    MDITabs1.TabContextClick = [this] { RunCommand("mnuFile_FileInfo"); };
+    MDITabs1.TabContextClick = [this] { runner_.Run(&mnuFile_FileInfo_Clack); };
     MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };
-    MDITabs1.CloseWanted = [this](Form& child) { CloseTab(child); };
-}
-
-void frmMDIParent::InvokeOnActiveTab(std::string_view routine) {
-    if (frmMDIChild* tab = tabs_.Active()) tab->Invoke(routine);
+    MDITabs1.CloseWanted = [this](Form& child) { runner_.CloseTab(child); };
 }
 
 void frmMDIParent::RunCommand(std::string_view name) {
-    ReleaseClosedTabs();
-    ++commandDepth_;
-    Route(name);
-    --commandDepth_;
-}
-
-void frmMDIParent::Route(std::string_view name) {
-    const Command* command = FindCommand(name);
-    if (command == nullptr) return;
-    switch (command->target) {
-    case CommandTarget::Menu:
-        return;
-    case CommandTarget::Main:
-        return RunMainRoutine(parts_, command->name);
-    case CommandTarget::NewTab:
-        tabs_.AddNewTab();
-        [[fallthrough]];
-    case CommandTarget::Tab:
-        return InvokeOnActiveTab(std::string(command->name) + "_Clack");
-    }
+    runner_.RunNamed(name);
 }
 
 void frmMDIParent::ShowPopupMenu() {
     Host().PopUp(mnuPopupMenu);
 }
 
-void frmMDIParent::mnuSwitchFocus_Click() {
-    RunMainRoutine(parts_, "mnuSwitchFocus");
+void frmMDIParent::GridKeyDown(KeyEvent& key) {
+    runner_.RunGridKey(key);
 }
 
 Text frmMDIParent::GetActiveFolder() {
@@ -102,16 +79,6 @@ Text frmMDIParent::GetActiveFolder() {
     return {};
 }
 
-void frmMDIParent::CloseTab(Form& child) {
-    ReleaseClosedTabs();
-    tabs_.Close(child);
-}
-
-void frmMDIParent::ReleaseClosedTabs() {
-    // Where a command starts on its own, no handler of a tab that an earlier one closed runs any more.
-    if (commandDepth_ == 0) tabs_.ReleaseClosed();
-}
-
 void frmMDIParent::Load() {
     StartUp(parts_, txtCommand, commandLine_);
 }
@@ -120,7 +87,7 @@ void frmMDIParent::Activate() {
     app_.Exchange<StartState>().FirstLoadPending = 0;
     if (firstActivation_) {
         firstActivation_ = false;
-        if (app_.Settings.ShowRecentAtStart == 1 && commandLine_.empty()) RunCommand("mnuFile_Recent");
+        if (app_.Settings.ShowRecentAtStart == 1 && commandLine_.empty()) runner_.Run(&mnuFile_Recent);
     }
     app_.Screen().ProcessMessages();
 }

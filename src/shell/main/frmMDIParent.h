@@ -8,6 +8,7 @@
 #include "controls/Menu.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
+#include "shell/commands/CommandRunner.h"
 #include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
 #include "shell/recent/RecentRecord.h"
@@ -15,15 +16,14 @@
 #include "shell/tabs/LoadPipeline.h"
 #include "shell/tabs/Tabs.h"
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
 
 namespace korvane {
 
-/// The main window: menu bar, tool bar, sidebar and the tabs. It puts the parts together and sends commands
-/// where they belong; the rules are in the parts.
+/// The main window: menu bar, tool bar, sidebar and the tabs. It puts the parts together; the rules are in
+/// the parts.
 class frmMDIParent : public Form, public MainWindow {
 public:
     /// `commandLine` is what the program was started with, taken as one path. The App outlives the window.
@@ -43,14 +43,10 @@ public:
 
     const MainParts& Parts() const { return parts_; }
 
-    /// Calls a routine of the tab that is active now. No tab, and no routine of this name, are no error.
-    void InvokeOnActiveTab(std::string_view routine);
     void RunCommand(std::string_view name) override;
     void ShowPopupMenu() override;
-    void mnuSwitchFocus_Click() override;
+    void GridKeyDown(KeyEvent& key) override;
     Text GetActiveFolder() override;
-    /// Closes a tab, which may refuse.
-    void CloseTab(Form& child);
 
     void Load() override;
     void Activate() override;
@@ -63,8 +59,6 @@ private:
     void MakeToolBar();
     void Wire();
     void txtCommand_Change();
-    void Route(std::string_view name);
-    void ReleaseClosedTabs();
     void StorePlace();
     void CloseOtherWindows();
 
@@ -76,10 +70,9 @@ private:
     SideBar sideBar_;
     WindowSizeChoice windowSize_;
     MainParts parts_;
+    CommandRunner runner_;
     std::vector<std::unique_ptr<CommandButton>> toolBar_;
     bool firstActivation_ = true;
-    /// How many commands run within each other.
-    int commandDepth_ = 0;
 };
 
 } // namespace korvane

@@ -14,6 +14,7 @@
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmLoadList.h"
 #include "shell/tabs/frmMDIChild.h"
+#include "table/TableFile.h"
 
 namespace korvane {
 
@@ -106,7 +107,7 @@ void LoadPipeline::ReadIntoActiveTab(const Text& file) {
     frmMDIChild* tab = tabs_.Active();
     if (tab == nullptr || !HasExtension(file, kTableExtension)) return;
     tab->Table().TxtDbFile = file;
-    tab->Invoke("ReadTableData");
+    tab->Run(&ReadTableData);
     tab->Caption = file;
 }
 

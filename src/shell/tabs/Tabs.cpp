@@ -45,6 +45,10 @@ frmMDIChild* Tabs::Active() const {
     return dynamic_cast<frmMDIChild*>(strip_.ActiveChild());
 }
 
+void Tabs::RunOnActive(TabRoutine routine) {
+    if (frmMDIChild* tab = Active()) tab->Run(routine);
+}
+
 void Tabs::NewDocument() {
     const int slot = TabState.FindFreeIndex();
     documents_.resize(std::max(documents_.size(), static_cast<std::size_t>(slot) + 1));

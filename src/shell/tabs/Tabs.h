@@ -2,6 +2,7 @@
 
 #include "common/text/Text.h"
 #include "shell/tabs/TabStates.h"
+#include "table/TabContext.h"
 
 #include <cstdint>
 #include <functional>
@@ -33,6 +34,8 @@ public:
     frmMDIChild* Document(int slot);
     /// The tab that commands go to; nullptr when none is open.
     frmMDIChild* Active() const;
+    /// Runs the routine on that tab; nothing happens when none is open.
+    void RunOnActive(TabRoutine routine);
 
     /// Makes a tab and shows it.
     void NewDocument();

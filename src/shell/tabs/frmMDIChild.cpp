@@ -7,8 +7,6 @@
 #include "dbops/commands/RowHeight.h"
 #include "dbops/rules/TableSearch.h"
 #include "grid/Grid.h"
-#include "shell/commands/GridKeys.h"
-#include "shell/commands/TabCommands.h"
 #include "shell/tabs/TabStates.h"
 #include "table/SaveCommands.h"
 
@@ -38,21 +36,19 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
     iGrid1.KeyDown = [this](KeyEvent& key) { iGrid1_KeyDown(key); };
-    ForwardToMainWindow(cmdWebsites, "mnuMisc_Websites");
-    ForwardToMainWindow(cmdWallpaper, "mnuMisc_Wallpaper");
-    ForwardToMainWindow(cmdSettings, "mnuMisc_Settings");
-    ForwardToMainWindow(cmdHelp, "mnuHelpText");
+    ForwardToMainWindow(cmdWebsites, CommandName::mnuMisc_Websites);
+    ForwardToMainWindow(cmdWallpaper, CommandName::mnuMisc_Wallpaper);
+    ForwardToMainWindow(cmdSettings, CommandName::mnuMisc_Settings);
+    ForwardToMainWindow(cmdHelp, CommandName::mnuHelpText);
 }
 
 TabContext frmMDIChild::Context() {
     return {app_, table_, *this, &history_};
 }
 
-void frmMDIChild::Invoke(std::string_view routine) {
-    const TabCommand run = FindTabCommand(routine);
-    if (run == nullptr) return;
+void frmMDIChild::Run(TabRoutine routine) {
     const TableStep step(history_);
-    run(Context());
+    routine(Context());
 }
 
 int frmMDIChild::Slot() const {
@@ -112,23 +108,13 @@ void frmMDIChild::iGrid1_MouseUp(MouseButton button) {
 }
 
 void frmMDIChild::iGrid1_KeyDown(KeyEvent& key) {
-    const GridKey* rule = FindGridKey(key);
-    if (rule == nullptr) return;
-    key.consumed = rule->swallowed;
-    if (rule->target == GridKey::Target::Main) {
-        RunOnMainWindow(rule->routine);
-    } else {
-        Invoke(rule->routine);
-    }
-    if (rule->target == GridKey::Target::TabThenFocus) GridStore().GridSetFocus();
+    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->GridKeyDown(key);
 }
 
 void frmMDIChild::ForwardToMainWindow(CommandButton& button, std::string_view command) {
-    button.Click = [this, command] { RunOnMainWindow(command); };
-}
-
-void frmMDIChild::RunOnMainWindow(std::string_view command) {
-    if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand(command);
+    button.Click = [this, command] {
+        if (auto* mainWindow = app_.Port<MainWindow>()) mainWindow->RunCommand(command);
+    };
 }
 
 void frmMDIChild::ShowRowHeight(std::int16_t height) {

@@ -41,8 +41,8 @@ public:
     Grid& GridStore() { return iGrid1.Store(); }
     /// What commands of this tab work on.
     TabContext Context();
-    /// Runs a routine of the tab by its name; nothing happens when there is none.
-    void Invoke(std::string_view routine);
+    /// Runs a routine of the tab. What it changes is one step to undo.
+    void Run(TabRoutine routine);
     /// The number of the tab's slot, which stands in its `Tag`.
     int Slot() const;
 
@@ -63,7 +63,6 @@ private:
     void iGrid1_KeyDown(KeyEvent& key);
     /// Makes the button run a command of the main window.
     void ForwardToMainWindow(CommandButton& button, std::string_view command);
-    void RunOnMainWindow(std::string_view command);
 
     void ShowRowHeight(std::int16_t height) override;
     Twips GridWidth() const override { return iGrid1.ShownWidth; }

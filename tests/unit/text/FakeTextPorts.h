@@ -27,7 +27,7 @@ public:
     Text folder;
     std::vector<std::string> commands;
 
-    void mnuSwitchFocus_Click() override {}
+    void GridKeyDown(KeyEvent&) override {}
     void ShowPopupMenu() override {}
     void RunCommand(std::string_view name) override { commands.emplace_back(name); }
     Text GetActiveFolder() override { return folder; }

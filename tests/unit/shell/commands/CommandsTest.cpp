@@ -1,8 +1,12 @@
 #include "shell/commands/Commands.h"
 
+#include "dbops/commands/ColumnCommands.h"
+#include "dbops/commands/RowLookCommands.h"
+#include "dbops/rules/RowFontFlags.h"
+#include "dbops/windows/frmViewCell.h"
 #include "shell/commands/GridKeys.h"
-#include "shell/commands/TabCommands.h"
-#include "support/TestProgram.h"
+#include "shell/commands/MainRoutines.h"
+#include "table/SaveCommands.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -41,7 +45,6 @@ TEST(Commands, WhatNoTabCarriesOutHasNoCommandEither) {
     for (const std::string_view name :
          {"mnuCopySelectedRows", "mnuCopySelectedRowsToClipb", "mnuEdit_Edit", "mnuFile_DateAndTime"}) {
         EXPECT_EQ(FindCommand(name), nullptr) << name;
-        EXPECT_EQ(FindTabCommand(std::string(name) + "_Clack"), nullptr) << name;
     }
 }
 
@@ -56,57 +59,39 @@ TEST(Commands, TheTabStripsMenuIsTheWindowMenuWithoutItsKeys) {
                                    "mnuFile_AreLoaded"));
 }
 
-TEST(Commands, EveryButtonAndSideBarRowHasACommand) {
-    for (const ToolBarButton& button : ToolBarButtons())
-        EXPECT_NE(FindCommand(button.command), nullptr) << button.name;
-    for (const SideBarRow& row : SideBarRows())
-        EXPECT_NE(FindCommand(row.command), nullptr);
-}
-
-std::string RoutineOf(int code, int mask) {
-    const GridKey* key = FindGridKey({code, mask});
-    return key == nullptr ? "" : std::string(key->routine);
+/// What a key of the grid calls; nothing for a key that it doesn't have.
+CommandCall CallOf(int code, int mask) {
+    const GridKey* row = FindKey(GridKeys(), {code, mask});
+    return row == nullptr ? CommandCall() : row->starts;
 }
 
 // Kept for compatibility: f10-with-any-modifier.
 TEST(GridKeys, F10MeansSaveAsWithAnyModifiers) {
-    for (int mask = Mask::None; mask <= (Mask::Shift | Mask::Ctrl | Mask::Alt); ++mask) {
-        EXPECT_EQ(RoutineOf(Key::F(10), mask), "mnuFile_SaveAs_Clack");
-    }
+    for (int mask = Mask::None; mask <= (Mask::Shift | Mask::Ctrl | Mask::Alt); ++mask)
+        EXPECT_EQ(CallOf(Key::F(10), mask), CommandCall(&mnuFile_SaveAs_Clack)) << mask;
 }
 
 TEST(GridKeys, AMaskMeansExactlyThatMask) {
-    EXPECT_EQ(RoutineOf('X', Mask::Alt), "mnuSwitchFocus");
-    EXPECT_EQ(RoutineOf('X', Mask::Ctrl | Mask::Alt), "ExploreTableFolder");
-    EXPECT_EQ(RoutineOf('X', Mask::Ctrl | Mask::Shift), "MakeEmailStrikethru");
-    EXPECT_EQ(RoutineOf('X', Mask::Ctrl), "");
-    EXPECT_EQ(RoutineOf(Key::F(4), Mask::None), "mnuEdit_EditCell_Clack");
-    EXPECT_EQ(RoutineOf(Key::F(4), Mask::Shift), "");
-    EXPECT_EQ(RoutineOf('1', Mask::Ctrl), "mnuEdit_Font_Clack");
-    EXPECT_EQ(RoutineOf('1', Mask::Ctrl | Mask::Alt), "RowColour0");
-    EXPECT_EQ(RoutineOf(Key::F(7), Mask::Shift | Mask::Alt), "mnuSidebarWidth_Clack");
-    EXPECT_EQ(RoutineOf('B', Mask::Alt), "CustomBrowser");
-    EXPECT_EQ(RoutineOf('B', Mask::Ctrl | Mask::Shift), "MakeEmailBold");
-    EXPECT_EQ(RoutineOf('I', Mask::Ctrl | Mask::Shift), "MakeEmailItalic");
-    EXPECT_EQ(RoutineOf('D', Mask::Ctrl | Mask::Alt), "ToggleDesktop");
-    EXPECT_EQ(RoutineOf('V', Mask::Ctrl | Mask::Alt), "ViewAndPaste");
+    EXPECT_EQ(CallOf('X', Mask::Alt), CommandCall(&mnuSwitchFocus_Click));
+    EXPECT_EQ(CallOf('X', Mask::Ctrl | Mask::Alt), CommandCall(&ExploreTableFolder));
+    EXPECT_EQ(CallOf('X', Mask::Ctrl | Mask::Shift), CommandCall(&MakeEmailStrikethru));
+    EXPECT_EQ(CallOf('X', Mask::Ctrl), CommandCall());
+    EXPECT_EQ(CallOf(Key::F(4), Mask::None), CommandCall(&mnuEdit_EditCell_Clack));
+    EXPECT_EQ(CallOf(Key::F(4), Mask::Shift), CommandCall());
+    EXPECT_EQ(CallOf('1', Mask::Ctrl), CommandCall(&mnuEdit_Font_Clack));
+    EXPECT_EQ(CallOf('1', Mask::Ctrl | Mask::Alt), CommandCall(&RowColour<0>));
 }
 
 // Kept for compatibility: row-colour-keys-reach-grid.
 TEST(GridKeys, OnlyTheRowColourKeysAreNotSwallowed) {
+    std::string passing;
     for (const GridKey& key : GridKeys()) {
-        EXPECT_EQ(key.swallowed, !key.routine.starts_with("RowColour")) << key.routine;
+        if (key.use == KeyUse::Passes) passing += std::string(key.key.Name()) + " ";
     }
-}
-
-TEST(GridKeys, TheNineRowColoursHaveANumberAndALetterEach) {
-    const std::string numbers = "123456789";
-    const std::string letters = "FHYRKLGAO";
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        const std::string routine = "RowColour" + std::to_string(i);
-        EXPECT_EQ(RoutineOf(numbers[i], Mask::Ctrl | Mask::Alt), routine);
-        EXPECT_EQ(RoutineOf(letters[i], Mask::Ctrl | Mask::Alt), routine);
-    }
+    EXPECT_EQ(passing,
+              "Ctrl+Alt+1 Ctrl+Alt+F Ctrl+Alt+2 Ctrl+Alt+H Ctrl+Alt+3 Ctrl+Alt+Y Ctrl+Alt+4 Ctrl+Alt+R "
+              "Ctrl+Alt+5 Ctrl+Alt+K Ctrl+Alt+6 Ctrl+Alt+L Ctrl+Alt+7 Ctrl+Alt+G Ctrl+Alt+8 Ctrl+Alt+A "
+              "Ctrl+Alt+9 Ctrl+Alt+O ");
 }
 
 } // namespace

@@ -42,15 +42,11 @@ std::string NameOf(TextView caption) {
     return name.substr(0, name.find_last_not_of(' ') + 1);
 }
 
+/// The key as the help tells it: without a word on modifiers that don't matter.
 std::string KeyName(const GridKey& key) {
-    std::string name;
-    const int mask = key.mask == GridKey::kAnyMask ? Mask::None : key.mask;
-    if (mask & Mask::Ctrl) name += "Ctrl+";
-    if (mask & Mask::Alt) name += "Alt+";
-    if (mask & Mask::Shift) name += "Shift+";
-    const int function = key.code - Key::F(1) + 1;
-    if (function >= 1 && function <= 12) return name + "F" + std::to_string(function);
-    return name + static_cast<char>(key.code);
+    std::string name(key.key.Name());
+    const std::string any = "Any+";
+    return name.starts_with(any) ? name.substr(any.size()) : name;
 }
 
 std::vector<std::string> Cells(const std::string& line) {

@@ -19,8 +19,11 @@ protected:
 TEST_F(Routing, WithoutATabEveryCommandOfATabDoesNothingAndSaysNothing) {
     p.StartWith({});
     for (const Command& command : Commands()) {
-        if (command.target == CommandTarget::Tab) p.Main().RunCommand(command.name);
+        if (std::holds_alternative<TabRoutine>(command.calls)) p.Main().RunCommand(command.name);
     }
+    for (const std::string_view command : {"mnuSidebarWidth", "mnuWindowSize"})
+        p.Main().RunCommand(command);
+    EXPECT_EQ(p.app.Settings.SideBarWidthStep, 0);
     EXPECT_TRUE(p.Captions().empty());
     EXPECT_TRUE(p.user.Messages().empty());
 }

@@ -1,13 +1,27 @@
 // What stands in the menus, on the tool bar, in the sidebar and on the keys of the grid, in full: users know
 // it by heart, and nothing of it changes by the way.
 
+#include "dbops/commands/ColumnCommands.h"
+#include "dbops/commands/ColumnSum.h"
+#include "dbops/commands/CopyCommands.h"
+#include "dbops/commands/ExcelExport.h"
+#include "dbops/commands/RowCommands.h"
+#include "dbops/commands/RowHeight.h"
+#include "dbops/commands/RowLookCommands.h"
+#include "dbops/commands/TickCommands.h"
+#include "dbops/rules/RowFontFlags.h"
+#include "dbops/rules/UndoCommands.h"
+#include "dbops/windows/frmFindReplace.h"
+#include "dbops/windows/frmViewCell.h"
 #include "shell/commands/Commands.h"
 #include "shell/commands/GridKeys.h"
+#include "shell/commands/MainRoutines.h"
+#include "shell/commands/Styles.h"
+#include "table/SaveCommands.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -18,82 +32,82 @@ namespace {
 using testing::ElementsAreArray;
 using Lines = std::vector<std::string>;
 
-// Name, caption, bound key and target. Some captions name keys that aren't theirs, and some menus have a
-// mnemonic twice. Kept for compatibility: captions-name-other-keys.
+// Name, caption and the key that is bound, if any. Some captions name keys that aren't theirs, and some menus have
+// a mnemonic twice. Kept for compatibility: captions-name-other-keys.
 constexpr std::string_view kMenuBar = R"(
-mnuFile | &File |  | menu
-    mnuFile_Open | &Open database (new tab) | Ctrl+O | main
-    mnuFile_FileInfo | &File info | Shift+F9 | tab
-    mnuFile_Save | &Save database to disk | Ctrl+S | tab
-    mnuFile_SaveAs | Save &as ...    ( F10, Ctrl+Shift-S ) |  | tab
-    mnuFile_SaveAll | Sa&ve all   ( Ctrl-Shift-S ) | Ctrl+F11 | main
-    mnuFile_Close | &Close this tab | Ctrl+Q | main
-    mnuFile_Recent | &Recent files | F5 | main
-    mnuFile_DirLister | &Directory lister | Ctrl+F5 | main
-    mnuFile_Exit | E&xit program   ( Alt-F4 ) |  | main
-mnuEdit | &Edit |  | menu
-    mnuEdit_EditCell | Edi&t cell contents | Ctrl+T | tab
-    mnuEdit_DesignDb | Design &new database | Ctrl+N | new tab
-    mnuEdit_Find | &Find | Ctrl+F | tab
-    mnuEdit_Replace | &Replace | Ctrl+R | tab
-    mnuEdit_ToggleSelection | To&ggle tick in check box | Ctrl+G | tab
-    mnuEdit_AddOneRow | Add one ro&w | Ctrl+W | tab
-    mnuEdit_AddRows | Add man&y rows | Ctrl+Y | tab
-    mnuEdit_SetRowHeight | Set row &height | Ctrl+H | tab
-    mnuEdit_Delete | Mark &current row for delete | Ctrl+Shift+F3 | tab
-    mnuDel_CheckedRows | Mar&k checked rows for deletion | Ctrl+Shift+F8 | tab
-    mnuEdit_ColumnName | Name of col&umn |  | tab
-    mnuEdit_InsertColumn | &Insert column | Ctrl+I | tab
-    mnuEdit_DeleteColumn | Re&move column | Ctrl+M | tab
-    MnuEdit_RefreshColumnWidths | Refresh column wi&dths |  | tab
-mnuImport | &Import |  | menu
-    mnuImport_Clip | &Tabbed text from clipboard | Ctrl+F1 | new tab
-    mnuEdit_WinClip | Show &Windows clipboard    ( Ctrl-Alt-V ) |  | tab
-mnuExport | Exp&ort |  | menu
-    mnuSelAll_TickBoxes | Mark t&ick box in all visible rows | Ctrl+A | tab
-    mnuSelAll_UnTickBoxes | Remove t&icks in all visible rows | Ctrl+U | tab
-    mnuEdit_CopyCellToText | Copy &cell contents to text | F6 | tab
-    mnuEdit_CopyRowToText | Copy one &row to text | Shift+F6 | tab
-    mnuCopyColumn | Copy c&urrent column to clipboard | Ctrl+F2 | tab
-    mnuCopyCheckedRows | Copy checked row&s to text | Shift+F5 | tab
-    mnuCopyCheckedRowsToClipb | Cop&y checked rows to clipboard | Ctrl+Shift+F5 | tab
-    mnuCopyTableToText | Copy &whole table to text | Ctrl+Shift+F6 | tab
-    mnuCopyTableToClipboard | Copy whole table to clip&board | Ctrl+Shift+F7 | tab
-    mnuEdit_MakeTable | Convert to text &table | Ctrl+F9 | tab
-    mnuExport_Excel | Export to E&xcel table | Ctrl+F12 | tab
-mnuCalc | &Calculation |  | menu
-    mnuCalc_Add | &Calculate sum of cell values |  | tab
-    mnuMisc_Calc | &Load calculator | Ctrl+Shift+F1 | main
-mnuView | &View |  | menu
-    mnuEdit_Font | Database fon&t |  | tab
-    mnuFormat_BColor | Bac&kground colour... |  | tab
-    mnuFormat_RowColour | Specify row &colour | Ctrl+F3 | tab
-    mnuSidebarWidth | Set side&bar width    ( Alt-Shift-F7 ) |  | tab
-    mnuView_TextEdit | Text &edit window | Ctrl+E | main
-mnuWindow | &Window |  | menu
-    mnuFile_SwitchTabsForward | &Next tab | F12 | main
-    mnuFile_SwitchTabsBack | &Previous tab | Shift+F12 | main
-    mnuWindowSize | Program window si&ze | Ctrl+Shift+F2 | tab
-    mnuFile_AreLoaded | &Show loaded files | F8 | main
-mnuStyles | St&yles |  | menu
-    mnuStyle2 | gray, unrounded |  | main
-    mnuStyle3 | blue and orange, 1 |  | main
-    mnuStyle5 | blue and orange, 2 |  | main
-    mnuStyle7 | blue and white |  | main
-    mnuStyle8 | gray, rounded |  | main
-    mnuStyle9 | blue, rounded |  | main
-    mnuStyle11 | bluegray |  | main
-mnuMisc | M&iscellaneous |  | menu
-    mnuHelpText | &Help text | F1 | main
-    mnuMisc_About | Abo&ut Korvane |  | main
-    mnuMisc_Settings | &Settings | F3 | main
-    mnuMisc_Wallpaper | &Wallpaper | F7 | main
-    mnuMisc_Browser | Internet &browser    ( Alt-B ) |  | main
-    mnuMisc_Websites | &List of websites | Ctrl+F7 | main
-    mnuMisc_YourProgram | &Your program | F9 | main
-    mnuMisc_Clock | &Time and date |  | main
-    mnuMisc_Explorer | Windows E&xplorer | Ctrl+Shift+F9 | main
-mnuSideBar | &SideBar |  | main
+mnuFile | &File
+    mnuFile_Open | &Open database (new tab) | Ctrl+O
+    mnuFile_FileInfo | &File info | Shift+F9
+    mnuFile_Save | &Save database to disk | Ctrl+S
+    mnuFile_SaveAs | Save &as ...    ( F10, Ctrl+Shift-S )
+    mnuFile_SaveAll | Sa&ve all   ( Ctrl-Shift-S ) | Ctrl+F11
+    mnuFile_Close | &Close this tab | Ctrl+Q
+    mnuFile_Recent | &Recent files | F5
+    mnuFile_DirLister | &Directory lister | Ctrl+F5
+    mnuFile_Exit | E&xit program   ( Alt-F4 )
+mnuEdit | &Edit
+    mnuEdit_EditCell | Edi&t cell contents | Ctrl+T
+    mnuEdit_DesignDb | Design &new database | Ctrl+N
+    mnuEdit_Find | &Find | Ctrl+F
+    mnuEdit_Replace | &Replace | Ctrl+R
+    mnuEdit_ToggleSelection | To&ggle tick in check box | Ctrl+G
+    mnuEdit_AddOneRow | Add one ro&w | Ctrl+W
+    mnuEdit_AddRows | Add man&y rows | Ctrl+Y
+    mnuEdit_SetRowHeight | Set row &height | Ctrl+H
+    mnuEdit_Delete | Mark &current row for delete | Ctrl+Shift+F3
+    mnuDel_CheckedRows | Mar&k checked rows for deletion | Ctrl+Shift+F8
+    mnuEdit_ColumnName | Name of col&umn
+    mnuEdit_InsertColumn | &Insert column | Ctrl+I
+    mnuEdit_DeleteColumn | Re&move column | Ctrl+M
+    MnuEdit_RefreshColumnWidths | Refresh column wi&dths
+mnuImport | &Import
+    mnuImport_Clip | &Tabbed text from clipboard | Ctrl+F1
+    mnuEdit_WinClip | Show &Windows clipboard    ( Ctrl-Alt-V )
+mnuExport | Exp&ort
+    mnuSelAll_TickBoxes | Mark t&ick box in all visible rows | Ctrl+A
+    mnuSelAll_UnTickBoxes | Remove t&icks in all visible rows | Ctrl+U
+    mnuEdit_CopyCellToText | Copy &cell contents to text | F6
+    mnuEdit_CopyRowToText | Copy one &row to text | Shift+F6
+    mnuCopyColumn | Copy c&urrent column to clipboard | Ctrl+F2
+    mnuCopyCheckedRows | Copy checked row&s to text | Shift+F5
+    mnuCopyCheckedRowsToClipb | Cop&y checked rows to clipboard | Ctrl+Shift+F5
+    mnuCopyTableToText | Copy &whole table to text | Ctrl+Shift+F6
+    mnuCopyTableToClipboard | Copy whole table to clip&board | Ctrl+Shift+F7
+    mnuEdit_MakeTable | Convert to text &table | Ctrl+F9
+    mnuExport_Excel | Export to E&xcel table | Ctrl+F12
+mnuCalc | &Calculation
+    mnuCalc_Add | &Calculate sum of cell values
+    mnuMisc_Calc | &Load calculator | Ctrl+Shift+F1
+mnuView | &View
+    mnuEdit_Font | Database fon&t
+    mnuFormat_BColor | Bac&kground colour...
+    mnuFormat_RowColour | Specify row &colour | Ctrl+F3
+    mnuSidebarWidth | Set side&bar width    ( Alt-Shift-F7 )
+    mnuView_TextEdit | Text &edit window | Ctrl+E
+mnuWindow | &Window
+    mnuFile_SwitchTabsForward | &Next tab | F12
+    mnuFile_SwitchTabsBack | &Previous tab | Shift+F12
+    mnuWindowSize | Program window si&ze | Ctrl+Shift+F2
+    mnuFile_AreLoaded | &Show loaded files | F8
+mnuStyles | St&yles
+    mnuStyle2 | gray, unrounded
+    mnuStyle3 | blue and orange, 1
+    mnuStyle5 | blue and orange, 2
+    mnuStyle7 | blue and white
+    mnuStyle8 | gray, rounded
+    mnuStyle9 | blue, rounded
+    mnuStyle11 | bluegray
+mnuMisc | M&iscellaneous
+    mnuHelpText | &Help text | F1
+    mnuMisc_About | Abo&ut Korvane
+    mnuMisc_Settings | &Settings | F3
+    mnuMisc_Wallpaper | &Wallpaper | F7
+    mnuMisc_Browser | Internet &browser    ( Alt-B )
+    mnuMisc_Websites | &List of websites | Ctrl+F7
+    mnuMisc_YourProgram | &Your program | F9
+    mnuMisc_Clock | &Time and date
+    mnuMisc_Explorer | Windows E&xplorer | Ctrl+Shift+F9
+mnuSideBar | &SideBar
 )";
 
 // Command and caption.
@@ -166,41 +180,133 @@ Settings | mnuMisc_Settings
 Desktop | ToggleDesktop
 )";
 
-// Key, target and routine in the order of the tests; the keys in brackets are left to the grid as well.
-constexpr std::string_view kGridKeys = R"(
-any F10 | tab | mnuFile_SaveAs_Clack
-Alt+X | main | mnuSwitchFocus
-F4 | tab | mnuEdit_EditCell_Clack
-Ctrl+1 | tab | mnuEdit_Font_Clack
-Ctrl+Alt+D | main | ToggleDesktop
-Ctrl+Alt+V | main | ViewAndPaste
-Ctrl+Alt+X | tab | ExploreTableFolder
-(Ctrl+Alt+1) | tab | RowColour0
-(Ctrl+Alt+F) | tab | RowColour0
-(Ctrl+Alt+2) | tab | RowColour1
-(Ctrl+Alt+H) | tab | RowColour1
-(Ctrl+Alt+3) | tab | RowColour2
-(Ctrl+Alt+Y) | tab | RowColour2
-(Ctrl+Alt+4) | tab | RowColour3
-(Ctrl+Alt+R) | tab | RowColour3
-(Ctrl+Alt+5) | tab | RowColour4
-(Ctrl+Alt+K) | tab | RowColour4
-(Ctrl+Alt+6) | tab | RowColour5
-(Ctrl+Alt+L) | tab | RowColour5
-(Ctrl+Alt+7) | tab | RowColour6
-(Ctrl+Alt+G) | tab | RowColour6
-(Ctrl+Alt+8) | tab | RowColour7
-(Ctrl+Alt+A) | tab | RowColour7
-(Ctrl+Alt+9) | tab | RowColour8
-(Ctrl+Alt+O) | tab | RowColour8
-Shift+Alt+F7 | tab, then focus | mnuSidebarWidth_Clack
-Alt+B | main | CustomBrowser
-Ctrl+Shift+I | tab | MakeEmailItalic
-Ctrl+Shift+B | tab | MakeEmailBold
-Ctrl+Shift+X | tab | MakeEmailStrikethru
-Ctrl+Z | tab | UndoEdit
-Ctrl+Shift+Z | tab | RedoEdit
-)";
+/// What an entry calls: the routine of its name, which on a tab ends in "_Clack".
+struct Called {
+    std::string_view name;
+    CommandCall calls;
+};
+#define ON_A_TAB(name) #name, &name##_Clack
+#define ON_THE_MAIN_WINDOW(name) #name, &name
+const Called kCalled[] = {
+    {"mnuFile", {}},
+    {ON_THE_MAIN_WINDOW(mnuFile_Open)},
+    {ON_A_TAB(mnuFile_FileInfo)},
+    {ON_A_TAB(mnuFile_Save)},
+    {ON_A_TAB(mnuFile_SaveAs)},
+    {ON_THE_MAIN_WINDOW(mnuFile_SaveAll)},
+    {ON_THE_MAIN_WINDOW(mnuFile_Close)},
+    {ON_THE_MAIN_WINDOW(mnuFile_Recent)},
+    {ON_THE_MAIN_WINDOW(mnuFile_DirLister)},
+    {ON_THE_MAIN_WINDOW(mnuFile_Exit)},
+    {"mnuEdit", {}},
+    {ON_A_TAB(mnuEdit_EditCell)},
+    {ON_THE_MAIN_WINDOW(mnuEdit_DesignDb)},
+    {ON_A_TAB(mnuEdit_Find)},
+    {ON_A_TAB(mnuEdit_Replace)},
+    {ON_A_TAB(mnuEdit_ToggleSelection)},
+    {ON_A_TAB(mnuEdit_AddOneRow)},
+    {ON_A_TAB(mnuEdit_AddRows)},
+    {ON_A_TAB(mnuEdit_SetRowHeight)},
+    {ON_A_TAB(mnuEdit_Delete)},
+    {ON_A_TAB(mnuDel_CheckedRows)},
+    {ON_A_TAB(mnuEdit_ColumnName)},
+    {ON_A_TAB(mnuEdit_InsertColumn)},
+    {ON_A_TAB(mnuEdit_DeleteColumn)},
+    {ON_A_TAB(MnuEdit_RefreshColumnWidths)},
+    {"mnuImport", {}},
+    {ON_THE_MAIN_WINDOW(mnuImport_Clip)},
+    {ON_A_TAB(mnuEdit_WinClip)},
+    {"mnuExport", {}},
+    {ON_A_TAB(mnuSelAll_TickBoxes)},
+    {ON_A_TAB(mnuSelAll_UnTickBoxes)},
+    {ON_A_TAB(mnuEdit_CopyCellToText)},
+    {ON_A_TAB(mnuEdit_CopyRowToText)},
+    {ON_A_TAB(mnuCopyColumn)},
+    {ON_A_TAB(mnuCopyCheckedRows)},
+    {ON_A_TAB(mnuCopyCheckedRowsToClipb)},
+    {ON_A_TAB(mnuCopyTableToText)},
+    {ON_A_TAB(mnuCopyTableToClipboard)},
+    {"mnuEdit_MakeTable", {}},
+    {ON_A_TAB(mnuExport_Excel)},
+    {"mnuCalc", {}},
+    {ON_A_TAB(mnuCalc_Add)},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Calc)},
+    {"mnuView", {}},
+    {ON_A_TAB(mnuEdit_Font)},
+    {ON_A_TAB(mnuFormat_BColor)},
+    {ON_A_TAB(mnuFormat_RowColour)},
+    {ON_THE_MAIN_WINDOW(mnuSidebarWidth)},
+    {"mnuView_TextEdit", {}},
+    {"mnuWindow", {}},
+    {ON_THE_MAIN_WINDOW(mnuFile_SwitchTabsForward)},
+    {ON_THE_MAIN_WINDOW(mnuFile_SwitchTabsBack)},
+    {ON_THE_MAIN_WINDOW(mnuWindowSize)},
+    {ON_THE_MAIN_WINDOW(mnuFile_AreLoaded)},
+    {"mnuStyles", {}},
+    {"mnuStyle2", &mnuStyle<2>},
+    {"mnuStyle3", &mnuStyle<3>},
+    {"mnuStyle5", &mnuStyle<5>},
+    {"mnuStyle7", &mnuStyle<7>},
+    {"mnuStyle8", &mnuStyle<8>},
+    {"mnuStyle9", &mnuStyle<9>},
+    {"mnuStyle11", &mnuStyle<11>},
+    {"mnuMisc", {}},
+    {ON_THE_MAIN_WINDOW(mnuHelpText)},
+    {ON_THE_MAIN_WINDOW(mnuMisc_About)},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Settings)},
+    {"mnuMisc_Wallpaper", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Browser)},
+    {"mnuMisc_Websites", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_YourProgram)},
+    {"mnuMisc_Clock", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Explorer)},
+    {ON_THE_MAIN_WINDOW(mnuSideBar)},
+    {ON_A_TAB(mnuRowUp)},
+    {ON_A_TAB(mnuRowDown)},
+    {ON_THE_MAIN_WINDOW(StyleBack)},
+    {ON_THE_MAIN_WINDOW(StyleForward)},
+    {ON_THE_MAIN_WINDOW(ToggleDesktop)},
+    {ON_THE_MAIN_WINDOW(ExploreCaptionFolder)},
+    {ON_THE_MAIN_WINDOW(LoadFindText)},
+    {ON_THE_MAIN_WINDOW(LoadFindFiles)},
+};
+
+/// The keys of the grid in the order of the tests, with what they call. Those in brackets are left to the
+/// grid as well.
+const Called kGridKeys[] = {
+    {"Any+F10", &mnuFile_SaveAs_Clack},
+    {"Alt+X", &mnuSwitchFocus_Click},
+    {"F4", &mnuEdit_EditCell_Clack},
+    {"Ctrl+1", &mnuEdit_Font_Clack},
+    {"Ctrl+Alt+D", &ToggleDesktop},
+    {"Ctrl+Alt+V", &ViewAndPaste},
+    {"Ctrl+Alt+X", &ExploreTableFolder},
+    {"(Ctrl+Alt+1)", &RowColour<0>},
+    {"(Ctrl+Alt+F)", &RowColour<0>},
+    {"(Ctrl+Alt+2)", &RowColour<1>},
+    {"(Ctrl+Alt+H)", &RowColour<1>},
+    {"(Ctrl+Alt+3)", &RowColour<2>},
+    {"(Ctrl+Alt+Y)", &RowColour<2>},
+    {"(Ctrl+Alt+4)", &RowColour<3>},
+    {"(Ctrl+Alt+R)", &RowColour<3>},
+    {"(Ctrl+Alt+5)", &RowColour<4>},
+    {"(Ctrl+Alt+K)", &RowColour<4>},
+    {"(Ctrl+Alt+6)", &RowColour<5>},
+    {"(Ctrl+Alt+L)", &RowColour<5>},
+    {"(Ctrl+Alt+7)", &RowColour<6>},
+    {"(Ctrl+Alt+G)", &RowColour<6>},
+    {"(Ctrl+Alt+8)", &RowColour<7>},
+    {"(Ctrl+Alt+A)", &RowColour<7>},
+    {"(Ctrl+Alt+9)", &RowColour<8>},
+    {"(Ctrl+Alt+O)", &RowColour<8>},
+    {"Alt+Shift+F7", &NextSideBarWidthFromGrid},
+    {"Alt+B", &CustomBrowser},
+    {"Ctrl+Shift+I", &MakeEmailItalic},
+    {"Ctrl+Shift+B", &MakeEmailBold},
+    {"Ctrl+Shift+X", &MakeEmailStrikethru},
+    {"Ctrl+Z", &UndoEdit},
+    {"Ctrl+Shift+Z", &RedoEdit},
+};
 
 Lines LinesOf(std::string_view block) {
     Lines lines;
@@ -255,9 +361,9 @@ TEST(Vocabulary, OfTheMenuBarWithTheKeysThatItsCaptionsNameWrongly) {
     Lines lines;
     for (const MenuEntry& entry : MenuBarEntries()) {
         const std::string indent(entry.level == 0 ? 0 : 4, ' ');
-        lines.push_back(
-            Joined({indent + std::string(entry.name), Plain(entry.caption),
-                    std::string(entry.shortcut.Name()), NameOf(FindCommand(entry.name)->target)}));
+        const std::string key(entry.shortcut.Name());
+        lines.push_back(Joined({indent + std::string(entry.name), Plain(entry.caption)}) +
+                        (key.empty() ? "" : " | " + key));
     }
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kMenuBar)));
 }
@@ -278,7 +384,7 @@ TEST(Vocabulary, OfTheToolBarWithTipsThatAreCrosswiseMisspeltOrNameOtherKeys) {
     Lines lines;
     for (const ToolBarButton& button : ToolBarButtons()) {
         lines.push_back(
-            Joined({std::string(button.name), Plain(button.toolTip), std::string(button.command)}));
+            Joined({std::string(button.name), Plain(button.toolTip), std::string(button.command.name)}));
     }
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kToolBar)));
 }
@@ -286,15 +392,26 @@ TEST(Vocabulary, OfTheToolBarWithTipsThatAreCrosswiseMisspeltOrNameOtherKeys) {
 TEST(Vocabulary, OfTheSideBar) {
     Lines lines;
     for (const SideBarRow& row : SideBarRows())
-        lines.push_back(Joined({Plain(row.text), std::string(row.command)}));
+        lines.push_back(Joined({Plain(row.text), std::string(row.command.name)}));
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kSideBar)));
 }
 
+TEST(Vocabulary, OfTheRoutinesThatTheCommandsCall) {
+    ASSERT_EQ(Commands().size(), std::size(kCalled));
+    for (std::size_t i = 0; i < Commands().size(); ++i) {
+        EXPECT_EQ(Commands()[i].name, kCalled[i].name);
+        EXPECT_TRUE(Commands()[i].calls == kCalled[i].calls) << kCalled[i].name;
+    }
+}
+
 TEST(Vocabulary, OfTheKeysOfTheGridInTheirOrder) {
-    Lines lines;
-    for (const GridKey& key : GridKeys())
-        lines.push_back(Joined({NameOfKey(key), NameOf(key.target), std::string(key.routine)}));
-    EXPECT_THAT(lines, ElementsAreArray(LinesOf(kGridKeys)));
+    ASSERT_EQ(GridKeys().size(), std::size(kGridKeys));
+    for (std::size_t i = 0; i < GridKeys().size(); ++i) {
+        const GridKey& row = GridKeys()[i];
+        const std::string name(row.key.Name());
+        EXPECT_EQ(row.use == KeyUse::Passes ? "(" + name + ")" : name, kGridKeys[i].name);
+        EXPECT_TRUE(row.starts == kGridKeys[i].calls) << name;
+    }
 }
 
 } // namespace

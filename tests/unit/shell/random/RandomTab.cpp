@@ -5,10 +5,12 @@
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FilePicker.h"
 #include "context/ports/FontPicker.h"
-#include "dbops/commands/TabCommands.h"
+#include "dbops/rules/UndoCommands.h"
 #include "grid/Grid.h"
 #include "support/GridState.h"
 #include "support/TableBytes.h"
+#include "support/TableRoutines.h"
+#include "table/TableFile.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +23,8 @@ namespace {
 
 const Text kPath = u"C:\\Data\\random.tbx";
 
-bool IsUndoing(std::string_view command) {
-    return command == "UndoEdit" || command == "RedoEdit";
+bool IsUndoing(TabRoutine routine) {
+    return routine == &UndoEdit || routine == &RedoEdit;
 }
 
 std::string RandomFile(Chance& chance) {
@@ -50,7 +52,7 @@ RandomTab::RandomTab(unsigned seed) : chance_(seed) {
     files_.AddFile(kPath, RandomFile(chance_));
     tab_.Table().TxtDbFile = kPath;
     tab_.iGrid1.ShownWidth = Twips{9000};
-    tab_.Invoke("ReadTableData");
+    tab_.Run(&ReadTableData);
     firstBytes_ = SavedBytes();
     firstState_ = State();
 }
@@ -69,33 +71,34 @@ void RandomTab::Act() {
 }
 
 void RandomTab::RunCommand() {
-    const DbOpsCommand& command = chance_.Pick(DbOpsCommands());
-    if (IsUndoing(command.name)) return UndoOrRedo();
-    trace_.append(command.name).append(" ");
+    static const std::vector<TableRoutine> kRoutines = TableRoutines();
+    const TableRoutine& routine = chance_.Pick(kRoutines);
+    if (IsUndoing(routine.run)) return UndoOrRedo();
+    trace_.append(routine.name).append(" ");
     const TableMoment before(tab_);
-    tab_.Invoke(command.name);
-    CheckCommand(command.name, before, TableMoment(tab_), user_.Messages());
+    tab_.Run(routine.run);
+    CheckCommand(routine.name, before, TableMoment(tab_), user_.Messages());
 }
 
 void RandomTab::UndoOrRedo() {
-    const std::string_view command = chance_.OneIn(2) ? "UndoEdit" : "RedoEdit";
-    trace_.append(command).append(" ");
+    const bool undoes = chance_.OneIn(2);
+    const TabRoutine turn = undoes ? &UndoEdit : &RedoEdit;
+    trace_ += undoes ? "undo " : "redo ";
     const std::string before = State();
-    if (!Turn(command)) {
+    if (!Turn(turn)) {
         EXPECT_EQ(State(), before);
         return;
     }
     const std::string after = State();
-    const bool undone = command == "UndoEdit";
-    EXPECT_TRUE(Turn(undone ? "RedoEdit" : "UndoEdit"));
+    EXPECT_TRUE(Turn(undoes ? &RedoEdit : &UndoEdit));
     EXPECT_EQ(State(), before);
-    EXPECT_TRUE(Turn(command));
+    EXPECT_TRUE(Turn(turn));
     EXPECT_EQ(State(), after);
 }
 
-bool RandomTab::Turn(std::string_view command) {
+bool RandomTab::Turn(TabRoutine routine) {
     tab_.Table().TableAltered = 0;
-    tab_.Invoke(command);
+    tab_.Run(routine);
     return tab_.Table().TableAltered == 1;
 }
 
@@ -181,7 +184,7 @@ void RandomTab::Save() {
     if (Store().RowCount() == Row{0} || firstState_.starts_with("0|")) return;
     trace_ += "save ";
     const std::string before = State();
-    tab_.Invoke("SaveThisTable");
+    tab_.Run(&SaveThisTable);
     EXPECT_EQ(tab_.Table().TableAltered, 0);
     EXPECT_EQ(State(), before);
 }
@@ -191,12 +194,12 @@ void RandomTab::GoBackAndForth() {
     const std::string lastBytes = SavedBytes();
     const std::string lastState = State();
     int undone = 0;
-    while (Turn("UndoEdit"))
+    while (Turn(&UndoEdit))
         ++undone;
     EXPECT_EQ(SavedBytes(), firstBytes_);
     EXPECT_EQ(State(), firstState_);
     for (int redone = 0; redone < undone; ++redone)
-        EXPECT_TRUE(Turn("RedoEdit"));
+        EXPECT_TRUE(Turn(&RedoEdit));
     EXPECT_EQ(SavedBytes(), lastBytes);
     EXPECT_EQ(State(), lastState);
 }
@@ -205,7 +208,7 @@ void RandomTab::GoBackAndForth() {
 std::string RandomTab::SavedBytes() {
     Store().SetCurRow(Row{1});
     Store().SetCurCol(Col{1});
-    tab_.Invoke("SaveThisTable");
+    tab_.Run(&SaveThisTable);
     return files_.Contents(kPath).value_or("(no such file)");
 }
 

@@ -49,7 +49,7 @@ private:
     Row SomeRow() { return Row{1 + chance_.Below(Store().RowCount().Number() + 1)}; }
     Col SomeCol() { return Col{1 + chance_.Below(Store().ColCount().Number() + 1)}; }
     /// Whether there was something to turn.
-    bool Turn(std::string_view command);
+    bool Turn(TabRoutine routine);
     std::string SavedBytes();
     std::string State();
 

@@ -46,32 +46,32 @@ struct Rule {
 };
 
 constexpr std::array kRules{
-    Rule{"mnuEdit_AddOneRow_Clack", Alters::Always, &None, 1, 1},
-    Rule{"mnuEdit_AddRows_Clack", Alters::Sometimes, &None, 0, 12},
-    Rule{"mnuRowDown_Clack", Alters::Sometimes, &CurrentAndBelow},
-    Rule{"mnuRowUp_Clack", Alters::Sometimes, &CurrentAndAbove},
-    Rule{"mnuEdit_Delete_Clack", Alters::Sometimes, &Current},
-    Rule{"mnuDel_CheckedRows_Clack", Alters::Sometimes, &Ticked},
-    Rule{"mnuEdit_SetRowHeight_Clack", Alters::Always},
-    Rule{"mnuEdit_ColumnName_Clack", Alters::Sometimes},
-    Rule{"mnuEdit_InsertColumn_Clack", Alters::Always, &Any},
-    Rule{"mnuEdit_DeleteColumn_Clack", Alters::Sometimes, &Any},
-    Rule{"mnuEdit_Font_Clack", Alters::Sometimes},
-    Rule{"mnuEdit_ToggleSelection_Clack", Alters::Always},
-    Rule{"mnuFormat_RowColour_Clack", Alters::Sometimes, &None, 0, 0, true},
-    Rule{"mnuFormat_BColor_Clack", Alters::Sometimes},
-    Rule{"RowColour0", Alters::Always},
-    Rule{"RowColour1", Alters::Always},
-    Rule{"RowColour2", Alters::Always},
-    Rule{"RowColour3", Alters::Always},
-    Rule{"RowColour4", Alters::Always},
-    Rule{"RowColour5", Alters::Always},
-    Rule{"RowColour6", Alters::Always},
-    Rule{"RowColour7", Alters::Always},
-    Rule{"RowColour8", Alters::Always},
-    Rule{"mnuEdit_Replace_Clack", Alters::Sometimes, &Any},
-    Rule{"mnuEdit_EditCell_Clack", Alters::Sometimes, &Current},
-    Rule{"mnuCalc_Add_Clack", Alters::Never, &None, 0, 1},
+    Rule{"mnuEdit_AddOneRow", Alters::Always, &None, 1, 1},
+    Rule{"mnuEdit_AddRows", Alters::Sometimes, &None, 0, 12},
+    Rule{"mnuRowDown", Alters::Sometimes, &CurrentAndBelow},
+    Rule{"mnuRowUp", Alters::Sometimes, &CurrentAndAbove},
+    Rule{"mnuEdit_Delete", Alters::Sometimes, &Current},
+    Rule{"mnuDel_CheckedRows", Alters::Sometimes, &Ticked},
+    Rule{"mnuEdit_SetRowHeight", Alters::Always},
+    Rule{"mnuEdit_ColumnName", Alters::Sometimes},
+    Rule{"mnuEdit_InsertColumn", Alters::Always, &Any},
+    Rule{"mnuEdit_DeleteColumn", Alters::Sometimes, &Any},
+    Rule{"mnuEdit_Font", Alters::Sometimes},
+    Rule{"mnuEdit_ToggleSelection", Alters::Always},
+    Rule{"mnuFormat_RowColour", Alters::Sometimes, &None, 0, 0, true},
+    Rule{"mnuFormat_BColor", Alters::Sometimes},
+    Rule{"Ctrl+Alt+1", Alters::Always},
+    Rule{"Ctrl+Alt+2", Alters::Always},
+    Rule{"Ctrl+Alt+3", Alters::Always},
+    Rule{"Ctrl+Alt+4", Alters::Always},
+    Rule{"Ctrl+Alt+5", Alters::Always},
+    Rule{"Ctrl+Alt+6", Alters::Always},
+    Rule{"Ctrl+Alt+7", Alters::Always},
+    Rule{"Ctrl+Alt+8", Alters::Always},
+    Rule{"Ctrl+Alt+9", Alters::Always},
+    Rule{"mnuEdit_Replace", Alters::Sometimes, &Any},
+    Rule{"mnuEdit_EditCell", Alters::Sometimes, &Current},
+    Rule{"mnuCalc_Add", Alters::Never, &None, 0, 1},
 };
 
 Rule RuleOf(std::string_view command) {
@@ -97,9 +97,9 @@ std::vector<Text> WithoutCol(std::vector<Text> texts, Col at) {
 std::optional<std::vector<Text>> TextsLeft(const Rule& rule, const TableMoment& before,
                                            const TableMoment& after, int row) {
     const std::vector<Text>& old = before.texts[static_cast<std::size_t>(row - 1)];
-    if (rule.command == "mnuEdit_InsertColumn_Clack") return WithInserted(old, before.curCol);
+    if (rule.command == "mnuEdit_InsertColumn") return WithInserted(old, before.curCol);
     if (after.cols < before.cols) return WithoutCol(old, before.curCol);
-    if (rule.command == "mnuEdit_DeleteColumn_Clack" || !rule.texts(before, row)) return old;
+    if (rule.command == "mnuEdit_DeleteColumn" || !rule.texts(before, row)) return old;
     return std::nullopt;
 }
 
@@ -113,8 +113,8 @@ void CheckTexts(const Rule& rule, const TableMoment& before, const TableMoment& 
 }
 
 int ColsAfter(const Rule& rule, const TableMoment& before, const TableMoment& after) {
-    if (rule.command == "mnuEdit_InsertColumn_Clack") return before.cols + (before.cols < 23 ? 1 : 0);
-    if (rule.command == "mnuEdit_DeleteColumn_Clack") return before.cols - (after.cols < before.cols ? 1 : 0);
+    if (rule.command == "mnuEdit_InsertColumn") return before.cols + (before.cols < 23 ? 1 : 0);
+    if (rule.command == "mnuEdit_DeleteColumn") return before.cols - (after.cols < before.cols ? 1 : 0);
     return before.cols;
 }
 

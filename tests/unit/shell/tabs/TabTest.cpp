@@ -1,5 +1,7 @@
+#include "dbops/commands/ColumnCommands.h"
 #include "grid/Grid.h"
 #include "support/TestProgram.h"
+#include "table/TableFile.h"
 #include "text/frmViewAndPaste.h"
 
 #include <gtest/gtest.h>
@@ -227,14 +229,14 @@ TEST_F(TabTest, Ctrl1ChoosesTheFontOfTheTable) {
 TEST_F(TabTest, RefreshedColumnsFillTheShownGrid) {
     Start();
     Tab().iGrid1.ShownWidth = Twips{3100};
-    Tab().Invoke("MnuEdit_RefreshColumnWidths_Clack");
+    Tab().Run(&MnuEdit_RefreshColumnWidths_Clack);
     EXPECT_EQ(Tab().GridStore().ColWidth(Col{1}), 200);
 }
 
 TEST_F(TabTest, ALoadClearsTheDirtyFlagOfItsSlot) {
     Start();
     p.AllTabs().TabState[1].Dirty = -1;
-    Tab().Invoke("ReadTableData");
+    Tab().Run(&ReadTableData);
     EXPECT_EQ(p.AllTabs().TabState[1].Dirty, 0);
 }
 
@@ -258,18 +260,6 @@ TEST_F(TabTest, ANewTabIsEmpty) {
     EXPECT_EQ(Tab().Table().TxtDbFile, u"");
     EXPECT_EQ(Tab().Table().ColumnNames[Col{1}], u"");
     EXPECT_EQ(Tab().Tag, u"1");
-}
-
-TEST_F(TabTest, AnUnknownRoutineIsNoError) {
-    Start();
-    Tab().Invoke("mnuEdit_Edit_Clack");
-    EXPECT_EQ(Tab().Table().TableAltered, 0);
-}
-
-TEST_F(TabTest, ExitByNameEndsTheProgram) {
-    Start();
-    Tab().Invoke("mnuFile_Exit_Clack");
-    EXPECT_FALSE(p.Main().Shown());
 }
 
 TEST_F(TabTest, CaptionsAndToolTips) {

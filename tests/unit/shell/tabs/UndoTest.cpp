@@ -1,3 +1,4 @@
+#include "dbops/commands/RowCommands.h"
 #include "dbops/windows/frmFindReplace.h"
 #include "dbops/windows/frmRowColour.h"
 #include "grid/Grid.h"
@@ -105,7 +106,7 @@ TEST_F(UndoTest, RowsAndColumnsAreOneStepEach) {
     p.Choose("mnuEdit_DeleteColumn");
     ExpectOneStep();
     GoTo(1, 1);
-    Tab().Invoke("mnuRowDown_Clack");
+    Tab().Run(&mnuRowDown_Clack);
     ExpectOneStep();
 }
 
@@ -185,7 +186,7 @@ TEST_F(UndoTest, ACommandThatChangesNothingIsNoStep) {
     Tab().iGrid1.CommitEdit(Row{2}, Col{1}, u"plum");
     p.Choose("mnuFile_Save");
     GoTo(3, 1);
-    Tab().Invoke("mnuRowDown_Clack");
+    Tab().Run(&mnuRowDown_Clack);
     p.user.Answer(Answer::No);
     p.Choose("mnuEdit_DeleteColumn");
     Undo();

@@ -3,9 +3,9 @@
 #include "common/number/Number.h"
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FontPicker.h"
-#include "dbops/commands/TabCommands.h"
 #include "support/FakeSystemFileDialog.h"
 #include "support/GridState.h"
+#include "support/TableRoutines.h"
 #include "unit/dbops/FakePorts.h"
 #include "unit/dbops/OneMindedUser.h"
 #include "unit/dbops/TestTab.h"
@@ -104,7 +104,7 @@ class DegenerateTable : public testing::TestWithParam<Shape> {
 protected:
     /// Runs the command on a fresh table and checks what holds after any command.
     template <class Check>
-    static void Run(const DbOpsCommand& command, std::optional<std::size_t> button, const Check& check) {
+    static void Run(const TableRoutine& command, std::optional<std::size_t> button, const Check& check) {
         SCOPED_TRACE(std::string(command.name) + " with button " + (button ? std::to_string(*button) : "-"));
         Bench bench(GetParam(), button);
         ASSERT_EQ(bench.grid.CurRow(), Row{GetParam().curRow});
@@ -126,19 +126,19 @@ protected:
     static Col ColsAfter(std::string_view command) {
         const Col cols{GetParam().cols};
         const bool hasCurrent = GetParam().curCol > 0;
-        if (command == "mnuEdit_InsertColumn_Clack" && cols < kWidestByInsert) return cols + 1;
-        if (command == "mnuEdit_DeleteColumn_Clack" && hasCurrent) return cols - 1;
+        if (command == "mnuEdit_InsertColumn" && cols < kWidestByInsert) return cols + 1;
+        if (command == "mnuEdit_DeleteColumn" && hasCurrent) return cols - 1;
         return cols;
     }
 };
 
 int MostRowsAddedBy(std::string_view command) {
-    if (command == "mnuEdit_AddRows_Clack") return kMostRowsAdded;
-    return command == "mnuEdit_AddOneRow_Clack" || command == "mnuCalc_Add_Clack" ? 1 : 0;
+    if (command == "mnuEdit_AddRows") return kMostRowsAdded;
+    return command == "mnuEdit_AddOneRow" || command == "mnuCalc_Add" ? 1 : 0;
 }
 
 TEST_P(DegenerateTable, KeepsItsLimitsUnderEveryButtonOfEveryCommandsWindows) {
-    for (const DbOpsCommand& command : DbOpsCommands()) {
+    for (const TableRoutine& command : TableRoutines()) {
         for (std::size_t button = 0; button < kMostButtons; ++button) {
             Run(command, button, [&](const Bench& bench, const std::string&) {
                 EXPECT_EQ(bench.grid.ColCount(), ColsAfter(command.name));
@@ -150,7 +150,7 @@ TEST_P(DegenerateTable, KeepsItsLimitsUnderEveryButtonOfEveryCommandsWindows) {
 }
 
 TEST_P(DegenerateTable, GetsTheRowsOfEachCommandThatAddsSome) {
-    for (const DbOpsCommand& command : DbOpsCommands()) {
+    for (const TableRoutine& command : TableRoutines()) {
         Run(command, 0, [&](const Bench& bench, const std::string&) {
             EXPECT_EQ(RowsAdded(bench), MostRowsAddedBy(command.name));
         });
@@ -158,11 +158,11 @@ TEST_P(DegenerateTable, GetsTheRowsOfEachCommandThatAddsSome) {
 }
 
 TEST_P(DegenerateTable, IsLeftAloneByEveryCommandThatAsksAndIsCancelled) {
-    for (const DbOpsCommand& command : DbOpsCommands()) {
+    for (const TableRoutine& command : TableRoutines()) {
         Run(command, std::nullopt, [&](const Bench& bench, const std::string& before) {
             if (bench.user.asked == 0) return;
             EXPECT_EQ(StateOf(bench.grid), before);
-            EXPECT_EQ(bench.table.TableAltered, command.name == "mnuEdit_SetRowHeight_Clack" ? 1 : 0);
+            EXPECT_EQ(bench.table.TableAltered, command.name == "mnuEdit_SetRowHeight" ? 1 : 0);
         });
     }
 }
