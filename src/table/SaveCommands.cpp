@@ -1,5 +1,6 @@
 #include "table/SaveCommands.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
 #include "context/exchange/ClosingSave.h"
@@ -43,12 +44,10 @@ Answer AskAboutChanges(const TabContext& tab, MessageIcon icon) {
 }
 
 bool SaveAtClosing(const TabContext& tab) {
-    ClosingSave& closing = tab.app.Exchange<ClosingSave>();
     // An old answer of another window mustn't refuse this closing.
     tab.app.DialogResult = 0;
-    closing.ClosingTabSave = 1;
+    const ScopedValue closing(tab.app.Exchange<ClosingSave>().ClosingTabSave, 1, 0);
     mnuFile_Save_Clack(tab);
-    closing.ClosingTabSave = 0;
     return tab.table.TableAltered == 0 && tab.app.DialogResult != kKeepTabOpen;
 }
 

@@ -15,6 +15,7 @@
 #include "testing/MemorySpreadsheet.h"
 #include "testing/MemorySystemFolders.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,11 +43,16 @@ public:
     std::vector<std::string> spreadsheetSteps;
     /// Whether there is such an application.
     bool hasSpreadsheet = true;
-    App app{{files, user, clipboard, clock, screen, shell, instance, user,
-             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }, CodePage::Windows1252(),
-             &folders, [this] { return StartSpreadsheet(); }}};
+    /// Runs before a grid is made.
+    std::function<void()> beforeGrid = [] {};
+    App app{{files, user, clipboard, clock, screen, shell, instance, user, [this] { return MakeGrid(); },
+             CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }}};
 
 private:
+    std::unique_ptr<Grid> MakeGrid() {
+        beforeGrid();
+        return std::make_unique<GridStore>(CodePage::Windows1252());
+    }
     std::unique_ptr<Spreadsheet> StartSpreadsheet() {
         if (!hasSpreadsheet) return nullptr;
         return std::make_unique<MemorySpreadsheet>(spreadsheetSteps);

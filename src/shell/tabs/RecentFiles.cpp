@@ -1,5 +1,6 @@
 #include "shell/tabs/RecentFiles.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "dialogs/Questions.h"
@@ -48,9 +49,8 @@ void RecentFiles::LoadPick(std::size_t index) {
 }
 
 void RecentFiles::OpenFromRecord(const Text& path) {
-    recents_.LoadFromRecent = 1;
+    const ScopedValue fromRecord(recents_.LoadFromRecent, 1, 0);
     pipeline_.OpenDatabase(path, LoadInto::NewTab);
-    recents_.LoadFromRecent = 0;
 }
 
 void RecentFiles::DiscardPristineUntitled() {

@@ -31,6 +31,18 @@ constexpr std::array kPageSizes{
     PageSize{u"LEGAL", 12240, 20160},
 };
 
+/// Holds the painting of the strip as long as it lives.
+class WithoutDrawing {
+public:
+    explicit WithoutDrawing(TabStrip& strip) : strip_(strip) { strip_.AllowDrawing = false; }
+    WithoutDrawing(const WithoutDrawing&) = delete;
+    WithoutDrawing& operator=(const WithoutDrawing&) = delete;
+    ~WithoutDrawing() { strip_.AllowDrawing = true; }
+
+private:
+    TabStrip& strip_;
+};
+
 } // namespace
 
 Tabs::Tabs(App& app, TabStrip& strip) : app_(app), strip_(strip), documents_(1) {}
@@ -50,12 +62,13 @@ void Tabs::RunOnActive(TabRoutine routine) {
 }
 
 void Tabs::NewDocument() {
+    auto loaded = std::make_unique<frmMDIChild>(app_, TabState);
+    loaded->EnsureLoaded();
     const int slot = TabState.FindFreeIndex();
     documents_.resize(std::max(documents_.size(), static_cast<std::size_t>(slot) + 1));
     auto& document = documents_[static_cast<std::size_t>(slot)];
     if (document != nullptr) stranded_.push_back(std::move(document));
-    document = std::make_unique<frmMDIChild>(app_, TabState);
-    document->EnsureLoaded();
+    document = std::move(loaded);
     ResolvePageSize();
     document->Tag = NumberText(slot);
     document->Caption = u"Untitled_" + NumberText(slot) + u".tbx";
@@ -65,10 +78,9 @@ void Tabs::NewDocument() {
 }
 
 void Tabs::AddNewTab() {
-    strip_.AllowDrawing = false;
-    NewDocument();
     // The strip lays itself out when it may draw again: the window needs no nudge.
-    strip_.AllowDrawing = true;
+    const WithoutDrawing held(strip_);
+    NewDocument();
 }
 
 bool Tabs::Close(Form& child) {

@@ -7,6 +7,7 @@
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FontPicker.h"
 #include "grid/Grid.h"
+#include "support/HandlerFailure.h"
 #include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 #include "unit/shell/settings/FakeDialogs.h"
@@ -105,6 +106,13 @@ TEST_F(FileListTest, LoadsTheSelectedFilesInTheOrderOfTheList) {
     EXPECT_EQ(p.app.Exchange<ListerRequest>().CurrentFolderHint, u"C:\\Data");
     EXPECT_EQ(p.app.Exchange<ListerRequest>().ListerFolder, u"C:\\Data");
     EXPECT_EQ(p.app.Exchange<FileOperation>().FileOpName, u"a.tbx");
+    EXPECT_EQ(Recents().LoadFromRecent, 0);
+}
+
+TEST_F(FileListTest, ALoadInWhichAHandlerFailsIsNoLoadFromTheRecordAfterwards) {
+    p.user.On<frmFileList>([](frmFileList& f) { f.cmdLoad.Press(); });
+    p.beforeGrid = FailInHandler;
+    EXPECT_THROW(p.Choose("mnuFile_Recent"), HandlerFailure);
     EXPECT_EQ(Recents().LoadFromRecent, 0);
 }
 

@@ -1,5 +1,6 @@
 #include "context/exchange/ClosingSave.h"
 #include "grid/Grid.h"
+#include "support/HandlerFailure.h"
 #include "support/TestProgram.h"
 #include "table/frmTxtDbInfo.h"
 
@@ -112,6 +113,16 @@ TEST_F(Closing, ASaveThatIsAbandonedInTheChooserKeepsTheTab) {
                   Answer::Ok);
     p.user.CancelChooser();
     p.Choose("mnuFile_Close");
+    EXPECT_EQ(p.Captions().size(), 3u);
+}
+
+TEST_F(Closing, ASaveInWhichAHandlerFailsIsNoSaveAtClosingAfterwards) {
+    Start();
+    p.files.Erase(PathOf(u'c'));
+    p.user.Answer(Answer::Yes);
+    p.user.AnswerAfter(FailInHandler, Answer::Ok);
+    EXPECT_THROW(p.Choose("mnuFile_Close"), HandlerFailure);
+    EXPECT_EQ(p.app.Exchange<ClosingSave>().ClosingTabSave, 0);
     EXPECT_EQ(p.Captions().size(), 3u);
 }
 

@@ -1,6 +1,8 @@
 #include "shell/tabs/Tabs.h"
 
 #include "grid/Grid.h"
+#include "shell/commands/frmAbout.h"
+#include "support/HandlerFailure.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -69,6 +71,79 @@ TEST_F(TabsTest, ATabThatClosesFromItsOwnHandlerLivesToTheEndOfIt) {
     tab.iGrid1.MouseUp(MouseButton::Right);
     EXPECT_TRUE(p.Captions().empty());
     EXPECT_EQ(tab.Caption.Get(), u"Untitled_1.tbx");
+}
+
+/// Tells when a window is gone.
+class Watch final : public View {
+public:
+    explicit Watch(Form& form) : form_(form) { form_.SetView(this); }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+    ~Watch() override {
+        if (!gone) form_.SetView(nullptr);
+    }
+    bool gone = false;
+
+    void Follow(Observed&, Aspect) override {}
+    void Gone() override { gone = true; }
+
+private:
+    Form& form_;
+};
+
+TEST_F(TabsTest, AClosedTabIsReleasedByTheNextCommandThatStartsOnItsOwn) {
+    Start(2);
+    const Watch first(p.Tab(1));
+    p.Main().MDITabs1.CloseWanted(p.Tab(1));
+    EXPECT_FALSE(first.gone);
+    p.Choose("mnuFile_SwitchTabsForward");
+    EXPECT_TRUE(first.gone);
+}
+
+TEST_F(TabsTest, AClosedTabIsReleasedWhenTheNextOneClosesByItsBox) {
+    Start(2);
+    const Watch first(p.Tab(1));
+    const Watch second(p.Tab(2));
+    p.Main().MDITabs1.CloseWanted(p.Tab(1));
+    p.Main().MDITabs1.CloseWanted(p.Tab(2));
+    EXPECT_TRUE(first.gone);
+    EXPECT_FALSE(second.gone);
+}
+
+TEST_F(TabsTest, ACommandWithinAnotherReleasesNoTabThatThisOneClosed) {
+    Start(2);
+    const Watch first(p.Tab(1));
+    p.Tab(2).Table().TableAltered = 1;
+    bool alive = false;
+    p.user.AnswerAfter(
+        [&] {
+            p.Main().RunCommand("mnuFile_SwitchTabsForward");
+            alive = !first.gone;
+        },
+        Answer::No);
+    p.Choose("mnuFile_Exit");
+    EXPECT_TRUE(alive);
+}
+
+TEST_F(TabsTest, AFailureInACommandHoldsNoClosedTabForEver) {
+    Start(2);
+    p.user.On<frmAbout>([](frmAbout&) { FailInHandler(); });
+    EXPECT_THROW(p.Choose("mnuMisc_About"), HandlerFailure);
+    const Watch first(p.Tab(1));
+    p.Main().MDITabs1.CloseWanted(p.Tab(1));
+    p.Choose("mnuFile_SwitchTabsForward");
+    EXPECT_TRUE(first.gone);
+}
+
+TEST_F(TabsTest, AFailureWhileATabIsMadeLeavesTheStripPaintingAndNoHalfTab) {
+    Start(1);
+    p.beforeGrid = FailInHandler;
+    EXPECT_THROW(p.AllTabs().AddNewTab(), HandlerFailure);
+    EXPECT_TRUE(p.Main().MDITabs1.AllowDrawing);
+    EXPECT_EQ(p.AllTabs().TabState.CountInUse(), 1);
+    p.beforeGrid = [] {};
+    p.AllTabs().AddNewTab();
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Untitled_1.tbx", u"Untitled_2.tbx"}));
 }
 
 // Kept for compatibility: tabs-switch-by-slot.
