@@ -561,6 +561,24 @@ TEST_F(FileListTest, AHeaderClickLeavesASingleRowAlone) {
     });
 }
 
+TEST_F(FileListTest, AHeaderClickOnASingleRowSortsNoLaterListEither) {
+    frmFileList form(p.app, Recents(), p.Main());
+    SetRecord({kA});
+    p.user.On<frmFileList>([](frmFileList& f) {
+        f.ListView1.ClickColumn(1);
+        f.cmdCancel.Press();
+    });
+    form.ShowModal();
+    SetRecord({kB, kA});
+    p.user.On<frmFileList>([](frmFileList& f) {
+        EXPECT_EQ(f.ListView1.RowAt(1).texts.at(0), u"b.tbx");
+        f.ListView1.ClickColumn(1);
+        EXPECT_EQ(f.ListView1.RowAt(1).texts.at(0), u"a.tbx");
+        f.cmdCancel.Press();
+    });
+    form.ShowModal();
+}
+
 TEST_F(FileListTest, TheCutIsOnlyMadeWhenTheLastEntryIsInUse) {
     std::vector<Text> paths;
     for (int i = 1; i < RecentRecord::kEntries; ++i)

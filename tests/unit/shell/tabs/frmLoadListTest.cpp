@@ -284,6 +284,19 @@ TEST_F(LoadListTest, EscapeAndTheClearKeyClose) {
     }
 }
 
+TEST_F(LoadListTest, KeysWithoutALetterCountAloneOnly) {
+    OpenBoth();
+    InList([](frmLoadList& f) {
+        for (const int code : {Key::Escape, Key::Clear, Key::Return, Key::F(2)}) {
+            for (int mask = Mask::Shift; mask <= (Mask::Shift | Mask::Ctrl | Mask::Alt); ++mask)
+                EXPECT_FALSE(Press(f, code, mask)) << code << " with " << mask;
+        }
+        EXPECT_TRUE(f.Shown());
+        EXPECT_EQ(f.SwitchTarget, -1);
+    });
+    EXPECT_EQ(p.user.Requests().size(), 1u) << "the chooser was for the second file alone";
+}
+
 TEST_F(LoadListTest, DocksByKeyAndLeavesOtherKeysAlone) {
     p.StartWith({});
     p.Main().Left = Twips{6000};
