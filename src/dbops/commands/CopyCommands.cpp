@@ -113,8 +113,11 @@ void CopyRows(const TabContext& tab, RowsToCopy rows, CopyDestination destinatio
     }
     frmDelimiterType form(tab, request);
     if (ShowForResult(tab.app, form) == 0) return;
-    const auto put = destination == CopyDestination::Clipboard ? &PutInClipboard : &PutInTextWindow;
-    put(tab.app, Records(tab, rows, request.ColumnIncluded).MakeText());
+    Text text = Records(tab, rows, request.ColumnIncluded).MakeText();
+    if (destination == CopyDestination::Clipboard)
+        PutInClipboard(tab.app, std::move(text));
+    else
+        PutInTextWindow(tab.app, text);
     grid.GridSetFocus();
 }
 
