@@ -17,7 +17,8 @@ namespace korvane {
 
 namespace {
 
-/// Inserting makes a table no wider than this: one short of `MaxColumns`, which files and designs can reach.
+/// Inserting a column makes a table no wider than this, which is one less than the `MaxColumns` that a file
+/// can have.
 constexpr Col kWidestByInsert{23};
 constexpr TextView kNewColumnName = u"NEW";
 constexpr double kTwipsPerWidthUnit = 15.5;
@@ -49,7 +50,7 @@ void InsertColumn(TableModel& table) {
     RenameColumn(table, current, Text(kNewColumnName));
 }
 
-/// An empty name and a size of 0 leave the table's own.
+/// An empty name, or a size of 0, leaves what the table has.
 void TakeFont(TableModel& table, const FontSpec& font) {
     Grid& grid = table.GridStore();
     if (!font.name.empty()) {

@@ -40,7 +40,7 @@ std::size_t CellLength(const Grid& grid, Row row, Col col) {
     return bytes ? bytes->size() : grid.CellText(row, col).size();
 }
 
-/// Rows on their way out as text, one record for each.
+/// Turns rows into text, with one record for each row.
 class Records {
 public:
     /// The request outlives the object.

@@ -4,7 +4,7 @@ namespace korvane {
 
 struct TabContext;
 
-// The ways of a table's data out of it as text.
+// These copy data of a table as text.
 
 void mnuEdit_CopyCellToText_Clack(const TabContext& tab);
 void mnuEdit_CopyRowToText_Clack(const TabContext& tab);

@@ -17,12 +17,13 @@ namespace korvane {
 
 namespace {
 
-/// The same for all columns: those of the table are pixels, and sized for the grid.
+/// All columns get this width, because those of the table are in pixels and made for the grid.
 constexpr int kColumnWidth = 32;
 /// A light green.
 constexpr int kHeaderColorIndex = 35;
 
-/// A table has few enough columns for single letters. One that has more leaves those out that get no letter.
+/// Single letters are enough for the columns that a file can have. In a wider table, the columns after Z get
+/// no valid name and so are left out.
 Text ColumnLetter(Col col) {
     return Text(1, static_cast<char16_t>(u'A' + col.Number() - 1));
 }
@@ -37,7 +38,7 @@ Text ProposedName(TextView path) {
     return Text(Left(path, InStrRev(path, u"."))) + u"xls";
 }
 
-/// The directory is the same again afterwards, whichever the user went to.
+/// Whatever folder the user goes to in the dialog, the current directory is the same again afterwards.
 std::optional<Text> ChooseFileName(const TabContext& tab) {
     auto* systemFileDialog = tab.app.Port<SystemFileDialog>();
     if (systemFileDialog == nullptr) return std::nullopt;

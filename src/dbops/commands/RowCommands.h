@@ -13,7 +13,8 @@ void mnuEdit_AddRows_Clack(const TabContext& tab);
 void mnuRowDown_Clack(const TabContext& tab);
 void mnuRowUp_Clack(const TabContext& tab);
 
-// Both ask first. A marked row stays in the table until the next save leaves it out.
+// Both ask first and then mark rows for deletion: the current row, or all ticked rows. A marked row stays in
+// the table until the next save leaves it out.
 void mnuEdit_Delete_Clack(const TabContext& tab);
 void mnuDel_CheckedRows_Clack(const TabContext& tab);
 

@@ -9,12 +9,12 @@ struct TabContext;
 /// Asks for a height and gives it to all rows. The table counts as altered even after a Cancel.
 void mnuEdit_SetRowHeight_Clack(const TabContext& tab);
 
-/// The tab's slider moves: takes a height within the slider's range over, in grid units, while the rows stay
-/// as they are.
+/// Makes `height`, in grid units, the row height of the table while the tab's slider is moved, and leaves the
+/// rows as they are. A height outside the slider's range has no effect.
 void MoveRowHeight(const TabContext& tab, int height);
-/// The slider was let go of: all rows get the height.
+/// Gives all rows the row height of the table when the slider is let go.
 void ApplyRowHeight(const TabContext& tab);
-/// The height typed into the tab's box, which may lie outside the slider's range, goes to all rows.
+/// Gives all rows the height that was typed into the tab's box. It may be outside the slider's range.
 void ApplyTypedRowHeight(const TabContext& tab, TextView typed);
 
 } // namespace korvane

@@ -41,7 +41,7 @@ void ColourCurrentRow(const TabContext& tab) {
     SetRowColours(tab.table, grid.CurRow(), ChosenColours(tab.app));
 }
 
-/// Ticks every row of these colours; how many there are.
+/// Ticks every row that has these colours, and returns how many there are.
 int TickRowsOfColours(Grid& grid, const RowColours& colours) {
     const GridHidden hidden(grid);
     const GridUpdate update(grid);
@@ -59,7 +59,7 @@ void SelectByColours(const TabContext& tab) {
     Inform(tab.app, u"[ " + NumberText(selected) + u" ] items selected.");
 }
 
-/// Shows the rows for which `wanted(Row)` is true and hides the others; how many are shown.
+/// Shows the rows for which `wanted(Row)` is true, hides the others, and returns how many are shown.
 template <class Wanted>
 int ShowRows(Grid& grid, const Wanted& wanted) {
     const GridUpdate update(grid);

@@ -15,7 +15,7 @@ void RowColour(const TabContext& tab) {
 /// Shows `frmRowColour` and does what was chosen there: colours the current row, ticks the rows of a colour,
 /// or hides and shows rows by font flag.
 void mnuFormat_RowColour_Clack(const TabContext& tab);
-/// Asks for another background of the whole table.
+/// Asks for another background colour for the whole table.
 void mnuFormat_BColor_Clack(const TabContext& tab);
 
 } // namespace korvane

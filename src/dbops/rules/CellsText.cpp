@@ -28,7 +28,7 @@ void CellsText::Append(TextView text) {
 }
 
 bool CellsText::EndsInCrLf() {
-    // The two may lie on both sides of the border.
+    // The CR may be the last decoded character, and the LF the first byte that isn't decoded yet.
     if (bytes_.size() < kCrLf.size()) Decode();
     return bytes_.empty() ? text_.ends_with(kCrLf) : bytes_.ends_with("\r\n");
 }

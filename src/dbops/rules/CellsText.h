@@ -9,11 +9,11 @@
 
 namespace korvane {
 
-/// One text made of many cells, at the speed of copying bytes: what the table's code page holds is put
-/// together as bytes and decoded in large pieces.
+/// Makes one text of many cells at the speed of copying bytes: what the table's code page can hold is joined
+/// as bytes and decoded in large pieces.
 class CellsText {
 public:
-    /// The grid outlives the object. With `expectedLength`, at least so much goes in without growing.
+    /// The grid outlives the object. A text of up to `expectedLength` is made without growing.
     explicit CellsText(const Grid& grid, std::size_t expectedLength = 0);
 
     void AppendCell(Row row, Col col);
@@ -23,7 +23,8 @@ public:
     Text Take() &&;
 
 private:
-    /// Bytes are decoded when so many have come together: few enough to stay in the processor's cache.
+    /// So many bytes are collected before they are decoded. They are few enough to stay in the processor's
+    /// cache.
     static constexpr std::size_t kPiece = 16 * 1024;
 
     void AppendBytes(std::string_view bytes);
@@ -32,7 +33,7 @@ private:
 
     const Grid& grid_;
     Text text_;
-    /// Stands behind `text_`.
+    /// These bytes come after `text_` and aren't decoded yet.
     std::string bytes_;
 };
 

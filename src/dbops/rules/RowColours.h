@@ -16,10 +16,10 @@ struct RowColours {
 
 /// One of the colourings that rows can have.
 struct RowColourChoice {
-    /// In the list, and beside it as the help to the keys.
+    /// The entry in the list, and the line beside the list that names its keys.
     TextView listText;
     TextView keyText;
-    /// `kNoColour` stands for the background of the table.
+    /// `kNoColour` means the background of the table.
     Colour backByDialog;
     Colour backByKey;
     Colour text;

@@ -4,8 +4,8 @@ namespace korvane {
 
 struct TabContext;
 
-// Each turns a font flag round in every cell of the current row, in each by itself, so that a row of which
-// some cells have it stays mixed.
+// Each of these flips a font flag in every cell of the current row by itself, so that a row in which only
+// some cells have the flag stays mixed.
 void MakeEmailItalic(const TabContext& tab);
 void MakeEmailBold(const TabContext& tab);
 void MakeEmailStrikethru(const TabContext& tab);

@@ -11,7 +11,7 @@ void ForEachRow(const Grid& grid, const Visit& visit) {
         visit(row);
 }
 
-/// In how many rows `holds(Row)` is true.
+/// The number of rows for which `holds(Row)` is true.
 template <class Test>
 int CountRows(const Grid& grid, const Test& holds) {
     int count = 0;

@@ -9,15 +9,15 @@ namespace korvane {
 
 struct TabContext;
 
-/// A cell whose text holds what was looked for.
+/// A cell whose text contains what was searched for.
 struct TableMatch {
     CellPosition cell;
-    /// Whether it stands in the rest of the current row, which is looked through before the rows below.
+    /// Whether the cell is in the rest of the current row, which is searched before the rows below.
     bool inCurrentRow = false;
 };
 
-/// The first cell behind the current one whose text holds `part`, with case counting; the search ends with
-/// the table. Hidden rows are searched like others, the current cell itself never is.
+/// The first cell after the current one whose text contains `part` in the same case. The search ends at the
+/// last cell of the table. Hidden rows are searched like others, and the current cell isn't searched.
 std::optional<TableMatch> FindBehindCurrentCell(const Grid& grid, TextView part);
 
 /// Makes the match the current cell and brings it into view.

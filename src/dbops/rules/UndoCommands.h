@@ -9,8 +9,8 @@ void UndoEdit(const TabContext& tab);
 /// Makes the edit again that was undone last.
 void RedoEdit(const TabContext& tab);
 
-/// Ends an edit that a command makes while its window stands: it is undone by itself, not with all the others
-/// that are made from the same window.
+/// Ends an edit that a command makes while its window is open, so that it is undone by itself and not
+/// together with the others that are made from the same window.
 void EndEdit(const TabContext& tab);
 
 } // namespace korvane

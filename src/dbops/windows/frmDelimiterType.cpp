@@ -9,7 +9,7 @@ namespace korvane {
 
 namespace {
 
-/// What the entries of `optDelimiter` stand for, in their order.
+/// The delimiters that the entries of `optDelimiter` choose, in their order.
 constexpr std::array<TextView, 5> kDelimiters{u"\t", u",", u";", u" ", u""};
 
 TextView DestinationText(CopyDestination destination) {

@@ -14,7 +14,7 @@
 
 namespace korvane {
 
-/// Which columns go into a copy. A column past `MaxColumns` has no entry and stays out.
+/// Which columns go into a copy. A column after `MaxColumns` has no entry and is left out.
 class ColumnsIncluded {
 public:
     bool operator[](Col col) const { return Holds(col) && included_[Index(col)]; }
@@ -31,15 +31,15 @@ private:
 
 enum class CopyDestination : std::int16_t { TextWindow = 1, Clipboard = 2 };
 
-/// A copy about to be made: what the window tells of it, and what the user chooses.
+/// A copy that is about to be made: what the window shows about it, and what the user chooses.
 struct CopyRequest {
     CopyDestination destination = CopyDestination::Clipboard;
     int rowsToCopy = 0;
     ColumnsIncluded ColumnIncluded;
 };
 
-/// Asks which columns a copy takes and what goes between them. Modal; `DialogResult` is 1 when it may go on.
-/// The delimiter stands in the settings then.
+/// Asks which columns a copy takes and what is put between them. Modal; `DialogResult` is 1 when the copy may
+/// be made. The chosen delimiter is in the settings then.
 class frmDelimiterType : public Form {
 public:
     /// Tab and request outlive the window.
@@ -50,7 +50,7 @@ public:
                                               {*this, "optDelimiter2", "optDelimiter", u"A semi-colon"},
                                               {*this, "optDelimiter3", "optDelimiter", u"A space character"},
                                               {*this, "optDelimiter4", "optDelimiter", u"No delimiter"}}};
-    /// Kept as long as the program runs, without effect on what is copied.
+    /// This is kept as long as the program runs, and has no effect on what is copied.
     CheckBox chkBreakAfterFieldThree{*this, "chkBreakAfterFieldThree",
                                      u"Add line break from field 3 onwards"};
     Label lblDestination{*this, "lblDestination"};

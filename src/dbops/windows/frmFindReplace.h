@@ -22,7 +22,7 @@ public:
 
     TextBox Text1{*this, "Text1"};
     TextBox Text2{*this, "Text2"};
-    /// Kept from one opening to the next, without effect on the search.
+    /// This is kept from one opening to the next, and has no effect on the search.
     CheckBox Check1{*this, "Check1", u"&Case sensitive search"};
     CommandButton cmdFindButton{*this, "cmdFindButton", u"&Find"};
     CommandButton cmdReplaceButton{*this, "cmdReplaceButton", u"&Replace"};

@@ -12,8 +12,8 @@
 
 namespace korvane {
 
-/// Chooses what to do with row colours and font flags; `App::DialogResult` is one of the results below or 0.
-/// The chosen colours stand in the settings, and all choices are kept as long as the program runs. Modal.
+/// Asks what to do with row colours and font flags. `App::DialogResult` is one of the results below, or 0.
+/// The chosen colours are in the settings then, and all choices are kept as long as the program runs. Modal.
 class frmRowColour : public Form {
 public:
     static constexpr std::int16_t kSetColour = 1;
@@ -25,7 +25,7 @@ public:
     frmRowColour(const TabContext& tab, Colour tableBack);
 
     ListBox lstColourOptions{*this, "lstColourOptions"};
-    /// The keys beside the list, one line for each of its entries.
+    /// Names the keys beside the list, with one line for each of its entries.
     TextBox Text1{*this, "Text1"};
     CheckBox chkRemoveChecksAtstart{*this, "chkRemoveChecksAtstart", u"Remove all checks in grid first"};
     /// In the order of `CellFlag`.

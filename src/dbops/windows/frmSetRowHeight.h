@@ -8,7 +8,7 @@
 namespace korvane {
 
 /// Asks for the height of a table's rows, which becomes the table's `SetRowHeight`. `App::DialogResult` is 1
-/// when it did. Modal.
+/// when the user accepted one. Modal.
 class frmSetRowHeight : public Form {
 public:
     /// The tab outlives the window.

@@ -9,7 +9,7 @@ namespace korvane {
 
 class App;
 
-/// Asks for another name of a column. `App::DialogResult` is 1 when the user accepted one. Modal.
+/// Asks for another name for a column. `App::DialogResult` is 1 when the user accepted one. Modal.
 class frmTxtDbColName : public Form {
 public:
     /// The App outlives the window.

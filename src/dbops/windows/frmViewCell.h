@@ -12,11 +12,11 @@ namespace korvane {
 
 class App;
 
-/// What the table and the window of a cell hand each other.
+/// What the table and the window of a cell pass to each other.
 struct CellExchange {
     Text text;
-    /// From 0 on, so many characters behind it are selected on opening as the settings' `ViewCellText` is
-    /// long; -1 selects nothing.
+    /// Where a selection begins on opening, counted from 0. The selection is as long as the settings'
+    /// `ViewCellText`. -1 selects nothing.
     int selStart = -1;
 };
 
