@@ -4,8 +4,8 @@ namespace korvane {
 
 struct TabContext;
 
-/// Makes a table of the clipboard's text, which the user sees first: a line for each row, tab characters
-/// between the cells, as many columns as the first line has.
+/// Makes a table of the clipboard's text, which the user sees first. Each line becomes a row, tab characters
+/// separate the cells, and the first line decides how many columns there are.
 void mnuImport_Clip_Clack(const TabContext& tab);
 
 } // namespace korvane

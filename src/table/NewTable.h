@@ -8,7 +8,7 @@ namespace korvane {
 class FileSystem;
 class Grid;
 
-/// The name under which a table that was just made stands in the current directory.
+/// The file name of a table that was just made. It is a name in the current directory.
 inline constexpr TextView NewDatabaseFileName = u"NewTextDatabase.tbx";
 
 /// How high the rows of such a table are, in grid units.
@@ -17,8 +17,9 @@ inline constexpr int kNewRowHeight = 24;
 /// The full path of `NewDatabaseFileName`.
 Text NewDatabaseFilePath(const FileSystem& files);
 
-/// Appends a column under the key of a number, or without one where that key is taken, and gives the column
-/// of this number, which is another one in a grid that had columns, the width of a new one.
+/// Appends a column whose key is made from `number`. When a column has this key already, the new one gets no
+/// key. The width of a new column goes to column `number`, which isn't the appended one when the grid had
+/// columns before.
 void AddNewColumn(Grid& grid, Col number, TextView header);
 
 /// Colours and font of a table that was just made.

@@ -8,11 +8,12 @@ namespace korvane {
 
 struct TabContext;
 
-/// `App::DialogResult` when the user, shown the outcome of the save of a closing tab, wants the tab kept.
+/// `App::DialogResult` when the user, who was shown the result of saving a closing tab, wants to keep the
+/// tab.
 inline constexpr std::int16_t kKeepTabOpen = 99;
 
-/// Saves under the present name. Where there is no such file (a new table, or one deleted behind the
-/// program's back) it says so and goes on as Save As.
+/// Saves under the present name. When there is no such file, because the table is new or its file was
+/// deleted, it says so and goes on as Save As.
 void mnuFile_Save_Clack(const TabContext& tab);
 
 /// Asks for a name and saves under it, as the chooser gives it. `App::DialogResult` is 1 when it saved; the
@@ -21,12 +22,12 @@ void mnuFile_SaveAs_Clack(const TabContext& tab);
 
 void mnuFile_FileInfo_Clack(const TabContext& tab);
 
-/// Before the table gives way to another one: asks about changes that aren't on disk. Yes is Save As. Whether
-/// the table may go.
+/// Asks about changes that aren't on disk before another table takes the place of this one. Yes means Save
+/// As. Returns whether the table may go.
 bool AskToSave(const TabContext& tab);
 
-/// Before the tab closes: asks the same. Yes is Save, whose outcome the user can refuse. Whether the tab may
-/// close.
+/// Asks the same before the tab closes. Yes means Save, and the user can keep the tab when he sees the
+/// result. Returns whether the tab may close.
 bool AskToSaveAtClosing(const TabContext& tab);
 
 } // namespace korvane

@@ -12,7 +12,7 @@ struct TabContext {
     App& app;
     TableModel& table;
     TableHost& host;
-    /// nullptr where nothing is undone.
+    /// nullptr where nothing can be undone.
     TableHistory* history = nullptr;
 };
 

@@ -7,14 +7,16 @@ namespace korvane {
 
 class Grid;
 
-/// The columns of the text's first line, at most as many as a table counts.
+/// The number of columns in the first line of the text, at most as many as 16 bits can count.
 Col ColumnsOfTabbedText(TextView text);
 
-/// The lines that end in LF, and an unfinished one at the end, at most as many as a table takes.
+/// The number of lines that end in LF, plus one for an unfinished line at the end, at most as many as 16 bits
+/// can count.
 Row RowsOfTabbedText(TextView text);
 
-/// Writes the text's cells into a grid that has its rows, from the first one on. A CR in front of a line's LF
-/// stays in its last cell. What has no column or row in the grid is dropped.
+/// Writes the cells of the text into a grid that already has the rows for them, from the first row on. A CR
+/// before the LF of a line stays in the line's last cell. Cells without a column or row in the grid are
+/// dropped.
 void FillFromTabbedText(Grid& grid, TextView text);
 
 } // namespace korvane

@@ -33,7 +33,7 @@ void EndLoad(const TabContext& tab) {
     tab.host.ClearDirty();
 }
 
-/// The update bracket stays open and the end of the load doesn't come: the tab is left as it is.
+/// The update bracket stays open and the end of a load isn't run, so that the tab is left as it is.
 void EndStoppedLoad(App& app) {
     app.Messages().Show(TooManyColumnsMessage());
 }
@@ -99,7 +99,8 @@ void ReadTableData(const TabContext& tab) {
 void SaveThisTable(const TabContext& tab) {
     App& app = tab.app;
     TableModel& table = tab.table;
-    // Nothing is moved aside: from here on the old contents are gone, whether or not the new ones arrive.
+    // The old file isn't moved aside: from here on its contents are gone, even if the new ones can't be
+    // written.
     DeleteFileQuietly(app, table.TxtDbFile);
     const auto file = app.Files().OpenRaw(table.TxtDbFile);
     if (!file) {

@@ -9,8 +9,8 @@ namespace korvane {
 
 namespace {
 
-/// The fields of the model that commands change. The path of the file isn't among them: what was saved stays
-/// saved.
+/// The fields of the model that commands change. The path of the file isn't among them, because undoing
+/// doesn't take a save back.
 constexpr std::tuple kFields{&TableAttributes::SetRowHeight, &TableAttributes::TableBackColour,
                              &TableAttributes::TableFontName, &TableAttributes::TableFontSize,
                              &TableAttributes::ColumnNames};
@@ -53,7 +53,7 @@ std::vector<TableHistory::AttributeNote> TableHistory::ChangedAttributes() const
     return notes;
 }
 
-/// The latest step is kept whatever it takes.
+/// The latest step is kept, however much memory it takes.
 void TableHistory::ForgetOldest() {
     while (doneMemory_ > mostMemory_ && done_.size() > 1) {
         doneMemory_ -= done_.front().MemoryUse();

@@ -18,9 +18,9 @@ class TableHost;
 /// command or edit that changed something. A step costs what it changed, never a copy of the table.
 class TableHistory {
 public:
-    /// Beyond this the oldest steps are forgotten: room for some fifty rewrites of a whole column at the
-    /// format's limit, and for more single edits than anybody makes in a day. Without it a long day over a
-    /// large table would end in gigabytes.
+    /// When the steps take more memory than this, the oldest are forgotten. It is enough for some fifty
+    /// changes of a whole column at the format's limit, and for more single edits than anybody makes in a
+    /// day. Without a limit, a long day with a large table would take gigabytes.
     static constexpr std::size_t kMostMemory = std::size_t{256} * 1024 * 1024;
 
     /// Table and host outlive the history.
@@ -29,9 +29,10 @@ public:
     TableHistory& operator=(const TableHistory&) = delete;
     ~TableHistory();
 
-    /// What changed since the last step becomes one, unless nothing did. What was undone is forgotten then.
+    /// Makes a step of what changed since the last one, and forgets the steps that were undone. Nothing
+    /// happens when nothing changed.
     void EndStep();
-    /// That the row height of the model became another is no edit.
+    /// Keeps a change of the model's row height out of the next step, because it wasn't an edit.
     void IgnoreRowHeight() { attributes_.SetRowHeight = table_.SetRowHeight; }
 
     /// Takes the latest step back; the table counts as altered. False when there is none.
@@ -77,8 +78,8 @@ private:
     bool stopped_ = false;
 };
 
-/// Makes a step of what changes while it lives, the model's own fields included; what came before is one of
-/// its own. Where one lives within another, each has its steps.
+/// Makes a step of what changes while it exists, the fields of the model included. What changed before
+/// becomes a step of its own. When one exists inside another, each makes steps of its own.
 class TableStep {
 public:
     explicit TableStep(TableHistory& history);
@@ -90,10 +91,10 @@ private:
     TableHistory& history_;
 };
 
-/// Forgets a history, and starts it anew at the end of its own life: nothing between is noted.
+/// Forgets a history, and starts it again when this object is destroyed. Changes in between aren't recorded.
 class HistoryRestart {
 public:
-    /// nullptr for no history.
+    /// nullptr when there is no history.
     explicit HistoryRestart(TableHistory* history);
     HistoryRestart(const HistoryRestart&) = delete;
     HistoryRestart& operator=(const HistoryRestart&) = delete;

@@ -13,8 +13,8 @@
 
 namespace korvane {
 
-/// One text per column of a file, numbered from 1 to `MaxColumns`. What lies outside reads as empty and isn't
-/// written.
+/// One text for each column of a file, numbered from 1 to `MaxColumns`. The text of any other column is empty
+/// and can't be set.
 class ColumnTexts {
 public:
     const Text& operator[](Col col) const { return Holds(col) ? texts_[Index(col)] : empty_; }
@@ -32,18 +32,18 @@ private:
     Text empty_;
 };
 
-/// What a tab knows of its table and its commands change.
+/// What a tab knows of its table and lets commands change.
 struct TableAttributes {
-    // Nothing until a load, a design or the user sets them; they count as 0 and empty then.
+    // These are unset until a load, a design or the user sets them. Unset ones count as 0 or empty.
     std::optional<std::int16_t> SetRowHeight{};
     std::optional<Colour> TableBackColour{};
     std::optional<Text> TableFontName{};
     std::optional<std::int16_t> TableFontSize{};
-    /// Names as read or designed: no mirror of the grid's headers.
+    /// The names as they were read or designed. They don't follow the grid's headers.
     ColumnTexts ColumnNames{};
 };
 
-/// What a tab knows of its table beside the rows and columns, which live in the grid.
+/// What a tab knows of its table, except the rows and columns, which are in the grid.
 class TableModel : public TableAttributes {
 public:
     /// The grid is the tab's and outlives the model.
@@ -62,7 +62,7 @@ public:
     std::int16_t TableAltered = 0;
     /// Used only between reading the column lines of a file and creating the columns.
     ColumnTexts ColumnWidths;
-    /// The titles of the last design on this tab, without gaps.
+    /// The titles of the last design on this tab. Entries without a title are left out.
     std::vector<Text> lstNewTableColumns;
 
 private:

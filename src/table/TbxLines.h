@@ -9,20 +9,20 @@
 
 namespace korvane {
 
-/// The lines of a `.tbx` file, one after the other. A line ends at CR LF or at a lone CR; a lone LF belongs
-/// to it. The line end isn't part of the line.
+/// The lines of a `.tbx` file, one after the other. A line ends at CR LF or at a lone CR, and its end isn't
+/// part of it. A lone LF is part of the line.
 class TbxLines {
 public:
     explicit TbxLines(std::string_view bytes) : bytes_(bytes) {}
 
-    /// Whether the end of the file has been reached: already so when the last line has been read.
+    /// Whether the end of the file has been reached. This is true as soon as the last line has been read.
     bool AtEnd() const { return next_ == bytes_.size(); }
     /// Reads the next line. Not at the end.
     void Next();
 
     std::string_view Line() const { return {bytes_.data() + begin_, end_ - begin_}; }
     bool StartsWith(char mark) const { return begin_ < end_ && bytes_[begin_] == mark; }
-    /// Where the line stands in the file, its end without the line end.
+    /// Where the line begins and ends in the file. The line end isn't part of it.
     std::size_t Begin() const { return begin_; }
     std::size_t End() const { return end_; }
     bool EndsInLoneCr() const { return next_ - end_ == 1; }
@@ -36,9 +36,9 @@ private:
     std::size_t next_ = 0;
 };
 
-/// Where the first CR stands from `begin_` on; the end of the file without one. Every other line is a short
-/// mark, for which a search made for long stretches takes longer to begin than to search: hence the first
-/// eight bytes are looked at as one number.
+/// Where the first CR is from `begin_` on, or the end of the file when there is none. Every second line is a
+/// short mark. A search that is made for long texts takes longer to start than to search such a line, so the
+/// first eight bytes are looked at as one number.
 inline std::size_t TbxLines::FindCr() const {
     constexpr std::uint64_t kOnes = 0x0101010101010101;
     const char* const line = bytes_.data() + begin_;

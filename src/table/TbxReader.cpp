@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kHeaderLines = 4;
 constexpr Colour kDataColour{0xC00000};
-/// In a colour line: leave the colour alone.
+/// This number in a colour line leaves the colour alone.
 constexpr Colour kKeepColour{-999};
 
 struct FlagLetter {
@@ -37,7 +37,7 @@ void StoreNumber(double number, std::optional<Int>& field) {
     if (StoreRounded(number, stored)) field = stored;
 }
 
-/// The text of a cell some lines of which end in a lone CR: CR LF in their place.
+/// The text of a cell with CR LF in place of every lone CR.
 std::string WithFullLineEnds(std::string_view slice) {
     std::string text;
     text.reserve(slice.size());
@@ -100,7 +100,8 @@ void TbxReader::TakeHeaderLine(std::string_view value) {
     }
 }
 
-/// Names and widths take turns. A column line among the data starts the rows anew.
+/// Column lines hold a name and a width in turn. After a column line among the data, rows are counted from 1
+/// again.
 bool TbxReader::TakeColumnLine(std::string_view value) {
     if (!expectWidth_) {
         ++columnCount_;
@@ -133,7 +134,8 @@ void TbxReader::TakeDataLine(std::string_view line) {
         TakeOther();
 }
 
-/// Every line before the first row asks for this; without a column line since, there is nothing to do.
+/// Every line before the first row calls this. It does nothing unless a column line has come since the last
+/// call.
 void TbxReader::SetUpColumns() {
     if (std::exchange(columnsStand_, true)) return;
     for (Col col{1}; col <= columnCount_; ++col)
@@ -154,7 +156,7 @@ void TbxReader::SetUpColumn(Col col) {
 void TbxReader::StartRow() {
     colourLineSeen_ = false;
     col_ = Col{0};
-    // Behind the last row that a table can have, what comes belongs to none.
+    // What comes after the last row that a table can have belongs to no row.
     row_ = std::min(row_ + 1, kMaxRows + 1);
     if (row_ <= kMaxRows) grid_.SetRowCount(row_);
     rowDressed_ = false;
@@ -217,7 +219,7 @@ bool TbxReader::CellEndsHere() const {
            lines_.StartsWith(tbx::kComment) || lines_.StartsWith(tbx::kColour);
 }
 
-/// Each cell asks for this, and one time for a row does it.
+/// Every cell calls this, but only the first call in a row has an effect.
 void TbxReader::DressRow() {
     if (std::exchange(rowDressed_, true)) return;
     grid_.SetRowHeight(row_, table_.SetRowHeight.value_or(std::int16_t{0}));

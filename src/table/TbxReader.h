@@ -14,16 +14,15 @@ class TableHost;
 class TableModel;
 
 /// Fills a table from the bytes of a `.tbx` file, in one pass over its lines. It takes any bytes: each line
-/// does what its first characters say, whatever comes before and behind.
+/// does what its first characters say, whatever comes before and after it.
 class TbxReader {
 public:
     enum class Outcome : std::uint8_t { Done, TooManyColumns };
 
-    /// The grid is expected to be empty; it keeps the bytes. `sortOnHeaderClick` is what it gets for that
-    /// switch.
+    /// The grid has to be empty, and keeps the bytes. `sortOnHeaderClick` becomes its switch of this name.
     TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes);
 
-    /// Stops where the column is named that a table can't have any more; what was read until then stays.
+    /// Stops at the name of the first column that a table can't hold any more. What was read before stays.
     Outcome Read();
 
 private:
@@ -48,12 +47,12 @@ private:
     const std::string_view bytes_;
     TbxLines lines_;
 
-    /// The line at hand is to be taken once more.
+    /// The current line is to be read again.
     bool pushedBack_ = false;
     int headerCount_ = 1;
     Col columnCount_;
     bool expectWidth_ = false;
-    /// No column line has come since the columns were set up.
+    /// The columns are set up, and no column line has come since.
     bool columnsStand_ = false;
     bool gridHidden_ = false;
     Row row_;

@@ -88,8 +88,8 @@ void TbxWriter::PutRow(Row row) {
     PutCells(row);
 }
 
-/// Column 1 speaks for the row. A check box that is neither ticked nor unticked has no line, and then the
-/// flags have none either.
+/// The row gets the flags and colours of column 1. A check box that is neither ticked nor unticked has no
+/// line, and then the flags have none either.
 void TbxWriter::PutAttributes(Row row) {
     const auto flag = [&](CellFlag which, char letter) {
         return grid_.CellFontFlag(row, Col{1}, which) ? letter : '0';

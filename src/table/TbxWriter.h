@@ -37,7 +37,7 @@ private:
     const TableModel& table_;
     const Grid& grid_;
     ChunkedOutput output_;
-    /// For each column what stands before its text in a row.
+    /// For each column, what is written before its text in a row.
     std::vector<std::string> cellHeads_;
     /// The bytes of a text that the code page can't hold in full.
     std::string converted_;

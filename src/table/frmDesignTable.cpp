@@ -15,7 +15,7 @@ namespace {
 
 constexpr Twips kWidth{7500};
 constexpr Twips kHeight{7350};
-/// What stands beside the list: the margins of the window and the two arrows.
+/// The width of what is beside the list: the margins of the window and the two arrows.
 constexpr int kBesideList = 1050;
 
 constexpr int kEntries = MaxColumns.Number();
@@ -105,7 +105,7 @@ void frmDesignTable::MoveCurrent(int step) {
     if (from == 0 || to < 1 || to > kEntries) return;
     ListRow moved = ListView1.RowAt(from);
     ListRow neighbour = ListView1.RowAt(to);
-    // The keys belong to the places in the list, not to what stands there.
+    // The keys belong to the places in the list, not to the titles in them.
     std::swap(moved.texts, neighbour.texts);
     ListView1.Set(from, std::move(moved));
     ListView1.Set(to, std::move(neighbour));

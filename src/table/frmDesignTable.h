@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// Names the columns of a new table. Modal; the titles go to the tab's `lstNewTableColumns`, which a cancel
+/// Asks for the column names of a new table. Modal. They go to the tab's `lstNewTableColumns`, which a cancel
 /// leaves as it was.
 class frmDesignTable : public Form {
 public:
@@ -37,7 +37,7 @@ private:
     void SetTitle(int index, Text title);
     int SelectedCount() const;
     void ClearSelectedTitles();
-    /// Swaps the current entry with the one that many places below it; at the end of the list nothing
+    /// Swaps the current entry with the one that is `step` places below it. At the end of the list nothing
     /// happens.
     void MoveCurrent(int step);
 

@@ -5,10 +5,10 @@
 
 namespace korvane {
 
-/// Where a table stands on disk and how large it is. Modal.
+/// Shows where a table is on disk and how large it is. Modal.
 class frmTxtDbInfo : public FileInfoForm {
 public:
-    /// `afterSave` says so in the caption. The tab outlives the window.
+    /// With `afterSave`, the caption says that the table was saved. The tab outlives the window.
     frmTxtDbInfo(const TabContext& tab, bool afterSave);
 
     Label lblRowsCaption{*this, "lblRowsCaption", u"No. of rows"};
@@ -16,7 +16,7 @@ public:
     Label lblColsCaption{*this, "lblColsCaption", u"No. of cols."};
     Label lblCols{*this, "lblCols"};
 
-    /// There only while a tab that is closing saves: it keeps the tab open.
+    /// This is visible only while a closing tab is saved. It keeps the tab open.
     CommandButton cmdCancel{*this, "cmdCancel", u"Ca&ncel"};
 
     void Load() override;
