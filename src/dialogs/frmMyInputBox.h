@@ -9,8 +9,9 @@ namespace korvane {
 
 class App;
 
-/// Asks for a line of text. Modal. What it asks stands in `InputCaption` and `InputInitial`; the answer is
-/// `InputResult`, with `DialogResult` 1, or an empty text and 0 when the user gave up.
+/// Asks for a line of text. Modal. The question is in `InputCaption`, and the text offered is in
+/// `InputInitial`. The answer is `InputResult`, with `DialogResult` 1, or an empty text and 0 when the user
+/// gave up.
 class frmMyInputBox : public Form {
 public:
     explicit frmMyInputBox(App& app);

@@ -13,8 +13,8 @@ namespace korvane {
 class App;
 enum class MsgAnswer : std::int16_t;
 
-/// Asks what is to become of the altered file `MsgFilePath`. Modal; the answer is `MsgAnswer`, which the
-/// caller sets to `Cancel` beforehand: Esc closes the box and leaves it as it is.
+/// Asks what to do with the altered file `MsgFilePath`. Modal; the answer is `MsgAnswer`, which the caller
+/// sets to `Cancel` beforehand. Esc closes the box and leaves the answer as it is.
 class frmMyMsgBox : public Form {
 public:
     explicit frmMyMsgBox(App& app);

@@ -18,7 +18,7 @@ struct FileFacts {
 /// is empty or there is no such file.
 FileFacts FactsOfFile(const App& app, TextView path);
 
-/// Tells the facts of a file. Modal.
+/// Shows the facts of a file. Modal.
 class frmTxtInfo : public FileInfoForm {
 public:
     frmTxtInfo(App& app, const FileFacts& facts);

@@ -7,10 +7,10 @@ namespace korvane {
 class App;
 
 /// Shows the clipboard in its window. `DialogResult` is 1 afterwards when the user retrieved the contents,
-/// which went into the text window if that stood open.
+/// which went into the text window if that was open.
 class ClipboardWindow final : public ClipboardView {
 public:
-    /// The App outlives the object, and asks it from now on.
+    /// The App outlives the object, and from now on shows the clipboard through it.
     explicit ClipboardWindow(App& app);
     ClipboardWindow(const ClipboardWindow&) = delete;
     ClipboardWindow& operator=(const ClipboardWindow&) = delete;

@@ -80,7 +80,7 @@ frmViewAndPaste::frmViewAndPaste(App& app)
     iGridListBar.DblClick = [this] { RunListed(); };
     iGridListBar.KeyDown = KeysOf(*this, Tables::kListKeys);
     TmpTextCtrl.Visible = false;
-    // A locked text is handed to the toolkit no further than anyone reads, however long it is.
+    // Of a locked text, the view gets only as much as anyone would read, however long the text is.
     TmpTextCtrl.Locked = true;
     for (const Rendering& rendering : kRenderings)
         (this->*rendering.view).Locked = true;
@@ -104,7 +104,8 @@ void frmViewAndPaste::Activate() {
     const Hourglass hourglass(app_.Screen());
     app_.Screen().ProcessMessages();
     if (app_.Clipboard().HasText()) {
-        // A program that makes its contents only when they are asked for does so here.
+        // Some programs make their contents only when they are asked for them, which happens here, before the
+        // renderings are filled.
         TmpTextCtrl.Text = app_.Clipboard().GetText();
         TmpTextCtrl.Text = Text();
     }

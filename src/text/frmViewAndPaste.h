@@ -12,9 +12,9 @@ namespace korvane {
 
 class App;
 
-/// What the clipboard holds, in three renderings on one spot. Modal; `DialogResult` is 1 when the user
-/// retrieved the contents. They go into the text window if that stands open, else the caller reads them from
-/// the clipboard.
+/// Shows what the clipboard holds, in three renderings of which one is seen at a time. Modal; `DialogResult`
+/// is 1 when the user retrieved the contents. They go into the text window if that is open, otherwise the
+/// caller reads them from the clipboard.
 class frmViewAndPaste : public Form {
 public:
     /// The App outlives the window.
@@ -25,12 +25,12 @@ public:
     ListBox iGridListBar{*this, "iGridListBar"};
     /// Holds the renderings; its caption names the one that is seen.
     Panel Frame1{*this, "Frame1"};
-    /// Goes with the colour of the rendering that is seen.
+    /// Has the colour of the rendering that is seen.
     Label lblLeftMargin{*this, "lblLeftMargin"};
     TextBox TXTextControl1{*this, "TXTextControl1"};
     TextBox RichTextBox1{*this, "RichTextBox1"};
     TextBox Text1{*this, "Text1"};
-    /// Never seen: takes the contents before the renderings do.
+    /// This is never seen. It takes the contents before the renderings do.
     TextBox TmpTextCtrl{*this, "TmpTextCtrl"};
 
     /// Which rendering is seen: 0 full and 1 simple formatted text, 2 plain text. Any other value counts as
