@@ -25,7 +25,7 @@ bool HandOver(App& app, const Text& startFile) {
         TellNoAccess(app);
         return false;
     }
-    // The running copy has a current directory of its own.
+    // The running copy has a current directory of its own, so it needs the full path.
     if (!running.Deliver(app.Files().FullPath(startFile))) TellNoAccess(app);
     app.Screen().ProcessMessages();
     return true;

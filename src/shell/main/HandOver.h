@@ -6,8 +6,9 @@ namespace korvane {
 
 class App;
 
-/// A second start gives its file to the copy that runs already; nothing is given when there is no such file.
-/// Sets `App::SecondInstance`. False when the running copy didn't answer, and the process has to end at once.
+/// Gives the file of a second start to the copy that is running already. Nothing is given when there is no
+/// such file. Sets `App::SecondInstance`. False when the running copy didn't answer, and the process has to
+/// end at once.
 bool HandOver(App& app, const Text& startFile);
 
 } // namespace korvane

@@ -66,7 +66,7 @@ void RecentRecord::CutWhenFull() {
 }
 
 void RecentRecord::Forget(TextView path) {
-    // Every entry contains an empty path: a line that is none of the record's would take all others along.
+    // Every entry contains an empty path, so a row without a path would take all entries out.
     if (path.empty()) return;
     for (int i = 1; i <= kEntries; ++i) {
         if (ContainsIgnoringCase(Entry(i), path)) Entry(i).clear();

@@ -11,17 +11,19 @@ namespace korvane {
 class App;
 struct DateTime;
 
-/// The files that were loaded last, one line each, as they stand in Korvane.rec:
+/// The files that were loaded last, one line each, as they are written in Korvane.rec:
 /// `<path> | <offset>*<yyyy.mm.dd>   <hh:mm>`.
 class RecentRecord {
 public:
-    /// The entries are numbered from 1, the newest first; 0 is never used, the last is a margin.
+    /// The entries are numbered from 1, the newest first. 0 is never used, and the last is spare room for a
+    /// new entry.
     static constexpr int kEntries = 72;
     std::array<Text, kEntries + 2> RecentEntries;
-    /// One more than the number of lines in use, as the rules of the record count them.
+    /// One more than the number of lines that were read and added. Forgotten entries stay counted, and a full
+    /// record starts again at 1.
     std::int16_t RecentNext = 1;
 
-    // What the list of recent files hands over to the load.
+    // What the list of recent files passes to the load.
     std::int16_t LoadFromRecent = 0;
     std::vector<Text> RecentPicks;
     int RecentOffset = 0;
@@ -35,7 +37,7 @@ public:
     /// Writes the entries that aren't empty to `RecFilePath`; says so when it can't.
     void Write(App& app) const;
 
-    /// Notes a load. A path that is in the record keeps its place.
+    /// Records a load. A path that is in the record already keeps its place.
     void AddToRecent(TextView path, int offset, const DateTime& now);
 
     /// Empties all entries but the first 16 when the record is full and is to be cut then.

@@ -30,7 +30,7 @@ constexpr Twips kMinWidth{7000};
 constexpr Twips kMinHeight{5688};
 constexpr Twips kFileWidth{2400};
 constexpr Twips kLocationWidth{3600};
-// So narrow that it shows the number, and hides the date that stands behind it in the column too.
+// The column is so narrow that it shows the number and hides the date, which comes after it in the same text.
 constexpr Twips kOffsetWidth{500};
 constexpr Twips kDateWidth{2000};
 constexpr int kListMargin = 600;

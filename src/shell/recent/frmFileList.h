@@ -13,8 +13,8 @@ namespace korvane {
 class App;
 class RecentRecord;
 
-/// The recent files. Modal; `DialogResult` is 1 when some are to be loaded, which then stand in the record's
-/// picks.
+/// Shows the recent files. Modal; `DialogResult` is 1 when some are to be loaded, which are in the record's
+/// picks then.
 class frmFileList : public Form {
 public:
     /// `owner` is the main window, beside which this one docks. All outlive the window.

@@ -12,7 +12,7 @@ namespace {
 
 constexpr TextView kDriveC = u"C:\\";
 
-/// What stands before the first NUL, with a separator at its end.
+/// The text before the first NUL, with a separator at its end.
 Text AsFolder(const Text& path, const PathStyle& style) {
     Text folder(CutAtNul(path));
     if (!folder.empty()) style.AddBackslash(folder);

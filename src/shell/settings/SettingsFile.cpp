@@ -63,7 +63,7 @@ void ReadSettings(App& app) {
     }
     const auto bytes = app.Files().ReadAll(files.IniFilePath);
     if (!bytes) return;
-    // A line ends at the pair alone: the word delimiters, a line of their own, end in a lone CR.
+    // Only CR LF ends a line, because the line that holds the word delimiters has a lone CR at its end.
     LineReader lines(bytes->View(), LineEnds::CrLf);
     std::string_view line;
     for (const SettingLine& setting : SettingsTable()) {

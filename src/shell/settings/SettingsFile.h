@@ -8,8 +8,8 @@ class App;
 /// when there is no such file, and nothing when it can't be opened.
 void ReadSettings(App& app);
 
-/// Writes all lines of the settings to `IniFilePath`, in place of the old file, for its owner's eyes only:
-/// one is a password. Says so when it can't.
+/// Writes all lines of the settings to `IniFilePath`, in place of the old file. Only its owner may read it,
+/// because one line is a password. Shows a message when it can't be written.
 void WriteSettings(App& app);
 
 } // namespace korvane

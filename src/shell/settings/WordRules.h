@@ -4,8 +4,8 @@ namespace korvane {
 
 class App;
 
-/// The built-in characters that end words, and the table of them by their codes. The settings file may
-/// replace the characters afterwards; the table follows the built-in ones at each start.
+/// Sets the characters that end words to the built-in ones, and the table that marks them by their codes. The
+/// settings file may replace the characters afterwards, but the table keeps the built-in ones.
 void SetWordRules(App& app);
 
 } // namespace korvane

@@ -8,7 +8,7 @@ namespace korvane {
 
 class App;
 
-/// The texts that two keys of the text window insert. Modal; only its button stores them.
+/// Asks for the texts that two keys of the text window insert. Modal; only its button stores them.
 class frmCtrlRet : public Form {
 public:
     explicit frmCtrlRet(App& app);

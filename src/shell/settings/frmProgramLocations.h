@@ -8,7 +8,7 @@ namespace korvane {
 
 class App;
 
-/// Where the Office programs are. Modal; each choice is stored at once.
+/// Asks where the Office programs are. Modal; each choice is stored at once.
 class frmProgramLocations : public Form {
 public:
     explicit frmProgramLocations(App& app);

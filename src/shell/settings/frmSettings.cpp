@@ -30,7 +30,7 @@ constexpr std::array<Option, 5> kOptions{{
     {&frmSettings::chkUseCustomBrowser, &Settings::UseCustomBrowser},
 }};
 
-/// The lines of the settings that hold a font.
+/// The settings that make up one font.
 struct FontFields {
     Text& name;
     std::int16_t& size;

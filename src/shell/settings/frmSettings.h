@@ -27,7 +27,7 @@ public:
     CommandButton cmdCustomBrowser{*this, "cmdCustomBrowser", u"Specify your browser"};
     CheckBox chkUseCustomBrowser{*this, "chkUseCustomBrowser", u"Use this browser"};
     TextBox txtBrannockLocation{*this, "txtBrannockLocation"};
-    // Users know the caption with its slip of the pen.
+    // Kept for compatibility: pdf-caption-misspelt.
     CommandButton cmdBrannockLocation{*this, "cmdBrannockLocation", u"Specify program for viewng PDFs"};
     TextBox txtWallpaper{*this, "txtWallpaper"};
     CommandButton cmdGetWallpaperFile{*this, "cmdGetWallpaperFile", u"...", u"Get image file for wallpaper"};

@@ -15,7 +15,7 @@ namespace {
 constexpr std::int16_t kLayoutPicked = 1;
 constexpr std::int16_t kPercentPicked = 2;
 
-/// Where a window stands in one direction of the screen.
+/// Where a window is placed in one direction of the screen.
 enum class Place : std::uint8_t { Whole, FirstHalf, SecondHalf, Centre };
 
 struct Layout {
@@ -36,7 +36,7 @@ constexpr std::array<Layout, 7> kLayouts{{
 
 struct Percentage {
     TextView entry;
-    /// Of the work area; 0 leaves the size alone.
+    /// The size in tenths of the work area; 0 leaves the size alone.
     double tenths;
 };
 
@@ -53,7 +53,7 @@ constexpr std::array<Percentage, 9> kPercentages{{
     {u"  95%", 0},
 }};
 
-/// nullptr for the index of no entry, as a list without a selection has it.
+/// nullptr when no entry has this index, as in a list without a selection.
 template <class Table>
 auto Entry(const Table& table, int index) -> const typename Table::value_type* {
     const bool known = index >= 0 && index < static_cast<int>(table.size());

@@ -11,14 +11,14 @@ namespace korvane {
 class App;
 struct Rect;
 
-/// What was last picked in `frmWindowSize`, kept as long as the program runs.
+/// What was picked last in `frmWindowSize`. It is kept as long as the program runs.
 struct WindowSizeChoice {
     std::int16_t WindowLayoutChoice = 0;
     std::int16_t WindowPercentChoice = 0;
 };
 
 /// Asks where on the screen, or how large in percent of it, a window is to be. Modal; `DialogResult` is 1 for
-/// a layout, 2 for a percentage, and the pick stands in the choice.
+/// a layout and 2 for a percentage, and `choice` holds what was picked.
 class frmWindowSize : public Form {
 public:
     /// The choice outlives the window.
@@ -44,12 +44,12 @@ private:
 /// Lets the user choose and gives the window its place in the work area; false when he gave up.
 bool ChooseWindowSize(App& app, WindowSizeChoice& choice, Form& window);
 
-// The entries count from 0; an index of none leaves the window alone.
+// The entries are numbered from 0. An index without an entry leaves the window alone.
 
 /// Puts the window where the entry of the layouts says.
 void ApplyWindowLayout(Form& window, const Rect& workArea, int layout);
 
-/// Gives the window the size that stands behind the entry of the percentages, and centres it.
+/// Gives the window the size that belongs to the entry of the percentages, and centres it.
 void ApplyWindowPercent(Form& window, const Rect& workArea, int percentEntry);
 
 } // namespace korvane

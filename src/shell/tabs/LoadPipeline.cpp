@@ -38,9 +38,10 @@ bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
     request.ChosenFileCount = 1;
     request.ChosenFiles.assign(2, Text());
     if (!TakeFiles(path)) return false;
-    // `ReadTableData` takes the hourglass back; where nothing is read it stays.
+    // `ReadTableData` sets the pointer back. It stays an hourglass when nothing is read.
     app_.Screen().SetPointer(Pointer::Hourglass);
-    // The list of files is the process's: a file that arrives while a box stands here starts it anew.
+    // The whole program has one list of files. A file that another start hands over while a message box is
+    // open here replaces the list.
     for (int number = 1; number <= request.ChosenFileCount; ++number) {
         const Text file = request.ChosenFiles[static_cast<std::size_t>(number)];
         if (IsLoaded(file)) {

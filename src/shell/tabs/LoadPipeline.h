@@ -13,15 +13,15 @@ class Tabs;
 
 enum class LoadInto : std::uint8_t { ActiveTab, NewTab };
 
-/// The way of files from wherever they come into tabs.
+/// Loads files into tabs, wherever they come from.
 class LoadPipeline {
 public:
     /// `window` is the main window, beside which the list of loaded files stands. All outlive the pipeline.
     LoadPipeline(App& app, Tabs& tabs, RecentRecord& recents, const Form& window)
         : app_(app), tabs_(tabs), recents_(recents), window_(window) {}
 
-    /// Loads the file; for an empty path, those that the user chooses. Each file gets a tab of its own with
-    /// `NewTab`. Stops at a file that is open already. False when no file came of it.
+    /// Loads the file; for an empty path, those that the user chooses. With `NewTab`, each file gets a tab of
+    /// its own. Stops at a file that is open already. False when there was no file to load.
     bool OpenDatabase(const Text& path, LoadInto into);
 
 private:

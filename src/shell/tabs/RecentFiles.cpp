@@ -21,7 +21,7 @@ constexpr std::int16_t kChooseFiles = 2;
 void GoToFolderOf(FileSystem& files, const Text& path) {
     const PathStyle style = files.Style();
     const Text folder = style.DirectoryForChange(style.FolderPart(path));
-    // A bare name stands in the current directory, and has to be found there afterwards too.
+    // A bare name means a file in the current directory, which has to stay the same for the load to find it.
     if (!folder.empty() && files.DirExists(folder)) files.ChangeDir(folder);
 }
 

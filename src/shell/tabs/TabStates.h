@@ -17,12 +17,12 @@ struct TabState {
     std::int16_t Discard = 0;
     /// Full path of the file, or the Untitled caption.
     Text Path;
-    /// What stands behind the last separator of the path.
+    /// The part of the path after the last separator.
     Text Name;
 };
 
-/// The slots of all tabs, numbered from 1 and reused, the first free one first. Entry 0 exists and belongs to
-/// no tab; so does, for reading and writing, every number past the upper bound.
+/// The slots of all tabs, numbered from 1. A new tab takes the first free one. Entry 0 exists and belongs to
+/// no tab. Any number above the upper bound reads and writes entry 0.
 class TabStates {
 public:
     /// 0 as long as no tab was ever made.
@@ -32,7 +32,7 @@ public:
     bool InUse(int slot) const { return Holds(slot) && states_[static_cast<std::size_t>(slot)].Deleted == 0; }
     int CountInUse() const;
 
-    /// The slot for a new tab, taken from now on.
+    /// Finds the slot for a new tab and marks it as used.
     int FindFreeIndex();
 
 private:

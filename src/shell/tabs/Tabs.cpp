@@ -86,7 +86,8 @@ void Tabs::AddNewTab() {
 bool Tabs::Close(Form& child) {
     if (OwnerOf(child) == nullptr || !child.Close()) return false;
     strip_.Remove(child);
-    // Asked anew: the question may have let another tab in, and moved the documents.
+    // The owner is looked up again: another tab may have been opened during the question, which moves the
+    // documents.
     closed_.push_back(std::move(*OwnerOf(child)));
     return true;
 }

@@ -39,7 +39,7 @@ public:
 
     /// Makes a tab and shows it.
     void NewDocument();
-    /// The same without painting in between.
+    /// Does the same without painting in between.
     void AddNewTab();
 
     /// Closes a tab, which may ask and refuse. The window lives on until `ReleaseClosed`, since the command
@@ -52,11 +52,11 @@ public:
     // In the order of the slots, whatever the order on the strip.
     void SwitchForward();
     void SwitchBack();
-    /// Brings a tab to the front with the keyboard.
+    /// Brings a tab to the front and gives it the keyboard.
     void Show(int slot);
 
 private:
-    /// Who keeps the window; nullptr when it is none of the tabs.
+    /// The element that owns the window; nullptr when it is none of the tabs.
     std::unique_ptr<frmMDIChild>* OwnerOf(const Form& child);
     int ActiveSlot() const;
     void SwitchBy(int step);
@@ -66,7 +66,8 @@ private:
     TabStrip& strip_;
     /// By slot; entry 0 is never used.
     std::vector<std::unique_ptr<frmMDIChild>> documents_;
-    /// Open windows whose slot was given to another one: it was freed, and then the user refused to close.
+    /// Windows that are open although another one got their slot: it was freed, and then the user refused to
+    /// close.
     std::vector<std::unique_ptr<frmMDIChild>> stranded_;
     std::vector<std::unique_ptr<frmMDIChild>> closed_;
 };

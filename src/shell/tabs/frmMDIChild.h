@@ -19,7 +19,7 @@ namespace korvane {
 
 class TabStates;
 
-/// A tab: one open table in its grid, and the strip above it. It stands inside the main window.
+/// A tab: one open table in its grid, and the strip above it. It is inside the main window.
 class frmMDIChild : public Form, private TableHost {
 public:
     /// All arguments outlive the tab.
