@@ -15,11 +15,11 @@
 
 namespace korvane {
 
-/// Does one and the same in every window, dialog and message box that comes.
+/// Does the same in every window, dialog and message box that comes.
 class OneMindedUser final : public FormHost, public MessageBoxes, public ColourPicker, public FontPicker {
 public:
-    /// Fills every window in, presses its button of this number (from 0, round and round) and says Yes.
-    /// Without a number, closes and cancels whatever comes.
+    /// Fills in every window, presses its button of this number, counted from 0 and round again after the
+    /// last one, and says Yes. Without a number, closes and cancels whatever comes.
     explicit OneMindedUser(std::optional<std::size_t> button) : button_(button) {}
 
     /// How often something came.

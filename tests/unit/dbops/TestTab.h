@@ -20,7 +20,7 @@ public:
     /// Whether the grid was visible, each time that its look changed.
     std::vector<bool> looks;
     std::vector<Row> rowsWanted;
-    /// Whose looks to note.
+    /// The grid whose changes of look are recorded.
     const Grid* watched = nullptr;
 
     void RowsChanged(Row, Row) override { ++rowChanges; }
@@ -32,7 +32,7 @@ public:
     void RowWantedInView(Row row) override { rowsWanted.push_back(row); }
 };
 
-/// The tab's window, as far as the commands ask of it.
+/// Takes the place of the tab's window and records what the commands ask of it.
 class RecordingHost final : public TableHost {
 public:
     std::vector<std::int16_t> heights;
@@ -106,11 +106,11 @@ public:
         for (const int row : rows)
             grid.SetRowVisible(Row{row}, false);
     }
-    /// The next message box asks this with Yes and No.
+    /// Answers the next message box, which has to ask this with Yes and No.
     void AnswerQuestion(const Text& text, Answer answer, int defaultButton = 1) {
         user.Answer({text, MessageIcon::Question, MessageButtons::YesNo, defaultButton}, answer);
     }
-    /// The next message box tells this.
+    /// Closes the next message box, which has to say this.
     void AnswerInformation(const Text& text) { user.Answer({text, MessageIcon::Information}, Answer::Ok); }
     void Tick(std::initializer_list<int> rows) {
         for (const int row : rows)
@@ -124,7 +124,7 @@ public:
     TabContext tab{app, table, host};
 };
 
-/// The place of a cell in one word.
+/// A short way to write the place of a cell.
 inline CellPosition At(int row, int col) {
     return {Row{row}, Col{col}};
 }

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// Counts what a shown grid would hear.
+/// Counts what a shown grid would be told.
 class GridWatch final : public GridListener {
 public:
     int wanted = 0;

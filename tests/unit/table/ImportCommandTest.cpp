@@ -17,7 +17,8 @@
 namespace korvane {
 namespace {
 
-/// A hundred megabytes at two bytes each. Where every access to memory is checked, less has to do.
+/// A hundred megabytes at two bytes a character. Where every access to memory is checked, a shorter text is
+/// enough.
 #ifdef __SANITIZE_ADDRESS__
 constexpr std::size_t kVeryLong = 5'000'000;
 #else

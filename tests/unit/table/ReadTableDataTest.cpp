@@ -6,7 +6,7 @@
 namespace korvane {
 namespace {
 
-/// Writes down when the grid is let paint and asked for the focus.
+/// Records when the grid may paint and when it is asked for the focus.
 class PaintingProtocol final : public GridListener {
 public:
     void RowsChanged(Row, Row) override { events.emplace_back("rows"); }
@@ -129,7 +129,7 @@ TEST_F(ReadTableDataTest, MoreColumnsThanATableCanHaveStopTheLoadWithoutItsEnd) 
     std::string columns;
     for (int col = 1; col <= 25; ++col)
         columns += "!c\r\n!8\r\n";
-    // Two blanks before the number: that is how the message reads.
+    // The message has two blanks before the number. Kept for compatibility: columns-message-two-blanks.
     table.program.user.Answer({u"Numbers of columns in this table exceeds the maximum of  24",
                                MessageIcon::Stop, MessageButtons::Ok, 1},
                               Answer::Ok);

@@ -123,7 +123,7 @@ TEST_F(SaveCommands, SaveAsGoesBackToDriveAndDirectory) {
     });
     mnuFile_SaveAs_Clack(tab);
     EXPECT_EQ(t.files.CurrentDir(), u"C:\\Data");
-    // The save itself still ran where the chooser had gone.
+    // The save itself still ran in the directory to which the chooser had gone.
     EXPECT_EQ(BytesOf(u"D:\\x.tbx"), NameTable(u"x.tbx", {"Berta"}));
 }
 

@@ -136,7 +136,7 @@ TEST_F(SaveThisTableTest, AFileThatCannotBeOpenedIsToldAndTheTableStaysAltered) 
     ExpectCannotSave(kPath, u"\"No hope\"");
     Save();
     ExpectNotSaved();
-    // The old file is gone by then: nothing was moved aside.
+    // The old file is gone by then, because it wasn't moved aside.
     EXPECT_EQ(files.Contents(kPath), std::nullopt);
 }
 

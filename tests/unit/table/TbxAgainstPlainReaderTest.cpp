@@ -48,7 +48,7 @@ constexpr std::string_view kParts[] = {
     "9999999999",
 };
 
-/// Parts of table files in any order, most of them behind a usual beginning.
+/// Joins parts of table files in any order, mostly after a usual header.
 std::string RandomFile(std::mt19937& random) {
     std::string file;
     if (random() % 8 != 0) file = kHeader;

@@ -4,10 +4,11 @@
 namespace korvane {
 namespace {
 
-/// What the reader makes of cell texts, above all of those that the writer doesn't escape.
+/// What the reader makes of cell texts, above all of lines that look like marks, which the writer doesn't
+/// escape.
 class TbxCellsTest : public TbxTest {
 protected:
-    /// The cells of one row whose first cell stands in the file as `text`, with "second" in the second cell.
+    /// The cells of one row whose first cell is `text` in the file, with "second" in the second cell.
     Rows CellsOf(std::string_view text) {
         ReadData("@row_1\n@col_1\n" + std::string(text) + "\n@col_2\nsecond\n");
         return Cells();

@@ -15,7 +15,7 @@
 
 namespace korvane {
 
-/// The text as it stands in files: every LF becomes CR LF, every "§" the byte of the mark.
+/// The text as it is in files: every LF becomes CR LF, every "§" the byte of the mark.
 inline std::string Lines(std::string_view text) {
     constexpr std::string_view kMark = "§";
     std::string bytes;
@@ -41,7 +41,7 @@ inline SharedBytes Share(std::string_view bytes) {
     return {data, bytes.size()};
 }
 
-/// A file in memory, as it is written.
+/// Keeps in memory what is written.
 class StringWriter final : public FileWriter {
 public:
     bool Write(std::string_view part) override {
@@ -62,7 +62,7 @@ protected:
     TbxReader::Outcome Read(std::string_view bytes, bool sorting = false) {
         return TbxReader(table.model, table.host, sorting, Share(bytes)).Read();
     }
-    /// Reads a file with the usual header and two columns, in the writer's form from there on.
+    /// Reads a file with the usual header, two columns and these lines, in the form that the writer gives it.
     void ReadData(std::string_view data) {
         ASSERT_EQ(Read(kHeader + kTwoColumns + Lines(data) + Lines(";\n; End of File: x\n;\n")),
                   TbxReader::Outcome::Done);

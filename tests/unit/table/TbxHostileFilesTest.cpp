@@ -4,8 +4,8 @@
 namespace korvane {
 namespace {
 
-/// Files that mean harm or are none: each has to be read to its end, in time and memory of the order of its
-/// size.
+/// Files that are made to do harm, or aren't tables at all. Each has to be read to its end, and the time and
+/// memory for it have to be in proportion to its size.
 class TbxHostileFilesTest : public TbxTest {
 protected:
     static std::string Repeat(std::string_view part, std::size_t bytes) {
@@ -14,7 +14,7 @@ protected:
             text += part;
         return text;
     }
-    /// Reads the file in which `part` stands for two megabytes behind 24 columns.
+    /// Reads a file in which `part` is repeated for two megabytes after 24 columns.
     void ReadRepeated(std::string_view part) {
         std::string file = kHeader;
         for (int col = 1; col <= 24; ++col)

@@ -6,7 +6,7 @@ namespace {
 
 class TbxWriterTest : public TbxTest {
 protected:
-    /// What the writer makes of the rows, without what stands before and behind them.
+    /// What the writer makes of the rows, without what comes before and after them.
     std::string RowsWritten() const {
         const std::string file = Write();
         const std::string before = Lines("; File data\n;\n");

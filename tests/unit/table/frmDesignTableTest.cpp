@@ -16,12 +16,12 @@ using Titles = std::vector<Text>;
 
 class DesignTable : public testing::Test {
 protected:
-    /// The window as it opens; `script` closes it.
+    /// Shows the window as it opens; `script` closes it.
     void Show(const std::function<void(frmDesignTable&)>& script) {
         user.On<frmDesignTable>(script);
         frmDesignTable(on.tab).ShowModal();
     }
-    /// The same, given up at its end.
+    /// Does the same, and cancels the window at the end.
     void Try(const std::function<void(frmDesignTable&)>& script) {
         Show([&script](frmDesignTable& f) {
             script(f);

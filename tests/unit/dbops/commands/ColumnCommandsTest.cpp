@@ -21,7 +21,7 @@ protected:
         t.Fill({{u"a", u"b", u"c"}, {u"d", u"e", u"f"}});
         NameColumns({u"One", u"Two", u"Three"});
     }
-    /// Headers and `ColumnNames`.
+    /// Sets the headers and the `ColumnNames`.
     void NameColumns(const Texts& names) {
         Col col{1};
         for (const Text& name : names) {

@@ -20,14 +20,14 @@ protected:
         t.Fill({{u"a1", u"b1", u"c1"}, {u"a2", u"b2", u"c2"}, {u"a3", u"b3", u"c3"}});
         t.app.Settings.DelimiterString = u"\t";
     }
-    /// The range dialog is answered so.
+    /// Answers the range dialog.
     void AnswerRange(bool onlyTicked) {
         t.user.On<frmChooseRange>([onlyTicked](frmChooseRange& f) {
             (onlyTicked ? f.Option2 : f.Option1).Press();
             f.cmdProceed.Press();
         });
     }
-    /// The delimiter dialog is answered with all columns but these (from 0).
+    /// Answers the delimiter dialog with all columns but these, counted from 0.
     void AnswerDelimiter(std::initializer_list<int> without = {}) {
         t.user.On<frmDelimiterType>([leftOut = std::vector(without)](frmDelimiterType& f) {
             for (const int index : leftOut)

@@ -31,7 +31,7 @@ protected:
         t.files.ChangeDir(u"C:\\Data");
         dialog.answer = u"C:\\Other\\out.xls";
     }
-    /// The range dialog is answered so, and then the command runs.
+    /// Runs the command with this answer to the range dialog.
     void Run(bool onlyTicked = false) {
         t.user.On<frmChooseRange>([onlyTicked](frmChooseRange& f) {
             (onlyTicked ? f.Option2 : f.Option1).Press();

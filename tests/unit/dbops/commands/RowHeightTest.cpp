@@ -20,7 +20,7 @@ protected:
         t.Fill({{u"a"}, {u"b"}, {u"c"}});
         t.Hide({2});
     }
-    /// The dialog comes, `script` plays in it and Proceed is pressed.
+    /// Runs `script` in the dialog and then presses Proceed.
     template <class Script>
     void Proceed(const Script& script) {
         t.user.On<frmSetRowHeight>([&script](frmSetRowHeight& window) {

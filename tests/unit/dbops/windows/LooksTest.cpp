@@ -1,4 +1,4 @@
-// Holds the windows against the Designer files beside them, as far as that goes without a display.
+// Compares the windows with the Designer files beside them, as far as that is possible without a display.
 
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmDelimiterType.h"
@@ -21,7 +21,8 @@ namespace {
 
 class Looks : public testing::Test {
 protected:
-    /// Each control has its widget, the keyboard reaches it, and each plain text stands in the look.
+    /// Checks that the look fits the form and contains the plain texts, and that the keyboard reaches these
+    /// controls.
     static void Check(const Form& form, const std::set<std::string>& reached,
                       const std::set<std::string>& plainTexts) {
         ExpectLook(form, "dbops/windows", plainTexts);

@@ -18,7 +18,7 @@ protected:
         t.grid.SetColHeaderText(Col{2}, u"Second");
         t.grid.SetColHeaderText(Col{3}, u"Third");
     }
-    /// The window as it opens; `script` leaves it by a button.
+    /// Shows the window as it opens; `script` leaves it by a button.
     void Show(const std::function<void(frmDelimiterType&)>& script) {
         t.app.DialogResult = 0;
         t.user.On<frmDelimiterType>(script);

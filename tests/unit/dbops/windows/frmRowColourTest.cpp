@@ -17,7 +17,7 @@ class RowColourWindow : public testing::Test {
 protected:
     RowColourWindow() { t.Fill({{u"a", u"b"}, {u"c", u"d"}}); }
 
-    /// Shows the window, in which `script` plays; the result that it leaves.
+    /// Shows the window, runs `script` in it and returns the result that it leaves.
     int Show(const std::function<void(frmRowColour&)>& script) {
         t.user.On<frmRowColour>(script);
         t.app.DialogResult = 0;

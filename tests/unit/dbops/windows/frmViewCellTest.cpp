@@ -25,7 +25,7 @@ protected:
         t.user.On<frmViewCell>(script);
         mnuEdit_EditCell_Clack(t.tab);
     }
-    /// The same, left by the button that writes nothing back.
+    /// Does the same, and leaves the window by the button that writes nothing back.
     void Look(const Script& script) {
         Open([&script](frmViewCell& f) {
             script(f);

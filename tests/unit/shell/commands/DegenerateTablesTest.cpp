@@ -19,7 +19,7 @@
 namespace korvane {
 namespace {
 
-/// The windows of the commands have at most so many buttons.
+/// No window of the commands has more buttons than this.
 constexpr std::size_t kMostButtons = 10;
 /// What the window for adding rows offers at most.
 constexpr int kMostRowsAdded = 12;
@@ -43,7 +43,7 @@ constexpr std::array kShapes{
     Shape{"WidestInAFile", 3, 24, 3, 24}, Shape{"WiderThanAFile", 3, 30, 2, 30},
 };
 
-/// A ticked table of this shape on a tab, with everything round it that commands reach.
+/// A ticked table of this shape on a tab, with everything around it that commands use.
 class Bench {
 public:
     Bench(const Shape& shape, std::optional<std::size_t> button) : user(button) {
@@ -56,7 +56,7 @@ public:
         if (button) dialog.answer = u"C:\\out.xls";
     }
 
-    /// Whether a shown grid hears of changes, as it doesn't in a bracket that was left open.
+    /// Whether a shown grid would be told of changes. It isn't when an update bracket was left open.
     bool IsHeard() {
         watcher.looks.clear();
         grid.SetGridForeColor(Colour{grid.GridForeColor().value + 1});
@@ -122,7 +122,7 @@ protected:
 
     static int RowsAdded(const Bench& bench) { return bench.grid.RowCount() - Row{GetParam().rows}; }
 
-    /// How many columns the command makes of those that the table has.
+    /// How many columns the table has after the command.
     static Col ColsAfter(std::string_view command) {
         const Col cols{GetParam().cols};
         const bool hasCurrent = GetParam().curCol > 0;
