@@ -11,7 +11,7 @@
 
 namespace korvane {
 
-/// Takes down what was put into the text window.
+/// Records what was put into the text window.
 class FakeTextWindow final : public TextWindow {
 public:
     explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }

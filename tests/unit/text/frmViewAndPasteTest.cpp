@@ -16,7 +16,7 @@ namespace {
 
 class ViewAndPaste : public testing::Test {
 protected:
-    /// The window as it stands when it has come up; it is closed at the end.
+    /// Runs `script` in the window as it comes up, and closes it at the end.
     void Look(const std::function<void(frmViewAndPaste&)>& script) {
         t.user.On<frmViewAndPaste>([&script](frmViewAndPaste& f) {
             f.Activate();
@@ -25,7 +25,7 @@ protected:
         });
         frmViewAndPaste(t.app).ShowModal();
     }
-    /// The same without closing it: the script does.
+    /// Does the same without closing the window, which `script` does.
     void LookTillClosed(const std::function<void(frmViewAndPaste&)>& script) {
         t.user.On<frmViewAndPaste>([&script](frmViewAndPaste& f) {
             f.Activate();

@@ -19,7 +19,7 @@
 namespace korvane {
 namespace {
 
-/// The lines under each heading. The cells of a table's row stand in one line, with tabs between them.
+/// The lines under each heading. The cells of a table's row are in one line, with tabs between them.
 using Sections = std::map<std::string, std::vector<std::string>>;
 
 std::string HelpBytes() {

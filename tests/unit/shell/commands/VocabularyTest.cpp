@@ -1,5 +1,5 @@
-// What stands in the menus, on the tool bar, in the sidebar and on the keys of the grid, in full: users know
-// it by heart, and nothing of it changes by the way.
+// Everything in the menus, on the tool bar, in the sidebar and on the keys of the grid. Users know it by
+// heart, so none of it may change by accident.
 
 #include "dbops/commands/ColumnCommands.h"
 #include "dbops/commands/ColumnSum.h"

@@ -58,7 +58,7 @@ protected:
         EXPECT_EQ(p.Captions(), (std::vector<Text>{u"Books.tbx", u"People.tbx", u"Places.tbx"}));
     }
     void Alter(int slot) { p.Tab(slot).iGrid1.CommitEdit(Row{1}, Col{1}, u"changed"); }
-    /// The question about this file's changes is the next to come.
+    /// Answers the question about this file's changes, which has to come next.
     void AnswerQuestion(const Text& path, Answer answer) {
         p.user.Answer({u"The text database has been changed.\r\n\r\n" + path +
                            u"\r\n\r\nDo you want to save the changes?\r\n",
@@ -141,14 +141,14 @@ TEST_F(EndToEnd, AllAreAlteredAndTheEndIsCancelledAtTheSecondAndThenGoesThrough)
 
 TEST_F(EndToEnd, TabsAreSwitchedRenamedAndClosedWithEachAnswer) {
     StartWithThree();
-    // Round and back: the last tab's next is the first.
+    // The tab after the last one is the first, and back again.
     p.PressKey(Key::F(12));
     EXPECT_EQ(p.AllTabs().Active(), &p.Tab(1));
     p.PressKey(Key::F(12), Mask::Shift);
     EXPECT_EQ(p.AllTabs().Active(), &p.Tab(3));
     p.PressKey(Key::F(12), Mask::Shift);
     ASSERT_EQ(p.AllTabs().Active(), &p.Tab(2));
-    // Its file gets another name, and the tab with it.
+    // The file gets another name, and so does the tab.
     p.user.ChooseFile(kSorted);
     CloseInfo();
     p.Choose("mnuFile_SaveAs");
@@ -186,7 +186,7 @@ TEST_F(EndToEnd, AValueOfItsOwnOnEveryLineOfTheSettingsComesThroughARun) {
     p.Start();
     p.Choose("mnuFile_Exit");
 
-    // The current directory is the writer's, and it exchanges three pairs.
+    // The writer fills in the current directory and exchanges three pairs of lines.
     lines[0] = "C";
     lines[1] = "C:\\";
     std::swap(lines[26], lines[27]);

@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// What happens by chance, the same for each seed.
+/// Chooses by chance, but always the same for the same seed.
 class Chance {
 public:
     explicit Chance(unsigned seed) : random_(seed) {}
@@ -19,7 +19,7 @@ public:
     auto& Pick(Items&& items) {
         return items[static_cast<std::size_t>(Below(static_cast<int>(std::size(items))))];
     }
-    /// Mostly short and of few letters, so that texts meet.
+    /// Most texts are short and made of few letters, so that they often match each other.
     Text SomeText() {
         static const Text kTexts[] = {u"",     u"a",      u"b",    u"ab",     u"abab",
                                       u"---",  u"7",      u"12.5", u"a\r\nb", u"\t",

@@ -7,8 +7,8 @@
 namespace korvane {
 namespace {
 
-/// How many sequences to run and the number of the first, in place of the few that every run of the tests
-/// makes.
+/// These variables of the environment say how many sequences are run and the number of the first. Without
+/// them, every run makes the same few.
 constexpr const char* kCountVariable = "KORVANE_RANDOM_SEQUENCES";
 constexpr const char* kFirstVariable = "KORVANE_RANDOM_FIRST";
 constexpr unsigned kUsualCount = 400;

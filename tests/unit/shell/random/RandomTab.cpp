@@ -179,8 +179,8 @@ void RandomTab::Go() {
 }
 
 void RandomTab::Save() {
-    // A save takes the height of the current row over for the file. A table without rows has none to give
-    // back afterwards.
+    // A save gives the model the height of the current row, and a table without rows has no row that could
+    // set the height back. So nothing is saved when the table has, or had at first, no rows.
     if (Store().RowCount() == Row{0} || firstState_.starts_with("0|")) return;
     trace_ += "save ";
     const std::string before = State();
@@ -204,7 +204,7 @@ void RandomTab::GoBackAndForth() {
     EXPECT_EQ(State(), lastState);
 }
 
-/// With the first cell as the current one, whose row gives the file its height.
+/// Saves with the first cell as the current one, because its row gives the file the height.
 std::string RandomTab::SavedBytes() {
     Store().SetCurRow(Row{1});
     Store().SetCurCol(Col{1});

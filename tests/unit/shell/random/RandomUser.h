@@ -21,7 +21,7 @@ class RandomUser final : public FormHost,
                          public ColourPicker,
                          public FontPicker {
 public:
-    /// Outlives the user.
+    /// `chance` outlives the user.
     explicit RandomUser(Chance& chance) : chance_(chance) {}
 
     /// The message boxes since `ForgetMessages`.

@@ -93,7 +93,7 @@ std::vector<Text> WithoutCol(std::vector<Text> texts, Col at) {
     return texts;
 }
 
-/// What the command leaves of a row's texts; nothing where it may leave anything.
+/// What the command leaves of a row's texts; nullopt when it may leave anything.
 std::optional<std::vector<Text>> TextsLeft(const Rule& rule, const TableMoment& before,
                                            const TableMoment& after, int row) {
     const std::vector<Text>& old = before.texts[static_cast<std::size_t>(row - 1)];
@@ -118,7 +118,7 @@ int ColsAfter(const Rule& rule, const TableMoment& before, const TableMoment& af
     return before.cols;
 }
 
-/// The number that stands in brackets in the message; -1 when it doesn't tell `what`.
+/// The number in brackets in the message; -1 when the message doesn't contain `what`.
 int Told(const Message& message, TextView what) {
     if (message.text.find(what) == Text::npos) return -1;
     return static_cast<int>(Val(TextView(message.text).substr(message.text.find(u'[') + 1)));

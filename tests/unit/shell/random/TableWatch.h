@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// What a table is like at a moment, as far as the invariants speak of it.
+/// The state of a table at a moment, as far as the invariants need it.
 struct TableMoment {
     explicit TableMoment(frmMDIChild& tab);
 

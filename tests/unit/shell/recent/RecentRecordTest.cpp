@@ -88,7 +88,7 @@ TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     EXPECT_EQ(record.RecentNext, 73);
     EXPECT_EQ(record.RecentEntries[1], LineOf(u"C:\\new.tbx"));
-    // The place behind the last entry was taken along first.
+    // The place after the last entry was copied first.
     EXPECT_EQ(record.RecentEntries[2], u"");
     for (int i = 0; i < 7; ++i) {
         EXPECT_EQ(record.RecentEntries[static_cast<std::size_t>(3 + i)], LineOf(PathOf(71 - i)));
@@ -111,7 +111,7 @@ TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnew) {
     record.AddToRecent(u"C:\\newer.tbx", 0, kNow);
     EXPECT_EQ(record.RecentNext, 2);
     EXPECT_EQ(record.RecentEntries[2], LineOf(u"C:\\new.tbx"));
-    // Room is made as far as the count goes, so the entry behind is written over.
+    // Only as many entries move as the count says, so the entry after them is overwritten.
     EXPECT_EQ(record.RecentEntries[3], LineOf(PathOf(72)));
     EXPECT_EQ(record.RecentEntries[4], LineOf(PathOf(70)));
 }
@@ -206,7 +206,7 @@ TEST_F(RecentRecordTest, SaysWhenItCannotBeWritten) {
                    MessageIcon::Stop},
                   Answer::Ok);
     record.Write(t.app);
-    // The old record was gone before.
+    // The old record had been deleted before.
     EXPECT_EQ(Written(), "(none)");
 }
 

@@ -40,7 +40,7 @@ protected:
     }
     RecentRecord& Recents() { return p.Main().Parts().recents; }
 
-    /// Opens the list and lets `act` be done in it; what leaves it open is closed.
+    /// Opens the list and runs `act` in it. A list that is still open then is closed.
     void InList(const std::function<void(frmFileList&)>& act) {
         p.user.On<frmFileList>([&act](frmFileList& f) {
             act(f);

@@ -23,7 +23,7 @@ std::string Repeated(std::string_view part, int times) {
     return bytes;
 }
 
-/// The part so often as the `doublings`-th power of two says.
+/// The part, repeated 2 to the power of `doublings` times.
 std::string Doubled(std::string_view part, int doublings) {
     std::string bytes(part);
     bytes.reserve(part.size() << doublings);
@@ -41,7 +41,7 @@ std::string EveryByte() {
 
 constexpr int kMegabyte = 1 << 20;
 
-/// Made when its test runs: some are large.
+/// The bytes are made when the test runs, because some files are large.
 struct BadFile {
     const char* name;
     std::string (*bytes)();

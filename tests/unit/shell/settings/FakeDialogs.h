@@ -11,7 +11,7 @@
 
 namespace korvane {
 
-/// Gives a font, or nothing, and remembers from which one it was to start.
+/// Gives a font, or nothing, and remembers which font it was offered.
 class FakeFontPicker final : public FontPicker {
 public:
     explicit FakeFontPicker(App& app) { app.SetPort<FontPicker>(this); }
@@ -24,7 +24,7 @@ public:
     }
 };
 
-/// The same with colours.
+/// Does the same with colours.
 class FakeColourPicker final : public ColourPicker {
 public:
     explicit FakeColourPicker(App& app) { app.SetPort<ColourPicker>(this); }

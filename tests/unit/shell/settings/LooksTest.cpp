@@ -1,4 +1,4 @@
-// The plain texts of the windows stand in their Designer files.
+// The plain texts of the windows are in their Designer files.
 
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"

@@ -127,7 +127,7 @@ TEST_F(LoadPipelineTest, AFileThatIsOpenIsNotLoadedTwice) {
     p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
     p.Choose("mnuFile_Open");
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"a.tbx"});
-    // Nothing was read that would have taken it back.
+    // Nothing was read, so nothing set the pointer back.
     EXPECT_EQ(p.screen.CurrentPointer(), Pointer::Hourglass);
 }
 

@@ -230,7 +230,7 @@ TEST_F(TabsTest, ThePaperSizeIsLookedUpByTheSettingsNameForNobody) {
         {u"LETTER", 12240, 15840},
         {u"LETTER_Landscape", 15840, 12240},
         {u"LEGAL", 12240, 20160},
-        // Any other name leaves the two as they are; "0" is what the settings make of every name.
+        // Any other name leaves the two as they are. Reading the settings turns every name into "0".
         {u"0", 12240, 20160},
         {u"a4", 12240, 20160},
     };

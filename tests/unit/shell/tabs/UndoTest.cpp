@@ -38,7 +38,7 @@ protected:
         p.Choose("mnuFile_Save");
         return p.FileBytes(kFile);
     }
-    /// What has been done since the table was loaded is one step.
+    /// Checks that what was done since the table was loaded is one step.
     void ExpectOneStep() {
         const std::string after = Save();
         EXPECT_NE(after, first_);
