@@ -8,7 +8,7 @@ class QWidget;
 
 namespace korvane {
 
-/// Which of a widget's surfaces is coloured, and what is written on it.
+/// The palette roles of a surface: its background, and the text that is written on it.
 struct Surface {
     QPalette::ColorRole back;
     QPalette::ColorRole text;
@@ -18,8 +18,8 @@ inline constexpr Surface kFieldSurface{QPalette::Base, QPalette::Text};
 inline constexpr Surface kWindowSurface{QPalette::Window, QPalette::WindowText};
 inline constexpr Surface kButtonSurface{QPalette::Button, QPalette::ButtonText};
 
-/// Gives a widget a colour of its own, with a text that can be read on it; without a colour it goes with its
-/// window.
+/// Gives a widget a background of its own and a text colour that can be read on it. Without a colour the
+/// widget looks like its window again.
 void WriteBackColour(QWidget& widget, Colour back, const Surface& surface);
 
 } // namespace korvane

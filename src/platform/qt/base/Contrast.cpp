@@ -8,7 +8,8 @@ namespace korvane {
 
 namespace {
 
-/// The light that each value of a channel gives. Every cell that is painted asks for some.
+/// The light that each value of a channel gives. It is a table because every painted cell needs several
+/// values.
 std::array<double, 256> MakeLinear() {
     std::array<double, 256> linear{};
     for (std::size_t value = 0; value < linear.size(); ++value) {

@@ -7,26 +7,26 @@
 
 namespace korvane {
 
-/// Whether white can be read better on the colour than black.
+/// Whether white is easier to read on the colour than black.
 bool IsDark(const QColor& colour);
 
-/// The colour of a background, or none where it goes with the palette. White is what a background has whose
-/// colour nobody chose: where the palette is dark, it is the palette's own.
+/// The background that was really chosen, or none if the palette's own is used. White is the default, so on a
+/// dark palette it counts as "not chosen".
 Colour ChosenBack(Colour back, const QPalette& palette);
 
-/// Below this contrast a text is hard to read.
+/// A text with less contrast than this is hard to read.
 inline constexpr double kReadable = 3.0;
 
-/// How well `text` can be read on `back`, from 1 (not at all) to 21.
+/// How well `text` can be read on `back`: from 1 (not at all) to 21.
 double Contrast(const QColor& text, const QColor& back);
 
-/// The palette's text colour if it can be read on `back`, else black or white.
+/// The palette's text colour if it can be read on `back`, otherwise black or white.
 QColor TextFor(const QColor& back, const QPalette& palette);
 
-/// Which of the two can be read better on `back`.
+/// Black or white, whichever is easier to read on `back`.
 QColor BlackOrWhite(const QColor& back);
 
-/// `colour` with `share` (0 to 1) of `other` in it.
+/// Mixes `share` (0 to 1) of `other` into `colour`.
 QColor Blend(const QColor& colour, const QColor& other, double share);
 
 } // namespace korvane

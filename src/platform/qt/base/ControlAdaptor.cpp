@@ -95,7 +95,8 @@ bool ControlAdaptor::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool ControlAdaptor::KeyPressed(const QKeyEvent& event) {
-    // A key that the control with the keyboard left alone travels on to what surrounds it: not its key.
+    // A widget passes a key that it doesn't use on to its parent. Only the control that has the keyboard is
+    // told of it.
     if (widget_ == nullptr || widget_->window()->focusWidget() != widget_) return false;
     KeyEvent key = ToKeyEvent(event);
     if (key.code == 0) return false;

@@ -9,29 +9,30 @@
 
 namespace korvane {
 
-/// Ties one control to its widget: what the program sets reaches the widget, what the user does reaches the
-/// control. It belongs to the widget, and is deaf once detached.
+/// Connects one control with its widget: what the program sets is shown in the widget, and what the user does
+/// is told to the control. The widget owns the adaptor. After `Detach` it does nothing any more.
 class ControlAdaptor : public QObject, public View {
 public:
     ControlAdaptor(Control& control, QObject& shown);
     ~ControlAdaptor() override;
 
-    /// Brings the widget to the control's state.
+    /// Shows the whole state of the control in the widget.
     void WriteAll();
-    /// Lets go of the control, which may go away then.
+    /// Cuts the connection to the control, which may then be destroyed.
     void Detach();
     void Follow(Observed& observed, Aspect aspect) final;
     void Gone() final;
 
-    /// nullptr when the control is shown by something else than a widget.
+    /// nullptr when the control is shown by something that isn't a widget, such as an action.
     QWidget* Shown() const { return widget_; }
 
 protected:
-    /// Brings one aspect to the widget. A kind of control handles its own and leaves the rest to this one.
+    /// Shows one aspect of the control in the widget. A derived class handles the aspects of its own kind of
+    /// control and passes the others on to this one.
     virtual void Write(Aspect aspect);
-    /// Disconnects what hears the user. The control may have gone already.
+    /// Disconnects what listens to the user. The control may be destroyed already.
     virtual void Deafen();
-    /// Disconnects what hears the control by other ways than its view.
+    /// Disconnects what listens to the control in other ways than as its view.
     virtual void LetGo() {}
     bool Attached() const { return subject_ != nullptr; }
 

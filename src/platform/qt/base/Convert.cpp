@@ -16,13 +16,13 @@ double TwipsPerPixel() {
     return kTwipsPerInch / (screen == nullptr ? 96.0 : screen->logicalDotsPerInch());
 }
 
-/// How many units the line end at the start of `rest` takes; 0 when there is none.
+/// The number of code units of the line end at the start of `rest`, or 0 when there is none.
 int LineEndLength(TextView rest) {
     if (rest.starts_with(kCrLf)) return 2;
     return rest.starts_with(u'\r') || rest.starts_with(u'\n') ? 1 : 0;
 }
 
-/// Units of `text` that the character or line end at `position` takes.
+/// The number of code units of the character or line end at `position`.
 int StepLength(TextView text, int position) {
     const int lineEnd = LineEndLength(text.substr(static_cast<std::size_t>(position)));
     return lineEnd == 0 ? 1 : lineEnd;

@@ -15,31 +15,32 @@ namespace korvane {
 QString ToQString(TextView text);
 Text ToText(const QString& text);
 
-/// The text as a widget of several lines wants it: each CR LF, CR and LF is one LF.
+/// The text for a widget of several lines: each CR LF, CR and LF becomes one LF.
 QString ToLines(TextView text);
-/// What such a widget holds as text of the rules: each line end is CR LF.
+/// The text of such a widget for the rest of the program: each line end becomes CR LF.
 Text FromLines(const QString& lines);
-/// Where a position (from 0) in `text` stands in `ToLines(text)`, and the other way round.
+/// The position in `ToLines(text)` that belongs to a position (counted from 0) in `text`, and the other way
+/// round.
 int ToLinesPosition(TextView text, int position);
 int FromLinesPosition(TextView text, int position);
 
-/// Nothing when no colour is set.
+/// An invalid colour when none is set.
 QColor ToQColor(Colour colour);
 
-/// The other way round; nothing set for an invalid colour.
+/// No colour when `colour` is invalid.
 Colour ToColour(const QColor& colour);
 
-/// `font` with what `spec` wants different.
+/// `font` with the changes that `spec` asks for.
 QFont WithSpec(QFont font, const FontSpec& spec);
 
 Qt::CursorShape ShapeOf(Pointer pointer);
-/// The pointer of a widget. A hand is the picture of the file `handImage` if that can be read.
+/// The mouse pointer for a widget. A hand is the picture in the file `handImage` if that file can be read.
 QCursor CursorOf(Pointer pointer, TextView handImage);
 
-/// A tool-tip is plain text, also where it looks like markup.
+/// A tool-tip that Qt shows as plain text, even if it looks like markup.
 QString PlainToolTip(TextView text);
 
-/// Twips to device-independent pixels of the primary screen, to the nearest, and back.
+/// Converts twips to device-independent pixels of the primary screen, rounded to the nearest, and back.
 int ToPixels(Twips length);
 Twips ToTwips(int pixels);
 

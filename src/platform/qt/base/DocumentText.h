@@ -6,7 +6,7 @@ class QTextDocument;
 
 namespace korvane {
 
-/// The text of a document as it stands: other than its `toPlainText`, a no-break space stays one.
+/// The text of a document. Unlike `QTextDocument::toPlainText` it keeps no-break spaces.
 QString DocumentText(const QTextDocument& document);
 
 } // namespace korvane

@@ -2,7 +2,7 @@
 
 namespace korvane {
 
-/// A field whose text reaches nobody before it is committed.
+/// A field whose text isn't known to the program until it is committed.
 class UnfinishedField {
 public:
     virtual void Commit() = 0;
@@ -11,8 +11,8 @@ protected:
     ~UnfinishedField() = default;
 };
 
-/// Commits the field with the keyboard, if it is such a one, as a click somewhere else would: a command must
-/// find what the user sees.
+/// Commits the field that has the keyboard, if it is such a field, as a click somewhere else would. It is
+/// called before a command runs, so that the command works with the text that the user sees.
 void FinishTyping();
 
 } // namespace korvane

@@ -18,7 +18,7 @@ namespace korvane {
 
 namespace {
 
-// The two colours in which the icons are drawn, and the second one where the window is dark.
+// The two colours in which the icons are drawn, and what the second one becomes in a dark window.
 constexpr auto kStroke = "#3c4650";
 constexpr auto kAccent = "#2f74c0";
 constexpr auto kAccentOnDark = "#6fb1f5";
@@ -31,7 +31,7 @@ struct Tints {
 Tints PaletteTints(QIcon::Mode mode) {
     const QPalette palette = QGuiApplication::palette();
     if (mode == QIcon::Selected) {
-        // In a chosen line of a list.
+        // The icon is in a chosen line of a list.
         const QByteArray chosen = palette.color(QPalette::HighlightedText).name().toLatin1();
         return {chosen, chosen};
     }
@@ -51,7 +51,7 @@ QPixmap Draw(QByteArray svg, const QSize& size, const Tints& tints) {
 
 class TintedEngine : public QIconEngine {
 public:
-    /// An invalid colour leaves the colours to the palette.
+    /// With an invalid colour the icon takes its colours from the palette.
     TintedEngine(QByteArray svg, const QColor& colour) : svg_(std::move(svg)), colour_(colour) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
@@ -82,7 +82,7 @@ private:
     QColor colour_;
 };
 
-/// The icon's name is the part's own unless its look names another one.
+/// The icon has the name of the part unless the window's look names another one.
 QString IconName(const QObject& part) {
     const QString other = part.property("iconName").toString();
     return other.isEmpty() ? part.objectName() : other;

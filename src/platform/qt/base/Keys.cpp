@@ -74,8 +74,8 @@ int KeypadCode(int key) {
     return IsDigit(key) ? kNumpad0 + key - Qt::Key_0 : Find(kKeypadKeys, key);
 }
 
-/// With Shift or on some keyboards the digits of the main row arrive as the sign printed above them; the
-/// key that was pressed tells which digit it is. X11 and Wayland number the keys "1" to "0" 10 to 19.
+/// With Shift, and always on some keyboards, Qt reports a digit key as the sign printed above the digit. The
+/// scan code tells which digit it is: X11 and Wayland number the keys "1" to "0" from 10 to 19.
 int DigitByPlace(quint32 scanCode) {
     const QString platform = QGuiApplication::platformName();
     if (platform != QLatin1String("xcb") && !platform.startsWith(QLatin1String("wayland"))) return 0;

@@ -39,7 +39,7 @@ constexpr RoleColour kDark[] = {
 
 constexpr QRgb kDisabled = 0xff767d87;
 
-/// What the desktop answers for "prefer dark".
+/// The value with which the desktop answers "prefer dark".
 constexpr uint kPrefersDark = 1;
 
 bool DesktopPrefersDark() {
@@ -52,7 +52,7 @@ bool DesktopPrefersDark() {
     question << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
     const QDBusMessage reply = bus.call(question, QDBus::Block, kPatience);
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return false;
-    // The answer comes wrapped twice.
+    // The value is wrapped in two variants.
     QVariant value = reply.arguments().constFirst();
     while (value.canConvert<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();

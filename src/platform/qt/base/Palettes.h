@@ -6,10 +6,10 @@ namespace korvane {
 
 QPalette DarkPalette();
 
-/// Whether windows of the palette have light text on dark.
+/// Whether windows with this palette have light text on a dark ground.
 bool IsDark(const QPalette& palette);
 
-/// Goes dark where the desktop prefers that and the toolkit didn't notice.
+/// Takes a dark palette where the desktop prefers one and Qt didn't notice.
 void FollowDesktopPalette();
 
 } // namespace korvane

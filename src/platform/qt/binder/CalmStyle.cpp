@@ -15,7 +15,8 @@ namespace {
 constexpr int kHeaderMargin = 5;
 constexpr int kAirInList = 4;
 
-/// What is drawn as a hollow on the window, and would be lost on a dark one without an edge.
+/// Whether the element is drawn as a hollow in its window. On a dark window it could not be seen without an
+/// edge.
 bool IsHollow(QStyle::PrimitiveElement element) {
     return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton ||
            element == QStyle::PE_FrameLineEdit;
@@ -60,7 +61,7 @@ CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    // A field with the keyboard has an edge.
+    // Fusion draws an edge already around a field that has the keyboard.
     const bool edged = element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus);
     if (IsHollow(element) && !edged && IsDark(option->palette)) DrawEdge(element, *option, *painter);
 }
@@ -69,7 +70,7 @@ int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     return metric == PM_HeaderMargin ? kHeaderMargin : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
-/// The strip's buttons stand where the strip itself places them, so that no layout moves them twice.
+/// `TabBar` places its buttons by itself. This is the same place, so that a layout doesn't move them twice.
 QRect CalmStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
     if (element == SE_TabBarTabRightButton && qobject_cast<const TabBar*>(widget) != nullptr)
         return TabBar::CloseButtonOf(option->rect);

@@ -4,9 +4,9 @@
 
 namespace korvane {
 
-/// Fusion, a little quieter: buttons of dialogs without pictures, captions of columns as far from the edge as
-/// the texts of the cells below them, lists with some air between their lines, message boxes with icons of
-/// the program's own, and edges and arrows that can be seen on a dark window.
+/// The Fusion style with small changes: the buttons of dialogs have no pictures, column captions begin as far
+/// from the edge as the texts of the cells below them, the lines of lists have some space between them,
+/// message boxes show the program's own icons, and edges and arrows can be seen on a dark window.
 class CalmStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -9,10 +9,10 @@ class QMimeData;
 
 namespace korvane {
 
-/// The files of this computer among what is dragged, as the system writes their paths.
+/// The paths of those dragged files that are on this computer, as the system writes them.
 std::vector<Text> LocalFiles(const QMimeData& dragged);
 
-/// Says yes to a drag that carries files of this computer.
+/// Accepts a drag that carries files of this computer.
 void AcceptFiles(QEvent& drag);
 
 } // namespace korvane

@@ -26,8 +26,8 @@ ControlAdaptor* Make(Control& control, QObject& shown, [[maybe_unused]] PageSour
     }
 }
 
-/// Each kind of control, the widgets that can show it, and what ties the two. The adaptor belongs to the
-/// widget.
+/// Each row names a kind of control, a widget that can show it, and the adaptor that connects the two. The
+/// widget owns the adaptor.
 constexpr Maker kMakers[] = {
     Make<CommandButton, QAbstractButton, ButtonAdaptor>,
     Make<CommandButton, QAction, ActionAdaptor>,

@@ -12,16 +12,17 @@
 
 namespace korvane {
 
-/// Ties a window's controls to the widgets of the same names, both ways, until it is destroyed.
+/// Connects the controls of a window with the widgets of the same names until the binder is destroyed.
 class FormBinder {
 public:
-    /// `form` outlives the binder or its `Detach`; the widgets may go first.
+    /// `form` must live until the binder is destroyed or `Detach` is called. The widgets may be destroyed
+    /// earlier.
     FormBinder(Form& form, QWidget& window, PageSource& pages);
     ~FormBinder();
     FormBinder(const FormBinder&) = delete;
     FormBinder& operator=(const FormBinder&) = delete;
 
-    /// Lets go of the form: what the widgets do from now on reaches nobody.
+    /// Cuts the connection to the form: it isn't told any more of what the user does.
     void Detach();
     /// Gives the keyboard to the control that the form wants to have it.
     void FocusWanted();
@@ -32,9 +33,9 @@ private:
     Form* form_;
 };
 
-/// What doesn't fit between a window and its look, one line each: a control without a widget, a widget named
-/// like a control without one, a widget for the keyboard that a screen reader couldn't name. Names of widgets
-/// that are no controls begin with "plain".
+/// Lists what doesn't fit between a window and its look, one line each: a control without a widget, a widget
+/// that isn't a control of the window, and a widget that takes the keyboard but has no name for a screen
+/// reader. Widgets that are no controls have names that begin with "plain".
 std::vector<std::string> FormProblems(const Form& form, QWidget& window);
 
 } // namespace korvane

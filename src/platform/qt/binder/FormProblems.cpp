@@ -12,19 +12,19 @@ namespace korvane {
 namespace {
 
 bool IsShown(const Control& control, const QWidget& window) {
-    // A menu that isn't on the bar pops up: nothing of it stands in the window.
+    // A menu that isn't on the menu bar pops up and has no widget in the window.
     if (dynamic_cast<const Menu*>(&control) != nullptr) return true;
     const auto name = QString::fromStdString(control.Name());
     return window.findChild<QWidget*>(name) != nullptr || window.findChild<QAction*>(name) != nullptr;
 }
 
-/// Parts that the toolkit adds to its widgets, and those that stand for no control.
+/// Whether the name marks a part that Qt adds to its widgets, or a part that is meant to have no control.
 bool StandsForNoControl(const QObject& part) {
     const QString name = part.objectName();
     return name.isEmpty() || name.startsWith(QLatin1String("qt_")) || name.startsWith(QLatin1String("plain"));
 }
 
-/// Whether `part` was made by the widget around it rather than by the window's look.
+/// Whether `part` belongs to the inside of another control's widget and isn't a part of the window's look.
 bool IsInnerPart(const QWidget& part, const Form& form) {
     for (const QWidget* around = part.parentWidget(); around != nullptr; around = around->parentWidget()) {
         const Control* control = form.Find(around->objectName().toStdString());

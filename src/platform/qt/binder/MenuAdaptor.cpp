@@ -72,7 +72,7 @@ MenuAdaptor::MenuAdaptor(Menu& menu, QMenuBar& bar) : AdaptorOf(menu, bar) {
     Build();
     keyKeeper_ = std::make_unique<KeyKeeper>(bar);
     QCoreApplication::instance()->installEventFilter(keyKeeper_.get());
-    // An entry with a box turns its own check mark when chosen: the menu's word counts.
+    // Qt toggles the check mark of a chosen entry by itself, but only the menu decides what is checked.
     connect(&bar, &QMenuBar::triggered, this, &MenuAdaptor::WriteChecks);
 }
 
@@ -102,7 +102,7 @@ void MenuAdaptor::Write(Aspect aspect) {
 void MenuAdaptor::WriteChecks() {
     for (const auto& [name, action] : actions_) {
         const bool checked = control_.Checked(name);
-        // A box appears with the first check mark and stays, so that the captions keep their place.
+        // A box appears with the first check mark and then stays, so that the captions don't move.
         if (checked) action->setCheckable(true);
         if (action->isCheckable()) action->setChecked(checked);
     }
@@ -128,7 +128,7 @@ void FillPopup(QMenu& popup, Menu& menu) {
             action->setCheckable(true);
             action->setChecked(true);
         }
-        // The bar owns the keys; here they are only told.
+        // The menu bar handles the keys. Here they are only shown.
         action->setShortcutContext(Qt::WidgetShortcut);
         popup.addAction(action);
     }

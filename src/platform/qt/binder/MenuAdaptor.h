@@ -11,8 +11,8 @@
 
 namespace korvane {
 
-/// A menu bar. Its keys belong to it wherever in its window the keyboard is: a field that knows one of them
-/// too doesn't get it.
+/// A menu bar. Its keys work wherever the keyboard is in its window: a field that uses the same key doesn't
+/// get it.
 class MenuAdaptor : public AdaptorOf<Menu, QMenuBar> {
 public:
     MenuAdaptor(Menu& menu, QMenuBar& bar);
@@ -27,11 +27,11 @@ private:
     void WriteFont();
 
     std::map<std::string, QAction*, std::less<>> actions_;
-    /// Keeps the bar's keys from the fields of its window.
+    /// Stops the fields of the window from taking the keys of the bar.
     std::unique_ptr<QObject> keyKeeper_;
 };
 
-/// Fills `popup` with the menu's entries; each chosen one goes to the menu.
+/// Fills `popup` with the menu's entries. Choosing one tells the menu.
 void FillPopup(QMenu& popup, Menu& menu);
 
 } // namespace korvane

@@ -62,7 +62,7 @@ QWidget* QtFormHost::PageOf(Form& form) {
 }
 
 void QtFormHost::Bring(Form& form, QWidget& window) {
-    // A page comes up with its tab.
+    // A page is shown together with its tab.
     if (!StandsAlone(window)) return;
     window.show();
     if (const Shown* shown = Find(form)) shown->binder->FocusWanted();
@@ -97,7 +97,7 @@ void QtFormHost::Hide(Form& form) {
     if (gone.loop != nullptr) gone.loop->quit();
     if (gone.window.isNull()) return;
     gone.window->hide();
-    // Not at once: it may be one of its own widgets whose click closes the window.
+    // The widget is deleted later, because a click on one of its own buttons may be closing it now.
     gone.window->deleteLater();
 }
 

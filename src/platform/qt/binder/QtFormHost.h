@@ -12,10 +12,10 @@
 
 namespace korvane {
 
-/// Shows windows as widgets. A window's look is made when it is shown first and goes when it closes.
+/// Shows windows as widgets. The look of a window is made when it is first shown and deleted when it closes.
 class QtFormHost : public FormHost, private PageSource {
 public:
-    /// The windows that can be shown; the entries outlive the host.
+    /// `forms` are the windows that can be shown. They must outlive the host.
     explicit QtFormHost(std::span<const FormEntry> forms);
     ~QtFormHost() override;
 
@@ -25,9 +25,9 @@ public:
     void PopUp(Menu& menu) override;
     void Raise(Form& form) override;
 
-    /// Lets the program run until the window has closed.
+    /// Runs the event loop until the window is closed.
     void RunUntilClosed(const Form& form);
-    /// The widget of a window that is shown; nullptr for any other.
+    /// The widget of a window that is shown, or nullptr for any other window.
     QWidget* WidgetOf(const Form& form) const;
 
 private:
@@ -35,22 +35,22 @@ private:
         const Form* form = nullptr;
         QPointer<QWidget> window;
         std::unique_ptr<FormBinder> binder;
-        /// Runs while somebody waits for the window to close.
+        /// The event loop that waits for the window to close, if there is one.
         QEventLoop* loop = nullptr;
     };
 
     QWidget* PageOf(Form& form) override;
     void Release(Form& form) override { Hide(form); }
-    /// nullptr when the window has no look.
+    /// Makes and connects the widget if the window isn't shown yet. nullptr when the window has no look.
     QWidget* Bind(Form& form);
     std::unique_ptr<QWidget> MakeLook(const Form& form) const;
     void Bring(Form& form, QWidget& window);
     Shown* Find(const Form& form);
-    /// The window that a new dialog stands over; nullptr when none is there.
+    /// The window over which a new dialog opens, or nullptr when there is none.
     QWidget* Opener() const;
 
     std::span<const FormEntry> forms_;
-    /// In the order in which they came up.
+    /// Sorted by when they were shown, the oldest first.
     std::vector<Shown> shown_;
 };
 

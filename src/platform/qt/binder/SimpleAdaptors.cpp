@@ -12,8 +12,8 @@ namespace korvane {
 
 namespace {
 
-/// A button whose control says whether it is on. The widget turns itself over when it is clicked, but what
-/// becomes of that is the control's word.
+/// Connects a button that can be on or off. Qt toggles the widget when it is clicked, but only the control
+/// decides whether it is on, so `press` writes the control's value back to the widget.
 void FollowClicks(QAbstractButton& widget, ControlAdaptor& adaptor, const std::function<void()>& press) {
     widget.setCheckable(true);
     widget.setAutoExclusive(false);
@@ -24,7 +24,7 @@ void FollowClicks(QAbstractButton& widget, ControlAdaptor& adaptor, const std::f
 
 ButtonAdaptor::ButtonAdaptor(CommandButton& button, QAbstractButton& widget) : AdaptorOf(button, widget) {
     if (auto* pushButton = qobject_cast<QPushButton*>(&widget)) {
-        // The window itself knows what Return presses.
+        // `WindowAdaptor` decides which button Return presses.
         pushButton->setAutoDefault(false);
         pushButton->setDefault(button.Default);
     }
@@ -107,7 +107,7 @@ void LabelAdaptor::Write(Aspect aspect) {
 void PanelAdaptor::Write(Aspect aspect) {
     auto* frame = qobject_cast<QGroupBox*>(&widget_);
     const Text& caption = control_.Caption;
-    // Without a caption of its own a frame keeps the title that its look has.
+    // A frame without a caption of its own keeps the title from its look.
     if (aspect == Aspect::Caption && frame != nullptr && !caption.empty())
         frame->setTitle(ToQString(caption));
     if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
@@ -117,14 +117,16 @@ void PanelAdaptor::Write(Aspect aspect) {
 SliderAdaptor::SliderAdaptor(Slider& slider, QAbstractSlider& widget) : AdaptorOf(slider, widget) {
     connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
         control_.MoveTo(value);
-        // What a key, the wheel or a click on the groove moves is never held.
+        // A key, the wheel or a click on the groove moves the slider without holding it, so the move is
+        // finished at once.
         if (!widget_.isSliderDown()) control_.Release();
     });
     connect(&widget, &QAbstractSlider::sliderReleased, this, [this] { control_.Release(); });
 }
 
 void SliderAdaptor::Write(Aspect aspect) {
-    // A value outside the range stays as it is in the control: what the widget makes of it isn't the user's.
+    // The widget pulls a value into its range. The signals are blocked so that the control doesn't take this
+    // for a move of the user and keeps its own value.
     const QSignalBlocker quiet(widget_);
     if (aspect == Aspect::Range) widget_.setRange(control_.Min, control_.Max);
     if (aspect == Aspect::Range || aspect == Aspect::Value) widget_.setValue(control_.Value);

@@ -20,7 +20,8 @@ protected:
     void Write(Aspect aspect) override;
 };
 
-/// A button of a tool bar: its tool-tip is also its name in the bar's overflow menu and to a screen reader.
+/// A button of a tool bar. Its tool-tip is also its name in the menu of hidden buttons and for a screen
+/// reader.
 class ActionAdaptor : public AdaptorOf<CommandButton, QAction> {
 public:
     ActionAdaptor(CommandButton& button, QAction& action);

@@ -37,7 +37,7 @@ bool SqueezeBar::Fits() const {
 
 void SqueezeBar::ShowTexts(bool shown) {
     for (auto* button : findChildren<QToolButton*>()) {
-        // What never had a text beside its picture stays as it is.
+        // A button that has only a picture stays as it is.
         if (button->text().isEmpty()) continue;
         button->setToolButtonStyle(shown ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
     }

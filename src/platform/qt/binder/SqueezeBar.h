@@ -5,11 +5,11 @@
 
 namespace korvane {
 
-/// A row of tools that stays whole where it is wide, and where it is narrow gives way instead of crowding:
-/// its buttons lose their texts first, then it does without some of its parts.
+/// A row of tools that adapts to a narrow window: first its buttons lose their texts, then some of its parts
+/// are hidden.
 class SqueezeBar : public QWidget {
     Q_OBJECT
-    /// The names of the parts that it can do without, the first to go first.
+    /// The names of the parts that may be hidden, in the order in which they are hidden.
     Q_PROPERTY(QStringList givesWay READ GivesWay WRITE SetGivesWay)
 
 public:

@@ -11,8 +11,8 @@ namespace korvane {
 
 namespace {
 
-/// So much of a text that nobody can change is shown: the toolkit lays out all it gets, and a user doesn't
-/// read more.
+/// Only the first part of a long locked text is shown. Qt lays out the whole text it is given, which takes
+/// long, and a user doesn't read more.
 constexpr std::size_t kMostToRead = 100'000;
 
 } // namespace
@@ -75,7 +75,7 @@ void LinesAdaptor::Write(Aspect aspect) {
 }
 
 void LinesAdaptor::WriteLocked() {
-    // What can't be written can be selected and copied all the same, by keyboard too.
+    // A locked text can still be selected and copied, with the keyboard too.
     constexpr auto kReading = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
     widget_.setTextInteractionFlags(control_.Locked ? kReading : Qt::TextEditorInteraction);
 }

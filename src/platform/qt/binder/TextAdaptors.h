@@ -24,8 +24,8 @@ private:
     bool writing_ = false;
 };
 
-/// A text box of several lines: CR LF in the control, LF in the widget, which shows the start alone of a very
-/// long text that is locked.
+/// A text box of several lines. The control has CR LF as line ends and the widget has LF. Of a very long
+/// locked text the widget shows only the start.
 class LinesAdaptor : public AdaptorOf<TextBox, QPlainTextEdit> {
 public:
     LinesAdaptor(TextBox& box, QPlainTextEdit& widget);
@@ -35,7 +35,7 @@ protected:
 
 private:
     void ReadText();
-    /// `text` is what the widget holds, which the control may not yet know.
+    /// `text` is the text in the widget, which the control may not know yet.
     void ReadSelection(TextView text);
     void WriteLocked();
     void WriteText();

@@ -18,12 +18,12 @@ namespace korvane {
 
 namespace {
 
-/// A caption may hold "[*]", which the toolkit would take for the place of its mark of changes.
+/// Doubles each "[*]" in a caption, which Qt would otherwise take for the place of its "modified" mark.
 QString WindowTitle(TextView caption) {
     return ToQString(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
-/// The first button that can be pressed and of which `which` is set.
+/// The first visible and enabled button whose property `which` is set.
 CommandButton* FindButton(const Form& form, bool CommandButton::*which) {
     for (Control* control : form.Controls()) {
         auto* button = dynamic_cast<CommandButton*>(control);
@@ -32,7 +32,8 @@ CommandButton* FindButton(const Form& form, bool CommandButton::*which) {
     return nullptr;
 }
 
-/// Writes a length that the user changed; one that differs only by the rounding to pixels stays exact.
+/// Stores a length that the user changed. A length that differs only by the rounding to pixels keeps its
+/// exact value.
 void Take(Property<Twips>& length, int pixels) {
     if (ToPixels(length) != pixels) length = ToTwips(pixels);
 }
@@ -111,10 +112,10 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void WindowAdaptor::TellActivated() {
-    // A page is activated with its tab: the window that comes to the front leaves the keyboard where it was.
+    // A page is activated by its tab. When its window comes to the front the keyboard stays where it was.
     if (!StandsAlone(window_)) return;
-    // Later: a handler that lets messages run would let keys come before the window has given the keyboard
-    // to one of its widgets.
+    // The handler runs later. It may run an event loop, and then keys would arrive before the window has
+    // given the keyboard to one of its widgets.
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -133,7 +134,8 @@ void WindowAdaptor::TakeDrop(QEvent& event) {
     AcceptFiles(event);
     if (!event.isAccepted()) return;
     FinishTyping();
-    // Later: where the files come from waits for the end of the drop, and a load may ask questions.
+    // The files are handled later. The program they are dragged from waits until the drop has ended, and
+    // loading a file may ask questions.
     QMetaObject::invokeMethod(
         this,
         [this, files = LocalFiles(*static_cast<QDropEvent&>(event).mimeData())] {
@@ -147,7 +149,7 @@ bool WindowAdaptor::KeyPressed(const QKeyEvent& event) {
     if (window_.focusWidget() == nullptr) form_->KeyDown(key);
     if (key.consumed || form_ == nullptr) return true;
     if (key.mask == Mask::None && PressButtonFor(key.code)) return true;
-    // A dialog of the toolkit would close at Esc and look for a button at Return by itself.
+    // Qt's dialog would close at Esc and search for a button at Return by itself.
     return key.code == Key::Escape || key.code == Key::Return;
 }
 
@@ -171,7 +173,7 @@ void WindowAdaptor::WritePlace() {
     const QSize size(ToPixels(form_->Width), ToPixels(form_->Height));
     const QPoint place(ToPixels(form_->Left), ToPixels(form_->Top));
     if (!size.isEmpty() && size != window_.size()) window_.resize(size);
-    // A window that is about to be shown without a place is placed by the desktop.
+    // If no place is known for a window that isn't shown yet, the desktop chooses one.
     const bool placed = window_.isVisible() || !place.isNull();
     if (placed && place != window_.pos()) window_.move(place);
 }
@@ -192,7 +194,7 @@ void WindowAdaptor::ReadState() {
 }
 
 void WindowAdaptor::ReadPlace() {
-    // A window that isn't on the screen yet stands wherever the toolkit keeps it.
+    // The place of a window that isn't on the screen yet says nothing about what the user wants.
     if (!StandsAlone(window_) || !window_.isVisible() || window_.isMinimized() || window_.isMaximized())
         return;
     const QRect place(window_.pos(), window_.size());

@@ -7,18 +7,19 @@
 
 namespace korvane {
 
-/// Whether the widget is a window; else it is a page of its window's tab strip.
+/// Whether the widget is a window of its own. Otherwise it is a page on a tab.
 bool StandsAlone(const QWidget& widget);
 
-/// Ties a window to its widget: caption and place both ways, closing, activation and the keys that press its
-/// default and cancel buttons. It belongs to the widget, and is deaf once detached.
+/// Connects a window with its widget: caption, place, closing, activation, and the keys that press its
+/// default button and its cancel button. The widget owns the adaptor. After `Detach` it does nothing any
+/// more.
 class WindowAdaptor : public QObject, public View {
 public:
     WindowAdaptor(Form& form, QWidget& window);
     ~WindowAdaptor() override;
 
     void WriteAll();
-    /// Lets go of the window, which may go away then.
+    /// Cuts the connection to the window, which may then be destroyed.
     void Detach();
     void Follow(Observed& observed, Aspect aspect) override;
     void Gone() override;

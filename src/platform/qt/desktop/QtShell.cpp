@@ -17,7 +17,7 @@ QString ToQString(TextView text) {
     return QStringView(text).toString();
 }
 
-/// A file's name is never read as an address, whatever it looks like.
+/// The URL of a path. The path is never taken for a web address, even if it looks like one.
 QUrl FileUrl(TextView path) {
     return QUrl::fromLocalFile(QDir::current().absoluteFilePath(ToQString(path)));
 }

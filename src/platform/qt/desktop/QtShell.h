@@ -7,7 +7,7 @@ namespace korvane {
 /// The desktop that the program runs on.
 class QtShell final : public Shell {
 public:
-    /// A started program has the task number 1, and its window comes up as the system likes it.
+    /// Returns 1 if the program was started. The system decides how its window is shown.
     int Run(TextView program, const std::vector<Text>& arguments, WindowState window) override;
     void Open(const OpenRequest& request) override;
     void Explore(TextView folder) override;

@@ -2,8 +2,8 @@
 
 namespace korvane {
 
-/// Asks the window manager to hide all windows, or to show them again. Where it offers no such thing, nothing
-/// happens.
+/// Asks the window manager to hide all windows, or to show them again. Nothing happens if it doesn't offer
+/// this.
 void ToggleShowingDesktop();
 
 } // namespace korvane

@@ -18,7 +18,7 @@ constexpr int kPaddingX = 5;
 constexpr int kPaddingTop = 3;
 constexpr int kFrameWidth = 2;
 constexpr unsigned kFontCount = 8;
-/// How much of the accent colour the current row and cell show.
+/// How much accent colour is mixed into the current row and the current cell.
 constexpr double kRowTint = 0.07;
 constexpr double kCellTint = 0.12;
 
@@ -87,7 +87,7 @@ void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& opt
     box.rect = CheckRect(option.rect, *option.widget);
     box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
     box.state |= Store().CellCheck(row) == 1 ? QStyle::State_On : QStyle::State_Off;
-    // The row's colours, so that the box is seen on a light row of a dark window.
+    // The box takes the row's colours, so that it can be seen on a light row in a dark window.
     box.palette.setColor(QPalette::Base, Blend(colours.back, Qt::white, 0.15));
     box.palette.setColor(QPalette::Window, Blend(colours.back, colours.text, 0.45));
     box.palette.setColor(QPalette::Text, colours.text);
@@ -162,7 +162,7 @@ void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewI
 }
 
 void CellDelegate::Finish(QWidget& editor, bool commit, int columnStep) const {
-    auto& self = const_cast<CellDelegate&>(*this); // NOLINT: the toolkit makes editors in a const function
+    auto& self = const_cast<CellDelegate&>(*this); // NOLINT: Qt makes editors in a const function
     if (commit) emit self.commitData(&editor);
     emit self.closeEditor(&editor, NoHint);
     if (columnStep != 0) emit Moved(columnStep);
@@ -171,7 +171,7 @@ void CellDelegate::Finish(QWidget& editor, bool commit, int columnStep) const {
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {
     auto* editor = qobject_cast<CellEditor*>(object);
     if (editor == nullptr || event->type() != QEvent::FocusOut) return false;
-    // The field's own context menu and a change of the window don't end the editing.
+    // Opening the field's own context menu or changing to another window doesn't end the editing.
     const QWidget* popup = QApplication::activePopupWidget();
     const bool ownMenu = popup != nullptr && popup->parentWidget() == editor;
     if (!ownMenu && editor->isActiveWindow()) Finish(*editor, true, 0);

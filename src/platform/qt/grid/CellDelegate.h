@@ -12,17 +12,17 @@
 
 namespace korvane {
 
-/// Paints the cells of a grid, straight from its store, and makes their editor.
+/// Paints the cells of a grid directly from its store, and makes the editor of a cell.
 class CellDelegate : public QAbstractItemDelegate {
     Q_OBJECT
 
 public:
-    /// Both outlive the delegate.
+    /// `model` and `box` must outlive the delegate.
     CellDelegate(const GridModel& model, const GridBox& box, QObject* parent);
 
     /// Whether the next editor starts with its text selected, so that typing replaces it.
     void SetTypingReplaces(bool replaces) { typingReplaces_ = replaces; }
-    /// Where the check box of a cell at `cell` stands.
+    /// The place of the check box in a cell that covers `cell`.
     static QRect CheckRect(const QRect& cell, const QWidget& view);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -37,7 +37,7 @@ public:
                               const QModelIndex& index) const override;
 
 signals:
-    /// The editor has closed and the current cell is to move so many columns.
+    /// The editor was closed, and the current cell is to move by `columnStep` columns.
     void Moved(int columnStep) const;
 
 protected:
@@ -59,7 +59,8 @@ private:
     const GridModel& model_;
     const GridBox& box_;
     bool typingReplaces_ = false;
-    /// The fonts of the flags, made from the first of them; none before the first cell is painted.
+    /// The fonts that the style flags of cells ask for, all made from the first font. Empty until a cell is
+    /// painted.
     mutable std::vector<QFont> fonts_;
 };
 

@@ -20,7 +20,7 @@ bool IsReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-/// Keys that finish the field, which a window around it would otherwise take for itself.
+/// Keys that finish editing. The field takes them before the window around it can use them as shortcuts.
 bool Finishes(const QKeyEvent& event) {
     return IsReturn(event) || event.key() == Qt::Key_Escape || event.key() == Qt::Key_Tab ||
            event.key() == Qt::Key_Backtab;
@@ -30,7 +30,7 @@ bool Finishes(const QKeyEvent& event) {
 
 CellEditor::CellEditor(QWidget& viewport, const QFont& font) : QPlainTextEdit(&viewport) {
     setFont(font);
-    // The text stands where the cell's own does.
+    // With this border and padding the text has the same place as in the cell.
     setStyleSheet(QStringLiteral("korvane--CellEditor { border: 2px solid palette(highlight); padding: 0 2px;"
                                  " background: palette(base); }"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -73,7 +73,8 @@ void CellEditor::keyPressEvent(QKeyEvent* event) {
         emit Finished(true, event->key() == Qt::Key_Tab ? 1 : -1);
     } else {
         QPlainTextEdit::keyPressEvent(event);
-        // What the field doesn't use belongs to nobody else while a cell is edited.
+        // A key that the field doesn't use is dropped while a cell is edited, so that nothing else reacts to
+        // it.
         event->accept();
     }
 }
@@ -101,7 +102,7 @@ void CellEditor::Grow() {
     setVerticalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     const QRect place(cell_.topLeft(), QSize(cell_.width(), std::min(wanted, space)));
     if (place != geometry()) setGeometry(place);
-    // Before it grew, the field may have scrolled to its cursor.
+    // The field may have scrolled to its cursor before it grew.
     if (fits) verticalScrollBar()->setValue(0);
 }
 

@@ -6,17 +6,18 @@
 
 namespace korvane {
 
-/// The field in which a cell is edited in place. Return commits, Esc takes the change back, Shift or Alt with
-/// Return begins a new line, Tab commits and goes on. It grows with its text as far as the grid reaches.
+/// The field in which a cell is edited in place. Return commits, Esc cancels, Shift+Return or Alt+Return
+/// begins a new line, Tab commits and moves on. The field grows with its text down to the bottom of the grid.
 class CellEditor : public QPlainTextEdit, public UnfinishedField {
     Q_OBJECT
 
 public:
-    /// `cell` is where the cell stands on `viewport`: the least that the field covers.
+    /// The field is a child of `viewport`, where the grid's cells are drawn. It covers at least the cell that
+    /// `SetCell` is given.
     CellEditor(QWidget& viewport, const QFont& font);
 
     void SetCell(const QRect& cell);
-    /// The text is in lines. `selected` makes what is typed next replace it.
+    /// Sets the text, with LF as line ends. With `selected` the text is selected, so that typing replaces it.
     void SetLines(const QString& lines, bool selected);
     QString Lines() const;
     void Commit() override { emit Finished(true, 0); }
@@ -30,7 +31,7 @@ protected:
 
 private:
     void Grow();
-    /// How high the field must be for its text; a text higher than `most` isn't measured to its end.
+    /// The height that the field needs for its text. The measuring stops when the text is higher than `most`.
     int TextHeight(int most) const;
 
     QRect cell_;

@@ -10,22 +10,22 @@ namespace korvane {
 
 namespace {
 
-/// What a text gets that was hard to read.
+/// The contrast to which a text is brought that was hard to read.
 constexpr double kComfortable = 6.0;
-/// What a text keeps of its contrast on a mark.
+/// The contrast that a text keeps on a marked place.
 constexpr double kMarkContrast = 4.5;
 
 Colour FirstSet(Colour first, Colour second) {
     return first == kNoColour ? second : first;
 }
 
-/// The colour that the table has of its own; none where it goes with the palette.
+/// The background that the table sets itself, or none if the palette's is used.
 Colour OwnTableBack(const Grid& store, const QPalette& palette) {
     return ChosenBack(store.GridBackColor(), palette);
 }
 
-/// A text colour of the data on a background that isn't of the data: the same hue, as light or dark as it
-/// takes.
+/// Makes the data's text colour readable on a background that the data didn't choose: the hue stays, and the
+/// colour becomes as light or dark as needed.
 QColor Readable(const QColor& text, const QColor& back) {
     if (Contrast(text, back) >= kReadable) return text;
     const QColor aim = IsDark(back) ? Qt::white : Qt::black;
@@ -36,17 +36,17 @@ QColor Readable(const QColor& text, const QColor& back) {
     return result;
 }
 
-/// The hues of marks, the best one first: on a background like it, or one on which it would drown the text,
-/// the next is seen.
+/// The hues of marks, the best one first. The next one is used where the background has a similar hue, or
+/// where the text could not be read.
 constexpr std::array kMarkHues{QColor(255, 190, 0), QColor(70, 160, 255), QColor(70, 0, 120)};
-/// Marks that differ less from the background aren't noticed, in steps of the three channels together.
+/// A mark can't be told from its background if the three channels together differ by less than this.
 constexpr int kNoticeable = 60;
 
 int Difference(const QColor& a, const QColor& b) {
     return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
 }
 
-/// As much of the hue as `share` allows and the text stays readable on.
+/// Mixes in up to `share` of the hue, but only so much that the text stays readable.
 QColor ReadableMark(const CellColours& colours, const QColor& hue, double share) {
     const double wanted = std::min(Contrast(colours.text, colours.back), kMarkContrast);
     QColor mark = Blend(colours.back, hue, share);

@@ -14,21 +14,21 @@ struct CellColours {
     QColor text;
 };
 
-/// How a cell is coloured: by its own colours, else the table's, else the palette's. Where only one of the
-/// two comes from the data, the other is chosen so that the text can be read.
+/// The colours of a cell: its own, otherwise the table's, otherwise the palette's. Where the data sets only
+/// the text or only the background, the other one is chosen so that the text can be read.
 CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette);
 
 /// The background of the table.
 QColor TableBack(const Grid& store, const QPalette& palette);
 
-/// The lines between cells, to be seen on any background without standing out.
+/// The colour of the lines between cells. It can be seen on any background but doesn't distract.
 QColor GridLine(const QColor& back);
 
 /// How much a marked place stands out.
 enum class Mark : std::uint8_t { Soft, Strong };
 
-/// The background of a marked place in a cell of these colours: to be told from the cell's own, with the text
-/// as readable as it takes.
+/// The background of a marked place in a cell with these colours. It differs from the cell's own background,
+/// and the text on it stays readable.
 QColor MarkBack(const CellColours& colours, Mark mark);
 
 } // namespace korvane

@@ -14,7 +14,7 @@ namespace {
 
 constexpr char16_t kEllipsis = u'…';
 
-/// The text up to its first line end, and the rest behind it.
+/// The text before its first line end, and the text after it.
 struct Split {
     TextView line;
     TextView rest;
@@ -28,7 +28,8 @@ Split SplitLine(TextView text) {
     return {text.substr(0, end), text.substr(end + length), true};
 }
 
-/// How far behind what is shown a marked place is looked for: a text of any length is painted in no time.
+/// How far after the shown text a marked place is searched for. It is limited so that painting a cell never
+/// takes long.
 constexpr std::size_t kLookAhead = 1u << 16;
 
 /// Draws lines from the top down until the area is full.
@@ -46,7 +47,7 @@ public:
 
     bool Full() const { return room_ <= 0; }
 
-    /// `more` says that further paragraphs follow.
+    /// `more` says that other paragraphs follow.
     void Draw(TextView paragraph, bool more) {
         const TextView visible = Left(paragraph, MostUnits());
         const bool cut = visible.size() < paragraph.size();
@@ -76,7 +77,7 @@ public:
 private:
     int Top() const { return drawn_ * metrics_.lineSpacing(); }
 
-    /// No more units than this can be seen in the lines that are left, however narrow they are.
+    /// The most code units that can be seen in the remaining lines, even if all letters are narrow.
     std::size_t MostUnits() const {
         constexpr int kNarrowest = 2;
         return static_cast<std::size_t>(std::max(0, area_.width()) / kNarrowest + 16) *
@@ -106,7 +107,7 @@ private:
         painter_.fillRect(mark.translated(shift), marks_.back);
     }
 
-    /// The last line that there is room for, with more text behind it.
+    /// Draws the last line that fits, with an ellipsis if more text follows.
     void DrawElided(TextView text, bool more) {
         const QString whole = more ? ToQString(text) + QChar(kEllipsis) : ToQString(text);
         const QString shown = metrics_.elidedText(whole, Qt::ElideRight, area_.width());
@@ -125,7 +126,7 @@ private:
         DrawLine(line, Left(text, kept));
     }
 
-    /// Whether a marked place isn't seen where only `kept` units of `text` are.
+    /// Whether a marked place isn't completely visible when only `kept` code units of `text` are shown.
     bool HoldsPart(TextView text, std::size_t kept) const {
         if (marks_.part.empty()) return false;
         const auto at = static_cast<std::size_t>(text.data() - text_.data()) + kept;

@@ -10,15 +10,15 @@ class QPainter;
 
 namespace korvane {
 
-/// What in a text stands out: every place that holds `part`, on this background; none for an empty part.
+/// The marks in a text: every place that contains `part` gets this background. An empty part marks nothing.
 struct TextMarks {
     TextView part{};
     QColor back{};
 };
 
-/// Draws a cell's text from the top left corner of `area` on: its own lines, wrapped where there is room for
-/// more than one, and cut with an ellipsis where there is more than fits. A cell of any length takes no more
-/// time than what is seen of it. Where a marked place is cut off, the ellipsis is marked for it.
+/// Draws a cell's text from the top left corner of `area`. The text is wrapped if there is room for several
+/// lines, and is cut with an ellipsis if it doesn't fit. The time needed depends on what can be seen and not
+/// on the length of the text. Where a marked place is cut off, the ellipsis is marked.
 void DrawCellText(QPainter& painter, const QRect& area, const QFont& font, TextView text,
                   const TextMarks& marks = {});
 

@@ -8,7 +8,7 @@ namespace korvane {
 
 namespace {
 
-/// The rows that aren't hidden; empty also when none is.
+/// The rows that aren't hidden. Empty also when no row is hidden, because then no list is needed.
 std::vector<Row> ShownRows(const Grid& store) {
     std::vector<Row> shown;
     const Row last = store.RowCount();
@@ -110,7 +110,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
 }
 
 bool GridModel::Commit(Row row, Col col, const QString& lines) {
-    // Line ends that the table has in other forms than CR LF stay as they are when nothing was typed.
+    // If nothing was typed the cell isn't written, so that line ends other than CR LF stay as they are.
     if (ToLines(Store().CellText(row, col)) != lines) box_.CommitEdit(row, col, FromLines(lines));
     return true;
 }

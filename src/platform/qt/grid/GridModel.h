@@ -7,25 +7,25 @@
 
 namespace korvane {
 
-/// The rows and columns of a grid's store as the toolkit counts them: from 0, hidden rows left out. It reads
-/// the store and holds nothing of the table.
+/// The rows and columns of a grid's store as Qt counts them: from 0 and without the hidden rows. The model
+/// reads the store and keeps no copy of the table.
 class GridModel : public QAbstractTableModel {
 public:
-    /// The grid outlives the model.
+    /// `box` must outlive the model.
     explicit GridModel(GridBox& box);
 
-    /// Reads anew which rows and columns there are.
+    /// Reads again which rows and columns there are.
     void ReadShape();
-    /// The store's rows from `first` to `last` look different.
+    /// Tells the view that the store's rows from `first` to `last` look different now.
     void TellChanged(Row first, Row last);
     void TellHeader(Col col);
 
     Row RowOf(int modelRow) const;
     static Col ColOf(int modelColumn) { return Col{modelColumn + 1}; }
     static int ColumnOf(Col col) { return col.Number() - 1; }
-    /// -1 for a row that is hidden or doesn't exist.
+    /// The row's number in the model, or -1 if the row is hidden or doesn't exist.
     int ModelRowOf(Row row) const;
-    /// Invalid where no such cell is shown.
+    /// The cell's index, which is invalid if the cell isn't shown.
     QModelIndex IndexOf(Row row, Col col) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -33,7 +33,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// Takes what the user typed (lines) or ticked.
+    /// Takes the lines that the user typed, or the box that he ticked.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:
@@ -43,7 +43,7 @@ private:
     GridBox& box_;
     int rows_ = 0;
     int columns_ = 0;
-    /// The shown rows in order; empty while none is hidden.
+    /// The numbers of the shown rows in order. Empty while no row is hidden.
     std::vector<Row> shown_;
 };
 

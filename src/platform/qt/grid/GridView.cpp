@@ -27,7 +27,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
     setTabKeyNavigation(true);
     setWordWrap(false);
     setCornerButtonEnabled(false);
-    // The cells draw their lines themselves, in a colour that goes with the table's.
+    // The delegate draws the lines between cells in a colour that fits the table's.
     setShowGrid(false);
     SetUpHeaders();
 }
@@ -89,7 +89,7 @@ void GridView::Forget() {
 }
 
 void GridView::setModel(QAbstractItemModel* model) {
-    // The only model is the one of the attached grid.
+    // The view accepts only the model of the attached grid.
     if (model == model_.get()) QTableView::setModel(model);
 }
 
@@ -101,7 +101,7 @@ void GridView::RowsChanged(Row first, Row last) {
 }
 
 void GridView::TableChanged() {
-    // Held back news of the look arrive as this, too.
+    // Notices that the store held back, those about the look too, arrive as this one.
     ReadLook();
     ReadTable();
 }
@@ -145,7 +145,7 @@ void GridView::ReadTable() {
     executeDelayedItemsLayout();
     updateGeometries();
     ShowCurrent();
-    // The current cell may stand outside what the user looks at.
+    // Showing the current cell may have scrolled away from what the user looks at.
     horizontalScrollBar()->setValue(scrolled.x());
     verticalScrollBar()->setValue(scrolled.y());
 }
@@ -154,8 +154,8 @@ void GridView::WriteHeights() {
     QHeaderView& header = *verticalHeader();
     const Grid& store = box_->Store();
     const int rows = model_->rowCount();
-    // Most rows are as high as the first: they need no entry of their own. Without painting and signals in
-    // between, a table at the limit takes milliseconds.
+    // Most rows are as high as the first one, so only the others need an entry of their own. With painting
+    // and signals off this takes milliseconds even for the largest table.
     const int common = rows == 0 ? 0 : std::max(0, store.RowHeight(model_->RowOf(0)));
     const QSignalBlocker quiet(header);
     header.setUpdatesEnabled(false);
@@ -180,7 +180,7 @@ void GridView::ReadLook() {
     const FontSpec own{store.GridFontName(), store.GridFontSize(), false};
     setFont(WithSpec(WithSpec(QApplication::font(), box_->Font), own));
 
-    // That of the view: what surrounds it may have given it colours.
+    // The view's own palette is the base, because a window around it may have changed its colours.
     QPalette palette = this->palette();
     palette.setColor(QPalette::Base, TableBack(store, palette));
     viewport()->setPalette(palette);

@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// The grid on the screen: shows a store, follows it, and tells its `GridBox` what the user does.
+/// The grid on the screen. It shows a store, follows its changes, and tells its `GridBox` what the user does.
 class GridView : public QTableView, private GridListener {
     Q_OBJECT
 
@@ -17,12 +17,12 @@ public:
     explicit GridView(QWidget* parent = nullptr);
     ~GridView() override;
 
-    /// Shows the grid, which outlives the view or is let go of first.
+    /// Shows the grid. `box` must outlive the view, or `Detach` must be called before.
     void Attach(GridBox& box);
     void Detach();
-    /// Lets go of a grid that has gone already.
+    /// Drops a grid that is destroyed already.
     void Forget();
-    /// Takes the table's colours and font and the pointer anew.
+    /// Reads the table's colours, its font and the mouse pointer again.
     void ReadLook();
     const GridModel* Model() const { return model_.get(); }
 
@@ -47,7 +47,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    // What the store tells.
+    // The store calls these when it changes.
     void RowsChanged(Row first, Row last) override;
     void TableChanged() override;
     void ColumnChanged(Col col) override;
@@ -76,9 +76,10 @@ private:
     std::unique_ptr<CellDelegate> delegate_;
     QPersistentModelIndex pressed_;
     bool pressedCheck_ = false;
-    /// The view follows the store: what it hears of itself isn't the user.
+    /// Whether the view is changing itself to follow the store. What it hears of itself then doesn't come
+    /// from the user.
     bool following_ = false;
-    /// Changes came while the grid was hidden.
+    /// Whether the store changed while the grid was hidden.
     bool stale_ = false;
 };
 

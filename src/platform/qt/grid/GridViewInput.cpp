@@ -1,4 +1,4 @@
-// What the user does with the keyboard and the mouse.
+// This file handles what the user does with the keyboard and the mouse.
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/grid/CellEditor.h"
@@ -34,14 +34,15 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 }
 
 void GridView::ColumnResized(int column, int width) {
-    // A column that follows the width of the view keeps the width that was set.
+    // A column that is stretched to the width of the view keeps the width that was set for it.
     if (following_ || box_ == nullptr || horizontalHeader()->stretchLastSection()) return;
     const QScopedValueRollback guard(following_, true);
     box_->DragColumn(GridModel::ColOf(column), width);
 }
 
 bool GridView::eventFilter(QObject* watched, QEvent* event) {
-    // A header says of each pixel that an edge was dragged, but not when it was let go of.
+    // While a column's edge is dragged the header reports each pixel, but it doesn't report the end of the
+    // drag.
     const bool released = event->type() == QEvent::MouseButtonRelease;
     const bool handled = QTableView::eventFilter(watched, event);
     if (released && watched == horizontalHeader()->viewport() && box_ != nullptr) box_->ReleaseColumn();
@@ -110,7 +111,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
-    // Two quick clicks on a check box are two clicks, not the wish to edit.
+    // Two quick clicks on a check box count as two clicks and don't start the editor.
     if (CheckAt(event->position().toPoint()).isValid()) {
         mousePressEvent(event);
     } else {
@@ -137,12 +138,12 @@ void GridView::TellMouseUp(const QMouseEvent& event) {
         }
     }
     pressedCheck_ = false;
-    // A handler may have closed the tab.
+    // The handler of the click may have closed the tab.
     if (box_ != nullptr && box_->MouseUp) box_->MouseUp(ToMouseButton(event.button()));
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    // The mouse has told of its button already; this is the menu key.
+    // A right click was reported when the button was released. Only the menu key is handled here.
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     if (byKey && box_ != nullptr && box_->MouseUp) box_->MouseUp(MouseButton::Right);
     event->accept();

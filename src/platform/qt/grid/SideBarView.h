@@ -6,10 +6,10 @@
 
 namespace korvane {
 
-/// A grid of one column that serves as a bar of large buttons: an icon above each row's text.
+/// A grid of one column that looks like a bar of large buttons, with an icon above the text of each row.
 class SideBarView : public GridView {
     Q_OBJECT
-    /// Names of icons, one for each row.
+    /// The names of the icons, one for each row.
     Q_PROPERTY(QStringList rowIcons READ RowIcons WRITE SetRowIcons)
 
 public:

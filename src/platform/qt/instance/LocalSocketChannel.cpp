@@ -12,7 +12,7 @@ namespace korvane {
 namespace {
 
 constexpr int kNoTimeOut = -1;
-/// More than the longest answer.
+/// This is larger than the longest answer.
 constexpr qint64 kAnswerBuffer = 64;
 
 QString SocketName(const InstancePlace& place) {
@@ -29,7 +29,8 @@ LocalSocketChannel::LocalSocketChannel(std::optional<InstancePlace> place, const
 
 LocalSocketChannel::~LocalSocketChannel() {
     if (!server_) return;
-    // Closing removes the socket's file, which must not be that of a start that takes the place just now.
+    // Closing removes the socket's file. The lock makes sure that it isn't the file of a program that is
+    // starting now.
     const StartLock lock(place_->lock);
     server_.reset();
 }
@@ -77,7 +78,7 @@ void LocalSocketChannel::ActivateRunning() {
     Ask(hand_over::kActivateRequest, hand_over::kActivated);
 }
 
-/// Waits for as long as the other side lives.
+/// Sends a request and waits for the answer. There is no time limit while the other program lives.
 bool LocalSocketChannel::Ask(std::string_view request, std::string_view expectedAnswer) {
     if (!FindReceiver()) return false;
     running_->write(request.data(), static_cast<qint64>(request.size()));

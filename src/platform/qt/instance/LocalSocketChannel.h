@@ -12,32 +12,33 @@ class QLocalSocket;
 
 namespace korvane {
 
-/// The way from a second start to the running copy, through a local socket that no other user reaches.
+/// Connects a second start of the program with the running copy, through a local socket that no other user
+/// can reach.
 class LocalSocketChannel final : public InstanceChannel {
 public:
     struct Limits {
-        /// How many connections are listened to at a time; others wait for their turn.
+        /// How many connections are served at a time. The others wait.
         int conversations = 16;
-        /// How long a connection may keep silent while it is its turn to speak.
+        /// How long a connection may send nothing when it is expected to.
         std::chrono::milliseconds silence{10'000};
     };
 
-    /// Without a place every start is a first one.
+    /// Without a place no other copy is ever found.
     explicit LocalSocketChannel(std::optional<InstancePlace> place);
     LocalSocketChannel(std::optional<InstancePlace> place, const Limits& limits);
     LocalSocketChannel(const LocalSocketChannel&) = delete;
     LocalSocketChannel& operator=(const LocalSocketChannel&) = delete;
     ~LocalSocketChannel() override;
 
-    /// When none does, this copy takes the place in the same step; later starts wait until it listens. A
-    /// socket that a crash left behind doesn't count.
+    /// If no other copy runs, this call also makes this copy the running one. Later starts wait until it
+    /// listens. A socket that is left from a crash is ignored.
     bool PreviousInstanceRuns() override;
     bool FindReceiver() override;
     bool WaitUntilSlotEmpty() override;
     bool Deliver(TextView path) override;
     void ActivateRunning() override;
 
-    /// Has an effect in a first start only. The callbacks come from the event loop.
+    /// Does nothing unless this is the running copy. The callbacks are called from the event loop.
     void Listen(Reception reception) override;
 
 private:

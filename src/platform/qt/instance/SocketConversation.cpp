@@ -33,8 +33,8 @@ SocketConversation::SocketConversation(QObject& parent, QLocalSocket& socket,
 void SocketConversation::Start() {
     if (!IsOwnPeer(static_cast<int>(socket_.socketDescriptor()))) return End();
     connect(&socket_, &QLocalSocket::disconnected, this, [this] { End(); });
-    // Not from within the signal, which stays away until its handlers return: what is called may wait, in an
-    // event loop of its own, for what this connection says next.
+    // The slot is queued because Qt doesn't emit this signal again before its handlers return. `Proceed` may
+    // run an event loop that waits for the next bytes of this very connection.
     connect(
         &socket_, &QLocalSocket::readyRead, this, [this] { Proceed(); }, Qt::QueuedConnection);
     connect(&slotTimer_, &QTimer::timeout, this, [this] { Proceed(); });
@@ -51,12 +51,12 @@ void SocketConversation::Proceed() {
         if (step && !Perform(*step)) return;
         more = more || step;
     }
-    // Who waits for this copy may keep silent.
+    // A program that waits for this copy may keep silent.
     Run(slotTimer_, conversation_.WaitsForSlot());
     Run(silenceTimer_, !conversation_.WaitsForSlot());
 }
 
-/// Reads as much as the conversation has room for; whether anything came.
+/// Reads as much as the conversation has room for. Returns whether anything came.
 bool SocketConversation::TakeIn() {
     const QByteArray bytes = socket_.peek(kMostBytes);
     const std::size_t taken = conversation_.Receive({bytes.data(), static_cast<std::size_t>(bytes.size())});
@@ -65,7 +65,7 @@ bool SocketConversation::TakeIn() {
     return taken > 0;
 }
 
-/// False when the conversation is over, and perhaps gone.
+/// Returns false when the conversation is over. It may even be deleted then.
 bool SocketConversation::Perform(const hand_over::Step& step) {
     using Kind = hand_over::Step::Kind;
     if (step.kind == Kind::Drop) {
@@ -74,7 +74,7 @@ bool SocketConversation::Perform(const hand_over::Step& step) {
     }
     socket_.write(step.answer.data(), static_cast<qint64>(step.answer.size()));
     socket_.flush();
-    // What is called may run an event loop of its own, in which this conversation ends.
+    // The callbacks may run an event loop in which this conversation is deleted.
     const QPointer<SocketConversation> self(this);
     const auto reception = reception_;
     if (step.kind == Kind::TakePath) reception->received(step.path);
@@ -84,7 +84,8 @@ bool SocketConversation::Perform(const hand_over::Step& step) {
 }
 
 void SocketConversation::EndSilence() {
-    // After a long piece of work without an event loop the other side may have spoken long ago.
+    // If this program was busy without an event loop, the other side may have sent something that wasn't read
+    // yet.
     if (!socket_.waitForReadyRead(0)) End();
 }
 

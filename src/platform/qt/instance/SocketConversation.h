@@ -12,14 +12,14 @@ class QLocalSocket;
 
 namespace korvane {
 
-/// One connection of a second start to this copy. Deletes itself, and the socket, when it is over.
+/// One connection from a second start to this copy. It deletes itself and its socket when it is over.
 class SocketConversation final : public QObject {
 public:
     SocketConversation(QObject& parent, QLocalSocket& socket,
                        std::shared_ptr<const InstanceChannel::Reception> reception,
                        std::chrono::milliseconds silence);
 
-    /// Listens to what has come and to what will come.
+    /// Handles what has arrived already and what will arrive.
     void Start();
 
 private:
@@ -32,7 +32,7 @@ private:
     QLocalSocket& socket_;
     std::shared_ptr<const InstanceChannel::Reception> reception_;
     hand_over::Conversation conversation_;
-    /// Looks again whether the slot is empty.
+    /// Checks at intervals whether the slot is empty.
     QTimer slotTimer_;
     QTimer silenceTimer_;
     bool ended_ = false;

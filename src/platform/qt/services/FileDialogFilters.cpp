@@ -6,7 +6,7 @@ namespace korvane {
 
 namespace {
 
-/// "Programs" of "Programs (*.exe)": the dialogs put the patterns they are given behind it.
+/// Makes "Programs" of "Programs (*.exe)". The dialog adds the patterns in brackets by itself.
 QString WithoutPatterns(const QString& name) {
     return name.left(name.indexOf(QLatin1Char('('))).trimmed();
 }
@@ -15,7 +15,7 @@ QString WithoutPatterns(const QString& name) {
 
 QString FilePatterns(TextView patterns) {
     QStringList list = ToQString(patterns).split(QLatin1Char(';'), Qt::SkipEmptyParts);
-    // What reads like a name has slipped in behind a wrong separator and matches no file.
+    // With a wrong separator a name gets among the patterns. It would match no file.
     list.removeIf([](const QString& pattern) { return pattern.contains(QLatin1Char('(')); });
     list.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
     return list.isEmpty() ? QStringLiteral("*") : list.join(QLatin1Char(' '));

@@ -7,12 +7,12 @@
 
 namespace korvane {
 
-/// Patterns separated by semicolons ("*.tbx;*.txt") as the dialogs of the toolkit want them. "*.*" means all
-/// files, also those without a point in their name, and so does no pattern at all.
+/// Turns patterns separated by semicolons ("*.tbx;*.txt") into the form that Qt's dialogs expect. "*.*" means
+/// all files, even those without a dot in their names, and so does an empty list.
 QString FilePatterns(TextView patterns);
 
-/// Pairs of a name and its patterns, all separated by bars ("Programs (*.exe)|*.exe"), as the dialogs want
-/// them. A name without patterns behind the last pair is left out.
+/// Turns pairs of a name and its patterns, all separated by bars ("Programs (*.exe)|*.exe"), into the form
+/// that Qt's dialogs expect. A last name without patterns is left out.
 QStringList FileNameFilters(TextView pairs);
 
 } // namespace korvane

@@ -8,7 +8,7 @@
 namespace korvane {
 
 void CloseAtLogOut(Form& main, QObject& context) {
-    // At once: the session waits for the answer within the signal.
+    // The connection is direct, because the session expects the answer before the signal's handler returns.
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, &context,
         [&main](QSessionManager& session) {

@@ -6,8 +6,8 @@ class QObject;
 
 namespace korvane {
 
-/// Answers the end of the user's session as the closing of the main window: it asks the same questions, and
-/// where the window stays, the session does. A session that lets nobody be asked leaves the window as it is.
+/// Closes the main window when the user logs out. It asks the same questions as always, and if the window
+/// stays open, logging out is cancelled. If the session doesn't allow questions, the window stays as it is.
 template <class Session>
 void AnswerLogOut(Session& session, Form& main) {
     if (!session.allowsInteraction()) return;
@@ -16,7 +16,7 @@ void AnswerLogOut(Session& session, Form& main) {
     if (!closed) session.cancel();
 }
 
-/// Answers so as long as `context` lives; `main` outlives it.
+/// Calls `AnswerLogOut` at each log-out while `context` lives. `main` must outlive it.
 void CloseAtLogOut(Form& main, QObject& context);
 
 } // namespace korvane

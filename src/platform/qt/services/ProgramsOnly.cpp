@@ -31,7 +31,7 @@ protected:
 
 void OfferProgramsFor(TextView patterns, QFileDialog& dialog) {
     if (kNamesTellPrograms || patterns != u"*.exe") return;
-    // The desktop's own dialog would not look at the right to run.
+    // The desktop's own dialog can't filter by the permission to execute.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setProxyModel(new ProgramsOnly(&dialog));
     dialog.setNameFilter(QStringLiteral("*"));

@@ -6,8 +6,8 @@ class QFileDialog;
 
 namespace korvane {
 
-/// Where a program is told by its right to run and not by its name, makes a dialog that is to offer "*.exe"
-/// offer the files with that right. Any other patterns leave it as it is.
+/// Makes a dialog for "*.exe" offer the files with the permission to execute, on systems where this
+/// permission and not the name makes a program. A dialog with other patterns isn't changed.
 void OfferProgramsFor(TextView patterns, QFileDialog& dialog);
 
 } // namespace korvane

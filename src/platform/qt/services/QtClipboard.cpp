@@ -11,8 +11,8 @@ namespace korvane {
 
 namespace {
 
-/// On Windows the toolkit takes the CR out of line ends, which all programs there put in; elsewhere it hands
-/// out a text as it is.
+/// On Windows Qt removes the CR of each line end, and all programs there put CR LF in. On other systems it
+/// returns the text unchanged.
 Text AsPutIn(const QString& text) {
 #ifdef Q_OS_WIN
     return WithCrLf(ToText(text));

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The desktop's clipboard. Texts come out with the line ends with which they were put in.
+/// The desktop's clipboard. A text comes out with the same line ends with which it was put in.
 class QtClipboard final : public Clipboard {
 public:
     bool HasText() const override;

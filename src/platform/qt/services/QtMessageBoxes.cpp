@@ -46,7 +46,7 @@ Answer QtMessageBoxes::Show(const Message& message) {
         box.addButton(button.button);
     const auto preset = static_cast<std::size_t>(message.defaultButton - 1);
     if (preset < buttons.size()) box.setDefaultButton(buttons[preset].button);
-    // The last button is the one that harms least: Esc and the close box stand for it.
+    // Esc and the close box mean the last button, which does the least harm.
     box.setEscapeButton(buttons.back().button);
 
     const int pressed = box.exec();

@@ -5,13 +5,13 @@
 
 namespace korvane {
 
-/// The font dialog of the toolkit.
+/// Qt's font dialog.
 class QtFontPicker final : public FontPicker {
 public:
     std::optional<FontSpec> Choose(const FontSpec& present) override;
 };
 
-/// The colour dialog of the desktop, which mixes colours whatever is asked for.
+/// The desktop's colour dialog. It always lets the user mix colours, whatever the extent that is asked for.
 class QtColourPicker final : public ColourPicker {
 public:
     std::optional<Colour> Choose(Colour start, Extent extent) override;

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The toolkit's dialog for one file. A save asks before it takes the name of a file that is there.
+/// Qt's dialog for one file. For a save it asks before an existing file is chosen.
 class QtSystemFileDialog final : public SystemFileDialog {
 public:
     std::optional<Text> Choose(const Request& request) override;

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The folders of a desktop that isn't Windows: what only that has is empty.
+/// The folders of a desktop other than Windows. A folder that only Windows has is empty.
 class QtSystemFolders final : public SystemFolders {
 public:
     Text ProgramFiles() const override;

@@ -19,7 +19,7 @@ DateNames NamesOf(const QLocale& locale) {
     }
     for (int day = 0; day < 7; ++day) {
         const auto at = static_cast<std::size_t>(day);
-        // Here the week begins with Sunday, there it ends with it.
+        // The list begins with Sunday, which is Qt's day 7.
         const int weekday = day == 0 ? kSunday : day;
         names.weekdays[at] = ToText(locale.dayName(weekday));
         names.shortWeekdays[at] = ToText(locale.dayName(weekday, QLocale::ShortFormat));

@@ -6,7 +6,7 @@
 
 namespace korvane {
 
-/// Dates as the user's desktop writes them.
+/// Writes dates as the user's desktop does.
 class QtUserLocale final : public UserLocale {
 public:
     explicit QtUserLocale(const QLocale& locale = QLocale::system());

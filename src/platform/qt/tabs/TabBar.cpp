@@ -21,19 +21,20 @@ constexpr int kAboveTabs = 3;
 constexpr int kGapBetween = 2;
 constexpr int kBar = 3;
 constexpr int kOutline = 2;
-/// What stands beside the caption: a margin on each side of it and behind the button, and the gap.
+/// The width that a tab needs beside its caption: a margin on each side of the caption and one after the
+/// button, the button, and the gap.
 constexpr int kBesideCaption = 3 * kPadding + kCloseSize + kGapBetween;
-// Widths in letters: what a tab has at least, where it is cut, and what is left of it in a crowd.
+// Widths of captions in letters: the least that a tab has, the most that is shown, and the least when the
+// tabs are crowded.
 constexpr int kShortest = 6;
 constexpr int kLongest = 26;
 constexpr int kCrowded = 9;
 
-/// What is painted of a tab's place.
+/// The part of a tab's place that is painted.
 QRect ShapeIn(const QRect& tab) {
     return tab.adjusted(0, kAboveTabs, -kGapBetween, 0);
 }
 
-/// Closes its tab.
 class CloseButton : public QAbstractButton {
 public:
     explicit CloseButton(TabBar& bar) : QAbstractButton(&bar), bar_(bar) {
@@ -73,7 +74,7 @@ TabBar::TabBar(QWidget* parent) : QTabBar(parent), style_(&TabStyleOf(0)) {
     setMovable(false);
     setDrawBase(false);
     setUsesScrollButtons(true);
-    // Captions are cut where they are painted: the toolkit would cut those of all tabs at each layout.
+    // Captions are cut when they are painted. Qt would cut the captions of all tabs at each layout.
     setElideMode(Qt::ElideNone);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
@@ -123,8 +124,8 @@ QSize TabBar::minimumTabSizeHint(int index) const {
     return {std::min(whole.width(), crowded), whole.height()};
 }
 
-/// What the toolkit needs to place the buttons, for all tabs at each layout. Its own way also cuts the
-/// captions, which takes most of the time that a tab among many costs.
+/// Fills in only what Qt needs to place the buttons, because Qt calls this for all tabs at each layout. The
+/// base class would also cut the captions, and that takes most of the time when there are many tabs.
 void TabBar::initStyleOption(QStyleOptionTab* option, int index) const {
     option->direction = layoutDirection();
     option->rect = tabRect(index);

@@ -9,17 +9,17 @@ namespace korvane {
 struct TabColours;
 struct TabStyle;
 
-/// A strip of tabs in the look of a style, each with a button that closes it.
+/// A strip of tabs that is drawn in one of the tab styles. Each tab has a button that closes it.
 class TabBar : public QTabBar {
     Q_OBJECT
 
 public:
     explicit TabBar(QWidget* parent = nullptr);
 
-    /// Takes the look of a style number, with or without a line round the strip.
+    /// Sets the tab style by its number, and whether there is a line around the strip.
     void SetLook(int style, bool framed);
     TabColours Colours() const;
-    /// Where the button that closes a tab stands in the tab's place.
+    /// The place of the close button in a tab that covers `tab`.
     static QRect CloseButtonOf(const QRect& tab);
 
 protected:
@@ -33,7 +33,7 @@ protected:
 
 private:
     int CaptionWidth(const QString& caption) const;
-    /// How wide a letter is on average, and how high a line.
+    /// The average width of a letter and the height of a line.
     const QSize& LetterSize() const;
     void ForgetSizes();
     void CloseAt(const QWidget& button);
@@ -45,7 +45,8 @@ private:
 
     const TabStyle* style_;
     bool framed_ = false;
-    // Sizes in the present font. Each new tab makes the toolkit ask for those of all tabs several times.
+    // Sizes in the present font. They are kept because for each new tab Qt asks several times for the sizes
+    // of all tabs.
     mutable QHash<QString, int> captionWidths_;
     mutable QSize letterSize_;
 };

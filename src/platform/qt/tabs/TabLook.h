@@ -7,12 +7,12 @@
 
 namespace korvane {
 
-/// The colours of a tab strip in one style on one palette.
+/// The colours of a tab strip in one style with one palette.
 struct TabColours {
     QColor strip;
-    /// Round the tabs that aren't active.
+    /// The edge of the tabs that aren't active.
     QColor edge;
-    /// Round the strip.
+    /// The line around the strip.
     QColor frame;
     QColor rest;
     QColor restText;

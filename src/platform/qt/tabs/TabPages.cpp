@@ -6,7 +6,7 @@ namespace korvane {
 
 namespace {
 
-/// What a tab shows of a caption: an ampersand is one.
+/// Doubles ampersands, so that the tab shows them and doesn't use them to mark a key.
 QString TabText(const QString& caption) {
     return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
@@ -36,7 +36,7 @@ TabPages::TabPages(QWidget* parent)
 void TabPages::Add(QWidget& page, const QString& caption) {
     pages_.append(&page);
     stack_->addWidget(&page);
-    // With its caption at once: each change of a text lays all tabs out anew.
+    // The tab gets its caption here, because Qt lays out all tabs again after each change of a text.
     tabs_->addTab(TabText(caption));
     SetToolTip(Count() - 1, caption);
 }
@@ -58,8 +58,8 @@ void TabPages::SetToolTip(int index, const QString& caption) {
     tabs_->setTabToolTip(index, Qt::mightBeRichText(caption) ? caption.toHtmlEscaped() : caption);
 }
 
-/// The toolkit holds all painting for the change, and tells so each widget of every page, unless it is held
-/// already.
+/// Qt stops painting while the page changes, and to do so it tells every widget of all pages. It leaves this
+/// out if the attribute is set already.
 void TabPages::BringToFront(QWidget& page) {
     stack_->setAttribute(Qt::WA_UpdatesDisabled, true);
     stack_->setCurrentWidget(&page);
@@ -71,7 +71,7 @@ void TabPages::ShowPage(int index) {
     QWidget& page = *pages_.at(index);
     BringToFront(page);
     tabs_->setCurrentIndex(index);
-    // Also in a window that isn't on the screen yet: its page has the keyboard when it comes up.
+    // This works for a window that isn't on the screen yet too: its page has the keyboard when it is shown.
     QWidget* wanted = page.focusWidget();
     if (wanted == nullptr) wanted = page.nextInFocusChain();
     if (page.isAncestorOf(wanted)) wanted->setFocus(Qt::OtherFocusReason);

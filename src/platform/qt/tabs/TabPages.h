@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// A strip of tabs above the pages that they stand for; without a tab, a hint.
+/// A strip of tabs above their pages. While there is no tab, a hint is shown.
 class TabPages : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString emptyHint READ EmptyHint WRITE SetEmptyHint)
@@ -20,7 +20,7 @@ public:
     int Count() const { return tabs_->count(); }
     QWidget* Page(int index) const { return pages_.at(index); }
     int IndexOf(const QWidget* page) const { return static_cast<int>(pages_.indexOf(page)); }
-    /// The page stays the caller's.
+    /// The caller keeps the page.
     void Add(QWidget& page, const QString& caption);
     void Remove(int index);
     void SetCaption(int index, const QString& caption);

@@ -17,7 +17,7 @@ TabStripAdaptor::TabStripAdaptor(TabStrip& strip, TabPages& widget, PageSource& 
     connect(&tabs, &QTabBar::currentChanged, this, &TabStripAdaptor::TabClicked);
     connect(&tabs, &QTabBar::tabCloseRequested, this, &TabStripAdaptor::CloseClicked);
     connect(&tabs, &QWidget::customContextMenuRequested, this, &TabStripAdaptor::ContextClicked);
-    // The frame's own keys, which no menu binds.
+    // These keys belong to the tab strip and are in no menu.
     const auto* next = new QShortcut(QKeySequence("Ctrl+Tab"), &widget);
     const auto* previous = new QShortcut(QKeySequence("Ctrl+Shift+Tab"), &widget);
     connect(next, &QShortcut::activated, this, [this] { StepBy(1); });
@@ -71,8 +71,8 @@ void TabStripAdaptor::ShowActive() {
     if (active != shown_.end()) widget_.ShowPage(static_cast<int>(active - shown_.begin()));
 }
 
-/// A tab that was activated while there was no widget of it has asked for the keyboard in vain. Keys that
-/// come together with the window are meant for it.
+/// A tab may have been activated before it had a widget, and then it couldn't take the keyboard. The active
+/// tab takes it now, so that it gets keys that are pressed as soon as the window appears.
 void TabStripAdaptor::TakeKeyboard() {
     tied_ = true;
     if (Form* active = control_.ActiveChild()) active->Activate();
@@ -101,7 +101,7 @@ void TabStripAdaptor::ContextClicked(const QPoint& place) {
         if (control_.ContextMenu) control_.ContextMenu();
         return;
     }
-    // The command is about the tab that was clicked, which is the active one then.
+    // The command applies to the clicked tab, so this one becomes the active tab.
     control_.Select(*shown_[static_cast<std::size_t>(index)]);
     if (control_.TabContextClick) control_.TabContextClick();
 }

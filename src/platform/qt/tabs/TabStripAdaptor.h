@@ -11,7 +11,7 @@ namespace korvane {
 
 class TabStripAdaptor : public AdaptorOf<TabStrip, TabPages> {
 public:
-    /// `pages` outlives the adaptor.
+    /// `pages` must outlive the adaptor.
     TabStripAdaptor(TabStrip& strip, TabPages& widget, PageSource& pages);
 
 protected:
