@@ -27,7 +27,7 @@ std::string Escape(std::string_view bytes) {
     return line;
 }
 
-/// The byte that stands behind a "%"; nothing when it isn't written with two digits.
+/// The byte that two digits after a "%" mean, or nothing when there are no two digits.
 std::optional<char> ReadEscape(std::string_view digits) {
     if (digits.size() < 2) return std::nullopt;
     const std::size_t high = kDigits.find(digits[0]);
@@ -59,7 +59,7 @@ std::optional<Text> ReadPath(std::string_view line) {
     const auto bytes = Unescape(line);
     if (!bytes || !IsFullPath(*bytes)) return std::nullopt;
     Text path = FromUtf8(*bytes);
-    // Bytes that aren't UTF-8 wouldn't come back: the path would name another file.
+    // If the path isn't valid UTF-8, it would be changed by the conversion and name another file.
     if (ToUtf8(path) != *bytes) return std::nullopt;
     return path;
 }
@@ -92,7 +92,7 @@ std::optional<Step> Conversation::Next(bool slotEmpty) {
     return Perform(std::move(request), length);
 }
 
-/// The request of a line with its end; the end of the conversation for a line that is none.
+/// The request in a line (given with its line end). Any other line ends the conversation.
 Conversation::Request Conversation::Read(std::string_view line) {
     if (line == kSlotRequest) return {Stage::Slot, {Step::Kind::Answer, kSlotEmpty, {}}};
     if (line == kActivateRequest) return {Stage::Activate, {Step::Kind::Activate, kActivated, {}}};

@@ -8,17 +8,17 @@
 #include <string>
 #include <string_view>
 
-/// What a second start says to the running copy: at most three lines, in this order, each answered by a line.
+/// A second start sends the running copy at most three lines in this order, and each is answered by a line.
 ///
-///     SLOT            answered EMPTY, as soon as the running copy can take a path
-///     PATH <path>     a full path, answered TAKEN, as soon as the running copy can take it
-///     ACTIVATE        answered DONE; the end of the conversation
+///     SLOT            is answered EMPTY as soon as the running copy can take a path.
+///     PATH <path>     hands over a full path, and is answered TAKEN as soon as the running copy can take it.
+///     ACTIVATE        is answered DONE, and ends the conversation.
 ///
-/// The path stands in UTF-8, with "%" and two digits for each control character and for "%" itself, so that
-/// no name breaks a line.
+/// The path is written in UTF-8. Each control character and "%" itself is written as "%" and two digits, so
+/// that a name can't break a line.
 namespace korvane::hand_over {
 
-/// The longest line that is listened to, without its end.
+/// The greatest length of a line without its end. A longer line ends the conversation.
 inline constexpr std::size_t kLongestLine = 16'384;
 
 inline constexpr std::string_view kSlotRequest = "SLOT\n";
@@ -27,34 +27,35 @@ inline constexpr std::string_view kSlotEmpty = "EMPTY\n";
 inline constexpr std::string_view kPathTaken = "TAKEN\n";
 inline constexpr std::string_view kActivated = "DONE\n";
 
-/// The line that hands a path over; nothing when the running copy wouldn't listen to it.
+/// The line that hands a path over, or nothing when the running copy would refuse it.
 std::optional<std::string> PathRequest(TextView path);
 
-/// What the running copy is to do with a connection.
+/// What the running copy does next with a connection.
 struct Step {
     enum class Kind : std::uint8_t { Answer, TakePath, Activate, Drop };
 
     Kind kind;
-    /// To be sent first; empty when the connection is dropped.
+    /// The answer is sent first. It is empty when the connection is dropped.
     std::string_view answer;
-    /// Of `TakePath`.
+    /// The path of `TakePath`.
     Text path;
 };
 
-/// The running copy's side of one connection. Whatever comes, it holds no more than one line of it, and
-/// answers no more than three; what isn't a request, or not the time for one, ends in `Drop`. After that or
-/// `Activate` there are no more steps.
+/// The running copy's side of one connection. Whatever is sent, it keeps at most one line in memory and
+/// answers at most three lines. A line that isn't a request, or that comes in the wrong order, leads to
+/// `Drop`. After `Drop` or `Activate` there are no more steps.
 class Conversation {
 public:
-    /// Takes the next bytes as far as there is room for them; the number taken. Room comes back with `Next`.
+    /// Takes as many of the next bytes as there is room for, and returns their number. `Next` makes room
+    /// again.
     std::size_t Receive(std::string_view bytes);
-    /// The next thing to do; nothing while no request is complete, or while the slot isn't empty for one.
+    /// The next step, or nothing while no request is complete or while a request has to wait for the slot.
     std::optional<Step> Next(bool slotEmpty);
     /// Whether a complete request waits for the slot.
     bool WaitsForSlot() const { return waitsForSlot_; }
 
 private:
-    /// The requests in their order, and what comes behind them.
+    /// The requests in their order, and the state after the last one.
     enum class Stage : std::uint8_t { Slot, Path, Activate, Ended };
     struct Request {
         Stage stage;

@@ -22,17 +22,17 @@ namespace fs = std::filesystem;
 constexpr mode_t kOthersRights = 0077;
 constexpr mode_t kOwnersFile = 0600;
 
-/// The path ends with a null in the socket's address.
+/// In the socket's address the path ends with a null.
 constexpr std::size_t kLongestSocketPath = sizeof(sockaddr_un::sun_path) - 1;
 
-/// Whether it is a folder, not a link to one, and the user's alone.
+/// Whether the path is a folder (and not a link to one) that only this user may enter.
 bool IsPrivateDir(const fs::path& path) {
     struct stat status {};
     return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid() &&
            (status.st_mode & kOthersRights) == 0;
 }
 
-/// The same for the same path in every build of the program (FNV-1a, 64 bits).
+/// Gives the same digits for the same path in every build of the program (FNV-1a, 64 bits).
 std::string Fingerprint(const std::string& bytes) {
     std::uint64_t hash = 0xCBF29CE484222325u;
     for (const char byte : bytes)

@@ -6,16 +6,16 @@
 
 namespace korvane {
 
-/// Where the starts of one executable by one user meet.
+/// The files through which several starts of one executable by one user find each other.
 struct InstancePlace {
     std::filesystem::path socket;
-    /// Whoever looks for the running copy, or becomes it, holds this file meanwhile.
+    /// A program locks this file while it looks for the running copy or becomes it.
     std::filesystem::path lock;
 };
 
-/// What decides about the place.
+/// The facts that decide where the place is.
 struct InstanceSurroundings {
-    std::string runtimeDir; ///< XDG_RUNTIME_DIR; empty when it isn't set
+    std::string runtimeDir; ///< XDG_RUNTIME_DIR, or empty when it isn't set
     std::filesystem::path tempDir;
     std::filesystem::path executable;
 };
@@ -23,11 +23,12 @@ struct InstanceSurroundings {
 /// The surroundings of the running process.
 InstanceSurroundings OwnInstanceSurroundings();
 
-/// A place that no other user reaches: in the user's runtime folder, or in a folder made for it among the
-/// temporary ones. Nothing when neither is the user's alone; then every start is a first one.
+/// A place that no other user can reach: in the user's runtime folder, or in a folder below the temporary
+/// folder that is made for it. The result is nothing when neither folder is private. Then no start finds
+/// another one.
 std::optional<InstancePlace> FindInstancePlace(const InstanceSurroundings& surroundings);
 
-/// Holds a lock file; others that want it wait. The end of the process lets it go in any case.
+/// Locks a file. Other programs that want the lock wait. The system releases it when the process ends.
 class StartLock {
 public:
     explicit StartLock(const std::filesystem::path& path);
@@ -41,7 +42,7 @@ private:
     int file_;
 };
 
-/// Whether the process at the other end of a connected local socket is the same user's.
+/// Whether the process at the other end of a connected local socket belongs to the same user.
 bool IsOwnPeer(int socket);
 
 } // namespace korvane

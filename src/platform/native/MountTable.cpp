@@ -21,7 +21,7 @@ constexpr std::array kKnownTypes{
     KnownType{"tmpfs", DriveType::RamDisk},      KnownType{"ramfs", DriveType::RamDisk},
 };
 
-/// Where desktops mount what is plugged in.
+/// The folders in which desktops mount removable media.
 constexpr std::array<std::string_view, 2> kMediaFolders{"/media/", "/run/media/"};
 
 bool IsMedium(const Mount& mount) {
@@ -29,7 +29,7 @@ bool IsMedium(const Mount& mount) {
                                [&mount](std::string_view folder) { return mount.point.starts_with(folder); });
 }
 
-/// Takes the text up to `end` off the front of `rest`, and the end with it.
+/// Removes the text up to and including `end` from `rest`, and returns it without `end`.
 std::string_view TakeUpTo(char end, std::string_view& rest) {
     const std::size_t length = std::min(rest.find(end), rest.size());
     const std::string_view taken = rest.substr(0, length);
@@ -72,7 +72,7 @@ std::optional<Mount> MountOf(std::string_view mounts, std::string_view path) {
     std::optional<Mount> best;
     while (!mounts.empty()) {
         Mount mount = ReadMount(TakeUpTo('\n', mounts));
-        // Of two in one folder the later one hides the other.
+        // When two file systems are mounted at the same folder, the later one hides the other.
         const bool deeper = !best || mount.point.size() >= best->point.size();
         if (deeper && Holds(mount.point, path)) best = std::move(mount);
     }

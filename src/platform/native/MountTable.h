@@ -10,20 +10,20 @@ namespace korvane {
 
 /// One mounted file system.
 struct Mount {
-    /// The folder that it stands in.
+    /// The folder where it is mounted.
     std::string point;
-    /// The system's word for its kind, such as "ext4".
+    /// The system's name for its kind, such as "ext4".
     std::string type;
 
     bool operator==(const Mount&) const = default;
 };
 
-/// The mount that an absolute path without links is on, by the system's table of mounts: a line each, of
-/// device, folder, kind and more, with blanks in them as "\040".
+/// Finds the mount of an absolute path without links in the system's table of mounts. Each line of the table
+/// has the device, the folder, the kind and more, and a blank in one of them is written as "\040".
 std::optional<Mount> MountOf(std::string_view mounts, std::string_view path);
 
 DriveType TypeOf(const Mount& mount);
-/// A medium is mounted under its own name; any other mount has none.
+/// The name of a removable medium, which is mounted under it. Any other mount has no name.
 std::string NameOf(const Mount& mount);
 
 } // namespace korvane

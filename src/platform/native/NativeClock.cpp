@@ -17,7 +17,7 @@ void NativeClock::Wait(std::chrono::milliseconds time) {
 
 DateTime ToLocalDateTime(std::time_t time) {
     const std::tm local = system_calls::LocalTime(time);
-    // A leap second is counted with the one before it: no minute has a second 60.
+    // A leap second counts as the second before it, because no minute has a second 60.
     const int second = std::min(local.tm_sec, 59);
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, second};
 }

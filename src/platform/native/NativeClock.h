@@ -13,7 +13,7 @@ public:
     void Wait(std::chrono::milliseconds time) override;
 };
 
-/// The local date and time of a moment counted by the system.
+/// The local date and time of a system time.
 DateTime ToLocalDateTime(std::time_t time);
 
 } // namespace korvane

@@ -16,14 +16,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whether a ".." behind the path takes back no more than its last name: behind a link it leads up from where
-/// the link points to.
+/// Whether a ".." after this path removes just its last name. After a link it would lead to the parent of the
+/// link's target.
 bool EndsInOwnName(const fs::path& path) {
     std::error_code error;
     return path.filename() != ".." && !fs::is_symlink(path, error);
 }
 
-/// Drops "." and what ".." takes back.
+/// Removes each "." and each ".." together with the name before it.
 fs::path WithoutDetours(const fs::path& path) {
     fs::path plain;
     for (const fs::path& part : path) {
@@ -172,7 +172,8 @@ bool NativeFileSystem::Remove(TextView path) {
     return true;
 }
 
-/// The system alone would let a file go that can't be written: it asks the folder, not the file.
+/// The system would remove a file that is write-protected, because it checks only the folder. This refuses
+/// to.
 bool NativeFileSystem::CanRemove(const fs::path& path) {
     const bool writable = system_calls::IsWritable(path);
     lastError_ = writable ? std::error_code() : LastSystemError();
@@ -181,7 +182,7 @@ bool NativeFileSystem::CanRemove(const fs::path& path) {
     if (fs::is_directory(status)) {
         lastError_ = std::make_error_code(std::errc::is_a_directory);
     } else if (fs::exists(status) && !fs::is_regular_file(status)) {
-        // A device or a pipe is written to and never taken away.
+        // A device or a pipe can be written to, but it is never removed.
         lastError_ = std::make_error_code(std::errc::operation_not_permitted);
     }
     return !lastError_;

@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// The real disk. The current directory is that of the process.
+/// The real disk. The current directory is the one of the process.
 class NativeFileSystem final : public FileSystem {
 public:
     explicit NativeFileSystem(TextView programDir) : NativeFileSystem(programDir, programDir) {}
@@ -20,12 +20,12 @@ public:
     bool DirExists(TextView path) const override;
     Text CurrentDir() const override;
     bool ChangeDir(TextView path) override;
-    /// Links stay as they are: the path is the one that the user knows.
+    /// Links are not followed, because the user knows the path with the links.
     Text FullPath(TextView path) const override;
     std::optional<SharedBytes> ReadAll(TextView path) override;
-    /// A file that `Remove` has taken away last comes back with the rights that it had.
+    /// Creating the file that `Remove` removed last gives it its permissions again.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
-    /// Of the rights that a file had, its owner's stay.
+    /// A file that exists, or that `Remove` removed last, keeps its owner's permissions and loses all others.
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;

@@ -3,7 +3,7 @@
 namespace korvane {
 
 std::filesystem::path ToNativePath(TextView path) {
-    // The system would take a name only up to the null, and so open another file.
+    // The system would read the name only up to the null, and so open another file.
     if (path.find(u'\0') != TextView::npos) return {};
 #ifdef _WIN32
     return Text(path);

@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// File names are UTF-8 on the disk, where the system doesn't hold them as 16-bit units itself. The empty
-/// path for a text that can be no file's name.
+/// On the disk file names are UTF-8, or 16-bit code units where the system uses these. The path is empty for
+/// a text that can't be a file's name.
 std::filesystem::path ToNativePath(TextView path);
 Text FromNativePath(const std::filesystem::path& path);
 

@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// What the path stands on; nothing when the system doesn't know.
+/// The volume that holds the path, or nothing when the system doesn't know it.
 std::optional<VolumeInfo> VolumeAt(const std::filesystem::path& path);
 
 std::vector<Drive> ListDrives();

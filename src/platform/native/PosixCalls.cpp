@@ -25,7 +25,8 @@ constexpr mode_t kOwnersDir = 0700;
 constexpr uid_t kSameUser = static_cast<uid_t>(-1);
 constexpr gid_t kSameGroup = static_cast<gid_t>(-1);
 
-/// Rights of a group that can't be kept are not handed to the group that the new file has.
+/// Used when the group of the old file can't be kept: the new file's group gets only the permissions that
+/// everybody has.
 mode_t WithoutGroup(mode_t mode) {
     const mode_t everybody = mode & kOthersBits;
     return (mode & ~kGroupBits) | (mode & (everybody << 3));
@@ -37,11 +38,11 @@ bool IsPlainFile(int file) {
 }
 
 void GiveRights(int file, const FileRights& rights) {
-    // The owner first: a change of owner takes rights away.
+    // The owner is set first, because changing the owner removes permissions.
     const bool groupKept =
         fchown(file, rights.user, rights.group) == 0 || fchown(file, kSameUser, rights.group) == 0;
     const mode_t mode = rights.mode & kRightsBits;
-    // When this fails the file stays its owner's alone, and is none the worse written.
+    // If this fails only the owner has access to the file, and its contents are not affected.
     [[maybe_unused]] const int result = fchmod(file, groupKept ? mode : WithoutGroup(mode));
 }
 
@@ -118,7 +119,8 @@ UserFolders OwnUserFolders() {
 
 void PreferLargePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) {
 #ifdef MADV_HUGEPAGE
-    // The rest behind the last whole page isn't worth one: it would hold up to 2 MB that nobody uses.
+    // The rest after the last whole page stays in small pages. A large page would use up to 2 MB too much for
+    // it.
     madvise(block, size - size % kLargePage, MADV_HUGEPAGE);
 #endif
 }

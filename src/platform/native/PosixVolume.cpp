@@ -21,7 +21,7 @@ std::string MountTable() {
 std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     std::error_code error;
     const fs::path plain = fs::weakly_canonical(fs::absolute(path, error), error);
-    // Where the root is a folder of another system, the table doesn't name it.
+    // Under a changed root (chroot) the table may not name the file system of the root.
     const Mount mount = MountOf(MountTable(), plain.native()).value_or(Mount{"/", ""});
     VolumeInfo info{
         .type = TypeOf(mount), .name = FromNativePath(NameOf(mount)), .root = FromNativePath(mount.point)};

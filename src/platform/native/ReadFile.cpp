@@ -21,7 +21,8 @@ struct FreeBuffer {
 };
 using Buffer = std::unique_ptr<char[], FreeBuffer>;
 
-/// A buffer with nothing in it, or none: filling it with zeros first would cost as much as the reading.
+/// An uninitialised buffer, or null when there is no memory. Filling it with zeros would take as long as the
+/// reading.
 Buffer FreshBuffer(std::size_t size) {
     const bool large = size >= system_calls::kLargePage;
     const std::align_val_t alignment{large ? system_calls::kLargePage : alignof(std::max_align_t)};
@@ -48,7 +49,7 @@ bool Grow(Reading& reading) {
     return true;
 }
 
-/// Reads to the end, which is known only by a read that brings less than there is room for.
+/// Reads to the end of the file. The end is reached when a read returns fewer bytes than there is room for.
 std::error_code ReadToEnd(SystemFile& file, Reading& reading) {
     std::error_code error;
     for (;;) {
@@ -66,7 +67,8 @@ std::optional<SharedBytes> ReadFile(const std::filesystem::path& path, std::erro
     SystemFile file = SystemFile::OpenToRead(path, error);
     if (error) return std::nullopt;
     const std::size_t size = file.Size();
-    // One byte more than the file has, so that the end shows without a second round.
+    // There is room for one byte more than the file has, so that the first read shows that the end is
+    // reached.
     const std::size_t room = size == 0 ? kFirstGuess : std::min(size, kMostBytes) + 1;
     Reading reading{FreshBuffer(room), room};
     error = reading.buffer ? ReadToEnd(file, reading) : std::make_error_code(std::errc::not_enough_memory);

@@ -8,8 +8,8 @@
 
 namespace korvane {
 
-/// All bytes of a file, a pipe, or whatever else can be read to an end, in as few steps and copies as there
-/// can be. Gives up on what has more than 2 GB, so that an endless device doesn't take all memory.
+/// Reads all bytes of a file, a pipe, or anything else that can be read to an end, with few system calls and
+/// copies. More than 2 GB is an error, so that an endless device doesn't use up the memory.
 std::optional<SharedBytes> ReadFile(const std::filesystem::path& path, std::error_code& error);
 
 } // namespace korvane

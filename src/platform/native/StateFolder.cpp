@@ -16,7 +16,8 @@ bool KeepsState(const fs::path& folder) {
     return fs::exists(folder / kSettingsName, error) || system_calls::IsWritable(folder);
 }
 
-/// Empty when the user has no such folder. A relative path in the environment counts as none.
+/// The user's folder for settings, or an empty path when there is none. A relative path in the environment is
+/// ignored.
 fs::path ConfigHome(const Surroundings& surroundings) {
     if (surroundings.configHome.is_absolute()) return surroundings.configHome;
     return surroundings.home.is_absolute() ? surroundings.home / ".config" : fs::path();

@@ -4,19 +4,20 @@
 
 namespace korvane {
 
-/// What decides where the program keeps its state. A variable that the environment lacks is empty.
+/// The facts that decide where the program keeps its state. A path is empty when its environment variable
+/// isn't set.
 struct Surroundings {
     std::filesystem::path executable;
-    std::filesystem::path configHome; ///< XDG_CONFIG_HOME; on Windows APPDATA
-    std::filesystem::path home;       ///< HOME; on Windows none
+    std::filesystem::path configHome; ///< XDG_CONFIG_HOME, or APPDATA on Windows
+    std::filesystem::path home;       ///< HOME, or empty on Windows
 };
 
 /// The surroundings of the running process.
 Surroundings OwnSurroundings();
 
-/// The folder of the executable if it holds Korvane.ini or can be written, so that a copy carried about keeps
-/// its state beside it. Otherwise the user's configuration folder, which is made for the user alone; the
-/// executable's folder all the same when that can't be.
+/// The folder of the executable if it contains Korvane.ini or can be written, so that a copy on a removable
+/// disk keeps its state beside it. Otherwise the user's configuration folder, which is made if necessary and
+/// is private. If it can't be made, the folder of the executable after all.
 std::filesystem::path FindStateFolder(const Surroundings& surroundings);
 
 } // namespace korvane

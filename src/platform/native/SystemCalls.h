@@ -6,11 +6,12 @@
 #include <filesystem>
 #include <optional>
 
-/// The calls that each system has its own for. One source file for each system defines them; what fails says
-/// so in `errno`.
+/// The calls that are different on each system. There is one source file for each system. A call that fails
+/// sets `errno`.
 namespace korvane::system_calls {
 
-/// Who may do what with a file. A system that knows no owners of files has none.
+/// The owner, the group and the permissions of a file. They are missing on a system whose files have no
+/// owners.
 struct FileRights {
     std::uint32_t mode = 0;
     std::uint32_t user = 0;
@@ -19,48 +20,50 @@ struct FileRights {
 
 inline constexpr int kNoFile = -1;
 
-/// An open file, or `kNoFile`.
+/// Returns an open file or `kNoFile`.
 int OpenToRead(const std::filesystem::path& path);
-/// Empties the file or makes it: with `rights` as far as the system lets it be and never with wider ones,
-/// without them as the system makes new files. What isn't a plain file, a device say, keeps its own.
+/// Creates the file or empties it. With `rights` it gets these as far as the system allows, and never more
+/// than these. Without them a new file gets the system's default. Something that isn't a plain file, such as
+/// a device, keeps its own rights.
 int OpenToWrite(const std::filesystem::path& path, const std::optional<FileRights>& rights);
-/// Both may take fewer bytes than asked for; -1 is a failure.
+/// These two calls may handle fewer bytes than asked for. They return -1 when they fail.
 std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size);
 std::ptrdiff_t WriteSome(int file, const char* bytes, std::size_t size);
 bool Close(int file);
-/// 0 for what has no size, such as a pipe.
+/// The size of a file, or 0 for something without a size, such as a pipe.
 std::size_t SizeOf(int file);
 
-/// Whether the user may write to the file or folder. What nobody may write to isn't writable for the
-/// administrator either, to whom the system would allow it.
+/// Whether the user may write to the file or folder. A file that nobody may write to isn't writable for the
+/// administrator either, although the system would let him.
 bool IsWritable(const std::filesystem::path& path);
 std::optional<FileRights> RightsOf(const std::filesystem::path& path);
-/// What the owner may do of these rights and nobody else; without any, the rights of a new file that only its
-/// owner may read and write.
+/// The given rights without those of the group and of others. Without `rights`, those of a new file that only
+/// its owner may read and write.
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
 std::optional<std::time_t> ModifiedTime(const std::filesystem::path& path);
-/// Makes the last folder of the path, for the user alone.
+/// Makes the last folder of the path. Only the user may enter it.
 bool MakePrivateDir(const std::filesystem::path& path);
 
 inline constexpr std::size_t kLargePage = std::size_t{2} << 20;
-/// Asks for memory in large pages, where the system has them, as far as whole ones fit into the block.
-/// Filling a fresh block then takes half the time, of which the system's care for each page is the larger
-/// part. The block begins at a multiple of `kLargePage`.
+/// Asks the system for large memory pages for all whole large pages of the block. Filling a new block then
+/// takes half the time, because most of that time is spent on setting up small pages. The block must begin at
+/// a multiple of `kLargePage`.
 void PreferLargePages(void* block, std::size_t size);
 
 std::tm LocalTime(std::time_t time);
-/// The number of the code page that the system itself keeps texts in; 0 where it has none.
+/// The number of the code page in which the system itself keeps texts, or 0 when it has none.
 int AnsiCodePage();
-/// Lets the standard streams carry bytes as they are, and a write to a pipe that nobody reads any more fail
-/// instead of ending the program.
+/// Makes the standard streams pass bytes unchanged. Writing to a pipe that nobody reads fails then and
+/// doesn't end the program.
 void PrepareStandardStreams();
-/// Where the user's programs keep their settings, as the environment tells; both empty when it doesn't.
+/// The folders that the environment names: for the settings of the user's programs, and the home folder. A
+/// folder is empty when it isn't named.
 struct UserFolders {
     std::filesystem::path settings;
     std::filesystem::path home;
 };
 UserFolders OwnUserFolders();
-/// The file of the running program; empty when the system doesn't tell.
+/// The path of the running program, or an empty path when the system doesn't tell it.
 std::filesystem::path ExecutablePath();
 
 } // namespace korvane::system_calls

@@ -63,7 +63,7 @@ void SystemFile::Write(std::string_view bytes, std::error_code& error) {
 
 void SystemFile::Close(std::error_code& error) {
     const bool closed = system_calls::Close(std::exchange(file_, system_calls::kNoFile));
-    // Interrupted or not, the file is closed afterwards.
+    // The file is closed even if the call was interrupted.
     if (!closed && errno != EINTR) error = LastSystemError();
 }
 

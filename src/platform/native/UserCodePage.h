@@ -7,12 +7,12 @@
 
 namespace korvane {
 
-/// The code page in which the user's files stand: the system's own where it has one of single bytes,
-/// otherwise that of the user's language.
+/// The code page of the user's files: the system's own if it has one of single bytes, otherwise the usual one
+/// for the user's language.
 CodePage UserCodePage();
 
-/// The locale that rules the user's texts, out of the variables of the environment: the first one set of
-/// LC_ALL, LC_CTYPE and LANG. `value` gives an empty text for one that isn't set.
+/// The locale for the user's texts: the first of the environment variables LC_ALL, LC_CTYPE and LANG that is
+/// set. `value` returns the value of a variable, which is empty when it isn't set.
 std::string TextLocale(const std::function<std::string(const char* name)>& value);
 
 } // namespace korvane

@@ -8,7 +8,8 @@ namespace korvane {
 
 namespace {
 
-/// A character that merely looks alike would name another file. A page that holds everything takes no flag.
+/// Stops Windows from using a similar character instead, because this could name another file. The call fails
+/// with this flag when the code page is UTF-8.
 DWORD WithoutLookalikes() {
     return GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
 }

@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// Bytes of the system's ANSI code page, whichever it is, as windows of other programs take them: "?" for
-/// what has no place in the page.
+/// The text in the system's ANSI code page, which the windows of other programs use. A character that isn't
+/// in the page becomes "?".
 std::string ToAnsi(TextView text);
 Text FromAnsi(std::string_view bytes);
 

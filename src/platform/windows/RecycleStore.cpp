@@ -16,8 +16,8 @@ FILEOP_FLAGS FlagsFor(RecycleTalk talk) {
     return static_cast<FILEOP_FLAGS>(FOF_ALLOWUNDO | quiet);
 }
 
-/// A list of one path, which ends with a second null. In full: what is named from the current directory is
-/// deleted and not stored.
+/// A list of one path, which ends with two nulls. The path is absolute, because Windows deletes a file for
+/// good when its path is relative.
 std::wstring PathList(TextView path) {
     std::error_code error;
     std::wstring list = std::filesystem::absolute(ToWide(path), error).make_preferred().wstring();
@@ -28,7 +28,7 @@ std::wstring PathList(TextView path) {
 } // namespace
 
 bool MoveToRecycleStore(TextView path, RecycleTalk talk) {
-    // What follows a null would be a second path, and a pattern would take other files with it.
+    // The text after a null would be a second path, and a pattern would match other files.
     constexpr TextView kInNoPath(u"\0*?", 3);
     if (path.empty() || path.find_first_of(kInNoPath) != TextView::npos) return false;
     const std::wstring list = PathList(path);

@@ -6,11 +6,11 @@
 
 namespace korvane {
 
-/// Whether the system itself asks before it moves, and shows that it does.
+/// Whether Windows asks the user before it moves something, and shows what it does.
 enum class RecycleTalk : std::uint8_t { Silent, AsksAndShows };
 
-/// Moves a file or a folder to the store from which the user can get it back. False when that failed, or when
-/// the user stopped it.
+/// Moves a file or a folder to the recycle bin, from which the user can get it back. Returns false when this
+/// fails or when the user stops it.
 bool MoveToRecycleStore(TextView path, RecycleTalk talk);
 
 } // namespace korvane

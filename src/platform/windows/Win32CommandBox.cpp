@@ -51,7 +51,7 @@ struct Win32CommandBox::Procedure {
         const LRESULT result = DefWindowProcA(window, message, wParam, lParam);
         auto* box = reinterpret_cast<Win32CommandBox*>(GetWindowLongPtrA(window, GWLP_USERDATA));
         if (box && message == WM_SETTEXT) box->TextArrived();
-        // The picture box goes, and this one with it.
+        // The text box is destroyed together with the picture box.
         if (box && message == WM_NCDESTROY) box->pictureBox_ = box->textBox_ = kNoWindow;
         return result;
     }
@@ -82,7 +82,7 @@ void Win32CommandBox::CloseStandIn() {
     if (window != kNoWindow) DestroyWindow(ToHwnd(window));
 }
 
-/// Emptying the box sends the message once more, with a text that nobody needs to hear of.
+/// Emptying the box sends WM_SETTEXT again. The empty text is ignored.
 void Win32CommandBox::TextArrived() {
     const Text text = OwnText(ToHwnd(textBox_));
     if (text.empty()) return;

@@ -6,9 +6,9 @@
 
 namespace korvane {
 
-/// The text box as a real, invisible window, in a picture box as second starts look for it. Until the main
-/// window is there, it stands in an invisible window of the same title, so that no second start comes in vain
-/// while the first file loads. All calls come from one thread, whose messages bring the texts.
+/// The text box as an invisible window inside a picture box, where a second start looks for it. Until the
+/// main window exists, both are in an invisible window with the same title, so that a second start finds them
+/// while the first file is loading. All calls must come from one thread, and its messages bring the texts.
 class Win32CommandBox final : public CommandBox {
 public:
     Win32CommandBox() = default;
@@ -17,7 +17,7 @@ public:
     ~Win32CommandBox() override;
 
     void Open(std::function<void(TextView text)> changed) override;
-    /// The open box stands in the main window from now on, and goes with it.
+    /// Moves the open box into the main window. It is destroyed with that window.
     void MoveTo(WindowHandle mainWindow);
 
 private:

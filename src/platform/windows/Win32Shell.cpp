@@ -20,8 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The thread's part in the system's objects, while this stands. Where the thread has one already, it is the
-/// same.
+/// Keeps COM initialised for this thread. It does no harm when the thread has initialised COM already.
 class ObjectsInUse {
 public:
     ObjectsInUse() : entered_(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
@@ -43,7 +42,7 @@ struct FreeText {
     void operator()(OLECHAR* text) const { SysFreeString(text); }
 };
 
-/// A new shell object; nullptr when the system has none.
+/// A new shell object, or nullptr when the system has none.
 std::unique_ptr<IShellDispatch4, Release> NewShellObject() {
     void* object = nullptr;
     const HRESULT result =
@@ -52,19 +51,20 @@ std::unique_ptr<IShellDispatch4, Release> NewShellObject() {
                                                                        : nullptr);
 }
 
-/// In full, so that nothing that reads like an address or a registered name is taken for one.
+/// The absolute path. It can't be mistaken for a web address or for the registered name of a program.
 std::wstring FullPath(TextView path) {
     std::error_code error;
     return fs::absolute(ToWide(path), error).wstring();
 }
 
-/// The file manager is the system's own, not a file of that name in the current directory.
+/// The path to open. For the file manager it is the system's own, and not a file with that name in the
+/// current directory.
 std::wstring FileOf(const OpenRequest& request) {
     if (!EqualIgnoringCase(request.file, kFileManager)) return FullPath(request.file);
     return ToWide(Win32SystemFolders().Windows() + u"\\" + request.file);
 }
 
-/// A name that is no folder counts as none.
+/// The folder to start in. A path that isn't a folder is ignored.
 std::wstring FolderToStartIn(TextView directory) {
     std::error_code error;
     const fs::path folder = ToWide(directory);
@@ -103,7 +103,7 @@ void Win32Shell::Open(const OpenRequest& request) {
     const std::wstring directory = FolderToStartIn(request.directory);
     SHELLEXECUTEINFOW execute{};
     execute.cbSize = sizeof execute;
-    // The system's own words about what can't be opened stay away.
+    // Windows shows no message of its own about a file that can't be opened.
     execute.fMask = SEE_MASK_FLAG_NO_UI;
     execute.lpVerb = verb.c_str();
     execute.lpFile = file.c_str();

@@ -39,7 +39,7 @@ Text SpecialFolder(int number) {
     return SHGetPathFromIDListW(owned.get(), buffer.data()) ? FromWide(buffer.data()) : Text();
 }
 
-/// A text of the machine's part of the registry, up to its first null; empty when there is none.
+/// A text from the machine's part of the registry, up to its first null, or an empty text when there is none.
 Text MachineText(const wchar_t* key, const wchar_t* name) {
     const auto read = [&](wchar_t* buffer, DWORD& bytes) {
         return RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, buffer, &bytes) ==

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// The folders of the Windows that the program runs on.
+/// The folders of the Windows system on which the program runs.
 class Win32SystemFolders final : public SystemFolders {
 public:
     Text ProgramFiles() const override;

@@ -27,20 +27,21 @@ BOOL CALLBACK Collect(HWND window, LPARAM list) {
     return TRUE;
 }
 
-/// A name for the executable that can stand in the system's table of names, where "\" is taken.
+/// The executable's path as the name of a system object. Such a name must not contain "\".
 std::wstring ExecutableName() {
     std::wstring path(kLongestPath, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     CharLowerBuffW(path.data(), static_cast<DWORD>(path.size()));
     std::replace(path.begin(), path.end(), L'\\', L'/');
-    // The table's names are shorter than paths can be; what tells two places apart stands at the end.
+    // Names of system objects must be shorter than paths may be. The end is kept, because it differs most
+    // between two folders.
     constexpr std::size_t kMostKept = 200;
     return path.substr(path.size() - std::min(path.size(), kMostKept));
 }
 
 } // namespace
 
-/// A name in the system's table that is there for as long as a copy of the executable runs.
+/// A named system object that exists while a copy of the executable runs.
 class Win32WindowList::InstanceMark {
 public:
     InstanceMark() : mutex_(CreateMutexW(nullptr, FALSE, (L"Local\\Korvane-" + ExecutableName()).c_str())) {

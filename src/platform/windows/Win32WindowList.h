@@ -12,7 +12,7 @@ public:
     Win32WindowList();
     ~Win32WindowList() override;
 
-    /// From the first question on, until its end, this process counts as a copy for those that come later.
+    /// After the first call, programs that start later count this process as a running copy until it ends.
     bool AnotherCopyRuns() override;
     std::vector<WindowHandle> TopLevel() const override;
     bool IsOwn(WindowHandle window) const override;

@@ -15,7 +15,7 @@ constexpr TextView kTitle = u"Korvane";
 
 using TitleTest = bool (*)(TextView title);
 
-/// The first listed window whose title passes, or none.
+/// The first listed window whose title passes the test, or `kNoWindow`.
 WindowHandle FindTitle(const std::vector<ListedWindow>& listed, TitleTest passes) {
     for (const ListedWindow& window : listed) {
         if (passes(window.title)) return window.handle;

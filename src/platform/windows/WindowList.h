@@ -10,13 +10,13 @@
 
 namespace korvane {
 
-/// A window of any program; 0 is none.
+/// A window of any program. The value 0 means none.
 using WindowHandle = std::uintptr_t;
 
 inline constexpr WindowHandle kNoWindow = 0;
 
-/// The windows of the desktop, as the system tells of them. Texts go from program to program in its code
-/// page: what has no place there arrives as "?".
+/// The windows of the desktop as the system reports them. Texts are passed between programs in the system's
+/// code page, and a character that isn't in it arrives as "?".
 class WindowList {
 public:
     virtual ~WindowList() = default;
@@ -24,26 +24,26 @@ public:
     /// Whether another process runs the same executable.
     virtual bool AnotherCopyRuns() = 0;
 
-    /// Top-level windows, in the system's order.
+    /// The top-level windows in the system's order.
     virtual std::vector<WindowHandle> TopLevel() const = 0;
     virtual bool IsOwn(WindowHandle window) const = 0;
-    /// `kNoWindow` when there is none.
+    /// Returns `kNoWindow` when there is no child.
     virtual WindowHandle FirstChild(WindowHandle parent) const = 0;
     virtual WindowHandle NextSibling(WindowHandle window) const = 0;
-    /// At most `room` - 1 bytes of the name, as the system fills a buffer of that size.
+    /// Returns at most `room` - 1 bytes of the name, as if the system filled a buffer of `room` bytes.
     virtual std::string ClassName(WindowHandle window, std::size_t room) const = 0;
-    /// In the same way.
+    /// Returns at most `room` - 1 bytes of the text, in the same way.
     virtual Text WindowText(WindowHandle window, std::size_t room) const = 0;
 
-    // Both wait until the window answers, whatever its program does meanwhile.
+    // The next two calls wait until the window answers, whatever its program is doing.
 
-    /// The number of bytes of the window's text; 0 also when the window is gone.
+    /// The number of bytes of the window's text, or 0 when the window is gone.
     virtual std::size_t TextLength(WindowHandle window) const = 0;
-    /// False when the window doesn't take the text, as none does that is gone.
+    /// Returns false when the window doesn't take the text, for example because it is gone.
     virtual bool SetText(WindowHandle window, TextView text) = 0;
 
     virtual void Activate(WindowHandle window) = 0;
-    /// Leaves the processor to others for a moment.
+    /// Gives other processes a moment to run.
     virtual void Rest() = 0;
 };
 
@@ -53,7 +53,7 @@ struct ListedWindow {
     Text title;
 };
 
-/// The top-level windows of other processes: a window of this one is never the running copy.
+/// The top-level windows of other processes. A window of this process is never the running copy.
 std::vector<ListedWindow> EnumerateWindows(const WindowList& windows);
 
 /// The first direct child whose class name starts with `classPrefix` and ends with `classSuffix`, or
@@ -61,7 +61,7 @@ std::vector<ListedWindow> EnumerateWindows(const WindowList& windows);
 WindowHandle FindChildWindow(const WindowList& windows, WindowHandle parent, std::string_view classPrefix,
                              std::string_view classSuffix);
 
-/// The window's text; empty when there is no window.
+/// The window's text, which is empty when there is no window.
 Text ReadWindowText(const WindowList& windows, WindowHandle window);
 
 } // namespace korvane

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The calls count in 32 bits.
+/// The calls below take a count of 32 bits.
 unsigned AtOnce(std::size_t size) {
     return static_cast<unsigned>(std::min<std::size_t>(size, 1u << 30));
 }
@@ -67,8 +67,8 @@ bool IsWritable(const fs::path& path) {
         errno = EACCES;
         return false;
     }
-    // The attribute tells nothing of folders, nor of what the user may do. Of a folder the same right means
-    // to make files in it.
+    // The read-only attribute says nothing about folders or about the user's permissions. For a folder,
+    // FILE_WRITE_DATA is the permission to create files in it.
     const HANDLE file =
         CreateFileW(path.c_str(), FILE_WRITE_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                     nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -95,7 +95,7 @@ std::optional<std::time_t> ModifiedTime(const fs::path& path) {
 }
 
 bool MakePrivateDir(const fs::path& path) {
-    // A user's folders are their own by inheritance.
+    // On Windows a folder inherits the permissions of the user's folder, so it is private already.
     return _wmkdir(path.c_str()) == 0;
 }
 

@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-// The system's calls take its own kind of 16-bit units, which are the same ones.
+// The system's calls take `wchar_t`, which here is a 16-bit code unit just like `char16_t`.
 
 inline std::wstring ToWide(TextView text) {
     return {text.begin(), text.end()};

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 using Buffer = std::array<wchar_t, MAX_PATH + 1>;
 
-/// Keeps the system from asking the user for a medium.
+/// Stops Windows from asking the user to insert a medium.
 class NoQuestions {
 public:
     NoQuestions() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_); }
