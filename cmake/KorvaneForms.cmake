@@ -1,7 +1,7 @@
 # korvane_forms(<target> FILES...)
 #
-# Compiles the Designer files of all windows into the target and generates the registry that maps a window's
-# name to what makes its look (`KorvaneForms()` of platform/qt/binder/FormEntry.h).
+# Compiles the Designer files of all windows into the target. It also generates the registry that finds the
+# look of a window by the window's name (`KorvaneForms()` of platform/qt/binder/FormEntry.h).
 function(korvane_forms target)
     set(includes "")
     set(entries "")
@@ -45,7 +45,7 @@ std::span<const FormEntry> KorvaneForms() {
 
 } // namespace korvane
 ]] @ONLY)
-    # What uic writes is its own affair.
+    # Code from uic is compiled without warnings.
     set_source_files_properties(${registry} PROPERTIES COMPILE_OPTIONS "-w")
     target_sources(${target} PRIVATE ${registry} ${headers})
     target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR})

@@ -1,7 +1,8 @@
-# korvane_library(<name> SOURCES ... DEPENDS ...): one static library of the core or of what tests share.
+# korvane_library(<name> SOURCES ... DEPENDS ...) adds one static library of the core, or one that tests
+# share.
 #
-# Every target sees all of src/, so that an include reads the same everywhere. Which folder may include which is
-# told by the level table of src/README.md and held by tests/arch.
+# Every target can include from all of src/, so that an include looks the same everywhere. The level table of
+# src/README.md says which folder may include which, and tests/arch checks it.
 function(korvane_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
     set(target korvane_${name})
@@ -17,10 +18,10 @@ function(korvane_library name)
     endif()
 endfunction()
 
-# korvane_folder([NAME name] SOURCES ... FORMS ...): the library of the current folder of src/.
+# korvane_folder([NAME name] SOURCES ... FORMS ...) adds the library of the current folder of src/.
 #
-# It is linked with exactly what the level table names for the folder. The library of `a/b` is called `a_b` unless
-# NAME says otherwise. FORMS are the Designer files of the folder's windows.
+# It is linked with exactly the libraries that the level table names for the folder. The library of `a/b` is
+# called `a_b` unless NAME says otherwise. FORMS are the Designer files of the folder's windows.
 function(korvane_folder)
     cmake_parse_arguments(ARG "" "NAME" "SOURCES;FORMS" ${ARGN})
     file(RELATIVE_PATH folder ${PROJECT_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
@@ -33,7 +34,7 @@ function(korvane_folder)
     set_property(GLOBAL APPEND PROPERTY KORVANE_FORMS ${ARG_FORMS})
 endfunction()
 
-# The libraries that the level table names in the brackets of a folder.
+# Finds the libraries that the level table names in the brackets of a folder.
 function(korvane_folder_depends result folder)
     set(table ${PROJECT_SOURCE_DIR}/src/README.md)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
@@ -44,7 +45,7 @@ function(korvane_folder_depends result folder)
     string(REGEX REPLACE "[ `]" "" depends "${CMAKE_MATCH_1}")
     string(REPLACE "," ";" depends "${depends}")
     list(TRANSFORM depends REPLACE "/" "_")
-    # Some folders are built for one system only.
+    # Some folders are built only for one system.
     set(built "")
     foreach(name IN LISTS depends)
         if(TARGET korvane_${name})
@@ -54,7 +55,7 @@ function(korvane_folder_depends result folder)
     set(${result} ${built} PARENT_SCOPE)
 endfunction()
 
-# The same for a folder of the toolkit's side. QT are the parts of the toolkit that it needs besides widgets.
+# Does the same for a folder that uses Qt. QT are the modules that it needs besides widgets.
 function(korvane_qt_folder)
     cmake_parse_arguments(ARG "" "" "SOURCES;QT" ${ARGN})
     korvane_folder(SOURCES ${ARG_SOURCES})

@@ -1,4 +1,4 @@
-# What every target of the tree is compiled with.
+# All targets are compiled with these options.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -20,7 +20,7 @@ endif()
 add_library(korvane_options INTERFACE)
 target_compile_options(korvane_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion
     $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
-    # GCC 12 takes the standard library's joining of strings for an overlap when it optimises.
+    # When GCC 12 optimises, it wrongly reports an overlap where the standard library joins strings.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(KORVANE_WERROR)
     target_compile_options(korvane_options INTERFACE -Werror)
@@ -29,7 +29,7 @@ endif()
 if(KORVANE_SANITIZE)
     add_compile_options(-fsanitize=${KORVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${KORVANE_SANITIZE})
-    # With the sanitizers' checks in between, GCC loses sight of what the standard library initialises.
+    # With the sanitizers GCC wrongly warns about variables that the standard library does initialise.
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 if(KORVANE_COVERAGE)

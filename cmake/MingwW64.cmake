@@ -1,4 +1,4 @@
-# Builds for 64-bit Windows with Debian's mingw-w64, and runs what comes of it under Wine.
+# Builds for 64-bit Windows with Debian's mingw-w64, and runs the programs under Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -6,11 +6,11 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 
-# A program that needs no library of the compiler's beside it.
+# The programs must not need the compiler's own libraries beside them.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)
 
-# Programs of this machine, headers and libraries of the other.
+# Programs that the build runs come from this machine. Headers and libraries come from the other one.
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

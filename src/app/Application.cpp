@@ -9,7 +9,7 @@ namespace korvane {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("korvane"));
-    // Without a display name, which the toolkit would add to the title of every window.
+    // No display name is set, because Qt would add it to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
     setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
     setStyle(new CalmStyle);
@@ -20,7 +20,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
-        // A step that fails has no effect; the program goes on with the next one.
+        // The command that failed has no effect, and the program goes on.
         qWarning("A handler failed: %s", error.what());
         return false;
     }

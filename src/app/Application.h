@@ -4,7 +4,8 @@
 
 namespace korvane {
 
-/// The process with widgets: its style, icon and names, and the edge at which an exception of a handler ends.
+/// The application with widgets. It sets the style, the icon and the names, and catches the exceptions of
+/// handlers.
 class Application : public QApplication {
 public:
     Application(int& argc, char** argv);

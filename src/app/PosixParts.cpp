@@ -12,7 +12,7 @@ namespace {
 class PosixParts final : public SystemParts {
 public:
     InstanceChannel& Channel() override {
-        // Not before somebody asks: finding the place may leave a folder behind.
+        // The channel is made only when it is needed, because finding its place may create a folder.
         if (!channel_) channel_.emplace(FindInstancePlace(OwnInstanceSurroundings()));
         return *channel_;
     }

@@ -19,16 +19,17 @@ namespace korvane {
 
 class SystemParts;
 
-/// The program put together from its real parts.
+/// The whole program, made of its real parts.
 class Program {
 public:
-    /// All outlive the program.
+    /// All arguments must outlive the program.
     Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages);
 
-    /// Runs until the main window closes, or, in a second start, until its file is handed over. The exit
-    /// status.
+    /// Runs until the main window is closed, or, in a second start, until its file is handed over. Returns
+    /// the exit status.
     int Run(const Text& path);
-    /// Draws the main window with the file into a picture, and ends without a trace. The exit status.
+    /// Draws the main window with the file into a picture and ends without changing anything else. Returns
+    /// the exit status.
     int Render(const Text& path, const QString& picture);
 
 private:

@@ -9,8 +9,8 @@ class InstanceChannel;
 class Shell;
 class SystemFolders;
 
-/// What each system does in a way of its own: how two starts meet, how the desktop is asked to open and to
-/// start things, and where its folders are.
+/// The parts that are different on each system: how two starts find each other, how the desktop opens and
+/// starts things, and where its folders are.
 class SystemParts {
 public:
     virtual ~SystemParts() = default;
@@ -18,7 +18,7 @@ public:
     virtual InstanceChannel& Channel() = 0;
     virtual Shell& Desktop() = 0;
     virtual const SystemFolders& Folders() const = 0;
-    /// Tells the number under which the system knows the main window, which is on the screen now.
+    /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
 };
 

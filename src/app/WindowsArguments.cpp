@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// Here what was typed comes in one piece, with characters that the arguments of main() have lost.
+/// On Windows the command line is one text. The arguments of main() have lost some of its characters.
 QStringList Arguments(int, char**) {
     const Text line = FromWide(GetCommandLineW());
     return {ToQString(WithoutProgramName(line))};
