@@ -29,7 +29,7 @@ Desk::Desk()
                    {"HOME", folder_.Path().string()},
                    {"XDG_RUNTIME_DIR", (folder_ / "run").string()},
                    {"LANG", "C.UTF-8"},
-                   // What libraries of the system leave behind isn't the program's.
+                   // Memory leaks of the system's libraries are ignored.
                    {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" KORVANE_SOURCE_DIR
                                     "/tests/e2e/leaks-of-libraries.txt"},
                    {"QT_QPA_PLATFORM", "xcb"},
@@ -37,7 +37,7 @@ Desk::Desk()
     fs::create_directory(folder_ / "bin");
     fs::create_directory(folder_ / "run");
     fs::permissions(folder_ / "run", fs::perms::owner_all);
-    // The program keeps its state beside itself: each desk has its own.
+    // The program keeps its state in its own folder, so each desk gets its own copy.
     fs::copy_file(KORVANE_PROGRAM, folder_ / "korvane");
     for (const auto* const name : {"Korvane.ini", "Korvane_Help.rtf"})
         fs::copy_file(fs::path(KORVANE_SOURCE_DIR "/packaging") / name, folder_ / name);

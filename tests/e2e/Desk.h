@@ -13,46 +13,47 @@
 
 namespace korvane::e2e {
 
-/// A display of its own with a copy of the program in a folder of its own, and a hand on its keyboard.
+/// A display with a copy of the program in a folder of its own. It can press the keys of the keyboard.
 class Desk {
 public:
     Desk();
 
-    /// False when there is no display.
+    /// Returns false when there is no display.
     bool Stands() const { return display_ && display_->Works(); }
     std::filesystem::path Path(const std::string& name) const { return folder_ / name; }
 
-    /// Waits until `holds` does, looking again whenever something happens on the display or to a file of the
-    /// desk; false when it doesn't in time.
+    /// Waits until `holds` returns true, and asks it again whenever something happens on the display or to a
+    /// file of the desk. Returns false when the time is up.
     bool Until(const std::function<bool()>& holds);
-    /// Waits until the file holds these bytes.
+    /// Waits until the file contains exactly these bytes.
     bool Holds(const std::filesystem::path& file, const std::string& bytes);
 
     /// Starts the copy of the program.
     std::unique_ptr<Process> Start(const std::vector<std::string>& arguments) const;
 
-    /// Puts a program of this name before those of the system; it only notes how it was started.
+    /// Creates a program of this name that is found before the system's own. It only records how it was
+    /// started.
     void Provide(const std::string& program) const;
-    /// The command lines of provided programs so far, one a line, without the folders of the programs.
+    /// The command lines of the provided programs so far, one a line and without the folders of the programs.
     std::string Started() const;
 
-    /// Waits for a window whose title is matched by the expression, other than `except`, and gives it the
-    /// keyboard. Its number; empty when it doesn't come.
+    /// Waits for a window with a title that matches the expression, other than `except`, and gives it the
+    /// keyboard. Returns the window's number, or an empty text when it doesn't appear.
     std::string GoTo(const std::string& title, const std::string& except = "");
-    /// Waits until no such window is seen any more.
+    /// Waits until no such window is visible any more.
     bool Gone(const std::string& title, const std::string& except = "");
     /// The window that has the keyboard.
     std::string Focused() const;
     Display& Screen() { return *display_; }
-    /// Presses keys one after the other: "Down", "F2", "ctrl+s".
+    /// Presses keys one after the other. They are written like "Down", "F2" or "ctrl+s".
     void Press(const std::vector<std::string>& keys) const;
     void Type(const std::string& text) const;
-    /// Presses the context button there, in pixels from the window's corner.
+    /// Clicks with the right button at this place, in pixels from the window's corner.
     void ContextClick(const std::string& window, int x, int y) const;
 
 private:
     void StartDisplay();
-    /// Empty when there is none.
+    /// The number of the window, or an empty text when there is none.
     std::string Find(const std::string& title, const std::string& except) const;
 
     TempDir folder_;

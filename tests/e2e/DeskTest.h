@@ -6,14 +6,14 @@
 
 namespace korvane::e2e {
 
-// The titles of windows, as expressions.
+// These are regular expressions for the titles of windows.
 inline constexpr auto kMain = "^Korvane$";
 inline constexpr auto kFileInfo = "^File information$";
 
-/// A table of two columns and two rows as the program writes it to `path`.
+/// The bytes of a table of two columns and two rows as the program writes it to `path`.
 std::string Table(const std::filesystem::path& path, const std::string& changedCell);
 
-/// A desk with a table on it.
+/// Provides a desk with one table file.
 class DeskTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -21,9 +21,9 @@ protected:
         WriteBytes(file, Table(file, "old"));
     }
 
-    /// Edits the second cell of the second row behind its text.
+    /// Types at the end of the second cell of the second row.
     void Edit(const std::string& typed);
-    /// Saves, and waits until the file holds the table with this cell.
+    /// Saves, and waits until the file contains the table with this cell.
     bool SavedAs(const std::filesystem::path& saved, const std::string& cell);
     void Exit() { desk.Press({"alt+f", "x"}); }
 

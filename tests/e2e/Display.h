@@ -11,20 +11,21 @@
 
 namespace korvane::e2e {
 
-/// A connection to a display, which tells when a window comes, goes, changes its title or its place among the
-/// others, and when the keyboard moves. Windows go by their number in decimal, as xdotool has them.
+/// A connection to a display. It reports when a window appears, disappears, changes its title, or moves above
+/// or below another one, and when another window gets the keyboard. Windows are identified by decimal
+/// numbers, as in xdotool.
 class Display final : public EventSource {
 public:
-    /// `name` is ":1" or the like.
+    /// `name` is a name like ":1".
     explicit Display(const std::string& name);
 
     bool Works() const { return root_ != 0; }
     int Descriptor() const override;
     void Drain() override;
 
-    /// The window that lies above all others; empty when none is seen.
+    /// The window above all others, or an empty text when no window is visible.
     std::string Topmost() const;
-    /// Lays a window without a title over the whole screen.
+    /// Covers the whole screen with a window without a title.
     void Cover();
 
 private:
@@ -34,7 +35,7 @@ private:
 
     void Watch(xcb_window_t window, std::uint32_t events);
     bool IsSeen(xcb_window_t window) const;
-    /// From the lowest to the topmost.
+    /// The top-level windows, the lowest first.
     std::vector<xcb_window_t> TopLevels() const;
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;

@@ -21,7 +21,7 @@ TEST_F(EditingTest, TheClosingQuestionKeepsOrDropsAChange) {
     desk.Press({"ctrl+Home"});
     desk.Type("typed over");
     Exit();
-    // The question has the program's name, too.
+    // The question's title is the same as the main window's.
     ASSERT_NE(desk.GoTo(kMain, main), "");
     desk.Press({"Escape"});
     ASSERT_TRUE(desk.Gone(kMain, main));

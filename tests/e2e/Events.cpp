@@ -17,7 +17,7 @@ int MillisecondsTo(Clock::time_point end) {
     return static_cast<int>(std::max(left, std::chrono::milliseconds(0)).count());
 }
 
-/// False at the end of the time.
+/// Returns false when the time is up.
 bool WaitToReadOne(std::vector<pollfd>& descriptors, Clock::time_point end) {
     int ready = 0;
     do {
@@ -34,7 +34,8 @@ bool Until(const std::function<bool()>& holds, std::initializer_list<EventSource
     for (const EventSource* source : sources)
         descriptors.push_back({source->Descriptor(), POLLIN, 0});
     for (;;) {
-        // First away with what is told already: what happens behind the look wakes the wait.
+        // The sources are emptied before `holds` is called, so that anything that happens after the call ends
+        // the wait.
         for (EventSource* source : sources)
             source->Drain();
         if (holds()) return true;

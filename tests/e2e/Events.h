@@ -6,23 +6,24 @@
 
 namespace korvane::e2e {
 
-/// How long a test waits for what has to come.
+/// The longest time that a test waits for something.
 inline constexpr auto kPatience = std::chrono::seconds(30);
 
-/// Where something happens now and then, and a file descriptor becomes readable when it has.
+/// A source of events. Its file descriptor becomes readable when something has happened.
 class EventSource {
 public:
     virtual ~EventSource() = default;
-    /// -1 for one that doesn't work.
+    /// The descriptor is -1 for a source that doesn't work.
     virtual int Descriptor() const = 0;
-    /// Takes what has happened off the descriptor.
+    /// Removes the events that are waiting at the descriptor.
     virtual void Drain() = 0;
 };
 
-/// Waits until `holds` does, looking again after each event of the sources; false when it doesn't in time.
+/// Waits until `holds` returns true, and asks it again after each event of the sources. Returns false when
+/// the time is up.
 bool Until(const std::function<bool()>& holds, std::initializer_list<EventSource*> sources);
 
-/// Waits until a descriptor is readable; false when it isn't in time.
+/// Waits until a descriptor is readable. Returns false when the time is up.
 bool WaitToRead(int descriptor);
 
 } // namespace korvane::e2e

@@ -6,7 +6,7 @@
 
 namespace korvane::e2e {
 
-/// Tells when a file of a folder has been written to its end, moved in or removed.
+/// Reports when a file in a folder was written and closed, moved there, or removed.
 class FolderEvents final : public EventSource {
 public:
     explicit FolderEvents(const std::filesystem::path& folder);

@@ -55,7 +55,7 @@ void Process::Reap(int options) {
 
 void Process::AwaitEnd() {
     if (!Running()) return;
-    // The C library has no wrapper of its own for it.
+    // The C library has no function for this call.
     const int descriptor = static_cast<int>(syscall(SYS_pidfd_open, id_, 0));
     if (descriptor < 0) return;
     WaitToRead(descriptor);

@@ -9,19 +9,20 @@
 
 namespace korvane::e2e {
 
-/// A child process. It is killed when this goes away before its end.
+/// A child process. The destructor kills it if it still runs.
 class Process {
 public:
     using Environment = std::map<std::string, std::string>;
 
-    /// `inherited` is a file descriptor that stays open in the child; -1 for none.
+    /// `inherited` is a file descriptor that stays open in the child, or -1 for none.
     Process(const std::vector<std::string>& command, const Environment& environment, int inherited = -1);
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
     ~Process();
 
     bool Running();
-    /// Waits for the end; nothing when it doesn't come in time, or came by a signal.
+    /// Waits for the end of the process. The result is nothing when it doesn't end in time, or when a signal
+    /// ended it.
     std::optional<int> ExitStatus();
 
 private:
@@ -33,7 +34,7 @@ private:
     int status_ = 0;
 };
 
-/// What a command prints, without line ends behind it; nothing when it fails.
+/// What a command prints, without the line ends after it, or nothing when the command fails.
 std::optional<std::string> Output(const std::vector<std::string>& command,
                                   const Process::Environment& environment);
 

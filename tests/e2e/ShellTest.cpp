@@ -1,4 +1,4 @@
-// What the keyboard and the mouse reach in the main window.
+// Tests what the user can do in the main window with the keyboard and the mouse.
 
 #include "e2e/DeskTest.h"
 
@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 constexpr auto kRecentFiles = "^Recent files list$";
 constexpr auto kLoadedFiles = "^Following asterisks mean text has been altered$";
 
-// Places in the main window, at the size that the shipped settings give it.
+// These are places in the main window at the size from the shipped settings.
 constexpr int kStripY = 70;
 constexpr int kTabX = 210;
 constexpr int kFreeStripX = 900;

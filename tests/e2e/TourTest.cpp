@@ -1,4 +1,4 @@
-// Goes to every command of the menu by the keyboard alone, and away from what it opens.
+// Chooses every command of the menu with the keyboard alone, and closes the windows that it opens.
 
 #include "e2e/DeskTest.h"
 #include "shell/commands/Commands.h"
@@ -13,14 +13,14 @@ namespace {
 
 using Keys = std::vector<std::string>;
 
-/// A window that comes, and the keys that close it.
+/// A window that appears, and the keys that close it.
 struct Visit {
     std::string title;
     Keys keys{"Escape"};
 };
 
-/// What a command shows, one window after the other, what it starts ("" for nothing), and the keys that lead
-/// back to the tour's table.
+/// What a command does: the windows that it shows one after the other, the program that it starts ("" for
+/// none), and the keys that lead back to the table of the tour.
 struct Stop {
     std::vector<Visit> visits{};
     std::string started{};
@@ -33,7 +33,7 @@ constexpr auto kClipboard = "^Contents of Windows clipboard ";
 Stop Shows(const std::string& title, const Keys& keys = {"Escape"}) {
     return {{{title, keys}}};
 }
-/// A message box has the title of the main window.
+/// A message box has the same title as the main window.
 Stop Asks(const Keys& keys) {
     return Shows(kMain, keys);
 }
@@ -108,7 +108,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuSideBar", kSilent},
 };
 
-/// The keys from the grid to the command's entry, which then is chosen.
+/// The keys that choose the command in the menu, starting from the grid.
 Keys WayTo(int menu, int entry) {
     Keys keys{"alt+f"};
     keys.insert(keys.end(), static_cast<std::size_t>(menu), "Right");
@@ -142,7 +142,7 @@ protected:
         ASSERT_TRUE(program->Running());
     }
 
-    /// Goes to the commands of one menu of the bar, but for those that end the tour.
+    /// Chooses all commands of one menu except the one that ends the program.
     void Tour(std::string_view menuName) {
         int menu = -1;
         int entry = 0;
@@ -176,7 +176,8 @@ TEST_F(TourTest, File) {
 TEST_F(TourTest, Edit) {
     Tour("mnuEdit");
     desk.Press({"ctrl+s"});
-    // Two rows were there, one and two came; two columns were there and one came.
+    // There were two rows, and the commands added one and then two. There were two columns, and a command
+    // added one.
     EXPECT_TRUE(desk.Until([&] { return ReadBytes(file).find("@row_5\r\n") != std::string::npos; }));
     const std::string saved = ReadBytes(file);
     EXPECT_NE(saved.find("!NEW\r\n"), std::string::npos) << saved;

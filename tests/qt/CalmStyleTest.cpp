@@ -15,7 +15,7 @@ namespace {
 
 class CalmStyleTest : public testing::Test {
 protected:
-    /// How well the upper edge of the widget's hollow is to be seen on its window.
+    /// The contrast between the pixel at `place`, on the edge of the widget's hollow, and the window.
     double EdgeOf(QWidget& widget, const QPoint& place) {
         widget.setStyle(&style);
         widget.resize(120, 24);

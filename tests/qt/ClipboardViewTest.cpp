@@ -12,7 +12,7 @@
 namespace korvane {
 namespace {
 
-/// The clipboard's window with its real widgets.
+/// Tests the clipboard's window with its real widgets.
 class ClipboardViewTest : public testing::Test {
 protected:
     void Open(const Text& contents) {

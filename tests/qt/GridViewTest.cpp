@@ -17,7 +17,7 @@
 namespace korvane {
 namespace {
 
-/// Ctrl, Alt and Shift go down before the key that they belong to.
+/// Ctrl, Alt and Shift are reported too, before the key that they are pressed with.
 bool IsModifier(const KeyEvent& key) {
     return key.code >= 16 && key.code <= 18;
 }
@@ -80,7 +80,8 @@ protected:
         test::Settle();
     }
     void Type(const char* text) {
-        // One at a time: the first key opens the editor, which takes the others.
+        // The keys are sent one at a time, because the first one opens the editor and the editor takes the
+        // others.
         for (const char* c = text; *c != '\0'; ++c)
             QTest::keyClick(QApplication::focusWidget(), *c);
         test::Settle();

@@ -35,7 +35,7 @@ namespace {
 
 class QtMessageBoxesTest : public testing::Test {
 protected:
-    /// Does something with the box as soon as it stands, and tells what was answered.
+    /// Calls `act` as soon as the box is shown, and returns the answer.
     Answer Show(const Message& message, const std::function<void(QMessageBox&)>& act) {
         bool seen = false;
         QTimer::singleShot(0, [&] {
@@ -289,7 +289,7 @@ TEST_F(QtFilePickerTest, ProgramsAreToldByTheirRightToRun) {
 
 // ---- The system's own dialogs -------------------------------------------------------------------------
 
-/// Stands in front of the dialogs that a test opens.
+/// Shows a window in front of which the dialogs open.
 class DialogsTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -297,7 +297,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
-    /// Does something with the dialog as soon as it stands.
+    /// Calls `act` as soon as the dialog is shown.
     template <class DialogT>
     void When(const std::function<void(DialogT&)>& act) {
         QTimer::singleShot(0, [this, act] {

@@ -77,7 +77,7 @@ constexpr FormEntry kForms[] = {{"frmAsk", MakeAsk<QDialog>}, {"frmMain", MakeAs
 
 class QtFormHostTest : public testing::Test {
 protected:
-    /// What the user does as soon as the window stands.
+    /// Calls `act` as soon as the window is shown.
     void Then(const std::function<void()>& act) { QTimer::singleShot(0, act); }
     QWidget& Window() { return *host.WidgetOf(form); }
     QWidget& Widget(const char* name) { return *Window().findChild<QWidget*>(name); }

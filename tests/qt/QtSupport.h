@@ -11,14 +11,14 @@
 
 namespace korvane::test {
 
-/// Lets everything happen that is due.
+/// Handles all pending events.
 inline void Settle() {
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-/// An empty store with so many rows and columns; the cells are empty.
+/// A store with this many rows and columns. All its cells are empty.
 inline std::unique_ptr<Grid> MakeStore(int rows, int columns) {
     auto store = std::make_unique<GridStore>(CodePage::Windows1252());
     for (int col = 1; col <= columns; ++col) {
@@ -28,7 +28,7 @@ inline std::unique_ptr<Grid> MakeStore(int rows, int columns) {
     return store;
 }
 
-/// Windows have another palette as long as this lives.
+/// Gives windows another palette while it lives.
 class UnderPalette {
 public:
     explicit UnderPalette(const QPalette& palette) { QApplication::setPalette(palette); }

@@ -13,7 +13,7 @@
 namespace korvane {
 namespace {
 
-/// 120 twips at 96 dpi.
+/// 120 twips are 8 pixels at 96 dpi.
 constexpr int kMargin = 8;
 
 class TabLayoutTest : public testing::Test {
@@ -26,11 +26,11 @@ protected:
     }
     void Resize(int width) {
         window->resize(width, 700);
-        // The parts of parts are laid out when their own request comes.
+        // Each level of nested parts needs one more round to be laid out.
         for (int depth = 0; depth < 4; ++depth)
             QApplication::processEvents();
     }
-    /// Where a part of the tab stands in it.
+    /// The place of a part, relative to the tab.
     QRect Place(const char* name) const {
         const auto* part = window->findChild<QWidget*>(name);
         return part == nullptr ? QRect() : QRect(part->mapTo(window, QPoint(0, 0)), part->size());

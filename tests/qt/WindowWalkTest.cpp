@@ -57,7 +57,7 @@ TEST_P(WindowWalkTest, EveryToolButtonShowsAPictureOrAText) {
     const auto look = LookOf(GetParam().name)->make();
     const FormBinder binder(*form, *look, pages);
     for (const QToolButton* button : look->findChildren<QToolButton*>()) {
-        // Those of the toolkit come with arrows.
+        // Buttons that belong to Qt's own widgets have arrows.
         if (form->Find(button->objectName().toStdString()) == nullptr) continue;
         EXPECT_FALSE(button->icon().isNull() && button->text().isEmpty())
             << button->objectName().toStdString();

@@ -1,4 +1,4 @@
-// The command as a process: exit statuses, streams and files as a shell sees them.
+// Tests the command as a process: its exit statuses, its streams and its files, as a shell sees them.
 
 #include "SourceTree.h"
 #include "support/TempDir.h"
@@ -21,8 +21,8 @@ class TbxProcess : public testing::Test {
 protected:
     TbxProcess() { fs::copy_file(kCases / "two-rows-of-the-usual-form/input.tbx", folder_ / "people.tbx"); }
 
-    /// Runs a line of the shell in the test's folder, "tbx" standing for the command, and gives the exit
-    /// status.
+    /// Runs a shell line in the test's folder and returns its exit status. In the line "tbx" means the
+    /// command.
     int Shell(const std::string& line) {
         const std::string script = "cd '" + folder_.Path().string() +
                                    "' && tbx() { '" KORVANE_TBX "' \"$@\"; } && { " + line + "\n} >out 2>err";
@@ -32,7 +32,7 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    /// A table whose CSV is far larger than what a pipe holds.
+    /// Writes a table with a CSV that is far larger than what a pipe can hold.
     void WriteLargeTable() {
         std::string csv = "Number,Text\n";
         for (int row = 1; row <= 20000; ++row)

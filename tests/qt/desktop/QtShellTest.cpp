@@ -13,7 +13,7 @@
 namespace korvane {
 namespace {
 
-/// Stands in for the desktop's own programs.
+/// Catches what would be opened by the desktop's own programs.
 class UrlCatcher : public QObject {
     Q_OBJECT
 public:
@@ -96,7 +96,7 @@ TEST(QtShell, HandsEachArgumentOverAsItStands) {
     QtShell shell;
     ASSERT_EQ(
         shell.Run(u"/bin/cp", {FromUtf8(source.native()), FromUtf8(pipe.native())}, WindowState::Normal), 1);
-    // Opening waits until the program writes.
+    // Opening the pipe waits until the program opens it for writing.
     EXPECT_EQ(ReadBytes(pipe), "payload");
 }
 

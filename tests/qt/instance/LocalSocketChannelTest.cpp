@@ -30,7 +30,7 @@ sockaddr_un Address(const fs::path& path) {
     return address;
 }
 
-/// Somebody at the socket who keeps to no rules.
+/// A plain socket that can break the rules of the conversation.
 class RawSocket {
 public:
     RawSocket() : socket_(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0)) {}
@@ -47,7 +47,7 @@ public:
         return bind(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
                listen(socket_, 1) == 0;
     }
-    /// Takes one connection, says what is given, and hears the other side out.
+    /// Accepts one connection, sends the answer, and reads until the other side closes.
     void Serve(std::string_view answer) {
         const int connection = accept(socket_, nullptr, nullptr);
         send(connection, answer.data(), answer.size(), MSG_NOSIGNAL);
@@ -55,7 +55,7 @@ public:
         Drain(connection);
         close(connection);
     }
-    /// Sends as much as goes through before the other side closes.
+    /// Sends bytes until the other side closes.
     void Send(std::string_view bytes) {
         while (!bytes.empty()) {
             const ssize_t sent = send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
@@ -63,7 +63,7 @@ public:
             bytes.remove_prefix(static_cast<std::size_t>(sent));
         }
     }
-    /// All that the other side says until it closes.
+    /// Everything that the other side sends until it closes.
     std::string ReadToEnd() { return Drain(socket_); }
     void Close() {
         if (socket_ >= 0) close(socket_);
@@ -83,7 +83,7 @@ private:
 };
 
 struct LocalSockets : testing::Test {
-    /// Lets the event loop run until the work, done by another thread, is finished.
+    /// Runs the event loop while another thread does the work.
     void While(const std::function<void()>& work) {
         std::atomic<bool> finished = false;
         std::thread thread([&] {
@@ -113,7 +113,7 @@ struct LocalSockets : testing::Test {
         first->Listen(Recording());
         return first;
     }
-    /// The whole hand-over of a well-behaved second start.
+    /// Hands a path over in the way a normal second start does.
     bool HandOver(TextView path) {
         LocalSocketChannel second(place);
         const bool taken = second.PreviousInstanceRuns() && second.FindReceiver() &&
@@ -260,7 +260,7 @@ TEST_F(LocalSockets, AreNotTakenInByAForeignReceiver) {
     }
 }
 
-// Who comes to the socket with something else.
+// Other programs that connect to the socket.
 
 TEST_F(LocalSockets, DropWhatIsNoRequest) {
     const auto first = First();
@@ -294,8 +294,8 @@ TEST_F(LocalSockets, DropOtherUsersWhoGetThroughToThem) {
     fs::permissions(dir.Path(), static_cast<fs::perms>(0711));
     fs::permissions(place.socket, static_cast<fs::perms>(0777));
     While([&] {
-        // Only the administrator can become somebody else, and only in this thread; others stay themselves
-        // and are answered.
+        // Only the administrator can become another user, and here only in this thread. For any other user
+        // the conversation is answered as usual.
         constexpr long kKeep = -1;
         constexpr long kNobody = 65534;
         const bool foreign = syscall(SYS_setresuid, kKeep, kNobody, kKeep) == 0;

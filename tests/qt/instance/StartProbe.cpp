@@ -1,7 +1,7 @@
 // start_probe SOCKET LOCK [PATH] [--busy]
 //
-// Tells on standard output, line by line, what happens to it. A first start reads standard input: "free"
-// empties its slot, which is full from the beginning with --busy, and the end of input ends it.
+// Starts like the program and prints what happens to it, one event a line. A first start reads standard
+// input: "free" empties its slot, which is full at first with --busy, and it ends at the end of its input.
 
 #include "platform/qt/instance/LocalSocketChannel.h"
 

@@ -10,7 +10,7 @@
 namespace korvane {
 namespace {
 
-/// A start of the program in a process of its own.
+/// A start of the program as its own process.
 class Start {
 public:
     Start(const TempDir& dir, const QStringList& arguments) {
@@ -22,7 +22,7 @@ public:
         process_.waitForFinished(-1);
     }
 
-    /// The next line that it tells; empty when it has ended.
+    /// The next line that it prints, or an empty text when it has ended.
     std::string Line() {
         while (!process_.canReadLine() && process_.waitForReadyRead(-1)) {
         }

@@ -1,5 +1,5 @@
-// render_windows DIR [--dark]: draws every window of the program into a picture, in its own and in its
-// smallest size, with them the kinds of message boxes, the styles of the tab strip and the icons.
+// render_windows DIR [--dark] draws every window of the program into two pictures, one in its own size and
+// one in its smallest. It also draws the kinds of message boxes, the styles of the tab strip, and the icons.
 
 #include "context/StandardMessages.h"
 #include "controls/TabStyles.h"
@@ -36,7 +36,7 @@ private:
     bool complete_ = true;
 };
 
-/// In its own size, then in the smallest that it takes.
+/// Draws the window in its own size and in its smallest.
 void PutWindow(Album& album, const QString& name, QWidget& window) {
     Stage::Settle();
     album.Put(name, window.grab());
@@ -45,7 +45,7 @@ void PutWindow(Album& album, const QString& name, QWidget& window) {
     album.Put(name + "-least", window.grab());
 }
 
-/// The main window and its tabs are there from the start, and there is but one.
+/// The stage has shown the main window and its tab already, and there is only one of each.
 bool StandsAlready(const Window& window, Stage& stage) {
     return window.name == stage.Main().Name() || window.name == stage.All().child.Name();
 }

@@ -7,12 +7,13 @@
 
 namespace korvane {
 
-/// The program as after a first start with the samples open: real windows on a platform in memory.
+/// The program as it looks after a first start with the samples open. Its windows are real, and its platform
+/// is in memory.
 class Stage {
 public:
     Stage();
 
-    /// Lets everything happen that is due.
+    /// Handles all pending events.
     static void Settle();
 
     QtFormHost& Host() { return host_; }
