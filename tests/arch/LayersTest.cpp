@@ -1,6 +1,6 @@
-// Reads the level table of src/README.md and every include of src/: an arrow that points the wrong way, or a
-// header of the toolkit or of one system outside the folders that stand at the edge, fails with file and
-// line.
+// Reads the table of levels in src/README.md and every include in src/. An include that the table doesn't
+// allow fails with its file and line, and so does a header of Qt or of one system outside the folders that
+// may use it.
 
 #include "SourceTree.h"
 
@@ -34,7 +34,7 @@ std::set<std::string> SplitList(const std::string& list) {
     return names;
 }
 
-/// The rows of the table in their order: a folder, and what it may use.
+/// The rows of the table in their order. Each is a folder and the folders that it may use.
 std::vector<std::pair<std::string, std::set<std::string>>> ReadRows() {
     std::vector<std::pair<std::string, std::set<std::string>>> rows;
     std::ifstream file(kSource / "README.md");
@@ -51,7 +51,8 @@ LevelTable ReadLevelTable() {
     return {rows.begin(), rows.end()};
 }
 
-/// The longest folder of the table that the path (relative to src/) lies in; empty when there is none.
+/// The longest folder in the table that contains the path (relative to src/), or an empty text when there is
+/// none.
 std::string FolderOf(const LevelTable& table, const std::string& path) {
     std::string best;
     for (const auto& [folder, allowed] : table) {
@@ -71,7 +72,7 @@ struct Include {
     bool quoted;
 };
 
-/// The header that a line includes, with its first bracket or quote; empty for any other line.
+/// The header that a line includes, after its first bracket or quote, or an empty text for any other line.
 std::string IncludedHeader(const std::string& line) {
     static const std::string directive = "#include ";
     if (!line.starts_with(directive)) return {};
@@ -101,11 +102,11 @@ std::vector<Include> AllIncludes(const LevelTable& table) {
     return includes;
 }
 
-/// Headers that only some folders may include: those of the toolkit and of the systems.
+/// Headers of Qt or of a system, which only some folders may include.
 struct ForeignHeaders {
     std::string what;
     std::regex header;
-    /// Folders, each with all below it.
+    /// These folders may include the headers, and so may all folders below them.
     std::vector<std::string> allowedIn;
 };
 

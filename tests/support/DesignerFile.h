@@ -8,15 +8,16 @@
 
 namespace korvane {
 
-// Compares windows with the Designer files beside them, as far as that is possible without a display.
+// These functions compare windows with the Designer files beside them, as far as that is possible without a
+// display.
 
-/// The Designer file of a window of the folder `src/<folder>`.
+/// The contents of the Designer file of a window in the folder `src/<folder>`.
 std::string LookOf(std::string_view folder, const std::string& window);
 
-/// The texts between `before` and `after`, in all places.
+/// All texts that are between a `before` and an `after`.
 std::set<std::string> Between(const std::string& text, const std::string& before, const std::string& after);
 
-/// Expects that each control has its widget and that the file has each plain text.
+/// Expects that each control has its widget and that the look contains each plain text.
 void ExpectLook(const Form& form, std::string_view folder, const std::set<std::string>& plainTexts);
 
 } // namespace korvane

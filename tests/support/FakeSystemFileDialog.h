@@ -9,13 +9,13 @@
 
 namespace korvane {
 
-/// Chooses a file, or nothing, and remembers what it was asked.
+/// Chooses a prepared file, or none, and records the requests.
 class FakeSystemFileDialog final : public SystemFileDialog {
 public:
     explicit FakeSystemFileDialog(App& app) { app.SetPort<SystemFileDialog>(this); }
     std::optional<Text> answer;
     std::vector<Request> requests;
-    /// Runs while the dialog is open.
+    /// Called while the dialog is open.
     std::function<void()> whileOpen = [] {};
 
     std::optional<Text> Choose(const Request& request) override {

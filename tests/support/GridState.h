@@ -7,7 +7,7 @@
 
 namespace korvane {
 
-/// All that a grid holds, to compare grids by.
+/// Everything that a grid contains as a text, so that grids can be compared.
 inline std::string StateOf(const Grid& grid) {
     std::ostringstream state;
     const auto put = [&state](const auto&... values) { ((state << values << '|'), ...) << '\n'; };

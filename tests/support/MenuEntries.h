@@ -8,10 +8,10 @@
 
 namespace korvane {
 
-/// Name and caption.
+/// Each entry is a name and a caption.
 using Entries = std::vector<std::pair<std::string, Text>>;
 
-/// The entries that can be chosen in a window's menu bar, in order, without the titles of the menus.
+/// The commands in a window's menu bar in their order, without the captions of the menus.
 inline Entries EntriesOf(const Menu& menu) {
     Entries entries;
     for (const MenuEntry& entry : menu.Entries()) {

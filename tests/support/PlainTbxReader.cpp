@@ -106,7 +106,7 @@ private:
         if (line_.starts_with("@row")) {
             colourLines_ = 0;
             col_ = 0;
-            // Nothing is read after the last row, and the row stays as it is.
+            // After the last possible row no row is added, and the current row stays the same.
             if (row_ <= 32767) ++row_;
             if (row_ <= 32767) grid_.SetRowCount(Row{row_});
             inCell_ = false;

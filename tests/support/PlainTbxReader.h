@@ -7,11 +7,12 @@ namespace korvane {
 class Grid;
 class TableModel;
 
-/// Reads a `.tbx` file in the plainest way: it copies each line and takes each step of each rule by itself.
-/// The program's reader is compared with it. False when there are too many columns.
+/// Reads a `.tbx` file in the simplest possible way: it copies each line, takes every step of every rule in
+/// turn, and sets each cell by itself. The program's reader is compared with it. Returns false when there are
+/// too many columns.
 bool ReadPlainly(std::string_view bytes, TableModel& table);
 
-/// The first difference between two tables in words; empty when they are alike.
+/// Names the first difference between two tables, or is empty when there is none.
 std::string_view DifferenceBetween(const TableModel& a, const TableModel& b);
 
 } // namespace korvane

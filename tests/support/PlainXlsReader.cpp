@@ -56,7 +56,7 @@ std::string_view SectorOf(std::string_view file, std::uint32_t number) {
     return file.substr(at, kSector);
 }
 
-/// The numbers of the sectors that hold the table of sectors.
+/// The numbers of the sectors that contain the table of sectors.
 std::vector<std::uint32_t> FatSectorNumbers(std::string_view file) {
     const std::uint32_t count = U32At(file, 44);
     std::vector<std::uint32_t> numbers;
@@ -107,7 +107,7 @@ Text EntryName(std::string_view entry) {
 
 // ---- Texts --------------------------------------------------------------------------------------------
 
-/// Reads texts that go on in several records.
+/// Reads texts that may go on from one record to the next.
 class TextSource {
 public:
     explicit TextSource(std::vector<std::string_view> parts) : parts_(std::move(parts)) {}
@@ -224,7 +224,8 @@ const PlainRecord& RecordAt(const PlainXls& book, std::size_t at, std::uint16_t 
     return record;
 }
 
-/// The block's end leads to its first row, and from there to the first cell of each row that has any.
+/// Checks that the end of a block points to the block's first row, and from there to the first cell of each
+/// row that has cells.
 void CheckBlock(const PlainXls& book, const PlainRecord& end, std::size_t firstRow) {
     const std::size_t rowAt = end.at - U32At(end.data, 0);
     Require(U16At(RecordAt(book, rowAt, kRow).data, 0) == firstRow, "a block begins with the wrong row");
@@ -250,7 +251,7 @@ void CheckIndex(const PlainXls& book) {
     Require(row == static_cast<std::size_t>(book.size.first + 31) / 32 * 32, "a block isn't in the index");
 }
 
-/// The records of one part of the stream, from its beginning to its end.
+/// The records of the part of the stream that begins at `at`, up to the end of that part.
 std::vector<PlainRecord> PartAt(const std::vector<PlainRecord>& records, std::size_t at) {
     const auto first = std::ranges::find(records, at, &PlainRecord::at);
     Require(first != records.end() && first->type == kBof, "no part of the stream begins here");

@@ -11,39 +11,39 @@
 
 namespace korvane {
 
-/// A plain second way to read workbooks, which shares nothing with the writer but the format. It throws
-/// std::runtime_error, which says what is wrong, at everything that could confuse another reader.
+/// One record of a workbook. This reader is simple and shares only the knowledge of the format with the
+/// writer. It throws a std::runtime_error that says what is wrong with the file.
 struct PlainRecord {
     std::size_t at = 0;
     std::uint16_t type = 0;
     std::string data;
 };
 
-/// What a cell's format says.
+/// The parts of a cell's format that the tests look at.
 struct PlainFormat {
     bool wraps = false;
-    /// The number of the colour as the file counts; 0 for no fill.
+    /// The number of the colour in the file, or 0 for no fill.
     int fill = 0;
 
     bool operator==(const PlainFormat&) const = default;
 };
 
 struct PlainXls {
-    /// Row and column, counted from 0.
+    /// A row and a column, both counted from 0.
     using Place = std::pair<int, int>;
 
     std::vector<PlainRecord> bookRecords;
     std::vector<PlainRecord> sheetRecords;
     std::string sheetName;
-    /// How often the file says its texts are used, and the texts.
+    /// How often the texts are used, as the file says.
     std::uint32_t textUses = 0;
     std::vector<Text> sharedTexts;
     std::map<Place, Text> texts;
-    /// The formats of all cells in the file, empty ones too.
+    /// The formats of all cells in the file, even of empty ones.
     std::map<Place, PlainFormat> formats;
     std::map<int, int> columnWidths;
     std::map<int, int> rowHeights;
-    /// Rows and columns that the file says it has.
+    /// The number of rows and columns, as the file says.
     Place size;
     Place activeCell;
 

@@ -92,7 +92,7 @@ private:
 
     std::string_view rest_;
     std::string text_;
-    /// For each group that is open, whether it is hidden.
+    /// Says for each open group whether it is hidden.
     std::vector<bool> hidden_;
 };
 

@@ -5,11 +5,11 @@
 
 namespace korvane {
 
-/// What a heading's line starts with.
+/// The line of a heading starts with this.
 inline constexpr std::string_view kRtfHeading = "# ";
 
-/// The text of a rich-text file as a reader would show it, in the bytes of its code page: a line for each
-/// paragraph and for each row of a table, whose cells end in a tab.
+/// The text of a rich-text file as a reader would show it, in the bytes of its code page. Each paragraph is a
+/// line and so is each row of a table, with a tab after each cell.
 std::string RtfText(std::string_view rtf);
 
 } // namespace korvane

@@ -10,7 +10,7 @@ namespace korvane {
 
 namespace {
 
-/// What the steps of a script wait for, in the order of their alternatives.
+/// What the kinds of steps wait for, in the order of the variant's alternatives.
 constexpr std::array kAwaited{"a window",      "a message box",     "the file chooser",
                               "a pop-up menu", "the colour dialog", "the font dialog"};
 

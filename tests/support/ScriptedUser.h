@@ -18,9 +18,9 @@
 
 namespace korvane {
 
-/// Plays the user without a screen: windows, message boxes, choosers and pop-up menus are answered from one
-/// script, in the order in which they come. A window that isn't scripted, that comes out of turn, that a
-/// script leaves open or that never comes fails the test, with its name.
+/// Plays the user without a screen. It answers windows, message boxes, choosers and pop-up menus from one
+/// script, in the order in which they appear. The test fails with the name of the window or box if something
+/// isn't in the script, appears out of order, is left open by its script, or never appears.
 class ScriptedUser final : public FormHost,
                            public MessageBoxes,
                            public FilePicker,
@@ -32,9 +32,10 @@ public:
     ScriptedUser& operator=(const ScriptedUser&) = delete;
     ~ScriptedUser() override;
 
-    // The script.
+    // Writing the script.
 
-    /// The next to come is a window of class `Window`. A modal one has to be closed at the end of `script`.
+    /// The next to appear is a window of class `Window`. A modal window must be closed at the end of
+    /// `script`.
     template <class Window, class Script>
     void On(Script script) {
         steps_.push_back(WindowStep{[script = std::move(script)](Form& form) {
@@ -43,52 +44,53 @@ public:
             return window != nullptr;
         }});
     }
-    /// The next to come is any message box that has this button.
+    /// The next to appear is any message box that has this button.
     void Answer(korvane::Answer answer) { steps_.push_back(BoxStep{std::nullopt, answer, {}}); }
-    /// The next to come is exactly this message box.
+    /// The next to appear is exactly this message box.
     void Answer(const Message& expected, korvane::Answer answer) {
         steps_.push_back(BoxStep{expected, answer, {}});
     }
-    /// The same, and this happens while the box is shown.
+    /// The next to appear is any message box that has this button, and `meanwhile` is called while it is
+    /// shown.
     void AnswerAfter(std::function<void()> meanwhile, korvane::Answer answer) {
         steps_.push_back(BoxStep{std::nullopt, answer, std::move(meanwhile)});
     }
-    /// The next to come is the file chooser; `choose` fills in the result.
+    /// The next to appear is the file chooser, and `choose` fills in its result.
     void OnChooser(std::function<void(ListerRequest&)> choose) {
         steps_.push_back(ChooserStep{std::move(choose)});
     }
     void ChooseFile(const Text& path);
     void ChooseFiles(const std::vector<Text>& paths);
     void CancelChooser();
-    /// The next to come is the colour dialog; nullopt cancels it.
+    /// The next to appear is the colour dialog. nullopt cancels it.
     void ChooseColour(std::optional<Colour> chosen) { steps_.push_back(ColourStep{chosen}); }
-    /// The next to come is the font dialog; nullopt cancels it.
+    /// The next to appear is the font dialog. nullopt cancels it.
     void ChooseFont(std::optional<FontSpec> chosen) { steps_.push_back(FontStep{std::move(chosen)}); }
-    /// The next to come is a pop-up menu, of which this entry is chosen; none for an empty name.
+    /// The next to appear is a pop-up menu, and this entry is chosen. An empty name chooses nothing.
     void ChooseFromPopUp(std::string entry) { steps_.push_back(PopUpStep{std::move(entry)}); }
 
-    // What came.
+    // What has appeared.
 
     const std::vector<Message>& Messages() const { return messages_; }
-    /// The requests as they reached the file chooser.
+    /// The requests to the file chooser.
     const std::vector<ListerRequest>& Requests() const { return requests_; }
     struct ColourRequest {
         Colour start;
         Extent extent;
         bool operator==(const ColourRequest&) const = default;
     };
-    /// What the colour dialog opened with, each time.
+    /// What each colour dialog was opened with.
     const std::vector<ColourRequest>& ColourRequests() const { return colourRequests_; }
-    /// What the font dialog opened with, each time.
+    /// What each font dialog was opened with.
     const std::vector<FontSpec>& FontRequests() const { return fontRequests_; }
     /// The names of all pop-up menus that were shown.
     const std::vector<std::string>& PopUps() const { return popUps_; }
     /// The names of all windows that were brought to the front.
     const std::vector<std::string>& Raised() const { return raised_; }
-    /// The windows that are open and aren't modal.
+    /// The open windows that aren't modal.
     const std::vector<Form*>& Shown() const { return shown_; }
 
-    // The outside.
+    // What the program calls.
 
     void RunModal(Form& form) override;
     void Show(Form& form) override;
@@ -102,7 +104,7 @@ public:
 
 private:
     struct WindowStep {
-        /// False when the window is of another class.
+        /// Returns false when the window is of another class.
         std::function<bool(Form&)> run;
     };
     struct BoxStep {
@@ -124,10 +126,10 @@ private:
     };
     using Step = std::variant<WindowStep, BoxStep, ChooserStep, PopUpStep, ColourStep, FontStep>;
 
-    /// The next step when it is of this kind; otherwise fails the test with `what` came.
+    /// Takes the next step if it is of this kind. Otherwise the test fails and says that `what` appeared.
     template <class Kind>
     std::optional<Kind> Take(const std::string& what);
-    /// Whether the script had this window next.
+    /// Returns whether this window was next in the script.
     bool PlayWindow(Form& form);
 
     std::deque<Step> steps_;

@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// A folder for one test, which only the user can enter and which is removed after it.
+/// A private folder for one test. The destructor removes it with all its contents.
 class TempDir {
 public:
     TempDir() {

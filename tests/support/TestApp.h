@@ -22,7 +22,7 @@
 
 namespace korvane {
 
-/// A fresh program without windows: an App on a platform in memory, with a scripted user.
+/// A new program without windows: an App on an in-memory platform with a scripted user.
 class TestApp {
 public:
     explicit TestApp(const PathStyle& style = PathStyle::Windows) : files(style, clock) {
@@ -39,9 +39,9 @@ public:
     MemoryInstanceChannel instance;
     MemorySystemFolders folders;
     ScriptedUser user;
-    /// What the spreadsheet application was asked to do.
+    /// What the program asked the spreadsheet application to do.
     std::vector<std::string> spreadsheetSteps;
-    /// Whether there is such an application.
+    /// Whether the spreadsheet application can be started.
     bool hasSpreadsheet = true;
     /// Runs before a grid is made.
     std::function<void()> beforeGrid = [] {};

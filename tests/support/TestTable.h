@@ -12,7 +12,7 @@
 
 namespace korvane {
 
-/// A tab that remembers what it is asked.
+/// A tab that records the calls.
 class RecordingTableHost final : public TableHost {
 public:
     void ShowRowHeight(std::int16_t height) override { shownRowHeights.push_back(height); }
@@ -25,7 +25,7 @@ public:
     int dirtyCleared = 0;
 };
 
-/// An empty table on a tab, in a program in memory with a scripted user.
+/// An empty table on a tab, in a program on an in-memory platform with a scripted user.
 class TestTable {
 public:
     explicit TestTable(const PathStyle& style = PathStyle::Windows,

@@ -10,7 +10,7 @@ namespace {
 
 using Kind = Step::Kind;
 
-/// A conversation whose running copy has an empty slot.
+/// Holds a conversation of a running copy whose slot is empty.
 struct HandOver : testing::Test {
     std::optional<Step> After(std::string_view bytes) {
         EXPECT_EQ(conversation.Receive(bytes), bytes.size());
@@ -152,7 +152,7 @@ TEST(HandOverHolds, NoMoreThanOneLineWhileItWaitsForTheSlot) {
 }
 
 TEST(HandOverHolds, WhateverComesAndHoweverItIsCut) {
-    // Fragments of requests in every order and cut, from a generator that is the same in every run.
+    // Joins fragments of requests in many orders. The generator is the same in every run.
     const std::string_view fragments[] = {"SLOT", "PATH ", "/a",       "%41",  "%", "ACTIVATE",
                                           "\n",   "\n",    "\xC3\xA4", "\xFF", "x"};
     std::minstd_rand random(1);

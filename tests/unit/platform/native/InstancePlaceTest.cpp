@@ -89,8 +89,8 @@ TEST_F(InstancePlaces, AreNowhereWhenAFileIsInTheWay) {
 }
 
 TEST(InstancePlaceOwner, KeepsOtherUsersOut) {
-    // The folder of a user that this process isn't: /proc/1 is the administrator's, who is somebody else
-    // unless the tests are theirs; then a folder is given away.
+    // This needs a folder of another user. /proc/1 belongs to the administrator. If the tests run as the
+    // administrator, a folder of another user is made.
     TempDir dir;
     InstanceSurroundings surroundings{"/proc/1", dir / "tmp", "/usr/bin/korvane"};
     if (geteuid() == 0) {

@@ -20,7 +20,7 @@ TEST(NativeClockTest, WaitsNoShorterThanAsked) {
 }
 
 TEST(NativeClockTest, CountsFieldsAsACalendarDoes) {
-    // The middle of a month and of an hour: the same date all over the world.
+    // In every time zone this moment has the same year, month and second.
     const DateTime time = ToLocalDateTime(1'781'524'815);
     EXPECT_EQ(time.year, 2026);
     EXPECT_EQ(time.month, 6);

@@ -109,7 +109,7 @@ TEST_F(NativeFiles, AFolderIsNotRemoved) {
     EXPECT_TRUE(fs::is_directory(dir / "empty"));
 }
 
-// Keeping to the owner.
+// Private files.
 
 TEST_F(NativeFiles, TellsWhyAFileCantBeOpenedPrivately) {
     EXPECT_FALSE(files.OpenPrivate(At("gone/a.ini")));
@@ -121,7 +121,7 @@ TEST_F(NativeFiles, TellsWhyAFileCantBeOpenedPrivately) {
     EXPECT_EQ(ReadBytes(dir / "a.ini"), "old");
 }
 
-// Looking.
+// Looking for files and folders.
 
 TEST_F(NativeFiles, TellsFilesFromFolders) {
     WriteBytes(dir / "a.tbx", "a");

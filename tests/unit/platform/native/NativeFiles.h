@@ -12,7 +12,7 @@ inline constexpr std::filesystem::perms kReadOnly = std::filesystem::perms::owne
                                                     std::filesystem::perms::group_read |
                                                     std::filesystem::perms::others_read;
 
-/// The real disk, in a folder of its own.
+/// Provides the real disk with a folder for one test.
 struct NativeFiles : testing::Test {
     Text At(const std::filesystem::path& name) const { return FromNativePath((dir / name).make_preferred()); }
 

@@ -1,4 +1,4 @@
-// What only a system of POSIX has: pipes, devices, links, rights of owners.
+// Tests what only POSIX systems have: pipes, devices, links and permissions of owners.
 
 #include "unit/platform/native/NativeFiles.h"
 
@@ -124,7 +124,7 @@ TEST_F(NativeFiles, PathsAreInTheStyleOfPosix) {
     EXPECT_EQ(files.Style(), PathStyle::Posix);
 }
 
-// Keeping to the owner.
+// Private files.
 
 TEST_F(NativeFiles, APrivateFileIsItsOwnersAloneWhateverTheUsualRightsAre) {
     const mode_t usual = umask(0);

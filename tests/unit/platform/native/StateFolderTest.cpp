@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// An executable in a folder that nobody can write to, and a home.
+/// Provides a home folder, and an executable in a folder that nobody can write to.
 struct StateFolder : testing::Test {
     StateFolder() {
         fs::create_directories(dir / "bin");

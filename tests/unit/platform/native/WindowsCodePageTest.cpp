@@ -1,4 +1,4 @@
-// The tables of the code pages against those of the system.
+// Compares the tables of the code pages with those of the system.
 
 #include "common/text/CodePage.h"
 #include "platform/native/UserCodePage.h"
@@ -9,12 +9,13 @@
 namespace korvane {
 namespace {
 
-/// In which the system puts bytes that a page has no character for.
+/// Whether the character is in the private range, to which Windows maps bytes that have no character in the
+/// page.
 constexpr bool IsPrivate(wchar_t character) {
     return character >= 0xE000 && character <= 0xF8FF;
 }
 
-/// What the system makes of the byte; nothing when its page has no character for it.
+/// The system's character for the byte, or nothing when its page has none.
 std::optional<char16_t> SystemsCharacter(int page, unsigned char byte) {
     const char bytes[] = {static_cast<char>(byte)};
     wchar_t character = 0;

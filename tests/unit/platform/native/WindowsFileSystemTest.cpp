@@ -1,4 +1,4 @@
-// What only Windows has: drives, names of 16-bit units in which case doesn't count.
+// Tests what only Windows has: drives, and file names of 16-bit code units that ignore the case.
 
 #include "unit/platform/native/NativeFiles.h"
 

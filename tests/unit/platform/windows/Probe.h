@@ -11,8 +11,8 @@
 
 namespace korvane {
 
-/// What a test and the program that it starts have in common: a file that the one writes and the other reads,
-/// and an event that tells when.
+/// What a test shares with the program that it starts: a file that the program writes and the test reads, and
+/// an event that says when the file is written.
 class Probe {
 public:
     Probe() : event_(CreateEventW(nullptr, TRUE, FALSE, ToWide(Event()).c_str())) {}
@@ -29,7 +29,7 @@ public:
     Text File() const { return FromWide((dir_ / "told.txt").wstring()); }
     Text Event() const { return u"Local\\" + FromWide(dir_.Path().filename().wstring()); }
 
-    /// Whether the program has set the event, for which it has a minute.
+    /// Waits up to a minute for the program to set the event.
     bool Ready() const { return WaitForSingleObject(event_, 60'000) == WAIT_OBJECT_0; }
     std::string Told() const { return ReadBytes(dir_ / "told.txt"); }
     const TempDir& Dir() const { return dir_; }

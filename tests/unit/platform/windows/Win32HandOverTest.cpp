@@ -1,4 +1,4 @@
-// A real second start against a real running copy. Windows are listed where there is a display only.
+// Tests a real second start against a real running copy. Windows can be listed only on a display.
 
 #include "platform/windows/AnsiText.h"
 #include "platform/windows/Win32Shell.h"
@@ -11,7 +11,7 @@
 namespace korvane {
 namespace {
 
-/// A box of this process that nobody writes into.
+/// A box of this process that is never written into.
 class NoBox final : public CommandBox {
 public:
     void Open(std::function<void(TextView text)>) override {}

@@ -41,7 +41,7 @@ TEST_F(Win32ShellTest, AProgramCanBeStartedMinimised) {
 TEST_F(Win32ShellTest, TheTaskNumberIsThatOfTheProcess) {
     const int task = shell.Run(u"cmd.exe", {u"/c", u"exit", u"7"}, WindowState::Minimised);
     const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(task));
-    // A process that has ended already has no number any more.
+    // A process that has ended can't be opened any more.
     if (process != nullptr) {
         EXPECT_EQ(WaitForSingleObject(process, 60'000), WAIT_OBJECT_0);
         CloseHandle(process);

@@ -1,4 +1,4 @@
-// Texts on their way to windows of other programs, and the mark of a running copy.
+// Tests how texts are converted for the windows of other programs, and the mark of a running copy.
 
 #include "platform/windows/AnsiText.h"
 #include "platform/windows/Win32WindowList.h"
@@ -16,7 +16,7 @@ TEST(AnsiText, ComesBackAsItWas) {
 }
 
 TEST(AnsiText, NothingTurnsIntoALookalike) {
-    // Some pages have the letter; the others must not make an A of it.
+    // Some pages have this letter. The others must not turn it into an A.
     EXPECT_THAT(FromAnsi(ToAnsi(u"\u0100")), testing::AnyOf(u"\u0100", u"?"));
 }
 

@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A desktop of windows that were never on a screen.
+/// A desktop whose windows exist only in memory.
 class FakeWindowList final : public WindowList {
 public:
     struct Window {
@@ -87,7 +87,7 @@ public:
     std::function<void(TextView text)> changed;
 };
 
-/// A desktop with a running copy on it, among other windows.
+/// Provides a desktop with a running copy among other windows.
 struct WindowHandOverTest : testing::Test {
     WindowHandOverTest() {
         windows.Add(kNoWindow, "Notepad", u"letter.txt - Editor");
@@ -203,7 +203,7 @@ TEST_F(WindowHandOverTest, TheRunningCopyHearsOfWhatIsWrittenIntoItsBox) {
     EXPECT_EQ(received, u"C:\\a.tbx");
 }
 
-// The single steps.
+// Tests of the single steps.
 
 TEST_F(WindowHandOverTest, ListsTopLevelWindowsInOrderWithTheirTitles) {
     const auto listed = EnumerateWindows(windows);

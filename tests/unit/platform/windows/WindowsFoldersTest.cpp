@@ -1,4 +1,4 @@
-// Where the system keeps things, and the store of what was deleted.
+// Tests the system's folders and the recycle bin.
 
 #include "common/text/CaseFold.h"
 #include "platform/windows/RecycleStore.h"

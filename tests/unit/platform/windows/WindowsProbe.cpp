@@ -1,7 +1,7 @@
-// A program for tests to start. `arguments FILE EVENT ...` writes how it was started into the file and sets
-// the event; `copy FILE EVENT` and `early FILE EVENT` are a running copy, with its main window or before that
-// is there, which sets the event when it is ready, adds each path that comes to the file, and ends at the
-// path "end".
+// A program that tests start. `arguments FILE EVENT ...` writes to the file how it was started and sets the
+// event. `copy FILE EVENT` is a running copy with its main window, and `early FILE EVENT` is one that has no
+// main window yet. Both set the event when they are ready, write each path that they get to the file, and end
+// at the path "end".
 
 #include "common/text/Text.h"
 #include "platform/windows/Win32CommandBox.h"

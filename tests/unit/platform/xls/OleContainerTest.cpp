@@ -16,7 +16,7 @@ std::string File(const std::string& stream) {
     return container.Front() + stream + container.Back();
 }
 
-/// No two sectors of it are alike.
+/// A stream of this size. All its sectors are different.
 std::string Stream(std::size_t size) {
     std::string stream;
     for (U32 i = 0; stream.size() < size; ++i)
@@ -41,7 +41,7 @@ TEST(OleContainer, ASmallStreamIsFilledUp) {
 }
 
 TEST(OleContainer, TheTableOfSectorsHoldsItsOwnSectorsAtEverySize) {
-    // Around the sizes at which the table needs a second sector.
+    // At one of these sizes the table begins to need a second sector.
     for (std::size_t sectors = 120; sectors <= 136; ++sectors) {
         const std::string stream = Stream(sectors * 512);
         EXPECT_EQ(ReadOleStream(File(stream), u"Workbook"), stream) << sectors;
@@ -49,7 +49,7 @@ TEST(OleContainer, TheTableOfSectorsHoldsItsOwnSectorsAtEverySize) {
 }
 
 TEST(OleContainer, AFilePastSevenMegabytesListsItsTableInSectorsOfTheirOwn) {
-    // The first sector lists 109 sectors of the table, for 109 * 128 sectors in all.
+    // The first sector has room for 109 sectors of the table, which can list 109 * 128 sectors in all.
     for (const std::size_t sectors : {109u * 128 - 112, 109u * 128 - 111, 109u * 128 - 109, 109u * 128}) {
         const std::string stream = Stream(sectors * 512);
         EXPECT_EQ(ReadOleStream(File(stream), u"Workbook"), stream) << sectors;

@@ -12,7 +12,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::size_t kMaxData = 8224;
-/// The counts before the first text, then its length and width.
+/// The sizes of the counts before the first text, and of a text's length and width.
 constexpr std::size_t kCounts = 8;
 constexpr std::size_t kHead = 3;
 
@@ -96,7 +96,7 @@ TEST(SharedStrings, ATextOfOneCharacterMoreGoesOnInARecordThatRepeatsItsWidth) {
 }
 
 TEST(SharedStrings, AWideCharacterIsNeverCut) {
-    // The room is odd: one byte of it stays unused.
+    // The room is an odd number of bytes, so one byte stays unused.
     const auto records = RecordsOf({Text(kMaxData / 2, u'\u4E2D')});
     ASSERT_EQ(records.size(), 2u);
     EXPECT_EQ(records[0].data.size(), kMaxData - 1);
@@ -105,7 +105,7 @@ TEST(SharedStrings, AWideCharacterIsNeverCut) {
 }
 
 TEST(SharedStrings, AHeadWithoutRoomForACharacterGoesToTheNextRecord) {
-    // After the first text, 0 to 5 bytes are free.
+    // After the first text 0 to 5 bytes are free.
     for (std::size_t room = 0; room <= 5; ++room) {
         const Text first(kMaxData - kCounts - kHead - room, u'x');
         const auto narrow = RecordsOf({first, u"yz"});

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
 
-/// The number of the palette's colour 35 in files.
+/// The file's number for colour 35 of the palette.
 constexpr int kLightGreen = 42;
 constexpr PlainFormat kPlain;
 constexpr PlainFormat kWrapped{true, 0};
@@ -22,7 +22,7 @@ constexpr PlainFormat kWrapped{true, 0};
 class StringFile final : public FileWriter {
 public:
     std::string bytes;
-    /// Takes this many bytes and then is full.
+    /// A write fails when the file would become larger than this.
     std::size_t room = std::string().max_size();
 
     bool Write(std::string_view more) override {
@@ -39,7 +39,7 @@ PlainXls WrittenAndRead(const Workbook& book) {
     return ReadXls(file.bytes);
 }
 
-/// What a cell with this text has in the file.
+/// The text that the file stores for a cell with this text.
 Text Stored(TextView text) {
     Workbook book;
     book.SetText({0, 0}, text);
@@ -186,7 +186,7 @@ TEST(XlsWriter, AColumnOf32CharactersIsAsWideAsThese) {
     Workbook book;
     book.SetColumnWidth(0, 32);
     book.SetColumnWidth(23, 255);
-    // 32 characters of 7 pixels and 5 around them, in 256ths of a character.
+    // The width is 32 characters of 7 pixels and 5 pixels of margin, in 256ths of a character.
     EXPECT_THAT(WrittenAndRead(book).columnWidths, ElementsAre(Pair(0, 8374), Pair(23, 65462)));
 }
 
