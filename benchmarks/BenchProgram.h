@@ -20,7 +20,7 @@
 
 namespace korvane::bench {
 
-/// A screen without windows.
+/// Ignores all windows.
 class NoForms final : public FormHost {
 public:
     void RunModal(Form&) override {}
@@ -38,7 +38,7 @@ public:
     void ClearDirty() override {}
 };
 
-/// The program with one tab, on the real disk; its clock stands still, so that nothing waits.
+/// The program with one tab on the real disk. Its clock doesn't move, so it never waits.
 class BenchProgram {
 public:
     MemoryClock clock;
@@ -57,12 +57,12 @@ public:
     TableHistory history{table, host};
     TabContext tab{app, table, host, &history};
 
-    /// Loads the table at the limit. Ends the program when that fails: no figure would mean anything.
+    /// Loads the table at the limit. If this fails the process ends, because the figures would mean nothing.
     void Load();
     void Load(const std::string& path);
 };
 
-/// Seconds of processor time that the calling thread has used.
+/// The processor time of the calling thread in seconds.
 double ThreadSeconds();
 
 template <class Work>

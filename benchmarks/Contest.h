@@ -7,8 +7,8 @@
 
 namespace korvane::bench {
 
-/// Runs a floor and the work that is held against it by turns, and reports the medians of their processor
-/// times and the ratio of these.
+/// Collects the times of a floor and of the work that is compared with it. They run by turns, and the report
+/// has the medians of their processor times and the ratio of the two.
 class Contest {
 public:
     explicit Contest(benchmark::State& state) : state_(state) {}

@@ -13,7 +13,7 @@ namespace korvane::bench {
 
 namespace {
 
-/// Floor: the file's bytes copied into a fresh buffer. The copied text takes nearly twice as many.
+/// The floor copies the file's bytes into a new buffer. The copied text has nearly twice as many bytes.
 void CopyTable(benchmark::State& state) {
     const std::string& file = LimitTableBytes();
     BenchProgram program;

@@ -1,4 +1,4 @@
-// The least that a program with a window can do: the window, and nothing in it.
+// Shows an empty window, which is the least that a program with a window can do.
 
 #include "FirstPaint.h"
 

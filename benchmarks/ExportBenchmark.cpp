@@ -27,7 +27,7 @@ private:
     Text path_;
 };
 
-/// Floor: the bytes of the exported file copied into a fresh buffer and written to a new file at once.
+/// The floor copies the bytes of the exported file into a new buffer and writes them to a new file at once.
 void ExportXls(benchmark::State& state) {
     const std::string path = LimitTablePath() + ".xls";
     OneFile dialog(path);

@@ -12,7 +12,7 @@ namespace korvane::bench {
 
 namespace {
 
-/// Floor: one memmem over the file's bytes. The text isn't there, so that both look at everything.
+/// The floor is one memmem over the file's bytes. No cell contains the text, so both search everything.
 void Find(benchmark::State& state, const std::string& text) {
     const std::string& file = LimitTableBytes();
     BenchProgram program;

@@ -17,7 +17,7 @@ namespace {
 void End() {
     std::printf("%lld\n", static_cast<long long>(NanosecondsNow()));
     std::fflush(stdout);
-    // Nothing of the end is to be measured.
+    // The process ends without any clean-up, which isn't part of the measurement.
     _exit(0);
 }
 
@@ -32,7 +32,7 @@ bool EndAtFirstPaint::eventFilter(QObject* receiver, QEvent* event) {
     const auto* widget = qobject_cast<const QWidget*>(receiver);
     if (event->type() == QEvent::Paint && widget != nullptr && isWatched_(*widget)) {
         QCoreApplication::instance()->removeEventFilter(this);
-        // The whole window is painted and shown before the next event.
+        // Qt paints and shows the whole window before the timer fires.
         QTimer::singleShot(0, &End);
     }
     return false;

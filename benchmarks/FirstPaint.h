@@ -7,11 +7,10 @@ class QWidget;
 
 namespace korvane::bench {
 
-/// Ends the process as soon as a widget has been painted and what was painted has been handed to the screen,
-/// and prints at which moment that was.
+/// Ends the process as soon as a watched widget has been painted and shown, and prints the time.
 class EndAtFirstPaint final : public QObject {
 public:
-    /// `isWatched` picks the widget.
+    /// `isWatched` tells whether a widget is the watched one.
     explicit EndAtFirstPaint(std::function<bool(const QWidget&)> isWatched);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;

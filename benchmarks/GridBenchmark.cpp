@@ -6,7 +6,7 @@ namespace korvane::bench {
 
 namespace {
 
-/// What a view asks for when it paints 40 rows somewhere in the table.
+/// Reads what a view needs to paint 40 rows somewhere in the table.
 void PaintScreen(benchmark::State& state) {
     BenchProgram program;
     program.Load();
@@ -31,7 +31,7 @@ void SortByFirstColumn(benchmark::State& state) {
     }
 }
 
-/// The second column takes the texts of the first, cell by cell.
+/// Copies the texts of the first column to the second, cell by cell.
 void RewriteColumn(benchmark::State& state) {
     BenchProgram program;
     program.Load();

@@ -14,7 +14,8 @@ namespace {
 constexpr int kLines = 30'000;
 constexpr int kCells = 12;
 
-/// 30,000 lines of 12 cells of 8 to 23 characters, as another program puts them into the clipboard.
+/// A text of 30,000 lines with 12 cells of 8 to 23 characters each, as another program puts it into the
+/// clipboard.
 const Text& TabbedText() {
     static const Text text = [] {
         constexpr TextView kWords = u"Marlowe Street 14, second floor";
@@ -30,7 +31,7 @@ const Text& TabbedText() {
     return text;
 }
 
-/// A user who retrieves whatever the clipboard holds.
+/// A user who always retrieves the text in the clipboard.
 class Retrieving final : public ClipboardView {
 public:
     void Show() override {}
@@ -44,7 +45,8 @@ std::ptrdiff_t CountEnds(TextView text) {
     return ends;
 }
 
-/// Floor: the clipboard's text, copied as the clipboard hands it out, and one look at each of its characters.
+/// The floor copies the clipboard's text, as the clipboard does when it is read, and looks at each character
+/// once.
 void Import(benchmark::State& state) {
     Retrieving view;
     Contest contest(state);

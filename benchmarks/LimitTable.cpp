@@ -48,7 +48,7 @@ constexpr std::array<std::string_view, 32> kWords{"the",
                                                   "lent",
                                                   "out,"};
 
-/// A sequence of numbers that looks like chance and is the same everywhere.
+/// Numbers that look random but are the same on every machine.
 class Chance {
 public:
     std::uint32_t Below(std::uint32_t bound) {
@@ -92,7 +92,7 @@ private:
             Put("\n");
         }
     }
-    /// 20 to 70 bytes; one text in twelve has several lines.
+    /// Adds a text of 20 to 70 bytes. One text in twelve has several lines.
     void PutText() {
         const std::size_t wanted = bytes_.size() + 16 + chance_.Below(50);
         const bool inLines = chance_.OneIn(12);

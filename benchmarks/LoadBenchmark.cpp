@@ -20,7 +20,7 @@ std::size_t CountCr(std::string_view bytes) {
     return count;
 }
 
-/// `floor()` hands out what it made, so that freeing it isn't measured.
+/// `floor` returns what it made, so that the time for freeing it isn't counted.
 template <class Floor>
 void HoldAgainst(const Floor& floor, benchmark::State& state) {
     LimitTablePath();
@@ -34,7 +34,7 @@ void HoldAgainst(const Floor& floor, benchmark::State& state) {
     }
 }
 
-/// Floor: the file read into a fresh buffer, and memchr from each CR to the next.
+/// The floor reads the file into a new buffer and goes from each CR to the next with memchr.
 void Load(benchmark::State& state) {
     const auto floor = [] {
         RawFile raw = ReadRaw(LimitTablePath());
@@ -44,8 +44,8 @@ void Load(benchmark::State& state) {
     HoldAgainst(floor, state);
 }
 
-/// The same with the file read as the program does, into large pages where there are any: what is left is the
-/// work on the bytes.
+/// This floor reads the file as the program does, into large pages where the system has them. The difference
+/// is the work on the bytes.
 void LoadOverOwnReading(benchmark::State& state) {
     const auto floor = [] {
         auto bytes = NativeFileSystem(u"/").ReadAll(FromUtf8(LimitTablePath()));

@@ -15,7 +15,7 @@ namespace korvane::bench {
 
 namespace {
 
-/// The pages of this process that are in memory, counted one by one.
+/// The resident memory of this process. In this file the kernel has counted it page by page.
 long ResidentKilobytes() {
     std::ifstream pages("/proc/self/smaps_rollup");
     for (std::string word; pages >> word;)
@@ -32,7 +32,7 @@ double ResidentGrowth() {
     return bytes;
 }
 
-/// Floor: the size of the file.
+/// The floor is the size of the file.
 void Memory(benchmark::State& state) {
     const auto fileSize = static_cast<double>(LimitTableBytes().size());
     double growth = 0;

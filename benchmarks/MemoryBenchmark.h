@@ -4,10 +4,11 @@
 
 namespace korvane::bench {
 
-/// In a process of its own: prints the bytes that a load of the file adds to the resident memory.
+/// Loads the file and prints by how many bytes the resident memory grows. It must run in a process of its
+/// own.
 int PrintResidentGrowth(const std::string& path);
 
-/// The option that asks for this, followed by the path.
+/// The option for this. The path of the file comes after it.
 inline constexpr const char* kResidentGrowthOption = "--resident-growth";
 
 } // namespace korvane::bench

@@ -5,7 +5,7 @@
 
 namespace korvane::bench {
 
-/// A moment that means the same in every process of the machine.
+/// The present time on a clock that is the same for all processes of the machine.
 inline std::int64_t NanosecondsNow() {
     return std::chrono::duration_cast<std::chrono::nanoseconds>(
                std::chrono::steady_clock::now().time_since_epoch())

@@ -8,7 +8,7 @@
 
 namespace korvane::bench {
 
-/// A user who does one thing in one kind of modal window; every other window closes at once.
+/// A user who does one thing in modal windows of one class, and closes all other windows at once.
 class ProceedingUser final : public FormHost {
 public:
     template <class Window, class Act>

@@ -7,7 +7,7 @@
 
 namespace korvane::bench {
 
-/// A file's bytes in a fresh buffer: the least that any reading takes.
+/// The bytes of a file in a new buffer. No way of reading a file can do less.
 struct RawFile {
     std::unique_ptr<char[]> bytes;
     std::size_t size = 0;
@@ -16,7 +16,7 @@ struct RawFile {
 };
 
 RawFile ReadRaw(const std::string& path);
-/// Makes the file with one write.
+/// Creates the file with one write.
 void WriteRaw(const std::string& path, std::string_view bytes);
 
 } // namespace korvane::bench

@@ -13,7 +13,7 @@ namespace korvane::bench {
 
 namespace {
 
-/// Floor: the bytes copied into a fresh buffer and written to a new file at once.
+/// The floor copies the bytes into a new buffer and writes them to a new file at once.
 void Save(benchmark::State& state) {
     const std::string& bytes = LimitTableBytes();
     const std::string path = LimitTablePath() + ".saved";

@@ -1,5 +1,5 @@
-// How long the program takes from its start to the first painted table, against an empty window, on a display
-// of its own.
+// Measures the time from the program's start to the first painted table and compares it with an empty window.
+// All programs run on a display of their own.
 
 #include "LimitTable.h"
 #include "Moment.h"
@@ -40,7 +40,7 @@ double ToSeconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
-/// Starts a program that prints the moment at which it stands, and ends then.
+/// Starts a program that ends at its first paint and prints the time of that.
 Seconds TimeOf(std::vector<std::string> command) {
     std::vector<char*> words;
     for (std::string& word : command)
@@ -73,7 +73,7 @@ double Median(std::vector<double> seconds) {
     return *middle;
 }
 
-/// One of the starts that take turns.
+/// One of the programs that are started by turns.
 struct Start {
     const char* name;
     std::vector<std::string> command;
@@ -99,8 +99,8 @@ void Report(const std::vector<Start>& starts) {
     }
 }
 
-/// A home of its own with a copy of the program, which keeps its state beside itself, and the shipped
-/// settings.
+/// A home folder with the shipped settings and a copy of the program, which keeps its state in its own
+/// folder.
 class Home {
 public:
     Home() {
@@ -133,7 +133,7 @@ void Measure(int rounds) {
         {"Korvane with the sample of books", {home.Program(), KORVANE_SOURCE_DIR "/samples/Books.tbx"}},
         {"Korvane with a table at the limit", {home.Program(), LimitTablePath()}},
     };
-    // Once without counting, so that all files are in memory.
+    // The first start of each program isn't counted. It brings all files into memory.
     for (const Start& start : starts)
         TimeOf(start.command);
     for (int round = 0; round < rounds; ++round)

@@ -1,4 +1,4 @@
-// The program as it is, but that it ends when the table has been painted for the first time.
+// The real program, except that it ends when the table has been painted for the first time.
 
 #include "FirstPaint.h"
 #include "app/Application.h"
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The area with the cells of a table: the sidebar is a grid, too.
+/// Whether the widget shows the cells of a table. The sidebar is a grid too, but it is not meant.
 bool IsTable(const QWidget& widget) {
     const auto* grid = qobject_cast<const korvane::GridView*>(widget.parentWidget());
     const bool isSideBar = qobject_cast<const korvane::SideBarView*>(grid) != nullptr;

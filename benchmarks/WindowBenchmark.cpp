@@ -1,5 +1,5 @@
-// What the user waits for in the main window: a further tab, another style of the tabs, the sidebar. On a
-// display of its own.
+// Measures what the user waits for in the main window: another tab, another style of the tabs, and the
+// sidebar. The program runs on a display of its own.
 
 #include "Moment.h"
 #include "SourceTree.h"
@@ -55,7 +55,7 @@ double ProcessorSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// The main window on the screen, with its files in memory.
+/// The main window on the screen. Its files are in memory.
 class Window {
 public:
     Window() {
@@ -76,16 +76,17 @@ public:
 
     void Open(int number) { main.Parts().pipeline.OpenDatabase(PathOf(number), LoadInto::NewTab); }
     void Run(std::string_view command) { main.RunCommand(command); }
-    /// Until everything is painted.
+    /// Runs the event loop until everything is painted.
     void Settle() {
-        // What an event leads to may ask for a paint of its own.
+        // An event may lead to other events, and these may ask for a paint.
         for (int turn = 0; turn < 3; ++turn) {
             QCoreApplication::sendPostedEvents();
             QCoreApplication::processEvents();
         }
     }
 
-    /// At once, whether the window system asks for it or not: no less than a user waits for.
+    /// Paints everything now, even if the window system hasn't asked for it yet. A user would wait for at
+    /// least this.
     void PaintAll() {
         for (QWidget* shown : QApplication::topLevelWidgets()) {
             if (shown->isVisible()) shown->repaint();
@@ -153,7 +154,8 @@ void MeasureTabs(int rounds) {
     Report("opening the 100th tab", last);
 }
 
-/// Whether the window system asks for the paint that a command makes necessary while it is waited for.
+/// Whether the window system asks for the paint after a command while the benchmark waits, or must be told
+/// to.
 enum class Paints { Itself, WhenTold };
 
 void MeasureCommand(const char* what, std::string_view command, Paints paints) {

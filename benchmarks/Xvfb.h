@@ -4,8 +4,8 @@
 
 namespace korvane::bench {
 
-/// A display in memory, which the environment names as long as this lives. Ends the program when there is
-/// none.
+/// A display in memory. The environment names it while this object lives. The program ends when there is no
+/// Xvfb.
 class Xvfb {
 public:
     Xvfb();

@@ -1,4 +1,4 @@
-// Any bytes as a table's file: a file that is found to be sound is the same table after a rewrite.
+// Takes any bytes as a table's file. If the file has no faults, a rewritten file must contain the same table.
 
 #include "tbx/Dump.h"
 #include "tbx/FileCheck.h"

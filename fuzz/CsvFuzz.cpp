@@ -1,5 +1,5 @@
-// Any bytes as a CSV file: the reader comes to an end, and it reads again what the writer makes of what it
-// has read.
+// Takes any bytes as a CSV file. The reader must come to an end, and it must read the same records from what
+// the writer makes of them.
 
 #include "tbx/CsvReader.h"
 #include "tbx/CsvRows.h"

@@ -1,5 +1,5 @@
-// Any bytes as the record of recent files, with loads after it: it is read without a word, never grows past
-// its lines, and what is written of it comes back.
+// Takes any bytes as the record of recent files, and then loads a few files. The record must be read without
+// a message and must never grow past its lines, and reading it after writing it must give the same entries.
 
 #include "StateStage.h"
 #include "common/number/DateTime.h"
@@ -46,8 +46,8 @@ void RequireThatItComesBack(const RecentRecord& record, StateStage& stage) {
     Require(same && again.RecentNext == static_cast<int>(kept.size()) + 1, "what is written comes back");
 }
 
-/// A first byte says how many loads follow; the paths are the ends of the record itself, so that they are
-/// found in it now and then.
+/// The first byte says how many loads there are. Their paths are the ends of the record itself, so that the
+/// record sometimes contains them already.
 void Check(std::string_view bytes) {
     const std::size_t loads = bytes.empty() ? 0 : static_cast<unsigned char>(bytes[0]) % kMostLoads;
     if (!bytes.empty()) bytes.remove_prefix(1);

@@ -1,4 +1,5 @@
-// Any bytes as a settings file: they are read without a word, and what is written of them comes back.
+// Takes any bytes as a settings file. They must be read without a message, and reading them after writing
+// them must give the same settings.
 
 #include "StateStage.h"
 #include "common/settings/Settings.h"
@@ -16,14 +17,14 @@ struct Pair {
     std::int32_t Settings::*first;
     std::int32_t Settings::*second;
 };
-/// What the writer exchanges.
+/// The writer exchanges the members of these pairs.
 constexpr std::array kExchanged{
     Pair{&Settings::WordListWidth, &Settings::WordListHeight},
     Pair{&Settings::SymbolsTop, &Settings::SymbolsLeft},
     Pair{&Settings::SymbolsWidth, &Settings::SymbolsHeight},
 };
 
-/// Texts that are read as numbers, and written as they stand while no line has set them.
+/// These texts are read as numbers. While no line has set one, it is written as it is.
 constexpr std::array kNumberTexts{&Settings::FileDialogFilter, &Settings::PageSizeName,
                                   &Settings::WallpaperNumber};
 

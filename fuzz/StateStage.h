@@ -17,7 +17,7 @@
 
 namespace korvane {
 
-/// Nobody sits in front of the program, and nothing may have to be told.
+/// A user who must never be shown a message.
 class SilentUser final : public MessageBoxes, public FormHost {
 public:
     Answer Show(const Message&) override {
@@ -31,7 +31,7 @@ public:
     void Raise(Form&) override {}
 };
 
-/// An App on a disk in memory, for the readers and writers of the state files.
+/// An App on an in-memory disk for the readers and writers of the state files.
 class StateStage {
 public:
     StateStage() {

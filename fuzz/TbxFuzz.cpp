@@ -1,5 +1,5 @@
-// Any bytes as a table's file: the table is that of a plain reader, and comes back from what is written of
-// it.
+// Takes any bytes as a table's file. The table must be the one that a plain reader gives, and reading it
+// after writing it must give the same table.
 
 #include "Require.h"
 #include "common/text/CodePage.h"
@@ -18,7 +18,7 @@
 namespace korvane {
 namespace {
 
-/// Small, so that what doesn't fit into one comes up.
+/// The chunk is small, so that often something doesn't fit into one.
 constexpr std::size_t kChunk = 64;
 
 class NoHost final : public TableHost {
@@ -59,8 +59,8 @@ std::string Save(const Table& table) {
     return file.bytes;
 }
 
-/// Whether the table comes back from a file as it is: no row is marked, no text ends in a line break, and
-/// there is a row, without which no columns are made.
+/// Whether the table is the same after it is written and read: no row is marked, no text ends in a line
+/// break, and there is at least one row, because without rows no columns are made.
 bool Survives(const Grid& grid) {
     for (Row row{1}; row <= grid.RowCount(); ++row) {
         if (grid.CellBytes(row, Col{1}) == "---") return false;
