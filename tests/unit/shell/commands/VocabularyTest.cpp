@@ -32,8 +32,8 @@ namespace {
 using testing::ElementsAreArray;
 using Lines = std::vector<std::string>;
 
-// Name, caption and the key that is bound, if any. Some captions name keys that aren't theirs, and some menus have
-// a mnemonic twice. Kept for compatibility: captions-name-other-keys.
+// Name, caption and the key that is bound, if any. Some captions name keys that aren't theirs, and some menus
+// have a mnemonic twice. Kept for compatibility: captions-name-other-keys.
 constexpr std::string_view kMenuBar = R"(
 mnuFile | &File
     mnuFile_Open | &Open database (new tab) | Ctrl+O
@@ -325,35 +325,6 @@ std::string Joined(std::initializer_list<std::string> fields) {
     for (const std::string& field : fields)
         line += (line.empty() ? "" : " | ") + field;
     return line;
-}
-
-std::string NameOf(CommandTarget target) {
-    static const std::map<CommandTarget, std::string> kNames{{CommandTarget::Menu, "menu"},
-                                                             {CommandTarget::Tab, "tab"},
-                                                             {CommandTarget::NewTab, "new tab"},
-                                                             {CommandTarget::Main, "main"}};
-    return kNames.at(target);
-}
-
-std::string NameOf(GridKey::Target target) {
-    static const std::map<GridKey::Target, std::string> kNames{
-        {GridKey::Target::Tab, "tab"},
-        {GridKey::Target::TabThenFocus, "tab, then focus"},
-        {GridKey::Target::Main, "main"}};
-    return kNames.at(target);
-}
-
-std::string NameOfKey(const GridKey& key) {
-    const auto modifier = [&key](int mask, const char* name) {
-        return key.mask != GridKey::kAnyMask && (key.mask & mask) != 0 ? name : "";
-    };
-    std::string name = key.mask == GridKey::kAnyMask ? "any " : "";
-    name =
-        name + modifier(Mask::Ctrl, "Ctrl+") + modifier(Mask::Shift, "Shift+") + modifier(Mask::Alt, "Alt+");
-    const bool function = key.code >= Key::F1;
-    name +=
-        function ? "F" + std::to_string(key.code - Key::F1 + 1) : std::string(1, static_cast<char>(key.code));
-    return key.swallowed ? name : "(" + name + ")";
 }
 
 // Kept for compatibility: captions-name-other-keys.
