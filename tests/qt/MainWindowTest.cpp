@@ -10,6 +10,7 @@
 #include "platform/qt/tabs/TabLook.h"
 #include "platform/qt/tabs/TabPages.h"
 #include "shell/commands/Commands.h"
+#include "shell/commands/MainRoutines.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "support/TableBytes.h"
@@ -107,7 +108,7 @@ TEST_F(MainWindowAtStart, TheTableHasTheKeyboardBeforeTheFirstKeyCanCome) {
 }
 
 TEST_F(MainWindowTest, TheWindowThatComesToTheFrontLeavesTheKeyboardWhereItWas) {
-    main.mnuSwitchFocus_Click();
+    mnuSwitchFocus_Click(main.Parts());
     ASSERT_EQ(QApplication::focusWidget(), &Part<SideBarView>("iGridListBar"));
     QEvent activated(QEvent::WindowActivate);
     for (QWidget* widget : Window().findChildren<QWidget*>())
