@@ -10,6 +10,19 @@
 
 namespace korvane {
 
+namespace {
+
+bool HasTextsFrom(const CellTable& cells, std::size_t firstCol) {
+    for (std::size_t row = 0; row < cells.Rows(); ++row) {
+        const auto handles = cells.Row(row);
+        if (!handles.empty() && !std::ranges::all_of(handles.subspan(firstCol), &TextHandle::IsEmpty))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 GridStore::GridStore(const CodePage& page) : texts_(page) {}
 
 GridStore::~GridStore() = default;
@@ -215,19 +228,12 @@ std::optional<std::string_view> GridStore::CellBytes(Row row, Col col) const {
 }
 
 void GridStore::ShiftTextsRight(Col first) {
-    if (!HasCol(first) || !HasTextsFrom(first)) return;
+    if (!HasCol(first) || !HasTextsFrom(cells_, Index(first))) return;
     if (noted_) return noted_->Do(*this, Changes::ShiftNote{first});
     GiveUpTexts(ColCount(), ColCount());
     cells_.ShiftRight(Index(first));
     notifier_.TableChanged();
     PackTextsIfWorthwhile();
-}
-
-bool GridStore::HasTextsFrom(Col first) const {
-    for (Row row{1}; row <= RowCount(); ++row)
-        for (Col col = first; col <= ColCount(); ++col)
-            if (!HandleAt(row, col).IsEmpty()) return true;
-    return false;
 }
 
 void GridStore::GiveUpTexts(std::size_t firstRow) {

@@ -108,7 +108,6 @@ private:
         Text key;
         Text header;
         int width = kDefaultColWidth;
-        bool operator==(const Column&) const = default;
     };
     /// What a row has only once, such as its height and the check box of column 1.
     struct RowState {
@@ -117,14 +116,12 @@ private:
         bool hasHeight = false;
         bool visible = true;
         bool checkShown = false;
-        bool operator==(const RowState&) const = default;
     };
     struct Look {
         Colour back = kNoColour;
         Colour fore = kNoColour;
         Text fontName;
         int fontSize = 0;
-        bool operator==(const Look&) const = default;
     };
 
     class Finder;
@@ -145,7 +142,6 @@ private:
     /// Gives back the looks that the column had.
     LookTable::ColumnLooks EraseCol(Col col);
     void PermuteRows(std::span<const std::size_t> order);
-    bool HasTextsFrom(Col first) const;
     void GiveUpTexts(std::size_t firstRow);
     void GiveUpTexts(Col firstCol, Col lastCol);
     void PackTextsIfWorthwhile();

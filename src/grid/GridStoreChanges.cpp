@@ -178,21 +178,41 @@ void GridStore::Changes::Turner::operator()(OrderNote& note) {
 /// Tells whether what a note is about is as it was then. Of rows and columns that came, went or moved it
 /// isn't.
 class GridStore::Changes::Comparison {
+    // All of what each has: a new field doesn't compile until it is here.
+    static auto Parts(const RowState& state) {
+        const auto& [height, check, hasHeight, visible, checkShown] = state;
+        return std::tie(height, check, hasHeight, visible, checkShown);
+    }
+    static auto Parts(const LookTable::RowLooks& looks) {
+        const auto& [row, others] = looks;
+        return std::tie(row, others);
+    }
+    static auto Parts(const Column& column) {
+        const auto& [key, header, width] = column;
+        return std::tie(key, header, width);
+    }
+    static auto Parts(const Look& look) {
+        const auto& [back, fore, fontName, fontSize] = look;
+        return std::tie(back, fore, fontName, fontSize);
+    }
+
 public:
     explicit Comparison(const GridStore& grid) : grid_(grid) {}
 
     bool operator()(const TextNote& note) const { return grid_.CellValue(note.row, note.col) == note.other; }
     bool operator()(const RowNote& note) const {
-        return grid_.HasRow(note.row) && grid_.rows_[Index(note.row)] == note.other;
+        return grid_.HasRow(note.row) && Parts(grid_.rows_[Index(note.row)]) == Parts(note.other);
     }
     bool operator()(const CellLookNote& note) const { return grid_.LookAt(note.row, note.col) == note.other; }
     bool operator()(const RowLooksNote& note) const {
-        return grid_.HasRow(note.row) && grid_.looks_.OfRow(Index(note.row)) == note.other;
+        if (!grid_.HasRow(note.row)) return false;
+        const LookTable::RowLooks now = grid_.looks_.OfRow(Index(note.row));
+        return Parts(now) == Parts(note.other);
     }
     bool operator()(const ColumnNote& note) const {
-        return grid_.HasCol(note.col) && grid_.cols_[Index(note.col)] == *note.other;
+        return grid_.HasCol(note.col) && Parts(grid_.cols_[Index(note.col)]) == Parts(*note.other);
     }
-    bool operator()(const LookNote& note) const { return grid_.look_ == *note.other; }
+    bool operator()(const LookNote& note) const { return Parts(grid_.look_) == Parts(*note.other); }
     template <class Other>
     bool operator()(const Other&) const {
         return false;

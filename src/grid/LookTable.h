@@ -38,7 +38,6 @@ public:
         CellLook row;
         /// The cells that look different, by column.
         std::vector<std::pair<std::size_t, CellLook>> others;
-        bool operator==(const RowLooks&) const = default;
     };
     /// The looks of one column's cells.
     struct ColumnLooks {

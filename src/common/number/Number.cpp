@@ -1,7 +1,6 @@
 #include "common/number/Number.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <type_traits>
@@ -81,39 +80,6 @@ std::string Decimal(double number) {
     return digits;
 }
 
-/// A number other than 0 as "0.digits" times a power of ten.
-struct DigitsAndPower {
-    bool negative;
-    std::string digits;
-    int power;
-
-    std::string Decimal() const {
-        const auto count = static_cast<int>(digits.size());
-        std::string decimal = std::string(static_cast<std::size_t>(std::max(-power, 0)), '0') + digits;
-        decimal.append(static_cast<std::size_t>(std::max(power - count, 0)), '0');
-        if (power <= 0)
-            decimal.insert(0, "0.");
-        else if (power < count)
-            decimal.insert(static_cast<std::size_t>(power), 1, '.');
-        return negative ? '-' + decimal : decimal;
-    }
-};
-
-DigitsAndPower Rounded(double number, int significantDigits) {
-    std::array<char, kLongestNumber> buffer{};
-    const char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(number),
-                                          std::chars_format::scientific, significantDigits - 1)
-                                .ptr;
-    const char* const exponent = std::find(std::as_const(buffer).data(), end, 'e');
-    std::string digits(std::as_const(buffer).data(), exponent);
-    std::erase(digits, '.');
-    digits.resize(digits.find_last_not_of('0') + 1);
-    int power = 0;
-    const char* const sign = exponent + 1;
-    std::from_chars(*sign == '+' ? sign + 1 : sign, end, power);
-    return {number < 0, std::move(digits), power + 1};
-}
-
 std::size_t FirstDigit(std::string_view decimal) {
     return decimal.starts_with('-') ? 1 : 0;
 }
@@ -152,10 +118,6 @@ double RoundHalfEven(double number) {
 
 Text NumberText(double number) {
     return number == 0 ? u"0" : FromAscii(Decimal(number));
-}
-
-Text NumberText(double number, int significantDigits) {
-    return number == 0 ? u"0" : FromAscii(Rounded(number, significantDigits).Decimal());
 }
 
 Text FormatGroupedWhole(long long number) {

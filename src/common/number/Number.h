@@ -42,8 +42,6 @@ bool ReadNumber(std::string_view bytes, Int& field) {
 /// A finite number as it is written to files and cells in any locale: the fewest digits that read back as the
 /// same double, with "." as the point, without a blank at the beginning and without an exponent.
 Text NumberText(double number);
-/// The same with so many significant digits at most, as a person wants to read the outcome of a calculation.
-Text NumberText(double number, int significantDigits);
 /// The whole number in decimal, without a blank at the beginning.
 template <std::integral Int>
 Text NumberText(Int number) {

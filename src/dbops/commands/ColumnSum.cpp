@@ -1,6 +1,7 @@
 #include "dbops/commands/ColumnSum.h"
 
 #include "common/number/Number.h"
+#include "common/number/RoundedNumber.h"
 #include "context/App.h"
 #include "dbops/rules/DeleteMark.h"
 #include "dbops/rules/Rows.h"
@@ -41,7 +42,7 @@ void AppendTotal(Grid& grid, Col col, double sum) {
     grid.SetRowCount(total);
     grid.SetCellCheckShown(total, true);
     grid.SetRowHeight(total, grid.RowHeight(Row{1}));
-    grid.SetCellValue(total, col, NumberText(sum, kDigitsOfTotal));
+    grid.SetCellValue(total, col, RoundedNumberText(sum, kDigitsOfTotal));
     if (col > Col{1}) grid.SetCellValue(total, col - 1, u"Total:");
 }
 
