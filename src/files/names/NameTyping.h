@@ -9,7 +9,8 @@
 
 namespace korvane {
 
-// The words that keep a small first letter. The two lists differ: kept for compatibility.
+// The words that keep a small first letter. The two lists differ. Kept for
+// compatibility: two-lists-of-capital-words.
 std::span<const TextView> SmallWordsOfNewFolders();
 std::span<const TextView> SmallWordsOfNewNames();
 

@@ -11,7 +11,8 @@ namespace korvane {
 
 namespace {
 
-// The boxes of this window break their lines by carriage returns alone. Kept for compatibility.
+// The boxes of this window break their lines by carriage returns alone. Kept for compatibility:
+// duplicate-boxes-break-by-cr.
 
 Message MustDiffer(const Text& source, const Text& target) {
     return {u"Files must be different!\r\rSource :  " + source + u"\rTarget  :  " + target + u"\r",

@@ -55,7 +55,7 @@ void frmRenFile::cmdBufferName_Click() {
 
 void frmRenFile::cmdUnderscores_Click() {
     // Outer blanks become underscores too, other than by the key that the caption names. Kept for
-    // compatibility.
+    // compatibility: underscore-key-trims.
     Text name = Text2.Text;
     std::ranges::replace(name, u' ', u'_');
     Text2.Text = name;

@@ -19,7 +19,7 @@ bool IsPlaceholder(TextView key) {
     return key.ends_with(u'\0');
 }
 
-/// Drive B is shown as any other one. Kept for compatibility.
+/// Drive B is shown as any other one. Kept for compatibility: drive-b-without-label.
 Text DriveText(const Drive& drive) {
     const Text entry = ToUpper(drive.entry);
     return entry.starts_with(u"A:") ? u"A:[ Floppy Disk ]" : entry;

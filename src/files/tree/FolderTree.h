@@ -33,7 +33,7 @@ public:
     /// Takes the folder, which has gone from the disk, out of the tree.
     void Remove(TextView folder);
 
-    /// The root counts as one. Kept for compatibility.
+    /// The root counts as one. Kept for compatibility: tree-of-21-levels.
     static constexpr std::size_t kMostLevels = 21;
 
 private:

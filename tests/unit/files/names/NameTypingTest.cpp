@@ -24,7 +24,8 @@ TEST(UnderscoreCapsTest, OuterBlanksGoAndInnerOnesBecomeUnderscores) {
     EXPECT_EQ(NewName(u"   "), u"");
 }
 
-TEST(UnderscoreCapsTest, TheTwoListsDifferDeliberately) {
+// Kept for compatibility: two-lists-of-capital-words.
+TEST(UnderscoreCapsTest, TheTwoListsDiffer) {
     for (const TextView word : {u"and", u"or", u"in", u"an", u"of", u"on", u"the", u"a"}) {
         const Text phrase = u"x " + Text(word) + u" y";
         EXPECT_EQ(FolderName(phrase), u"X_" + Text(word) + u"_Y");

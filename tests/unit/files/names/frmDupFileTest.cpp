@@ -43,7 +43,8 @@ TEST_F(DupFileTest, CopiesTheFileWithItsTime) {
     EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
 }
 
-TEST_F(DupFileTest, TheSameNameIsRefusedWithCarriageReturnsAloneDeliberately) {
+// Kept for compatibility: duplicate-boxes-break-by-cr.
+TEST_F(DupFileTest, TheSameNameIsRefusedWithCarriageReturnsAlone) {
     Show([this](frmDupFile& f) {
         t.user.Answer({u"Files must be different!\r\rSource :  Old.txt\rTarget  :  OLD.txt\r",
                        MessageIcon::Exclamation},
@@ -55,7 +56,8 @@ TEST_F(DupFileTest, TheSameNameIsRefusedWithCarriageReturnsAloneDeliberately) {
     });
 }
 
-TEST_F(DupFileTest, ANameThatIsThereIsToldWithCarriageReturnsAloneDeliberately) {
+// Kept for compatibility: duplicate-boxes-break-by-cr.
+TEST_F(DupFileTest, ANameThatIsThereIsToldWithCarriageReturnsAlone) {
     t.files.AddFile(u"C:\\Data\\There.txt", "there");
     Show([this](frmDupFile& f) {
         t.user.Answer({u"A file with this name already exists in the current directory!\r\rThere.txt\r",

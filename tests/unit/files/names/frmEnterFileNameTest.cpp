@@ -128,7 +128,8 @@ TEST_F(EnterFileNameTest, CtrlUTidiesAndWithShiftSetsCapitals) {
     EXPECT_EQ(After(u"letters to.ann,ben.txt", 'U', Mask::Ctrl | Mask::Shift), u"Letters_to_Ann_Ben.txt");
 }
 
-TEST_F(EnterFileNameTest, TheFontSizeHasNoLimitsDeliberately) {
+// Kept for compatibility: file-name-font-without-limits.
+TEST_F(EnterFileNameTest, TheFontSizeHasNoLimits) {
     app.Settings.EnterNameB = 12;
     Show([](frmEnterFileName& f) {
         EXPECT_EQ(f.txtFileName.Font.Get().size, 12);

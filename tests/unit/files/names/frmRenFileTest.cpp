@@ -137,7 +137,8 @@ TEST_F(RenFileTest, TheTypingAids) {
     });
 }
 
-TEST_F(RenFileTest, KeyAndButtonForUnderscoresDifferByOuterBlanksDeliberately) {
+// Kept for compatibility: underscore-key-trims.
+TEST_F(RenFileTest, KeyAndButtonForUnderscoresDifferByOuterBlanks) {
     Show([](frmRenFile& f) {
         f.Text2.Type(u" war and peace ");
         f.cmdUnderscores.Press();

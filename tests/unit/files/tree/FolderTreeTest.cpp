@@ -52,7 +52,8 @@ TEST_F(FolderTreeTest, ShowsTheDrivesWithAPlaceholderEach) {
     EXPECT_THAT(visited, IsEmpty());
 }
 
-TEST_F(FolderTreeTest, DriveAIsLabelledAsAFloppyAndDriveBIsNotDeliberately) {
+// Kept for compatibility: drive-b-without-label.
+TEST_F(FolderTreeTest, DriveAIsLabelledAsAFloppyAndDriveBIsNot) {
     t.files.AddDrive(u'A');
     t.files.AddDrive(u'B');
     t.files.SetVolume(u"A:\\", {.type = DriveType::Removable, .name = u"Disk 1"});
@@ -137,7 +138,8 @@ TEST_F(FolderTreeTest, APathThatIsNotThereChangesNothing) {
     EXPECT_THAT(visited, IsEmpty());
 }
 
-TEST_F(FolderTreeTest, TwentyOneLevelsAreTheMostDeliberately) {
+// Kept for compatibility: tree-of-21-levels.
+TEST_F(FolderTreeTest, TwentyOneLevelsAreTheMost) {
     Text path = u"C:";
     for (int level = 2; level <= 21; ++level)
         path += u"\\d";
