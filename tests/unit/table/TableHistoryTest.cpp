@@ -150,6 +150,7 @@ TEST_F(TableHistoryTest, UndoingAndRedoingOverAndOverForgetsNothing) {
 TEST_F(TableHistoryTest, WhatChangesInTheModelOutsideOfACommandIsNoStep) {
     table.model.SetRowHeight = std::int16_t{30};
     history.EndStep();
+    EXPECT_TRUE(history.Undo()) << "the step that made the table";
     EXPECT_FALSE(history.Undo());
     EXPECT_EQ(table.model.SetRowHeight, 30);
     {
