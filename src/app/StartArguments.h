@@ -7,9 +7,9 @@
 
 namespace korvane {
 
-/// What the program was started with.
+/// The arguments with which the program was started.
 struct StartArguments {
-    /// All that isn't an option, joined with one blank: it counts as one path.
+    /// All arguments that aren't options, joined with blanks. They count as one path.
     Text path;
     /// `--render FILE`: where the picture of the main window goes; empty for a usual start.
     QString picture;
@@ -19,7 +19,7 @@ struct StartArguments {
 
 /// What was typed behind the program's name: its words, or all of it where the system hands it over so.
 QStringList Arguments(int argc, char** argv);
-/// Options count only in front, so that a file may have any name behind them.
+/// Options are recognised only at the beginning. After them a file may have any name.
 StartArguments ReadStartArguments(const QStringList& arguments);
 
 } // namespace korvane

@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-// What takes the place of the user and of other copies in a run that only draws a picture.
+// These classes replace the user and other copies of the program in a run that only draws a picture.
 
 /// Prints each message box to the standard error stream and answers it as Esc would.
 class PrintedMessages final : public MessageBoxes {
@@ -13,7 +13,7 @@ public:
     Answer Show(const Message& message) override;
 };
 
-/// Finds no running copy, and no second start finds this one.
+/// Finds no running copy, and is never found by a second start.
 class NoOtherCopy final : public InstanceChannel {
 public:
     bool PreviousInstanceRuns() override { return false; }

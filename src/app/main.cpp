@@ -9,7 +9,8 @@
 namespace korvane {
 namespace {
 
-/// A picture is taken beside whatever runs, and nobody is there to answer a box.
+/// Makes a picture. Other running copies don't matter for it, and message boxes are printed because nobody is
+/// there to answer them.
 int Render(const StartArguments& start) {
     if (start.dark) Application::setPalette(DarkPalette());
     const auto system = OwnSystemParts();
@@ -31,7 +32,7 @@ int Run(const StartArguments& start) {
 int main(int argc, char** argv) {
     using namespace korvane;
     const StartArguments start = ReadStartArguments(Arguments(argc, argv));
-    // The toolkit sees no argument, lest it take the file's name for an option of its own.
+    // Qt doesn't get the arguments, because it could take the name of the file for one of its own options.
     int own = 1;
     const Application application(own, argv);
     return start.picture.isEmpty() ? Run(start) : Render(start);

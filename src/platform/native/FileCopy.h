@@ -5,18 +5,18 @@
 #include <filesystem>
 #include <system_error>
 
-// What each system does with whole files in its own way.
+// Work on whole files that is different on each system.
 
 namespace korvane {
 
-/// Copies a plain file as `FileSystem::Copy` tells.
+/// Copies a plain file in the way that `FileSystem::Copy` describes.
 std::error_code CopyPlainFile(const std::filesystem::path& from, const std::filesystem::path& to,
                               const CopyOptions& options);
 
-/// Whether it failed since the disk, or the user's share of it, is full.
+/// Whether the reason is that the disk, or the user's share of it, is full.
 bool IsDiskFull(const std::error_code& error);
 
-/// Gives a file, folder or link a name that nothing has yet.
+/// Renames a file, folder or link. It fails if something has the new name already.
 std::error_code RenameToFree(const std::filesystem::path& from, const std::filesystem::path& to);
 
 } // namespace korvane

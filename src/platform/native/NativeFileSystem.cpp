@@ -37,12 +37,12 @@ fs::path WithoutDetours(const fs::path& path) {
     return plain.make_preferred();
 }
 
-/// On a system without hidden attributes, names that start with a point are hidden.
+/// Where files have no hidden attribute, names that begin with a dot are hidden.
 bool IsHidden(const fs::path& path) {
     return fs::path::preferred_separator == '/' && path.filename().native().front() == '.';
 }
 
-/// Goes over the folder's entries that aren't hidden until `take` says false.
+/// Calls `take` for each entry of the folder that isn't hidden, until it returns false.
 template <class TakeT>
 void ForEachEntry(const fs::path& folder, TakeT take) {
     std::error_code error;

@@ -19,9 +19,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// So much of a file at once that a slow stick takes about a second, in which the user waits for an answer.
+/// The number of bytes that are copied at once. Even a slow memory stick writes them in about a second, so
+/// the user doesn't wait long for an answer.
 constexpr std::size_t kStep = std::size_t{4} << 20;
-/// Up to here reading and writing costs less than asking the system to copy.
+/// Up to this size reading and writing is faster than asking the system to copy.
 constexpr std::int64_t kSmallFile = 64 * 1024;
 constexpr std::size_t kBuffer = 256 * 1024;
 constexpr mode_t kRightsBits = 0777;
@@ -32,17 +33,17 @@ std::error_code Error(std::errc error) {
     return std::make_error_code(error);
 }
 
-/// What a call left behind that gives 0 when all is well.
+/// The error of a call that returns 0 when it succeeds.
 std::error_code ErrorOf(int result) {
     return result == 0 ? std::error_code() : LastSystemError();
 }
 
-/// Copies what is left of one open file to another, step by step.
+/// Copies the rest of one open file to another, step by step.
 class Pump {
 public:
     Pump(int from, int to, bool small) : from_(from), to_(to), kernelCopies_(!small) {}
 
-    /// The number of bytes copied, 0 at the end, -1 with the reason in `errno`.
+    /// Returns the number of bytes copied, 0 at the end, or -1 with the reason in `errno`.
     std::ptrdiff_t Step() {
         for (;;) {
             const std::ptrdiff_t count = kernelCopies_ ? KernelStep() : BufferStep();
@@ -53,7 +54,8 @@ public:
 private:
     std::ptrdiff_t KernelStep() {
         const std::ptrdiff_t count = copy_file_range(from_, nullptr, to_, nullptr, kStep, 0);
-        // Not between these two disks; and a file without a size of its own looks empty to this call.
+        // The system can't copy between these two disks, or the file has no size and looks empty to this
+        // call.
         if (count == 0 || (count < 0 && IsRefusal(errno))) {
             kernelCopies_ = false;
             return BufferStep();
@@ -85,7 +87,7 @@ private:
     std::unique_ptr<char[]> buffer_;
 };
 
-/// Rights of a group that the copy isn't in are not handed to the group that it is in.
+/// If the copy has another group than the source, its group gets only the permissions that everybody has.
 mode_t RightsForCopy(const struct stat& source, const struct stat& copy) {
     const mode_t mode = source.st_mode & kRightsBits;
     if (source.st_gid == copy.st_gid) return mode;
@@ -96,11 +98,11 @@ mode_t RightsForCopy(const struct stat& source, const struct stat& copy) {
 std::error_code FlushFolder(const fs::path& folder) {
     const SystemFile file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!file.IsOpen()) return LastSystemError();
-    // Not every disk knows how to.
+    // Some disks can't flush a folder.
     return fsync(file.Number()) == 0 || errno == EINVAL ? std::error_code() : LastSystemError();
 }
 
-/// One copy on its way.
+/// The state of one copy while it is made.
 class PlainFileCopy {
 public:
     PlainFileCopy(const fs::path& from, const fs::path& to, const CopyOptions& options)
@@ -119,7 +121,8 @@ public:
 
 private:
     std::error_code OpenSource() {
-        // Before it is opened: opening a pipe waits for who writes into it.
+        // This is checked before the file is opened, because opening a pipe waits for a program that writes
+        // into it.
         if (stat(from_.c_str(), &source_) != 0) return LastSystemError();
         if (!S_ISREG(source_.st_mode))
             return Error(S_ISDIR(source_.st_mode) ? std::errc::is_a_directory
@@ -133,7 +136,7 @@ private:
         isThere_ = lstat(to_.c_str(), &own) == 0;
         if (!isThere_) return errno == ENOENT ? std::error_code() : LastSystemError();
         isLink_ = S_ISLNK(own.st_mode);
-        // Behind a link to nothing, a file would be made where nobody asked for one.
+        // If the target is a link to a file that doesn't exist, that file isn't created.
         if (stat(to_.c_str(), &target_) != 0) return Error(std::errc::file_exists);
         if (S_ISDIR(target_.st_mode)) return Error(std::errc::is_a_directory);
         if (!S_ISREG(target_.st_mode)) return Error(std::errc::operation_not_permitted);
@@ -149,18 +152,18 @@ private:
         return static_cast<std::int64_t>(space.f_bavail) * static_cast<std::int64_t>(space.f_frsize);
     }
 
-    /// Asked only where a target would be in the way: a new file simply fails when the disk is full.
+    /// This is checked only when there is a target. A copy to a new name just fails when the disk is full.
     bool HasRoomBeside() const { return !isThere_ || source_.st_size <= Room(); }
 
-    /// Whether the copy fits once the target is gone. A link gives no room, nor does a file that keeps other
-    /// names, whose bytes aren't only the target's.
+    /// Whether the copy fits after the target is removed. A link frees no room. A file with other names frees
+    /// none either.
     bool HasRoomInstead() const {
         constexpr int kBlock = 512;
         if (!isThere_ || isLink_ || target_.st_nlink != 1) return false;
         return source_.st_size <= Room() + static_cast<std::int64_t>(target_.st_blocks) * kBlock;
     }
 
-    /// Makes the file that is the copy until it is whole, for the user alone.
+    /// Creates the file that holds the copy until it is complete. Only the user can read it.
     bool MakeUnfinished() {
         std::string name = (folder_ / ".korvane-XXXXXX").native();
         copyFile_ = SystemFile(mkostemp(name.data(), O_CLOEXEC));
@@ -170,7 +173,8 @@ private:
 
     std::error_code CopyBeside() { return MakeUnfinished() ? Complete() : LastSystemError(); }
 
-    /// The target itself becomes the unfinished copy, so that its name never stands for half a file.
+    /// The target itself is renamed and then becomes the unfinished copy, so that there is never half a file
+    /// under the target's name.
     std::error_code CopyInstead() {
         if (!MakeUnfinished()) return LastSystemError();
         if (rename(to_.c_str(), copy_.c_str()) != 0) return GiveUp(LastSystemError());
@@ -188,7 +192,7 @@ private:
     }
 
     std::error_code GiveUp(const std::error_code& error) {
-        // An open file would keep its room on the disk.
+        // While the file is open its room on the disk isn't freed.
         copyFile_ = SystemFile();
         unlink(copy_.c_str());
         return error;
@@ -208,7 +212,8 @@ private:
 
     std::error_code Finish() {
         KeepRightsAndTimes();
-        // The old target goes when the copy takes its name, and the source may go next.
+        // The copy is flushed first, because the old target disappears when the copy takes its name, and the
+        // source may be removed next.
         const bool flush = options_.flush || isThere_;
         std::error_code error = flush ? ErrorOf(fsync(copyFile_.Number())) : std::error_code();
         if (!error) copyFile_.Close(error);
@@ -216,7 +221,7 @@ private:
         return error || !options_.flush ? error : FlushFolder(folder_);
     }
 
-    /// As far as the disk knows rights and times.
+    /// Keeps the permissions and times as far as the disk supports them.
     void KeepRightsAndTimes() const {
         struct stat copy {};
         const std::array times{source_.st_atim, source_.st_mtim};
@@ -231,7 +236,7 @@ private:
     const CopyOptions& options_;
     struct stat source_ {};
     struct stat target_ {};
-    /// Whether there is something to replace, and whether that is a link.
+    /// Whether there is a target to replace, and whether it is a link.
     bool isThere_ = false;
     bool isLink_ = false;
     fs::path copy_;
@@ -255,7 +260,8 @@ std::error_code RenameToFree(const fs::path& from, const fs::path& to) {
     if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
     if (errno != EINVAL && errno != ENOSYS) return LastSystemError();
 #endif
-    // A disk that can't do both at once. A folder into itself is refused here once more.
+    // This is for disks that can't check and rename in one step. Moving a folder into itself is refused here
+    // too.
     struct stat status {};
     if (lstat(to.c_str(), &status) == 0) return Error(std::errc::file_exists);
     return ErrorOf(rename(from.c_str(), to.c_str()));

@@ -36,7 +36,7 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
 }
 
 std::vector<Drive> ListDrives() {
-    // What is mounted stands in this one tree, where the user looks for it.
+    // All other disks are mounted in this one tree.
     return {{u"/", u"/", DriveType::Fixed}};
 }
 

@@ -13,9 +13,9 @@ namespace korvane {
 /// An open file without a buffer of its own. Closes itself.
 class SystemFile {
 public:
-    /// Takes over an open file, or is none.
+    /// Takes over an open file. Without an argument no file is open.
     explicit SystemFile(int file = system_calls::kNoFile) : file_(file) {}
-    /// Not open, with the reason in `error`, when it can't be.
+    /// If the file can't be opened, the result isn't open and `error` has the reason.
     static SystemFile OpenToRead(const std::filesystem::path& path, std::error_code& error);
     static SystemFile OpenToWrite(const std::filesystem::path& path,
                                   const std::optional<system_calls::FileRights>& rights,
@@ -27,7 +27,7 @@ public:
 
     bool IsOpen() const { return file_ != system_calls::kNoFile; }
     int Number() const { return file_; }
-    /// 0 for what has no size, such as a pipe.
+    /// The size of the file, or 0 for something without a size, such as a pipe.
     std::size_t Size() const { return system_calls::SizeOf(file_); }
     /// The number of bytes read: fewer than `size` only at the end and after an error.
     std::size_t Read(char* buffer, std::size_t size, std::error_code& error);

@@ -13,10 +13,10 @@ constexpr char16_t kBackslash = u'\\';
 constexpr TextView kBlanks = u" \t";
 constexpr TextView kNeedsQuotes = u" \t\n\v\"";
 
-/// The longest line that the command interpreter reads.
+/// The greatest length of a command for the command interpreter.
 constexpr std::size_t kLongestCommand = 8191;
 
-/// The name that counts: the system drops points and blanks at its end.
+/// The name without the dots and blanks at its end, which Windows ignores.
 TextView WithoutEnd(TextView program) {
     const std::size_t last = program.find_last_not_of(u". ");
     return program.substr(0, last == TextView::npos ? 0 : last + 1);
@@ -53,19 +53,19 @@ bool NeedsQuotes(TextView argument) {
     return argument.empty() || argument.find_first_of(kNeedsQuotes) != TextView::npos;
 }
 
-/// Whether a batch file may get the argument. What it does with it the interpreter reads once more: there a
-/// quote would end the quotes round the argument, and a line end the command.
+/// Whether a batch file may get the argument. When the batch file uses it, the interpreter reads it a second
+/// time. A quote in it would then end the quotes around it, and a line end would end the command.
 bool IsSafeForBatchFile(const Text& argument) {
     return std::ranges::none_of(argument, [](char16_t each) { return each == kQuote || each < u' '; });
 }
 
-/// Of a character that takes two units.
+/// Whether this is the second code unit of a character that has two.
 bool IsSecondHalf(char16_t unit) {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// The argument as the interpreter hands it on. A caret before every character takes its meaning away, that
-/// of a percent sign too, because no variable has a name with carets in it.
+/// The argument in a form that the interpreter passes on unchanged. A caret before a character takes away its
+/// special meaning. This works for a percent sign too, because no variable has a name with carets.
 Text Careted(TextView argument) {
     Text careted;
     for (const char16_t unit : argument) {
@@ -75,7 +75,7 @@ Text Careted(TextView argument) {
     return careted;
 }
 
-/// Between plain quotes only a percent sign means something to the interpreter.
+/// Whether the name is safe between quotes without carets. There only a percent sign has a special meaning.
 bool IsSafeInPlainQuotes(TextView name) {
     return name.find(u'%') == TextView::npos &&
            std::ranges::none_of(name, [](char16_t each) { return each < u' '; });
@@ -89,12 +89,13 @@ std::optional<Text> BatchCommandLine(TextView batch, const std::vector<Text>& ar
     for (const Text& argument : arguments)
         command += u' ' + Careted(Quoted(argument));
     if (command.size() > kLongestCommand) return std::nullopt;
-    // Without commands of the user's own at the start and without "!" for variables, and with the outer
-    // quotes always taken off.
+    // /d runs no commands of the user's own first, /v:off leaves "!" alone, and /s always removes the outer
+    // quotes.
     return kQuote + Text(interpreter) + u"\" /d /v:off /s /c \"" + command + kQuote;
 }
 
-/// Where the first word ends. It is the program's name, in which a backslash escapes no quote.
+/// The end of the first word, which is the program's name. In it a backslash before a quote has no special
+/// meaning.
 std::size_t EndOfProgramName(TextView commandLine) {
     bool quoted = false;
     for (std::size_t i = 0; i < commandLine.size(); ++i) {
@@ -111,7 +112,7 @@ std::optional<Text> ProcessCommandLine(TextView program, const std::vector<Text>
     if (!CanBeStarted(program, arguments)) return std::nullopt;
     const TextView name = WithoutEnd(program);
     if (IsBatchFile(name) && !arguments.empty()) return BatchCommandLine(name, arguments, interpreter);
-    // Always in quotes: otherwise the system tries every blank of the name as its end.
+    // Without quotes Windows would try each blank as the end of the program's name.
     Text line = kQuote + Text(program) + kQuote;
     for (const Text& argument : arguments)
         line += u' ' + (NeedsQuotes(argument) ? Quoted(argument) : argument);

@@ -7,11 +7,11 @@
 
 namespace korvane {
 
-/// The one text with which Windows starts a program, quoted so that the program finds each argument as it
-/// stands. A batch file with arguments is read by the command interpreter, whose path is given: its arguments
-/// are quoted so that none can be more than an argument there.
-/// Nothing when no quoting makes it safe: no program's name has a quote or a null in it, no argument a null,
-/// and none of a batch file's a quote or a line end.
+/// The command line with which Windows starts a program, quoted so that the program gets each argument
+/// unchanged. A batch file with arguments is run by the command interpreter, whose path is `interpreter`, and
+/// its arguments are quoted so that none of them can become a command. The result is nothing when no quoting
+/// would be safe: the program's name contains a quote or a null, an argument contains a null, or an argument
+/// of a batch file contains a quote or a line end.
 std::optional<Text> ProcessCommandLine(TextView program, const std::vector<Text>& arguments,
                                        TextView interpreter);
 

@@ -14,7 +14,7 @@ std::error_code Error(DWORD error) {
     return {static_cast<int>(error), std::system_category()};
 }
 
-/// What a call left behind that gives 0 when it fails.
+/// The error of a call that returns 0 when it fails.
 std::error_code ErrorOf(BOOL succeeded) {
     return succeeded != 0 ? std::error_code() : Error(GetLastError());
 }
@@ -31,7 +31,7 @@ DWORD CALLBACK BetweenSteps(LARGE_INTEGER total, LARGE_INTEGER copied, LARGE_INT
     return PROGRESS_CONTINUE;
 }
 
-/// One copy on its way.
+/// The state of one copy while it is made.
 class PlainFileCopy {
 public:
     PlainFileCopy(const fs::path& from, const fs::path& to, const CopyOptions& options)
@@ -85,7 +85,8 @@ private:
         return ErrorOf(MoveFileExW(copy_.c_str(), to_.c_str(), replace | flush));
     }
 
-    /// A copy that can't be written, since its source couldn't, is opened with the attribute off.
+    /// The copy of a read-only file is read-only too. It is opened for flushing with this attribute switched
+    /// off.
     std::error_code Flush() const {
         const DWORD attributes = GetFileAttributesW(copy_.c_str());
         SetFileAttributesW(copy_.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
@@ -103,7 +104,7 @@ private:
         DeleteFileW(copy_.c_str());
     }
 
-    /// Whether the copy fits once the target is gone. A link gives no room.
+    /// Whether the copy fits after the target is removed. A link frees no room.
     bool HasRoomInstead() const {
         if (!IsThere() || Has(target_, FILE_ATTRIBUTE_REPARSE_POINT)) return false;
         std::error_code error;
@@ -113,7 +114,8 @@ private:
         return !error && needed <= room + freed;
     }
 
-    /// The target itself becomes the unfinished copy, so that its name never stands for half a file.
+    /// The target itself is renamed and then becomes the unfinished copy, so that there is never half a file
+    /// under the target's name.
     std::error_code CopyInstead() {
         if (MoveFileExW(to_.c_str(), copy_.c_str(), MOVEFILE_REPLACE_EXISTING) == 0)
             return Error(GetLastError());

@@ -80,7 +80,7 @@ std::vector<Drive> ListDrives() {
         if ((letters & (DWORD{1} << index)) == 0) continue;
         const auto letter = static_cast<char16_t>(u'a' + index);
         const Text root{static_cast<char16_t>(u'A' + index), u':', u'\\'};
-        // Only the names of fixed disks: another drive would have to start up to tell its own.
+        // Only fixed disks are asked for their names. Another drive would have to start up first.
         const DriveType type = TypeOf(GetDriveTypeW(ToNativePath(root).c_str()));
         const Text name = type == DriveType::Fixed ? VolumeAt(ToNativePath(root))->name : Text();
         const Text entry = Text{letter, u':'} + (name.empty() ? Text() : u" [" + name + u"]");

@@ -8,7 +8,7 @@ namespace korvane {
 
 ChoosingDialog::ChoosingDialog(TextView title, AcceptMode acceptMode, FileMode fileMode)
     : QFileDialog(QApplication::activeWindow(), ToQString(title)) {
-    // Without this, the key Delete and a "y" remove a whole folder for good.
+    // Without this option the key Delete and a "y" delete a whole folder for good.
     setOption(ReadOnly);
     setAcceptMode(acceptMode);
     setFileMode(fileMode);

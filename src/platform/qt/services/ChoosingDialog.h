@@ -6,13 +6,14 @@
 
 namespace korvane {
 
-/// The toolkit's file dialog as the program shows it: it chooses files, and neither deletes nor renames any.
+/// Qt's file dialog in the form that the program uses: it chooses files, and can neither delete nor rename
+/// them.
 class ChoosingDialog : public QFileDialog {
 public:
-    /// Over the active window.
+    /// The dialog opens over the active window.
     ChoosingDialog(TextView title, AcceptMode acceptMode, FileMode fileMode);
 
-    /// Shows the dialog until the user is done; none on a cancel.
+    /// Shows the dialog until the user closes it. The list is empty after a cancel.
     QStringList Choose();
 };
 
