@@ -1,5 +1,5 @@
-// Holds docs/compatibility.md and the places that name its entries with the words "Kept for compatibility: "
-// together: every name has its entry, and every entry is named.
+// Compares docs/compatibility.md with the places in the code that name its entries after the words "Kept for
+// compatibility: ". Each name must have an entry, and each entry must be named.
 
 #include "SourceTree.h"
 
@@ -36,17 +36,17 @@ std::multiset<std::string> Entries() {
 
 struct Mention {
     std::string file;
-    /// Empty where no name follows the words.
+    /// Empty if no name follows the words.
     std::string entry;
 };
 
-/// The names after the words, which may go on in the next line of a comment and are separated by commas.
+/// Finds the names after the words. They are separated by commas and may go on in the next line of a comment.
 std::vector<Mention> MentionsIn(const fs::path& path) {
     static const std::regex kNextCommentLine(R"(\n\s*///? )");
     static const std::regex kMention(R"([Kk]ept for compatibility(?:: ((?:[a-z0-9-]+, )*[a-z0-9-]+)[.);])?)");
     static const std::regex kName("[a-z0-9-]+");
     std::vector<Mention> mentions;
-    // A search by a pattern takes long, and many files have nothing to find.
+    // Searching with a regular expression takes long, and most files have nothing to find.
     const std::string contents = Contents(path);
     if (contents.find("compatibility") == contents.npos) return {};
     const std::string text = std::regex_replace(contents, kNextCommentLine, " ");

@@ -1,5 +1,5 @@
-// Holds the pages of docs/formats against the program: the examples are loaded, and the table of settings has
-// to be the program's own.
+// Compares the pages of docs/formats with the program: it loads the examples, and the table of settings must
+// be the same as the program's.
 
 #include "SourceTree.h"
 #include "common/number/DateTime.h"
@@ -25,7 +25,7 @@ std::string Page(const std::string& name) {
     return ReadBytes(std::filesystem::path(KORVANE_SOURCE_DIR) / "docs/formats" / name);
 }
 
-/// The page's code block of this kind, each line with CR LF at its end and the section mark as its byte.
+/// The code block of this kind on the page. Each line ends with CR LF, and the section mark is one byte.
 std::string Example(const std::string& page, const std::string& kind) {
     const std::string fence = "```";
     const std::string opening = fence + kind + "\n";
@@ -64,7 +64,7 @@ std::string KindOf(const SettingLine& setting) {
     return std::array{"text", "i32", "i16"}.at(setting.read.index());
 }
 
-/// The name of the setting that the line is written from.
+/// The name of the setting from which the line is written.
 std::string WrittenName(const SettingLine& setting) {
     for (const SettingLine& other : SettingsTable())
         if (other.read == setting.written) return NameOf(other);

@@ -60,7 +60,7 @@ const Opening kOpenings[] = {
     {"SystemSave", [](const Text& path) { AskSystemDialog(SystemFileDialog::Purpose::Save, path); }},
 };
 
-/// A dialog on a folder of the test's own in which another one lies, with a file in it.
+/// Opens dialogs on a folder that contains another folder with one file.
 class ChoosingDialogTest : public testing::TestWithParam<Opening> {
 protected:
     void SetUp() override {
@@ -70,7 +70,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
 
-    /// Opens the dialog, and closes it when `act` has done its work there.
+    /// Opens the dialog, calls `act`, and closes the dialog again.
     void Open(const std::function<void(QFileDialog&)>& act) {
         QTimer::singleShot(0, [act] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -81,7 +81,7 @@ protected:
         GetParam().open(ToText(dir.filePath("present.tbx")));
     }
 
-    /// The inner folder as the dialog lists it.
+    /// The inner folder's index in the dialog's list.
     QModelIndex InnerFolder(const QFileDialog& dialog) const {
         const auto* files = dialog.findChild<QFileSystemModel*>("qt_filesystem_model");
         const QModelIndex index = files->index(dir.filePath("inner"));
@@ -97,7 +97,7 @@ protected:
     QTemporaryDir dir;
 };
 
-/// Answers the question whether to delete, if there is one, as a user who presses "y".
+/// Answers the question whether to delete, if it is asked, with a click on "Yes".
 void SayYes() {
     if (auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
         question->button(QMessageBox::Yes)->click();

@@ -35,7 +35,7 @@ namespace {
 
 const Text kFile = u"C:\\data\\people.tbx";
 
-/// The program with its real windows on a platform in memory.
+/// Runs the program with its real windows on an in-memory platform.
 class MainWindowTest : public testing::Test {
 protected:
     MainWindowTest() {
@@ -61,7 +61,7 @@ protected:
     }
 
     void TearDown() override {
-        // A change that a test made isn't asked for at its end.
+        // The program must not ask about the changes that a test made.
         if (frmMDIChild* tab = main.Parts().tabs.Active()) tab->Table().TableAltered = 0;
         main.Close();
     }
@@ -295,7 +295,7 @@ TEST_F(MainWindowTest, AStepOfTheToolBarChangesTheStripAlone) {
     EXPECT_EQ(Part<TabPages>("MDITabs1").Tabs().Colours().strip, ToQColor(TabStyleOf(1).light.strip));
 }
 
-/// What is to be seen of the strip above the table.
+/// The visible parts of the strip above the table.
 QList<QWidget*> ShownParts(const QWidget& strip) {
     QList<QWidget*> shown;
     for (QWidget* part : strip.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
@@ -329,7 +329,7 @@ TEST_F(MainWindowTest, NothingOfTheStripIsCrowdedAtAnyWidth) {
     }
 }
 
-/// What a file manager drags.
+/// The data of a drag from a file manager.
 std::unique_ptr<QMimeData> Dragged(const QList<QUrl>& urls) {
     auto data = std::make_unique<QMimeData>();
     data->setUrls(urls);
@@ -348,7 +348,7 @@ TEST_F(MainWindowTest, DroppedFilesAreLoadedOneAfterTheOther) {
 }
 
 TEST_F(MainWindowTest, ADropOfFilesReachesTheWindow) {
-    // Paths of this computer are no paths of the platform in memory, which takes them for relative ones.
+    // The in-memory platform uses Windows paths, so it takes this computer's paths for relative ones.
     outside.files.AddFile(u"/drop.tbx", NameTable(u"/drop.tbx", {"D"}));
     const auto data = Dragged({QUrl("file:///drop.tbx"), QUrl("https://localhost/page.tbx")});
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
@@ -378,7 +378,7 @@ TEST_F(MainWindowTest, WhatIsNoFileIsNotTaken) {
     EXPECT_EQ(Part<TabPages>("MDITabs1").Count(), 1);
 }
 
-/// The end of a session as the desktop announces it.
+/// Stands in for the session that the desktop ends.
 struct Session {
     bool allowsInteraction() const { return interactive; }
     void release() { ++released; }

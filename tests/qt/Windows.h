@@ -15,7 +15,7 @@
 
 namespace korvane {
 
-/// The lister's line, with no lister around it.
+/// Replaces the line with the file name in the directory lister.
 struct LoneNameLine final : NameLine {
     Text FileName() const override { return name; }
     void SetFileName(TextView text) override { name = text; }
@@ -24,7 +24,7 @@ struct LoneNameLine final : NameLine {
     Text name = u"Letters to Ann.docx";
 };
 
-/// What the program's windows are made from.
+/// Everything that is needed to make the program's windows.
 struct Surroundings {
     explicit Surroundings(App& program) : app(program) {}
 
@@ -39,7 +39,7 @@ struct Surroundings {
     frmMDIParent main{app, Text()};
 };
 
-/// A window's name and how it is made.
+/// A window's name and the function that makes it.
 struct Window {
     std::string_view name;
     std::unique_ptr<Form> (*make)(Surroundings&);

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// What a test throws where the program calls back, and catches where the call began.
+/// Thrown by a test where the program calls back, and caught where the test called the program.
 class HandlerFailure : public std::runtime_error {
 public:
     HandlerFailure() : std::runtime_error("a handler fails on purpose") {}

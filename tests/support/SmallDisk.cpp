@@ -18,7 +18,7 @@ constexpr int kPassed = 0;
 constexpr int kFailed = 1;
 constexpr int kNotAllowed = 2;
 
-/// A user without rights may mount in a world of his own, in which he is the administrator.
+/// A user who isn't the administrator may mount a disk only in a namespace in which he is.
 bool EnterOwnWorld() {
     const std::string user = std::to_string(getuid());
     if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;

@@ -11,13 +11,14 @@
 
 namespace korvane {
 
-/// A routine of a tab with the name of its command, or with its key where only a key starts it.
+/// A routine of a tab with the name of its command, or with its key if only a key starts it.
 struct TableRoutine {
     std::string_view name;
     TabRoutine run;
 };
 
-/// Every routine that a command or a key starts on a table, each once. Those about its file are left out.
+/// Lists each routine that a command or a key starts on a table once. Routines that work on the table's file
+/// are left out.
 inline std::vector<TableRoutine> TableRoutines() {
     static constexpr TabRoutine kAboutTheFile[] = {&mnuFile_FileInfo_Clack, &mnuFile_Save_Clack,
                                                    &mnuFile_SaveAs_Clack, &ExploreTableFolder};

@@ -14,50 +14,51 @@
 
 namespace korvane {
 
-/// The whole program on a platform in memory, with a scripted user.
+/// The whole program on an in-memory platform with a scripted user.
 class TestProgram : public TestApp {
 public:
     explicit TestProgram(const PathStyle& style = PathStyle::Windows) : TestApp(style) {}
 
-    // These prepare the test.
+    // Preparing the test.
 
-    /// Puts a settings file beside the program, each line from the field that the reader puts it in.
+    /// Adds a settings file to the program's folder. Each line of it comes from the field into which the
+    /// reader puts it.
     void AddSettings(const Settings& settings = {});
-    /// Makes a file with a table of one column.
+    /// Adds the file of a table with one column.
     void AddTable(const Text& path, const TestRow& names);
 
-    /// Starts the program, which shows its main window unless it hands its file over.
+    /// Starts the program. It shows its main window unless it hands its file over to a running copy.
     void Start(const Text& commandLine = {});
-    /// Starts it with a settings file, empty as far as `settings` doesn't say otherwise.
+    /// Starts the program with a settings file. Lines that `settings` doesn't set are empty.
     void StartWith(const Settings& settings, const Text& commandLine = {});
     frmMDIParent& Main() { return *main_; }
-    /// Takes the program's windows away, as the end of its process does.
+    /// Destroys the program's windows, as the end of its process does.
     void EndProcess() { main_.reset(); }
 
-    // These play the user.
+    // What the user does.
 
     void Choose(std::string_view command) { main_->OfficeMenu1.Choose(command); }
-    /// Opens an empty tab, by starting a design and giving it up.
+    /// Opens an empty tab by starting a new table and cancelling its design.
     void OpenNewTab();
-    /// The next window is that of a design, which the user gives up.
+    /// The next window to appear is the one for designing a table, and the user cancels it.
     void CancelDesign();
-    /// Opens a file through the menu.
+    /// Opens a file with the command of the menu.
     void Open(const Text& path);
-    /// Presses a key with the keyboard in the grid of the active tab: the menu bar sees it first. The result
-    /// is whether the grid didn't get it.
+    /// Presses a key while the grid of the active tab has the keyboard. The menu bar gets the key first.
+    /// Returns whether the key was kept from the grid.
     bool PressKey(int code, int mask = Mask::None);
     bool PressSideBarKey(int code, int mask = Mask::None);
 
-    // These show the outcome.
+    // What the user sees.
 
     frmMDIChild& Tab(int slot);
     Tabs& AllTabs() { return main_->Parts().tabs; }
-    /// The captions along the strip.
+    /// The captions of all tabs.
     std::vector<Text> Captions() const;
     std::string FileBytes(const Text& path) const { return files.Contents(path).value_or("(no such file)"); }
 
 private:
-    /// Whether a menu entry has the key; it has been chosen then.
+    /// Chooses the menu entry with this key. Returns false when there is none.
     bool ChooseByKey(const KeyEvent& key);
 
     ClipboardWindow clipboardWindow_{app};

@@ -8,10 +8,10 @@
 
 namespace korvane {
 
-/// What every disk does with folders and whole files. A stage for a disk has:
-///     static constexpr std::size_t kLongFile;  // the size of a file that isn't copied in two steps
+/// The tests of folders and whole files that every disk must pass. A stage for a disk has:
+///     static constexpr std::size_t kLongFile;  // a file of this size is copied in more than two steps
 ///     FileSystem& Files();
-///     Text At(name);                  // the path of a name in a folder of the test's own
+///     Text At(name);                  // the path of a name in the test's folder
 ///     void AddFile(name, bytes);
 ///     std::string Contents(name);     // "(none)" when there is no such file
 ///     void SetReadOnly(name);
@@ -21,7 +21,7 @@ class WholeFilesContract : public testing::Test {
 protected:
     FileSystem& Files() { return stage.Files(); }
     Text At(TextView name) { return stage.At(name); }
-    /// All that is in the test's folder.
+    /// The names of all files in the test's folder.
     std::vector<Text> Listing() { return Files().FileNames(stage.At(u""), u"*"); }
 
     StageT stage;
@@ -288,7 +288,8 @@ REGISTER_TYPED_TEST_SUITE_P(WholeFilesContract, ListsFilesByNameUnderThePatterns
                             AFolderIsNeitherCopiedNorReplaced, OnlyALongCopyStopsOnItsWay,
                             OnItsWayACopyHasNotTheNameOfItsTarget, WhatTookTheNameMeanwhileStays);
 
-// Links and what must not be opened. The stage has AddLink(name, target) and AddPipe(name) as well.
+// Tests of links, and of things that must not be opened. For them the stage also has AddLink(name, target)
+// and AddPipe(name).
 
 template <class StageT>
 class LinksContract : public WholeFilesContract<StageT> {};

@@ -75,7 +75,7 @@ void Stage::FillRequests() {
     all_.copy.rowsToCopy = 12;
     all_.child.Table().TxtDbFile = path;
     ReadTableData(all_.tab);
-    // A record of a file that has gone in between.
+    // A record of a file that was deleted since then.
     Main().Parts().recents.AddToRecent(u"C:\\data\\Old list.tbx", 0, app_.Clock().Now());
 }
 

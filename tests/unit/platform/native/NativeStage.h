@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// The real disk, for the tests that every disk passes.
+/// Provides the real disk for the tests that every disk must pass.
 class NativeStage {
 public:
     static constexpr std::size_t kLongFile = std::size_t{12} << 20;

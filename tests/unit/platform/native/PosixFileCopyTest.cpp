@@ -1,5 +1,5 @@
-// Copying with what only a system of POSIX has: links, pipes, rights, a disk that can be made as small as
-// one likes.
+// Tests copying with what only POSIX systems have: links, pipes, permissions, and disks that can be made
+// small.
 
 #include "support/SmallDisk.h"
 #include "support/WholeFilesContract.h"
@@ -126,7 +126,7 @@ TEST_F(PosixCopy, AFileThatMayNotBeReadIsNotCopied) {
     EXPECT_FALSE(fs::exists(stage.Path(u"b")));
 }
 
-// A disk of one megabyte.
+// Tests on a disk of one megabyte.
 
 constexpr std::int64_t kDiskSize = 1 << 20;
 

@@ -1,4 +1,4 @@
-// Stands in for the system's own calls, so that a call can be interrupted by a signal whenever a test wants.
+// Replaces the system's calls, so that a test can interrupt a call at any time as a signal would.
 
 #include "platform/native/SystemFile.h"
 
@@ -14,7 +14,7 @@
 namespace korvane {
 namespace {
 
-/// What a call answers: so many bytes, or a failure with this reason.
+/// The result of one call: a number of bytes, or a failure with this reason.
 struct Step {
     std::ptrdiff_t bytes = -1;
     int reason = 0;
@@ -26,7 +26,7 @@ constexpr Step kBroken{-1, EIO};
 std::deque<Step> steps;
 std::string written;
 
-/// The next step, for as many bytes as were asked for at most.
+/// The next step. It never has more bytes than were asked for.
 std::ptrdiff_t Take(std::size_t size) {
     if (steps.empty()) return 0;
     const Step step = steps.front();

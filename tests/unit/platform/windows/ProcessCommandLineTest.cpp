@@ -15,12 +15,12 @@ Text Line(const std::vector<Text>& arguments) {
     return LineOf(u"C:\\My Tools\\a.exe", arguments).value_or(u"(none)");
 }
 
-/// What the command interpreter does with a line behind "/s /c": takes the outer quotes off, gives variables
-/// their values, and then takes carets away outside of quotes. Fails the test where the line is more than the
-/// one command.
+/// Does what the command interpreter does with a line after "/s /c": it removes the outer quotes, replaces
+/// variables by their values, and then removes carets outside of quotes. The test fails if the line has more
+/// than one command.
 class Interpreter {
 public:
-    /// The words that the batch file gets.
+    /// The arguments that the batch file gets, as one text.
     Text Read(TextView line) {
         const Text start = kQuoted + u" /d /v:off /s /c \"";
         EXPECT_TRUE(line.starts_with(start)) << ToUtf8(line);
@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    /// A variable stands between two percent signs; one that has no value leaves what stands there.
+    /// A variable's name is between two percent signs. A name without a variable stays as it is.
     static Text WithVariables(TextView line) {
         Text replaced(line);
         for (const TextView name : {u"PATH", u"a", u"CD", u"cd:~,", u" "})
