@@ -19,8 +19,8 @@ namespace {
 
 using Preparation = void (*)(BenchProgram&);
 
-/// Measures `work` on the table at the limit, loaded anew for each round: a command that ran before would
-/// find its work done.
+/// Measures `work` on the table at the limit. The table is loaded again for each round, because a command
+/// that ran before would have nothing to do.
 void Measure(benchmark::State& state, ProceedingUser user, Preparation prepare,
              void (*work)(const TabContext&)) {
     for ([[maybe_unused]] auto _ : state) {
@@ -52,7 +52,7 @@ void PaintRows(BenchProgram& program) {
     }
 }
 
-/// One row in eight has the colours.
+/// One row in eight has the colours that are searched for.
 void SelectRowsByColour(benchmark::State& state) {
     ProceedingUser user;
     user.On<frmRowColour>([](frmRowColour& form) {
@@ -62,7 +62,7 @@ void SelectRowsByColour(benchmark::State& state) {
     Measure(state, user, &PaintRows, &mnuFormat_RowColour_Clack);
 }
 
-/// One row in ten has the attribute.
+/// One row in ten has the attribute that is searched for.
 void FilterToAttribute(benchmark::State& state) {
     ProceedingUser user;
     user.On<frmRowColour>([](frmRowColour& form) {
@@ -82,12 +82,12 @@ void SetRowHeights(benchmark::State& state) {
     Measure(state, user, &Nothing, &mnuEdit_SetRowHeight_Clack);
 }
 
-/// One row in four has its tick already.
+/// One row in four is ticked already.
 void TickAll(benchmark::State& state) {
     Measure(state, {}, &Nothing, &mnuSelAll_TickBoxes_Clack);
 }
 
-/// Of one row in four.
+/// One row in four is ticked.
 void MarkTickedRows(benchmark::State& state) {
     Measure(state, {}, &Nothing, &mnuDel_CheckedRows_Clack);
 }
@@ -97,7 +97,7 @@ void MoveRow(benchmark::State& state) {
     Measure(state, {}, goToTheMiddle, &mnuRowDown_Clack);
 }
 
-/// The texts of all columns move and the last one's go.
+/// The texts of all columns move, and those of the last column are dropped.
 void InsertColumn(benchmark::State& state) {
     Measure(state, {}, &Nothing, &mnuEdit_InsertColumn_Clack);
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over the sources of a build folder, and passes over those that it found clean before: the same file,
-headers and list of checks give the same answer."""
+"""Runs clang-tidy over the sources of a build folder. A source that had no findings before is left out if its text, its
+headers and the list of checks are still the same."""
 import concurrent.futures
 import hashlib
 import json
@@ -14,7 +14,7 @@ CLEAN = pathlib.Path(os.environ.get("XDG_CACHE_HOME", pathlib.Path.home() / ".ca
 
 
 def headers_of_objects(build):
-    """By object file: the files of this tree that it was compiled from."""
+    """The files of this tree from which each object file was compiled."""
     listing = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, capture_output=True, text=True).stdout
     files, current = {}, None
     for line in listing.splitlines():
@@ -41,7 +41,7 @@ def key_of(source, files):
 
 
 def check(build, source):
-    """What clang-tidy says of the file; empty when it is clean."""
+    """The findings of clang-tidy about the file. The text is empty when there are none."""
     run = subprocess.run(
         ["clang-tidy", "-p", build, "--quiet", "--extra-arg=-Wno-unknown-warning-option", source],
         capture_output=True, text=True)
