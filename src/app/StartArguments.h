@@ -11,13 +11,13 @@ namespace korvane {
 struct StartArguments {
     /// All arguments that aren't options, joined with blanks. They count as one path.
     Text path;
-    /// `--render FILE`: where the picture of the main window goes; empty for a usual start.
+    /// The file for a picture of the main window (`--render FILE`). It is empty for a normal start.
     QString picture;
-    /// `--dark`, with `--render` only.
+    /// Whether the picture shows a dark window (`--dark`, only after `--render`).
     bool dark = false;
 };
 
-/// What was typed behind the program's name: its words, or all of it where the system hands it over so.
+/// The words after the program's name, or the whole text after it on a system that doesn't split it.
 QStringList Arguments(int argc, char** argv);
 /// Options are recognised only at the beginning. After them a file may have any name.
 StartArguments ReadStartArguments(const QStringList& arguments);

@@ -10,7 +10,7 @@
 
 namespace korvane {
 
-/// An open file without a buffer of its own. Closes itself.
+/// An open file without a buffer. The destructor closes it.
 class SystemFile {
 public:
     /// Takes over an open file. Without an argument no file is open.
@@ -29,7 +29,8 @@ public:
     int Number() const { return file_; }
     /// The size of the file, or 0 for something without a size, such as a pipe.
     std::size_t Size() const { return system_calls::SizeOf(file_); }
-    /// The number of bytes read: fewer than `size` only at the end and after an error.
+    /// Returns the number of bytes that were read. It is less than `size` only at the end of the file and
+    /// after an error.
     std::size_t Read(char* buffer, std::size_t size, std::error_code& error);
     void Write(std::string_view bytes, std::error_code& error);
     void Close(std::error_code& error);
@@ -40,7 +41,7 @@ private:
     int file_;
 };
 
-/// The reason for which the last system call failed.
+/// The reason why the last system call failed.
 std::error_code LastSystemError();
 
 } // namespace korvane

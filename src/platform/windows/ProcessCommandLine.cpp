@@ -36,7 +36,7 @@ bool CanBeStarted(TextView program, const std::vector<Text>& arguments) {
     return std::ranges::none_of(arguments, HoldsNull);
 }
 
-/// Backslashes stand for themselves, except in front of a quote.
+/// Backslashes must be doubled before a quote. Elsewhere they are taken literally.
 Text Quoted(TextView argument) {
     Text quoted(1, kQuote);
     std::size_t backslashes = 0;

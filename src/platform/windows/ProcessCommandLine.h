@@ -15,7 +15,7 @@ namespace korvane {
 std::optional<Text> ProcessCommandLine(TextView program, const std::vector<Text>& arguments,
                                        TextView interpreter);
 
-/// What the user typed behind the program's name in the command line of a process, blanks and quotes and all.
+/// What the user typed after the program's name, with all blanks and quotes.
 TextView WithoutProgramName(TextView commandLine);
 
 } // namespace korvane
