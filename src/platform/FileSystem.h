@@ -107,8 +107,8 @@ public:
     /// disk that doesn't know its volumes.
     virtual std::optional<VolumeInfo> Volume(TextView /*path*/) const { return std::nullopt; }
 
-    /// The system's words for why the last step that can fail, or a write after it, failed; empty when nothing
-    /// failed.
+    /// The system's words for why the last step that can fail, or a write after it, failed; empty when
+    /// nothing failed.
     virtual Text LastErrorText() const = 0;
 
     /// The folder of the program and of the files that ship with it.

@@ -30,8 +30,8 @@ struct OpenRequest {
 class Shell {
 public:
     virtual ~Shell() = default;
-    /// Starts a program. It gets each argument unchanged: no command interpreter makes more of one. The result
-    /// is the task number; 0 when the program didn't start, as for an empty name.
+    /// Starts a program. It gets each argument unchanged: no command interpreter makes more of one. The
+    /// result is the task number; 0 when the program didn't start, as for an empty name.
     virtual int Run(TextView program, const std::vector<Text>& arguments, WindowState window) = 0;
     /// Nothing happens when it can't be opened.
     virtual void Open(const OpenRequest& request) = 0;
