@@ -17,7 +17,7 @@ bool AskYesNo(App& app, const Text& question, YesNoDefault preset = YesNoDefault
 
 // Boxes with an OK button alone.
 
-/// Tells what came of a command.
+/// Tells the result of a command.
 void Inform(App& app, const Text& text);
 /// Tells what the user has to do otherwise.
 void Warn(App& app, const Text& text);

@@ -44,7 +44,7 @@ Answer AskAboutChanges(const TabContext& tab, MessageIcon icon) {
 }
 
 bool SaveAtClosing(const TabContext& tab) {
-    // An old answer of another window mustn't refuse this closing.
+    // A result that another window left earlier mustn't stop this closing.
     tab.app.DialogResult = 0;
     const ScopedValue closing(tab.app.Exchange<ClosingSave>().ClosingTabSave, 1, 0);
     mnuFile_Save_Clack(tab);

@@ -22,7 +22,8 @@ void ClipboardWindow::Show() {
 
 bool ClipboardWindow::Choose() {
     TextWindowState& textWindow = app_.Exchange<TextWindowState>();
-    // The window takes a text window that isn't open for a caller who collects the contents himself.
+    // The text window counts as closed meanwhile, so that the contents don't go there but are left to the
+    // caller.
     const ScopedValue open(textWindow.TextWindowOpen, 0);
     app_.DialogResult = 0;
     Show();

@@ -36,7 +36,7 @@ public:
 private:
     struct Tables;
 
-    /// Goes to the next match; nothing, and a message, when there is none.
+    /// Goes to the next match and returns it. When there is none, it shows a message and returns nothing.
     std::optional<TableMatch> FindNext();
     void cmdReplaceButton_Click();
     void ReplaceIn(const TableMatch& match);

@@ -50,7 +50,8 @@ void ApplySettings(const MainParts& main) {
 
 void PlaceWindow(const MainParts& main) {
     const Settings& settings = main.app.Settings;
-    // What is stored goes to the fitting, whatever the screen made of it: a stored 0 is a place never stored.
+    // The fitting gets the stored values and not those of the window, because a stored 0 means that no place
+    // was stored yet.
     Rect place{Twips{settings.MainLeft}, Twips{settings.MainTop}, Twips{settings.MainWidth},
                Twips{settings.MainHeight}};
     main.window.Top = place.top;
@@ -87,7 +88,7 @@ void StartUp(const MainParts& main, TextBox& txtCommand, const Text& commandLine
     PlaceWindow(main);
     main.sideBar.BuildSideBar();
     main.window.Resize();
-    // The whole line is one path, blanks and all.
+    // The whole line is one path, even when it contains blanks.
     const Text startFile = WithoutOuterQuotes(commandLine);
     start.SecondInstance = 0;
     start.LoadedByCommand = 0;

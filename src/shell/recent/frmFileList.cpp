@@ -41,7 +41,7 @@ constexpr std::int16_t kLoad = 1;
 constexpr std::int16_t kNewText = 11;
 constexpr std::int16_t kGoToFolder = 99;
 
-/// What stands before the last bar, without the blanks around it.
+/// The text before the last bar, without the blanks around it.
 TextView PathPart(TextView entry) {
     const std::size_t bar = InStrRev(entry, u"|");
     return bar == 0 ? TextView() : Trim(Left(entry, bar - 1));

@@ -35,7 +35,7 @@ public:
     ListView ListView1;
     Label Label2{*this, "Label2"};
 
-    /// A row whose file isn't there in either form has the second image.
+    /// A row has the second image when its file is in neither of its two drive forms.
     static constexpr int kFoundImage = 1;
     static constexpr int kLostImage = 2;
 

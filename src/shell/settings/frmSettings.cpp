@@ -100,7 +100,7 @@ void frmSettings::Unload() {
 
 void frmSettings::chkYesShowFullPath_Click() {
     app_.Settings.ShowFullPath = chkYesShowFullPath.Value;
-    // The other tabs follow when they are loaded the next time.
+    // The captions of the other tabs change when their files are loaded the next time.
     frmMDIChild* tab = tabs_.Active();
     if (tab == nullptr) return;
     const Text& path = tabs_.TabState[tab->Slot()].Path;

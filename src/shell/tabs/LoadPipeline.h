@@ -16,7 +16,7 @@ enum class LoadInto : std::uint8_t { ActiveTab, NewTab };
 /// Loads files into tabs, wherever they come from.
 class LoadPipeline {
 public:
-    /// `window` is the main window, beside which the list of loaded files stands. All outlive the pipeline.
+    /// `window` is the main window, beside which the list of loaded files docks. All outlive the pipeline.
     LoadPipeline(App& app, Tabs& tabs, RecentRecord& recents, const Form& window)
         : app_(app), tabs_(tabs), recents_(recents), window_(window) {}
 

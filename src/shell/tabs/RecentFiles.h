@@ -12,10 +12,10 @@ class LoadPipeline;
 class RecentRecord;
 class Tabs;
 
-/// The way from the list of recent files into tabs.
+/// Loads files from the list of recent files into tabs.
 class RecentFiles {
 public:
-    /// `window` is the main window, beside which the list stands. All outlive the object.
+    /// `window` is the main window, beside which the list docks. All outlive the object.
     RecentFiles(App& app, Tabs& tabs, RecentRecord& recents, LoadPipeline& pipeline, const Form& window)
         : app_(app), tabs_(tabs), recents_(recents), pipeline_(pipeline), window_(window) {}
 

@@ -78,7 +78,7 @@ void Tabs::NewDocument() {
 }
 
 void Tabs::AddNewTab() {
-    // The strip lays itself out when it may draw again: the window needs no nudge.
+    // The strip arranges its tabs when it may draw again, so nothing else has to be done for that.
     const WithoutDrawing held(strip_);
     NewDocument();
 }

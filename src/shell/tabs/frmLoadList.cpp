@@ -179,7 +179,7 @@ void ShowLoadedFiles(App& app, Tabs& tabs, const Form& owner) {
     app.Screen().ProcessMessages();
     tabs.Show(form.SwitchTarget);
     app.Screen().ProcessMessages();
-    // What came in meanwhile may have taken the keyboard.
+    // A file that arrived meanwhile may have taken the keyboard.
     tabs.Show(form.SwitchTarget);
 }
 

@@ -43,7 +43,7 @@ public:
     TabContext Context();
     /// Runs a routine of the tab. What it changes is one step to undo.
     void Run(TabRoutine routine);
-    /// The number of the tab's slot, which stands in its `Tag`.
+    /// The number of the tab's slot, which is kept in its `Tag`.
     int Slot() const;
 
     void Load() override;

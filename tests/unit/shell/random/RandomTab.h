@@ -48,7 +48,7 @@ private:
     Grid& Store() { return tab_.GridStore(); }
     Row SomeRow() { return Row{1 + chance_.Below(Store().RowCount().Number() + 1)}; }
     Col SomeCol() { return Col{1 + chance_.Below(Store().ColCount().Number() + 1)}; }
-    /// Whether there was something to turn.
+    /// Undoes or redoes a step. False when there was none.
     bool Turn(TabRoutine routine);
     std::string SavedBytes();
     std::string State();
