@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Windows.h"
-#include "app/PrintedMessages.h"
+#include "app/Unattended.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "support/TestApp.h"
 
