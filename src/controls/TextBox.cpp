@@ -1,6 +1,3 @@
-#include "controls/CommandButton.h"
-#include "controls/Label.h"
-#include "controls/Slider.h"
 #include "controls/TextBox.h"
 
 #include <algorithm>
@@ -15,20 +12,6 @@ std::size_t AtLeastZero(int number) {
 }
 
 } // namespace
-
-Label::Label(Form& owner, std::string_view name, TextView caption) : Control(owner, name) {
-    Caption = Text(caption);
-}
-
-CommandButton::CommandButton(Form& owner, std::string_view name, TextView caption, TextView toolTip)
-    : Control(owner, name) {
-    Caption = Text(caption);
-    ToolTipText = Text(toolTip);
-}
-
-void CommandButton::Press() {
-    if (Enabled && Visible && Click) Click();
-}
 
 TextBox::TextBox(Form& owner, std::string_view name, TextView text, TextView toolTip) : Control(owner, name) {
     Text = korvane::Text(text);
@@ -61,27 +44,6 @@ void TextBox::Type(TextView text) {
 
 void TextBox::Changed(Aspect aspect) {
     if (aspect == Aspect::Text && Change) Change();
-}
-
-Slider::Slider(Form& owner, std::string_view name, int min, int max, TextView toolTip)
-    : Control(owner, name) {
-    Min = min;
-    Max = max;
-    ToolTipText = Text(toolTip);
-}
-
-void Slider::MoveTo(int value) {
-    if (!Enabled || !Visible || value == Value) return;
-    Value = value;
-    if (Scroll) Scroll();
-}
-
-void Slider::Release() {
-    if (Enabled && Visible && Released) Released();
-}
-
-void Slider::Changed(Aspect aspect) {
-    if (aspect == Aspect::Value && Change) Change();
 }
 
 } // namespace korvane
