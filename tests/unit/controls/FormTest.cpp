@@ -80,6 +80,44 @@ TEST_F(FormTest, AWindowThatIsClosedLoadsOnceMoreWhenItIsShownAgain) {
     EXPECT_EQ(form.log, "load query unload load query unload ");
 }
 
+TEST_F(FormTest, AWindowThatGoesAwayWhileItIsShownLeavesTheScreen) {
+    user.On<Recorded>([](Recorded&) {});
+    {
+        Recorded form(user);
+        form.Show();
+        EXPECT_EQ(user.Shown(), std::vector<Form*>{&form});
+    }
+    EXPECT_TRUE(user.Shown().empty());
+}
+
+TEST_F(FormTest, AWindowIsFollowedUntilItHasGone) {
+    class Follower : public View {
+    public:
+        void Follow(Observed&, Aspect aspect) override { aspects.push_back(aspect); }
+        void Gone() override { gone = true; }
+        std::vector<Aspect> aspects;
+        bool gone = false;
+    };
+    Follower follower;
+    {
+        Form form(user, "Form", u"Caption");
+        form.SetView(&follower);
+        form.Caption = u"Other";
+        EXPECT_FALSE(follower.gone);
+    }
+    EXPECT_EQ(follower.aspects, std::vector<Aspect>{Aspect::Caption});
+    EXPECT_TRUE(follower.gone);
+}
+
+TEST_F(FormTest, TheControlThatWantsTheKeyboardIsTheFocusedOne) {
+    Recorded form(user);
+    EXPECT_EQ(form.Focused(), nullptr);
+    form.cmdTwo.SetFocus();
+    EXPECT_EQ(form.Focused(), &form.cmdTwo);
+    form.FocusMoved(form.cmdOne);
+    EXPECT_EQ(form.Focused(), &form.cmdOne);
+}
+
 TEST_F(FormTest, FindsControlsByName) {
     Recorded form(user);
     EXPECT_EQ(form.Find("cmdTwo"), &form.cmdTwo);

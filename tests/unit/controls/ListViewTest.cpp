@@ -1,0 +1,242 @@
+#include "controls/ListView.h"
+
+#include "controls/Form.h"
+#include "support/ScriptedUser.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace korvane {
+namespace {
+
+class ListViewTest : public testing::Test {
+protected:
+    ListViewTest() {
+        for (const TextView name : {u"b", u"A", u"c"})
+            list.Add(RowNamed(name));
+        list.ItemClick = [this] { log += "click" + std::to_string(list.Current()) + " "; };
+        list.DblClick = [this] { log += "double "; };
+        list.ItemCheck = [this](int index) { log += "check" + std::to_string(index) + " "; };
+        list.ColumnClick = [this](int column) { log += "column" + std::to_string(column) + " "; };
+    }
+
+    static ListRow RowNamed(TextView name) {
+        ListRow row;
+        row.key = u"K_" + Text(name);
+        row.texts = {Text(name), u"12"};
+        return row;
+    }
+    std::vector<Text> Names() const {
+        std::vector<Text> names;
+        for (int index = 1; index <= list.Count(); ++index)
+            names.push_back(list.RowAt(index).texts.at(0));
+        return names;
+    }
+    /// The positions of the rows that are picked.
+    std::vector<int> Picks() const {
+        std::vector<int> picks;
+        for (int index = 1; index <= list.Count(); ++index)
+            if (list.RowAt(index).selected) picks.push_back(index);
+        return picks;
+    }
+
+    ScriptedUser user;
+    Form window{user, "Window", u""};
+    ListView list{window, "ListView1", {{u"Name", Twips{3000}}, {u"Size", Twips{1500}}}};
+    std::string log;
+};
+
+TEST_F(ListViewTest, HasTheColumnsThatItIsMadeWith) {
+    ASSERT_EQ(list.Columns.Get().size(), 2U);
+    EXPECT_EQ(list.Columns.Get()[1].header, u"Size");
+    EXPECT_EQ(list.Columns.Get()[1].width, Twips{1500});
+}
+
+TEST_F(ListViewTest, HoldsItsRowsInOrder) {
+    list.Insert(1, RowNamed(u"first"));
+    list.Insert(5, RowNamed(u"last"));
+    list.Insert(3, RowNamed(u"between"));
+    EXPECT_EQ(Names(), (std::vector<Text>{u"first", u"b", u"between", u"A", u"c", u"last"}));
+}
+
+TEST_F(ListViewTest, KeepsAllThatARowHolds) {
+    ListRow row{.key = u"key", .texts = {u"one", u"two", u"three"}, .checked = true, .selected = true};
+    row.tag = -7;
+    list.Add(row);
+    const ListRow kept = list.RowAt(4);
+    EXPECT_EQ(kept.key, u"key");
+    EXPECT_EQ(kept.texts, (std::vector<Text>{u"one", u"two", u"three"}));
+    EXPECT_TRUE(kept.checked);
+    EXPECT_TRUE(kept.selected);
+    EXPECT_EQ(kept.tag, -7);
+}
+
+TEST_F(ListViewTest, TakesNoRowOutsideItself) {
+    list.Insert(0, RowNamed(u"x"));
+    list.Insert(5, RowNamed(u"x"));
+    list.Set(4, RowNamed(u"x"));
+    list.Set(0, RowNamed(u"x"));
+    list.Remove(4);
+    list.Remove(0);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+    EXPECT_TRUE(list.RowAt(0).texts.empty());
+    EXPECT_TRUE(list.RowAt(4).texts.empty());
+}
+
+TEST_F(ListViewTest, ARowCanBeWrittenAnew) {
+    list.SetCurrent(2);
+    list.Set(2, RowNamed(u"other"));
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"other", u"c"}));
+    EXPECT_EQ(list.Current(), 2);
+}
+
+TEST_F(ListViewTest, FindsARowByItsKey) {
+    EXPECT_EQ(list.IndexOf(u"K_A"), 2);
+    EXPECT_EQ(list.IndexOf(u"K_a"), 0);
+    EXPECT_EQ(list.IndexOf(u"A"), 0);
+}
+
+TEST_F(ListViewTest, NoRowIsTheCurrentOneAtFirst) {
+    EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, TheCurrentRowIsPickedAlone) {
+    list.SetSelected(1, true);
+    list.SetSelected(3, true);
+    list.SetCurrent(2);
+    EXPECT_EQ(Picks(), std::vector<int>{2});
+    list.SetCurrent(3);
+    EXPECT_EQ(Picks(), std::vector<int>{3});
+}
+
+TEST_F(ListViewTest, ClicksEachTimeARowIsMadeTheCurrentOne) {
+    list.SetCurrent(2);
+    list.SetCurrent(2);
+    EXPECT_EQ(log, "click2 click2 ");
+}
+
+TEST_F(ListViewTest, ARowOutsideTheListCannotBeTheCurrentOne) {
+    list.SetCurrent(2);
+    log.clear();
+    list.SetCurrent(0);
+    list.SetCurrent(4);
+    EXPECT_EQ(list.Current(), 2);
+    EXPECT_EQ(Picks(), std::vector<int>{2});
+    EXPECT_EQ(log, "");
+}
+
+TEST_F(ListViewTest, SeveralRowsCanBePickedWithoutAClick) {
+    list.SetSelected(1, true);
+    list.SetSelected(3, true);
+    list.SetSelected(0, true);
+    list.SetSelected(4, true);
+    EXPECT_EQ(Picks(), (std::vector<int>{1, 3}));
+    list.SetSelected(1, false);
+    EXPECT_EQ(Picks(), std::vector<int>{3});
+    EXPECT_EQ(log, "");
+    EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, TellsOfACheckMarkThatChanges) {
+    list.SetChecked(3, true);
+    list.SetChecked(3, true);
+    EXPECT_TRUE(list.RowAt(3).checked);
+    list.SetChecked(3, false);
+    list.SetChecked(0, true);
+    list.SetChecked(4, true);
+    EXPECT_FALSE(list.RowAt(3).checked);
+    EXPECT_EQ(log, "check3 check3 ");
+}
+
+TEST_F(ListViewTest, TheCurrentRowStaysTheCurrentOneWhenOneIsInserted) {
+    list.SetCurrent(2);
+    list.Insert(3, RowNamed(u"x"));
+    EXPECT_EQ(list.Current(), 2);
+    list.Insert(2, RowNamed(u"x"));
+    EXPECT_EQ(list.Current(), 3);
+    list.Insert(1, RowNamed(u"x"));
+    EXPECT_EQ(list.Current(), 4);
+    EXPECT_EQ(list.RowAt(4).texts.at(0), u"A");
+    EXPECT_EQ(Picks(), std::vector<int>{4});
+}
+
+TEST_F(ListViewTest, TheCurrentRowStaysTheCurrentOneWhenAnotherIsRemoved) {
+    list.SetCurrent(2);
+    list.Remove(1);
+    EXPECT_EQ(list.Current(), 1);
+    list.Remove(2);
+    EXPECT_EQ(list.Current(), 1);
+    EXPECT_EQ(list.RowAt(1).texts.at(0), u"A");
+    EXPECT_EQ(Picks(), std::vector<int>{1});
+}
+
+TEST_F(ListViewTest, TheNextRowTakesThePlaceOfARemovedCurrentOne) {
+    list.SetCurrent(2);
+    list.Remove(2);
+    EXPECT_EQ(list.Current(), 2);
+    EXPECT_EQ(Picks(), std::vector<int>());
+    list.Remove(2);
+    EXPECT_EQ(list.Current(), 1);
+    list.Remove(1);
+    EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, ClearedItHoldsNothing) {
+    list.SetCurrent(2);
+    list.Clear();
+    EXPECT_EQ(list.Count(), 0);
+    EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, SortsWithCapitalsAndSmallLettersAlike) {
+    list.SortBy(1, SortOrder::Ascending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"A", u"b", u"c"}));
+    list.SortBy(1, SortOrder::Descending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"c", u"b", u"A"}));
+}
+
+TEST_F(ListViewTest, RowsThatCompareAlikeKeepTheirOrderBothWays) {
+    list.SortBy(2, SortOrder::Ascending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+    list.SortBy(2, SortOrder::Descending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+}
+
+TEST_F(ListViewTest, SortsRowsWithoutATextInTheColumnAsEmptyOnes) {
+    list.Add({.key = u"short", .texts = {u"d"}});
+    list.SortBy(2, SortOrder::Ascending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"d", u"b", u"A", u"c"}));
+    list.SortBy(3, SortOrder::Descending);
+    list.SortBy(0, SortOrder::Descending);
+    EXPECT_EQ(Names(), (std::vector<Text>{u"d", u"b", u"A", u"c"}));
+}
+
+TEST_F(ListViewTest, TheCurrentRowAndThePicksGoWithTheirRowsInASort) {
+    list.SetCurrent(2);
+    list.SetSelected(3, true);
+    list.SetChecked(1, true);
+    list.SortBy(1, SortOrder::Descending);
+    EXPECT_EQ(list.Current(), 3);
+    EXPECT_EQ(Picks(), (std::vector<int>{1, 3}));
+    EXPECT_TRUE(list.RowAt(2).checked);
+}
+
+TEST_F(ListViewTest, ASortOfAListWithoutACurrentRowMakesNone) {
+    list.SortBy(1, SortOrder::Ascending);
+    EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, ADoubleClickGoesToItsRowFirst) {
+    list.DoubleClick(3);
+    EXPECT_EQ(log, "click3 double ");
+}
+
+TEST_F(ListViewTest, TellsWhichHeaderWasClicked) {
+    list.ClickColumn(2);
+    EXPECT_EQ(log, "column2 ");
+}
+
+} // namespace
+} // namespace korvane
