@@ -11,7 +11,7 @@ Text ListBox::List(int index) const {
 void ListBox::SetList(int index, TextView text) {
     if (!Holds(index)) return;
     items_[static_cast<std::size_t>(index)].text = Text(text);
-    Notify(Aspect::Items);
+    TellChanged(index, index);
 }
 
 void ListBox::AddItem(TextView text) {
@@ -22,7 +22,7 @@ void ListBox::InsertItem(int index, TextView text) {
     if (index < 0 || index > ListCount()) return;
     items_.insert(items_.begin() + index, Item{Text(text), false});
     if (listIndex_ >= index) ++listIndex_;
-    Notify(Aspect::Items);
+    TellInserted(index, index);
 }
 
 void ListBox::RemoveItem(int index) {
@@ -30,19 +30,19 @@ void ListBox::RemoveItem(int index) {
     items_.erase(items_.begin() + index);
     if (listIndex_ > index) --listIndex_;
     listIndex_ = std::min(listIndex_, ListCount() - 1);
-    Notify(Aspect::Items);
+    TellRemoved(index, index);
 }
 
 void ListBox::Clear() {
     items_.clear();
     listIndex_ = -1;
-    Notify(Aspect::Items);
+    TellReset();
 }
 
 void ListBox::SetListIndex(int index) {
     if (index == listIndex_ || (index != -1 && !Holds(index))) return;
     listIndex_ = index;
-    Notify(Aspect::Selection);
+    TellCurrent(listIndex_);
     if (Click) Click();
 }
 
@@ -53,7 +53,8 @@ bool ListBox::Selected(int index) const {
 void ListBox::SetSelected(int index, bool selected) {
     if (!Holds(index) || Selected(index) == selected) return;
     items_[static_cast<std::size_t>(index)].selected = selected;
-    Notify(Aspect::Value);
+    TellChanged(index, index);
+    TellPicks();
     if (ItemCheck) ItemCheck(index);
 }
 

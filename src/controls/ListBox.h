@@ -1,15 +1,15 @@
 #pragma once
 
-#include "controls/Control.h"
+#include "controls/RowsControl.h"
 
 #include <vector>
 
 namespace korvane {
 
 /// A list of lines of which one is current. Rows count from 0, as list indexes do; -1 is none.
-class ListBox : public Control {
+class ListBox : public RowsControl {
 public:
-    using Control::Control;
+    using RowsControl::RowsControl;
 
     int ListCount() const { return static_cast<int>(items_.size()); }
     /// Empty outside the list.

@@ -3,105 +3,210 @@
 #include "common/text/CaseFold.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace korvane {
 
+namespace {
+
+int PlaceOf(int row, const std::vector<int>& order) {
+    return static_cast<int>(std::ranges::find(order, row) - order.begin());
+}
+
+bool NamesEachOnce(const std::vector<int>& order, int count) {
+    std::vector<bool> named(static_cast<std::size_t>(count));
+    for (const int row : order) {
+        if (row < 0 || row >= count || named[static_cast<std::size_t>(row)]) return false;
+        named[static_cast<std::size_t>(row)] = true;
+    }
+    return order.size() == named.size();
+}
+
+} // namespace
+
 ListView::ListView(Form& owner, std::string_view name, std::vector<ListColumn> columns)
-    : Control(owner, name) {
+    : RowsControl(owner, name) {
     Columns = std::move(columns);
 }
 
-const ListRow& ListView::RowAt(int index) const {
-    static const ListRow none;
-    return Holds(index) ? rows_[static_cast<std::size_t>(index - 1)] : none;
+Twips ListView::ColumnWidth(int column) const {
+    const auto& columns = Columns.Get();
+    if (column < 1 || column > static_cast<int>(columns.size())) return {};
+    return columns[static_cast<std::size_t>(column - 1)].width;
 }
 
-void ListView::Add(ListRow row) {
-    Insert(Count() + 1, std::move(row));
+void ListView::SetColumnWidth(int column, Twips width) {
+    std::vector<ListColumn> columns = Columns;
+    if (column < 1 || column > static_cast<int>(columns.size())) return;
+    columns[static_cast<std::size_t>(column - 1)].width = width;
+    Columns = std::move(columns);
 }
 
-void ListView::Insert(int index, ListRow row) {
+// ---- Rows ---------------------------------------------------------------------------------------------
+
+void ListView::Insert(int index, const ListRow& row) {
     if (index < 1 || index > Count() + 1) return;
-    rows_.insert(rows_.begin() + (index - 1), std::move(row));
+    rows_.Insert(index - 1, row);
     if (current_ >= index) ++current_;
-    Notify(Aspect::Items);
+    TellInserted(index - 1, index - 1);
+    if (row.selected) TellPicks();
 }
 
-void ListView::Set(int index, ListRow row) {
+void ListView::Set(int index, const ListRow& row) {
     if (!Holds(index)) return;
-    At(index) = std::move(row);
-    Notify(Aspect::Items);
+    const bool wasSelected = Selected(index);
+    rows_.Write(index - 1, row);
+    TellChanged(index - 1, index - 1);
+    if (row.selected != wasSelected) TellPicks();
 }
 
 void ListView::Remove(int index) {
     if (!Holds(index)) return;
-    rows_.erase(rows_.begin() + (index - 1));
+    rows_.Remove(index - 1);
     if (current_ > index) --current_;
     current_ = std::min(current_, Count());
-    Notify(Aspect::Items);
+    TellRemoved(index - 1, index - 1);
 }
 
 void ListView::Clear() {
-    rows_.clear();
+    rows_.Clear();
     current_ = 0;
-    Notify(Aspect::Items);
+    TellReset();
+}
+
+ListRow ListView::RowAt(int index) const {
+    return Holds(index) ? rows_.RowAt(index - 1) : ListRow();
+}
+
+TextView ListView::TextAt(int index, int column) const {
+    if (!Holds(index) || column < 1) return {};
+    return rows_.TextAt(index - 1, static_cast<std::size_t>(column - 1));
+}
+
+void ListView::SetText(int index, int column, TextView text) {
+    if (!Holds(index) || column < 1 || TextAt(index, column) == text) return;
+    rows_.WriteText(index - 1, static_cast<std::size_t>(column - 1), text);
+    TellChanged(index - 1, index - 1);
+}
+
+TextView ListView::KeyAt(int index) const {
+    return Holds(index) ? rows_.Key(index - 1) : TextView();
+}
+
+TextView ListView::IconAt(int index) const {
+    return Holds(index) ? rows_.Icon(index - 1) : TextView();
+}
+
+void ListView::SetIcon(int index, TextView icon) {
+    if (!Holds(index) || IconAt(index) == icon) return;
+    rows_.SetIcon(index - 1, icon);
+    TellChanged(index - 1, index - 1);
+}
+
+int ListView::TagAt(int index) const {
+    return Holds(index) ? rows_.Tag(index - 1) : 0;
+}
+
+void ListView::SetTag(int index, int tag) {
+    if (Holds(index)) rows_.SetTag(index - 1, tag);
 }
 
 int ListView::IndexOf(TextView key) const {
-    const auto found =
-        std::find_if(rows_.begin(), rows_.end(), [key](const ListRow& row) { return row.key == key; });
-    return found == rows_.end() ? 0 : static_cast<int>(found - rows_.begin()) + 1;
+    int at = 0;
+    while (at < Count() && rows_.Key(at) != key)
+        ++at;
+    return at == Count() ? 0 : at + 1;
 }
+
+// ---- The current row, picks and check marks -----------------------------------------------------------
 
 void ListView::SetCurrent(int index) {
     if (!Holds(index)) return;
-    for (ListRow& row : rows_)
-        row.selected = false;
-    At(index).selected = true;
+    ClearPicks();
+    rows_.SetSelected(index - 1, true);
     current_ = index;
-    Notify(Aspect::Selection);
+    TellPicks();
+    TellCurrent(current_ - 1);
     if (ItemClick) ItemClick();
 }
 
+void ListView::ClearPicks() {
+    // Mostly the current row is the only one.
+    if (current_ != 0) rows_.SetSelected(current_ - 1, false);
+    for (int at = 0; rows_.SelectedCount() > 0; ++at)
+        rows_.SetSelected(at, false);
+}
+
+bool ListView::Selected(int index) const {
+    return Holds(index) && rows_.Selected(index - 1);
+}
+
 void ListView::SetSelected(int index, bool selected) {
-    if (!Holds(index) || At(index).selected == selected) return;
-    At(index).selected = selected;
-    Notify(Aspect::Selection);
+    if (!Holds(index) || Selected(index) == selected) return;
+    rows_.SetSelected(index - 1, selected);
+    TellPicks();
+}
+
+void ListView::SetAllSelected(bool selected) {
+    for (int at = 0; at < Count(); ++at)
+        rows_.SetSelected(at, selected);
+    TellPicks();
+}
+
+std::vector<int> ListView::SelectedRows() const {
+    std::vector<int> selected;
+    selected.reserve(static_cast<std::size_t>(SelectedCount()));
+    for (int index = 1; index <= Count(); ++index) {
+        if (Selected(index)) selected.push_back(index);
+    }
+    return selected;
+}
+
+bool ListView::Checked(int index) const {
+    return Holds(index) && rows_.Checked(index - 1);
 }
 
 void ListView::SetChecked(int index, bool checked) {
-    if (!Holds(index) || At(index).checked == checked) return;
-    At(index).checked = checked;
-    Notify(Aspect::Value);
+    if (!Holds(index) || Checked(index) == checked) return;
+    rows_.SetChecked(index - 1, checked);
+    TellChanged(index - 1, index - 1);
     if (ItemCheck) ItemCheck(index);
 }
 
-void ListView::SortBy(int column, SortOrder order) {
-    struct Keyed {
-        Text key;
-        std::size_t from;
-    };
-    std::vector<Keyed> keyed;
-    keyed.reserve(rows_.size());
-    for (const ListRow& row : rows_) {
-        const auto at = static_cast<std::size_t>(column - 1);
-        const bool held = column >= 1 && at < row.texts.size();
-        keyed.push_back({held ? ToUpper(row.texts[at]) : Text{}, keyed.size()});
-    }
-    std::stable_sort(keyed.begin(), keyed.end(), [order](const Keyed& a, const Keyed& b) {
-        return order == SortOrder::Ascending ? a.key < b.key : b.key < a.key;
-    });
-    std::vector<ListRow> sorted;
-    sorted.reserve(rows_.size());
-    int current = 0;
-    for (const Keyed& entry : keyed) {
-        if (static_cast<int>(entry.from) + 1 == current_) current = static_cast<int>(sorted.size()) + 1;
-        sorted.push_back(std::move(rows_[entry.from]));
-    }
-    rows_ = std::move(sorted);
-    current_ = current;
-    Notify(Aspect::Items);
+void ListView::EnsureVisible(int index) {
+    if (Holds(index)) TellWanted(index - 1);
 }
+
+// ---- Sorting ------------------------------------------------------------------------------------------
+
+void ListView::SortBy(int column, SortOrder order) {
+    std::vector<Text> keys;
+    keys.reserve(static_cast<std::size_t>(Count()));
+    for (int index = 1; index <= Count(); ++index)
+        keys.push_back(ToUpper(TextAt(index, column)));
+    std::vector<int> sorted(keys.size());
+    std::iota(sorted.begin(), sorted.end(), 0);
+    const auto key = [&keys](int at) -> const Text& { return keys[static_cast<std::size_t>(at)]; };
+    std::stable_sort(sorted.begin(), sorted.end(), [&key, order](int a, int b) {
+        return order == SortOrder::Ascending ? key(a) < key(b) : key(b) < key(a);
+    });
+    TakeOrder(sorted);
+}
+
+void ListView::Reorder(const std::vector<int>& order) {
+    std::vector<int> fromZero(order.size());
+    std::transform(order.begin(), order.end(), fromZero.begin(), [](int index) { return index - 1; });
+    if (NamesEachOnce(fromZero, Count())) TakeOrder(fromZero);
+}
+
+void ListView::TakeOrder(const std::vector<int>& order) {
+    rows_.Reorder(order);
+    if (current_ != 0) current_ = PlaceOf(current_ - 1, order) + 1;
+    TellReset();
+    TellCurrent(current_ - 1);
+}
+
+// ---- What the user does -------------------------------------------------------------------------------
 
 void ListView::DoubleClick(int index) {
     SetCurrent(index);

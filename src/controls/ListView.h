@@ -1,38 +1,35 @@
 #pragma once
 
 #include "common/number/SortOrder.h"
-#include "controls/Control.h"
+#include "controls/ListRow.h"
+#include "controls/ListRows.h"
+#include "controls/RowsControl.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace korvane {
 
-/// One row of a list with columns: `texts` holds one text for each column.
-struct ListRow {
-    Text key;
-    std::vector<Text> texts;
-    bool checked = false;
-    bool selected = false;
-    /// A number that the window keeps with the row. It isn't shown.
-    int tag = 0;
-    /// Which of the window's images is shown before the row; 0 for none.
-    int image = 0;
-};
+enum class ColumnAlign : std::uint8_t { Left, Right, Centre };
 
 struct ListColumn {
     Text header;
     /// 0 hides the column.
     Twips width;
+    ColumnAlign align = ColumnAlign::Left;
     bool operator==(const ListColumn&) const = default;
 };
 
-/// A list with columns, for file lists and the like. Rows count from 1; 0 is none.
-class ListView : public Control {
+/// A list with columns, for file lists and the like. Rows and columns count from 1; 0 is none. What addresses
+/// no row has no effect, and is read as an empty one. Apart from `SortBy`, and from what asks or clears all
+/// rows, it costs the same in a long list as in a short one.
+class ListView : public RowsControl {
 public:
     ListView(Form& owner, std::string_view name, std::vector<ListColumn> columns);
 
     Property<std::vector<ListColumn>> Columns{*this, Aspect::Range};
+    Twips ColumnWidth(int column) const;
+    void SetColumnWidth(int column, Twips width);
     /// Whether several rows can be picked at once, and whether rows have check boxes.
     Property<bool> MultiSelect{*this, Aspect::Range};
     Property<bool> CheckBoxes{*this, Aspect::Range};
@@ -40,25 +37,44 @@ public:
     Property<bool> GridLines{*this, Aspect::Range};
     Property<Colour> BackColor{*this, Aspect::Colours};
 
-    int Count() const { return static_cast<int>(rows_.size()); }
-    /// An empty row outside the list.
-    const ListRow& RowAt(int index) const;
-    void Add(ListRow row);
-    void Insert(int index, ListRow row);
-    void Set(int index, ListRow row);
+    int Count() const { return rows_.Count(); }
+    void Add(const ListRow& row) { Insert(Count() + 1, row); }
+    void Insert(int index, const ListRow& row);
+    void Set(int index, const ListRow& row);
     void Remove(int index);
     void Clear();
-    /// Position of the row of this key; 0 when there is none.
+
+    /// A copy of the row. What asks many rows for one thing of each asks for that alone.
+    ListRow RowAt(int index) const;
+    TextView TextAt(int index, int column) const;
+    void SetText(int index, int column, TextView text);
+    TextView KeyAt(int index) const;
+    TextView IconAt(int index) const;
+    void SetIcon(int index, TextView icon);
+    int TagAt(int index) const;
+    void SetTag(int index, int tag);
+    /// Position of the row of this key; 0 when there is none. Looks through all rows.
     int IndexOf(TextView key) const;
 
     /// The current row; setting it picks it alone and fires `ItemClick`.
     int Current() const { return current_; }
     void SetCurrent(int index);
+    bool Selected(int index) const;
     void SetSelected(int index, bool selected);
+    void SetAllSelected(bool selected);
+    int SelectedCount() const { return rows_.SelectedCount(); }
+    /// The positions of the picked rows, from the first on.
+    std::vector<int> SelectedRows() const;
+    bool Checked(int index) const;
     void SetChecked(int index, bool checked);
+    /// Scrolls as far as it has to.
+    void EnsureVisible(int index);
 
-    /// Sorts by the texts of a column (from 1), case ignored; rows that compare alike keep their order.
+    /// Sorts by the texts of a column, case ignored; rows that compare alike keep their order.
     void SortBy(int column, SortOrder order);
+    /// Sorts as the window wants: `order` names for each row, from the first on, the row that comes to stand
+    /// there. Nothing happens unless it names each row once.
+    void Reorder(const std::vector<int>& order);
 
     std::function<void()> ItemClick;
     std::function<void()> DblClick;
@@ -69,12 +85,16 @@ public:
     void Select(int index) { SetCurrent(index); }
     void DoubleClick(int index);
     void ClickColumn(int column);
+    /// By dragging its edge.
+    void DragColumn(int column, Twips width) { SetColumnWidth(column, width); }
 
 private:
     bool Holds(int index) const { return index >= 1 && index <= Count(); }
-    ListRow& At(int index) { return rows_[static_cast<std::size_t>(index - 1)]; }
+    void ClearPicks();
+    /// The same with rows that count from 0, as the store's do.
+    void TakeOrder(const std::vector<int>& order);
 
-    std::vector<ListRow> rows_;
+    ListRows rows_;
     int current_ = 0;
 };
 

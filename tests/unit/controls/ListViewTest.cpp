@@ -1,5 +1,6 @@
 #include "controls/ListView.h"
 
+#include "common/number/Number.h"
 #include "controls/Form.h"
 #include "support/ScriptedUser.h"
 
@@ -52,6 +53,9 @@ TEST_F(ListViewTest, HasTheColumnsThatItIsMadeWith) {
     ASSERT_EQ(list.Columns.Get().size(), 2U);
     EXPECT_EQ(list.Columns.Get()[1].header, u"Size");
     EXPECT_EQ(list.Columns.Get()[1].width, Twips{1500});
+    EXPECT_EQ(list.ColumnWidth(1), Twips{3000});
+    EXPECT_EQ(list.ColumnWidth(0), Twips{});
+    EXPECT_EQ(list.ColumnWidth(3), Twips{});
 }
 
 TEST_F(ListViewTest, HoldsItsRowsInOrder) {
@@ -62,15 +66,19 @@ TEST_F(ListViewTest, HoldsItsRowsInOrder) {
 }
 
 TEST_F(ListViewTest, KeepsAllThatARowHolds) {
-    ListRow row{.key = u"key", .texts = {u"one", u"two", u"three"}, .checked = true, .selected = true};
-    row.tag = -7;
-    list.Add(row);
+    list.Add({.key = u"key",
+              .texts = {u"one", u"two", u"three"},
+              .checked = true,
+              .selected = true,
+              .tag = -7,
+              .icon = u"fileFound"});
     const ListRow kept = list.RowAt(4);
     EXPECT_EQ(kept.key, u"key");
     EXPECT_EQ(kept.texts, (std::vector<Text>{u"one", u"two", u"three"}));
     EXPECT_TRUE(kept.checked);
     EXPECT_TRUE(kept.selected);
     EXPECT_EQ(kept.tag, -7);
+    EXPECT_EQ(kept.icon, u"fileFound");
 }
 
 TEST_F(ListViewTest, TakesNoRowOutsideItself) {
@@ -226,6 +234,117 @@ TEST_F(ListViewTest, TheCurrentRowAndThePicksGoWithTheirRowsInASort) {
 TEST_F(ListViewTest, ASortOfAListWithoutACurrentRowMakesNone) {
     list.SortBy(1, SortOrder::Ascending);
     EXPECT_EQ(list.Current(), 0);
+}
+
+TEST_F(ListViewTest, AsksARowForOneThingAlone) {
+    list.Add({.key = u"key", .texts = {u"one", u"two"}, .checked = true, .tag = 5, .icon = u"fileLost"});
+    EXPECT_EQ(list.KeyAt(4), u"key");
+    EXPECT_EQ(list.TextAt(4, 2), u"two");
+    EXPECT_EQ(list.TextAt(4, 3), u"");
+    EXPECT_EQ(list.TextAt(4, 0), u"");
+    EXPECT_EQ(list.IconAt(4), u"fileLost");
+    EXPECT_EQ(list.TagAt(4), 5);
+    EXPECT_TRUE(list.Checked(4));
+    EXPECT_FALSE(list.Selected(4));
+}
+
+TEST_F(ListViewTest, ARowOutsideTheListIsAnEmptyOne) {
+    for (const int index : {0, 4}) {
+        EXPECT_EQ(list.KeyAt(index), u"");
+        EXPECT_EQ(list.TextAt(index, 1), u"");
+        EXPECT_EQ(list.IconAt(index), u"");
+        EXPECT_EQ(list.TagAt(index), 0);
+        EXPECT_FALSE(list.Checked(index));
+        EXPECT_FALSE(list.Selected(index));
+        list.SetText(index, 1, u"x");
+        list.SetIcon(index, u"x");
+        list.SetTag(index, 1);
+    }
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+}
+
+TEST_F(ListViewTest, OneTextOfARowCanBeWrittenAnew) {
+    list.SetCurrent(2);
+    list.SetTag(2, 7);
+    list.SetText(2, 1, u"a longer text than the one before");
+    list.SetText(2, 4, u"four");
+    list.SetText(2, 0, u"x");
+    const ListRow row = list.RowAt(2);
+    EXPECT_EQ(row.key, u"K_A");
+    EXPECT_EQ(row.texts, (std::vector<Text>{u"a longer text than the one before", u"12", u"", u"four"}));
+    EXPECT_EQ(row.tag, 7);
+    EXPECT_TRUE(row.selected);
+}
+
+TEST_F(ListViewTest, IconsGoWithTheirRows) {
+    list.SetIcon(2, u"fileLost");
+    list.SetIcon(3, u"fileFound");
+    list.Remove(1);
+    list.Insert(1, RowNamed(u"x"));
+    list.SortBy(1, SortOrder::Descending);
+    EXPECT_EQ(list.IconAt(1), u"");
+    EXPECT_EQ(list.IconAt(2), u"fileFound");
+    EXPECT_EQ(list.IconAt(3), u"fileLost");
+}
+
+TEST_F(ListViewTest, CountsAndNamesThePickedRows) {
+    list.SetSelected(3, true);
+    list.SetSelected(1, true);
+    EXPECT_EQ(list.SelectedCount(), 2);
+    EXPECT_EQ(list.SelectedRows(), (std::vector<int>{1, 3}));
+    list.Remove(1);
+    EXPECT_EQ(list.SelectedCount(), 1);
+    EXPECT_EQ(list.SelectedRows(), std::vector<int>{2});
+    list.Set(2, {.texts = {u"x"}});
+    EXPECT_EQ(list.SelectedCount(), 0);
+    list.Insert(1, {.selected = true});
+    EXPECT_EQ(list.SelectedCount(), 1);
+    list.Clear();
+    EXPECT_EQ(list.SelectedCount(), 0);
+}
+
+TEST_F(ListViewTest, AllRowsCanBePickedAtOnce) {
+    list.SetAllSelected(true);
+    EXPECT_EQ(list.SelectedRows(), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(log, "");
+    list.SetAllSelected(false);
+    EXPECT_EQ(list.SelectedRows(), std::vector<int>());
+}
+
+TEST_F(ListViewTest, TheWindowCanSortAsItWants) {
+    list.SetCurrent(1);
+    list.Reorder({3, 1, 2});
+    EXPECT_EQ(Names(), (std::vector<Text>{u"c", u"b", u"A"}));
+    EXPECT_EQ(list.Current(), 2);
+    EXPECT_EQ(Picks(), std::vector<int>{2});
+}
+
+TEST_F(ListViewTest, AnOrderThatDoesNotNameEachRowOnceIsNone) {
+    for (const auto& order : {std::vector<int>{1, 2}, {1, 2, 2}, {0, 1, 2}, {2, 3, 4}, {1, 2, 3, 3}, {}}) {
+        list.Reorder(order);
+        EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+    }
+}
+
+TEST_F(ListViewTest, ManyRowsComeAndGo) {
+    for (int round = 0; round < 3; ++round) {
+        for (int number = 1; number <= 100; ++number)
+            list.Insert(2, RowNamed(NumberText(number)));
+        EXPECT_EQ(list.TextAt(2, 1), u"100");
+        EXPECT_EQ(list.TextAt(101, 1), u"1");
+        for (int number = 1; number <= 100; ++number)
+            list.Remove(2);
+    }
+    EXPECT_EQ(Names(), (std::vector<Text>{u"b", u"A", u"c"}));
+}
+
+TEST_F(ListViewTest, AColumnCanBeDraggedToAnotherWidth) {
+    list.DragColumn(2, Twips{999});
+    list.DragColumn(0, Twips{1});
+    list.DragColumn(3, Twips{1});
+    EXPECT_EQ(list.Columns.Get()[0].width, Twips{3000});
+    EXPECT_EQ(list.Columns.Get()[1].width, Twips{999});
+    EXPECT_EQ(list.Columns.Get()[1].header, u"Size");
 }
 
 TEST_F(ListViewTest, ADoubleClickGoesToItsRowFirst) {

@@ -1,15 +1,40 @@
 #include "controls/TreeView.h"
 
 #include "controls/Form.h"
+#include "controls/UpdateScope.h"
 #include "support/ScriptedUser.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace korvane {
 namespace {
+
+class Recorder : public TreeListener {
+public:
+    void TreeReset() override { log += "reset "; }
+    void NodeAdding(const TreeNode& parent) override { Note("adding", parent); }
+    void NodeAdded() override { log += "added "; }
+    void NodeRemoving(const TreeNode& node) override { Note("removing", node); }
+    void NodeRemoved() override { log += "removed "; }
+    void NodeChanged(const TreeNode& node) override { Note("changed", node); }
+    void NodeExpanded(const TreeNode& node) override { Note("expanded", node); }
+    void SelectionChanged() override { log += "selection "; }
+    void NodeWantedInView(const TreeNode& node) override { Note("wanted", node); }
+
+    /// What was heard since it was asked last.
+    std::string Heard() { return std::exchange(log, {}); }
+
+private:
+    void Note(const char* what, const TreeNode& node) {
+        log += std::string(what) + ":" + std::string(node.key.begin(), node.key.end()) + " ";
+    }
+
+    std::string log;
+};
 
 class TreeViewTest : public testing::Test {
 protected:
@@ -25,8 +50,8 @@ protected:
 
     std::vector<Text> KeysBelow(TextView parent) const {
         std::vector<Text> keys;
-        for (const auto& node : tree.Children(parent))
-            keys.push_back(node.key);
+        for (const TreeNode* node : tree.Children(parent))
+            keys.push_back(node->key);
         return keys;
     }
 
@@ -34,6 +59,7 @@ protected:
     Form window{user, "Window", u""};
     TreeView tree{window, "FileTree"};
     std::string log;
+    Recorder heard;
 };
 
 TEST_F(TreeViewTest, HoldsTheNodesOfAParentInTheOrderInWhichTheyCame) {
@@ -68,6 +94,8 @@ TEST_F(TreeViewTest, ANodeThatIsNotThereCannotBeRemoved) {
 }
 
 TEST_F(TreeViewTest, TellsOfTheSelectedNode) {
+    tree.SetExpanded(u"root", true);
+    log.clear();
     tree.Select(u"a");
     EXPECT_EQ(tree.Selected(), u"a");
     tree.Select(u"a");
@@ -128,9 +156,129 @@ TEST_F(TreeViewTest, ClearedItHoldsNothing) {
     EXPECT_TRUE(tree.Add({}, u"root", u"Root"));
 }
 
+TEST_F(TreeViewTest, ASelectedNodeCanBeSeen) {
+    tree.Select(u"a1");
+    EXPECT_TRUE(tree.Node(u"root")->expanded);
+    EXPECT_TRUE(tree.Node(u"a")->expanded);
+    EXPECT_FALSE(tree.Node(u"a1")->expanded);
+    EXPECT_EQ(log, "expand:root expand:a click ");
+}
+
+TEST_F(TreeViewTest, ANodeThatGoesWhileWhatItHangsOnOpensIsNotSelected) {
+    tree.Expand = [this](TextView) { tree.Remove(u"a1"); };
+    tree.Select(u"a1");
+    EXPECT_EQ(tree.Selected(), u"");
+    EXPECT_EQ(log, "");
+}
+
+TEST_F(TreeViewTest, NamesAllNodesEachBeforeWhatHangsOnIt) {
+    std::vector<Text> keys;
+    for (const TreeNode* node : tree.Nodes())
+        keys.push_back(node->key);
+    EXPECT_EQ(keys, (std::vector<Text>{u"root", u"a", u"a1", u"b"}));
+}
+
+TEST_F(TreeViewTest, ANodeKnowsItsPlace) {
+    EXPECT_EQ(tree.Node(u"b")->parent, tree.Node(u"root"));
+    EXPECT_EQ(tree.Node(u"b")->row, 1);
+    EXPECT_EQ(tree.Node(u"root")->parent, &tree.Root());
+    tree.Remove(u"a");
+    EXPECT_EQ(tree.Node(u"b")->row, 0);
+}
+
+TEST_F(TreeViewTest, ANodeThatHasGoneIsNotFoundByItsId) {
+    const std::uint32_t id = tree.Node(u"a1")->id;
+    EXPECT_EQ(tree.NodeOfId(id), tree.Node(u"a1"));
+    tree.Remove(u"a");
+    EXPECT_EQ(tree.NodeOfId(id), nullptr);
+    tree.Clear();
+    EXPECT_EQ(tree.NodeOfId(id), nullptr);
+    EXPECT_EQ(tree.NodeOfId(tree.Root().id), &tree.Root());
+}
+
+TEST_F(TreeViewTest, ANodeCanHaveAPictureOfItsOwn) {
+    tree.SetNodeIcon(u"a", u"drive");
+    tree.SetNodeIcon(u"none", u"drive");
+    EXPECT_EQ(tree.IconOf(*tree.Node(u"a")), u"drive");
+    EXPECT_EQ(tree.IconOf(*tree.Node(u"b")), u"");
+    tree.SetNodeIcon(u"a", {});
+    EXPECT_EQ(tree.IconOf(*tree.Node(u"a")), u"");
+}
+
+TEST_F(TreeViewTest, TellsWhereNodesComeAndGo) {
+    tree.SetTreeListener(&heard);
+    tree.Add(u"b", u"b1", u"B1");
+    EXPECT_EQ(heard.Heard(), "adding:b added ");
+    tree.Add({}, u"top", u"Top");
+    EXPECT_EQ(heard.Heard(), "adding: added ");
+    tree.Add({}, u"top", u"Top");
+    EXPECT_EQ(heard.Heard(), "");
+    tree.Remove(u"a");
+    EXPECT_EQ(heard.Heard(), "removing:a removed ");
+    tree.Clear();
+    EXPECT_EQ(heard.Heard(), "reset ");
+}
+
+TEST_F(TreeViewTest, TellsWhatChangesInANode) {
+    tree.SetTreeListener(&heard);
+    tree.SetNodeText(u"a", u"Other");
+    EXPECT_EQ(heard.Heard(), "changed:a ");
+    tree.SetNodeText(u"a", u"Other");
+    EXPECT_EQ(heard.Heard(), "");
+    tree.SetNodeIcon(u"a", u"drive");
+    tree.SetNodeIcon(u"a", u"drive");
+    EXPECT_EQ(heard.Heard(), "changed:a ");
+    tree.SetExpandable(u"b", true);
+    tree.SetExpandable(u"b", true);
+    tree.SetExpandable(u"none", true);
+    EXPECT_EQ(heard.Heard(), "changed:b ");
+    EXPECT_TRUE(tree.Node(u"b")->expandable);
+}
+
+TEST_F(TreeViewTest, TellsWhatIsOpenSelectedOrWanted) {
+    tree.SetTreeListener(&heard);
+    tree.SetExpanded(u"a", true);
+    EXPECT_EQ(heard.Heard(), "expanded:a ");
+    tree.Select(u"a1");
+    EXPECT_EQ(heard.Heard(), "expanded:root selection ");
+    tree.SetExpanded(u"root", false);
+    EXPECT_EQ(heard.Heard(), "expanded:root ");
+    tree.EnsureVisible(u"b");
+    EXPECT_EQ(heard.Heard(), "expanded:root wanted:b ");
+    tree.EnsureVisible(u"none");
+    EXPECT_EQ(heard.Heard(), "");
+    EXPECT_EQ(log, "expand:a expand:root click expand:root ");
+}
+
+TEST_F(TreeViewTest, WhatChangesInAnUpdateIsToldOnceAtItsEnd) {
+    tree.SetTreeListener(&heard);
+    {
+        const UpdateScope outer(tree);
+        {
+            const UpdateScope inner(tree);
+            tree.Remove(u"b");
+            tree.Add(u"a", u"a2", u"A2");
+        }
+        tree.SetNodeText(u"a", u"Other");
+        tree.Select(u"a2");
+        tree.EnsureVisible(u"a1");
+        EXPECT_EQ(heard.Heard(), "");
+    }
+    EXPECT_EQ(heard.Heard(), "reset selection wanted:a1 ");
+    tree.EndUpdate();
+    tree.SetNodeText(u"a", u"A");
+    EXPECT_EQ(heard.Heard(), "changed:a ");
+}
+
+TEST_F(TreeViewTest, AnUpdateWithoutAChangeTellsNothing) {
+    tree.SetTreeListener(&heard);
+    { const UpdateScope update(tree); }
+    EXPECT_EQ(heard.Heard(), "");
+}
+
 TEST_F(TreeViewTest, ADoubleClickGoesToItsNodeFirst) {
-    tree.DoubleClick(u"b");
-    EXPECT_EQ(tree.Selected(), u"b");
+    tree.DoubleClick(u"root");
+    EXPECT_EQ(tree.Selected(), u"root");
     EXPECT_EQ(log, "click double ");
 }
 

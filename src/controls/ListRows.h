@@ -1,0 +1,63 @@
+#pragma once
+
+#include "controls/ListRow.h"
+#include "controls/NameNumbers.h"
+#include "controls/PackedTexts.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace korvane {
+
+/// The rows of a list with columns, counted from 0, in little memory. A row that is inserted, removed or
+/// sorted stays where it is in memory: only the order of the rows, four bytes for each, is written anew.
+class ListRows {
+public:
+    int Count() const { return static_cast<int>(order_.size()); }
+    void Insert(int at, const ListRow& row);
+    void Write(int at, const ListRow& row);
+    void Remove(int at);
+    void Clear();
+    /// `order` names for each row, from the first on, the row that comes to stand there.
+    void Reorder(const std::vector<int>& order);
+
+    ListRow RowAt(int at) const;
+    TextView Key(int at) const { return At(at).texts.At(0); }
+    /// Columns count from 0.
+    TextView TextAt(int at, std::size_t column) const { return At(at).texts.At(column + 1); }
+    void WriteText(int at, std::size_t column, TextView text);
+    TextView Icon(int at) const { return icons_.Name(At(at).icon); }
+    void SetIcon(int at, TextView name) { At(at).icon = icons_.NumberOf(name); }
+    int Tag(int at) const { return At(at).tag; }
+    void SetTag(int at, int tag) { At(at).tag = tag; }
+
+    bool Checked(int at) const { return At(at).checked; }
+    void SetChecked(int at, bool checked) { At(at).checked = checked; }
+    bool Selected(int at) const { return At(at).selected; }
+    void SetSelected(int at, bool selected);
+    int SelectedCount() const { return selectedCount_; }
+
+private:
+    struct Held {
+        /// The key and then the texts of the columns.
+        PackedTexts texts;
+        int tag = 0;
+        std::uint32_t icon = 0;
+        bool checked = false;
+        bool selected = false;
+    };
+
+    const Held& At(int at) const { return held_[order_[static_cast<std::size_t>(at)]]; }
+    Held& At(int at) { return held_[order_[static_cast<std::size_t>(at)]]; }
+    std::uint32_t FreePlace();
+    void Fill(Held& held, const ListRow& row);
+
+    std::vector<Held> held_;
+    /// Which of `held_` stands in each row, and which of them are free.
+    std::vector<std::uint32_t> order_;
+    std::vector<std::uint32_t> free_;
+    NameNumbers icons_;
+    int selectedCount_ = 0;
+};
+
+} // namespace korvane
