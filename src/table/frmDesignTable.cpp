@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "controls/KeyTable.h"
+#include "controls/UpdateScope.h"
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
 
@@ -20,7 +21,7 @@ constexpr int kBesideList = 1050;
 
 constexpr int kEntries = MaxColumns.Number();
 
-enum Column : std::size_t { kNumber, kTitle };
+enum Column : int { kNumber = 1, kTitle };
 
 } // namespace
 
@@ -63,40 +64,29 @@ void frmDesignTable::Resize() {
 }
 
 void frmDesignTable::FillList() {
+    const UpdateScope update(ListView1);
     ListView1.Clear();
     for (int number = 1; number <= kEntries; ++number) {
         ListRow row;
         row.key = u"K_" + NumberText(number);
         row.texts = {NumberText(number), {}};
-        ListView1.Add(std::move(row));
+        ListView1.Add(row);
     }
 }
 
 void frmDesignTable::LayOutColumns() {
     const int list = Width.Get().Number() - kBesideList;
-    std::vector<ListColumn> columns = ListView1.Columns;
-    columns[kNumber].width = Twips{list / 10};
-    columns[kTitle].width = Twips{list * 2 / 3};
-    ListView1.Columns = std::move(columns);
+    ListView1.SetColumnWidth(kNumber, Twips{list / 10});
+    ListView1.SetColumnWidth(kTitle, Twips{list * 2 / 3});
 }
 
-void frmDesignTable::SetTitle(int index, Text title) {
-    ListRow row = ListView1.RowAt(index);
-    row.texts[kTitle] = std::move(title);
-    ListView1.Set(index, std::move(row));
-}
-
-int frmDesignTable::SelectedCount() const {
-    int count = 0;
-    for (int index = 1; index <= kEntries; ++index)
-        count += ListView1.RowAt(index).selected ? 1 : 0;
-    return count;
+void frmDesignTable::SetTitle(int index, TextView title) {
+    ListView1.SetText(index, kTitle, title);
 }
 
 void frmDesignTable::ClearSelectedTitles() {
-    for (int index = 1; index <= kEntries; ++index) {
-        if (ListView1.RowAt(index).selected) SetTitle(index, {});
-    }
+    for (const int index : ListView1.SelectedRows())
+        SetTitle(index, {});
 }
 
 void frmDesignTable::MoveCurrent(int step) {
@@ -107,8 +97,8 @@ void frmDesignTable::MoveCurrent(int step) {
     ListRow neighbour = ListView1.RowAt(to);
     // The keys belong to the places in the list, not to the titles in them.
     std::swap(moved.texts, neighbour.texts);
-    ListView1.Set(from, std::move(moved));
-    ListView1.Set(to, std::move(neighbour));
+    ListView1.Set(from, moved);
+    ListView1.Set(to, neighbour);
     ListView1.SetCurrent(to);
 }
 
@@ -123,7 +113,7 @@ void frmDesignTable::cmdAutoLabel_Click() {
 }
 
 void frmDesignTable::cmdDeleteEntry_Click() {
-    const int count = SelectedCount();
+    const int count = ListView1.SelectedCount();
     if (count == 0) {
         tab_.app.Messages().Show({u"No items checked.", MessageIcon::Information});
         return;
@@ -139,8 +129,8 @@ void frmDesignTable::cmdDeleteEntry_Click() {
 void frmDesignTable::cmdMake_Click() {
     std::vector<Text> titles;
     for (int index = 1; index <= kEntries; ++index) {
-        const Text& title = ListView1.RowAt(index).texts[kTitle];
-        if (!title.empty()) titles.push_back(title);
+        const TextView title = ListView1.TextAt(index, kTitle);
+        if (!title.empty()) titles.emplace_back(title);
     }
     if (titles.empty()) {
         tab_.app.Messages().Show({u"No column names have been specified!", MessageIcon::Exclamation});

@@ -34,8 +34,7 @@ private:
 
     void FillList();
     void LayOutColumns();
-    void SetTitle(int index, Text title);
-    int SelectedCount() const;
+    void SetTitle(int index, TextView title);
     void ClearSelectedTitles();
     /// Swaps the current entry with the one that is `step` places below it. At the end of the list nothing
     /// happens.

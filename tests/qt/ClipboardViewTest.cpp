@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QGroupBox>
-#include <QListWidget>
+#include <QListView>
 #include <QPlainTextEdit>
 
 namespace korvane {
@@ -46,7 +46,7 @@ TEST_F(ClipboardViewTest, ShowsThePlainTextAloneWithTheCommandsInUse) {
     EXPECT_FALSE(Part<QPlainTextEdit>("RichTextBox1").isVisible());
     EXPECT_FALSE(Part<QPlainTextEdit>("TmpTextCtrl").isVisible());
     EXPECT_EQ(Part<QGroupBox>("Frame1").title(), QString("> plain text <"));
-    EXPECT_EQ(Window().focusWidget(), &Part<QListWidget>("iGridListBar"));
+    EXPECT_EQ(Window().focusWidget(), &Part<QListView>("iGridListBar"));
 }
 
 TEST_F(ClipboardViewTest, IsWorkedByKeyboardAlone) {
@@ -59,7 +59,7 @@ TEST_F(ClipboardViewTest, IsWorkedByKeyboardAlone) {
     Key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(form.TXTextControl1.SelText(), u"text");
     Key(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(Window().focusWidget(), &Part<QListWidget>("iGridListBar"));
+    EXPECT_EQ(Window().focusWidget(), &Part<QListView>("iGridListBar"));
     Key(Qt::Key_Up);
     Key(Qt::Key_Return);
     EXPECT_FALSE(form.Shown());

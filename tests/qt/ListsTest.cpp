@@ -1,173 +1,43 @@
-#include "QtSupport.h"
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/ListView.h"
-#include "controls/TreeView.h"
-#include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Icons.h"
-#include "platform/qt/binder/QtFormHost.h"
-
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QDialog>
-#include <QHeaderView>
-#include <QListWidget>
-#include <QTemporaryDir>
-#include <QTreeWidget>
+#include "ListsFixture.h"
+#include "platform/qt/binder/FormBinder.h"
 
 namespace korvane {
 namespace {
 
-class frmLists : public Form {
-public:
-    explicit frmLists(FormHost& host) : Form(host, "frmLists", u"") {
-        for (const TextView text : {u"one", u"two", u"three"}) {
-            List1.AddItem(text);
-            lstChecks.AddItem(text);
-            lstPicks.AddItem(text);
-            cboOne.AddItem(text);
-        }
-    }
-
-    ListBox List1{*this, "List1"};
-    ListBox lstChecks{*this, "lstChecks"};
-    ListBox lstPicks{*this, "lstPicks"};
-    ComboBox cboOne{*this, "cboOne"};
-    ListView ListView1{*this, "ListView1", {{u"Name", Twips{3000}}, {u"Size", Twips{1500}}}};
-    TreeView FileTree{*this, "FileTree"};
-};
-
-template <class WidgetT>
-WidgetT& Add(QWidget& window, const char* name) {
-    auto* widget = new WidgetT(&window);
-    widget->setObjectName(name);
-    widget->setAccessibleName(name);
-    widget->resize(300, 120);
-    return *widget;
-}
-
-std::unique_ptr<QWidget> MakeLists() {
-    auto window = std::make_unique<QDialog>();
-    window->resize(400, 300);
-    Add<QListWidget>(*window, "List1");
-    Add<QListWidget>(*window, "lstChecks").setProperty("checkBoxes", true);
-    Add<QListWidget>(*window, "lstPicks").setSelectionMode(QAbstractItemView::ExtendedSelection);
-    Add<QComboBox>(*window, "cboOne");
-    Add<QTreeWidget>(*window, "ListView1").setProperty("rowImages", QStringList{"fileFound", "fileLost"});
-    Add<QTreeWidget>(*window, "FileTree");
-    return window;
-}
-
-constexpr FormEntry kForms[] = {{"frmLists", MakeLists}};
-
-class ListsTest : public testing::Test {
-protected:
-    void SetUp() override {
-        form.Show();
-        test::Settle();
-    }
-
-    template <class WidgetT>
-    WidgetT& Widget(const char* name) {
-        return *host.WidgetOf(form)->findChild<WidgetT*>(name);
-    }
-    QTreeWidgetItem& Row(int index) { return *Widget<QTreeWidget>("ListView1").topLevelItem(index); }
-    void Click(QAbstractItemView& view, const QModelIndex& index, Qt::KeyboardModifiers modifiers = {}) {
-        view.raise();
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(index).center());
-    }
-
-    QtFormHost host{kForms};
-    frmLists form{host};
-};
+using ListsTest = test::ListsFixture;
 
 TEST_F(ListsTest, EverythingFits) {
     EXPECT_EQ(FormProblems(form, *host.WidgetOf(form)), std::vector<std::string>());
 }
 
-QImage ImageOf(const QTreeWidgetItem& item) {
-    return item.icon(0).pixmap(16, 16).toImage();
-}
-
-TEST_F(ListsTest, ARowHasTheImageThatItNames) {
-    for (const int image : {1, 2, 1, 0}) {
-        ListRow row;
-        row.texts = {u"file"};
-        row.image = image;
-        form.ListView1.Add(row);
-    }
-    test::Settle();
-    EXPECT_FALSE(Row(0).icon(0).isNull());
-    EXPECT_NE(ImageOf(Row(0)), ImageOf(Row(1)));
-    EXPECT_EQ(ImageOf(Row(0)), ImageOf(Row(2)));
-    EXPECT_TRUE(Row(3).icon(0).isNull());
-}
-
-TEST_F(ListsTest, TheImageOfAChosenRowStandsOutFromItsHighlight) {
-    const QIcon icon = TintedIcon("fileFound");
-    const QColor text = QApplication::palette().color(QPalette::HighlightedText);
-    const QImage chosen = icon.pixmap(QSize(24, 24), QIcon::Selected).toImage();
-    EXPECT_EQ(QColor(chosen.pixelColor(5, 12).rgb()), text);
-    EXPECT_NE(chosen, icon.pixmap(QSize(24, 24)).toImage());
-}
-
-TEST_F(ListsTest, AListHasTheColourThatItIsGiven) {
-    form.ListView1.BackColor = Colour{0x401000};
-    const auto& list = Widget<QTreeWidget>("ListView1");
-    EXPECT_EQ(list.palette().color(QPalette::Base), ToQColor(Colour{0x401000}));
-    EXPECT_EQ(list.palette().color(QPalette::Text), QColor(Qt::white));
-}
-
-TEST_F(ListsTest, ANodeOfATreeShowsWhetherItIsOpen) {
-    form.FileTree.Add({}, u"root", u"Root");
-    form.FileTree.Add(u"root", u"a", u"A");
-    form.FileTree.Add(u"root", u"b", u"B");
-    form.FileTree.SetExpanded(u"root", true);
-    form.FileTree.Select(u"a");
-    test::Settle();
-    QTreeWidgetItem& root = *Widget<QTreeWidget>("FileTree").topLevelItem(0);
-    EXPECT_EQ(ImageOf(root), ImageOf(*root.child(0)));
-    EXPECT_NE(ImageOf(root), ImageOf(*root.child(1)));
-    Click(Widget<QTreeWidget>("FileTree"),
-          Widget<QTreeWidget>("FileTree")
-              .model()
-              ->index(1, 0, Widget<QTreeWidget>("FileTree").model()->index(0, 0)));
-    EXPECT_EQ(ImageOf(root), ImageOf(*root.child(1)));
-    EXPECT_NE(ImageOf(root), ImageOf(*root.child(0)));
-}
-
-TEST_F(ListsTest, ATreeTakesItsPicturesFromTheirFilesWhereThereAreAny) {
-    const QTemporaryDir folder;
-    QPixmap red(16, 16);
-    red.fill(Qt::red);
-    ASSERT_TRUE(red.save(folder.filePath("closed.png")));
-    form.FileTree.Images = TreeImages{ToText(folder.filePath("closed.png")), u"/no/such/file.ico"};
-    form.FileTree.Add({}, u"root", u"Root");
-    form.FileTree.Add({}, u"other", u"Other");
-    form.FileTree.Select(u"other");
-    test::Settle();
-    auto& tree = Widget<QTreeWidget>("FileTree");
-    EXPECT_EQ(QColor(ImageOf(*tree.topLevelItem(0)).pixel(8, 8)), QColor(Qt::red));
-    EXPECT_FALSE(tree.topLevelItem(1)->icon(0).isNull());
-}
-
 TEST_F(ListsTest, AListFollowsItsItems) {
-    auto& list = Widget<QListWidget>("List1");
-    ASSERT_EQ(list.count(), 3);
     form.List1.InsertItem(1, u"between");
     form.List1.SetList(0, u"first");
     form.List1.SetListIndex(2);
-    EXPECT_EQ(list.item(0)->text(), QString("first"));
-    EXPECT_EQ(list.item(1)->text(), QString("between"));
-    EXPECT_EQ(list.currentRow(), 2);
+    auto& list = Widget<QListView>("List1");
+    EXPECT_EQ(Lines(list), (QStringList{"first", "between", "two", "three"}));
+    EXPECT_EQ(list.currentIndex().row(), 2);
+    EXPECT_EQ(ShownPicks(list), std::vector<int>{2});
     form.List1.Clear();
     test::Settle();
-    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(Lines(list), QStringList());
+}
+
+TEST_F(ListsTest, AnItemThatGoesTakesItsLineWithIt) {
+    form.List1.SetListIndex(2);
+    auto& list = Widget<QListView>("List1");
+    form.List1.RemoveItem(0);
+    test::Settle();
+    EXPECT_EQ(Lines(list), (QStringList{"two", "three"}));
+    EXPECT_EQ(list.currentIndex().row(), 1);
+    form.List1.RemoveItem(1);
+    test::Settle();
+    EXPECT_EQ(list.currentIndex().row(), 0);
+    EXPECT_EQ(ShownPicks(list), std::vector<int>{0});
 }
 
 TEST_F(ListsTest, AClickInAListIsItsIndex) {
-    auto& list = Widget<QListWidget>("List1");
+    auto& list = Widget<QListView>("List1");
     int clicks = 0;
     int doubleClicks = 0;
     form.List1.Click = [&clicks] { ++clicks; };
@@ -175,43 +45,63 @@ TEST_F(ListsTest, AClickInAListIsItsIndex) {
     Click(list, list.model()->index(1, 0));
     EXPECT_EQ(form.List1.ListIndex(), 1);
     EXPECT_EQ(clicks, 1);
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(1)).center());
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                       list.visualRect(list.model()->index(1, 0)).center());
     EXPECT_EQ(doubleClicks, 1);
-    list.setFocus();
-    QTest::keyClick(&list, Qt::Key_Down);
+    Key(list, Qt::Key_Down);
     EXPECT_EQ(form.List1.ListIndex(), 2);
+}
+
+TEST_F(ListsTest, ALetterGoesToTheItemThatBeginsWithIt) {
+    auto& list = Widget<QListView>("List1");
+    Key(list, Qt::Key_T);
+    EXPECT_EQ(form.List1.ListIndex(), 1);
 }
 
 TEST_F(ListsTest, AnIndexWithoutAnItemShowsNone) {
     form.List1.SetListIndex(1);
+    test::Settle();
     form.List1.SetListIndex(-1);
-    EXPECT_EQ(Widget<QListWidget>("List1").currentRow(), -1);
+    auto& list = Widget<QListView>("List1");
+    EXPECT_EQ(list.currentIndex().row(), -1);
+    EXPECT_EQ(ShownPicks(list), std::vector<int>());
 }
 
 TEST_F(ListsTest, CheckMarksGoBothWays) {
-    auto& list = Widget<QListWidget>("lstChecks");
     std::vector<int> told;
     form.lstChecks.ItemCheck = [&told](int index) { told.push_back(index); };
     form.lstChecks.SetSelected(2, true);
-    EXPECT_EQ(list.item(2)->checkState(), Qt::Checked);
-    EXPECT_EQ(list.item(0)->checkState(), Qt::Unchecked);
-    list.setFocus();
-    list.setCurrentRow(0);
-    QTest::keyClick(&list, Qt::Key_Space);
+    auto& list = Widget<QListView>("lstChecks");
+    EXPECT_TRUE(IsTicked(list, 2));
+    EXPECT_FALSE(IsTicked(list, 0));
+    EXPECT_EQ(ShownPicks(list), std::vector<int>());
+    Click(list, list.model()->index(0, 0));
+    Key(list, Qt::Key_Space);
     EXPECT_TRUE(form.lstChecks.Selected(0));
+    EXPECT_TRUE(IsTicked(list, 0));
     EXPECT_EQ(told, (std::vector<int>{2, 0}));
 }
 
+TEST_F(ListsTest, OnlyAListWithCheckMarksHasThem) {
+    auto& list = Widget<QListView>("List1");
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::CheckStateRole).isValid());
+    Click(list, list.model()->index(0, 0));
+    Key(list, Qt::Key_Space);
+    EXPECT_FALSE(form.List1.Selected(0));
+}
+
 TEST_F(ListsTest, PicksGoBothWays) {
-    auto& list = Widget<QListWidget>("lstPicks");
     form.lstPicks.SetSelected(2, true);
-    EXPECT_TRUE(list.item(2)->isSelected());
+    auto& list = Widget<QListView>("lstPicks");
+    EXPECT_EQ(ShownPicks(list), std::vector<int>{2});
     Click(list, list.model()->index(0, 0), Qt::ControlModifier);
     EXPECT_TRUE(form.lstPicks.Selected(0));
     EXPECT_TRUE(form.lstPicks.Selected(2));
     Click(list, list.model()->index(1, 0));
     EXPECT_FALSE(form.lstPicks.Selected(0));
     EXPECT_TRUE(form.lstPicks.Selected(1));
+    EXPECT_FALSE(form.lstPicks.Selected(2));
+    EXPECT_EQ(ShownPicks(list), std::vector<int>{1});
 }
 
 TEST_F(ListsTest, AComboBoxFollowsAndLeads) {
@@ -225,93 +115,91 @@ TEST_F(ListsTest, AComboBoxFollowsAndLeads) {
     EXPECT_EQ(form.cboOne.Chosen(), u"three");
 }
 
-TEST_F(ListsTest, AListWithColumnsShowsItsRows) {
-    auto& list = Widget<QTreeWidget>("ListView1");
-    EXPECT_EQ(list.columnCount(), 2);
-    EXPECT_EQ(list.headerItem()->text(1), QString("Size"));
-    EXPECT_EQ(list.columnWidth(0), 200);
-    form.ListView1.CheckBoxes = true;
-    form.ListView1.Add({u"a", {u"a.txt", u"12"}});
-    form.ListView1.Add({.key = u"b", .texts = {u"b.txt", u"7"}, .checked = true});
-    form.ListView1.SetCurrent(2);
-    ASSERT_EQ(list.topLevelItemCount(), 2);
-    EXPECT_EQ(Row(0).text(1), QString("12"));
-    EXPECT_EQ(Row(1).checkState(0), Qt::Checked);
-    EXPECT_TRUE(Row(1).isSelected());
-    EXPECT_EQ(list.currentItem(), &Row(1));
-}
-
-TEST_F(ListsTest, LinesAreDrawnAroundTheCellsWhereTheyAreWanted) {
-    form.ListView1.Add({u"a", {u"a.txt", u"12"}});
-    test::Settle();
-    auto& list = Widget<QTreeWidget>("ListView1");
-    const QRect cell = list.visualItemRect(&Row(0));
-    const auto borderAndInside = [&] {
-        const QImage picture = list.viewport()->grab().toImage();
-        return std::pair(picture.pixel(cell.center().x(), cell.bottom()),
-                         picture.pixel(cell.center().x(), cell.bottom() - 1));
-    };
-    const auto plain = borderAndInside();
-    EXPECT_EQ(plain.first, plain.second);
-    form.ListView1.GridLines = true;
-    const auto lined = borderAndInside();
-    EXPECT_NE(lined.first, plain.first);
-    EXPECT_EQ(lined.second, plain.second);
-}
-
-TEST_F(ListsTest, AListWithColumnsTellsWhatTheUserDoes) {
-    auto& list = Widget<QTreeWidget>("ListView1");
-    form.ListView1.CheckBoxes = true;
-    form.ListView1.MultiSelect = true;
-    for (const TextView name : {u"a", u"b", u"c"})
-        form.ListView1.Add({Text(name), {Text(name)}});
-    test::Settle();
-    std::vector<int> checks;
-    int column = 0;
-    form.ListView1.ItemCheck = [&checks](int index) { checks.push_back(index); };
-    form.ListView1.ColumnClick = [&column](int index) { column = index; };
-
-    Click(list, list.model()->index(0, 1));
-    EXPECT_EQ(form.ListView1.Current(), 1);
-    Click(list, list.model()->index(2, 1), Qt::ControlModifier);
-    EXPECT_EQ(form.ListView1.Current(), 3);
-    EXPECT_TRUE(form.ListView1.RowAt(3).selected);
-    list.setFocus();
-    QTest::keyClick(&list, Qt::Key_Space);
-    EXPECT_EQ(checks, (std::vector<int>{3}));
-    const int x = list.header()->sectionViewportPosition(1) + 5;
-    QTest::mouseClick(list.header()->viewport(), Qt::LeftButton, {}, QPoint(x, 5));
-    EXPECT_EQ(column, 2);
-}
-
-TEST_F(ListsTest, ATreeFollowsAndLeads) {
-    auto& tree = Widget<QTreeWidget>("FileTree");
-    form.FileTree.Add(u"", u"root", u"Root");
-    form.FileTree.Add(u"root", u"leaf", u"Leaf");
-    form.FileTree.SetExpanded(u"root", true);
-    form.FileTree.Select(u"leaf");
-    ASSERT_EQ(tree.topLevelItemCount(), 1);
-    QTreeWidgetItem& root = *tree.topLevelItem(0);
-    EXPECT_TRUE(root.isExpanded());
-    EXPECT_EQ(tree.currentItem(), root.child(0));
-
-    Click(tree, tree.model()->index(0, 0));
-    EXPECT_EQ(form.FileTree.Selected(), u"root");
-    tree.setFocus();
-    QTest::keyClick(&tree, Qt::Key_Left);
-    EXPECT_FALSE(form.FileTree.Node(u"root")->expanded);
-    form.FileTree.Remove(u"root");
-    test::Settle();
-    EXPECT_EQ(tree.topLevelItemCount(), 0);
+TEST_F(ListsTest, AComboBoxShowsTheChosenLineWhateverBecomesOfTheOthers) {
+    int clicks = 0;
+    form.cboOne.Click = [&clicks] { ++clicks; };
+    auto& combo = Widget<QComboBox>("cboOne");
+    form.cboOne.SetListIndex(1);
+    form.cboOne.InsertItem(0, u"nought");
+    EXPECT_EQ(combo.currentText(), QString("two"));
+    form.cboOne.SetList(2, u"other");
+    EXPECT_EQ(combo.currentText(), QString("other"));
+    form.cboOne.RemoveItem(2);
+    EXPECT_EQ(combo.currentText(), QString("three"));
+    form.cboOne.Clear();
+    EXPECT_EQ(combo.currentIndex(), -1);
+    form.cboOne.AddItem(u"again");
+    EXPECT_EQ(combo.currentIndex(), -1);
+    EXPECT_EQ(combo.count(), 1);
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(ListsTest, ManyItemsComeInOneGo) {
-    auto& list = Widget<QListWidget>("List1");
+    auto& list = Widget<QListView>("List1");
+    int tellings = 0;
+    const QObject untilTheEnd;
+    QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &untilTheEnd,
+                     [&tellings] { ++tellings; });
     for (int i = 0; i < 1000; ++i)
         form.List1.AddItem(NumberText(i));
-    EXPECT_EQ(list.count(), 3);
+    EXPECT_EQ(tellings, 0);
     test::Settle();
-    EXPECT_EQ(list.count(), 1003);
+    EXPECT_EQ(list.model()->rowCount(), 1003);
+    EXPECT_EQ(tellings, 1);
+}
+
+TEST_F(ListsTest, AHandlerMayFillTheListAnewWhileItIsClicked) {
+    form.List1.Click = [this] {
+        if (form.List1.ListCount() != 3) return;
+        form.List1.Clear();
+        for (const TextView text : {u"a", u"b", u"c", u"d", u"e"})
+            form.List1.AddItem(text);
+        form.List1.SetListIndex(4);
+    };
+    auto& list = Widget<QListView>("List1");
+    Click(list, list.model()->index(1, 0));
+    EXPECT_EQ(form.List1.ListIndex(), 4);
+    EXPECT_EQ(list.currentIndex().row(), 4);
+    EXPECT_EQ(ShownPicks(list), std::vector<int>{4});
+    EXPECT_EQ(Lines(list), (QStringList{"a", "b", "c", "d", "e"}));
+}
+
+TEST_F(ListsTest, AHandlerMayCloseTheWindowWhileItIsClicked) {
+    form.List1.Click = [this] { form.Close(); };
+    auto& list = Widget<QListView>("List1");
+    Click(list, list.model()->index(1, 0));
+    EXPECT_FALSE(form.Shown());
+    EXPECT_EQ(form.List1.ListIndex(), 1);
+}
+
+TEST_F(ListsTest, AWindowMayCloseBeforeItsListsHaveFollowed) {
+    form.List1.AddItem(u"late");
+    form.lstPicks.SetSelected(0, true);
+    form.ListView1.Add({.key = u"late", .texts = {u"late"}, .selected = true});
+    form.FileTree.Add({}, u"late", u"Late");
+    form.FileTree.Select(u"late");
+    form.Close();
+    test::Settle();
+    EXPECT_FALSE(form.Shown());
+    form.List1.AddItem(u"after");
+    form.cboOne.AddItem(u"after");
+    form.ListView1.Remove(1);
+    form.FileTree.Remove(u"late");
+    test::Settle();
+}
+
+TEST_F(ListsTest, AWindowThatIsShownAgainHasItsListsAsTheyAre) {
+    form.Close();
+    test::Settle();
+    form.List1.AddItem(u"four");
+    form.List1.SetListIndex(3);
+    form.cboOne.SetListIndex(2);
+    form.ListView1.Add({.key = u"a", .texts = {u"a"}, .selected = true});
+    form.Show();
+    EXPECT_EQ(Lines(Widget<QListView>("List1")), (QStringList{"one", "two", "three", "four"}));
+    EXPECT_EQ(Widget<QListView>("List1").currentIndex().row(), 3);
+    EXPECT_EQ(Widget<QComboBox>("cboOne").currentText(), QString("three"));
+    EXPECT_EQ(ShownPicks(Widget<QTreeView>("ListView1")), std::vector<int>{0});
 }
 
 } // namespace

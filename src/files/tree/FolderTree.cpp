@@ -112,8 +112,8 @@ std::vector<Text> FolderTree::NamesBelow(TextView root, TextView fullPath) const
 
 /// The key of the node. A folder that isn't listed, or not yet, is there all the same.
 Text FolderTree::NodeBelow(const Text& parent, const Text& name) {
-    for (const TreeNode& child : tree_.Children(parent)) {
-        if (!IsPlaceholder(child.key) && files_.Style().SameName(child.text, name)) return child.key;
+    for (const TreeNode* child : tree_.Children(parent)) {
+        if (!IsPlaceholder(child->key) && files_.Style().SameName(child->text, name)) return child->key;
     }
     const Text path = files_.Style().JoinPath(parent, name);
     tree_.Add(parent, path, name);

@@ -12,6 +12,7 @@
 #include "context/ports/FileViewer.h"
 #include "context/ports/FontPicker.h"
 #include "controls/KeyTable.h"
+#include "controls/UpdateScope.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
 #include "platform/Clock.h"
@@ -172,6 +173,7 @@ void frmFileList::KeepColumnWidths() {
 }
 
 void frmFileList::FillList() {
+    const UpdateScope update(ListView1);
     ListView1.Clear();
     recents_.CutWhenFull();
     for (int number = 1; number <= RecentRecord::kEntries; ++number) {
@@ -195,7 +197,7 @@ ListRow frmFileList::RowOf(const Text& entry) const {
     const PathStyle style = files.Style();
     ListRow row;
     row.texts = {Text(style.NamePart(path)), Text(style.FolderPart(path)), {}, {}};
-    row.image = found ? kFoundImage : kLostImage;
+    row.icon = found ? kFoundIcon : kLostIcon;
     if (!found) return row;
     row.texts[kOffset] = Text(Behind(entry, u"|"));
     row.texts[kDate] = Text(Behind(entry, u"*"));
@@ -225,7 +227,7 @@ void frmFileList::LoadFiles() {
         request.CurrentFolderHint = row->texts[kLocation];
         app_.Exchange<FileOperation>().FileOpName = row->texts[kFile];
     }
-    for (int index = 1; index <= ListView1.Count(); ++index)
+    for (const int index : ListView1.SelectedRows())
         TakePick(ListView1.RowAt(index));
     if (!recents_.RecentPicks.empty()) app_.DialogResult = kLoad;
     Close();
@@ -233,7 +235,7 @@ void frmFileList::LoadFiles() {
 
 void frmFileList::TakePick(const ListRow& row) {
     // Nothing writes this text. Kept for compatibility: lost-rows-by-text.
-    if (!row.selected || InStr(row.texts[kLocation], u"found !") > 0) return;
+    if (InStr(row.texts[kLocation], u"found !") > 0) return;
     int offset = 0;
     ReadNumber(TextView(row.texts[kOffset]), offset);
     recents_.RecentPicks.push_back(PathOf(row));
@@ -272,7 +274,7 @@ void frmFileList::ViewFile() {
     const auto row = CurrentRow();
     if (!row) return;
     Text path = PathOf(*row);
-    if (row->image == kLostImage) return ShowCannotLocate(app_, path);
+    if (row->icon == kLostIcon) return ShowCannotLocate(app_, path);
     if (auto* fileViewer = app_.Port<FileViewer>()) fileViewer->View(path);
 }
 
@@ -342,7 +344,7 @@ void frmFileList::ExternalEdit() {
     const auto row = CurrentRow();
     if (!row) return;
     const Text path = PathOf(*row);
-    if (row->image == kLostImage) {
+    if (row->icon == kLostIcon) {
         Warn(app_, u"This item is not a valid file:\r\n\r\n" + path);
     } else if (auto* fileViewer = app_.Port<FileViewer>()) {
         fileViewer->OpenWith(path);

@@ -35,9 +35,9 @@ public:
     ListView ListView1;
     Label Label2{*this, "Label2"};
 
-    /// A row has the second image when its file is in neither of its two drive forms.
-    static constexpr int kFoundImage = 1;
-    static constexpr int kLostImage = 2;
+    /// A row has the second icon when its file is in neither of its two drive forms.
+    static constexpr TextView kFoundIcon = u"fileFound";
+    static constexpr TextView kLostIcon = u"fileLost";
 
     void Load() override;
     void Resize() override;

@@ -7,6 +7,7 @@
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "controls/KeyTable.h"
+#include "controls/UpdateScope.h"
 #include "dialogs/Docking.h"
 #include "platform/Clipboard.h"
 #include "platform/Clock.h"
@@ -103,6 +104,7 @@ void frmLoadList::FillTree() {
     const PathStyle style = app_.Files().Style();
     FileTree.Images =
         TreeImages{style.JoinPath(folder, u"FolderClosed.ico"), style.JoinPath(folder, u"FolderOpen.ico")};
+    const UpdateScope update(FileTree);
     FileTree.Clear();
     FileTree.Add({}, kRootKey, u" Open files");
     int number = 0;

@@ -5,7 +5,10 @@
 #include "platform/qt/binder/SimpleAdaptors.h"
 #include "platform/qt/binder/TextAdaptors.h"
 #include "platform/qt/grid/GridAdaptor.h"
-#include "platform/qt/lists/ListAdaptors.h"
+#include "platform/qt/lists/ComboBoxAdaptor.h"
+#include "platform/qt/lists/ListBoxAdaptor.h"
+#include "platform/qt/lists/ListViewAdaptor.h"
+#include "platform/qt/lists/TreeViewAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
 
 namespace korvane {
@@ -38,9 +41,9 @@ constexpr Maker kMakers[] = {
     Make<TextBox, QLineEdit, LineAdaptor>,
     Make<TextBox, QPlainTextEdit, LinesAdaptor>,
     Make<ComboBox, QComboBox, ComboBoxAdaptor>,
-    Make<ListBox, QListWidget, ListBoxAdaptor>,
-    Make<ListView, QTreeWidget, ListViewAdaptor>,
-    Make<TreeView, QTreeWidget, TreeViewAdaptor>,
+    Make<ListBox, QListView, ListBoxAdaptor>,
+    Make<ListView, QTreeView, ListViewAdaptor>,
+    Make<TreeView, QTreeView, TreeViewAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<Menu, QMenuBar, MenuAdaptor>,

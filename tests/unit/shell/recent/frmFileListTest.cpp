@@ -61,14 +61,14 @@ TEST_F(FileListTest, ShowsFoundAndLostFiles) {
     InList([](frmFileList& f) {
         EXPECT_EQ(f.Caption.Get(), u"Recent files list");
         ASSERT_EQ(f.ListView1.Count(), 3);
-        const ListRow& found = f.ListView1.RowAt(1);
+        const ListRow found = f.ListView1.RowAt(1);
         EXPECT_EQ(found.texts.at(0), u"a.tbx");
         EXPECT_EQ(found.texts.at(1), u"C:\\Data");
         EXPECT_EQ(found.texts.at(3), u"2026.03.01   14:05");
-        EXPECT_EQ(found.image, frmFileList::kFoundImage);
-        const ListRow& lost = f.ListView1.RowAt(3);
+        EXPECT_EQ(found.icon, frmFileList::kFoundIcon);
+        const ListRow lost = f.ListView1.RowAt(3);
         EXPECT_EQ(lost.texts, (std::vector<Text>{u"gone.tbx", u"C:\\Data", u"", u""}));
-        EXPECT_EQ(lost.image, frmFileList::kLostImage);
+        EXPECT_EQ(lost.icon, frmFileList::kLostIcon);
         EXPECT_EQ(f.Label2.Caption.Get(), u"Files:  3");
         EXPECT_EQ(f.ListView1.Current(), 1);
     });
@@ -84,7 +84,7 @@ TEST_F(FileListTest, AFileThatIsThereInItsOtherFormShowsThat) {
     SetRecord({u"D:\\x.tbx"});
     InList([](frmFileList& f) {
         EXPECT_EQ(f.ListView1.RowAt(1).texts.at(1), u"C:\\Drive_D");
-        EXPECT_EQ(f.ListView1.RowAt(1).image, frmFileList::kFoundImage);
+        EXPECT_EQ(f.ListView1.RowAt(1).icon, frmFileList::kFoundIcon);
     });
     EXPECT_EQ(Recents().RecentEntries[1], u"D:\\x.tbx | 0*2026.03.01   14:05");
 }
@@ -214,7 +214,7 @@ TEST_F(FileListTest, DeletingARowInItsOtherFormLeavesTheRecord) {
 TEST_F(FileListTest, DeletingALineThatIsNoEntryLeavesTheOthers) {
     Recents().RecentEntries[1] = u"not an entry";
     InList([](frmFileList& f) {
-        EXPECT_EQ(f.ListView1.RowAt(1).image, frmFileList::kLostImage);
+        EXPECT_EQ(f.ListView1.RowAt(1).icon, frmFileList::kLostIcon);
         f.cmdDelete.Press();
     });
     EXPECT_FALSE(Recents().RecentEntries[2].empty());

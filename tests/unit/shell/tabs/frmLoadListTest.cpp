@@ -37,8 +37,8 @@ protected:
     }
     static std::vector<Text> Texts(const frmLoadList& f) {
         std::vector<Text> texts;
-        for (const TreeNode& node : f.FileTree.Nodes())
-            texts.push_back(node.text);
+        for (const TreeNode* node : f.FileTree.Nodes())
+            texts.push_back(node->text);
         return texts;
     }
 
@@ -80,7 +80,7 @@ TEST_F(LoadListTest, TabsAreCountedAndFoundByTheirSlots) {
     p.Main().MDITabs1.CloseWanted(p.Tab(1));
     InList([](frmLoadList& f) {
         EXPECT_TRUE(Texts(f).at(1).starts_with(u"[1]  b.tbx"));
-        EXPECT_EQ(f.FileTree.Nodes().at(1).key, u"X_2");
+        EXPECT_EQ(f.FileTree.Nodes().at(1)->key, u"X_2");
     });
 }
 

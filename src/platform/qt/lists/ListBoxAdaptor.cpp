@@ -1,0 +1,27 @@
+#include "platform/qt/lists/ListBoxAdaptor.h"
+
+#include "platform/qt/lists/ListBoxModel.h"
+
+namespace korvane {
+
+ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget)
+    : RowsAdaptor(list, widget, *new ListBoxModel(list, widget.property("checkBoxes").toBool(), &widget)),
+      list_(list),
+      widget_(widget) {
+    widget.setUniformItemSizes(true);
+}
+
+bool ListBoxAdaptor::TakesSeveral() const {
+    return widget_.selectionMode() == QAbstractItemView::MultiSelection ||
+           widget_.selectionMode() == QAbstractItemView::ExtendedSelection;
+}
+
+bool ListBoxAdaptor::Picked(int row) const {
+    return TakesSeveral() ? list_.Selected(row) : row == list_.ListIndex();
+}
+
+void ListBoxAdaptor::Pick(int row, bool picked) {
+    if (TakesSeveral()) list_.SetSelected(row, picked);
+}
+
+} // namespace korvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "controls/ListBox.h"
+#include "platform/qt/lists/RowsAdaptor.h"
+
+#include <QListView>
+
+namespace korvane {
+
+/// A list. With the property "checkBoxes" in its look its items have check marks; with a selection mode that
+/// takes several they can be picked.
+class ListBoxAdaptor : public RowsAdaptor {
+public:
+    ListBoxAdaptor(ListBox& list, QListView& widget);
+
+protected:
+    int CurrentRow() const override { return list_.ListIndex(); }
+    bool Picked(int row) const override;
+    void Pick(int row, bool picked) override;
+    void GoTo(int row) override { list_.Select(row); }
+    void DoubleClick(int row) override { list_.DoubleClick(row); }
+
+private:
+    bool TakesSeveral() const;
+
+    ListBox& list_;
+    QListView& widget_;
+};
+
+} // namespace korvane

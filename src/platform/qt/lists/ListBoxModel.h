@@ -1,0 +1,27 @@
+#pragma once
+
+#include "controls/ListBox.h"
+#include "platform/qt/lists/RowsModel.h"
+
+namespace korvane {
+
+class ListBoxModel : public RowsModel {
+public:
+    /// The list outlives the model, or `Forget` is called before it goes.
+    ListBoxModel(ListBox& list, bool checkBoxes, QObject* parent);
+
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Takes a check mark that the user set or took away.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+protected:
+    int ControlRows() const override { return list_.ListCount(); }
+
+private:
+    ListBox& list_;
+    bool checkBoxes_;
+};
+
+} // namespace korvane

@@ -1,0 +1,79 @@
+#include "platform/qt/lists/ListViewAdaptor.h"
+
+#include "platform/qt/base/BackColour.h"
+#include "platform/qt/base/Contrast.h"
+#include "platform/qt/base/Convert.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace korvane {
+
+namespace {
+
+/// Draws a line below and at the right of each cell.
+class LinedDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        painter->setPen(option.palette.color(QPalette::Window));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+    }
+};
+
+} // namespace
+
+ListViewAdaptor::ListViewAdaptor(ListView& list, QTreeView& widget)
+    : ListViewAdaptor(list, widget, *new ListViewModel(list, &widget)) {}
+
+ListViewAdaptor::ListViewAdaptor(ListView& list, QTreeView& widget, ListViewModel& model)
+    : RowsAdaptor(list, widget, model), list_(list), widget_(widget), model_(model) {
+    widget.setRootIsDecorated(false);
+    widget.setUniformRowHeights(true);
+    widget.setAllColumnsShowFocus(true);
+    widget.header()->setSectionsClickable(true);
+    connect(widget.header(), &QHeaderView::sectionClicked, this, [this](int section) {
+        if (Attached()) list_.ClickColumn(section + 1);
+    });
+    connect(widget.header(), &QHeaderView::sectionResized, this,
+            [this](int section, int, int width) { ReadWidth(section, width); });
+}
+
+void ListViewAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Range) WriteShape();
+    if (aspect == Aspect::Colours) WriteColours();
+    RowsAdaptor::Write(aspect);
+}
+
+void ListViewAdaptor::WriteShape() {
+    const auto guard = Writing();
+    model_.ReadColumns();
+    const auto& columns = list_.Columns.Get();
+    for (std::size_t column = 0; column < columns.size(); ++column)
+        widget_.setColumnWidth(static_cast<int>(column), ToPixels(columns[column].width));
+    widget_.setSelectionMode(list_.MultiSelect ? QAbstractItemView::ExtendedSelection
+                                               : QAbstractItemView::SingleSelection);
+    const bool lined = dynamic_cast<const LinedDelegate*>(widget_.itemDelegate()) != nullptr;
+    if (list_.GridLines && !lined) widget_.setItemDelegate(new LinedDelegate(&widget_));
+    widget_.viewport()->update();
+}
+
+void ListViewAdaptor::WriteColours() {
+    const Colour back = ChosenBack(list_.BackColor, QApplication::palette());
+    WriteBackColour(widget_, back, kFieldSurface);
+}
+
+void ListViewAdaptor::ReadWidth(int column, int width) {
+    const QHeaderView& header = *widget_.header();
+    // The last column fills what the others leave, without anybody having dragged it.
+    const bool fills = header.stretchLastSection() && header.visualIndex(column) == header.count() - 1;
+    if (ByUser() && !fills) list_.DragColumn(column + 1, ToTwips(width));
+}
+
+} // namespace korvane

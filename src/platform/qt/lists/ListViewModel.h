@@ -1,0 +1,35 @@
+#pragma once
+
+#include "controls/ListView.h"
+#include "platform/qt/lists/RowIcons.h"
+#include "platform/qt/lists/RowsModel.h"
+
+namespace korvane {
+
+class ListViewModel : public RowsModel {
+public:
+    /// The list outlives the model, or `Forget` is called before it goes.
+    ListViewModel(ListView& list, QObject* parent);
+
+    /// Reads anew which columns there are.
+    void ReadColumns();
+
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Takes a check mark that the user set or took away.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+protected:
+    int ControlRows() const override { return list_.Count(); }
+
+private:
+    QVariant FirstColumnData(int row, int role) const;
+
+    ListView& list_;
+    int columns_ = 0;
+    mutable RowIcons icons_;
+};
+
+} // namespace korvane

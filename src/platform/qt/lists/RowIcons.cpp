@@ -1,0 +1,25 @@
+#include "platform/qt/lists/RowIcons.h"
+
+#include "platform/qt/base/Convert.h"
+#include "platform/qt/base/Icons.h"
+
+namespace korvane {
+
+namespace {
+
+QIcon MakeIcon(const QString& name) {
+    const QIcon own = TintedIcon(name);
+    if (!own.isNull()) return own;
+    return QIcon::hasThemeIcon(name) ? QIcon::fromTheme(name) : IconFromFile(name, {});
+}
+
+} // namespace
+
+const QIcon& RowIcons::Icon(TextView name) {
+    const QString key = ToQString(name);
+    auto found = icons_.find(key);
+    if (found == icons_.end()) found = icons_.insert(key, MakeIcon(key));
+    return *found;
+}
+
+} // namespace korvane
