@@ -2,6 +2,7 @@
 
 #include "BenchProgram.h"
 #include "LimitTable.h"
+#include "ResidentMemory.h"
 
 #include <benchmark/benchmark.h>
 
@@ -14,14 +15,6 @@
 namespace korvane::bench {
 
 namespace {
-
-/// The resident memory of this process. In this file the kernel has counted it page by page.
-long ResidentKilobytes() {
-    std::ifstream pages("/proc/self/smaps_rollup");
-    for (std::string word; pages >> word;)
-        if (long kilobytes = 0; word == "Rss:" && pages >> kilobytes) return kilobytes;
-    std::exit(1);
-}
 
 double ResidentGrowth() {
     const std::string command = std::filesystem::read_symlink("/proc/self/exe").string() + " " +

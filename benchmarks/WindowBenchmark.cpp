@@ -1,8 +1,8 @@
 // Measures what the user waits for in the main window: another tab, another style of the tabs, and the
 // sidebar. The program runs on a display of its own.
 
-#include "Moment.h"
 #include "SourceTree.h"
+#include "Times.h"
 #include "Xvfb.h"
 #include "context/App.h"
 #include "grid/GridStore.h"
@@ -19,10 +19,8 @@
 
 #include <QApplication>
 #include <QWidget>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -49,13 +47,7 @@ Text PathOf(int number) {
     return u"C:\\Data\\Books " + FromAscii(std::to_string(number)) + u".tbx";
 }
 
-double ProcessorSeconds() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-/// The main window on the screen. Its files are in memory.
+/// The main window on the screen, with its files in memory.
 class Window {
 public:
     Window() {
@@ -107,31 +99,6 @@ public:
     frmMDIParent main{app, {}};
 };
 
-struct Times {
-    std::vector<double> wall;
-    std::vector<double> processor;
-
-    template <class Work>
-    void Add(const Work& work) {
-        const double processorStart = ProcessorSeconds();
-        const std::int64_t start = NanosecondsNow();
-        work();
-        wall.push_back(static_cast<double>(NanosecondsNow() - start) * 1e-9);
-        processor.push_back(ProcessorSeconds() - processorStart);
-    }
-};
-
-double Quantile(std::vector<double> seconds, double part) {
-    std::sort(seconds.begin(), seconds.end());
-    return seconds[static_cast<std::size_t>(part * static_cast<double>(seconds.size() - 1))];
-}
-
-void Report(const char* what, const Times& times) {
-    std::printf("| %s | %.1f ms | %.1f ms | %.1f ms |\n", what, Quantile(times.processor, 0.5) * 1e3,
-                Quantile(times.processor, 1) * 1e3, Quantile(times.wall, 0.5) * 1e3);
-    std::fflush(stdout);
-}
-
 void MeasureTabs(int rounds) {
     Times second;
     Times last;
@@ -150,8 +117,8 @@ void MeasureTabs(int rounds) {
             }
         }
     }
-    Report("opening the 2nd tab", second);
-    Report("opening the 100th tab", last);
+    Print("opening the 2nd tab", second);
+    Print("opening the 100th tab", last);
 }
 
 /// Whether the window system asks for the paint after a command while the benchmark waits, or must be told
@@ -171,7 +138,7 @@ void MeasureCommand(const char* what, std::string_view command, Paints paints) {
             if (paints == Paints::WhenTold) window.PaintAll();
         });
     }
-    Report(what, times);
+    Print(what, times);
 }
 
 } // namespace
@@ -185,8 +152,7 @@ int main(int argc, char** argv) {
     const Xvfb display;
     const QApplication application(argc, argv);
     QApplication::setStyle(new korvane::CalmStyle);
-    std::printf("| what | processor, median | processor, longest | wall clock, median |\n");
-    std::printf("| --- | --- | --- | --- |\n");
+    PrintHead();
     MeasureTabs(rounds);
     MeasureCommand("the next style of the tabs", "StyleForward", Paints::WhenTold);
     MeasureCommand("the sidebar off or on", "mnuSideBar", Paints::Itself);
