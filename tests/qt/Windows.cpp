@@ -8,6 +8,9 @@
 #include "dbops/windows/frmTxtDbColName.h"
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
+#include "files/jobs/frmAskCopyMove.h"
+#include "files/jobs/frmCopyMove.h"
+#include "files/jobs/frmFolderOpNotify.h"
 #include "files/names/frmDupFile.h"
 #include "files/names/frmEnterFileName.h"
 #include "files/names/frmNewDir.h"
@@ -36,7 +39,12 @@ std::unique_ptr<Form> FromApp(Surroundings& all) {
 
 constexpr Window kWindows[] = {
     {"frmAbout", FromApp<frmAbout>},
+    {"frmAskCopyMove",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmAskCopyMove>(all.app, all.copyMove);
+     }},
     {"frmChooseRange", FromApp<frmChooseRange>},
+    {"frmCopyMove", FromApp<frmCopyMove>},
     {"frmCtrlRet", FromApp<frmCtrlRet>},
     {"frmDelimiterType",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -56,6 +64,12 @@ constexpr Window kWindows[] = {
     {"frmFindReplace",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFindReplace>(all.tab, FindMode::Replace);
+     }},
+    {"frmFolderOpNotify",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         auto form = std::make_unique<frmFolderOpNotify>(all.app);
+         form->TellOfDeletion(u"C:\\data\\Old letters");
+         return form;
      }},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {

@@ -4,6 +4,7 @@
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
+#include "files/jobs/CopyMoveRun.h"
 #include "files/names/NameLine.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/TabStates.h"
@@ -36,6 +37,7 @@ struct Surroundings {
     CellExchange cell;
     FileFacts facts;
     LoneNameLine nameLine;
+    CopyMoveRun copyMove;
     frmMDIParent main{app, Text()};
 };
 

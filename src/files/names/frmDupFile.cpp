@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "context/exchange/FileOperation.h"
+#include "files/names/FieldKeys.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"

@@ -5,7 +5,7 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/exchange/ListerRequest.h"
-#include "files/names/NameDialog.h"
+#include "files/names/FieldKeys.h"
 #include "files/names/NameLine.h"
 #include "files/names/NameTyping.h"
 

@@ -4,6 +4,7 @@
 #include "context/FileNames.h"
 #include "context/exchange/FileOperation.h"
 #include "context/exchange/ListerRequest.h"
+#include "files/names/FieldKeys.h"
 #include "files/names/NameTyping.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
@@ -36,6 +37,10 @@ void frmRenDir::Load() {
     Text2.Text = Text(TheApp().Files().Style().NamePart(folder_));
     Text2.SelectAll();
     Text2.SetFocus();
+}
+
+void frmRenDir::FieldKey(TextBox& field, KeyEvent& key) {
+    ChangeCaseByKey(field, key);
 }
 
 void frmRenDir::cmdUnderscoreCaps_Click() {

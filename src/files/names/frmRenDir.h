@@ -20,7 +20,7 @@ public:
 
 private:
     void Accept() override;
-    void FieldKey(TextBox& field, KeyEvent& key) override { ChangeCaseByKey(field, key); }
+    void FieldKey(TextBox& field, KeyEvent& key) override;
     void cmdUnderscoreCaps_Click();
     void Rename(const Text& newPath);
 

@@ -4,6 +4,7 @@
 #include "context/App.h"
 #include "context/FileChooser.h"
 #include "context/exchange/FileOperation.h"
+#include "files/names/FieldKeys.h"
 #include "files/names/NameTyping.h"
 #include "platform/Clipboard.h"
 #include "platform/FileSystem.h"

@@ -1,6 +1,7 @@
 #include "render/Stage.h"
 
 #include "SourceTree.h"
+#include "context/exchange/CopyMoveRequest.h"
 #include "context/exchange/FileOperation.h"
 #include "context/exchange/InputQuestion.h"
 #include "context/exchange/ListerRequest.h"
@@ -68,6 +69,15 @@ void Stage::FillRequests() {
     file.FileOpFolder = u"C:\\data";
     file.FileOpName = Text(kSamples[0]);
     app_.Exchange<ListerRequest>().ListerFolder = u"C:\\data";
+    outside_.files.AddDir(u"C:\\data\\Letters\\2026");
+    outside_.files.AddDir(u"C:\\Pictures");
+    auto& copy = app_.Exchange<CopyMoveRequest>();
+    copy = {.CopyMoveKind = 1,
+            .CopySourceFolder = u"C:\\data",
+            .lstMarkedFiles = {std::begin(kSamples), std::end(kSamples)},
+            .LastCopyTarget = u"C:\\data\\Letters"};
+    all_.copyMove.AskSource = path;
+    all_.copyMove.AskTarget = InData(kSamples[1]);
     app_.Exchange<MessageQuestion>().MsgFilePath = path;
     app_.Exchange<InputQuestion>().InputCaption = u"Enter new name of column";
     app_.Exchange<InputQuestion>().InputInitial = u"Title";

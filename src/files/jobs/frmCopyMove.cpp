@@ -1,0 +1,310 @@
+#include "files/jobs/frmCopyMove.h"
+
+#include "common/number/Number.h"
+#include "context/App.h"
+#include "context/exchange/CopyMoveRequest.h"
+#include "context/exchange/FileOperation.h"
+#include "context/exchange/FolderPick.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/FavouriteFolders.h"
+#include "files/jobs/CopyJob.h"
+#include "files/jobs/Explore.h"
+#include "files/jobs/frmAskCopyMove.h"
+#include "files/names/FieldKeys.h"
+#include "files/names/frmNewDir.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+
+#include <algorithm>
+#include <array>
+
+namespace korvane {
+
+namespace {
+
+constexpr std::int16_t kMove = 2;
+constexpr std::int16_t kForCopyWindow = 1;
+
+constexpr Twips kLeastWidth{6576};
+constexpr Twips kLeastHeight{6000};
+constexpr Twips kOpeningWidth{6612};
+constexpr Twips kOpeningHeight{8148};
+constexpr int kSeenOnScreen = 240;
+constexpr Twips kWhenNotSeen{360};
+
+constexpr std::array kMenu{
+    MenuEntry{0, "mnuExit", u"E&xit", ""},
+    MenuEntry{0, "mnuDelete", u"&Delete", ""},
+    MenuEntry{0, "mnuNewDir", u"&New folder", ""},
+    MenuEntry{0, "mnuSource", u"&Source", ""},
+    MenuEntry{0, "mnuTarget", u"&Target", ""},
+    MenuEntry{0, "mnuGetFromTarget", u"&Get from target list", ""},
+    MenuEntry{0, "mnuProceed", u"&Proceed", ""},
+};
+
+/// A stored place that isn't seen on a screen of this length is replaced.
+Twips SeenPlace(std::int32_t stored, Twips screenLength) {
+    return stored < screenLength.Number() - kSeenOnScreen ? Twips{stored} : kWhenNotSeen;
+}
+
+Message Refusal(const Text& text) {
+    return {text, MessageIcon::Exclamation};
+}
+
+} // namespace
+
+const frmCopyMove::Command frmCopyMove::kCommands[] = {
+    {"mnuExit", &frmCopyMove::CloseWindow},     {"mnuDelete", &frmCopyMove::DeleteFolder},
+    {"mnuNewDir", &frmCopyMove::NewFolder},     {"mnuSource", &frmCopyMove::ExploreSource},
+    {"mnuTarget", &frmCopyMove::ExploreTarget}, {"mnuGetFromTarget", &frmCopyMove::GetFromTarget},
+    {"mnuProceed", &frmCopyMove::Proceed},
+};
+
+frmCopyMove::frmCopyMove(App& app)
+    : Form(app.Forms(), "frmCopyMove", u" Target for: "),
+      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      app_(app),
+      folders_(app.Files(), TreeView1) {
+    txtFullPath.Locked = true;
+    Wire();
+}
+
+void frmCopyMove::Wire() {
+    OfficeMenu1.Chosen = [this](std::string_view entry) {
+        const auto* found = std::ranges::find(kCommands, entry, &Command::entry);
+        // While a job runs, the window may only be left.
+        if (!running_ || found->run == &frmCopyMove::CloseWindow) (this->*found->run)();
+    };
+    const auto on = [this](CommandButton& button, Handler run) {
+        button.Click = [this, run] { (this->*run)(); };
+    };
+    on(cmdOk, &frmCopyMove::Proceed);
+    on(cmdNewDir, &frmCopyMove::NewFolder);
+    on(cmdDelDir, &frmCopyMove::DeleteFolder);
+    on(cmdExploreSource, &frmCopyMove::ExploreSource);
+    on(cmdExploreTarget, &frmCopyMove::ExploreTarget);
+    on(cmdGetFromTarget, &frmCopyMove::GetFromTarget);
+    cmdCancel.Click = [this] { run_.CancelPressed = 1; };
+    cmdCancel.KeyDown = [this](KeyEvent& key) { Stop(key); };
+    cmdOk.KeyDown = [this](KeyEvent& key) {
+        if (key.code == Key::Escape) Stop(key);
+    };
+    folders_.FolderChanged = [this] { txtFullPath.Text = folders_.Folder(); };
+    TreeView1.KeyDown = [this](KeyEvent& key) {
+        key.consumed = key.Is('V', Mask::Ctrl);
+        if (key.consumed) Proceed();
+    };
+    txtTargetName.KeyDown = [this](KeyEvent& key) {
+        if (ChangeCaseByKey(txtTargetName, key) || !key.Is(Key::Return, Mask::None)) return;
+        key.consumed = true;
+        Proceed();
+    };
+}
+
+CopyMoveRequest& frmCopyMove::Request() const {
+    return app_.Exchange<CopyMoveRequest>();
+}
+
+// Opening and closing.
+
+void frmCopyMove::Load() {
+    savedDir_ = app_.Files().CurrentDir();
+    Place();
+    ShowRequest();
+    cmdCancel.Visible = false;
+    frmCopying.Visible = false;
+    folders_.Fill();
+    GoToStart();
+    TreeView1.SetFocus();
+}
+
+void frmCopyMove::Place() {
+    const auto& settings = app_.Settings;
+    const Rect screen = app_.Screen().WorkArea();
+    Left = SeenPlace(settings.CopyMoveGeo1, screen.left + screen.width.Number());
+    Top = SeenPlace(settings.CopyMoveGeo2, screen.top + screen.height.Number());
+    Height = std::max(Twips{settings.CopyMoveGeo3}, kOpeningHeight);
+    Width = std::max(Twips{settings.CopyMoveGeo4}, kOpeningWidth);
+}
+
+void frmCopyMove::ShowRequest() {
+    const std::vector<Text>& marked = Request().lstMarkedFiles;
+    lstMarkedFiles.Clear();
+    for (const Text& name : marked)
+        lstMarkedFiles.AddItem(name);
+    const bool single = marked.size() == 1;
+    Caption = u" Target for: " + (single ? marked.front() : NumberText(marked.size()) + u" file(s)") +
+              (Request().CopyMoveKind == kMove ? u" [ Move ] " : u" [ Copy ] ");
+    txtTargetName.Text = single ? marked.front() : Text();
+    txtTargetName.Visible = single;
+    lblNewName.Visible = single;
+}
+
+void frmCopyMove::GoToStart() {
+    const Text& last = Request().LastCopyTarget;
+    const Text start = app_.Files().DirExists(last) ? last : app_.Files().CurrentDir();
+    txtFullPath.Text = start;
+    folders_.SetTreePath(start);
+}
+
+bool frmCopyMove::QueryUnload() {
+    if (running_) run_.CancelPressed = 1;
+    return !running_;
+}
+
+void frmCopyMove::Unload() {
+    app_.Files().ChangeDir(savedDir_);
+    if (State == FormState::Minimised) return;
+    auto& settings = app_.Settings;
+    settings.CopyMoveGeo1 = Left.Get().Number();
+    settings.CopyMoveGeo2 = Top.Get().Number();
+    settings.CopyMoveGeo3 = Height.Get().Number();
+    settings.CopyMoveGeo4 = Width.Get().Number();
+}
+
+void frmCopyMove::Resize() {
+    if (State == FormState::Minimised) return;
+    Width = std::max(Width.Get(), kLeastWidth);
+    Height = std::max(Height.Get(), kLeastHeight);
+}
+
+void frmCopyMove::KeyDown(KeyEvent& key) {
+    if (running_ || !key.Is(Key::Escape, Mask::None)) return;
+    key.consumed = true;
+    Close();
+}
+
+// The job.
+
+void frmCopyMove::Proceed() {
+    if (running_) return;
+    run_ = {};
+    run_.UpdateOnly = chkUpdateOnly.Value;
+    if (AreSameFolder(app_, txtFullPath.Text.Get(), Request().CopySourceFolder)) {
+        app_.Messages().Show(Refusal(u"Source and Target directories must be different!"));
+        return;
+    }
+    {
+        const Hourglass hourglass(app_.Screen());
+        Run();
+        if (run_.CancelPressed == 0) ReportEnd();
+    }
+    Close();
+}
+
+void frmCopyMove::Run() {
+    SetRunning(true);
+    const auto yield = [this] { app_.Screen().ProcessMessages(); };
+    const auto ask = [this] { frmAskCopyMove(app_, run_).ShowModal(); };
+    const CopyMoveRequest& request = Request();
+    const std::vector<Text>& marked = request.lstMarkedFiles;
+    CopyJob job(app_,
+                {.move = request.CopyMoveKind == kMove,
+                 .sourceFolder = request.CopySourceFolder,
+                 .items = marked,
+                 .targetFolder = txtFullPath.Text,
+                 .targetName = txtTargetName.Text},
+                run_, {.yield = yield, .ask = ask});
+    int number = 0;
+    do {
+        frmCopying.Caption = u" File " + NumberText(++number) + u" of " + NumberText(marked.size()) + u" ";
+    } while (job.Step());
+    SetRunning(false);
+}
+
+/// While a job runs, all it depends on is held still.
+void frmCopyMove::SetRunning(bool running) {
+    running_ = running;
+    frmCopying.Visible = running;
+    cmdCancel.Visible = running;
+    cmdCancel.Caption = u"Escape = Stop";
+    if (running) cmdCancel.SetFocus();
+    const std::array<Control*, 9> held{&cmdNewDir,        &cmdDelDir,     &cmdExploreSource,
+                                       &cmdExploreTarget, &TreeView1,     &cmdGetFromTarget,
+                                       &txtTargetName,    &chkUpdateOnly, &cmdOk};
+    for (Control* control : held)
+        control->Enabled = !running;
+}
+
+void frmCopyMove::ReportEnd() {
+    // "Copied" after a move too. Kept for compatibility: move-told-as-copied.
+    const Text text = NumberText(run_.FilesCopied) + u" file(s) copied to this folder:\r\n\r\n" +
+                      txtFullPath.Text.Get() + u"\r\n\r\nView folder with Windows Explorer?";
+    const Answer answer = app_.Messages().Show({text, MessageIcon::Question, MessageButtons::YesNo});
+    if (answer == Answer::Yes) ExploreTarget();
+}
+
+void frmCopyMove::Stop(KeyEvent& key) {
+    // Not a press of the button, which would end the job without the closing question.
+    key.consumed = true;
+    run_.LastKey = Key::Escape;
+}
+
+// Folders.
+
+void frmCopyMove::ShowFolder(const Text& folder) {
+    folders_.Fill();
+    folders_.SetTreePath(folder);
+}
+
+void frmCopyMove::NewFolder() {
+    const Text folder = txtFullPath.Text;
+    app_.Files().ChangeDir(folder);
+    app_.DialogResult = 0;
+    frmNewDir(app_).ShowModal();
+    ShowFolder(app_.DialogResult == 1 ? app_.Exchange<FileOperation>().NewFolderResult : folder);
+}
+
+void frmCopyMove::DeleteFolder() {
+    const Text folder = txtFullPath.Text;
+    if (app_.Files().Style().IsRoot(folder)) {
+        app_.Messages().Show({u"You cannot delete the root directory!", MessageIcon::Stop});
+        return;
+    }
+    if (!app_.Files().FileNames(folder, u"*.*").empty()) {
+        app_.Messages().Show(Refusal(u"You can only delete an empty directory!"));
+        return;
+    }
+    const Answer answer = app_.Messages().Show({u"Do you wish to delete this directory ?\r\n\r\n" + folder,
+                                                MessageIcon::Exclamation, MessageButtons::YesNo, 2});
+    if (answer == Answer::Yes) RemoveFolder(folder);
+}
+
+void frmCopyMove::RemoveFolder(const Text& folder) {
+    const PathStyle style = app_.Files().Style();
+    const Text parent = style.DirectoryForChange(style.FolderPart(folder));
+    app_.Files().ChangeDir(parent);
+    if (!app_.Files().RemoveDir(folder)) {
+        app_.Messages().Show(
+            Refusal(u"There was an error attempting to remove the following directory.\r\n\r\n" + folder +
+                    u"\r\n\r\nMaybe it is not a terminal node in the drive tree ?"));
+    }
+    ShowFolder(parent);
+}
+
+void frmCopyMove::ExploreSource() {
+    Explore(app_, Request().CopySourceFolder);
+}
+
+void frmCopyMove::ExploreTarget() {
+    Explore(app_, txtFullPath.Text);
+}
+
+void frmCopyMove::GetFromTarget() {
+    auto* favourites = app_.Port<FavouriteFolders>();
+    if (favourites == nullptr) return;
+    auto& mode = app_.Exchange<FolderPick>().FavouritePickMode;
+    auto& lister = app_.Exchange<ListerRequest>();
+    mode = kForCopyWindow;
+    lister.ChosenFilePath.clear();
+    app_.DialogResult = 0;
+    favourites->Show();
+    mode = 0;
+    if (app_.DialogResult != 1 || lister.ChosenFilePath.empty()) return;
+    lister.ListerFolder = lister.ChosenFilePath;
+    txtFullPath.Text = lister.ChosenFilePath;
+    folders_.SetTreePath(lister.ChosenFilePath);
+}
+
+} // namespace korvane

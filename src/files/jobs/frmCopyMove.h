@@ -1,0 +1,87 @@
+#pragma once
+
+#include "controls/Buttons.h"
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "controls/ListBox.h"
+#include "controls/Menu.h"
+#include "controls/TextBox.h"
+#include "controls/TreeView.h"
+#include "files/jobs/CopyMoveRun.h"
+#include "files/tree/FolderTree.h"
+
+#include <string_view>
+
+namespace korvane {
+
+class App;
+struct CopyMoveRequest;
+
+/// Copies or moves the files of the `CopyMoveRequest` to a folder that is picked in a tree. Modal.
+class frmCopyMove : public Form {
+public:
+    explicit frmCopyMove(App& app);
+
+    Menu OfficeMenu1;
+    CommandButton cmdNewDir{*this, "cmdNewDir", u"", u"New folder"};
+    CommandButton cmdDelDir{*this, "cmdDelDir", u"", u"Delete folder"};
+    CommandButton cmdExploreSource{*this, "cmdExploreSource", u"", u"Explore source folder"};
+    CommandButton cmdExploreTarget{*this, "cmdExploreTarget", u"", u"Explore target folder"};
+    CommandButton cmdGetFromTarget{*this, "cmdGetFromTarget", u"", u"Get target folder from list"};
+    TextBox txtFullPath{*this, "txtFullPath"};
+    TreeView TreeView1{*this, "TreeView1"};
+    ListBox lstMarkedFiles{*this, "lstMarkedFiles"};
+    Label lblNewName{*this, "lblNewName", u"New name for file to copy"};
+    TextBox txtTargetName{*this, "txtTargetName"};
+    CheckBox chkUpdateOnly{*this, "chkUpdateOnly", u"Only copy newer files or those not on target"};
+    Panel frmCopying{*this, "frmCopying"};
+    CommandButton cmdOk{*this, "cmdOk", u"Proceed"};
+    CommandButton cmdCancel{*this, "cmdCancel"};
+
+    void Load() override;
+    bool QueryUnload() override;
+    void Unload() override;
+    void Resize() override;
+    void KeyDown(KeyEvent& key) override;
+
+private:
+    using Handler = void (frmCopyMove::*)();
+    struct Command {
+        std::string_view entry;
+        Handler run;
+    };
+    static const Command kCommands[];
+
+    void Wire();
+    void Place();
+    void ShowRequest();
+    void GoToStart();
+
+    void Proceed();
+    /// Returns when the job has ended.
+    void Run();
+    void SetRunning(bool running);
+    void ReportEnd();
+    void Stop(KeyEvent& key);
+
+    void CloseWindow() { Close(); }
+    void NewFolder();
+    void DeleteFolder();
+    void RemoveFolder(const Text& folder);
+    void ShowFolder(const Text& folder);
+    void ExploreSource();
+    void ExploreTarget();
+    void GetFromTarget();
+
+    CopyMoveRequest& Request() const;
+
+    App& app_;
+    FolderTree folders_;
+    CopyMoveRun run_;
+    bool running_ = false;
+    /// The current directory at opening.
+    Text savedDir_;
+};
+
+} // namespace korvane
