@@ -34,31 +34,34 @@ void TellAlreadyLoaded(App& app, const Text& path) {
 } // namespace
 
 bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
-    ListerRequest& request = app_.Exchange<ListerRequest>();
-    request.ChosenFileCount = 1;
-    request.ChosenFiles.assign(2, Text());
-    if (!TakeFiles(path)) return false;
+    const auto files = FilesToLoad(path);
+    if (!files) return false;
     // `ReadTableData` sets the pointer back. It stays an hourglass when nothing is read.
     app_.Screen().SetPointer(Pointer::Hourglass);
-    // The whole program has one list of files. A file that another start hands over while a message box is
-    // open here replaces the list.
-    for (int number = 1; number <= request.ChosenFileCount; ++number) {
-        const Text file = request.ChosenFiles[static_cast<std::size_t>(number)];
+    std::size_t place = 0;
+    for (const Text& file : *files) {
         if (IsLoaded(file)) {
             TellAlreadyLoaded(app_, file);
             ShowLoadedFiles(app_, tabs_, window_);
             return true;
         }
-        LoadFile(number, file, into);
+        LoadFile(place++, file, into);
     }
-    if (request.ChosenFileCount >= 2) ShowLoadedFiles(app_, tabs_, window_);
-    return request.ChosenFileCount > 0;
+    if (files->size() >= 2) ShowLoadedFiles(app_, tabs_, window_);
+    return !files->empty();
 }
 
-bool LoadPipeline::TakeFiles(const Text& path) {
-    if (path.empty()) return ChooseFiles();
-    app_.Exchange<ListerRequest>().ChosenFiles[1] = path;
-    return true;
+std::optional<std::vector<Text>> LoadPipeline::FilesToLoad(const Text& path) {
+    ListerRequest& request = app_.Exchange<ListerRequest>();
+    request.ChosenFileCount = 1;
+    request.ChosenFiles = {Text(), path};
+    if (path.empty() && !ChooseFiles()) return std::nullopt;
+    // The whole program has one list of files. A file that another start hands over while a message box is
+    // open here replaces that list, so this load goes on with its own.
+    const auto first = request.ChosenFiles.begin() + 1;
+    std::vector<Text> files(first, first + request.ChosenFileCount);
+    if (path.empty() && files.size() >= 2 && !ConfirmSeveral(files.size())) return std::nullopt;
+    return files;
 }
 
 bool LoadPipeline::ChooseFiles() {
@@ -69,13 +72,12 @@ bool LoadPipeline::ChooseFiles() {
     }
     ListerRequest& lister = app_.Exchange<ListerRequest>();
     if (lister.ChosenFilePath.empty()) return false;
-    if (lister.ChosenFileCount >= 2) return ConfirmSeveral();
-    lister.ChosenFiles[static_cast<std::size_t>(lister.ChosenFileCount)] = lister.ChosenFilePath;
+    if (lister.ChosenFileCount < 2)
+        lister.ChosenFiles[static_cast<std::size_t>(lister.ChosenFileCount)] = lister.ChosenFilePath;
     return true;
 }
 
-bool LoadPipeline::ConfirmSeveral() {
-    const int count = app_.Exchange<ListerRequest>().ChosenFileCount;
+bool LoadPipeline::ConfirmSeveral(std::size_t count) {
     return AskYesNo(app_, u"Load  >   " + NumberText(count) + u"   <  text databases?");
 }
 
@@ -88,11 +90,10 @@ bool LoadPipeline::IsLoaded(const Text& file) {
     return false;
 }
 
-void LoadPipeline::LoadFile(int number, const Text& file, LoadInto into) {
+void LoadPipeline::LoadFile(std::size_t place, const Text& file, LoadInto into) {
     if (into == LoadInto::NewTab) tabs_.AddNewTab();
-    const auto offsetIndex = static_cast<std::size_t>(number - 1);
-    if (recents_.LoadFromRecent == 1 && offsetIndex < recents_.RecentOffsets.size()) {
-        recents_.RecentOffset = recents_.RecentOffsets[offsetIndex];
+    if (recents_.LoadFromRecent == 1 && place < recents_.RecentOffsets.size()) {
+        recents_.RecentOffset = recents_.RecentOffsets[place];
     }
     ReadIntoActiveTab(WithoutOuterQuotes(file));
     TabState& state = tabs_.TabState[tabs_.CurrentTabIndex];

@@ -2,7 +2,10 @@
 
 #include "common/text/Text.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace korvane {
 
@@ -25,13 +28,13 @@ public:
     bool OpenDatabase(const Text& path, LoadInto into);
 
 private:
-    /// False when the load stops here.
-    bool TakeFiles(const Text& path);
+    /// Nothing when the load stops here.
+    std::optional<std::vector<Text>> FilesToLoad(const Text& path);
     bool ChooseFiles();
-    bool ConfirmSeveral();
+    bool ConfirmSeveral(std::size_t count);
     bool IsLoaded(const Text& file);
-    /// `number` is the file's place in the list of this load.
-    void LoadFile(int number, const Text& file, LoadInto into);
+    /// `place` is that of the file in the list of this load, from 0.
+    void LoadFile(std::size_t place, const Text& file, LoadInto into);
     void ReadIntoActiveTab(const Text& file);
 
     App& app_;

@@ -198,6 +198,29 @@ TEST_F(LoadPipelineTest, AFileThatArrivesWhileTheChooserStandsIsLoadedInBetween)
     EXPECT_EQ(FirstCell(2), kA);
 }
 
+TEST_F(LoadPipelineTest, AFileThatArrivesWhileTheQuestionStandsIsLoadedInBetween) {
+    p.StartWith({});
+    p.user.ChooseFiles({kA, kB});
+    p.user.AnswerAfter([this] { p.instance.Arrive(kC); }, Answer::Yes);
+    p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
+    p.Choose("mnuFile_Open");
+    EXPECT_EQ(p.Captions(), (std::vector<Text>{u"c.tbx", u"a.tbx", u"b.tbx"}));
+    EXPECT_EQ(FirstCell(2), kA);
+    EXPECT_EQ(FirstCell(3), kB);
+}
+
+TEST_F(LoadPipelineTest, AFileThatArrivesWhileALoadTellsOfAFailureIsLoadedInBetween) {
+    p.StartWith({});
+    p.user.ChooseFiles({kA, kB});
+    p.user.Answer(Answer::Yes);
+    p.files.VanishBeforeOpen(kA);
+    p.user.AnswerAfter([this] { p.instance.Arrive(kC); }, Answer::Ok);
+    p.user.On<frmLoadList>([](frmLoadList& list) { list.cmdExit.Press(); });
+    p.Choose("mnuFile_Open");
+    ASSERT_EQ(p.Captions().size(), 3U);
+    EXPECT_EQ(FirstCell(3), kB);
+}
+
 TEST_F(LoadPipelineTest, AFileWhoseTabWasClosedLoadsAgain) {
     p.StartWith({}, kA);
     p.Choose("mnuFile_Close");
