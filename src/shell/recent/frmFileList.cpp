@@ -53,6 +53,13 @@ TextView Behind(TextView entry, TextView mark) {
     return found == 0 ? TextView() : Mid(entry, found + 1);
 }
 
+ListRow LostRow(TextView file, TextView folder) {
+    ListRow row;
+    row.texts = {Text(file), Text(folder), {}, {}};
+    row.icon = frmFileList::kLostIcon;
+    return row;
+}
+
 Twips WidthOr(std::int32_t stored, Twips usual) {
     return stored > 0 ? Twips{stored} : usual;
 }
@@ -186,6 +193,7 @@ void frmFileList::FillList() {
 }
 
 ListRow frmFileList::RowOf(const Text& entry) const {
+    if (InStr(entry, u"|") == 0) return LostRow(entry, {});
     const FileSystem& files = app_.Files();
     Text path(PathPart(entry));
     bool found = !path.empty() && files.FileExists(path);
@@ -194,11 +202,9 @@ ListRow frmFileList::RowOf(const Text& entry) const {
         found = !other.empty() && files.FileExists(other);
         if (found) path = other;
     }
-    const PathStyle style = files.Style();
-    ListRow row;
-    row.texts = {Text(style.NamePart(path)), Text(style.FolderPart(path)), {}, {}};
-    row.icon = found ? kFoundIcon : kLostIcon;
+    ListRow row = LostRow(files.Style().NamePart(path), files.Style().FolderPart(path));
     if (!found) return row;
+    row.icon = kFoundIcon;
     row.texts[kOffset] = Text(Behind(entry, u"|"));
     row.texts[kDate] = Text(Behind(entry, u"*"));
     return row;

@@ -74,6 +74,16 @@ TEST_F(FileListTest, ShowsFoundAndLostFiles) {
     });
 }
 
+TEST_F(FileListTest, ALineWithoutABarIsShownAsItStandsAndCountsAsLost) {
+    Recents().RecentEntries[2] = kB;
+    InList([](frmFileList& f) {
+        ASSERT_EQ(f.ListView1.Count(), 3);
+        const ListRow row = f.ListView1.RowAt(2);
+        EXPECT_EQ(row.texts, (std::vector<Text>{kB, u"", u"", u""}));
+        EXPECT_EQ(row.icon, frmFileList::kLostIcon);
+    });
+}
+
 // Kept for compatibility: offset-column-shows-date.
 TEST_F(FileListTest, TheOffsetColumnShowsTheDateToo) {
     InList([](frmFileList& f) { EXPECT_EQ(f.ListView1.RowAt(1).texts.at(2), u" 0*2026.03.01   14:05"); });
