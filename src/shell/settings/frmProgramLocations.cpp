@@ -62,7 +62,8 @@ void frmProgramLocations::cmdSameForAll_Click() {
     }
     const PathStyle style = app_.Files().Style();
     Text folder(style.FolderPart(word));
-    style.AddBackslash(folder);
+    // A bare name is looked for along the system's path, and so are those beside it.
+    if (!folder.empty()) style.AddBackslash(folder);
     for (const Program& program : kPrograms) {
         if (program.location == &Settings::WordPath) continue;
         app_.Settings.*program.location = folder + Text(program.file);

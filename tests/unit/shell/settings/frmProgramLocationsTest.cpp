@@ -94,6 +94,16 @@ TEST_F(ProgramLocationsTest, AllCanStandInARootToo) {
     EXPECT_EQ(t.app.Settings.ExcelPath, u"C:\\EXCEL.EXE");
 }
 
+TEST_F(ProgramLocationsTest, AllAreBareNamesWhereWordIsOne) {
+    t.files.AddDir(u"C:\\Office");
+    t.files.ChangeDir(u"C:\\Office");
+    t.files.AddFile(u"C:\\Office\\WINWORD.EXE");
+    t.app.Settings.WordPath = u"WINWORD.EXE";
+    InWindow([](frmProgramLocations& f) { f.cmdSameForAll.Press(); });
+    EXPECT_EQ(t.app.Settings.ExcelPath, u"EXCEL.EXE");
+    EXPECT_EQ(t.app.Settings.AccessPath, u"MSACCESS.EXE");
+}
+
 TEST(ProgramLocationsOnPosix, AllCanHaveTheFolderOfWord) {
     TestApp t(PathStyle::Posix);
     t.files.AddFile(u"/opt/office/writer");
