@@ -2,6 +2,7 @@
 
 #include "common/text/CaseFold.h"
 #include "controls/TreeView.h"
+#include "controls/UpdateScope.h"
 #include "platform/FileSystem.h"
 
 #include <algorithm>
@@ -10,19 +11,16 @@ namespace korvane {
 
 namespace {
 
-/// No path holds a null, so that no folder has this key.
-Text PlaceholderKey(const Text& folder) {
-    return folder + u'\0';
-}
-
-bool IsPlaceholder(TextView key) {
-    return key.ends_with(u'\0');
-}
-
 /// Drive B is shown as any other one. Kept for compatibility: drive-b-without-label.
 Text DriveText(const Drive& drive) {
     const Text entry = ToUpper(drive.entry);
     return entry.starts_with(u"A:") ? u"A:[ Floppy Disk ]" : entry;
+}
+
+TextView DriveIcon(DriveType type) {
+    if (type == DriveType::Removable) return u"driveRemovable";
+    // A drive that doesn't tell its kind looks like a fixed one.
+    return type == DriveType::Fixed || type == DriveType::Unknown ? u"driveFixed" : u"driveOther";
 }
 
 } // namespace
@@ -38,35 +36,40 @@ FolderTree::~FolderTree() {
 }
 
 void FolderTree::Fill() {
+    const UpdateScope update(tree_);
     tree_.Clear();
     for (const Drive& drive : files_.Drives()) {
         tree_.Add({}, drive.root, files_.Style().HasDrives() ? DriveText(drive) : drive.entry);
-        AddPlaceholder(drive.root);
+        tree_.SetNodeIcon(drive.root, DriveIcon(drive.type));
+        tree_.SetExpandable(drive.root, true);
     }
 }
 
 void FolderTree::GoTo(const Text& folder) {
-    if (IsPlaceholder(folder)) return;
     folder_ = folder;
     if (!moving_ && FolderChanged) FolderChanged();
 }
 
 void FolderTree::Expand(const Text& key) {
-    tree_.Remove(PlaceholderKey(key));
     if (tree_.Children(key).empty()) ReadFolders(key);
     GoTo(key);
-}
-
-void FolderTree::AddPlaceholder(const Text& folder) {
-    tree_.Add(folder, PlaceholderKey(folder), {});
+    const auto children = tree_.Children(key);
+    if (moving_ || children.empty()) return;
+    tree_.EnsureVisible(Text(children.back()->key));
+    tree_.EnsureVisible(key);
 }
 
 void FolderTree::ReadFolders(const Text& folder) {
-    for (const Text& name : files_.FolderNames(folder)) {
-        const Text path = files_.Style().JoinPath(folder, name);
-        tree_.Add(folder, path, name);
-        if (files_.HasFolders(path)) AddPlaceholder(path);
-    }
+    for (const Text& name : files_.FolderNames(folder))
+        AddFolder(folder, name);
+    tree_.SetExpandable(folder, false);
+}
+
+Text FolderTree::AddFolder(const Text& parent, const Text& name) {
+    const Text path = files_.Style().JoinPath(parent, name);
+    tree_.Add(parent, path, name);
+    tree_.SetExpandable(path, files_.HasFolders(path));
+    return path;
 }
 
 bool FolderTree::SetTreePath(TextView path) {
@@ -112,13 +115,9 @@ std::vector<Text> FolderTree::NamesBelow(TextView root, TextView fullPath) const
 
 /// The key of the node. A folder that isn't listed, or not yet, is there all the same.
 Text FolderTree::NodeBelow(const Text& parent, const Text& name) {
-    for (const TreeNode* child : tree_.Children(parent)) {
-        if (!IsPlaceholder(child->key) && files_.Style().SameName(child->text, name)) return child->key;
-    }
-    const Text path = files_.Style().JoinPath(parent, name);
-    tree_.Add(parent, path, name);
-    if (files_.HasFolders(path)) AddPlaceholder(path);
-    return path;
+    for (const TreeNode* child : tree_.Children(parent))
+        if (files_.Style().SameName(child->text, name)) return child->key;
+    return AddFolder(parent, name);
 }
 
 } // namespace korvane

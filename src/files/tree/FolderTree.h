@@ -10,8 +10,8 @@ namespace korvane {
 class FileSystem;
 class TreeView;
 
-/// The folders of the disk in a tree. A folder's key is its full path. What lies below it is read when it is
-/// opened: until then an empty child stands for it.
+/// The folders of the disk in a tree. A folder's key is its full path. What is below it is read when it is
+/// opened.
 class FolderTree {
 public:
     /// Both outlive the object, which answers the tree's events from now on.
@@ -39,8 +39,9 @@ public:
 private:
     void GoTo(const Text& folder);
     void Expand(const Text& key);
-    void AddPlaceholder(const Text& folder);
     void ReadFolders(const Text& folder);
+    /// The key of the new node.
+    Text AddFolder(const Text& parent, const Text& name);
     Text Root(TextView fullPath) const;
     std::vector<Text> NamesBelow(TextView root, TextView fullPath) const;
     Text NodeBelow(const Text& parent, const Text& name);

@@ -40,14 +40,16 @@ struct PosixFolderTreeTest : FolderTreeTest {
     PosixFolderTreeTest() : FolderTreeTest(PathStyle::Posix) {}
 };
 
-TEST_F(FolderTreeTest, ShowsTheDrivesWithAPlaceholderEach) {
+TEST_F(FolderTreeTest, ShowsTheDrivesWithNothingOfThemRead) {
     t.files.SetVolume(u"C:\\", {.type = DriveType::Fixed, .name = u"System"});
     t.files.AddDrive(u'D');
     folders.Fill();
     EXPECT_THAT(TextsBelow(u""), ElementsAre(u"C: [SYSTEM]", u"D:"));
     EXPECT_NE(tree.Node(u"C:\\"), nullptr);
-    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u""));
-    EXPECT_THAT(TextsBelow(u"D:\\"), ElementsAre(u""));
+    for (const TextView drive : {u"C:\\", u"D:\\"}) {
+        EXPECT_THAT(TextsBelow(drive), IsEmpty());
+        EXPECT_TRUE(tree.Node(drive)->expandable);
+    }
     EXPECT_EQ(folders.Folder(), u"");
     EXPECT_THAT(visited, IsEmpty());
 }
@@ -68,8 +70,9 @@ TEST_F(FolderTreeTest, ANodeIsReadWhenItIsOpened) {
     folders.Fill();
     tree.SetExpanded(u"C:\\", true);
     EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Alone", u"Data", u"Korvane"));
-    EXPECT_THAT(TextsBelow(u"C:\\Alone"), IsEmpty());
-    EXPECT_THAT(TextsBelow(u"C:\\Data"), ElementsAre(u""));
+    EXPECT_FALSE(tree.Node(u"C:\\Alone")->expandable);
+    EXPECT_TRUE(tree.Node(u"C:\\Data")->expandable);
+    EXPECT_THAT(TextsBelow(u"C:\\Data"), IsEmpty());
     tree.SetExpanded(u"C:\\Data", true);
     EXPECT_THAT(TextsBelow(u"C:\\Data"), ElementsAre(u"sub"));
     EXPECT_NE(tree.Node(u"C:\\Data\\sub"), nullptr);
@@ -96,11 +99,17 @@ TEST_F(FolderTreeTest, ASelectedNodeIsTheFolder) {
     EXPECT_THAT(visited, ElementsAre(u"C:\\Data"));
 }
 
-TEST_F(FolderTreeTest, APlaceholderIsNoFolder) {
-    folders.Fill();
-    tree.Select(tree.Children(u"C:\\").front()->key);
-    EXPECT_EQ(folders.Folder(), u"C:\\");
-    EXPECT_THAT(visited, ElementsAre(u"C:\\"));
+TEST_F(FolderTreeTest, ADrivesPictureTellsItsKind) {
+    const std::pair<DriveType, TextView> kinds[] = {
+        {DriveType::Fixed, u"driveFixed"},   {DriveType::Removable, u"driveRemovable"},
+        {DriveType::Unknown, u"driveFixed"}, {DriveType::Network, u"driveOther"},
+        {DriveType::CdRom, u"driveOther"},   {DriveType::RamDisk, u"driveOther"},
+    };
+    for (const auto& [type, icon] : kinds) {
+        t.files.SetVolume(u"C:\\", {.type = type});
+        folders.Fill();
+        EXPECT_EQ(tree.IconOf(*tree.Node(u"C:\\")), icon);
+    }
 }
 
 TEST_F(FolderTreeTest, APathOpensTheTreeDownToIt) {
@@ -175,7 +184,7 @@ TEST_F(FolderTreeTest, FillingAgainForgetsWhatWasRead) {
     folders.SetTreePath(u"C:\\Data");
     t.files.AddDir(u"C:\\New");
     folders.Fill();
-    EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u""));
+    EXPECT_THAT(TextsBelow(u"C:\\"), IsEmpty());
     EXPECT_TRUE(folders.SetTreePath(u"C:\\Data"));
     EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Data", u"Korvane", u"New"));
 }
