@@ -48,6 +48,7 @@ void frmEnterFileName::Load() {
         FontSpec{.name = {}, .size = settings.EnterNameB > 0 ? settings.EnterNameB : kDesignedFontSize};
     atOpening_ = line_.FileName();
     txtFileName.Text = atOpening_;
+    txtFileName.SelStart = static_cast<int>(atOpening_.size());
     txtFileName.SetFocus();
 }
 
