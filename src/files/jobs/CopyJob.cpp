@@ -7,8 +7,8 @@
 #include "context/StandardMessages.h"
 #include "context/exchange/CopyMoveRequest.h"
 #include "controls/KeyEvent.h"
+#include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
-#include "platform/MessageBoxes.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,14 +17,16 @@ namespace korvane {
 
 namespace {
 
-/// So much has to stay free on the target drive.
+/// So many bytes have to stay free on the target drive by the job's own estimate. Kept for compatibility:
+/// free-space-read-once.
 constexpr std::int64_t kReserve = 4096;
 
 bool IsBlank(TextView text) {
     return Trim(text).empty();
 }
 
-/// The time to the minute as a number, 0 for a file that has none: a difference of seconds doesn't count.
+/// The time to the minute as a number, 0 for a file that has none. Kept for compatibility:
+/// update-compares-minutes.
 double MinuteNumber(const std::optional<DateTime>& time) {
     return time ? Val(FormatDate(*time, u"yyyymmddhhmm")) : 0;
 }
@@ -142,11 +144,10 @@ void CopyJob::DeleteSource(const Text& source) {
 
 void CopyJob::ReportFullDrive(const Text& source) {
     ended_ = true;
-    app_.Messages().Show({u"Target drive full !\r\n\r\nTarget drive\t" + drive_ + u"\r\nTotal space\t" +
-                              FormatGrouped(run_.DriveTotal) + u"\r\nFree space\t" +
-                              FormatGrouped(run_.DriveFree) + u"\r\n\r\nHalted at\t" + ToUpper(source) +
-                              u"\r\nSize\t" + FormatGrouped(app_.Files().Size(source).value_or(0)),
-                          MessageIcon::Exclamation});
+    Warn(app_, u"Target drive full !\r\n\r\nTarget drive\t" + drive_ + u"\r\nTotal space\t" +
+                   FormatGrouped(run_.DriveTotal) + u"\r\nFree space\t" + FormatGrouped(run_.DriveFree) +
+                   u"\r\n\r\nHalted at\t" + ToUpper(source) + u"\r\nSize\t" +
+                   FormatGrouped(app_.Files().Size(source).value_or(0)));
 }
 
 bool AreSameFolder(const App& app, TextView a, TextView b) {

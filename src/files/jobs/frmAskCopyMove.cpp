@@ -47,7 +47,7 @@ Text frmAskCopyMove::FactsOf(const Text& path) const {
            (modified ? app_.Locale().GeneralDate(*modified) : Text());
 }
 
-/// "No to all" stays in both states. Kept for compatibility: no-to-all-while-renaming.
+// Kept for compatibility: no-to-all-while-renaming.
 void frmAskCopyMove::SetRenaming(bool renaming) {
     for (CommandButton* button : {&cmdYes, &cmdYesToAll, &cmdNo, &cmdCancel, &cmdRenameTarget})
         button->Visible = !renaming;

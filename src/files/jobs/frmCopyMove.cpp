@@ -7,6 +7,8 @@
 #include "context/exchange/FolderPick.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/FavouriteFolders.h"
+#include "controls/KeyTable.h"
+#include "dialogs/Questions.h"
 #include "files/jobs/CopyJob.h"
 #include "files/jobs/Explore.h"
 #include "files/jobs/frmAskCopyMove.h"
@@ -33,37 +35,32 @@ constexpr Twips kOpeningHeight{8148};
 constexpr int kSeenOnScreen = 240;
 constexpr Twips kWhenNotSeen{360};
 
-constexpr std::array kMenu{
-    MenuEntry{0, "mnuExit", u"E&xit", ""},
-    MenuEntry{0, "mnuDelete", u"&Delete", ""},
-    MenuEntry{0, "mnuNewDir", u"&New folder", ""},
-    MenuEntry{0, "mnuSource", u"&Source", ""},
-    MenuEntry{0, "mnuTarget", u"&Target", ""},
-    MenuEntry{0, "mnuGetFromTarget", u"&Get from target list", ""},
-    MenuEntry{0, "mnuProceed", u"&Proceed", ""},
-};
-
 /// A stored place that isn't seen on a screen of this length is replaced.
 Twips SeenPlace(std::int32_t stored, Twips screenLength) {
     return stored < screenLength.Number() - kSeenOnScreen ? Twips{stored} : kWhenNotSeen;
 }
 
-Message Refusal(const Text& text) {
-    return {text, MessageIcon::Exclamation};
-}
-
 } // namespace
 
-const frmCopyMove::Command frmCopyMove::kCommands[] = {
-    {"mnuExit", &frmCopyMove::CloseWindow},     {"mnuDelete", &frmCopyMove::DeleteFolder},
-    {"mnuNewDir", &frmCopyMove::NewFolder},     {"mnuSource", &frmCopyMove::ExploreSource},
-    {"mnuTarget", &frmCopyMove::ExploreTarget}, {"mnuGetFromTarget", &frmCopyMove::GetFromTarget},
-    {"mnuProceed", &frmCopyMove::Proceed},
+struct frmCopyMove::Tables {
+    // By the buttons: they do nothing while a job runs.
+    static constexpr MenuRow<frmCopyMove> kMenu[] = {
+        {0, "mnuExit", u"E&xit", "", &frmCopyMove::Close},
+        {0, "mnuDelete", u"&Delete", "", &frmCopyMove::cmdDelDir},
+        {0, "mnuNewDir", u"&New folder", "", &frmCopyMove::cmdNewDir},
+        {0, "mnuSource", u"&Source", "", &frmCopyMove::cmdExploreSource},
+        {0, "mnuTarget", u"&Target", "", &frmCopyMove::cmdExploreTarget},
+        {0, "mnuGetFromTarget", u"&Get from target list", "", &frmCopyMove::cmdGetFromTarget},
+        {0, "mnuProceed", u"&Proceed", "", &frmCopyMove::cmdOk},
+    };
+    static constexpr WindowKey<frmCopyMove> kTreeKeys[] = {{"Ctrl+V", &frmCopyMove::cmdOk}};
+    static constexpr WindowKey<frmCopyMove> kNameKeys[] = {{"Return", &frmCopyMove::cmdOk}};
+    static constexpr WindowKey<frmCopyMove> kOkKeys[] = {{"Any+Esc", &frmCopyMove::Stop}};
 };
 
 frmCopyMove::frmCopyMove(App& app)
     : Form(app.Forms(), "frmCopyMove", u" Target for: "),
-      OfficeMenu1(*this, "OfficeMenu1", kMenu),
+      OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app),
       folders_(app.Files(), TreeView1) {
     txtFullPath.Locked = true;
@@ -71,13 +68,8 @@ frmCopyMove::frmCopyMove(App& app)
 }
 
 void frmCopyMove::Wire() {
-    OfficeMenu1.Chosen = [this](std::string_view entry) {
-        const auto* found = std::ranges::find(kCommands, entry, &Command::entry);
-        // While a job runs, the window may only be left.
-        if (!running_ || found->run == &frmCopyMove::CloseWindow) (this->*found->run)();
-    };
-    const auto on = [this](CommandButton& button, Handler run) {
-        button.Click = [this, run] { (this->*run)(); };
+    const auto on = [this](CommandButton& button, Handler<frmCopyMove> starts) {
+        button.Click = [this, starts] { starts.Run(*this); };
     };
     on(cmdOk, &frmCopyMove::Proceed);
     on(cmdNewDir, &frmCopyMove::NewFolder);
@@ -86,20 +78,19 @@ void frmCopyMove::Wire() {
     on(cmdExploreTarget, &frmCopyMove::ExploreTarget);
     on(cmdGetFromTarget, &frmCopyMove::GetFromTarget);
     cmdCancel.Click = [this] { run_.CancelPressed = 1; };
-    cmdCancel.KeyDown = [this](KeyEvent& key) { Stop(key); };
-    cmdOk.KeyDown = [this](KeyEvent& key) {
-        if (key.code == Key::Escape) Stop(key);
-    };
-    folders_.FolderChanged = [this] { txtFullPath.Text = folders_.Folder(); };
-    TreeView1.KeyDown = [this](KeyEvent& key) {
-        key.consumed = key.Is('V', Mask::Ctrl);
-        if (key.consumed) Proceed();
-    };
-    txtTargetName.KeyDown = [this](KeyEvent& key) {
-        if (ChangeCaseByKey(txtTargetName, key) || !key.Is(Key::Return, Mask::None)) return;
+    // Consumed, since a press of the button would end the job without the closing question.
+    cmdCancel.KeyDown = [this](KeyEvent& key) {
         key.consumed = true;
-        Proceed();
+        Stop();
     };
+    cmdOk.KeyDown = KeysOf(*this, Tables::kOkKeys);
+    folders_.FolderChanged = [this] { txtFullPath.Text = folders_.Folder(); };
+    TreeView1.KeyDown = KeysOf(*this, Tables::kTreeKeys);
+    txtTargetName.KeyDown = [this](KeyEvent& key) { txtTargetName_KeyDown(key); };
+}
+
+void frmCopyMove::txtTargetName_KeyDown(KeyEvent& key) {
+    if (!ChangeCaseByKey(txtTargetName, key)) RunKey(Tables::kNameKeys, *this, key);
 }
 
 CopyMoveRequest& frmCopyMove::Request() const {
@@ -178,12 +169,10 @@ void frmCopyMove::KeyDown(KeyEvent& key) {
 // The job.
 
 void frmCopyMove::Proceed() {
-    if (running_) return;
     run_ = {};
     run_.UpdateOnly = chkUpdateOnly.Value;
     if (AreSameFolder(app_, txtFullPath.Text.Get(), Request().CopySourceFolder)) {
-        app_.Messages().Show(Refusal(u"Source and Target directories must be different!"));
-        return;
+        return Warn(app_, u"Source and Target directories must be different!");
     }
     {
         const Hourglass hourglass(app_.Screen());
@@ -218,7 +207,6 @@ void frmCopyMove::SetRunning(bool running) {
     running_ = running;
     frmCopying.Visible = running;
     cmdCancel.Visible = running;
-    cmdCancel.Caption = u"Escape = Stop";
     if (running) cmdCancel.SetFocus();
     const std::array<Control*, 9> held{&cmdNewDir,        &cmdDelDir,     &cmdExploreSource,
                                        &cmdExploreTarget, &TreeView1,     &cmdGetFromTarget,
@@ -228,16 +216,14 @@ void frmCopyMove::SetRunning(bool running) {
 }
 
 void frmCopyMove::ReportEnd() {
-    // "Copied" after a move too. Kept for compatibility: move-told-as-copied.
-    const Text text = NumberText(run_.FilesCopied) + u" file(s) copied to this folder:\r\n\r\n" +
-                      txtFullPath.Text.Get() + u"\r\n\r\nView folder with Windows Explorer?";
-    const Answer answer = app_.Messages().Show({text, MessageIcon::Question, MessageButtons::YesNo});
-    if (answer == Answer::Yes) ExploreTarget();
+    // Kept for compatibility: move-told-as-copied.
+    const bool view =
+        AskYesNo(app_, NumberText(run_.FilesCopied) + u" file(s) copied to this folder:\r\n\r\n" +
+                           txtFullPath.Text.Get() + u"\r\n\r\nView folder with Windows Explorer?");
+    if (view) ExploreTarget();
 }
 
-void frmCopyMove::Stop(KeyEvent& key) {
-    // Not a press of the button, which would end the job without the closing question.
-    key.consumed = true;
+void frmCopyMove::Stop() {
     run_.LastKey = Key::Escape;
 }
 
@@ -259,12 +245,10 @@ void frmCopyMove::NewFolder() {
 void frmCopyMove::DeleteFolder() {
     const Text folder = txtFullPath.Text;
     if (app_.Files().Style().IsRoot(folder)) {
-        app_.Messages().Show({u"You cannot delete the root directory!", MessageIcon::Stop});
-        return;
+        return TellError(app_, u"You cannot delete the root directory!");
     }
     if (!app_.Files().FileNames(folder, u"*.*").empty()) {
-        app_.Messages().Show(Refusal(u"You can only delete an empty directory!"));
-        return;
+        return Warn(app_, u"You can only delete an empty directory!");
     }
     const Answer answer = app_.Messages().Show({u"Do you wish to delete this directory ?\r\n\r\n" + folder,
                                                 MessageIcon::Exclamation, MessageButtons::YesNo, 2});
@@ -276,9 +260,8 @@ void frmCopyMove::RemoveFolder(const Text& folder) {
     const Text parent = style.DirectoryForChange(style.FolderPart(folder));
     app_.Files().ChangeDir(parent);
     if (!app_.Files().RemoveDir(folder)) {
-        app_.Messages().Show(
-            Refusal(u"There was an error attempting to remove the following directory.\r\n\r\n" + folder +
-                    u"\r\n\r\nMaybe it is not a terminal node in the drive tree ?"));
+        Warn(app_, u"There was an error attempting to remove the following directory.\r\n\r\n" + folder +
+                       u"\r\n\r\nMaybe it is not a terminal node in the drive tree ?");
     }
     ShowFolder(parent);
 }

@@ -11,8 +11,6 @@
 #include "files/jobs/CopyMoveRun.h"
 #include "files/tree/FolderTree.h"
 
-#include <string_view>
-
 namespace korvane {
 
 class App;
@@ -37,7 +35,8 @@ public:
     CheckBox chkUpdateOnly{*this, "chkUpdateOnly", u"Only copy newer files or those not on target"};
     Panel frmCopying{*this, "frmCopying"};
     CommandButton cmdOk{*this, "cmdOk", u"Proceed"};
-    CommandButton cmdCancel{*this, "cmdCancel"};
+    /// Shown while a job runs.
+    CommandButton cmdCancel{*this, "cmdCancel", u"Escape = Stop"};
 
     void Load() override;
     bool QueryUnload() override;
@@ -46,12 +45,7 @@ public:
     void KeyDown(KeyEvent& key) override;
 
 private:
-    using Handler = void (frmCopyMove::*)();
-    struct Command {
-        std::string_view entry;
-        Handler run;
-    };
-    static const Command kCommands[];
+    struct Tables;
 
     void Wire();
     void Place();
@@ -63,9 +57,9 @@ private:
     void Run();
     void SetRunning(bool running);
     void ReportEnd();
-    void Stop(KeyEvent& key);
+    void Stop();
+    void txtTargetName_KeyDown(KeyEvent& key);
 
-    void CloseWindow() { Close(); }
     void NewFolder();
     void DeleteFolder();
     void RemoveFolder(const Text& folder);
