@@ -88,8 +88,8 @@ int LaunchProgram(App& app, TextView program, TextView argument) {
                            WindowState::Normal);
 }
 
-int StartProgram(App& app, TextView program) {
-    return app.Shell().Run(ThatFile(app.Files(), Text(program)), {}, WindowState::Normal);
+int StartProgram(App& app, TextView program, const std::vector<Text>& arguments) {
+    return app.Shell().Run(ThatFile(app.Files(), Text(program)), arguments, WindowState::Normal);
 }
 
 Text FindOfficeProgram(const App& app, TextView name) {

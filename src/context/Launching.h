@@ -2,6 +2,8 @@
 
 #include "common/text/Text.h"
 
+#include <vector>
+
 namespace korvane {
 
 class App;
@@ -14,8 +16,9 @@ class App;
 /// without a message, when nothing was started.
 int LaunchProgram(App& app, TextView program, TextView argument = {});
 
-/// Starts a program that is there in a normal window, without looking for it anywhere else.
-int StartProgram(App& app, TextView program);
+/// Starts a program that is there in a normal window, without looking for it anywhere else; each argument
+/// reaches it as one word.
+int StartProgram(App& app, TextView program, const std::vector<Text>& arguments = {});
 
 /// The argument as `LaunchProgram` takes it: without its outer characters if it holds a double quote, and
 /// without outer blanks.

@@ -11,6 +11,9 @@ class ListBox : public RowsControl {
 public:
     using RowsControl::RowsControl;
 
+    /// `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
+
     int ListCount() const { return static_cast<int>(items_.size()); }
     /// Empty outside the list.
     Text List(int index) const;

@@ -6,6 +6,8 @@
 #include "dialogs/Questions.h"
 #include "platform/Screen.h"
 
+#include <cmath>
+
 namespace korvane {
 
 namespace {
@@ -57,6 +59,18 @@ void DockRightOf(App& app, const Form& owner, Form& window, Stretch stretch) {
     AlignTo(owner, window);
     window.Left = right;
     if (stretch == Stretch::FillSpace) window.Width = area.width - (right - area.left);
+}
+
+void CentreWithin(const Form& owner, Form& window, int percent) {
+    window.State = FormState::Normal;
+    const auto centre = [percent](Twips ownerStart, Twips ownerLength, Property<Twips>& start,
+                                  Property<Twips>& length) {
+        const double exact = ownerLength.Number() * percent / 100.0;
+        length = Twips{static_cast<int>(std::lround(exact))};
+        start = ownerStart + static_cast<int>(std::lround((ownerLength.Number() - exact) / 2));
+    };
+    centre(owner.Left, owner.Width, window.Left, window.Width);
+    centre(owner.Top, owner.Height, window.Top, window.Height);
 }
 
 bool DockByKey(App& app, const Form& owner, Form& window, KeyEvent& key) {

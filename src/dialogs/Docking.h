@@ -17,6 +17,9 @@ enum class Stretch : std::uint8_t { KeepWidth, FillSpace };
 void DockLeftOf(App& app, const Form& owner, Form& window, Stretch stretch);
 void DockRightOf(App& app, const Form& owner, Form& window, Stretch stretch);
 
+/// Gives the window this share of the owner's size and centres it within the owner.
+void CentreWithin(const Form& owner, Form& window, int percent);
+
 /// Docks the window by the keys that list windows share. Ctrl+L and Ctrl+R, also with Alt, fill the space;
 /// with Shift the window keeps its width. Returns whether the key was one of these, which is consumed then.
 bool DockByKey(App& app, const Form& owner, Form& window, KeyEvent& key);

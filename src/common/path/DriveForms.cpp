@@ -70,6 +70,18 @@ Text FirstDriveWithPath(TextView tail, const PathQuestion& fileExists) {
     return path;
 }
 
+Text OtherProgramForm(const PathStyle& style, TextView program, const PathQuestion& fileExists) {
+    if (!HasOtherForm(style, program)) return Text(program);
+    if (ContainsIgnoringCase(program, kMarker)) return DriveOfMirror(program);
+    const auto mirrorOf = [program](char16_t letter) {
+        return Text(Mid(program, 1, 1)).append(kRootMarker).append(1, letter).append(Mid(program, 3));
+    };
+    char16_t letter = u'C';
+    while (letter != u'Z' && !fileExists(mirrorOf(letter)))
+        ++letter;
+    return mirrorOf(letter);
+}
+
 Text Check3264Dirs(TextView path, TextView programFilesDir) {
     constexpr TextView kFull = u"C:\\Program Files\\";
     constexpr TextView kX86 = u"C:\\Program Files (x86)\\";

@@ -34,6 +34,11 @@ Text SwapDriveForm(const PathStyle& style, TextView path, const PathQuestion& fi
 /// The first of "C" to "Z" before `tail` that names a file; the one with "Z" when none does.
 Text FirstDriveWithPath(TextView tail, const PathQuestion& fileExists);
 
+/// The other form of a program of the user's list; the program itself when it has none. A mirror gives its
+/// drive. For a path on a drive it is the first of that drive's own mirrors of "C" to "Z" that is a file, and
+/// the one of "Z" when none is. Kept for compatibility: mirrors-of-own-drive.
+Text OtherProgramForm(const PathStyle& style, TextView program, const PathQuestion& fileExists);
+
 /// Moves a path in "C:\Program Files\" to "C:\Program Files (x86)\". Any other path is moved back when
 /// `programFilesDir`, the system's folder of programs, contains "C:\Program Files (x86)\"; the path itself
 /// isn't tested for that.

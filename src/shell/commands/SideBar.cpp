@@ -8,21 +8,16 @@
 #include "shell/commands/MainRoutines.h"
 
 #include <array>
+#include <vector>
 
 namespace korvane {
 
 namespace {
 
-constexpr Col kOnlyColumn{1};
 constexpr int kColumnWidth = 146;
 constexpr int kRowHeight = 64;
 /// The panel is this much wider than the grid in it.
 constexpr int kPanelMargin = 80;
-
-constexpr Colour kBlack{0};
-constexpr Colour kWhite{0xFFFFFF};
-constexpr Colour kHighlightUnderPointer{16252927};
-constexpr Colour kHighlight{10327187};
 
 constexpr std::array<Twips, SideBar::kWidthSteps> kWidths{Twips{kColumnWidth * kTwipsPerPixel},
                                                           Twips{2000},
@@ -39,39 +34,28 @@ struct SideBar::Tables {
     static constexpr WindowKey<SideBar> kKeys[] = {
         {"Ctrl+Alt+S", &SideBar::SwitchFocus},
         {"Alt+X", &SideBar::SwitchFocus},
-        {"Any+Space", &SideBar::RunCurrentRow},
-        {"Any+Return", &SideBar::RunCurrentRow},
     };
 };
 
 SideBar::SideBar(App& app, const Place& place, RunCommand run)
-    : app_(app), place_(place), run_(std::move(run)) {
-    place_.grid.CellClick = [this](Row row, Col) { RunRow(row); };
-    place_.grid.KeyDown = KeysOf(*this, Tables::kKeys);
-    place_.grid.Hover = [this](bool over) { Hover(over); };
+    : app_(app),
+      place_(place),
+      run_(std::move(run)),
+      bar_(place_.grid, [this](int index) { RunRow(index); }) {
+    place_.grid.KeyDown = [this](KeyEvent& key) {
+        if (!RunKey(Tables::kKeys, *this, key)) bar_.KeyDown(key);
+    };
 }
 
 void SideBar::BuildSideBar() {
     const FileSystem& files = app_.Files();
     place_.grid.HandImage = files.Style().JoinPath(files.ProgramDir(), u"HandOpen.ico");
-    Grid& store = place_.grid.Store();
-    store.AddCol(u"1no", u"");
-    store.SetColWidth(kOnlyColumn, kColumnWidth);
-    store.SetRowCount(Row{static_cast<int>(SideBarRows().size())});
-    Row row{1};
-    for (const SideBarRow& entry : SideBarRows()) {
-        store.SetRowHeight(row, kRowHeight);
-        store.SetCellValue(row, kOnlyColumn, entry.text);
-        ++row;
-    }
+    std::vector<Text> captions;
+    for (const SideBarRow& row : SideBarRows())
+        captions.emplace_back(row.text);
     const Settings& settings = app_.Settings;
-    if (!settings.SideBarFontName.empty() && settings.SideBarFontSize > 0) {
-        place_.grid.Font =
-            FontSpec{settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0};
-    }
-    store.SetGridVisible(true);
-    Hover(false);
-    SelectRow(Row{1});
+    const FontSpec font{settings.SideBarFontName, settings.SideBarFontSize, settings.SideBarFontBold != 0};
+    bar_.Build(captions, kColumnWidth, kRowHeight, font);
 }
 
 void SideBar::Arrange() {
@@ -93,9 +77,7 @@ void SideBar::SetWidth(Twips width) {
 }
 
 void SideBar::TakeFocus() {
-    if (!place_.panel.Visible) return;
-    SelectRow(place_.grid.Store().CurRow());
-    place_.grid.Store().GridSetFocus();
+    if (place_.panel.Visible) bar_.TakeFocus();
 }
 
 Twips SideBar::WidthOfStep(int step) {
@@ -103,29 +85,12 @@ Twips SideBar::WidthOfStep(int step) {
     return kWidths[known ? static_cast<std::size_t>(step) : 0];
 }
 
-void SideBar::RunRow(Row row) {
-    if (!place_.grid.Store().HasRow(row)) return;
-    run_(SideBarRows()[static_cast<std::size_t>(row.Number() - 1)].command.calls);
-    SelectRow(row);
-}
-
-void SideBar::RunCurrentRow() {
-    RunRow(place_.grid.Store().CurRow());
-}
-
-void SideBar::SelectRow(Row row) {
-    place_.grid.Store().SetCurRow(row);
-    place_.grid.Store().SetCurCol(kOnlyColumn);
+void SideBar::RunRow(int index) {
+    run_(SideBarRows()[static_cast<std::size_t>(index)].command.calls);
 }
 
 void SideBar::SwitchFocus() {
     run_(&mnuSwitchFocus_Click);
-}
-
-void SideBar::Hover(bool over) {
-    place_.grid.MousePointer = over ? Pointer::Hand : Pointer::Default;
-    place_.grid.HighlightBackColor = over ? kHighlightUnderPointer : kHighlight;
-    place_.grid.HighlightForeColor = over ? kBlack : kWhite;
 }
 
 } // namespace korvane

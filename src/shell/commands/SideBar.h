@@ -2,6 +2,7 @@
 
 #include "common/number/Units.h"
 #include "controls/GridBox.h"
+#include "dialogs/CommandBar.h"
 #include "shell/commands/CommandCall.h"
 
 #include <cstdint>
@@ -48,15 +49,13 @@ private:
     struct Tables;
 
     void SetWidth(Twips width);
-    void RunRow(Row row);
-    void RunCurrentRow();
-    void SelectRow(Row row);
+    void RunRow(int index);
     void SwitchFocus();
-    void Hover(bool over);
 
     App& app_;
     Place place_;
     RunCommand run_;
+    CommandBar bar_;
 };
 
 } // namespace korvane

@@ -2,9 +2,9 @@
 
 #include "context/App.h"
 #include "context/Launching.h"
+#include "context/ProgramPicker.h"
 #include "dialogs/Questions.h"
 #include "platform/FileSystem.h"
-#include "shell/settings/ProgramPicker.h"
 
 namespace korvane {
 

@@ -2,10 +2,10 @@
 
 #include "context/App.h"
 #include "context/FileChooser.h"
+#include "context/ProgramPicker.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/SystemFileDialog.h"
 #include "platform/FileSystem.h"
-#include "shell/settings/ProgramPicker.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"
 #include "shell/tabs/Tabs.h"

@@ -110,5 +110,18 @@ TEST_F(DockingTest, OtherKeysAreLeftAlone) {
     EXPECT_EQ(PlaceOf(window), kBefore);
 }
 
+TEST_F(DockingTest, CentresAWindowWithinTheMainOne) {
+    window.State = FormState::Maximised;
+    CentreWithin(owner, window, 90);
+    EXPECT_EQ(window.State.Get(), FormState::Normal);
+    EXPECT_EQ(PlaceOf(window), MakeRect(7150, 1150, 13500, 8100));
+}
+
+TEST_F(DockingTest, ACentredWindowStandsAtTheNearestWholePlace) {
+    PutAt(owner, MakeRect(0, 0, 1001, 1003));
+    CentreWithin(owner, window, 95);
+    EXPECT_EQ(PlaceOf(window), MakeRect(25, 25, 951, 953));
+}
+
 } // namespace
 } // namespace korvane

@@ -1,6 +1,10 @@
 #include "platform/qt/lists/ListBoxAdaptor.h"
 
+#include "platform/qt/base/BackColour.h"
+#include "platform/qt/base/Contrast.h"
 #include "platform/qt/lists/ListBoxModel.h"
+
+#include <QApplication>
 
 namespace korvane {
 
@@ -9,6 +13,12 @@ ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget)
       list_(list),
       widget_(widget) {
     widget.setUniformItemSizes(true);
+}
+
+void ListBoxAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Colours)
+        WriteBackColour(widget_, ChosenBack(list_.BackColor, QApplication::palette()), kFieldSurface);
+    RowsAdaptor::Write(aspect);
 }
 
 bool ListBoxAdaptor::TakesSeveral() const {

@@ -14,6 +14,7 @@ public:
     ListBoxAdaptor(ListBox& list, QListView& widget);
 
 protected:
+    void Write(Aspect aspect) override;
     int CurrentRow() const override { return list_.ListIndex(); }
     bool Picked(int row) const override;
     void Pick(int row, bool picked) override;

@@ -175,6 +175,33 @@ TEST(HasWindowsForm, WantsADriveRootOrTheMirrorsMark) {
     EXPECT_FALSE(HasWindowsForm(u""));
 }
 
+TEST(OtherProgramForm, TurnsTheMirrorIntoTheDriveUntested) {
+    EXPECT_EQ(OtherProgramForm(kWindows, u"C:\\Drive_G\\Tools\\a.exe", kNothing), u"G:\\Tools\\a.exe");
+}
+
+// Kept for compatibility: mirrors-of-own-drive.
+TEST(OtherProgramForm, LooksForTheMirrorsOnThePathsOwnDrive) {
+    const Text mirror = u"D:\\Drive_K\\Tools\\a.exe";
+    EXPECT_EQ(OtherProgramForm(kWindows, u"D:\\Tools\\a.exe", Only({mirror, u"D:\\Drive_L\\Tools\\a.exe"})),
+              mirror);
+}
+
+TEST(OtherProgramForm, TriesTheLettersFromCToZAndReturnsTheLast) {
+    std::vector<Text> asked;
+    const PathQuestion note = [&asked](TextView path) {
+        asked.emplace_back(path);
+        return false;
+    };
+    EXPECT_EQ(OtherProgramForm(kWindows, u"D:\\a.exe", note), u"D:\\Drive_Z\\a.exe");
+    EXPECT_EQ(asked.front(), u"D:\\Drive_C\\a.exe");
+    EXPECT_EQ(asked.size(), 23U);
+}
+
+TEST(OtherProgramForm, OnPosixLeavesAPathWithoutAWindowsForm) {
+    EXPECT_EQ(OtherProgramForm(kPosix, u"/mnt/Drive_x/a", kNothing), u"/mnt/Drive_x/a");
+    EXPECT_EQ(OtherProgramForm(kPosix, u"", kNothing), u"");
+}
+
 TEST(Check3264Dirs, MovesAPathToTheOtherFolderOfPrograms) {
     EXPECT_EQ(Check3264Dirs(u"C:\\Program Files\\A\\a.exe", u"C:\\Program Files\\"),
               u"C:\\Program Files (x86)\\A\\a.exe");

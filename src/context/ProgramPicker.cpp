@@ -1,4 +1,4 @@
-#include "shell/settings/ProgramPicker.h"
+#include "context/ProgramPicker.h"
 
 #include "context/App.h"
 #include "context/FileChooser.h"
