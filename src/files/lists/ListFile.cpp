@@ -1,0 +1,70 @@
+#include "files/lists/ListFile.h"
+
+#include "common/text/CodePage.h"
+#include "common/text/Lines.h"
+#include "context/App.h"
+#include "context/StandardMessages.h"
+#include "platform/FileSystem.h"
+
+#include <string>
+
+namespace korvane {
+
+namespace {
+
+// Some ten thousand folders.
+constexpr std::int64_t kLargestList = 1'000'000;
+
+std::string BytesOf(const std::vector<Text>& lines, const CodePage& page) {
+    std::string bytes;
+    for (const Text& line : lines)
+        bytes += page.ToBytes(line) + "\r\n";
+    return bytes;
+}
+
+bool PutBytes(FileSystem& files, TextView path, std::string_view bytes) {
+    const auto file = files.OpenRaw(path);
+    if (file == nullptr) return false;
+    const bool written = file->Write(bytes);
+    return file->Close() && written;
+}
+
+/// A copy, which outlives the file.
+std::optional<std::string> Contents(FileSystem& files, TextView path) {
+    const auto bytes = files.ReadAll(path);
+    return bytes ? std::optional(std::string(bytes->View())) : std::nullopt;
+}
+
+bool CanBeList(std::string_view bytes) {
+    return bytes.find('\0') == std::string_view::npos;
+}
+
+} // namespace
+
+std::vector<Text> LinesOfList(std::string_view bytes, const CodePage& page) {
+    std::vector<Text> lines;
+    LineReader reader(bytes, LineEnds::CrLfOrCrOrLf);
+    for (std::string_view line; reader.Next(line);)
+        lines.push_back(page.ToText(line));
+    return lines;
+}
+
+std::optional<std::vector<Text>> ReadListFile(App& app, TextView path) {
+    FileSystem& files = app.Files();
+    if (files.Size(path).value_or(0) > kLargestList) return std::nullopt;
+    const auto bytes = files.ReadAll(path);
+    if (!bytes || !CanBeList(bytes->View())) return std::nullopt;
+    return LinesOfList(bytes->View(), app.Page());
+}
+
+bool WriteListFile(App& app, TextView path, const std::vector<Text>& lines) {
+    FileSystem& files = app.Files();
+    const auto old = files.FileExists(path) ? Contents(files, path) : std::nullopt;
+    const bool removed = files.FileExists(path) && files.Remove(path);
+    if (PutBytes(files, path, BytesOf(lines, app.Page()))) return true;
+    ShowCannotAccess(app, path);
+    if (removed && old) PutBytes(files, path, *old);
+    return false;
+}
+
+} // namespace korvane
