@@ -6,7 +6,9 @@
 #include "context/ports/FilePicker.h"
 #include "context/ports/FileViewer.h"
 #include "context/ports/FontPicker.h"
+#include "context/ports/PageViewer.h"
 #include "context/ports/SystemFileDialog.h"
+#include "context/ports/TextFileViewer.h"
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
@@ -52,7 +54,10 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<ColourPicker>(&colourPicker_);
-    app_.SetPort<FileViewer>(&fileViewer_);
+    app_.SetPort<FileViewer>(&fileHandling_);
+    // As long as the program has no windows of its own for them.
+    app_.SetPort<TextFileViewer>(&desktopViewer_);
+    app_.SetPort<PageViewer>(&desktopViewer_);
 }
 
 int Program::Run(const Text& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context/App.h"
+#include "files/lists/FileHandling.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
@@ -46,7 +47,8 @@ private:
     QtColourPicker colourPicker_;
     App app_;
     ClipboardWindow clipboardWindow_{app_};
-    DesktopFileViewer fileViewer_{app_};
+    FileHandling fileHandling_{app_};
+    DesktopFileViewer desktopViewer_{app_};
 };
 
 } // namespace korvane

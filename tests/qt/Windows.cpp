@@ -11,6 +11,10 @@
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
 #include "files/jobs/frmFolderOpNotify.h"
+#include "files/lists/frmFavouriteLocations.h"
+#include "files/lists/frmFindStingInList.h"
+#include "files/lists/frmFoldersToday.h"
+#include "files/lists/frmOpenFileWith.h"
 #include "files/names/frmDupFile.h"
 #include "files/names/frmEnterFileName.h"
 #include "files/names/frmNewDir.h"
@@ -57,6 +61,10 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmEnterFileName>(all.app, all.nameLine);
      }},
+    {"frmFavouriteLocations",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFavouriteLocations>(all.app, all.main, u"C:\\data");
+     }},
     {"frmFileList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFileList>(all.app, all.main.Parts().recents, all.main);
@@ -70,6 +78,14 @@ constexpr Window kWindows[] = {
          auto form = std::make_unique<frmFolderOpNotify>(all.app);
          form->TellOfDeletion(u"C:\\data\\Old letters");
          return form;
+     }},
+    {"frmFindStingInList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFindStingInList>(all.app, u"garden");
+     }},
+    {"frmFoldersToday",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmFoldersToday>(all.app, u"C:\\data");
      }},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -86,6 +102,7 @@ constexpr Window kWindows[] = {
     {"frmMyInputBox", FromApp<frmMyInputBox>},
     {"frmMyMsgBox", FromApp<frmMyMsgBox>},
     {"frmNewDir", FromApp<frmNewDir>},
+    {"frmOpenFileWith", FromApp<frmOpenFileWith>},
     {"frmProgramLocations", FromApp<frmProgramLocations>},
     {"frmRenDir", FromApp<frmRenDir>},
     {"frmRenFile", FromApp<frmRenFile>},

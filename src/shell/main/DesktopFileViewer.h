@@ -1,19 +1,19 @@
 #pragma once
 
-#include "context/ports/FileViewer.h"
+#include "context/ports/PageViewer.h"
+#include "context/ports/TextFileViewer.h"
 
 namespace korvane {
 
 class App;
 
-/// Shows files in the desktop's own programs, without waiting for these to close.
-class DesktopFileViewer final : public FileViewer {
+/// Shows texts and pages in the desktop's own programs, without waiting for these to close.
+class DesktopFileViewer final : public TextFileViewer, public PageViewer {
 public:
     /// The App outlives the viewer.
     explicit DesktopFileViewer(App& app) : app_(app) {}
 
     void View(TextView path) override;
-    void OpenWith(TextView path) override;
 
 private:
     App& app_;

@@ -6,6 +6,7 @@
 #include "context/exchange/InputQuestion.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/exchange/MessageQuestion.h"
+#include "context/exchange/OpenWithRequest.h"
 #include "platform/qt/services/QtScreen.h"
 #include "table/TableFile.h"
 
@@ -60,8 +61,30 @@ void Stage::FillFiles() {
         outside_.files.AddFile(InData(name), BytesOf(tree / "samples" / fs::path(name)));
 }
 
+void Stage::FillLists() {
+    outside_.files.AddFile(u"C:\\Program Files\\LibreOffice\\program\\swriter.exe");
+    outside_.files.AddFile(u"C:\\Program Files\\Gimp\\bin\\gimp.exe");
+    outside_.files.AddFile(InData(u"programs.lst"),
+                           "swriter.exe\r\nC:\\Program Files\\LibreOffice\\program\\\r\n"
+                           "gimp.exe\r\nC:\\Program Files\\Gimp\\bin\\\r\n"
+                           "WINWORD.EXE\r\nC:\\Program Files (x86)\\Microsoft Office\\OFFICE11\\\r\n"
+                           "rundll32.exe\r\nshimgvw.dll,ImageView_Fullscreen\r\n");
+    app_.Settings.OpenWithListFile = InData(u"programs.lst");
+    constexpr std::string_view kFolders =
+        "C:\\data\r\nC:\\data\\Letters\r\n\r\n\x97\x97\x97  Work  \x97\x97\x97\r\n"
+        "C:\\data\\Work\\Accounts\r\nC:\\data\\Work\\Minutes\r\n";
+    for (const TextView folder : {u"Letters", u"Work\\Accounts", u"Work\\Minutes"})
+        outside_.files.AddDir(InData(folder));
+    const PathStyle style = outside_.files.Style();
+    outside_.files.AddFile(style.JoinPath(outside_.files.StateDir(), u"FavouriteLocations.lst"), kFolders);
+    outside_.files.AddFile(InData(u"work.lst"), kFolders);
+    app_.Settings.FoldersFile = InData(u"work.lst");
+}
+
 void Stage::FillRequests() {
     const Text path = InData(kSamples[0]);
+    FillLists();
+    app_.Exchange<OpenWithRequest>().ViewWithFile = path;
     outside_.clipboard.SetText(u"Title\tAuthor\tYear\r\nThe garden of letters\tMarie Brook\t1987\r\n"
                                u"Notes on a river\tH. Lindqvist\t2004\r\n");
     outside_.files.ChangeDir(u"C:\\data");

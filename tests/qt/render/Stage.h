@@ -22,6 +22,7 @@ public:
 
 private:
     void FillFiles();
+    void FillLists();
     void FillRequests();
 
     TestApp outside_;

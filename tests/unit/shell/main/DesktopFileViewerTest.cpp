@@ -18,17 +18,9 @@ TEST_F(DesktopFileViewerTest, OpensAFileInTheDesktopsOwnProgram) {
     EXPECT_EQ(p.shell.Opened(), (std::vector<OpenRequest>{{.file = u"C:\\data\\a b.txt"}}));
 }
 
-TEST_F(DesktopFileViewerTest, OpensAFileInAProgramOfTheUsersChoice) {
-    p.user.ChooseFile(u"C:\\tools\\edit.exe");
-    viewer.OpenWith(u"C:\\data\\a b.txt");
-    EXPECT_EQ(p.shell.Starts(),
-              (std::vector<ProgramStart>{{u"C:\\tools\\edit.exe", {u"C:\\data\\a b.txt"}}}));
-}
-
-TEST_F(DesktopFileViewerTest, StartsNothingWhenNoProgramIsChosen) {
-    p.user.CancelChooser();
-    viewer.OpenWith(u"C:\\data\\a b.txt");
-    EXPECT_TRUE(p.shell.Starts().empty());
+TEST_F(DesktopFileViewerTest, OpensNothingForAPageWithoutAnAddress) {
+    viewer.View(u"");
+    EXPECT_TRUE(p.shell.Opened().empty());
 }
 
 } // namespace
