@@ -192,6 +192,20 @@ TEST_F(TreesTest, StaysWhereItIsScrolledToWhenNodesChangeComeOrGo) {
     EXPECT_EQ(View().currentIndex(), At(0));
 }
 
+TEST_F(TreesTest, StaysWhereItIsScrolledToWhenTheSelectedNodeGoes) {
+    for (int number = 1; number <= 100; ++number)
+        tree.Add(u"root", NumberText(number), NumberText(number));
+    tree.SetExpanded(u"root", true);
+    tree.Select(u"90");
+    test::Settle();
+    QScrollBar& bar = *View().verticalScrollBar();
+    bar.setValue(5);
+    tree.Remove(u"90");
+    EXPECT_EQ(bar.value(), 5);
+    test::Settle();
+    EXPECT_EQ(bar.value(), 5);
+}
+
 TEST_F(TreesTest, ANodeShowsWhetherItIsOpen) {
     tree.SetExpanded(u"root", true);
     tree.Select(u"a");

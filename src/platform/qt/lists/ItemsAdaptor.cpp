@@ -22,11 +22,7 @@ void ItemsAdaptor::Flush() {
     const auto guard = Writing();
     if (std::exchange(heldBack_, false)) {
         overtaken_ = false;
-        // Otherwise the view scrolls to whatever becomes the current row.
-        const bool scrolls = view_.hasAutoScroll();
-        view_.setAutoScroll(false);
-        WriteHeldBack();
-        view_.setAutoScroll(scrolls);
+        WithoutScrolling([this] { WriteHeldBack(); });
     }
     if (!scrollHeldBack_ || !view_.isVisible()) return;
     scrollHeldBack_ = false;

@@ -21,6 +21,14 @@ protected:
     virtual void WriteHeldBack() = 0;
     virtual void ScrollToWanted() = 0;
     void Flush();
+    /// Does what may make another row the current one. By itself the view would scroll to that row.
+    template <class Work>
+    void WithoutScrolling(const Work& work) {
+        const bool scrolls = view_.hasAutoScroll();
+        view_.setAutoScroll(false);
+        work();
+        view_.setAutoScroll(scrolls);
+    }
 
     /// Whether a signal of the view comes from the user.
     bool ByUser() const { return !writing_ && !overtaken_ && Attached(); }

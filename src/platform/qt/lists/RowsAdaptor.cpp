@@ -104,8 +104,19 @@ void RowsAdaptor::WriteChange() {
 }
 
 void RowsAdaptor::WriteTexts() {
-    const int last = std::min(std::exchange(lastChanged_, -1), model_.rowCount() - 1);
-    if (firstChanged_ <= last) model_.TellChanged(firstChanged_, last);
+    if (lastChanged_ < 0) return;
+    // All rows are equally high, and the view asks for the others when they come into view.
+    const auto [firstShown, lastShown] = RowsInView();
+    const int first = std::max(firstChanged_, firstShown);
+    const int last = std::min(std::exchange(lastChanged_, -1), lastShown);
+    if (first <= last) model_.TellChanged(first, last);
+}
+
+std::pair<int, int> RowsAdaptor::RowsInView() const {
+    const QRect area = view_.viewport()->rect();
+    const QModelIndex top = view_.indexAt(area.topLeft());
+    const QModelIndex bottom = view_.indexAt(area.bottomLeft());
+    return {std::max(top.row(), 0), bottom.isValid() ? bottom.row() : model_.rowCount() - 1};
 }
 
 void RowsAdaptor::WritePicks() {

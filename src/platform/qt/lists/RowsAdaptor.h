@@ -5,6 +5,7 @@
 #include "platform/qt/lists/RowsModel.h"
 
 #include <QItemSelection>
+#include <utility>
 #include <vector>
 
 namespace korvane {
@@ -54,6 +55,8 @@ private:
     void WriteTexts();
     void WritePicks();
     void WriteCurrent();
+    /// The first and the last of them.
+    std::pair<int, int> RowsInView() const;
     QItemSelection PickedRanges() const;
     /// For each row whether the view shows it as picked.
     std::vector<bool> ShownPicks() const;

@@ -35,6 +35,12 @@ int RowsModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : rows_;
 }
 
+QModelIndex RowsModel::index(int row, int column, const QModelIndex& parent) const {
+    const bool isThere =
+        row >= 0 && row < rows_ && column >= 0 && column < columnCount() && !parent.isValid();
+    return isThere ? createIndex(row, column) : QModelIndex();
+}
+
 bool RowsModel::Holds(const QModelIndex& index) const {
     return attached_ && index.isValid() && index.row() < ControlRows();
 }

@@ -21,6 +21,8 @@ public:
     void Forget();
 
     int rowCount(const QModelIndex& parent = {}) const override;
+    /// Asked for each row whenever a view lays its rows out: it makes do without a second question.
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
 
 protected:
     bool Attached() const { return attached_; }

@@ -77,7 +77,7 @@ void TreeViewAdaptor::NodeAdded() {
 
 void TreeViewAdaptor::NodeRemoving(const TreeNode& node) {
     const auto guard = Writing();
-    model_.TellRemoving(node);
+    WithoutScrolling([&] { model_.TellRemoving(node); });
 }
 
 void TreeViewAdaptor::NodeRemoved() {
