@@ -16,7 +16,7 @@ std::uint32_t ListRows::FreePlace() {
 
 void ListRows::Insert(int at, const ListRow& row) {
     const std::uint32_t place = FreePlace();
-    order_.insert(order_.begin() + at, place);
+    order_.Insert(at, place);
     Fill(held_[place], row);
 }
 
@@ -35,8 +35,7 @@ void ListRows::Fill(Held& held, const ListRow& row) {
 void ListRows::Remove(int at) {
     SetSelected(at, false);
     At(at) = {};
-    free_.push_back(order_[static_cast<std::size_t>(at)]);
-    order_.erase(order_.begin() + at);
+    free_.push_back(order_.Take(at));
 }
 
 void ListRows::Clear() {
@@ -45,9 +44,8 @@ void ListRows::Clear() {
 
 void ListRows::Reorder(const std::vector<int>& order) {
     std::vector<std::uint32_t> ordered(order.size());
-    std::transform(order.begin(), order.end(), ordered.begin(),
-                   [this](int from) { return order_[static_cast<std::size_t>(from)]; });
-    order_ = std::move(ordered);
+    std::transform(order.begin(), order.end(), ordered.begin(), [this](int from) { return order_[from]; });
+    order_.Assign(ordered);
 }
 
 ListRow ListRows::RowAt(int at) const {

@@ -3,6 +3,7 @@
 #include "controls/ListRow.h"
 #include "controls/NameNumbers.h"
 #include "controls/PackedTexts.h"
+#include "controls/PlaceOrder.h"
 
 #include <cstdint>
 #include <vector>
@@ -13,7 +14,7 @@ namespace korvane {
 /// sorted stays where it is in memory: only the order of the rows, four bytes for each, is written anew.
 class ListRows {
 public:
-    int Count() const { return static_cast<int>(order_.size()); }
+    int Count() const { return order_.Size(); }
     void Insert(int at, const ListRow& row);
     void Write(int at, const ListRow& row);
     void Remove(int at);
@@ -47,14 +48,14 @@ private:
         bool selected = false;
     };
 
-    const Held& At(int at) const { return held_[order_[static_cast<std::size_t>(at)]]; }
-    Held& At(int at) { return held_[order_[static_cast<std::size_t>(at)]]; }
+    const Held& At(int at) const { return held_[order_[at]]; }
+    Held& At(int at) { return held_[order_[at]]; }
     std::uint32_t FreePlace();
     void Fill(Held& held, const ListRow& row);
 
     std::vector<Held> held_;
     /// Which of `held_` stands in each row, and which of them are free.
-    std::vector<std::uint32_t> order_;
+    PlaceOrder order_;
     std::vector<std::uint32_t> free_;
     NameNumbers icons_;
     int selectedCount_ = 0;
