@@ -25,6 +25,12 @@ public:
     virtual bool Close() = 0;
 };
 
+/// A lock on a file, held until the object or the process ends.
+class FileLock {
+public:
+    virtual ~FileLock() = default;
+};
+
 /// A drive, or the one root on a disk without drives.
 struct Drive {
     /// Its topmost folder: "C:\\", "/".
@@ -81,11 +87,20 @@ public:
     virtual bool HasFolders(TextView /*folder*/) const { return false; }
     virtual std::vector<Drive> Drives() const { return {}; }
     virtual bool MakeDir(TextView /*path*/) { return false; }
+    /// Makes a folder that only the user may enter. On a disk that doesn't know owners it is `MakeDir`.
+    virtual bool MakePrivateDir(TextView path) { return MakeDir(path); }
     /// Takes away a folder in which nothing is.
     virtual bool RemoveDir(TextView /*path*/) { return false; }
     /// Gives a file, folder or link another name, in another folder too. Nothing is replaced, and nothing
     /// goes to another volume.
     virtual bool Rename(TextView /*from*/, TextView /*to*/) { return false; }
+    /// Gives a plain file a second name on the same volume. The file stays as long as it has one of them.
+    virtual bool Link(TextView /*from*/, TextView /*to*/) { return false; }
+    /// Returns when what was written to the file is safe on the disk; false when it isn't.
+    virtual bool Flush(TextView /*path*/) { return false; }
+    /// Locks a file, which is made for its owner alone when it is missing. nullptr while anybody has it
+    /// locked.
+    virtual std::unique_ptr<FileLock> Lock(TextView /*path*/) { return nullptr; }
     /// Whether both paths lead to one file or folder that is there.
     virtual bool IsSame(TextView /*a*/, TextView /*b*/) const { return false; }
     virtual bool IsLink(TextView /*path*/) const { return false; }

@@ -18,6 +18,8 @@ enum class FileStep : std::uint8_t {
     Rename,
     MakeDir,
     RemoveDir,
+    Link,
+    Flush,
 };
 
 /// Failures that a test orders. Each happens once.

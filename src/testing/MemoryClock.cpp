@@ -14,7 +14,12 @@ DateTime MemoryClock::Now() const {
 
 void MemoryClock::Wait(milliseconds time) {
     waits_.push_back(time);
+    Pass(time);
+}
+
+void MemoryClock::Pass(milliseconds time) {
     now_ += time;
+    uptime_ += time;
 }
 
 void MemoryClock::Set(const DateTime& now) {

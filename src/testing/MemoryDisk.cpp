@@ -1,6 +1,7 @@
 #include "testing/MemoryDisk.h"
 
 #include <algorithm>
+#include <set>
 
 namespace korvane {
 
@@ -37,10 +38,12 @@ std::vector<Text> WithoutSteppingUp(const std::vector<Text>& names) {
     return plain;
 }
 
-std::int64_t BytesBelow(const MemoryNode& node) {
+/// A file with several names takes its room once, so the nodes that were counted are noted.
+std::int64_t BytesBelow(const MemoryNode& node, std::set<const MemoryNode*>& counted) {
+    if (!counted.insert(&node).second) return 0;
     auto bytes = static_cast<std::int64_t>(node.bytes.size());
-    for (const auto& [name, child] : node.children)
-        bytes += BytesBelow(*child);
+    for (const auto& [key, child] : node.children)
+        bytes += BytesBelow(*child.node, counted);
     return bytes;
 }
 
@@ -48,7 +51,8 @@ std::int64_t BytesBelow(const MemoryNode& node) {
 
 std::optional<std::int64_t> MemoryVolume::Room() const {
     if (!quota) return freeBytes;
-    const std::int64_t left = std::max<std::int64_t>(*quota - BytesBelow(*root), 0);
+    std::set<const MemoryNode*> counted;
+    const std::int64_t left = std::max<std::int64_t>(*quota - BytesBelow(*root, counted), 0);
     return std::min(left, freeBytes.value_or(left));
 }
 
@@ -80,7 +84,7 @@ MemoryDisk::Place MemoryDisk::Walk(const SplitPath& path, LastLink lastLink) {
         }
         const auto folder = trail.back();
         const auto found = folder->children.find(style_.FoldedName(name));
-        const auto node = found == folder->children.end() ? nullptr : found->second;
+        const auto node = found == folder->children.end() ? nullptr : found->second.node;
         const bool last = pending.empty();
         if (node && node->kind == MemoryNode::Kind::Link && (!last || lastLink == LastLink::Follow)) {
             if (++links > kMostLinks) return {};
@@ -124,8 +128,7 @@ std::shared_ptr<MemoryNode> MemoryDisk::Put(const Place& place, MemoryNode::Kind
 }
 
 void MemoryDisk::PutBack(const Place& place, std::shared_ptr<MemoryNode> node) {
-    node->name = place.name;
-    place.folder->children[style_.FoldedName(place.name)] = std::move(node);
+    place.folder->children[style_.FoldedName(place.name)] = {place.name, std::move(node)};
 }
 
 void MemoryDisk::Erase(const Place& place) {

@@ -19,19 +19,25 @@ namespace korvane {
 struct MemoryNode {
     enum class Kind : std::uint8_t { File, Dir, Link, Pipe };
 
+    /// A node's place in a folder.
+    struct Entry {
+        /// As it was written when the node was put there.
+        Text name;
+        std::shared_ptr<MemoryNode> node;
+    };
+
     Kind kind = Kind::Dir;
-    /// As it was written when the node was made.
-    Text name;
     DateTime modified;
     bool readOnly = false;
-    /// Only its owner may read it.
+    /// Only its owner may read it, or enter it.
     bool isPrivate = false;
+    bool locked = false;
     /// The contents of a file.
     std::string bytes;
     /// The path that a link names; a relative one starts at the link's folder.
     Text target;
     /// The nodes in a folder, by their names as the disk compares them.
-    std::map<Text, std::shared_ptr<MemoryNode>> children;
+    std::map<Text, Entry> children;
 };
 
 /// A drive on Windows, the whole tree elsewhere.

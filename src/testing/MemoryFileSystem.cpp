@@ -41,7 +41,7 @@ bool IsFileLike(const MemoryDisk::Place& place) {
 
 bool Holds(const MemoryNode& folder, const MemoryNode* node) {
     return &folder == node || std::ranges::any_of(folder.children, [node](const auto& child) {
-        return Holds(*child.second, node);
+        return Holds(*child.second.node, node);
     });
 }
 
@@ -85,6 +85,17 @@ private:
     std::shared_ptr<MemoryNode> file_;
     bool open_ = true;
     bool complete_ = true;
+};
+
+class MemoryFileSystem::HeldLock final : public FileLock {
+public:
+    explicit HeldLock(std::shared_ptr<MemoryNode> file) : file_(std::move(file)) { file_->locked = true; }
+    HeldLock(const HeldLock&) = delete;
+    HeldLock& operator=(const HeldLock&) = delete;
+    ~HeldLock() override { file_->locked = false; }
+
+private:
+    std::shared_ptr<MemoryNode> file_;
 };
 
 MemoryFileSystem::MemoryFileSystem(const PathStyle& style, const Clock& clock) : disk_(style), clock_(clock) {
@@ -196,8 +207,8 @@ std::vector<Text> MemoryFileSystem::Names(TextView folder,
     const Place place = Find(folder);
     if (!IsDir(place)) return names;
     for (const auto& [key, child] : place.node->children) {
-        const bool hidden = !Style().HasDrives() && child->name.starts_with(u'.');
-        if (!hidden && wanted(Find(Style().JoinPath(folder, child->name)))) names.push_back(child->name);
+        const bool hidden = !Style().HasDrives() && child.name.starts_with(u'.');
+        if (!hidden && wanted(Find(Style().JoinPath(folder, child.name)))) names.push_back(child.name);
     }
     std::ranges::sort(names, ComesBefore);
     return names;
@@ -235,6 +246,12 @@ bool MemoryFileSystem::MakeDir(TextView path) {
     if (!CanMake(place)) return false;
     disk_.Put(place, MemoryNode::Kind::Dir)->modified = clock_.Now();
     return Succeed();
+}
+
+bool MemoryFileSystem::MakePrivateDir(TextView path) {
+    if (!MakeDir(path)) return false;
+    Find(path).node->isPrivate = true;
+    return true;
 }
 
 bool MemoryFileSystem::RemoveDir(TextView path) {
@@ -276,6 +293,30 @@ bool MemoryFileSystem::RemoveLink(TextView path) {
     if (place.volume->readOnly) return Fail(kReadOnlyDisk);
     disk_.Erase(place);
     return Succeed();
+}
+
+bool MemoryFileSystem::Link(TextView from, TextView to) {
+    if (Strikes(FileStep::Link)) return false;
+    const Place source = Find(from, LastLink::Keep);
+    const Place target = Find(to, LastLink::Keep);
+    if (!source.node) return Fail(kNotFound);
+    if (!IsFile(source)) return Fail(kNotPermitted);
+    if (!CanMake(target)) return false;
+    if (source.volume != target.volume) return Fail(kOtherVolume);
+    disk_.PutBack(target, source.node);
+    return Succeed();
+}
+
+bool MemoryFileSystem::Flush(TextView path) {
+    if (Strikes(FileStep::Flush)) return false;
+    return IsFile(Find(path)) ? Succeed() : Fail(kNotFound);
+}
+
+std::unique_ptr<FileLock> MemoryFileSystem::Lock(TextView path) {
+    if (!FileExists(path) && !OpenPrivate(path)) return nullptr;
+    const auto node = Find(path).node;
+    if (node->locked) return nullptr;
+    return std::make_unique<HeldLock>(node);
 }
 
 CopyOutcome MemoryFileSystem::Copy(TextView from, TextView to, const CopyOptions& options) {
@@ -412,7 +453,7 @@ bool MemoryFileSystem::IsLink(TextView path) const {
 
 bool MemoryFileSystem::IsPrivate(TextView path) const {
     const Place place = Find(path);
-    return IsFile(place) && place.node->isPrivate;
+    return place.node && place.node->isPrivate;
 }
 
 MemoryFileSystem::Place MemoryFileSystem::Find(TextView path, LastLink lastLink) const {

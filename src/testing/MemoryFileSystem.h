@@ -35,6 +35,10 @@ public:
     bool MakeDir(TextView path) override;
     bool RemoveDir(TextView path) override;
     bool Rename(TextView from, TextView to) override;
+    bool MakePrivateDir(TextView path) override;
+    bool Link(TextView from, TextView to) override;
+    bool Flush(TextView path) override;
+    std::unique_ptr<FileLock> Lock(TextView path) override;
     bool IsSame(TextView a, TextView b) const override;
     bool IsLink(TextView path) const override;
     bool RemoveLink(TextView path) override;
@@ -85,11 +89,12 @@ public:
 
     /// The bytes of the file, also through a link; nothing when there is no file.
     std::optional<std::string> Contents(TextView path) const;
-    /// Whether only its owner may read the file.
+    /// Whether only its owner may read the file, or enter the folder.
     bool IsPrivate(TextView path) const;
 
 private:
     class Writer;
+    class HeldLock;
     using Place = MemoryDisk::Place;
 
     Place Find(TextView path, LastLink lastLink = LastLink::Follow) const;

@@ -277,6 +277,62 @@ TYPED_TEST_P(WholeFilesContract, WhatTookTheNameMeanwhileStays) {
     EXPECT_THAT(this->Listing(), testing::ElementsAre(u"long", u"new"));
 }
 
+// Second names and locks.
+
+TYPED_TEST_P(WholeFilesContract, AFileStaysAsLongAsItHasAName) {
+    this->stage.AddFile(u"a.txt", "bytes");
+    EXPECT_TRUE(this->Files().Link(this->At(u"a.txt"), this->At(u"b.txt")));
+    EXPECT_TRUE(this->Files().IsSame(this->At(u"a.txt"), this->At(u"b.txt")));
+    EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt", u"b.txt"));
+    EXPECT_TRUE(this->Files().Remove(this->At(u"a.txt")));
+    this->stage.AddFile(u"a.txt", "others");
+    EXPECT_EQ(this->stage.Contents(u"b.txt"), "bytes");
+    EXPECT_FALSE(this->Files().IsSame(this->At(u"a.txt"), this->At(u"b.txt")));
+}
+
+TYPED_TEST_P(WholeFilesContract, ASecondNameReplacesNothing) {
+    this->stage.AddFile(u"a.txt", "a");
+    this->stage.AddFile(u"b.txt", "b");
+    EXPECT_FALSE(this->Files().Link(this->At(u"a.txt"), this->At(u"b.txt")));
+    EXPECT_NE(this->Files().LastErrorText(), u"");
+    EXPECT_EQ(this->stage.Contents(u"b.txt"), "b");
+}
+
+TYPED_TEST_P(WholeFilesContract, OnlyAFileThatIsThereGetsASecondName) {
+    ASSERT_TRUE(this->Files().MakeDir(this->At(u"folder")));
+    for (const TextView name : {u"gone", u"folder"}) {
+        EXPECT_FALSE(this->Files().Link(this->At(name), this->At(u"b.txt")));
+        EXPECT_NE(this->Files().LastErrorText(), u"");
+    }
+    this->stage.AddFile(u"a.txt", "");
+    EXPECT_FALSE(this->Files().Link(this->At(u"a.txt"), this->At(u"gone/b.txt")));
+}
+
+TYPED_TEST_P(WholeFilesContract, OnlyAFileThatIsThereIsFlushed) {
+    this->stage.AddFile(u"a.txt", "bytes");
+    EXPECT_TRUE(this->Files().Flush(this->At(u"a.txt")));
+    EXPECT_FALSE(this->Files().Flush(this->At(u"gone")));
+    EXPECT_NE(this->Files().LastErrorText(), u"");
+}
+
+TYPED_TEST_P(WholeFilesContract, AFileIsLockedByOneAtATime) {
+    auto lock = this->Files().Lock(this->At(u"lock"));
+    ASSERT_NE(lock, nullptr);
+    EXPECT_TRUE(this->Files().FileExists(this->At(u"lock")));
+    EXPECT_EQ(this->Files().Lock(this->At(u"lock")), nullptr);
+    lock.reset();
+    EXPECT_NE(this->Files().Lock(this->At(u"lock")), nullptr);
+    EXPECT_EQ(this->Files().Lock(this->At(u"gone/lock")), nullptr);
+}
+
+TYPED_TEST_P(WholeFilesContract, APrivateFolderIsAFolderLikeOthers) {
+    EXPECT_TRUE(this->Files().MakePrivateDir(this->At(u"own")));
+    EXPECT_TRUE(this->Files().DirExists(this->At(u"own")));
+    EXPECT_FALSE(this->Files().MakePrivateDir(this->At(u"own")));
+    EXPECT_NE(this->Files().LastErrorText(), u"");
+    EXPECT_TRUE(this->Files().RemoveDir(this->At(u"own")));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(WholeFilesContract, ListsFilesByNameUnderThePatterns, ListsFoldersByName,
                             WhereThereIsNoFolderNothingIsListed, NamesADriveAtLeast,
                             MakesAFolderWhereNothingIs, RemovesAnEmptyFolderOnly, AFileIsNotRemovedAsAFolder,
@@ -286,7 +342,10 @@ REGISTER_TYPED_TEST_SUITE_P(WholeFilesContract, ListsFilesByNameUnderThePatterns
                             ACopyReplacesItsTargetAndLeavesNothingElse, ACopyOfAReadOnlyFileIsReadOnly,
                             AReadOnlyTargetStays, AFileIsNotCopiedOntoItself, WhatIsNotThereIsNotCopied,
                             AFolderIsNeitherCopiedNorReplaced, OnlyALongCopyStopsOnItsWay,
-                            OnItsWayACopyHasNotTheNameOfItsTarget, WhatTookTheNameMeanwhileStays);
+                            OnItsWayACopyHasNotTheNameOfItsTarget, WhatTookTheNameMeanwhileStays,
+                            AFileStaysAsLongAsItHasAName, ASecondNameReplacesNothing,
+                            OnlyAFileThatIsThereGetsASecondName, OnlyAFileThatIsThereIsFlushed,
+                            AFileIsLockedByOneAtATime, APrivateFolderIsAFolderLikeOthers);
 
 // Tests of links, and of things that must not be opened. For them the stage also has AddLink(name, target)
 // and AddPipe(name).
@@ -395,11 +454,18 @@ TYPED_TEST_P(LinksContract, APipeIsNeitherOpenedNorReplaced) {
     EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt", u"pipe"));
 }
 
+TYPED_TEST_P(LinksContract, ALinkGetsNoSecondName) {
+    this->stage.AddFile(u"a.txt", "bytes");
+    this->stage.AddLink(u"link", u"a.txt");
+    EXPECT_FALSE(this->Files().Link(this->At(u"link"), this->At(u"b.txt")));
+    EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt", u"link"));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(LinksContract, LinksAreListedAsWhatTheyLeadTo, NamesThatStartWithAPointAreHidden,
                             RemovesALinkAndLeavesItsFile, ALinkToAFolderIsNotRemovedAsAFolder,
                             ARenameTakesTheLinkAndReplacesNoneThatLeadsNowhere, ALinkIsCopiedAsItsFile,
                             ALinkInTheTargetsPlaceIsReplacedAndNotFollowed, ALinkToTheSourceIsTheSameFile,
                             ALinkThatLeadsNowhereIsNeitherCopiedNorWrittenThrough,
-                            APipeIsNeitherOpenedNorReplaced);
+                            APipeIsNeitherOpenedNorReplaced, ALinkGetsNoSecondName);
 
 } // namespace korvane

@@ -11,6 +11,11 @@ DateTime NativeClock::Now() const {
     return ToLocalDateTime(std::time(nullptr));
 }
 
+std::chrono::milliseconds NativeClock::Uptime() const {
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(time);
+}
+
 void NativeClock::Wait(std::chrono::milliseconds time) {
     std::this_thread::sleep_for(time);
 }

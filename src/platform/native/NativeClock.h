@@ -10,6 +10,7 @@ namespace korvane {
 class NativeClock final : public Clock {
 public:
     DateTime Now() const override;
+    std::chrono::milliseconds Uptime() const override;
     void Wait(std::chrono::milliseconds time) override;
 };
 

@@ -102,6 +102,14 @@ private:
     bool complete_ = true;
 };
 
+class NativeFileSystem::HeldLock final : public FileLock {
+public:
+    explicit HeldLock(SystemFile file) : file_(std::move(file)) {}
+
+private:
+    SystemFile file_;
+};
+
 PathStyle NativeFileSystem::Style() const {
     return fs::path::preferred_separator == '/' ? PathStyle::Posix : PathStyle::Windows;
 }
@@ -225,6 +233,12 @@ bool NativeFileSystem::MakeDir(TextView path) {
     return made;
 }
 
+bool NativeFileSystem::MakePrivateDir(TextView path) {
+    const bool made = system_calls::MakePrivateDir(ToNativePath(path));
+    lastError_ = made ? std::error_code() : LastSystemError();
+    return made;
+}
+
 bool NativeFileSystem::RemoveDir(TextView path) {
     const fs::path native = ToNativePath(path);
     const fs::file_status status = fs::symlink_status(native, lastError_);
@@ -239,6 +253,30 @@ bool NativeFileSystem::RemoveDir(TextView path) {
 bool NativeFileSystem::Rename(TextView from, TextView to) {
     lastError_ = RenameToFree(ToNativePath(from), ToNativePath(to));
     return !lastError_;
+}
+
+bool NativeFileSystem::Link(TextView from, TextView to) {
+    const fs::path source = ToNativePath(from);
+    const fs::file_status status = fs::symlink_status(source, lastError_);
+    if (lastError_) return false;
+    if (fs::is_regular_file(status)) {
+        fs::create_hard_link(source, ToNativePath(to), lastError_);
+    } else {
+        lastError_ = std::make_error_code(std::errc::operation_not_permitted);
+    }
+    return !lastError_;
+}
+
+bool NativeFileSystem::Flush(TextView path) {
+    const bool flushed = system_calls::Flush(ToNativePath(path));
+    lastError_ = flushed ? std::error_code() : LastSystemError();
+    return flushed;
+}
+
+std::unique_ptr<FileLock> NativeFileSystem::Lock(TextView path) {
+    SystemFile file(system_calls::OpenLocked(ToNativePath(path)));
+    lastError_ = file.IsOpen() ? std::error_code() : LastSystemError();
+    return file.IsOpen() ? std::make_unique<HeldLock>(std::move(file)) : nullptr;
 }
 
 bool NativeFileSystem::IsSame(TextView a, TextView b) const {

@@ -33,8 +33,12 @@ public:
     bool HasFolders(TextView folder) const override;
     std::vector<Drive> Drives() const override;
     bool MakeDir(TextView path) override;
+    bool MakePrivateDir(TextView path) override;
     bool RemoveDir(TextView path) override;
     bool Rename(TextView from, TextView to) override;
+    bool Link(TextView from, TextView to) override;
+    bool Flush(TextView path) override;
+    std::unique_ptr<FileLock> Lock(TextView path) override;
     bool IsSame(TextView a, TextView b) const override;
     bool IsLink(TextView path) const override;
     bool RemoveLink(TextView path) override;
@@ -48,6 +52,7 @@ public:
 
 private:
     class Writer;
+    class HeldLock;
     struct Removed {
         std::filesystem::path path;
         std::optional<system_calls::FileRights> rights;

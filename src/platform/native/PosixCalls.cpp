@@ -1,10 +1,12 @@
 #include "platform/native/SystemCalls.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 
@@ -109,12 +111,31 @@ std::optional<std::time_t> ModifiedTime(const fs::path& path) {
     return status.st_mtime;
 }
 
+bool Flush(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file == kNoFile) return false;
+    const bool flushed = fsync(file) == 0;
+    const int error = errno;
+    close(file);
+    errno = error;
+    return flushed;
+}
+
+int OpenLocked(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kOwnersFile);
+    if (file == kNoFile || flock(file, LOCK_EX | LOCK_NB) == 0) return file;
+    const int error = errno;
+    close(file);
+    errno = error;
+    return kNoFile;
+}
+
 bool MakePrivateDir(const fs::path& path) {
     return mkdir(path.c_str(), kOwnersDir) == 0;
 }
 
 UserFolders OwnUserFolders() {
-    return {EnvironmentPath("XDG_CONFIG_HOME"), EnvironmentPath("HOME")};
+    return {EnvironmentPath("XDG_CONFIG_HOME"), EnvironmentPath("HOME"), EnvironmentPath("XDG_STATE_HOME")};
 }
 
 void PreferLargePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) {

@@ -9,6 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto kSettingsName = "Korvane.ini";
+constexpr auto kKeptFolder = fs::path::preferred_separator == '/' ? "korvane/kept" : "Korvane/kept";
 constexpr auto kConfigName = "korvane";
 
 bool KeepsState(const fs::path& folder) {
@@ -16,11 +17,11 @@ bool KeepsState(const fs::path& folder) {
     return fs::exists(folder / kSettingsName, error) || system_calls::IsWritable(folder);
 }
 
-/// The user's folder for settings, or an empty path when there is none. A relative path in the environment is
-/// ignored.
-fs::path ConfigHome(const Surroundings& surroundings) {
-    if (surroundings.configHome.is_absolute()) return surroundings.configHome;
-    return surroundings.home.is_absolute() ? surroundings.home / ".config" : fs::path();
+/// The folder that the environment names, or else the usual one below the home folder, or an empty path when
+/// there is none. A relative path in the environment is ignored.
+fs::path UserFolder(const fs::path& named, const fs::path& home, const char* usual) {
+    if (named.is_absolute()) return named;
+    return home.is_absolute() ? home / usual : fs::path();
 }
 
 bool MakePrivateDirs(const fs::path& path) {
@@ -33,16 +34,21 @@ bool MakePrivateDirs(const fs::path& path) {
 
 Surroundings OwnSurroundings() {
     const system_calls::UserFolders folders = system_calls::OwnUserFolders();
-    return {system_calls::ExecutablePath(), folders.settings, folders.home};
+    return {system_calls::ExecutablePath(), folders.settings, folders.home, folders.state};
 }
 
 fs::path FindStateFolder(const Surroundings& surroundings) {
     fs::path beside = surroundings.executable.parent_path();
     if (KeepsState(beside)) return beside;
-    const fs::path configHome = ConfigHome(surroundings);
+    const fs::path configHome = UserFolder(surroundings.configHome, surroundings.home, ".config");
     if (configHome.empty()) return beside;
     const fs::path folder = configHome / kConfigName;
     return MakePrivateDirs(folder) ? folder : beside;
+}
+
+fs::path FindKeptFolder(const Surroundings& surroundings) {
+    const fs::path stateHome = UserFolder(surroundings.stateHome, surroundings.home, ".local/state");
+    return stateHome.empty() ? fs::path() : (stateHome / kKeptFolder).make_preferred();
 }
 
 } // namespace korvane

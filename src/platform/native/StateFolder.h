@@ -8,8 +8,9 @@ namespace korvane {
 /// isn't set.
 struct Surroundings {
     std::filesystem::path executable;
-    std::filesystem::path configHome; ///< XDG_CONFIG_HOME, or APPDATA on Windows
-    std::filesystem::path home;       ///< HOME, or empty on Windows
+    std::filesystem::path configHome;  ///< XDG_CONFIG_HOME, or APPDATA on Windows
+    std::filesystem::path home;        ///< HOME, or empty on Windows
+    std::filesystem::path stateHome{}; ///< XDG_STATE_HOME, or LOCALAPPDATA on Windows
 };
 
 /// The surroundings of the running process.
@@ -19,5 +20,9 @@ Surroundings OwnSurroundings();
 /// disk keeps its state beside it. Otherwise the user's configuration folder, which is made if necessary and
 /// is private. If it can't be made, the folder of the executable after all.
 std::filesystem::path FindStateFolder(const Surroundings& surroundings);
+
+/// The user's folder for what the program keeps of tables, or an empty path when there is no place for it. It
+/// isn't made.
+std::filesystem::path FindKeptFolder(const Surroundings& surroundings);
 
 } // namespace korvane

@@ -41,6 +41,11 @@ std::optional<FileRights> RightsOf(const std::filesystem::path& path);
 /// its owner may read and write.
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
 std::optional<std::time_t> ModifiedTime(const std::filesystem::path& path);
+/// Returns when the contents of the file are safe on the disk.
+bool Flush(const std::filesystem::path& path);
+/// Opens a file, which is made for its owner alone if it is missing, and locks it until it is closed. Returns
+/// `kNoFile` if it is locked already, by this process too.
+int OpenLocked(const std::filesystem::path& path);
 /// Makes the last folder of the path. Only the user may enter it.
 bool MakePrivateDir(const std::filesystem::path& path);
 
@@ -56,11 +61,12 @@ int AnsiCodePage();
 /// Makes the standard streams pass bytes unchanged. Writing to a pipe that nobody reads fails then and
 /// doesn't end the program.
 void PrepareStandardStreams();
-/// The folders that the environment names: for the settings of the user's programs, and the home folder. A
-/// folder is empty when it isn't named.
+/// The folders that the environment names: for the settings of the user's programs, the home folder, and for
+/// what programs keep on this computer. A folder is empty when it isn't named.
 struct UserFolders {
     std::filesystem::path settings;
     std::filesystem::path home;
+    std::filesystem::path state;
 };
 UserFolders OwnUserFolders();
 /// The path of the running program, or an empty path when the system doesn't tell it.

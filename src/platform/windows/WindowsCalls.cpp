@@ -4,6 +4,7 @@
 #include <direct.h>
 #include <fcntl.h>
 #include <io.h>
+#include <share.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -94,6 +95,21 @@ std::optional<std::time_t> ModifiedTime(const fs::path& path) {
     return status.st_mtime;
 }
 
+bool Flush(const fs::path& path) {
+    const int file = _wopen(path.c_str(), _O_RDWR | _O_BINARY | _O_NOINHERIT);
+    if (file == kNoFile) return false;
+    const bool flushed = _commit(file) == 0;
+    const int error = errno;
+    _close(file);
+    errno = error;
+    return flushed;
+}
+
+int OpenLocked(const fs::path& path) {
+    return _wsopen(path.c_str(), _O_RDWR | _O_CREAT | _O_BINARY | _O_NOINHERIT, _SH_DENYRW,
+                   _S_IREAD | _S_IWRITE);
+}
+
 bool MakePrivateDir(const fs::path& path) {
     // On Windows a folder inherits the permissions of the user's folder, so it is private already.
     return _wmkdir(path.c_str()) == 0;
@@ -101,7 +117,8 @@ bool MakePrivateDir(const fs::path& path) {
 
 UserFolders OwnUserFolders() {
     const wchar_t* settings = _wgetenv(L"APPDATA");
-    return {settings ? settings : L"", {}};
+    const wchar_t* state = _wgetenv(L"LOCALAPPDATA");
+    return {settings ? settings : L"", {}, state ? state : L""};
 }
 
 void PreferLargePages(void*, std::size_t) {}

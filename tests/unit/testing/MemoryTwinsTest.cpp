@@ -1,5 +1,7 @@
+#include "testing/MemoryBackground.h"
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
 #include "testing/MemoryInstanceChannel.h"
 #include "testing/MemoryScreen.h"
 #include "testing/MemoryShell.h"
@@ -28,6 +30,61 @@ TEST(MemoryClockTest, WaitsMoveItOnAndAreRemembered) {
     clock.Wait(500ms);
     EXPECT_EQ(clock.Now(), (DateTime{2027, 1, 1, 0, 0, 0}));
     EXPECT_THAT(clock.Waits(), ElementsAre(500ms, 500ms));
+}
+
+TEST(MemoryClockTest, ItsUptimeOnlyGrows) {
+    MemoryClock clock;
+    clock.Pass(1500ms);
+    EXPECT_EQ(clock.Uptime(), 1500ms);
+    clock.Set({2020, 1, 1, 0, 0, 0});
+    clock.Wait(500ms);
+    EXPECT_EQ(clock.Uptime(), 2000ms);
+    EXPECT_EQ(clock.Now(), (DateTime{2020, 1, 1, 0, 0, 0}));
+}
+
+struct MemoryBackgroundTest : testing::Test {
+    Background::Work Note(const std::string& name) {
+        return [this, name](FileSystem&) { order += name; };
+    }
+    Background::Action Then(const std::string& name) {
+        return [this, name] { order += name; };
+    }
+
+    MemoryClock clock;
+    MemoryFileSystem files{PathStyle::Posix, clock};
+    MemoryBackground background{files, clock};
+    std::string order;
+};
+
+TEST_F(MemoryBackgroundTest, DoesOneWorkAtATimeInTheirOrder) {
+    background.Do(Note("a"), AtEnd::Done, Then("A"));
+    background.Do(Note("b"), AtEnd::LeftOut, {});
+    EXPECT_EQ(order, "");
+    EXPECT_TRUE(background.DoNext());
+    EXPECT_EQ(order, "aA");
+    background.DoAll();
+    EXPECT_EQ(order, "aAb");
+    EXPECT_FALSE(background.DoNext());
+}
+
+TEST_F(MemoryBackgroundTest, CallsWhatIsDueAtItsTime) {
+    background.After(5s, [this] { order += std::to_string(clock.Uptime().count()); });
+    background.After(2s, [this] { background.Do(Note("work "), AtEnd::Done, {}); });
+    background.Pass(4999ms);
+    EXPECT_EQ(order, "work ");
+    background.Pass(1ms);
+    EXPECT_EQ(order, "work 5000");
+    background.Pass(1h);
+    EXPECT_EQ(order, "work 5000");
+}
+
+TEST_F(MemoryBackgroundTest, AtTheEndDoesOnlyWhatMustNotBeLeftOut) {
+    background.Do(Note("a"), AtEnd::Done, Then("A"));
+    background.Do(Note("b"), AtEnd::LeftOut, Then("B"));
+    background.After(1s, Then("C"));
+    background.End();
+    background.Pass(1h);
+    EXPECT_EQ(order, "a");
 }
 
 TEST(MemoryClipboardTest, HoldsTextUntilItIsCleared) {

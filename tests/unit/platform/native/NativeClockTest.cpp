@@ -19,6 +19,12 @@ TEST(NativeClockTest, WaitsNoShorterThanAsked) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(2));
 }
 
+TEST(NativeClockTest, ItsUptimeGrowsByAWait) {
+    const auto before = NativeClock().Uptime();
+    NativeClock().Wait(std::chrono::milliseconds(2));
+    EXPECT_GE(NativeClock().Uptime() - before, std::chrono::milliseconds(1));
+}
+
 TEST(NativeClockTest, CountsFieldsAsACalendarDoes) {
     // In every time zone this moment has the same year, month and second.
     const DateTime time = ToLocalDateTime(1'781'524'815);

@@ -62,6 +62,20 @@ TEST_F(StateFolder, IsTheExecutablesAllTheSameWithoutAnotherPlace) {
     EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
 }
 
+TEST_F(StateFolder, OfKeptTablesIsTheUsersOwnAndIsNotMade) {
+    EXPECT_EQ(FindKeptFolder(surroundings), dir / "home/.local/state/korvane/kept");
+    surroundings.stateHome = (dir / "state").string();
+    EXPECT_EQ(FindKeptFolder(surroundings), dir / "state/korvane/kept");
+    EXPECT_FALSE(fs::exists(dir / "state"));
+    EXPECT_FALSE(fs::exists(dir / "home/.local"));
+}
+
+TEST_F(StateFolder, OfKeptTablesIsNowhereWithoutAFullPath) {
+    surroundings.stateHome = "state";
+    surroundings.home = "";
+    EXPECT_EQ(FindKeptFolder(surroundings), "");
+}
+
 TEST(OwnSurroundingsTest, KnowTheRunningProgram) {
     EXPECT_EQ(OwnSurroundings().executable.filename(), "platform_native_test");
 }

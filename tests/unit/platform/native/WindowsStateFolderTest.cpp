@@ -20,6 +20,13 @@ TEST(WindowsStateFolder, IsOtherwiseMadeInTheUsersConfiguration) {
     EXPECT_TRUE(fs::is_directory(dir / "Roaming/korvane"));
 }
 
+TEST(WindowsStateFolder, OfKeptTablesIsTheUsersOwnOnThisComputer) {
+    const TempDir dir;
+    EXPECT_EQ(FindKeptFolder({dir / "korvane.exe", dir / "Roaming", {}, dir / "Local"}),
+              dir / "Local" / "Korvane" / "kept");
+    EXPECT_EQ(FindKeptFolder({dir / "korvane.exe", dir / "Roaming", {}, {}}), "");
+}
+
 TEST(WindowsStateFolder, KnowsTheRunningProgramAndTheUsersConfiguration) {
     const Surroundings own = OwnSurroundings();
     EXPECT_EQ(own.executable.filename(), "platform_native_test.exe");
