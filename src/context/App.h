@@ -18,6 +18,7 @@ namespace korvane {
 class Clipboard;
 class Clock;
 class FileSystem;
+class FileTypes;
 class FormHost;
 class Grid;
 class InstanceChannel;
@@ -51,6 +52,8 @@ public:
         std::function<std::unique_ptr<Spreadsheet>()> makeSpreadsheet{};
         /// Optional: without it, dates are written as on every system.
         const UserLocale* locale = nullptr;
+        /// Optional: without it, lists of files show no types and pictures.
+        FileTypes* fileTypes = nullptr;
     };
 
     explicit App(Platform platform);
@@ -72,6 +75,9 @@ public:
     const CodePage& Page() const { return platform_.codePage; }
     /// nullptr where the system's folders aren't known.
     const SystemFolders* Folders() const { return platform_.folders; }
+
+    /// nullptr where the desktop's types of files aren't known.
+    korvane::FileTypes* FileTypes() const { return platform_.fileTypes; }
 
     const UserLocale& Locale() const {
         return platform_.locale == nullptr ? sameEverywhere_ : *platform_.locale;

@@ -9,6 +9,7 @@
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"
 #include "testing/MemoryFileSystem.h"
+#include "testing/MemoryFileTypes.h"
 #include "testing/MemoryInstanceChannel.h"
 #include "testing/MemoryScreen.h"
 #include "testing/MemoryShell.h"
@@ -38,6 +39,7 @@ public:
     MemoryShell shell;
     MemoryInstanceChannel instance;
     MemorySystemFolders folders;
+    MemoryFileTypes fileTypes;
     ScriptedUser user;
     /// What the program asked the spreadsheet application to do.
     std::vector<std::string> spreadsheetSteps;
@@ -46,7 +48,7 @@ public:
     /// Runs before a grid is made.
     std::function<void()> beforeGrid = [] {};
     App app{{files, user, clipboard, clock, screen, shell, instance, user, [this] { return MakeGrid(); },
-             CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }}};
+             CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }, nullptr, &fileTypes}};
 
 private:
     std::unique_ptr<Grid> MakeGrid() {

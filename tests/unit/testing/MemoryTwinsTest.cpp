@@ -2,6 +2,7 @@
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"
 #include "testing/MemoryFileSystem.h"
+#include "testing/MemoryFileTypes.h"
 #include "testing/MemoryInstanceChannel.h"
 #include "testing/MemoryScreen.h"
 #include "testing/MemoryShell.h"
@@ -135,6 +136,26 @@ TEST(MemoryShellTest, RemembersItsCalls) {
     shell.ToggleDesktop();
     EXPECT_THAT(shell.Calls(), ElementsAre(ShellCall{ShellCall::Kind::Explore, u"/home"},
                                            ShellCall{ShellCall::Kind::ToggleDesktop, u""}));
+}
+
+TEST(MemoryFileTypesTest, FindsTypesByTheExtensionAndRemembersTheFilesThatWereRead) {
+    MemoryFileTypes types;
+    types.SetType(u".exe", {u"Application", u"DOSExeIcon"});
+    types.SetOwnImage(u"C:\\a.exe", u"own");
+    EXPECT_EQ(types.TypeOf(u"C:\\a.exe"), (FileType{u"Application", u"DOSExeIcon"}));
+    EXPECT_EQ(&types.TypeOf(u"C:\\a.exe"), &types.TypeOf(u"b.exe"));
+    EXPECT_EQ(&types.TypeOf(u"exe"), &types.TypeOf(u"a.txt"));
+    EXPECT_EQ(types.OwnImage(u"C:\\a.exe"), u"own");
+    EXPECT_EQ(types.OwnImage(u"b.exe"), u"");
+    EXPECT_THAT(types.FilesRead(), ElementsAre(u"C:\\a.exe", u"b.exe"));
+}
+
+TEST(MemoryFileTypesTest, CanHaveNoImages) {
+    MemoryFileTypes types;
+    EXPECT_TRUE(types.PrepareImages());
+    types.SetHasImages(false);
+    EXPECT_FALSE(types.PrepareImages());
+    EXPECT_EQ(types.Preparations(), 2);
 }
 
 const Message kQuestion{u"Save?", MessageIcon::Question, MessageButtons::YesNoCancel, 2};
