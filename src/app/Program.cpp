@@ -24,9 +24,11 @@ namespace korvane {
 
 namespace {
 
-App::Platform Complete(App::Platform platform, const SystemFolders& folders, const UserLocale& locale) {
+App::Platform Complete(App::Platform platform, const SystemFolders& folders, const UserLocale& locale,
+                       FileTypes& fileTypes) {
     platform.folders = &folders;
     platform.locale = &locale;
+    platform.fileTypes = &fileTypes;
     platform.codePage = UserCodePage();
     platform.makeGrid = [page = platform.codePage] { return std::make_unique<GridStore>(page); };
     platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
@@ -49,7 +51,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
       forms_(KorvaneForms()),
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
-          system.Folders(), locale_)) {
+          system.Folders(), locale_, fileTypes_)) {
     app_.SetPort<FilePicker>(&filePicker_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FontPicker>(&fontPicker_);

@@ -7,6 +7,7 @@
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFilePicker.h"
+#include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
@@ -40,6 +41,7 @@ private:
     NativeClock clock_;
     QtScreen screen_;
     QtUserLocale locale_;
+    QtFileTypes fileTypes_;
     QtFormHost forms_;
     QtFilePicker filePicker_;
     QtSystemFileDialog systemFileDialog_;
