@@ -26,6 +26,9 @@ struct OpenRequest {
     bool operator==(const OpenRequest&) const = default;
 };
 
+/// Whether the desktop asks the user before it moves something to the recycle store, and shows what it does.
+enum class RecycleTalk : std::uint8_t { Silent, AsksAndShows };
+
 /// What the desktop does for the program.
 class Shell {
 public:
@@ -37,6 +40,9 @@ public:
     virtual void Open(const OpenRequest& request) = 0;
     /// Shows a folder in the desktop's file manager.
     virtual void Explore(TextView folder) = 0;
+    /// Moves a file, a link or a whole folder to the recycle store, from which the user can get it back.
+    /// False, and nothing is lost, when there is no such store for it, or when the user stops it.
+    virtual bool Recycle(TextView path, RecycleTalk talk) = 0;
     virtual void ToggleDesktop() = 0;
     /// Sounds the system's bell.
     virtual void Beep() = 0;

@@ -29,6 +29,14 @@ struct ProgramStart {
     bool operator==(const ProgramStart&) const = default;
 };
 
+/// Something that was to go to the recycle store.
+struct Recycling {
+    Text path;
+    RecycleTalk talk;
+
+    bool operator==(const Recycling&) const = default;
+};
+
 /// A desktop that only remembers what it was asked for.
 class MemoryShell final : public Shell {
 public:
@@ -39,24 +47,37 @@ public:
     }
     void Open(const OpenRequest& request) override { opened_.push_back(request); }
     void Explore(TextView folder) override { calls_.push_back({ShellCall::Kind::Explore, Text(folder)}); }
+    bool Recycle(TextView path, RecycleTalk talk) override {
+        recycled_.push_back({Text(path), talk});
+        return recycler_ && recycler_(path);
+    }
     void ToggleDesktop() override { calls_.push_back({ShellCall::Kind::ToggleDesktop, {}}); }
     void Beep() override { calls_.push_back({ShellCall::Kind::Beep, {}}); }
 
     /// Sets which programs can be started; all can be until then.
     void SetStartable(std::function<bool(TextView program)> startable) { startable_ = std::move(startable); }
 
-    /// All calls so far except starts and openings, in order.
+    /// Sets what takes things away to the recycle store, and says whether it did. There is no store until
+    /// then.
+    void SetRecycler(std::function<bool(TextView path)> recycler) { recycler_ = std::move(recycler); }
+
+    /// All calls so far except those of the kinds below, in order.
     const std::vector<ShellCall>& Calls() const { return calls_; }
     /// All starts so far, also those that failed, in order.
     const std::vector<ProgramStart>& Starts() const { return starts_; }
     /// All that was to be opened so far, in order.
     const std::vector<OpenRequest>& Opened() const { return opened_; }
 
+    /// All that was to go to the recycle store so far, also what stayed, in order.
+    const std::vector<Recycling>& Recycled() const { return recycled_; }
+
 private:
     std::vector<ShellCall> calls_;
     std::vector<ProgramStart> starts_;
     std::vector<OpenRequest> opened_;
+    std::vector<Recycling> recycled_;
     std::function<bool(TextView program)> startable_;
+    std::function<bool(TextView path)> recycler_;
 };
 
 } // namespace korvane

@@ -27,6 +27,7 @@ namespace korvane {
 class TestApp {
 public:
     explicit TestApp(const PathStyle& style = PathStyle::Windows) : files(style, clock) {
+        shell.SetRecycler([this](TextView path) { return TakeAway(path); });
         app.SetPort<FilePicker>(&user);
         app.SetPort<ColourPicker>(&user);
         app.SetPort<FontPicker>(&user);
@@ -51,6 +52,11 @@ public:
              CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }, nullptr, &fileTypes}};
 
 private:
+    bool TakeAway(TextView path) {
+        if (!files.FileExists(path) && !files.DirExists(path) && !files.IsLink(path)) return false;
+        files.Erase(path);
+        return true;
+    }
     std::unique_ptr<Grid> MakeGrid() {
         beforeGrid();
         return std::make_unique<GridStore>(CodePage::Windows1252());

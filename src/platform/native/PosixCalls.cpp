@@ -135,7 +135,8 @@ bool MakePrivateDir(const fs::path& path) {
 }
 
 UserFolders OwnUserFolders() {
-    return {EnvironmentPath("XDG_CONFIG_HOME"), EnvironmentPath("HOME"), EnvironmentPath("XDG_STATE_HOME")};
+    return {EnvironmentPath("XDG_CONFIG_HOME"), EnvironmentPath("HOME"), EnvironmentPath("XDG_STATE_HOME"),
+            EnvironmentPath("XDG_DATA_HOME")};
 }
 
 void PreferLargePages([[maybe_unused]] void* block, [[maybe_unused]] std::size_t size) {

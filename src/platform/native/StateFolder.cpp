@@ -24,13 +24,13 @@ fs::path UserFolder(const fs::path& named, const fs::path& home, const char* usu
     return home.is_absolute() ? home / usual : fs::path();
 }
 
+} // namespace
+
 bool MakePrivateDirs(const fs::path& path) {
     std::error_code error;
     if (fs::is_directory(path, error)) return true;
     return MakePrivateDirs(path.parent_path()) && system_calls::MakePrivateDir(path);
 }
-
-} // namespace
 
 Surroundings OwnSurroundings() {
     const system_calls::UserFolders folders = system_calls::OwnUserFolders();

@@ -13,6 +13,9 @@ struct Surroundings {
     std::filesystem::path stateHome{}; ///< XDG_STATE_HOME, or LOCALAPPDATA on Windows
 };
 
+/// Makes the folder and those above it that are missing. Only the user may enter them.
+bool MakePrivateDirs(const std::filesystem::path& path);
+
 /// The surroundings of the running process.
 Surroundings OwnSurroundings();
 

@@ -62,11 +62,12 @@ int AnsiCodePage();
 /// doesn't end the program.
 void PrepareStandardStreams();
 /// The folders that the environment names: for the settings of the user's programs, the home folder, and for
-/// what programs keep on this computer. A folder is empty when it isn't named.
+/// what programs keep on this computer, and the data of programs. A folder is empty when it isn't named.
 struct UserFolders {
-    std::filesystem::path settings;
-    std::filesystem::path home;
-    std::filesystem::path state;
+    std::filesystem::path settings{};
+    std::filesystem::path home{};
+    std::filesystem::path state{};
+    std::filesystem::path data{};
 };
 UserFolders OwnUserFolders();
 /// The path of the running program, or an empty path when the system doesn't tell it.

@@ -2,6 +2,7 @@
 
 #include "common/text/CaseFold.h"
 #include "platform/windows/ProcessCommandLine.h"
+#include "platform/windows/RecycleStore.h"
 #include "platform/windows/Win32SystemFolders.h"
 #include "platform/windows/WindowsText.h"
 
@@ -124,6 +125,10 @@ void Win32Shell::Explore(TextView folder) {
     argument.vt = VT_BSTR;
     argument.bstrVal = text.get();
     shell->Explore(argument);
+}
+
+bool Win32Shell::Recycle(TextView path, RecycleTalk talk) {
+    return MoveToRecycleStore(path, talk);
 }
 
 void Win32Shell::ToggleDesktop() {

@@ -11,6 +11,7 @@ public:
     int Run(TextView program, const std::vector<Text>& arguments, WindowState window) override;
     void Open(const OpenRequest& request) override;
     void Explore(TextView folder) override;
+    bool Recycle(TextView path, RecycleTalk talk) override;
     void ToggleDesktop() override;
     void Beep() override;
 };

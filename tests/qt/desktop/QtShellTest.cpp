@@ -74,6 +74,19 @@ TEST(QtShell, ExploresAFolder) {
     EXPECT_EQ(desktop.urls, Files({"/data/sub folder"}));
 }
 
+TEST(QtShell, MovesAFileToTheTrashOfTheUser) {
+    const TempDir dir;
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString((dir / "data").native()));
+    WriteBytes(dir / "a file.txt", "contents");
+    const Text path = FromUtf8((dir / "a file.txt").native());
+    QtShell shell;
+    EXPECT_TRUE(shell.Recycle(path, RecycleTalk::Silent));
+    EXPECT_FALSE(shell.Recycle(path, RecycleTalk::Silent));
+    EXPECT_EQ(ReadBytes(dir / "data/Trash/files/a file.txt"), "contents");
+    EXPECT_FALSE(std::filesystem::exists(dir / "a file.txt"));
+    qunsetenv("XDG_DATA_HOME");
+}
+
 TEST(QtShell, OpensNothingForNothing) {
     UrlCatcher desktop;
     QtShell().Open({});

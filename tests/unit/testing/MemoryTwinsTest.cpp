@@ -254,6 +254,17 @@ TEST(MemoryShellTest, StartsNeitherAnEmptyProgramNorOneThatCantBeStarted) {
     EXPECT_EQ(shell.Run(u"there", {}, WindowState::Normal), 3);
 }
 
+TEST(MemoryShellTest, RemembersWhatWasToBeRecycled) {
+    MemoryShell shell;
+    EXPECT_FALSE(shell.Recycle(u"/a", RecycleTalk::Silent));
+    shell.SetRecycler([](TextView path) { return path == u"/b"; });
+    EXPECT_TRUE(shell.Recycle(u"/b", RecycleTalk::AsksAndShows));
+    EXPECT_FALSE(shell.Recycle(u"/c", RecycleTalk::Silent));
+    EXPECT_THAT(shell.Recycled(), ElementsAre(Recycling{u"/a", RecycleTalk::Silent},
+                                              Recycling{u"/b", RecycleTalk::AsksAndShows},
+                                              Recycling{u"/c", RecycleTalk::Silent}));
+}
+
 TEST(MemoryShellTest, RemembersWhatWasOpenedAndTheBell) {
     MemoryShell shell;
     shell.Open({u"explore", u"C:\\Data", {}, u"C:\\Data"});

@@ -1,6 +1,8 @@
 #include "platform/qt/desktop/QtShell.h"
 
 #include "platform/DesktopTarget.h"
+#include "platform/native/NativePath.h"
+#include "platform/native/Trash.h"
 #include "platform/qt/desktop/ShowingDesktop.h"
 
 #include <QApplication>
@@ -51,6 +53,10 @@ void QtShell::Open(const OpenRequest& request) {
 
 void QtShell::Explore(TextView folder) {
     if (!folder.empty()) QDesktopServices::openUrl(FileUrl(folder));
+}
+
+bool QtShell::Recycle(TextView path, RecycleTalk) {
+    return MoveToTrash(ToNativePath(path));
 }
 
 void QtShell::ToggleDesktop() {
