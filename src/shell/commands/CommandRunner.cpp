@@ -36,7 +36,8 @@ void CommandRunner::CloseTab(Form& child) {
 }
 
 void CommandRunner::ReleaseClosedTabs() {
-    // Where a command starts on its own, no handler of a tab that an earlier one closed runs any more.
+    // A tab that a command closed may still be running it. No such call is left when a command isn't part of
+    // another one.
     if (depth_ == 0) parts_.tabs.ReleaseClosed();
 }
 

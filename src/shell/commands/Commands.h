@@ -15,7 +15,7 @@ struct Command {
     int level;
     std::string_view name;
     TextView caption;
-    /// The key that the menu binds. Where a caption names another one, the caption stands as it is.
+    /// The key that the menu binds. A caption may name another one.
     Shortcut shortcut;
     CommandCall calls{};
 };

@@ -17,7 +17,7 @@ class Panel;
 /// The sidebar: a column of commands in a grid, each of which a click, Space or Return runs, under a heading.
 class SideBar {
 public:
-    /// Where it stands on the main window.
+    /// Its place on the main window.
     struct Place {
         Panel& panel;
         Label& heading;

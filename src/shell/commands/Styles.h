@@ -13,7 +13,7 @@ void mnuStyle(const MainParts& main);
 void StyleForward(const MainParts& main);
 void StyleBack(const MainParts& main);
 
-/// The style number behind an index of `mnuStyle`.
+/// The number of the style that an entry of `mnuStyle` chooses, by the entry's index.
 int TabStyleOfMenuIndex(int menuIndex);
 
 /// Checks the entry of `mnuStyle` that the program starts with.

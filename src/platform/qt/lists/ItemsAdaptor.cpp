@@ -7,7 +7,7 @@ namespace korvane {
 ItemsAdaptor::ItemsAdaptor(Control& control, QAbstractItemView& view)
     : ControlAdaptor(control, view), view_(view) {
     view.viewport()->installEventFilter(this);
-    // What happens to a view during its destruction comes when it is none any more.
+    // While a view is destroyed, Qt still sends events of it, and only the base class is left to take them.
     connect(&view, &QObject::destroyed, this, [this] { viewGoes_ = true; });
 }
 

@@ -42,7 +42,7 @@ void RowsAdaptor::RowsReset() {
 }
 
 void RowsAdaptor::RowsInserted(int first, int last) {
-    // Rows come one after another as a rule.
+    // Most rows come one after another.
     const bool goesOn = change_.kind == Change::Kind::Inserted && first == change_.last + 1;
     if (goesOn) first = change_.first;
     if (goesOn || change_.kind == Change::Kind::None) {
@@ -98,7 +98,7 @@ void RowsAdaptor::WriteChange() {
     if (change.kind == Change::Kind::Inserted) model_.TellInserted(change.first, change.last);
     if (change.kind == Change::Kind::Removed) model_.TellRemoved(change.first, change.last);
     if (change.kind == Change::Kind::Reset) model_.ReadRows();
-    // Which rows the texts that changed stand in now isn't worth counting.
+    // Rows have moved, so any of them may have a text that changed.
     firstChanged_ = 0;
     if (lastChanged_ >= 0) lastChanged_ = model_.rowCount() - 1;
 }
@@ -122,10 +122,10 @@ std::pair<int, int> RowsAdaptor::RowsInView() const {
 void RowsAdaptor::WritePicks() {
     int row = 0;
     const std::vector<bool> before = ShownPicks();
-    // To write what is there already would forget where the user began to mark.
+    // Writing the same marks again would make Qt forget where the user began to mark.
     if (std::ranges::all_of(before, [&](bool picked) { return picked == Picked(row++); })) return;
     QItemSelectionModel& shown = *view_.selectionModel();
-    // In two steps, the ranges of a list with many gaps aren't compared each with each.
+    // A single step would compare each old range with each new one, which is slow in a list with many gaps.
     shown.clearSelection();
     shown.select(PickedRanges(), QItemSelectionModel::Select);
     // What the user marks next comes in addition to these.

@@ -4,8 +4,8 @@
 
 namespace korvane {
 
-/// The rows of a control for the views of Qt. It holds nothing of them but how many there are: a text is
-/// asked for when it is painted.
+/// The rows of a control for the views of Qt. It holds only how many there are: a text is asked for when it
+/// is painted.
 class RowsModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     void Forget();
 
     int rowCount(const QModelIndex& parent = {}) const override;
-    /// Asked for each row whenever a view lays its rows out: it makes do without a second question.
+    /// A view calls it for each row when it lays its rows out, so it does as little as it can.
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
 
 protected:

@@ -129,7 +129,7 @@ void TreeViewAdaptor::ScrollToWanted() {
 }
 
 void TreeViewAdaptor::WriteExpanded() {
-    // The view lays out all nodes once after a reset, but some after each node that opens.
+    // After a reset the view lays out its nodes once, and otherwise after each node that opens.
     if (expanded_.size() > kMany) TreeReset();
     for (const QPersistentModelIndex& index : std::exchange(expanded_, {})) {
         const TreeNode* node = index.isValid() ? model_.NodeOf(index) : nullptr;

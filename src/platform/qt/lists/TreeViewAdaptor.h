@@ -43,8 +43,8 @@ private:
     TreeView& tree_;
     QTreeView& widget_;
     TreeViewModel& model_;
-    /// Nodes that were opened or closed, and such of which the text or picture changed, since the view heard
-    /// of some last.
+    /// The nodes that were opened or closed, and those of which the text or picture changed. The view hasn't
+    /// heard of them yet.
     std::vector<QPersistentModelIndex> expanded_;
     std::vector<QPersistentModelIndex> changed_;
     QPersistentModelIndex wanted_;

@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// The nodes of a tree for the views of Qt, of which it holds nothing. An index carries the id of its node,
-/// so that one which is still in use when its node has gone finds none.
+/// The nodes of a tree for the views of Qt. It keeps nothing of them: an index has the id of its node, so that
+/// an index that outlives its node finds none.
 class TreeViewModel : public QAbstractItemModel {
     Q_OBJECT
 
