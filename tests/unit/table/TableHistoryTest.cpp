@@ -137,7 +137,7 @@ TEST_F(TableHistoryTest, UndoingAndRedoingOverAndOverForgetsNothing) {
     };
     write(1);
     write(2);
-    for (int times = 0; times < 100; ++times) {
+    for (int times = 0; times < 1000; ++times) {
         ASSERT_TRUE(small.Undo());
         ASSERT_TRUE(small.Redo());
     }
