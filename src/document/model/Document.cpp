@@ -1,7 +1,6 @@
 #include "document/model/Document.h"
 
 #include <algorithm>
-#include <limits>
 #include <string_view>
 
 namespace korvane::doc {
@@ -152,7 +151,7 @@ std::size_t LengthOf(const Document& document) {
 std::uint16_t Document::FontNumber(TextView name) {
     const auto found = std::ranges::find(fonts, name);
     if (found != fonts.end()) return static_cast<std::uint16_t>(found - fonts.begin());
-    if (fonts.size() > std::numeric_limits<std::uint16_t>::max()) return 0;
+    if (fonts.size() >= kMostFonts) return 0;
     fonts.emplace_back(name);
     return static_cast<std::uint16_t>(fonts.size() - 1);
 }

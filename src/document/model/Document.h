@@ -99,7 +99,9 @@ struct Document {
     Page page{};
     std::int32_t defaultTab = 720;
 
-    /// The number of the font, which is added if it isn't there.
+    static constexpr std::size_t kMostFonts = 1024;
+
+    /// The number of the font, which is added if it isn't there. Beyond the limit it is the first font.
     std::uint16_t FontNumber(TextView name);
     const CharFormat& FormatOf(const Run& run) const { return chars[run.format]; }
     const ParaFormat& FormatOf(const Paragraph& paragraph) const { return paras[paragraph.format]; }
