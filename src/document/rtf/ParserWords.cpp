@@ -1,0 +1,401 @@
+#include "document/rtf/Parser.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvane::doc::rtf {
+
+namespace {
+
+constexpr std::int32_t kTwipsPerHalfPoint = 10;
+/// A line spacing that is a multiple is counted in 240ths of a line.
+constexpr double kLineParts = 240;
+constexpr std::int32_t kLongest = 1'000'000;
+constexpr std::size_t kMostTabs = 64;
+constexpr std::size_t kListLevels = 9;
+/// The width of a line whose width isn't told.
+constexpr std::int32_t kPlainLine = 15;
+
+constexpr bool CharFormat::*kFlags[] = {&CharFormat::bold, &CharFormat::italic, &CharFormat::underline,
+                                        &CharFormat::strike, &CharFormat::smallCaps};
+
+constexpr std::int32_t ParaFormat::*kLengths[] = {&ParaFormat::left, &ParaFormat::right, &ParaFormat::first,
+                                                  &ParaFormat::before, &ParaFormat::after};
+
+std::int32_t Bounded(std::int32_t length) {
+    return std::clamp(length, -kLongest, kLongest);
+}
+
+/// The code page of a charset's number; nothing for a page of two bytes to a character.
+std::optional<CodePage> PageOfCharset(std::int32_t charset) {
+    struct Pair {
+        std::int32_t charset;
+        int page;
+    };
+    static constexpr Pair kPages[] = {{161, 1253}, {162, 1254}, {163, 1258}, {177, 1255}, {178, 1256},
+                                      {186, 1257}, {204, 1251}, {222, 874},  {238, 1250}, {128, 932},
+                                      {129, 949},  {130, 1361}, {134, 936},  {136, 950}};
+    const auto* const found = std::ranges::find(kPages, charset, &Pair::charset);
+    return CodePage::ForNumber(found == std::end(kPages) ? 1252 : found->page);
+}
+
+ListKind KindOfNumber(std::int32_t number) {
+    static constexpr ListKind kKinds[] = {ListKind::Decimal, ListKind::UpperRoman, ListKind::LowerRoman,
+                                          ListKind::UpperLetter, ListKind::LowerLetter};
+    if (number >= 0 && number < static_cast<std::int32_t>(std::size(kKinds))) return kKinds[number];
+    return number == 23 ? ListKind::Bullet : ListKind::Decimal;
+}
+
+void InsertTab(std::vector<TabStop>& tabs, const TabStop& stop) {
+    const auto place = std::ranges::lower_bound(tabs, stop.at, {}, &TabStop::at);
+    if (place != tabs.end() && place->at == stop.at)
+        *place = stop;
+    else if (tabs.size() < kMostTabs)
+        tabs.insert(place, stop);
+}
+
+} // namespace
+
+void Parser::Destination(const Value&, std::int32_t target) {
+    const Target wanted = static_cast<Target>(target);
+    if (wanted == Target::Skip || (wanted == Target::Instruction && instructions_.empty()))
+        return SkipGroup();
+    state_.target = wanted;
+}
+
+void Parser::Character(const Value&, std::int32_t character) {
+    Put(static_cast<char16_t>(character));
+}
+
+void Parser::Unicode(const Value& value, std::int32_t) {
+    Put(static_cast<char16_t>(value.number));
+    fallbackLeft_ = state_.fallbackLength;
+}
+
+void Parser::FallbackLength(const Value& value, std::int32_t) {
+    state_.fallbackLength = std::clamp(value.Or(1), 0, 16);
+}
+
+void Parser::Binary(const Value& value, std::int32_t) {
+    const std::size_t length = static_cast<std::size_t>(std::max(value.number, 0));
+    const std::string_view bytes = bytes_.substr(at_, length);
+    if (bytes.size() < length) builder_.Tell(Trouble::Damaged);
+    at_ += bytes.size();
+    if (state_.target == Target::Picture) pictureBytes_ += bytes;
+}
+
+void Parser::AnsiPage(const Value& value, std::int32_t) {
+    ansi_ = CodePage::ForNumber(value.number).value_or(CodePage::Windows1252());
+}
+
+void Parser::DefaultFont(const Value& value, std::int32_t) {
+    defaultFont_ = value.number;
+}
+
+void Parser::DefaultTab(const Value& value, std::int32_t) {
+    builder_.Target().defaultTab = std::clamp(value.number, 1, kLongest);
+}
+
+void Parser::PageSize(const Value& value, std::int32_t size) {
+    builder_.Target().page.sizes[static_cast<std::size_t>(size)] = std::clamp(value.number, 0, kLongest);
+    result_.pageGiven[static_cast<std::size_t>(size)] = true;
+}
+
+void Parser::PlainText(const Value&, std::int32_t) {
+    state_.look = {};
+    state_.hidden = false;
+    Font({true, defaultFont_}, 0);
+}
+
+void Parser::CharFlag(const Value& value, std::int32_t flag) {
+    state_.look.*kFlags[flag] = value.On();
+    lookChanged_ = true;
+}
+
+void Parser::NoUnderline(const Value&, std::int32_t) {
+    state_.look.underline = false;
+    lookChanged_ = true;
+}
+
+void Parser::Font(const Value& value, std::int32_t) {
+    if (state_.target == Target::FontTable) {
+        fontNumber_ = value.number;
+        fontName_.clear();
+        if (fonts_.size() < limits_.formats) fonts_[fontNumber_] = {};
+        return;
+    }
+    const auto found = fonts_.find(value.number);
+    state_.font = found == fonts_.end() ? nullptr : &found->second;
+    state_.look.font = state_.font == nullptr ? std::uint16_t{0} : state_.font->font;
+    lookChanged_ = true;
+}
+
+void Parser::Charset(const Value& value, std::int32_t) {
+    if (const auto font = fonts_.find(fontNumber_);
+        state_.target == Target::FontTable && font != fonts_.end())
+        font->second.page = PageOfCharset(value.number);
+}
+
+void Parser::FontSize(const Value& value, std::int32_t) {
+    state_.look.halfPoints = static_cast<std::uint16_t>(std::clamp(value.Or(24), 1, 3276));
+    lookChanged_ = true;
+}
+
+Colour Parser::ColourOf(const Value& value) const {
+    const std::size_t index = static_cast<std::size_t>(value.number);
+    return value.number < 0 || index >= colours_.size() ? kNoColour : colours_[index];
+}
+
+void Parser::ForeColour(const Value& value, std::int32_t) {
+    state_.look.fore = ColourOf(value);
+    lookChanged_ = true;
+}
+
+void Parser::BackColour(const Value& value, std::int32_t) {
+    state_.look.back = ColourOf(value);
+    lookChanged_ = true;
+}
+
+void Parser::Raise(const Value& value, std::int32_t direction) {
+    state_.look.baseLine =
+        direction * std::clamp(value.Or(6), -kLongest / 100, kLongest / 100) * kTwipsPerHalfPoint;
+    lookChanged_ = true;
+}
+
+/// The group of this word stands in the text that is raised, so it sets what follows the group.
+void Parser::ExactRaise(const Value& value, std::int32_t) {
+    if (!groups_.empty()) groups_.back().look.baseLine = Bounded(value.number);
+}
+
+void Parser::SetScript(const Value&, std::int32_t script) {
+    state_.look.script = static_cast<Script>(script);
+    if (script == 0) state_.look.baseLine = 0;
+    lookChanged_ = true;
+}
+
+void Parser::Hide(const Value& value, std::int32_t) {
+    state_.hidden = value.On();
+}
+
+void Parser::ParaDefault(const Value&, std::int32_t) {
+    ChangePara() = {};
+    tabType_ = TabType::Left;
+    borderSides_ = 0;
+    cellSide_.reset();
+}
+
+void Parser::ParaAlignment(const Value&, std::int32_t alignment) {
+    ChangePara().format.alignment = static_cast<Alignment>(alignment);
+}
+
+void Parser::ParaLength(const Value& value, std::int32_t length) {
+    ChangePara().format.*kLengths[length] = Bounded(value.number);
+}
+
+void Parser::LineSpacing(const Value& value, std::int32_t) {
+    ChangePara().lineSpacing = Bounded(value.number);
+    ApplySpacing();
+}
+
+void Parser::SpacingRule(const Value& value, std::int32_t) {
+    ChangePara().spacingIsMultiple = value.number != 0;
+    ApplySpacing();
+}
+
+void Parser::ApplySpacing() {
+    ParaFormat& format = para_.format;
+    format.spacingExact = para_.lineSpacing < 0 ? -para_.lineSpacing : 0;
+    const bool percent = para_.lineSpacing > 0 && para_.spacingIsMultiple;
+    format.spacingPercent =
+        percent ? static_cast<std::int32_t>(std::lround(para_.lineSpacing * 100 / kLineParts)) : 100;
+}
+
+void Parser::NextTabType(const Value&, std::int32_t type) {
+    tabType_ = static_cast<TabType>(type);
+}
+
+void Parser::Tab(const Value& value, std::int32_t) {
+    InsertTab(ChangePara().format.tabs, {Bounded(value.number), std::exchange(tabType_, TabType::Left)});
+}
+
+void Parser::BreakBefore(const Value& value, std::int32_t) {
+    ChangePara().format.pageBreakBefore = value.On();
+}
+
+void Parser::InTable(const Value&, std::int32_t) {
+    ChangePara().inTable = true;
+}
+
+void Parser::FrameSide(const Value&, std::int32_t sides) {
+    borderSides_ = static_cast<std::uint16_t>(sides);
+    cellSide_.reset();
+}
+
+/// As with the exact raise, this belongs to the paragraph around the group.
+void Parser::FrameBits(const Value& value, std::int32_t) {
+    frameAfterGroup_ = static_cast<std::uint16_t>(std::clamp(value.number, 0, 0x1FFF));
+}
+
+void Parser::BorderStyle(const Value&, std::int32_t style) {
+    if (cellSide_) {
+        std::int32_t& width = row_.Cell().border[static_cast<std::size_t>(*cellSide_)];
+        width = style == 0 ? 0 : std::max(width, kPlainLine);
+        return;
+    }
+    if (borderSides_ == 0) return;
+    std::uint16_t& frame = ChangePara().format.frame;
+    if (style == 0)
+        frame = static_cast<std::uint16_t>(frame & ~borderSides_);
+    else
+        frame = static_cast<std::uint16_t>((frame & ~(kFrameSingle | kFrameDouble)) | borderSides_ | style);
+}
+
+void Parser::BorderWidth(const Value& value, std::int32_t) {
+    const std::int32_t width = std::clamp(value.number, 0, kLongest);
+    if (cellSide_) {
+        std::int32_t& line = row_.Cell().border[static_cast<std::size_t>(*cellSide_)];
+        if (line != 0) line = width;
+    } else if (borderSides_ != 0) {
+        ChangePara().format.frameWidth = width;
+    }
+}
+
+void Parser::BorderDistance(const Value& value, std::int32_t) {
+    if (!cellSide_ && borderSides_ != 0)
+        ChangePara().format.frameDistance = std::clamp(value.number, 0, kLongest);
+}
+
+void Parser::ColourPart(const Value& value, std::int32_t shift) {
+    const std::int32_t others = std::max(colour_, 0) & ~(0xFF << shift);
+    colour_ = others | std::clamp(value.number, 0, 255) << shift;
+}
+
+void Parser::Paragraph(const Value&, std::int32_t) {
+    if (state_.target != Target::Body) return;
+    Prepare();
+    builder_.EndParagraph(TakeParaFormat());
+}
+
+/// Most programs end the paragraph before the section themselves.
+void Parser::Section(const Value&, std::int32_t) {
+    if (!builder_.AtParagraphStart()) Paragraph({}, 0);
+}
+
+void Parser::NewPage(const Value&, std::int32_t) {
+    if (!builder_.AtParagraphStart()) Paragraph({}, 0);
+    breakNext_ = true;
+}
+
+void Parser::RowDefault(const Value&, std::int32_t) {
+    row_ = {};
+}
+
+void Parser::RowLeft(const Value& value, std::int32_t) {
+    row_.SetLeft(value.number);
+}
+
+void Parser::RowGap(const Value& value, std::int32_t sides) {
+    const std::int32_t gap = std::clamp(value.number, 0, kLongest);
+    if (sides != 2) row_.SetGap(Side::Left, gap);
+    if (sides != 1) row_.SetGap(Side::Right, gap);
+}
+
+void Parser::CellEdge(const Value& value, std::int32_t) {
+    row_.EndCell(value.number, limits_.columns);
+    cellSide_.reset();
+}
+
+void Parser::CellSide(const Value&, std::int32_t side) {
+    cellSide_ = static_cast<Side>(side);
+}
+
+void Parser::CellColour(const Value& value, std::int32_t) {
+    row_.Cell().back = ColourOf(value);
+}
+
+void Parser::CellGap(const Value& value, std::int32_t side) {
+    row_.SetCellGap(static_cast<Side>(side), std::clamp(value.number, 0, kLongest));
+}
+
+void Parser::RowBorder(const Value&, std::int32_t) {
+    cellSide_.reset();
+    borderSides_ = 0;
+}
+
+void Parser::Cell(const Value&, std::int32_t) {
+    if (state_.target != Target::Body) return;
+    Prepare();
+    builder_.EndCell(TakeParaFormat());
+}
+
+void Parser::Row(const Value&, std::int32_t) {
+    builder_.EndRow(row_.Cells());
+}
+
+void Parser::PictureStart(const Value&, std::int32_t) {
+    state_.target = Target::Picture;
+    picture_ = {};
+    pictureSizes_ = {0, 0, 100, 100};
+    halfByte_ = false;
+}
+
+void Parser::PictureKind(const Value&, std::int32_t kind) {
+    picture_.kind = static_cast<ImageKind>(kind);
+}
+
+void Parser::PictureSize(const Value& value, std::int32_t index) {
+    pictureSizes_[static_cast<std::size_t>(index)] = value.number;
+}
+
+void Parser::FieldGroup(const Value&, std::int32_t) {
+    if (state_.isField) return;
+    state_.isField = true;
+    instructions_.emplace_back();
+}
+
+void Parser::FieldResult(const Value&, std::int32_t) {
+    if (!instructions_.empty()) BeginResult();
+}
+
+void Parser::ParaList(const Value& value, std::int32_t) {
+    if (state_.target == Target::ListTable) {
+        if (overrides_.size() < limits_.formats) overrides_[value.number] = lists_[listIdentity_];
+        return;
+    }
+    ChangePara().list = value.number;
+    ApplyList(para_);
+}
+
+void Parser::ParaListLevel(const Value& value, std::int32_t) {
+    ChangePara().level = value.number;
+    ApplyList(para_);
+}
+
+void Parser::NewList(const Value&, std::int32_t) {
+    levels_.clear();
+    listIdentity_ = 0;
+}
+
+void Parser::NewListLevel(const Value&, std::int32_t) {
+    if (levels_.size() < kListLevels) levels_.emplace_back();
+}
+
+void Parser::ListNumberKind(const Value& value, std::int32_t) {
+    if (!levels_.empty()) levels_.back().kind = KindOfNumber(value.number);
+}
+
+void Parser::ListStart(const Value& value, std::int32_t) {
+    if (!levels_.empty()) levels_.back().start = value.number;
+}
+
+void Parser::ListIdentity(const Value& value, std::int32_t) {
+    listIdentity_ = value.number;
+    if (!levels_.empty() && lists_.size() < limits_.formats)
+        lists_[listIdentity_] = std::exchange(levels_, {});
+}
+
+void Parser::OldListKind(const Value&, std::int32_t kind) {
+    if (state_.target == Target::OldList) oldListAfterGroup_ = static_cast<ListKind>(kind);
+}
+
+} // namespace korvane::doc::rtf
