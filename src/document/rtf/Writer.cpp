@@ -1,0 +1,442 @@
+#include "document/model/ListTable.h"
+#include "document/rtf/Instruction.h"
+#include "document/rtf/Rtf.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace korvane::doc {
+
+namespace {
+
+constexpr std::int32_t kTwipsPerHalfPoint = 10;
+constexpr double kLineParts = 240;
+constexpr std::uint16_t kPlainFrame = kFrameSides | kFrameSingle | kFrameDouble;
+
+/// The colours that marker pens have in other programs.
+constexpr std::int32_t kMarkerColours[] = {0x000000, 0xFF0000, 0xFFFF00, 0x00FF00, 0xFF00FF, 0x0000FF,
+                                           0x00FFFF, 0xFFFFFF, 0x800000, 0x808000, 0x008000, 0x800080,
+                                           0x000080, 0x008080, 0x808080, 0xC0C0C0};
+
+constexpr TextView kSymbolFonts[] = {u"Symbol", u"Webdings", u"Wingdings", u"Wingdings 2", u"Wingdings 3"};
+
+void PutNumber(std::string& out, std::int64_t number) {
+    char digits[24];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
+    out.append(digits, end.ptr);
+}
+
+void PutWord(std::string& out, std::string_view word, std::int64_t number) {
+    out += word;
+    PutNumber(out, number);
+}
+
+/// Writes the word unless its number is the one that it has without it.
+void PutWordUnless(std::string& out, std::string_view word, std::int64_t number, std::int64_t usual = 0) {
+    if (number != usual) PutWord(out, word, number);
+}
+
+/// Parts a control word from the text after it. After a group a blank would be text.
+void PutDelimiter(std::string& out) {
+    if (out.back() != '}') out += ' ';
+}
+
+bool IsPlain(char16_t c) {
+    return c >= 0x20 && c < 0x7F && c != u'\\' && c != u'{' && c != u'}';
+}
+
+void PutCharacter(std::string& out, char16_t c) {
+    switch (c) {
+    case u'\\':
+        out += "\\\\";
+        return;
+    case u'{':
+        out += "\\{";
+        return;
+    case u'}':
+        out += "\\}";
+        return;
+    case u'\t':
+        out += "\\tab ";
+        return;
+    case kLineBreak:
+        out += "\\line ";
+        return;
+    case u'\u00A0':
+        out += "\\~";
+        return;
+    case u'\u00AD':
+        out += "\\-";
+        return;
+    case u'\u2011':
+        out += "\\_";
+        return;
+    default:
+        break;
+    }
+    if (c < 0x20) return;
+    PutWord(out, "\\u", static_cast<std::int16_t>(c));
+    out += '?';
+}
+
+void PutText(std::string& out, TextView text) {
+    while (!text.empty()) {
+        const auto end = std::ranges::find_if_not(text, IsPlain);
+        out.append(text.begin(), end);
+        if (end == text.end()) return;
+        PutCharacter(out, *end);
+        text.remove_prefix(static_cast<std::size_t>(end - text.begin()) + 1);
+    }
+}
+
+/// The colours of a document in the order of their numbers. 0 is no colour.
+class Colours {
+public:
+    std::int32_t NumberOf(Colour colour) {
+        if (colour == kNoColour) return 0;
+        const auto [found, added] = numbers_.try_emplace(colour.value & 0xFFFFFF, Count() + 1);
+        if (added) colours_.push_back(found->first);
+        return found->second;
+    }
+
+    void Write(std::string& out) const {
+        out += "{\\colortbl;";
+        for (const std::int32_t colour : colours_) {
+            PutWord(out, "\\red", colour & 0xFF);
+            PutWord(out, "\\green", colour >> 8 & 0xFF);
+            PutWord(out, "\\blue", colour >> 16 & 0xFF);
+            out += ';';
+        }
+        out += "}\n";
+    }
+
+private:
+    std::int32_t Count() const { return static_cast<std::int32_t>(colours_.size()); }
+
+    std::vector<std::int32_t> colours_;
+    std::map<std::int32_t, std::int32_t> numbers_;
+};
+
+class Writer {
+public:
+    Writer(const Document& document, RtfExtent extent)
+        : document_(document),
+          extent_(extent),
+          lists_(document),
+          looks_(document.chars.Size()),
+          shapes_(document.paras.Size()) {}
+
+    std::string Write() {
+        WriteBody();
+        std::string file = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n";
+        WriteFonts(file);
+        colours_.Write(file);
+        WriteLists(file);
+        if (extent_ == RtfExtent::File) WritePage(file);
+        PutWord(file, "\\deftab", document_.defaultTab);
+        file += '\n';
+        return file + out_ + "}\n";
+    }
+
+private:
+    void WriteFonts(std::string& file) const {
+        file += "{\\fonttbl";
+        for (std::size_t i = 0; i < document_.fonts.size(); ++i) {
+            const bool symbols =
+                std::ranges::find(kSymbolFonts, document_.fonts[i]) != std::end(kSymbolFonts);
+            PutWord(file, "{\\f", static_cast<std::int64_t>(i));
+            file += symbols ? "\\fnil\\fcharset2 " : "\\fnil\\fcharset0 ";
+            Text name = document_.fonts[i];
+            std::erase(name, u';');
+            PutText(file, name);
+            file += ";}";
+        }
+        file += "}\n";
+    }
+
+    void WriteLists(std::string& file) const {
+        if (lists_.Lists().empty()) return;
+        file += "{\\*\\listtable";
+        for (const auto& [number, levels] : lists_.Lists())
+            WriteList(file, number, levels);
+        file += "}\n{\\*\\listoverridetable";
+        for (const auto& [number, levels] : lists_.Lists()) {
+            PutWord(file, "{\\listoverride\\listid", number);
+            PutWord(file, "\\listoverridecount0\\ls", number);
+            file += '}';
+        }
+        file += "}\n";
+    }
+
+    static void WriteList(std::string& file, std::uint32_t number, const ListTable::Levels& levels) {
+        PutWord(file, "{\\list\\listtemplateid", number);
+        for (std::size_t i = 0; i < levels.size(); ++i) {
+            const ListMark mark = levels[i].value_or(ListMark{ListKind::Decimal});
+            const bool bullet = mark.kind == ListKind::Bullet;
+            PutWord(file, "{\\listlevel\\levelnfc", NumberOfKind(mark.kind));
+            PutWord(file, "\\leveljc0\\levelfollow0\\levelstartat", mark.start);
+            if (bullet) {
+                file += "{\\leveltext\\'01\\u8226?;}{\\levelnumbers;}}";
+                continue;
+            }
+            file += "{\\leveltext\\'02\\'0";
+            PutNumber(file, static_cast<std::int64_t>(i));
+            file += ".;}{\\levelnumbers\\'01;}}";
+        }
+        PutWord(file, "\\listid", number);
+        file += '}';
+    }
+
+    static std::int32_t NumberOfKind(ListKind kind) {
+        static constexpr std::int32_t kNumbers[] = {0, 23, 0, 4, 3, 2, 1};
+        return kNumbers[static_cast<std::size_t>(kind)];
+    }
+
+    void WritePage(std::string& file) const {
+        static constexpr std::string_view kWords[] = {"\\paperw", "\\paperh", "\\margl",
+                                                      "\\margt",  "\\margr",  "\\margb"};
+        for (std::size_t i = 0; i < Page::kSizes; ++i)
+            PutWord(file, kWords[i], document_.page.sizes[i]);
+    }
+
+    void WriteBody() {
+        const std::vector<Paragraph>& paragraphs = document_.paragraphs;
+        for (std::size_t i = 0; i < paragraphs.size(); ++i) {
+            const CellPlace& cell = paragraphs[i].cell;
+            const CellPlace before = i > 0 ? paragraphs[i - 1].cell : CellPlace{};
+            const CellPlace after = i + 1 < paragraphs.size() ? paragraphs[i + 1].cell : CellPlace{};
+            if (cell.table != 0 && (cell.table != before.table || cell.row != before.row)) BeginRow(cell);
+            WriteParagraph(paragraphs[i]);
+            EndParagraph(paragraphs[i], after);
+        }
+    }
+
+    void WriteParagraph(const Paragraph& paragraph) {
+        EnsureShape(paragraph);
+        std::size_t at = 0;
+        for (const Run& run : paragraph.runs) {
+            if (run.field != field_) ChangeField(run.field);
+            EnsureLook(run.format);
+            if (run.image != 0)
+                WriteImage(document_.images[run.image - 1]);
+            else
+                PutText(out_, TextView(paragraph.text).substr(at, run.length));
+            at += run.length;
+        }
+        if (paragraph.text.empty()) EnsureLook(paragraph.emptyFormat);
+    }
+
+    void EndParagraph(const Paragraph& paragraph, const CellPlace& after) {
+        const CellPlace& cell = paragraph.cell;
+        if (cell != after || (field_ != 0 && !Continues(&paragraph + 1))) ChangeField(0);
+        // The end of a field takes back what it changed.
+        EnsureShape(paragraph);
+        if (cell.table == 0 || cell == after)
+            out_ += "\\par\n";
+        else
+            out_ += cell.table != after.table || cell.row != after.row ? "\\cell\\row\n" : "\\cell\n";
+    }
+
+    /// Whether the field at hand goes on in the paragraph.
+    bool Continues(const Paragraph* next) const {
+        const Paragraph* const end = document_.paragraphs.data() + document_.paragraphs.size();
+        return next != end && !next->runs.empty() && next->runs.front().field == field_;
+    }
+
+    void EnsureShape(const Paragraph& paragraph) {
+        const std::pair<Index, bool> shape{paragraph.format, paragraph.cell.table != 0};
+        if (shape_ == shape) return;
+        shape_ = shape;
+        std::string& words = shapes_[paragraph.format];
+        if (words.empty()) words = ShapeWords(document_.FormatOf(paragraph));
+        out_ += words;
+        if (paragraph.cell.table != 0) out_ += "\\intbl";
+        PutDelimiter(out_);
+    }
+
+    void EnsureLook(Index look) {
+        if (look_ == look) return;
+        look_ = look;
+        std::string& words = looks_[look];
+        if (words.empty()) words = LookWords(document_.chars[look]);
+        out_ += words;
+    }
+
+    std::string LookWords(const CharFormat& look) {
+        std::string out = "\\plain";
+        PutWord(out, "\\f", look.font);
+        PutWord(out, "\\fs", look.halfPoints);
+        if (look.bold) out += "\\b";
+        if (look.italic) out += "\\i";
+        if (look.underline) out += "\\ul";
+        if (look.strike) out += "\\strike";
+        if (look.smallCaps) out += "\\scaps";
+        if (look.fore != kNoColour) PutWord(out, "\\cf", colours_.NumberOf(look.fore));
+        if (look.back != kNoColour) PutBack(out, look.back);
+        if (look.script != Script::Normal) out += look.script == Script::Raised ? "\\super" : "\\sub";
+        if (look.baseLine != 0) PutRaise(out, look.baseLine);
+        PutDelimiter(out);
+        return out;
+    }
+
+    void PutBack(std::string& out, Colour back) {
+        const std::int32_t number = colours_.NumberOf(back);
+        PutWord(out, "\\chcbpat", number);
+        if (std::ranges::find(kMarkerColours, back.value) != std::end(kMarkerColours))
+            PutWord(out, "\\highlight", number);
+    }
+
+    /// Other programs know half points only, so the exact length stands beside them.
+    static void PutRaise(std::string& out, std::int32_t baseLine) {
+        const std::int32_t length = std::abs(baseLine);
+        PutWord(out, baseLine > 0 ? "\\up" : "\\dn", (length + kTwipsPerHalfPoint / 2) / kTwipsPerHalfPoint);
+        if (length % kTwipsPerHalfPoint == 0) return;
+        PutWord(out, "{\\*\\kvbase", baseLine);
+        out += '}';
+    }
+
+    std::string ShapeWords(const ParaFormat& format) {
+        static constexpr std::string_view kAlignments[] = {"\\ql", "\\qr", "\\qc", "\\qj"};
+        std::string out = "\\pard";
+        out += kAlignments[static_cast<std::size_t>(format.alignment)];
+        PutWordUnless(out, "\\li", format.left);
+        PutWordUnless(out, "\\ri", format.right);
+        PutWordUnless(out, "\\fi", format.first);
+        PutWordUnless(out, "\\sb", format.before);
+        PutWordUnless(out, "\\sa", format.after);
+        PutSpacing(out, format);
+        PutTabs(out, format);
+        PutFrame(out, format);
+        if (format.pageBreakBefore) out += "\\pagebb";
+        if (format.list.kind != ListKind::None) {
+            PutWord(out, "\\ls", lists_.NumberOf(format.list));
+            PutWord(out, "\\ilvl", format.list.level);
+        }
+        return out;
+    }
+
+    static void PutSpacing(std::string& out, const ParaFormat& format) {
+        if (format.spacingExact > 0) {
+            PutWord(out, "\\sl", -format.spacingExact);
+            out += "\\slmult0";
+        } else if (format.spacingPercent != 100) {
+            PutWord(out, "\\sl", std::lround(format.spacingPercent * kLineParts / 100));
+            out += "\\slmult1";
+        }
+    }
+
+    static void PutTabs(std::string& out, const ParaFormat& format) {
+        static constexpr std::string_view kTypes[] = {"", "\\tqr", "\\tqc", "\\tqdec"};
+        for (const TabStop& stop : format.tabs) {
+            out += kTypes[static_cast<std::size_t>(stop.type) - 1];
+            PutWord(out, "\\tx", stop.at);
+        }
+    }
+
+    static void PutFrame(std::string& out, const ParaFormat& format) {
+        static constexpr std::pair<std::uint16_t, std::string_view> kSides[] = {{kFrameLeft, "\\brdrl"},
+                                                                                {kFrameRight, "\\brdrr"},
+                                                                                {kFrameTop, "\\brdrt"},
+                                                                                {kFrameBottom, "\\brdrb"}};
+        for (const auto& [bit, word] : kSides) {
+            if ((format.frame & bit) == 0) continue;
+            out += word;
+            out += (format.frame & kFrameDouble) != 0 ? "\\brdrdb" : "\\brdrs";
+            PutWord(out, "\\brdrw", format.frameWidth);
+            PutWord(out, "\\brsp", format.frameDistance);
+        }
+        // Other programs have no words for the rest of the frame.
+        const bool sides = (format.frame & kFrameSides) != 0;
+        const bool oneStyle = (format.frame & (kFrameSingle | kFrameDouble)) == kFrameSingle ||
+                              (format.frame & (kFrameSingle | kFrameDouble)) == kFrameDouble;
+        if (format.frame == 0 || (sides && oneStyle && (format.frame & ~kPlainFrame) == 0)) return;
+        PutWord(out, "{\\*\\kvframe", format.frame);
+        out += '}';
+    }
+
+    void ChangeField(Index field) {
+        if (field_ != 0) {
+            out_ += "}}";
+            look_.reset();
+            shape_.reset();
+        }
+        field_ = field;
+        if (field == 0) return;
+        const auto found = document_.fields.find(field);
+        out_ += "{\\field{\\*\\fldinst ";
+        PutText(out_, rtf::WriteInstruction(found == document_.fields.end() ? Field{} : found->second));
+        out_ += "}{\\fldrslt ";
+        look_.reset();
+    }
+
+    void WriteImage(const Image& image) {
+        if (image.kind == ImageKind::Other) return;
+        static constexpr char kDigits[] = "0123456789abcdef";
+        out_ +=
+            image.kind == ImageKind::Png ? "{\\*\\shppict{\\pict\\pngblip" : "{\\*\\shppict{\\pict\\jpegblip";
+        PutWord(out_, "\\picwgoal", image.width);
+        PutWord(out_, "\\pichgoal", image.height);
+        out_ += '\n';
+        for (const char byte : image.bytes.View()) {
+            const unsigned char value = static_cast<unsigned char>(byte);
+            out_ += kDigits[value >> 4];
+            out_ += kDigits[value & 15];
+        }
+        out_ += "}}";
+    }
+
+    void BeginRow(const CellPlace& cell) {
+        const TableRow& row = document_.tables.at(cell.table).rows[cell.row];
+        const std::optional<std::int32_t> left = row.cells.empty() ? std::nullopt : row.cells[0].left;
+        out_ += "\\trowd";
+        if (left) PutWord(out_, "\\trleft", *left);
+        std::int64_t edge = left.value_or(0);
+        for (const CellFormat& format : row.cells) {
+            edge += format.width;
+            PutCell(format, edge);
+        }
+        out_ += '\n';
+        shape_.reset();
+    }
+
+    void PutCell(const CellFormat& cell, std::int64_t edge) {
+        static constexpr std::pair<Side, std::string_view> kSides[] = {{Side::Top, "\\clbrdrt"},
+                                                                       {Side::Left, "\\clbrdrl"},
+                                                                       {Side::Bottom, "\\clbrdrb"},
+                                                                       {Side::Right, "\\clbrdrr"}};
+        for (const auto& [side, word] : kSides) {
+            const std::int32_t width = cell.border[static_cast<std::size_t>(side)];
+            if (width == 0) continue;
+            out_ += word;
+            PutWord(out_, "\\brdrs\\brdrw", width);
+        }
+        if (cell.back != kNoColour) PutWord(out_, "\\clcbpat", colours_.NumberOf(cell.back));
+        if (cell.gapLeft != 0) PutWord(out_, "\\clpadfl3\\clpadl", cell.gapLeft);
+        if (cell.gapRight != 0) PutWord(out_, "\\clpadfr3\\clpadr", cell.gapRight);
+        PutWord(out_, "\\cellx", edge);
+    }
+
+    const Document& document_;
+    RtfExtent extent_;
+    ListTable lists_;
+    Colours colours_;
+    /// The words of the formats that were used so far.
+    std::vector<std::string> looks_;
+    std::vector<std::string> shapes_;
+    std::string out_;
+    std::optional<Index> look_;
+    std::optional<std::pair<Index, bool>> shape_;
+    Index field_ = 0;
+};
+
+} // namespace
+
+std::string WriteRtf(const Document& document, RtfExtent extent) {
+    return Writer(document, extent).Write();
+}
+
+} // namespace korvane::doc
