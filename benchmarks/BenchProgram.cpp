@@ -5,7 +5,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 
 namespace korvane::bench {
 
@@ -19,12 +18,6 @@ void BenchProgram::Load(const std::string& path) {
     if (grid.RowCount() == kMaxRows && grid.ColCount() == MaxColumns) return;
     std::fputs("the table at the limit didn't load\n", stderr);
     std::exit(1);
-}
-
-double ThreadSeconds() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
 } // namespace korvane::bench

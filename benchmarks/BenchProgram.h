@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ThreadTime.h"
 #include "common/text/CodePage.h"
 #include "context/App.h"
 #include "controls/FormHost.h"
@@ -61,15 +62,5 @@ public:
     void Load();
     void Load(const std::string& path);
 };
-
-/// The processor time of the calling thread in seconds.
-double ThreadSeconds();
-
-template <class Work>
-double SecondsOf(const Work& work) {
-    const double start = ThreadSeconds();
-    work();
-    return ThreadSeconds() - start;
-}
 
 } // namespace korvane::bench
