@@ -168,6 +168,9 @@ public:
     /// the current one then. This isn't noted itself. The table has to be as the changes left it.
     virtual void TurnChanges(GridChanges& changes) = 0;
 
+    /// This number grows with each change of what the table holds or how it looks, and sometimes without one.
+    virtual std::uint64_t ChangeCount() const = 0;
+
     /// At most one listener; nullptr takes it away. The caller owns it.
     virtual void SetListener(GridListener* listener) = 0;
 

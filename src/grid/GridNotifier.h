@@ -2,6 +2,7 @@
 
 #include "grid/Grid.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace korvane {
@@ -9,6 +10,9 @@ namespace korvane {
 /// Tells a grid's listener what changed, or holds it back while an update bracket is open.
 class GridNotifier {
 public:
+    /// How often the table has changed, also inside brackets.
+    std::uint64_t Changes() const { return changes_; }
+
     void SetListener(GridListener* listener) { listener_ = listener; }
 
     void Open() { ++depth_; }
@@ -19,15 +23,19 @@ public:
 
     /// Something in the row changed.
     void RowChanged(Row row) {
+        ++changes_;
         if (Hears()) listener_->RowsChanged(row, row);
     }
     void TableChanged() {
+        ++changes_;
         if (Hears()) listener_->TableChanged();
     }
     void ColumnChanged(Col col) {
+        ++changes_;
         if (Hears()) listener_->ColumnChanged(col);
     }
     void LookChanged() {
+        ++changes_;
         if (Hears()) listener_->LookChanged();
     }
     void CurrentCellChanged() {
@@ -47,6 +55,7 @@ private:
     void TellWhatWasKeptBack();
 
     GridListener* listener_ = nullptr;
+    std::uint64_t changes_ = 0;
     int depth_ = 0;
     bool keptBack_ = false;
     std::optional<Row> wantedRow_;

@@ -101,6 +101,8 @@ public:
     std::unique_ptr<GridChanges> TakeNotedChanges() override;
     void TurnChanges(GridChanges& changes) override;
 
+    std::uint64_t ChangeCount() const override { return notifier_.Changes(); }
+
     void SetListener(GridListener* listener) override { notifier_.SetListener(listener); }
 
 private:

@@ -72,6 +72,8 @@ public:
     /// The same for a file that only its owner may read, also when others could read it before. On a disk
     /// that doesn't know owners it is `OpenRaw`.
     virtual std::unique_ptr<FileWriter> OpenPrivate(TextView path) { return OpenRaw(path); }
+    /// Whether the file is there and may be written.
+    virtual bool CanWrite(TextView path) const { return FileExists(path); }
     /// Removes a file; one that can't be written is refused. For a symbolic link, the file that it names is
     /// emptied and the link stays, so that a save goes through the link.
     virtual bool Remove(TextView path) = 0;

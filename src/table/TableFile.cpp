@@ -10,6 +10,7 @@
 #include "table/TabContext.h"
 #include "table/TableHistory.h"
 #include "table/TableHost.h"
+#include "table/TableKeeper.h"
 #include "table/TableModel.h"
 #include "table/TbxReader.h"
 #include "table/TbxWriter.h"
@@ -65,14 +66,14 @@ bool FillTable(const TabContext& tab, const SharedBytes& bytes) {
     return false;
 }
 
-void WriteTable(const TabContext& tab, FileWriter& file) {
+void WriteTable(const TabContext& tab, FileWriter& file, SaveGuard& guard) {
     const Hourglass hourglass(tab.app.Screen());
     tab.app.Screen().ProcessMessages();
     tab.table.TakeHeightOfCurrentRow();
     if (tab.history != nullptr) tab.history->IgnoreRowHeight();
     TbxWriter(tab.table, file).Write();
     file.Close();
-    tab.table.TableAltered = 0;
+    tab.table.TableAltered = guard.Finish() ? 0 : 1;
     tab.app.Clock().Wait(kWaitAfterSave);
 }
 
@@ -99,16 +100,18 @@ void ReadTableData(const TabContext& tab) {
 void SaveThisTable(const TabContext& tab) {
     App& app = tab.app;
     TableModel& table = tab.table;
+    const auto guard = GuardSave(tab);
     // The old file isn't moved aside: from here on its contents are gone, even if the new ones can't be
-    // written.
+    // written, unless somebody guards the save.
     DeleteFileQuietly(app, table.TxtDbFile);
+    guard->OldFileDeleted();
     const auto file = app.Files().OpenRaw(table.TxtDbFile);
     if (!file) {
         ShowCannotAccess(app, table.TxtDbFile);
         table.GridStore().GridSetFocus();
         return;
     }
-    WriteTable(tab, *file);
+    WriteTable(tab, guard->Watch(*file), *guard);
     table.GridStore().GridSetFocus();
 }
 

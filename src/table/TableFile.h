@@ -9,7 +9,7 @@ struct TabContext;
 void ReadTableData(const TabContext& tab);
 
 /// Writes the table to the file `TxtDbFile`, over what it held; shows a message when that fails, and then
-/// leaves `TableAltered` as it was.
+/// leaves `TableAltered` as it was. A `TableKeeper` guards what may be lost.
 void SaveThisTable(const TabContext& tab);
 
 } // namespace korvane

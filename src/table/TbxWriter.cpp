@@ -34,8 +34,8 @@ std::string_view WithoutFinalLineEnd(std::string_view text) {
 
 } // namespace
 
-TbxWriter::TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize)
-    : table_(table), grid_(table.GridStore()), output_(file, chunkSize) {
+TbxWriter::TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize, TbxContent content)
+    : table_(table), grid_(table.GridStore()), output_(file, chunkSize), content_(content) {
     for (Col col{1}; col <= grid_.ColCount(); ++col)
         cellHeads_.push_back("@col_" + std::to_string(col.Number()) + "\r\n");
 }
@@ -47,7 +47,7 @@ void TbxWriter::Write() {
     PutColumns();
     PutTitle(tbx::kDataTitle);
     for (Row row{1}; row <= grid_.RowCount(); ++row)
-        if (CellBytes(row, Col{1}) != tbx::kDeleteMark) PutRow(row);
+        if (content_ == TbxContent::Whole || CellBytes(row, Col{1}) != tbx::kDeleteMark) PutRow(row);
     PutTitle(std::string(tbx::kEndTitle) + ToBytes(table_.TxtDbFile));
     output_.Flush();
 }
@@ -116,7 +116,8 @@ void TbxWriter::PutCells(Row row) {
     Col col{1};
     for (const std::string& head : cellHeads_) {
         output_.Put(head);
-        output_.Put(WithoutFinalLineEnd(CellBytes(row, col)));
+        const std::string_view text = CellBytes(row, col);
+        output_.Put(content_ == TbxContent::Whole ? text : WithoutFinalLineEnd(text));
         output_.Put(tbx::kLineEnd);
         ++col;
     }

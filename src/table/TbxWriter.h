@@ -6,6 +6,7 @@
 #include "platform/ChunkedOutput.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,11 +16,16 @@ namespace korvane {
 class FileWriter;
 class TableModel;
 
+/// What a writer makes of rows that are marked for deletion and of the final line ends of texts: a saved file
+/// leaves them out, and a kept table has them.
+enum class TbxContent : std::uint8_t { Saved, Whole };
+
 /// Writes a table in the form of `.tbx` files. Colour, font and row height of the table come from the model,
 /// all else from the grid.
 class TbxWriter {
 public:
-    TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize = ChunkedOutput::kUsualChunk);
+    TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize = ChunkedOutput::kUsualChunk,
+              TbxContent content = TbxContent::Saved);
 
     void Write();
 
@@ -37,6 +43,7 @@ private:
     const TableModel& table_;
     const Grid& grid_;
     ChunkedOutput output_;
+    TbxContent content_;
     /// For each column, what is written before its text in a row.
     std::vector<std::string> cellHeads_;
     /// The bytes of a text that the code page can't hold in full.

@@ -156,6 +156,11 @@ bool MemoryFileSystem::CanOpenToWrite(const Place& place) {
     return true;
 }
 
+bool MemoryFileSystem::CanWrite(TextView path) const {
+    const Place place = Find(path);
+    return IsFile(place) && !place.volume->readOnly && !place.node->readOnly;
+}
+
 bool MemoryFileSystem::Remove(TextView path) {
     if (Strikes(FileStep::Remove)) return false;
     const Place place = Find(path, LastLink::Keep);

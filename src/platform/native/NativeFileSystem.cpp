@@ -169,6 +169,10 @@ std::unique_ptr<FileWriter> NativeFileSystem::OpenWith(const std::optional<syste
     return std::make_unique<Writer>(std::move(file), lastError_);
 }
 
+bool NativeFileSystem::CanWrite(TextView path) const {
+    return FileExists(path) && system_calls::IsWritable(ToNativePath(path));
+}
+
 bool NativeFileSystem::Remove(TextView path) {
     const fs::path native = ToNativePath(path);
     if (!CanRemove(native)) return false;
