@@ -83,7 +83,10 @@ void frmCopyMove::Wire() {
         key.consumed = true;
         Stop();
     };
-    cmdOk.KeyDown = KeysOf(*this, Tables::kOkKeys);
+    cmdOk.KeyDown = [this](KeyEvent& key) {
+        // In an idle window the key closes it.
+        if (running_) RunKey(Tables::kOkKeys, *this, key);
+    };
     folders_.FolderChanged = [this] { txtFullPath.Text = folders_.Folder(); };
     TreeView1.KeyDown = KeysOf(*this, Tables::kTreeKeys);
     txtTargetName.KeyDown = [this](KeyEvent& key) { txtTargetName_KeyDown(key); };

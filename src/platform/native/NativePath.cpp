@@ -1,6 +1,66 @@
 #include "platform/native/NativePath.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 namespace korvane {
+
+#ifndef _WIN32
+namespace {
+
+// A byte that isn't part of a UTF-8 character becomes the second half of a pair that stands alone. No
+// character is written so.
+constexpr char16_t kByteUnits = 0xDC00;
+constexpr char16_t kFirstByteUnit = kByteUnits + 0x80;
+constexpr char16_t kLastByteUnit = kByteUnits + 0xFF;
+
+bool IsHighHalf(char16_t unit) {
+    return unit >= 0xD800 && unit < kByteUnits;
+}
+
+bool IsByteUnit(TextView text, std::size_t at) {
+    const bool second = at > 0 && IsHighHalf(text[at - 1]);
+    return text[at] >= kFirstByteUnit && text[at] <= kLastByteUnit && !second;
+}
+
+/// The length of the character with which the bytes begin, or 0 when they begin with none.
+std::size_t CharacterLength(std::string_view bytes) {
+    constexpr std::size_t kLongest = 4;
+    for (std::size_t length = 1; length <= std::min(kLongest, bytes.size()); ++length) {
+        if (IsUtf8(bytes.substr(0, length))) return length;
+    }
+    return 0;
+}
+
+Text FromAnyBytes(std::string_view bytes) {
+    Text text;
+    while (!bytes.empty()) {
+        const std::size_t length = CharacterLength(bytes);
+        if (length == 0) {
+            text += static_cast<char16_t>(kByteUnits + static_cast<unsigned char>(bytes.front()));
+        } else {
+            text += FromUtf8(bytes.substr(0, length));
+        }
+        bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    }
+    return text;
+}
+
+std::string ToAnyBytes(TextView text) {
+    std::string bytes;
+    std::size_t start = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (!IsByteUnit(text, at)) continue;
+        bytes += ToUtf8(text.substr(start, at - start));
+        bytes += static_cast<char>(text[at] - kByteUnits);
+        start = at + 1;
+    }
+    return bytes + ToUtf8(text.substr(start));
+}
+
+} // namespace
+#endif
 
 std::filesystem::path ToNativePath(TextView path) {
     // The system would read the name only up to the null, and so open another file.
@@ -8,7 +68,7 @@ std::filesystem::path ToNativePath(TextView path) {
 #ifdef _WIN32
     return Text(path);
 #else
-    return ToUtf8(path);
+    return ToAnyBytes(path);
 #endif
 }
 
@@ -16,7 +76,7 @@ Text FromNativePath(const std::filesystem::path& path) {
 #ifdef _WIN32
     return path.u16string();
 #else
-    return FromUtf8(path.native());
+    return IsUtf8(path.native()) ? FromUtf8(path.native()) : FromAnyBytes(path.native());
 #endif
 }
 

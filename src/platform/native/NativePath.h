@@ -6,8 +6,9 @@
 
 namespace korvane {
 
-/// On the disk file names are UTF-8, or 16-bit code units where the system uses these. The path is empty for
-/// a text that can't be a file's name.
+/// On the disk file names are UTF-8, or 16-bit code units where the system uses these. A name that isn't
+/// valid UTF-8 has a text too, which leads back to the same name. The path is empty for a text that can't be
+/// a file's name.
 std::filesystem::path ToNativePath(TextView path);
 Text FromNativePath(const std::filesystem::path& path);
 

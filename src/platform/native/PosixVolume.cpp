@@ -25,7 +25,9 @@ std::optional<VolumeInfo> VolumeAt(const fs::path& path) {
     const Mount mount = MountOf(MountTable(), plain.native()).value_or(Mount{"/", ""});
     VolumeInfo info{
         .type = TypeOf(mount), .name = FromNativePath(NameOf(mount)), .root = FromNativePath(mount.point)};
-    const fs::space_info space = fs::space(mount.point, error);
+    // A folder can have less room than its volume, as where users have their shares.
+    fs::space_info space = fs::space(plain, error);
+    if (error) space = fs::space(mount.point, error);
     if (error) {
         info.ready = false;
         return info;

@@ -166,6 +166,39 @@ TEST_F(NativeFiles, ADeviceKeepsItsRights) {
     EXPECT_EQ(fs::status("/dev/null").permissions(), before);
 }
 
+// Names that aren't valid text.
+
+TEST_F(NativeFiles, AnyBytesCanBeAName) {
+    const std::string names[] = {"\xFF",         "a\xE4.txt",    "\xC3",
+                                 "\xED\xB2\x80", "\xF0\x9F\x98", "\xC3\xA4\xA4z"};
+    for (const std::string& name : names) {
+        WriteBytes(dir / name, name);
+        const std::vector<Text> found = files.FileNames(At("."), u"*");
+        ASSERT_EQ(found.size(), 1u);
+        const Text path = At(".") + u"/" + found.front();
+        EXPECT_EQ(files.ReadAll(path)->View(), name);
+        EXPECT_EQ(files.Copy(path, At("copy")), CopyOutcome::Copied);
+        EXPECT_TRUE(files.Rename(path, At("renamed")));
+        EXPECT_FALSE(fs::exists(dir / name));
+        fs::remove(dir / "copy");
+        fs::remove(dir / "renamed");
+    }
+}
+
+TEST_F(NativeFiles, NamesThatDifferInSuchBytesAreDifferentTexts) {
+    WriteBytes(dir / "a\xE4", "");
+    WriteBytes(dir / "a\xE5", "");
+    const std::vector<Text> found = files.FileNames(At("."), u"*");
+    ASSERT_EQ(found.size(), 2u);
+    EXPECT_NE(found[0], found[1]);
+}
+
+TEST_F(NativeFiles, ACharacterOfTwoUnitsIsWrittenAsOne) {
+    // The second half is among those that stand for bytes when they are alone.
+    EXPECT_EQ(ToNativePath(u"\xD83D\xDCC1").native(), "\xF0\x9F\x93\x81");
+    EXPECT_EQ(FromNativePath("\xF0\x9F\x93\x81"), u"\xD83D\xDCC1");
+}
+
 // Volumes.
 
 TEST(NativeVolume, OfTheRootHoldsBytes) {
