@@ -25,6 +25,7 @@
 #include <fstream>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace korvane::bench {
@@ -99,9 +100,12 @@ int RunJob(const Stage& stage) {
     MemoryInstanceChannel instance;
     NoForms forms;
     App app({files, messages, clipboard, clock, screen, shell, instance, forms, [] { return nullptr; }});
-    CopyJob::Task task{.sourceFolder = FromNativePath(stage.from), .targetFolder = FromNativePath(stage.to)};
+    std::vector<Text> items;
     for (const std::string& name : stage.names)
-        task.items.push_back(FromUtf8(name));
+        items.push_back(FromUtf8(name));
+    const CopyJob::Task task{.sourceFolder = FromNativePath(stage.from),
+                             .items = std::move(items),
+                             .targetFolder = FromNativePath(stage.to)};
     CopyMoveRun run;
     CopyJob job(app, task, run, {[&screen] { screen.ProcessMessages(); }, [] {}});
     while (job.Step()) {

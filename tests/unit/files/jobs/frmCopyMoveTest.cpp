@@ -197,6 +197,13 @@ TEST_F(CopyMoveTest, EscLeavesAnIdleWindow) {
     });
 }
 
+TEST_F(CopyMoveTest, EscLeavesAnIdleWindowFromTheButtonToo) {
+    Show([](frmCopyMove& f) {
+        EXPECT_FALSE(Press(f.cmdOk, Key::Escape));
+        f.Close();
+    });
+}
+
 // The job.
 
 TEST_F(CopyMoveTest, CopiesTheMarkedFilesAndAsksAtTheEnd) {
@@ -538,6 +545,97 @@ TEST_F(CopyMoveTest, TakesItsTargetFromTheFavourites) {
     EXPECT_THAT(favourites.modes, ElementsAre(1, 1));
     EXPECT_EQ(t.app.Exchange<FolderPick>().FavouritePickMode, 0);
     EXPECT_EQ(t.app.Exchange<ListerRequest>().ListerFolder, u"C:\\To\\sub");
+}
+
+// Where there are no drives.
+
+struct PosixCopyMoveTest : testing::Test {
+    PosixCopyMoveTest() {
+        t.files.AddFile(u"/from/a", "first");
+        t.files.AddDir(u"/to/sub");
+        t.files.ChangeDir(u"/from");
+        request.CopyMoveKind = 1;
+        request.CopySourceFolder = u"/from";
+        request.lstMarkedFiles = {u"a"};
+    }
+    template <class ScriptT>
+    void Show(ScriptT script) {
+        t.user.On<frmCopyMove>(script);
+        frmCopyMove(t.app).ShowModal();
+    }
+
+    TestApp t{PathStyle::Posix};
+    CopyMoveRequest& request = t.app.Exchange<CopyMoveRequest>();
+};
+
+TEST_F(PosixCopyMoveTest, CopiesToAFolderOfTheTree) {
+    Show([this](frmCopyMove& f) {
+        f.TreeView1.Select(u"/to");
+        EXPECT_EQ(f.txtFullPath.Text.Get(), u"/to");
+        t.user.Answer(
+            {u"1 file(s) copied to this folder:\r\n\r\n/to\r\n\r\nView folder with Windows Explorer?",
+             MessageIcon::Question, MessageButtons::YesNo},
+            Answer::Yes);
+        f.cmdOk.Press();
+    });
+    EXPECT_EQ(t.files.Contents(u"/to/a"), "first");
+    EXPECT_THAT(t.shell.Opened(),
+                ElementsAre(OpenRequest{.verb = u"explore", .file = u"/to", .directory = u"/to"}));
+}
+
+TEST_F(PosixCopyMoveTest, AFolderInAnotherCaseIsAnotherFolder) {
+    t.files.AddDir(u"/FROM");
+    Show([this](frmCopyMove& f) {
+        f.TreeView1.Select(u"/FROM");
+        t.user.Answer(
+            {u"1 file(s) copied to this folder:\r\n\r\n/FROM\r\n\r\nView folder with Windows Explorer?",
+             MessageIcon::Question, MessageButtons::YesNo},
+            Answer::No);
+        f.cmdOk.Press();
+    });
+    EXPECT_EQ(t.files.Contents(u"/FROM/a"), "first");
+}
+
+TEST_F(PosixCopyMoveTest, ALinkToTheSourceFolderIsTheSourceFolder) {
+    t.files.AddLink(u"/way", u"/from");
+    Show([this](frmCopyMove& f) {
+        f.TreeView1.Select(u"/way");
+        t.user.Answer({u"Source and Target directories must be different!", MessageIcon::Exclamation},
+                      Answer::Ok);
+        f.cmdOk.Press();
+        f.Close();
+    });
+}
+
+TEST_F(PosixCopyMoveTest, TheRootIsNotDeletedAndTakesFolders) {
+    Show([this](frmCopyMove& f) {
+        f.TreeView1.Select(u"/");
+        t.user.Answer({u"You cannot delete the root directory!", MessageIcon::Stop}, Answer::Ok);
+        f.cmdDelDir.Press();
+        t.user.On<frmNewDir>([](frmNewDir& dialog) {
+            dialog.Text1.Type(u"new");
+            dialog.cmdAccept.Press();
+        });
+        f.cmdNewDir.Press();
+        EXPECT_EQ(f.txtFullPath.Text.Get(), u"/new");
+        EXPECT_EQ(f.TreeView1.Selected(), u"/new");
+        f.Close();
+    });
+    EXPECT_TRUE(t.files.DirExists(u"/new"));
+}
+
+TEST_F(PosixCopyMoveTest, AShortFolderIsDeletedAsAnyOther) {
+    t.files.AddDir(u"/a");
+    Show([this](frmCopyMove& f) {
+        f.TreeView1.Select(u"/a");
+        t.user.Answer({u"Do you wish to delete this directory ?\r\n\r\n/a", MessageIcon::Exclamation,
+                       MessageButtons::YesNo, 2},
+                      Answer::Yes);
+        f.cmdDelDir.Press();
+        EXPECT_EQ(f.txtFullPath.Text.Get(), u"/");
+        f.Close();
+    });
+    EXPECT_FALSE(t.files.DirExists(u"/a"));
 }
 
 } // namespace
