@@ -6,6 +6,7 @@
 #include "controls/RowsControl.h"
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace korvane {
@@ -75,6 +76,10 @@ public:
     /// Sorts as the window wants: `order` names for each row, from the first on, the row that comes to stand
     /// there. Nothing happens unless it names each row once.
     void Reorder(const std::vector<int>& order);
+
+    /// The full paths of the files that the picked rows are; unset where rows aren't files. The user can drag
+    /// such rows to other programs, which get copies of the files.
+    std::function<std::vector<Text>()> FilesToDrag;
 
     std::function<void()> ItemClick;
     std::function<void()> DblClick;

@@ -1,5 +1,9 @@
 #include "platform/qt/lists/ItemsAdaptor.h"
 
+#include "platform/qt/base/Convert.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
 #include <utility>
 
 namespace korvane {
@@ -31,7 +35,18 @@ void ItemsAdaptor::Flush() {
 
 bool ItemsAdaptor::eventFilter(QObject* watched, QEvent* event) {
     Flush();
-    return watched == &view_ && ControlAdaptor::eventFilter(watched, event);
+    if (watched == &view_) return ControlAdaptor::eventFilter(watched, event);
+    return event->type() == QEvent::ToolTip && ShowCutText(*static_cast<QHelpEvent*>(event));
+}
+
+bool ItemsAdaptor::ShowCutText(const QHelpEvent& help) const {
+    const QModelIndex index = view_.indexAt(help.pos());
+    const QRect cell = view_.visualRect(index);
+    const int seen = (cell & view_.viewport()->rect()).width();
+    if (!index.isValid() || view_.sizeHintForIndex(index).width() <= seen) return false;
+    const Text text = ToText(index.data().toString());
+    QToolTip::showText(help.globalPos(), PlainToolTip(text), view_.viewport(), cell);
+    return true;
 }
 
 } // namespace korvane

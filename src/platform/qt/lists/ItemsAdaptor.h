@@ -5,6 +5,8 @@
 #include <QAbstractItemView>
 #include <QScopedValueRollback>
 
+class QHelpEvent;
+
 namespace korvane {
 
 /// The base of the adaptors of lists and trees. What the program changes is held back, however often it does
@@ -44,6 +46,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Shows the whole text of the cell under the mouse if it is cut off.
+    bool ShowCutText(const QHelpEvent& help) const;
+
     QAbstractItemView& view_;
     bool viewGoes_ = false;
     bool heldBack_ = false;

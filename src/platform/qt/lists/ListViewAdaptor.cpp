@@ -59,6 +59,7 @@ void ListViewAdaptor::WriteShape() {
         widget_.setColumnWidth(static_cast<int>(column), ToPixels(columns[column].width));
     widget_.setSelectionMode(list_.MultiSelect ? QAbstractItemView::ExtendedSelection
                                                : QAbstractItemView::SingleSelection);
+    widget_.setDragEnabled(list_.FilesToDrag != nullptr);
     const bool lined = dynamic_cast<const LinedDelegate*>(widget_.itemDelegate()) != nullptr;
     if (list_.GridLines && !lined) widget_.setItemDelegate(new LinedDelegate(&widget_));
     widget_.viewport()->update();

@@ -2,8 +2,12 @@
 
 #include "platform/qt/base/Convert.h"
 
+#include <QDir>
 #include <QIcon>
+#include <QMimeData>
+#include <QUrl>
 #include <array>
+#include <memory>
 
 namespace korvane {
 
@@ -66,14 +70,36 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
     if (!Holds(index)) return Qt::NoItemFlags;
-    const auto row = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return list_.CheckBoxes ? row | Qt::ItemIsUserCheckable : row;
+    Qt::ItemFlags row = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    row.setFlag(Qt::ItemIsUserCheckable, list_.CheckBoxes);
+    row.setFlag(Qt::ItemIsDragEnabled, list_.FilesToDrag != nullptr);
+    return row;
 }
 
 bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!Holds(index) || role != Qt::CheckStateRole) return false;
     list_.SetChecked(index.row() + 1, value.toInt() == Qt::Checked);
     return true;
+}
+
+QModelIndexList ListViewModel::match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                                     Qt::MatchFlags flags) const {
+    return RowsModel::match(start.siblingAtColumn(0), role, value, hits, flags);
+}
+
+QStringList ListViewModel::mimeTypes() const {
+    return {QStringLiteral("text/uri-list")};
+}
+
+QMimeData* ListViewModel::mimeData(const QModelIndexList&) const {
+    if (!Attached() || !list_.FilesToDrag) return nullptr;
+    QList<QUrl> urls;
+    for (const Text& path : list_.FilesToDrag())
+        urls += QUrl::fromLocalFile(QDir::fromNativeSeparators(ToQString(path)));
+    if (urls.isEmpty()) return nullptr;
+    auto data = std::make_unique<QMimeData>();
+    data->setUrls(urls);
+    return data.release();
 }
 
 } // namespace korvane

@@ -20,6 +20,15 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// Takes a check mark that the user set or took away.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    /// What the user types is the beginning of a name, whichever column he clicked.
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override;
+
+    // Rows that are dragged to other programs.
+    Qt::DropActions supportedDragActions() const override { return Qt::CopyAction; }
+    QStringList mimeTypes() const override;
+    /// nullptr when there are no files to drag.
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
 protected:
     int ControlRows() const override { return list_.Count(); }
