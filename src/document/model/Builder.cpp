@@ -119,10 +119,13 @@ void Builder::PlaceCells(Index table, Index row) {
 
 void Builder::EndRow(std::vector<CellFormat> cells) {
     if (!InRow()) return;
+    // A cell that is still open is the first one of the next row.
+    const std::size_t nextRow = cellEnds_.back();
     cells_ += cellEnds_.size();
     if (cells_ > limits_.cells) {
         // The texts stay as plain paragraphs.
         cellEnds_.clear();
+        rowStart_ = nextRow;
         return Tell(Trouble::OverLimit);
     }
     if (table_ == 0) table_ = ++tables_;
@@ -131,6 +134,7 @@ void Builder::EndRow(std::vector<CellFormat> cells) {
     PlaceCells(table_, static_cast<Index>(table.rows.size()));
     table.rows.push_back({std::move(cells)});
     cellEnds_.clear();
+    rowStart_ = nextRow;
 }
 
 Document Builder::Finish(const ParaFormat& last) {

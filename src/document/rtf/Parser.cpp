@@ -343,6 +343,7 @@ void Parser::EndPicture() {
     if (picture_.kind != ImageKind::Other) picture_.bytes = Share(pictureBytes_);
     pictureBytes_.clear();
     pictureBytes_.shrink_to_fit();
+    halfByte_ = false;
     if (state_.hidden) return;
     Prepare();
     builder_.AddImage(std::exchange(picture_, {}));

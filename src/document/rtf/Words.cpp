@@ -1,6 +1,5 @@
+#include "document/model/NameTable.h"
 #include "document/rtf/Parser.h"
-
-#include <array>
 
 namespace korvane::doc::rtf {
 
@@ -230,39 +229,10 @@ struct WordTable {
         {"pnucrm", &P::OldListKind, Number(ListKind::UpperRoman)},
         {"pnlcrm", &P::OldListKind, Number(ListKind::LowerRoman)},
     };
-
-    static constexpr std::size_t kSlots = 1024;
-
-    static constexpr std::size_t SlotOf(std::string_view name) {
-        std::uint32_t hash = 0x811C9DC5u;
-        for (const char c : name)
-            hash = (hash ^ static_cast<unsigned char>(c)) * 0x01000193u;
-        return (hash ^ hash >> 15) % kSlots;
-    }
-
-    /// Each slot has the number of a row, counted from 1. A row whose slot is taken has the next free one.
-    static constexpr std::array<std::uint8_t, kSlots> MakeSlots() {
-        static_assert(std::size(kRows) < 256);
-        std::array<std::uint8_t, kSlots> slots{};
-        std::uint8_t number = 0;
-        for (const Words::Row& row : kRows) {
-            std::size_t slot = SlotOf(row.name);
-            while (slots[slot] != 0)
-                slot = (slot + 1) % kSlots;
-            slots[slot] = ++number;
-        }
-        return slots;
-    }
 };
 
 const Words::Row* Words::Find(std::string_view name) {
-    static constexpr std::array<std::uint8_t, WordTable::kSlots> kSlots = WordTable::MakeSlots();
-    for (std::size_t slot = WordTable::SlotOf(name); kSlots[slot] != 0;
-         slot = (slot + 1) % WordTable::kSlots) {
-        const Row& row = WordTable::kRows[kSlots[slot] - 1];
-        if (row.name == name) return &row;
-    }
-    return nullptr;
+    return NameTable<WordTable::kRows>::Find(name);
 }
 
 } // namespace korvane::doc::rtf

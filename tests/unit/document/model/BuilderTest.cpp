@@ -64,6 +64,23 @@ TEST(Builder, ARowWithoutItsEndStays) {
     EXPECT_TRUE(IsSound(document));
 }
 
+TEST(Builder, ACellThatIsOpenAtARowsEndBeginsTheNextRow) {
+    Builder builder({});
+    builder.AddAscii("a");
+    builder.EndCell({});
+    builder.OpenCell();
+    builder.AddAscii("b");
+    builder.EndParagraph({});
+    builder.EndRow({});
+    builder.AddAscii("c");
+    builder.EndCell({});
+    builder.EndRow({});
+    const Document document = builder.Finish({});
+    EXPECT_TRUE(IsSound(document));
+    EXPECT_EQ(document.tables.at(1).rows.size(), 2u);
+    EXPECT_EQ(document.paragraphs[1].cell, (CellPlace{1, 1, 0}));
+}
+
 TEST(Builder, TextBeyondTheLimitIsLeftOut) {
     Limits limits;
     limits.characters = 10;
