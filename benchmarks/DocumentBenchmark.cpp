@@ -3,6 +3,7 @@
 
 #include "Contest.h"
 #include "ThreadTime.h"
+#include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
 
 #include <cstdlib>
@@ -55,6 +56,18 @@ std::size_t RtfMarks(std::string_view bytes) {
     return marks;
 }
 
+/// Finds tags.
+std::size_t HtmlMarks(std::string_view bytes) {
+    std::size_t marks = 0;
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+        if (bytes[at] != '<') continue;
+        ++marks;
+        while (at + 1 < bytes.size() && bytes[at + 1] != '>')
+            ++at;
+    }
+    return marks;
+}
+
 template <class Floor, class Work>
 void Compare(benchmark::State& state, const Floor& floor, const Work& work) {
     Contest contest(state);
@@ -79,8 +92,25 @@ void WriteLongRtf(benchmark::State& state) {
     state.counters["bytes"] = static_cast<double>(bytes.size());
 }
 
+void ReadLongHtml(benchmark::State& state) {
+    const std::string bytes = WriteHtml(LongLetter());
+    Compare(
+        state, [&] { return HtmlMarks(bytes); }, [&] { return ReadHtml(bytes); });
+    state.counters["bytes"] = static_cast<double>(bytes.size());
+}
+
+void WriteLongHtml(benchmark::State& state) {
+    const Document document = LongLetter();
+    const std::string bytes = WriteHtml(document);
+    Compare(
+        state, [&] { return HtmlMarks(bytes); }, [&] { return WriteHtml(document); });
+    state.counters["bytes"] = static_cast<double>(bytes.size());
+}
+
 BENCHMARK(ReadLongRtf)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
 BENCHMARK(WriteLongRtf)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(ReadLongHtml)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+BENCHMARK(WriteLongHtml)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
 
 } // namespace
 
