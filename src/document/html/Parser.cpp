@@ -17,6 +17,9 @@ constexpr std::size_t kMostAttributes = 64;
 /// A file tells its encoding within so many bytes.
 constexpr std::size_t kHead = 1024;
 
+/// Stands for the file around all elements.
+constexpr Element kRoot{"", Nature::Block};
+
 bool IsBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\f';
 }
@@ -57,7 +60,7 @@ Parser::Parser(std::string_view bytes, const Limits& limits)
     : bytes_(bytes.substr(0, limits.bytes)), limits_(limits), builder_(limits) {
     if (bytes.size() > limits.bytes) builder_.Tell(Trouble::OverLimit);
     stack_.reserve(limits.depth + 1);
-    stack_.emplace_back();
+    stack_.emplace_back().element = &kRoot;
     DetectEncoding();
 }
 
@@ -321,7 +324,7 @@ void Parser::EndBlock() {
     // A blank and a break at the end aren't shown.
     if (!State().pre && builder_.Last() == u' ' && afterBlank_) builder_.RemoveLast();
     if (builder_.Last() == kLineBreak) builder_.RemoveLast();
-    pending_ = State().para;
+    pending_ = Para();
     content_ = false;
     afterBlank_ = true;
 }
@@ -338,6 +341,7 @@ void Parser::OpenElement(const Element& element) {
     }
     if (stack_.size() > limits_.depth) return builder_.Tell(Trouble::OverLimit);
     stack_.push_back(State());
+    if (element.nature == Nature::Block) paras_.push_back(Para());
     State().element = &element;
     if (element.open != nullptr) (this->*element.open)(element.argument);
     ApplyCommonAttributes();
@@ -357,6 +361,7 @@ void Parser::CloseTop() {
     const Element& element = *State().element;
     if (element.nature == Nature::Block) EndBlock();
     if (element.close != nullptr) (this->*element.close)(element.argument);
+    if (element.nature == Nature::Block) paras_.pop_back();
     stack_.pop_back();
 }
 
@@ -385,6 +390,29 @@ void Parser::ApplyCommonAttributes() {
 void Parser::ApplyStyle() {
     const std::string_view raw = AttributeOf("style");
     if (raw.empty()) return;
+    const bool onlyLook = State().element->nature == Nature::Inline && styledImage_ == nullptr;
+    if (onlyLook)
+        ApplyInlineStyle(raw);
+    else
+        ApplyStyle(raw);
+}
+
+void Parser::ApplyInlineStyle(std::string_view raw) {
+    for (const StyledLook& styled : styled_) {
+        if (styled.style == raw && styled.before == Look()) {
+            Look() = styled.after;
+            return;
+        }
+    }
+    const bool pre = State().pre;
+    const CharFormat before = Look();
+    ApplyStyle(raw);
+    if (State().pre != pre) return;
+    styled_[nextStyled_] = {raw, before, Look()};
+    nextStyled_ = (nextStyled_ + 1) % styled_.size();
+}
+
+void Parser::ApplyStyle(std::string_view raw) {
     std::string unescaped;
     if (raw.find('&') != std::string_view::npos) unescaped = ToUtf8(Unescaped(raw));
     std::string_view style = unescaped.empty() ? raw : std::string_view(unescaped);

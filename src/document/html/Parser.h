@@ -46,10 +46,8 @@ struct Element {
 struct ElementState {
     const Element* element = nullptr;
     CharFormat look{};
-    ParaFormat para{};
     Index field = 0;
     bool pre = false;
-    bool inList = false;
 };
 
 /// Reads HTML tag by tag, without a tree. Open elements are on a stack of bounded depth.
@@ -93,10 +91,13 @@ private:
     void EndBlock();
     void EndPending();
     void ApplyStyle();
+    void ApplyStyle(std::string_view raw);
+    void ApplyInlineStyle(std::string_view raw);
     void ApplyCommonAttributes();
     ElementState& State() { return stack_.back(); }
     CharFormat& Look() { return State().look; }
-    ParaFormat& Para() { return State().para; }
+    /// The format of the innermost block. Other elements have none, since there are so many.
+    ParaFormat& Para() { return paras_.back(); }
 
     // Routines of elements.
     void Flag(std::int32_t flag);
@@ -164,6 +165,15 @@ private:
     std::optional<CodePage> page_;
 
     std::vector<ElementState> stack_;
+    std::vector<ParaFormat> paras_{1};
+    /// What the last styles made of a look, since a file has the same ones again and again.
+    struct StyledLook {
+        std::string_view style;
+        CharFormat before{};
+        CharFormat after{};
+    };
+    std::array<StyledLook, 8> styled_{};
+    std::size_t nextStyled_ = 0;
     std::vector<Attribute> attributes_;
     std::optional<ParaFormat> pending_;
     /// Whether the paragraph at hand has anything, and whether a blank would be one too many.

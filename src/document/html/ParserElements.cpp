@@ -240,7 +240,7 @@ void Parser::Cell(std::int32_t heading) {
 
 void Parser::CloseCell(std::int32_t) {
     if (tableDepth_ != 1 || !cellOpen_) return;
-    builder_.EndCell(pending_ ? *pending_ : State().para);
+    builder_.EndCell(pending_ ? *pending_ : Para());
     pending_.reset();
     cellOpen_ = false;
 }

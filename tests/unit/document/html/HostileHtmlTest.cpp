@@ -54,6 +54,11 @@ TEST(HostileHtml, ColumnsAndCellsHaveLimits) {
     EXPECT_EQ(Read("<table>" + Repeated("<tr><td>x", 50), limits).trouble, Trouble::OverLimit);
 }
 
+TEST(HostileHtml, APictureMayHaveAnyStyle) {
+    Read("<img style=\"text-align:left;border:1pt solid;margin:1pt;background:red;line-height:2;vertical-align:1pt\" "
+         "src=\"data:image/png;base64,AAEC\">");
+}
+
 TEST(HostileHtml, TextHasALimit) {
     Limits limits;
     limits.characters = 100;

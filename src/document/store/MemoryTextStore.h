@@ -1,0 +1,56 @@
+#pragma once
+
+#include "document/store/TextStore.h"
+
+#include <vector>
+
+namespace korvane::doc {
+
+/// A text in memory. It is never laid out, so it suits texts that nobody sees.
+class MemoryTextStore final : public TextStore {
+public:
+    const Text& All() const override { return all_; }
+    void Reset(Document document) override;
+    Document Slice(Pos from, Pos to) const override;
+    Pos Replace(Pos from, Pos to, const Document& piece) override;
+    void Runs(Pos from, Pos to,
+              const std::function<void(Pos, std::size_t, const Look&)>& show) const override;
+    Look LookAt(Pos position) const override;
+    void Format(Pos from, Pos to, const CharDelta& delta) override;
+    ParaFormat ParaAt(Pos position) const override;
+    void FormatParas(Pos from, Pos to, const std::function<void(ParaFormat&)>& change) override;
+    std::optional<CellPlace> TableAt(Pos position) const override;
+    std::optional<std::pair<Pos, Pos>> CellRange(const CellPlace& cell) const override;
+    doc::TableSize SizeOf(Index table) const override;
+    std::optional<Index> InsertTable(Pos position, std::size_t rows, std::size_t columns) override;
+    void FormatCells(Index table, const std::function<void(const CellPlace&, CellFormat&)>& change) override;
+    Page PageSetup() const override { return document_.page; }
+    void SetPageSetup(const Page& page) override { document_.page = page; }
+    void BeginStep() override { ++depth_; }
+    void EndStep() override;
+    bool Undo() override;
+    bool Redo() override;
+
+    const Document& Whole() const { return document_; }
+
+private:
+    using Steps = std::vector<std::vector<Patch>>;
+
+    Range RangeOf(Pos from, Pos to) const;
+    Look LookOf(Index format, Index field) const;
+    /// Carries the patch out and notes how it is taken back.
+    void Edit(Patch patch);
+    /// Carries the patch out in the document and in the whole text.
+    Patch Carry(Patch patch);
+    bool Move(Steps& from, Steps& to);
+
+    Document document_{};
+    Text all_{};
+    mutable Places places_{document_};
+    int depth_ = 0;
+    std::vector<Patch> step_;
+    Steps undo_;
+    Steps redo_;
+};
+
+} // namespace korvane::doc
