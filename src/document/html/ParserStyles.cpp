@@ -159,8 +159,8 @@ void Parser::StyleBorder(std::string_view value, std::int32_t sides) {
             style = kFrameSingle;
     }
     if (styledCell_ != nullptr) {
-        for (const std::size_t side : {0, 1, 2, 3}) {
-            if ((sides & 1 << side) != 0) styledCell_->border[side] = style == 0 ? 0 : width;
+        for (std::size_t side = 0; side < styledCell_->border.size(); ++side) {
+            if ((sides >> side & 1) != 0) styledCell_->border[side] = style == 0 ? 0 : width;
         }
     } else if (style != 0 && width > 0 && State().element->nature == Nature::Block &&
                State().element->name != "table") {
