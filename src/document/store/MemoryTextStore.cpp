@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
-#include <ranges>
 
 namespace korvane::doc {
 
@@ -69,8 +68,8 @@ bool MemoryTextStore::Move(Steps& from, Steps& to) {
     std::vector<Patch> step = std::move(from.back());
     from.pop_back();
     std::vector<Patch>& taken = to.emplace_back();
-    for (Patch& patch : std::views::reverse(step))
-        taken.push_back(Carry(std::move(patch)));
+    for (auto patch = step.rbegin(); patch != step.rend(); ++patch)
+        taken.push_back(Carry(std::move(*patch)));
     return true;
 }
 

@@ -55,7 +55,8 @@ TEST(HostileHtml, ColumnsAndCellsHaveLimits) {
 }
 
 TEST(HostileHtml, APictureMayHaveAnyStyle) {
-    Read("<img style=\"text-align:left;border:1pt solid;margin:1pt;background:red;line-height:2;vertical-align:1pt\" "
+    Read("<img style=\"text-align:left;border:1pt "
+         "solid;margin:1pt;background:red;line-height:2;vertical-align:1pt\" "
          "src=\"data:image/png;base64,AAEC\">");
 }
 
