@@ -14,6 +14,7 @@
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
 #include "platform/qt/services/LogOut.h"
+#include "platform/qt/services/QtTextOrder.h"
 #include "platform/xls/XlsSpreadsheet.h"
 #include "shell/main/frmMDIParent.h"
 
@@ -30,7 +31,9 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
     platform.locale = &locale;
     platform.fileTypes = &fileTypes;
     platform.codePage = UserCodePage();
-    platform.makeGrid = [page = platform.codePage] { return std::make_unique<GridStore>(page); };
+    platform.makeGrid = [page = platform.codePage, order = std::make_shared<QtTextOrder>()] {
+        return std::make_unique<GridStore>(page, order);
+    };
     platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
         return std::make_unique<XlsSpreadsheet>(files, shell);
     };

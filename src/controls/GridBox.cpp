@@ -39,6 +39,24 @@ void GridBox::ClickCell(Row row, Col col) {
     if (CellClick) CellClick(row, col);
 }
 
+void GridBox::StepCell(int step) {
+    const CellPosition current{store_->CurRow(), store_->CurCol()};
+    if (store_->HasCol(current.col + step)) return store_->SetCurCol(current.col + step);
+    if (const auto row = ShownRowBeside(current.row, step)) {
+        store_->SetCurRow(*row);
+        store_->SetCurCol(step > 0 ? Col{1} : store_->ColCount());
+    } else if (step > 0 && store_->HasCol(current.col) && PastEnd) {
+        PastEnd();
+    }
+}
+
+std::optional<Row> GridBox::ShownRowBeside(Row row, int step) const {
+    do
+        row = row + step;
+    while (store_->HasRow(row) && !store_->RowVisible(row));
+    return store_->HasRow(row) ? std::optional(row) : std::nullopt;
+}
+
 void GridBox::DragColumn(Col col, int width) {
     store_->SetColWidth(col, width);
     dragged_ = true;

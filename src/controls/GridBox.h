@@ -5,6 +5,7 @@
 #include "platform/Screen.h"
 
 #include <memory>
+#include <optional>
 
 namespace korvane {
 
@@ -31,6 +32,8 @@ public:
     std::function<void(MouseButton)> MouseUp;
     /// The cell is the current one already.
     std::function<void(Row, Col)> CellClick;
+    /// The user went on from the last cell.
+    std::function<void()> PastEnd;
     /// The mouse pointer came over the grid (true) or left it.
     std::function<void(bool)> Hover;
 
@@ -59,12 +62,16 @@ public:
     void ClickHeader(Col col);
     /// Makes the cell the current one and raises `CellClick`.
     void ClickCell(Row row, Col col);
+    /// Goes to the next cell (1) or the previous one (-1) that is shown, row by row. Where there is no next
+    /// one, `PastEnd` runs.
+    void StepCell(int step);
     /// Gives the column a width while its edge is dragged. `ReleaseColumn` follows when the edge is let go.
     void DragColumn(Col col, int width);
     void ReleaseColumn();
 
 private:
     void TellChange();
+    std::optional<Row> ShownRowBeside(Row row, int step) const;
 
     std::unique_ptr<Grid> store_;
     Col sortedBy_;

@@ -213,6 +213,12 @@ void ListView::DoubleClick(int index) {
     if (DblClick) DblClick();
 }
 
+void ListView::TypeText(int index, TextView text, int step) {
+    if (!Holds(index) || EditColumn == 0) return;
+    if (TextTyped) TextTyped(index, text);
+    if (Holds(index + step)) SetCurrent(index + step);
+}
+
 void ListView::ClickColumn(int column) {
     if (ColumnClick) ColumnClick(column);
 }

@@ -36,6 +36,9 @@ public:
     Property<bool> CheckBoxes{*this, Aspect::Range};
     /// Whether lines are drawn between rows and columns.
     Property<bool> GridLines{*this, Aspect::Range};
+    /// The column in which the user can type a text; 0 for none. The list tells what he typed and leaves it
+    /// to the window to take it.
+    Property<int> EditColumn{*this, Aspect::Range, 0};
     Property<Colour> BackColor{*this, Aspect::Colours};
 
     int Count() const { return rows_.Count(); }
@@ -85,11 +88,14 @@ public:
     std::function<void()> DblClick;
     std::function<void(int index)> ItemCheck;
     std::function<void(int column)> ColumnClick;
+    std::function<void(int index, TextView text)> TextTyped;
 
     // What the user does.
     void Select(int index) { SetCurrent(index); }
     void DoubleClick(int index);
     void ClickColumn(int column);
+    /// Types into the row's cell of `EditColumn` and goes on by `step` rows.
+    void TypeText(int index, TextView text, int step = 0);
     /// By dragging its edge.
     void DragColumn(int column, Twips width) { SetColumnWidth(column, width); }
 

@@ -136,8 +136,8 @@ public:
     virtual void GridSetFocus() = 0;
     virtual void EnsureRowVisible(Row row) = 0;
 
-    /// Reorders whole rows by the texts of a column, by character code; rows that compare alike keep their
-    /// order.
+    /// Reorders whole rows by the texts of a column: numbers by their value, other texts as the user expects
+    /// them, and blank ones at the end in both orders. Rows that compare alike keep their order.
     virtual void SortByColumn(Col col, SortOrder order) = 0;
 
     // The following make a table at the format's limit load, save and search at the speed of memory.

@@ -2,9 +2,9 @@
 
 #include "grid/GridStoreChanges.h"
 #include "grid/Permuted.h"
+#include "grid/SortKeys.h"
 
 #include <algorithm>
-#include <compare>
 #include <numeric>
 #include <utility>
 
@@ -23,7 +23,8 @@ bool HasTextsFrom(const CellTable& cells, std::size_t firstCol) {
 
 } // namespace
 
-GridStore::GridStore(const CodePage& page) : texts_(page) {}
+GridStore::GridStore(const CodePage& page, std::shared_ptr<const TextOrder> order)
+    : texts_(page), order_(order != nullptr ? std::move(order) : std::make_shared<PlainTextOrder>()) {}
 
 GridStore::~GridStore() = default;
 
@@ -354,11 +355,11 @@ void GridStore::EnsureRowVisible(Row row) {
 std::vector<std::size_t> GridStore::SortedOrder(Col col, SortOrder order) const {
     std::vector<std::size_t> rows(rows_.size());
     std::iota(rows.begin(), rows.end(), std::size_t{0});
-    const auto handle = [&](std::size_t row) { return cells_.At(row, Index(col)); };
-    const auto comesBefore = [&](std::size_t a, std::size_t b) {
-        const auto comparison = texts_.Compare(handle(a), handle(b));
-        return order == SortOrder::Ascending ? std::is_lt(comparison) : std::is_gt(comparison);
-    };
+    std::vector<Text> texts(rows.size());
+    std::ranges::transform(rows, texts.begin(),
+                           [&](std::size_t row) { return texts_.ToText(cells_.At(row, Index(col))); });
+    const SortKeys keys(texts, *order_);
+    const auto comesBefore = [&](std::size_t a, std::size_t b) { return keys.ComesBefore(a, b, order); };
     std::ranges::stable_sort(rows, comesBefore);
     return rows;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
+#include "common/text/TextOrder.h"
 #include "grid/CellTable.h"
 #include "grid/Grid.h"
 #include "grid/GridNotifier.h"
@@ -21,7 +22,8 @@ public:
     static constexpr int kDefaultRowHeight = 24;
     static constexpr int kDefaultColWidth = 240;
 
-    explicit GridStore(const CodePage& page);
+    /// `order` is that in which columns are sorted; nullptr for the one that is the same for every user.
+    explicit GridStore(const CodePage& page, std::shared_ptr<const TextOrder> order = nullptr);
     GridStore(const GridStore&) = delete;
     GridStore& operator=(const GridStore&) = delete;
     ~GridStore() override;
@@ -174,6 +176,7 @@ private:
     void NoteLook();
 
     TextBlocks texts_;
+    std::shared_ptr<const TextOrder> order_;
     CellTable cells_;
     LookTable looks_;
     std::vector<RowState> rows_;

@@ -65,16 +65,6 @@ bool TextBlocks::Equals(TextHandle handle, TextView text) const {
     });
 }
 
-std::strong_ordering TextBlocks::Compare(TextHandle a, TextHandle b) const {
-    const auto aBytes = Bytes(a);
-    const auto bBytes = Bytes(b);
-    if (!aBytes && !bBytes) return WideAt(PlaceOf(a)) <=> WideAt(PlaceOf(b));
-    if (!aBytes || !bBytes) return ToText(a) <=> ToText(b);
-    const auto [aAt, bAt] = std::ranges::mismatch(*aBytes, *bBytes);
-    if (aAt == aBytes->end() || bAt == bBytes->end()) return aBytes->size() <=> bBytes->size();
-    return page_.Decode(static_cast<unsigned char>(*aAt)) <=> page_.Decode(static_cast<unsigned char>(*bAt));
-}
-
 bool TextBlocks::Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const {
     const auto bytes = Bytes(handle);
     if (!bytes) return WideAt(PlaceOf(handle)).find(part) != TextView::npos;

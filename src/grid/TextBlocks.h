@@ -6,7 +6,6 @@
 #include "grid/Grid.h"
 #include "grid/TextHandle.h"
 
-#include <compare>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -45,8 +44,6 @@ public:
     std::optional<std::string_view> Bytes(TextHandle handle) const;
     Text ToText(TextHandle handle) const;
     bool Equals(TextHandle handle, TextView text) const;
-    /// By character code.
-    std::strong_ordering Compare(TextHandle a, TextHandle b) const;
     /// Whether the text contains `part`; `pattern` is the same in bytes, or nothing.
     bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;
     bool HasWideTexts() const { return wideTexts_ > 0; }

@@ -53,6 +53,7 @@ void MakeDesignedTable(const TabContext& tab) {
     TableModel& table = tab.table;
     TakeColumnNames(table);
     FillGrid(table.GridStore(), table.lstNewTableColumns);
+    GoToFirstCell(table.GridStore());
     table.TxtDbFile = NewDatabaseFilePath(tab.app.Files());
     tab.host.SetTabCaption(table.TxtDbFile);
     TakeLook(table);

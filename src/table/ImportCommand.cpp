@@ -48,6 +48,7 @@ void ImportClipboard(const TabContext& tab) {
     // import-keeps-tab-name.
     table.TxtDbFile = tab.host.TabCaption();
     FillGrid(table.GridStore(), text, app.Settings.AllowSorting == 1);
+    GoToFirstCell(table.GridStore());
     table.TableAltered = 1;
     table.GridStore().GridSetFocus();
 }

@@ -33,6 +33,11 @@ void AddNewColumn(Grid& grid, Col number, TextView header) {
     grid.SetColWidth(number, kColumnWidth);
 }
 
+void GoToFirstCell(Grid& grid) {
+    grid.SetCurRow(Row{1});
+    grid.SetCurCol(Col{1});
+}
+
 void GiveNewTableLook(Grid& grid) {
     grid.SetGridForeColor(kForeColour);
     grid.SetGridBackColor(kBackColour);

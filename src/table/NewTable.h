@@ -22,6 +22,9 @@ Text NewDatabaseFilePath(const FileSystem& files);
 /// columns before.
 void AddNewColumn(Grid& grid, Col number, TextView header);
 
+/// Makes the first cell of a table that was just made the current one.
+void GoToFirstCell(Grid& grid);
+
 /// Colours and font of a table that was just made.
 void GiveNewTableLook(Grid& grid);
 

@@ -7,6 +7,7 @@
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
+#include "table/NewTable.h"
 #include "table/TabContext.h"
 #include "table/TableHistory.h"
 #include "table/TableHost.h"
@@ -26,8 +27,7 @@ constexpr std::chrono::milliseconds kWaitAfterSave{500};
 void EndLoad(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
     grid.SetGridVisible(true);
-    grid.SetCurRow(Row{1});
-    grid.SetCurCol(Col{1});
+    GoToFirstCell(grid);
     tab.table.TableAltered = 0;
     tab.app.Screen().ProcessMessages();
     grid.GridSetFocus();

@@ -26,7 +26,8 @@ enum Column : int { kNumber = 1, kTitle };
 } // namespace
 
 struct frmDesignTable::Tables {
-    static constexpr WindowKey<frmDesignTable> kListKeys[] = {{"Delete", &frmDesignTable::cmdDeleteEntry}};
+    static constexpr WindowKey<frmDesignTable> kListKeys[] = {{"Delete", &frmDesignTable::cmdDeleteEntry},
+                                                              {"Return", &frmDesignTable::GoOn}};
     static constexpr WindowKey<frmDesignTable> kNameKeys[] = {{"Return", &frmDesignTable::cmdAssign}};
 };
 
@@ -36,6 +37,8 @@ frmDesignTable::frmDesignTable(const TabContext& tab)
       tab_(tab) {
     ListView1.MultiSelect = true;
     ListView1.GridLines = true;
+    ListView1.EditColumn = kTitle;
+    ListView1.TextTyped = [this](int index, TextView text) { TakeTyped(index, text); };
     ListView1.KeyDown = KeysOf(*this, Tables::kListKeys);
     txtColumnName.KeyDown = KeysOf(*this, Tables::kNameKeys);
     Image2.Click = [this] { MoveCurrent(-1); };
@@ -84,6 +87,15 @@ void frmDesignTable::SetTitle(int index, TextView title) {
     ListView1.SetText(index, kTitle, title);
 }
 
+/// A title of blanks is none.
+void frmDesignTable::TakeTyped(int index, TextView text) {
+    SetTitle(index, Trim(text).empty() ? TextView() : text);
+}
+
+void frmDesignTable::GoOn() {
+    if (ListView1.Current() < kEntries) ListView1.SetCurrent(ListView1.Current() + 1);
+}
+
 void frmDesignTable::ClearSelectedTitles() {
     for (const int index : ListView1.SelectedRows())
         SetTitle(index, {});
@@ -104,7 +116,11 @@ void frmDesignTable::MoveCurrent(int step) {
 
 void frmDesignTable::cmdAssign_Click() {
     const Text& title = txtColumnName.Text;
-    if (ListView1.Current() != 0 && !Trim(title).empty()) SetTitle(ListView1.Current(), title);
+    if (ListView1.Current() == 0 || Trim(title).empty()) return;
+    SetTitle(ListView1.Current(), title);
+    GoOn();
+    txtColumnName.SelectAll();
+    txtColumnName.SetFocus();
 }
 
 void frmDesignTable::cmdAutoLabel_Click() {

@@ -35,6 +35,9 @@ private:
     void FillList();
     void LayOutColumns();
     void SetTitle(int index, TextView title);
+    void TakeTyped(int index, TextView text);
+    /// Goes to the next entry.
+    void GoOn();
     void ClearSelectedTitles();
     /// Swaps the current entry with the one that is `step` places below it. At the end of the list nothing
     /// happens.

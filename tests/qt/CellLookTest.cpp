@@ -77,8 +77,8 @@ struct NamedColours {
     CellColours colours;
 };
 
-TEST(MarkBackTest, IsSeenAndLeavesTheTextReadableOnEveryLookOfARow) {
-    const NamedColours looks[] = {
+std::vector<NamedColours> Looks() {
+    return {
         {"light", {Qt::white, QColor(0, 0, 0xC0)}},
         {"dark", {QColor(27, 29, 33), QColor(228, 231, 235)}},
         {"yellow", {QColor(255, 255, 128), Qt::black}},
@@ -90,7 +90,10 @@ TEST(MarkBackTest, IsSeenAndLeavesTheTextReadableOnEveryLookOfARow) {
         {"grey", {QColor(192, 192, 192), Qt::white}},
         {"orange", {QColor(255, 192, 128), QColor(0, 0, 0xC0)}},
     };
-    for (const auto& [name, colours] : looks) {
+}
+
+TEST(MarkBackTest, IsSeenAndLeavesTheTextReadableOnEveryLookOfARow) {
+    for (const auto& [name, colours] : Looks()) {
         for (const Mark mark : {Mark::Soft, Mark::Strong}) {
             const QColor back = MarkBack(colours, mark);
             const int difference = std::abs(back.red() - colours.back.red()) +
@@ -101,6 +104,18 @@ TEST(MarkBackTest, IsSeenAndLeavesTheTextReadableOnEveryLookOfARow) {
             EXPECT_GE(Contrast(colours.text, back), std::min(before, 4.5)) << name;
         }
     }
+}
+
+TEST(MarkBackTest, ItsLettersCanBeReadOnEveryLookOfARow) {
+    for (const auto& [name, colours] : Looks()) {
+        for (const Mark mark : {Mark::Soft, Mark::Strong}) {
+            const QColor back = MarkBack(colours, mark);
+            EXPECT_GE(Contrast(MarkText(colours, back), back), 4.5) << name;
+        }
+    }
+    const CellColours faint{QColor(40, 40, 40), QColor(90, 90, 90)};
+    const QColor back = MarkBack(faint, Mark::Soft);
+    EXPECT_GE(Contrast(MarkText(faint, back), back), 4.5);
 }
 
 TEST(MarkBackTest, StandsOutMoreInTheCurrentCell) {

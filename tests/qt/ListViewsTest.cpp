@@ -1,15 +1,19 @@
 #include "ListsFixture.h"
 #include "controls/UpdateScope.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/FinishTyping.h"
 #include "platform/qt/base/Icons.h"
 
 #include <QAccessible>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
 namespace korvane {
 namespace {
+
+using Texts = std::vector<Text>;
 
 class ListViewsTest : public test::ListsFixture {
 protected:
@@ -402,6 +406,82 @@ TEST_F(ListViewsTest, AScreenReaderHearsItsRows) {
     ASSERT_NE(cell, nullptr);
     EXPECT_EQ(cell->text(QAccessible::Name), QString("row 2"));
     EXPECT_TRUE(cell->state().selected);
+}
+
+// ---- Typing into a row --------------------------------------------------------------------------------
+
+class ListTypingTest : public ListViewsTest {
+protected:
+    void SetUp() override {
+        ListViewsTest::SetUp();
+        AddRows(3);
+        list.EditColumn = 2;
+        list.TextTyped = [this](int index, TextView text) { list.SetText(index, 2, text); };
+        list.SetCurrent(1);
+        View().activateWindow();
+        View().raise();
+        View().setFocus();
+        test::Settle();
+    }
+    void Type(const char* text) {
+        for (const char* c = text; *c != '\0'; ++c)
+            QTest::keyClick(QApplication::focusWidget(), *c);
+    }
+    void Key(int key) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        test::Settle();
+    }
+    Texts Typed() { return {Text(list.TextAt(1, 2)), Text(list.TextAt(2, 2)), Text(list.TextAt(3, 2))}; }
+    QLineEdit* Field() { return View().findChild<QLineEdit*>(); }
+};
+
+TEST_F(ListTypingTest, ReturnAndDownGoOnToTheNextRow) {
+    Type("Name");
+    Key(Qt::Key_Return);
+    Type("Town");
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Typed(), (Texts{u"Name", u"Town", u"7"}));
+    EXPECT_EQ(list.Current(), 3);
+    EXPECT_EQ(Field(), nullptr);
+    EXPECT_TRUE(View().hasFocus());
+}
+
+TEST_F(ListTypingTest, TheLastRowKeepsTheSelection) {
+    list.SetCurrent(3);
+    test::Settle();
+    Type("x");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Typed(), (Texts{u"7", u"7", u"x"}));
+    EXPECT_EQ(list.Current(), 3);
+}
+
+TEST_F(ListTypingTest, EscGivesTheOldTextBack) {
+    Type("x");
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(Typed(), (Texts{u"7", u"7", u"7"}));
+    EXPECT_EQ(Field(), nullptr);
+    EXPECT_TRUE(form.Shown());
+}
+
+TEST_F(ListTypingTest, AClickElsewhereOrACommandTakesTheText) {
+    Type("x");
+    FinishTyping();
+    EXPECT_EQ(Typed(), (Texts{u"x", u"7", u"7"}));
+    test::Settle();
+    Key(Qt::Key_F2);
+    ASSERT_NE(Field(), nullptr);
+    EXPECT_EQ(Field()->selectedText(), QString("x"));
+    Type("y");
+    Widget<QListView>("List1").setFocus();
+    EXPECT_EQ(Typed(), (Texts{u"y", u"7", u"7"}));
+}
+
+TEST_F(ListTypingTest, AListThatTakesNoTextIsNotEdited) {
+    list.EditColumn = 0;
+    test::Settle();
+    Type("x");
+    Key(Qt::Key_F2);
+    EXPECT_EQ(Field(), nullptr);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 
 namespace korvane {
 namespace {
@@ -20,6 +21,8 @@ constexpr MenuEntry kEntries[] = {
     {1, "mnuFile_SaveAs", u"Save &as ...    ( F10 )", ""},
     {0, "mnuExport", u"Exp&ort", ""},
     {1, "mnuSelAll", u"Mark all", "Ctrl+A"},
+    {1, "mnuUnTick", u"Unmark all", "Ctrl+U"},
+    {1, "mnuAddRows", u"Add rows", "Ctrl+Y"},
     {1, "mnuDelete", u"Mark row", "Ctrl+Shift+F3"},
     {0, "mnuSideBar", u"&SideBar", ""},
 };
@@ -85,9 +88,42 @@ TEST_F(MenuBarTest, ItsKeysWorkWhereverTheKeyboardIs) {
 }
 
 TEST_F(MenuBarTest, AKeyOfTheMenuIsNotTheFields) {
+    QTest::keyClick(&Field(), Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(form.chosen, (std::vector<std::string>{"mnuUnTick"}));
+    EXPECT_EQ(Field().text(), QString("some text"));
+}
+
+TEST_F(MenuBarTest, TheKeysOfAnEditedTextAreItsOwn) {
     QTest::keyClick(&Field(), Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(form.chosen, (std::vector<std::string>{"mnuSelAll"}));
-    EXPECT_FALSE(Field().hasSelectedText());
+    EXPECT_EQ(Field().selectedText(), QString("some text"));
+    QTest::keyClick(&Field(), Qt::Key_Delete);
+    EXPECT_EQ(Field().text(), QString());
+    QTest::keyClick(&Field(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Field().text(), QString("some text"));
+    QTest::keyClick(&Field(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(Field().text(), QString());
+    EXPECT_TRUE(form.chosen.empty());
+}
+
+TEST_F(MenuBarTest, TheKeysOfALongTextAreItsOwnToo) {
+    QPlainTextEdit lines(&Field());
+    lines.setPlainText("one");
+    lines.show();
+    lines.setFocus();
+    QTest::keyClick(&lines, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&lines, Qt::Key_Delete);
+    EXPECT_EQ(lines.toPlainText(), QString());
+    QTest::keyClick(&lines, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&lines, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(lines.toPlainText(), QString());
+    EXPECT_TRUE(form.chosen.empty());
+}
+
+TEST_F(MenuBarTest, WhereNoTextIsEditedTheKeysAreTheMenus) {
+    Bar().setFocus();
+    QTest::keyClick(&Bar(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&Bar(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(form.chosen, (std::vector<std::string>{"mnuSelAll", "mnuAddRows"}));
 }
 
 TEST_F(MenuBarTest, AKeyThatTheMenuDoesNotBindIsTheFields) {

@@ -7,6 +7,7 @@
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFolders.h"
+#include "platform/qt/services/QtTextOrder.h"
 #include "platform/qt/services/QtUserLocale.h"
 
 #include <gtest/gtest.h>
@@ -27,6 +28,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <map>
 
 namespace korvane {
 namespace {
@@ -344,6 +346,32 @@ TEST_F(DialogsTest, ACancelledColourDialogTellsNothing) {
         dialog.reject();
     });
     EXPECT_EQ(QtColourPicker().Choose(kNoColour, ColourPicker::Extent::Full), std::nullopt);
+}
+
+// ---- The order of texts -------------------------------------------------------------------------------
+
+std::vector<Text> SortedBy(const QtTextOrder& order, const std::vector<Text>& texts) {
+    const std::vector<int> ranks = order.RanksOf(texts);
+    std::map<int, Text> sorted;
+    for (std::size_t at = 0; at < texts.size(); ++at)
+        sorted[ranks[at]] = texts[at];
+    std::vector<Text> result;
+    for (const auto& [rank, text] : sorted)
+        result.push_back(text);
+    return result;
+}
+
+TEST(QtTextOrderTest, IsThatOfTheUsersLanguage) {
+    const std::vector<Text> texts{u"zon", u"\u00E4pple", u"apa", u"\u00D6", u"Apa"};
+    EXPECT_EQ(SortedBy(QtTextOrder(QLocale("de_DE")), texts),
+              (std::vector<Text>{u"apa", u"Apa", u"\u00E4pple", u"\u00D6", u"zon"}));
+    EXPECT_EQ(SortedBy(QtTextOrder(QLocale("sv_SE")), texts),
+              (std::vector<Text>{u"apa", u"Apa", u"zon", u"\u00E4pple", u"\u00D6"}));
+}
+
+TEST(QtTextOrderTest, NumbersInTextsCountByTheirValueAlsoWithoutALanguage) {
+    EXPECT_EQ(SortedBy(QtTextOrder(QLocale::c()), {u"Room 10", u"Room 9", u"room 9", u"\u00E9tage", u"z"}),
+              (std::vector<Text>{u"\u00E9tage", u"room 9", u"Room 9", u"Room 10", u"z"}));
 }
 
 } // namespace

@@ -19,6 +19,10 @@ int CountRows(const Grid& grid, const Test& holds) {
     return count;
 }
 
+/// Appends rows that are as high as the last one, and have a check box where it has one. In a table without
+/// rows they are as those of a new table. Fewer are appended where the table can't hold them.
+void AppendRows(Grid& grid, int count);
+
 inline bool IsTicked(const Grid& grid, Row row) {
     return grid.CellCheck(row) == 1;
 }

@@ -54,6 +54,8 @@ frmFindReplace::frmFindReplace(const TabContext& tab, FindMode mode)
 void frmFindReplace::Load() {
     const Settings& settings = tab_.app.Settings;
     Text1.Text = settings.FindText;
+    Text1.SelectAll();
+    Text1.SetFocus();
     Text2.Text = settings.ReplaceText;
     Check1.Value = settings.ReplaceOption;
     if (mode_ == FindMode::Replace) return;

@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "context/Desktop.h"
+#include "dbops/commands/CellCommands.h"
 #include "dbops/commands/ColumnCommands.h"
 #include "dbops/commands/RowLookCommands.h"
 #include "dbops/rules/RowFontFlags.h"
@@ -56,6 +57,14 @@ constexpr GridKey kGridKeys[] = {
     {"Ctrl+Shift+X", &MakeEmailStrikethru},
     {"Ctrl+Z", &UndoEdit},
     {"Ctrl+Shift+Z", &RedoEdit},
+    {"Ctrl+C", &CopyCell},
+    {"Ctrl+Insert", &CopyCell},
+    {"Ctrl+X", &CutCell},
+    {"Shift+Delete", &CutCell},
+    {"Ctrl+V", &PasteCells},
+    {"Shift+Insert", &PasteCells},
+    {"Delete", &ClearCell},
+    {"Ctrl+Shift+F", &GoToFindBox},
 };
 
 } // namespace
@@ -67,6 +76,13 @@ std::span<const GridKey> GridKeys() {
 void ExploreTableFolder(const TabContext& tab) {
     const PathStyle style = tab.app.Files().Style();
     ExploreFolder(tab.app, style.DirectoryForChange(style.FolderPart(tab.table.TxtDbFile)));
+}
+
+void GoToFindBox(const MainParts& main) {
+    frmMDIChild* tab = main.tabs.Active();
+    if (tab == nullptr) return;
+    tab->txtFindString.SelectAll();
+    tab->txtFindString.SetFocus();
 }
 
 void NextSideBarWidthFromGrid(const MainParts& main) {

@@ -19,6 +19,8 @@ std::span<const GridKey> GridKeys();
 
 /// Opens the folder of the tab's file on the desktop; the current directory where that folder isn't there.
 void ExploreTableFolder(const TabContext& tab);
+/// Gives the keyboard to the tab's box for the text to find, with its text selected.
+void GoToFindBox(const MainParts& main);
 /// The sidebar's next width, after which the grid has the keyboard.
 void NextSideBarWidthFromGrid(const MainParts& main);
 

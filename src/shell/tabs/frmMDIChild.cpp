@@ -5,6 +5,7 @@
 #include "context/ports/MainWindow.h"
 #include "controls/KeyTable.h"
 #include "dbops/commands/RowHeight.h"
+#include "dbops/rules/Rows.h"
 #include "dbops/rules/TableSearch.h"
 #include "grid/Grid.h"
 #include "shell/tabs/TabStates.h"
@@ -13,7 +14,8 @@
 namespace korvane {
 
 struct frmMDIChild::Tables {
-    static constexpr WindowKey<frmMDIChild> kFindKeys[] = {{"Return", &frmMDIChild::cmdFind}};
+    static constexpr WindowKey<frmMDIChild> kFindKeys[] = {{"Return", &frmMDIChild::cmdFind},
+                                                           {"Esc", &frmMDIChild::Activate}};
     static constexpr WindowKey<frmMDIChild> kHeightKeys[] = {
         {"Ctrl+Shift+Return", &frmMDIChild::ApplyTypedHeight}};
 };
@@ -33,6 +35,7 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
     ZoomSlider.Released = [this] { ZoomSlider_Released(); };
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
     iGrid1.AfterChange = [this] { history_.EndStep(); };
+    iGrid1.PastEnd = [this] { iGrid1_PastEnd(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
     iGrid1.KeyDown = [this](KeyEvent& key) { iGrid1_KeyDown(key); };
@@ -93,6 +96,14 @@ void frmMDIChild::ZoomSlider_Released() {
 
 void frmMDIChild::iGrid1_AfterEdit() {
     table_.TableAltered = 1;
+}
+
+void frmMDIChild::iGrid1_PastEnd() {
+    if (GridStore().RowCount() == kMaxRows) return;
+    const TableStep step(history_);
+    AppendRows(GridStore(), 1);
+    table_.TableAltered = 1;
+    iGrid1.StepCell(1);
 }
 
 void frmMDIChild::iGrid1_HeaderClick() {

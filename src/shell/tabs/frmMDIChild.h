@@ -26,7 +26,7 @@ public:
     frmMDIChild(App& app, TabStates& states);
 
     Panel Picture1{*this, "Picture1"};
-    TextBox txtFindString{*this, "txtFindString"};
+    TextBox txtFindString{*this, "txtFindString", u"", u"Text to find (Ctrl+Shift+F)"};
     CommandButton cmdFind{*this, "cmdFind", u"", u"Find string in database"};
     TextBox txtRowHeight{*this, "txtRowHeight", u"", u"Row height (set with Ctrl-Shift+Return)"};
     Slider ZoomSlider{*this, "ZoomSlider", 13, 360, u"Move to change row height"};
@@ -58,6 +58,7 @@ private:
     void ZoomSlider_Scroll();
     void ZoomSlider_Released();
     void iGrid1_AfterEdit();
+    void iGrid1_PastEnd();
     void iGrid1_HeaderClick();
     void iGrid1_MouseUp(MouseButton button);
     void iGrid1_KeyDown(KeyEvent& key);

@@ -127,5 +127,36 @@ TEST_F(GridBoxTest, ADraggedColumnIsToldOnceItIsLetGoOf) {
     EXPECT_EQ(box.Store().ColWidth(Col{1}), 51);
 }
 
+TEST_F(GridBoxTest, AStepGoesFromCellToCellThroughTheRowsThatAreShown) {
+    box.Store().SetRowCount(Row{4});
+    box.Store().SetRowVisible(Row{2}, false);
+    box.Store().SetCurRow(Row{1});
+    box.Store().SetCurCol(Col{2});
+    box.StepCell(1);
+    EXPECT_EQ(box.Store().CurRow(), Row{3});
+    EXPECT_EQ(box.Store().CurCol(), Col{1});
+    box.StepCell(-1);
+    EXPECT_EQ(box.Store().CurRow(), Row{1});
+    EXPECT_EQ(box.Store().CurCol(), Col{2});
+    box.StepCell(-1);
+    box.StepCell(-1);
+    EXPECT_EQ(box.Store().CurRow(), Row{1});
+    EXPECT_EQ(box.Store().CurCol(), Col{1});
+}
+
+TEST_F(GridBoxTest, AStepPastTheLastCellIsTold) {
+    box.PastEnd = [this] { log += "end "; };
+    box.Store().SetCurRow(Row{2});
+    box.Store().SetCurCol(Col{2});
+    box.StepCell(1);
+    EXPECT_EQ(log, "end ");
+    EXPECT_EQ(box.Store().CurCol(), Col{2});
+    box.PastEnd = nullptr;
+    box.StepCell(1);
+    box.Store().SetColCount(Col{0});
+    box.StepCell(1);
+    EXPECT_EQ(log, "end ");
+}
+
 } // namespace
 } // namespace korvane

@@ -1,5 +1,6 @@
 #include "GridFixtures.h"
 #include "grid/Grid.h"
+#include "grid/SortKeys.h"
 
 #include <algorithm>
 #include <functional>
@@ -54,10 +55,10 @@ struct PlainTable {
         rows.resize(count, fresh);
     }
     void Sort(std::size_t col, SortOrder order) {
-        std::ranges::stable_sort(rows, [&](const PlainRow& a, const PlainRow& b) {
-            const auto comparison = a.cells[col].value <=> b.cells[col].value;
-            return order == SortOrder::Ascending ? comparison < 0 : comparison > 0;
-        });
+        const auto inOrder = [order](const Text& a, const Text& b) {
+            return SortKeys({a, b}, PlainTextOrder()).ComesBefore(0, 1, order);
+        };
+        std::ranges::stable_sort(rows, inOrder, [col](const PlainRow& row) { return row.cells[col].value; });
     }
     std::optional<CellPosition> Find(const Text& part, CellPosition from) const {
         for (std::size_t row = 0; row < rows.size(); ++row)

@@ -77,6 +77,7 @@ TEST_F(GridStoreListenerTest, ShapeVisibilityHeightAndOrderTellTheTable) {
     grid.SetRowHeight(Row{1}, 30);
     expectTable("height");
     grid.SetCellValue(Row{1}, Col{1}, u"z");
+    grid.SetCellValue(Row{2}, Col{1}, u"a");
     Heard();
     grid.SortByColumn(Col{1}, SortOrder::Ascending);
     expectTable("sort");

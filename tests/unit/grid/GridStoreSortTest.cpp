@@ -14,24 +14,48 @@ protected:
     }
 };
 
-TEST_F(GridStoreSortTest, TheOrderIsThatOfCharacterCodes) {
-    EXPECT_EQ(Sorted({u"b", u"a", u"B", u"", u"10", u"9", u"ab", u"ä"}, SortOrder::Ascending),
-              (std::vector<Text>{u"", u"10", u"9", u"B", u"a", u"ab", u"b", u"ä"}));
+TEST_F(GridStoreSortTest, NumbersComeFirstByTheirValue) {
+    EXPECT_EQ(
+        Sorted({u"b", u"10", u"9", u"-3", u"1,5", u"1.25", u"+2", u" 7 ", u"9a", u"1.2.3", u"-"},
+               SortOrder::Ascending),
+        (std::vector<Text>{u"-3", u"1.25", u"1,5", u"+2", u" 7 ", u"9", u"10", u"-", u"1.2.3", u"9a", u"b"}));
 }
 
-TEST_F(GridStoreSortTest, CharactersCountNotBytes) {
-    // The euro sign has the byte 0x80, yet a far higher character code than "ü".
-    EXPECT_EQ(Sorted({u"€", u"ü", u"z"}, SortOrder::Ascending), (std::vector<Text>{u"z", u"ü", u"€"}));
+TEST_F(GridStoreSortTest, NumbersInsideTextsCountByTheirValue) {
+    EXPECT_EQ(Sorted({u"Room 10", u"Room 9b", u"Room 9", u"Room 009", u"Room"}, SortOrder::Ascending),
+              (std::vector<Text>{u"Room", u"Room 009", u"Room 9", u"Room 9b", u"Room 10"}));
 }
 
-TEST_F(GridStoreSortTest, TextsOutsideThePageTakeTheirPlaceAmongTheOthers) {
-    EXPECT_EQ(Sorted({u"€", u"я", u"a", u"Я", u"aя"}, SortOrder::Ascending),
-              (std::vector<Text>{u"a", u"aя", u"Я", u"я", u"€"}));
+TEST_F(GridStoreSortTest, AccentsAndCaseCountOnlyWhereNothingElseDiffers) {
+    EXPECT_EQ(
+        Sorted({u"Zoo", u"äpfel", u"Apfel", u"apfel", u"zoo", u"Äpfel", u"apfelz", u"€", u"я"},
+               SortOrder::Ascending),
+        (std::vector<Text>{u"apfel", u"Apfel", u"äpfel", u"Äpfel", u"apfelz", u"zoo", u"Zoo", u"я", u"€"}));
 }
 
-TEST_F(GridStoreSortTest, DescendingReversesTheOrder) {
-    EXPECT_EQ(Sorted({u"b", u"", u"c", u"a"}, SortOrder::Descending),
-              (std::vector<Text>{u"c", u"b", u"a", u""}));
+TEST_F(GridStoreSortTest, BlanksAreAtTheEndInBothOrders) {
+    EXPECT_EQ(Sorted({u"b", u"", u"c", u" ", u"a"}, SortOrder::Descending),
+              (std::vector<Text>{u"c", u"b", u"a", u"", u" "}));
+    EXPECT_EQ(Sorted({u"b", u"", u"2", u" ", u"a"}, SortOrder::Ascending),
+              (std::vector<Text>{u"2", u"a", u"b", u"", u" "}));
+}
+
+TEST_F(GridStoreSortTest, AnOrderOfTheUsersOwnCounts) {
+    struct ByLength final : TextOrder {
+        std::vector<int> RanksOf(const std::vector<Text>& texts) const override {
+            std::vector<int> ranks;
+            for (const Text& text : texts)
+                ranks.push_back(static_cast<int>(text.size()));
+            return ranks;
+        }
+    };
+    GridStore own(CodePage::Windows1252(), std::make_shared<ByLength>());
+    own.SetColCount(Col{1});
+    own.SetRowCount(Row{2});
+    own.SetCellValue(Row{1}, Col{1}, u"aaa");
+    own.SetCellValue(Row{2}, Col{1}, u"b");
+    own.SortByColumn(Col{1}, SortOrder::Ascending);
+    EXPECT_EQ(own.CellValue(Row{1}, Col{1}), u"b");
 }
 
 TEST_F(GridStoreSortTest, RowsThatCompareAlikeKeepTheirOrderBothWays) {

@@ -62,6 +62,12 @@ TEST_F(Design, MakesEightEmptyRowsWithCheckBoxes) {
     }
 }
 
+TEST_F(Design, TheFirstCellIsTheCurrentOne) {
+    Make({u"Name", u"Town"});
+    EXPECT_EQ(on.grid.CurRow(), Row{1});
+    EXPECT_EQ(on.grid.CurCol(), Col{1});
+}
+
 TEST_F(Design, MakesAColumnForEachTitle) {
     Make({u"Name", u"Town"});
     ASSERT_EQ(on.grid.ColCount(), Col{2});

@@ -305,6 +305,12 @@ TEST_F(Import, ReadsTheClipboardAfterTheMessagesRan) {
     EXPECT_EQ(Cell(1, 1), u"later");
 }
 
+TEST_F(Import, TheFirstCellIsTheCurrentOne) {
+    Take(u"a\tb\nc\td");
+    EXPECT_EQ(on.grid.CurRow(), Row{1});
+    EXPECT_EQ(on.grid.CurCol(), Col{1});
+}
+
 TEST_F(Import, ShowsTheHourglassMeanwhile) {
     Take(u"a");
     EXPECT_EQ(on.program.screen.Pointers(), (std::vector<Pointer>{Pointer::Hourglass, Pointer::Default}));

@@ -97,7 +97,39 @@ TEST_F(DesignTable, AssignsTheLabelToTheCurrentEntry) {
     Try([](frmDesignTable& f) {
         Assign(f, 3, u" Name ");
         EXPECT_EQ(Title(f, 3), u" Name ");
-        EXPECT_EQ(f.ListView1.Current(), 3);
+        EXPECT_EQ(f.ListView1.Current(), 4);
+        EXPECT_EQ(f.txtColumnName.SelText(), u" Name ");
+        EXPECT_EQ(f.Focused(), &f.txtColumnName);
+    });
+}
+
+TEST_F(DesignTable, TheSelectionStaysOnTheLastEntry) {
+    Try([](frmDesignTable& f) {
+        Assign(f, 24, u"Name");
+        EXPECT_EQ(f.ListView1.Current(), 24);
+    });
+}
+
+TEST_F(DesignTable, TakesTitlesThatAreTypedIntoTheList) {
+    Show([](frmDesignTable& f) {
+        f.ListView1.TypeText(1, u"Name", 1);
+        EXPECT_EQ(f.ListView1.Current(), 2);
+        f.ListView1.TypeText(2, u"Town", 1);
+        f.ListView1.TypeText(3, u"   ", 1);
+        EXPECT_EQ(Title(f, 3), u"");
+        f.ListView1.TypeText(4, u"Street", 0);
+        EXPECT_EQ(f.ListView1.Current(), 4);
+        f.cmdMake.Press();
+    });
+    EXPECT_EQ(Made(), (Titles{u"Name", u"Town", u"Street"}));
+}
+
+TEST_F(DesignTable, ReturnInTheListGoesOn) {
+    Try([](frmDesignTable& f) {
+        KeyEvent key{Key::Return, Mask::None};
+        f.ListView1.KeyDown(key);
+        EXPECT_TRUE(key.consumed);
+        EXPECT_EQ(f.ListView1.Current(), 2);
     });
 }
 

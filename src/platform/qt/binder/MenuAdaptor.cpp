@@ -1,6 +1,7 @@
 #include "platform/qt/binder/MenuAdaptor.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/EditingKeys.h"
 #include "platform/qt/base/FinishTyping.h"
 
 #include <QCoreApplication>
@@ -40,17 +41,23 @@ QAction* MakeAction(const MenuEntry& entry, Menu& menu, QObject& parent) {
     return action;
 }
 
+/// Leaves the keys that the menu binds to the menu, whatever widget has the keyboard. Only the keys with
+/// which a text is edited go to the text.
 class KeyKeeper : public QObject {
 public:
     explicit KeyKeeper(const QMenuBar& bar) : bar_(bar) {}
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::ShortcutOverride) return false;
-        const auto* widget = qobject_cast<QWidget*>(watched);
+        const bool asked = event->type() == QEvent::ShortcutOverride;
+        if (!asked && event->type() != QEvent::KeyPress) return false;
+        auto* widget = qobject_cast<QWidget*>(watched);
         const bool mine = widget != nullptr && widget->window() == bar_.window();
-        if (!mine || !Bound(static_cast<QKeyEvent&>(*event))) return false;
-        event->ignore();
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (!mine || !Bound(key)) return false;
+        const bool editing = EditsWith(*widget, key);
+        if (!asked) return editing && RedidWith(*widget, key);
+        event->setAccepted(editing);
         return true;
     }
 

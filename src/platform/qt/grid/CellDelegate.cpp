@@ -98,7 +98,8 @@ void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& opt
 TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) const {
     const Text& part = box_.MarkedText.Get();
     if (part.empty()) return {};
-    return {part, MarkBack(colours, IsCurrent(cell) ? Mark::Strong : Mark::Soft)};
+    const QColor back = MarkBack(colours, IsCurrent(cell) ? Mark::Strong : Mark::Soft);
+    return {part, back, MarkText(colours, back)};
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -161,11 +162,11 @@ void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewI
     static_cast<CellEditor&>(*editor).SetCell(option.rect);
 }
 
-void CellDelegate::Finish(QWidget& editor, bool commit, int columnStep) const {
+void CellDelegate::Finish(QWidget& editor, bool commit, int cellStep) const {
     auto& self = const_cast<CellDelegate&>(*this); // NOLINT: Qt makes editors in a const function
     if (commit) emit self.commitData(&editor);
     emit self.closeEditor(&editor, NoHint);
-    if (columnStep != 0) emit Moved(columnStep);
+    if (cellStep != 0) emit Moved(cellStep);
 }
 
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {

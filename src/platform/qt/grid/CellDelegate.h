@@ -37,8 +37,8 @@ public:
                               const QModelIndex& index) const override;
 
 signals:
-    /// The editor was closed, and the current cell is to move by `columnStep` columns.
-    void Moved(int columnStep) const;
+    /// The editor was closed, and the user goes on by `cellStep` cells.
+    void Moved(int cellStep) const;
 
 protected:
     bool eventFilter(QObject* editor, QEvent* event) override;
@@ -46,7 +46,7 @@ protected:
 private:
     const Grid& Store() const { return box_.Store(); }
     const QFont& CellFont(const QFont& base, Row row, Col col) const;
-    void Finish(QWidget& editor, bool commit, int columnStep) const;
+    void Finish(QWidget& editor, bool commit, int cellStep) const;
     void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
                    const QColor& back) const;
     void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,

@@ -23,7 +23,7 @@ public:
     void Commit() override { emit Finished(true, 0); }
 
 signals:
-    void Finished(bool commit, int columnStep);
+    void Finished(bool commit, int cellStep);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -68,6 +68,10 @@ QColor MarkBack(const CellColours& colours, Mark mark) {
     return best;
 }
 
+QColor MarkText(const CellColours& colours, const QColor& mark) {
+    return Contrast(colours.text, mark) >= kMarkContrast ? colours.text : BlackOrWhite(mark);
+}
+
 QColor TableBack(const Grid& store, const QPalette& palette) {
     const Colour own = OwnTableBack(store, palette);
     return own == kNoColour ? palette.color(QPalette::Base) : ToQColor(own);

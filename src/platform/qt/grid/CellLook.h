@@ -31,4 +31,7 @@ enum class Mark : std::uint8_t { Soft, Strong };
 /// and the text on it stays readable.
 QColor MarkBack(const CellColours& colours, Mark mark);
 
+/// The colour of the letters on such a mark, which can always be read.
+QColor MarkText(const CellColours& colours, const QColor& mark);
+
 } // namespace korvane

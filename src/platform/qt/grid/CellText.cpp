@@ -55,6 +55,7 @@ public:
         QTextOption option;
         option.setWrapMode(room_ > 1 ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
         layout.setTextOption(option);
+        layout.setFormats(MarkFormats(visible));
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
             line.setLineWidth(area_.width());
@@ -90,6 +91,18 @@ private:
         line.draw(&painter_, shift);
     }
 
+    /// The colour of the letters in the marked places.
+    QVector<QTextLayout::FormatRange> MarkFormats(TextView paragraph) const {
+        QVector<QTextLayout::FormatRange> formats;
+        if (marks_.part.empty() || !marks_.text.isValid()) return formats;
+        QTextCharFormat format;
+        format.setForeground(marks_.text);
+        for (std::size_t at = paragraph.find(marks_.part); at != TextView::npos;
+             at = paragraph.find(marks_.part, at + marks_.part.size()))
+            formats.append({static_cast<int>(at), static_cast<int>(marks_.part.size()), format});
+        return formats;
+    }
+
     void DrawMarks(const QTextLine& line, TextView paragraph, const QPointF& shift) {
         const auto begin = static_cast<std::size_t>(line.textStart());
         const std::size_t end = begin + static_cast<std::size_t>(line.textLength());
@@ -114,6 +127,7 @@ private:
         if (shown.isEmpty()) return;
         QTextLayout layout(shown, font_);
         layout.setTextOption(QTextOption(Qt::AlignLeft));
+        layout.setFormats(MarkFormats(Left(text, static_cast<std::size_t>(shown.size() - 1))));
         layout.beginLayout();
         QTextLine line = layout.createLine();
         line.setNumColumns(static_cast<int>(shown.size()));

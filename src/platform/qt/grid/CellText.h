@@ -10,10 +10,11 @@ class QPainter;
 
 namespace korvane {
 
-/// The marks in a text: every place that contains `part` gets this background. An empty part marks nothing.
+/// The marks in a text: every place that contains `part` gets these colours. An empty part marks nothing.
 struct TextMarks {
     TextView part{};
     QColor back{};
+    QColor text{};
 };
 
 /// Draws a cell's text from the top left corner of `area`. The text is wrapped if there is room for several

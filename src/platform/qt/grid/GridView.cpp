@@ -61,7 +61,7 @@ void GridView::Attach(GridBox& box) {
     box_ = &box;
     model_ = std::make_unique<GridModel>(box);
     delegate_ = MakeDelegate(*model_, box);
-    connect(delegate_.get(), &CellDelegate::Moved, this, [this](int step) { MoveBy(0, step); });
+    connect(delegate_.get(), &CellDelegate::Moved, this, [this](int step) { StepBy(step); });
     QTableView::setModel(model_.get());
     setItemDelegate(delegate_.get());
     box.Store().SetListener(this);

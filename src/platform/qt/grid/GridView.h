@@ -67,8 +67,8 @@ private:
 
     QModelIndex CheckAt(const QPoint& place) const;
     bool ToggleCurrentCheck();
-    void MoveBy(int rows, int columns);
-    void CopyCurrent() const;
+    void StepBy(int cells);
+    void MoveDown();
     void TellMouseUp(const QMouseEvent& event);
 
     GridBox* box_ = nullptr;

@@ -5,12 +5,10 @@
 #include "platform/qt/grid/GridView.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <algorithm>
 
 namespace korvane {
 
@@ -19,6 +17,13 @@ namespace {
 MouseButton ToMouseButton(Qt::MouseButton button) {
     if (button == Qt::RightButton) return MouseButton::Right;
     return button == Qt::MiddleButton ? MouseButton::Middle : MouseButton::Left;
+}
+
+/// The cells that a Tab key goes on by; 0 for any other key.
+int TabStep(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Backtab) return -1;
+    const bool chord = event.modifiers().testFlag(Qt::ControlModifier);
+    return event.key() == Qt::Key_Tab && !chord ? 1 : 0;
 }
 
 } // namespace
@@ -64,27 +69,24 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
 void GridView::keyPressEvent(QKeyEvent* event) {
     const auto modifiers = event->modifiers() & ~Qt::KeypadModifier;
     const bool plain = modifiers == Qt::NoModifier;
-    if (event->matches(QKeySequence::Copy)) {
-        CopyCurrent();
+    const int step = tabKeyNavigation() ? TabStep(*event) : 0;
+    if (step != 0) {
+        StepBy(step);
     } else if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
-        MoveBy(1, 0);
+        MoveDown();
     } else if (!(plain && event->key() == Qt::Key_Space && ToggleCurrentCheck())) {
         QTableView::keyPressEvent(event);
     }
 }
 
-void GridView::MoveBy(int rows, int columns) {
-    const QModelIndex current = currentIndex();
-    if (!current.isValid()) return;
-    const int row = std::clamp(current.row() + rows, 0, model_->rowCount() - 1);
-    const int column = std::clamp(current.column() + columns, 0, model_->columnCount() - 1);
-    setCurrentIndex(model_->index(row, column));
+void GridView::StepBy(int cells) {
+    if (box_ != nullptr) box_->StepCell(cells);
 }
 
-void GridView::CopyCurrent() const {
-    if (!currentIndex().isValid()) return;
-    const Grid& store = box_->Store();
-    QApplication::clipboard()->setText(ToQString(store.CellText(store.CurRow(), store.CurCol())));
+void GridView::MoveDown() {
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && current.row() + 1 < model_->rowCount())
+        setCurrentIndex(current.siblingAtRow(current.row() + 1));
 }
 
 bool GridView::ToggleCurrentCheck() {

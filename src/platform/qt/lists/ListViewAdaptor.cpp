@@ -6,34 +6,22 @@
 
 #include <QApplication>
 #include <QHeaderView>
-#include <QPainter>
-#include <QStyledItemDelegate>
 
 namespace korvane {
-
-namespace {
-
-/// Draws a line below and at the right of each cell.
-class LinedDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override {
-        QStyledItemDelegate::paint(painter, option, index);
-        painter->setPen(option.palette.color(QPalette::Window));
-        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
-    }
-};
-
-} // namespace
 
 ListViewAdaptor::ListViewAdaptor(ListView& list, QTreeView& widget)
     : ListViewAdaptor(list, widget, *new ListViewModel(list, &widget)) {}
 
 ListViewAdaptor::ListViewAdaptor(ListView& list, QTreeView& widget, ListViewModel& model)
-    : RowsAdaptor(list, widget, model), list_(list), widget_(widget), model_(model) {
+    : RowsAdaptor(list, widget, model),
+      list_(list),
+      widget_(widget),
+      model_(model),
+      delegate_(*new RowDelegate(&widget)) {
+    widget.setItemDelegate(&delegate_);
+    connect(&delegate_, &RowDelegate::Typed, this, [this](int row, const QString& text, int step) {
+        if (Attached()) list_.TypeText(row + 1, ToText(text), step);
+    });
     widget.setRootIsDecorated(false);
     widget.setUniformRowHeights(true);
     widget.setAllColumnsShowFocus(true);
@@ -60,8 +48,11 @@ void ListViewAdaptor::WriteShape() {
     widget_.setSelectionMode(list_.MultiSelect ? QAbstractItemView::ExtendedSelection
                                                : QAbstractItemView::SingleSelection);
     widget_.setDragEnabled(list_.FilesToDrag != nullptr);
-    const bool lined = dynamic_cast<const LinedDelegate*>(widget_.itemDelegate()) != nullptr;
-    if (list_.GridLines && !lined) widget_.setItemDelegate(new LinedDelegate(&widget_));
+    delegate_.SetLined(list_.GridLines);
+    constexpr auto kTyping = QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                             QAbstractItemView::AnyKeyPressed;
+    widget_.setEditTriggers(
+        list_.EditColumn > 0 ? kTyping : QAbstractItemView::EditTriggers(QAbstractItemView::NoEditTriggers));
     widget_.viewport()->update();
 }
 

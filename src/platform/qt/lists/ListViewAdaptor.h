@@ -2,6 +2,7 @@
 
 #include "controls/ListView.h"
 #include "platform/qt/lists/ListViewModel.h"
+#include "platform/qt/lists/RowDelegate.h"
 #include "platform/qt/lists/RowsAdaptor.h"
 
 #include <QTreeView>
@@ -15,6 +16,7 @@ public:
 
 protected:
     int CurrentRow() const override { return list_.Current() - 1; }
+    int CurrentColumn() const override { return list_.EditColumn > 0 ? list_.EditColumn - 1 : 0; }
     bool Picked(int row) const override { return list_.Selected(row + 1); }
     void Pick(int row, bool picked) override { list_.SetSelected(row + 1, picked); }
     void GoTo(int row) override { list_.Select(row + 1); }
@@ -31,6 +33,7 @@ private:
     ListView& list_;
     QTreeView& widget_;
     ListViewModel& model_;
+    RowDelegate& delegate_;
 };
 
 } // namespace korvane

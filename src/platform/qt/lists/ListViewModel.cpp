@@ -42,7 +42,7 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (!Holds(index)) return {};
     const int row = index.row() + 1;
     const int column = index.column();
-    if (role == Qt::DisplayRole) return ToQString(list_.TextAt(row, column + 1));
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return ToQString(list_.TextAt(row, column + 1));
     if (role == Qt::TextAlignmentRole) {
         return ToAlignment(list_.Columns.Get()[static_cast<std::size_t>(column)].align);
     }
@@ -73,6 +73,7 @@ Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags row = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     row.setFlag(Qt::ItemIsUserCheckable, list_.CheckBoxes);
     row.setFlag(Qt::ItemIsDragEnabled, list_.FilesToDrag != nullptr);
+    row.setFlag(Qt::ItemIsEditable, index.column() + 1 == list_.EditColumn);
     return row;
 }
 

@@ -154,7 +154,7 @@ std::vector<bool> RowsAdaptor::ShownPicks() const {
 }
 
 void RowsAdaptor::WriteCurrent() {
-    const QModelIndex current = model_.index(CurrentRow(), 0);
+    const QModelIndex current = model_.index(CurrentRow(), CurrentColumn());
     if (current == view_.currentIndex()) return;
     view_.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
 }

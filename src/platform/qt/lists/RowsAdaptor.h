@@ -22,6 +22,8 @@ protected:
     // What the kind of control makes of rows, and what the user does to it.
 
     virtual int CurrentRow() const = 0;
+    /// The column in which the user types.
+    virtual int CurrentColumn() const { return 0; }
     virtual bool Picked(int row) const = 0;
     virtual void Pick(int row, bool picked) = 0;
     virtual void GoTo(int row) = 0;

@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// The nodes of a tree for the views of Qt. It keeps nothing of them: an index has the id of its node, so that
-/// an index that outlives its node finds none.
+/// The nodes of a tree for the views of Qt. It keeps nothing of them: an index has the id of its node, so
+/// that an index that outlives its node finds none.
 class TreeViewModel : public QAbstractItemModel {
     Q_OBJECT
 

@@ -55,6 +55,14 @@ TEST_F(FindReplace, HasItsCaptions) {
     });
 }
 
+TEST_F(FindReplace, OpensWithItsTextSelected) {
+    t.app.Settings.FindText = u"abc";
+    InFindMode([](frmFindReplace& f) {
+        EXPECT_EQ(f.Text1.SelText(), u"abc");
+        EXPECT_EQ(f.Focused(), &f.Text1);
+    });
+}
+
 TEST_F(FindReplace, InFindModeNothingCanBeReplaced) {
     InFindMode([](frmFindReplace& f) {
         EXPECT_FALSE(f.Text2.Enabled);

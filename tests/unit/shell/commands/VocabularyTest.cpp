@@ -1,6 +1,7 @@
 // Everything in the menus, on the tool bar, in the sidebar and on the keys of the grid. Users know it by
 // heart, so none of it may change by accident.
 
+#include "dbops/commands/CellCommands.h"
 #include "dbops/commands/ColumnCommands.h"
 #include "dbops/commands/ColumnSum.h"
 #include "dbops/commands/CopyCommands.h"
@@ -306,6 +307,14 @@ const Called kGridKeys[] = {
     {"Ctrl+Shift+X", &MakeEmailStrikethru},
     {"Ctrl+Z", &UndoEdit},
     {"Ctrl+Shift+Z", &RedoEdit},
+    {"Ctrl+C", &CopyCell},
+    {"Ctrl+Insert", &CopyCell},
+    {"Ctrl+X", &CutCell},
+    {"Shift+Delete", &CutCell},
+    {"Ctrl+V", &PasteCells},
+    {"Shift+Insert", &PasteCells},
+    {"Delete", &ClearCell},
+    {"Ctrl+Shift+F", &GoToFindBox},
 };
 
 Lines LinesOf(std::string_view block) {

@@ -65,6 +65,41 @@ TEST_F(TabTest, SortingThatIsSwitchedOffStaysOnInAnOpenTab) {
     EXPECT_EQ(Tab().Table().TableAltered, 1);
 }
 
+TEST_F(TabTest, GoingOnFromTheLastCellAddsARow) {
+    Start();
+    Tab().GridStore().SetRowHeight(Row{2}, 40);
+    Tab().GridStore().SetCurRow(Row{2});
+    Tab().iGrid1.StepCell(1);
+    EXPECT_EQ(Tab().GridStore().RowCount(), Row{3});
+    EXPECT_EQ(Tab().GridStore().CurRow(), Row{3});
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{3}), 40);
+    EXPECT_TRUE(Tab().GridStore().CellCheckShown(Row{3}));
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
+TEST_F(TabTest, GoingOnInATableThatIsFullStays) {
+    Start();
+    Tab().GridStore().SetRowCount(kMaxRows);
+    Tab().GridStore().SetCurRow(kMaxRows);
+    Tab().iGrid1.StepCell(1);
+    EXPECT_EQ(Tab().GridStore().CurRow(), kMaxRows);
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(TabTest, AKeyGoesToTheBoxForTheTextToFindAndEscBack) {
+    Start();
+    Tab().txtFindString.Text = u"pear";
+    Tab().txtFindString.SelStart = 4;
+    EXPECT_TRUE(p.PressKey('F', Mask::Ctrl | Mask::Shift));
+    EXPECT_EQ(Tab().Focused(), &Tab().txtFindString);
+    EXPECT_EQ(Tab().txtFindString.SelText(), u"pear");
+    const FocusCounter focus(Tab().GridStore());
+    KeyEvent escape{Key::Escape, Mask::None};
+    Tab().txtFindString.KeyDown(escape);
+    EXPECT_TRUE(escape.consumed);
+    EXPECT_EQ(focus.Count(), 1);
+}
+
 TEST_F(TabTest, TheRightButtonShowsTheTablesMenu) {
     Start();
     p.user.ChooseFromPopUp("");

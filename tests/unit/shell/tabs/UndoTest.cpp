@@ -67,6 +67,29 @@ TEST_F(UndoTest, AClickOnABoxIsOneStep) {
     ExpectOneStep();
 }
 
+TEST_F(UndoTest, ABlockThatIsPastedIsOneStep) {
+    GoTo(2, 1);
+    p.clipboard.SetText(u"1\t2\n3\t4\n5\t6");
+    EXPECT_TRUE(p.PressKey('V', Mask::Ctrl));
+    EXPECT_EQ(Cell(4, 2), u"6");
+    ExpectOneStep();
+}
+
+TEST_F(UndoTest, ACellThatIsCutOrEmptiedIsOneStep) {
+    GoTo(2, 1);
+    EXPECT_TRUE(p.PressKey('X', Mask::Ctrl));
+    ExpectOneStep();
+    GoTo(2, 2);
+    EXPECT_TRUE(p.PressKey(Key::Delete));
+    ExpectOneStep();
+}
+
+TEST_F(UndoTest, ARowThatIsAddedByGoingOnIsOneStep) {
+    GoTo(3, 2);
+    Tab().iGrid1.StepCell(1);
+    ExpectOneStep();
+}
+
 TEST_F(UndoTest, ASortByAHeaderIsOneStep) {
     Tab().iGrid1.ClickHeader(Col{1});
     ExpectOneStep();
