@@ -32,6 +32,8 @@ public:
     std::function<void(MouseButton)> MouseUp;
     /// The cell is the current one already.
     std::function<void(Row, Col)> CellClick;
+    /// Something that can be seen of the table changed, or the current cell moved.
+    std::function<void()> Seen;
     /// The user went on from the last cell.
     std::function<void()> PastEnd;
     /// The mouse pointer came over the grid (true) or left it.
@@ -43,6 +45,8 @@ public:
     /// This text is highlighted wherever a cell contains it; case counts. Nothing is highlighted while it is
     /// empty.
     Property<Text> MarkedText{*this, Aspect::Text};
+    /// The text of column 1 in rows that are drawn faded. Empty for none.
+    Property<Text> FadedMark{*this, Aspect::Text};
     /// The form of the mouse pointer over the grid.
     Property<Pointer> MousePointer{*this, Aspect::Pointer, Pointer::Default};
     /// A picture file for the pointer in the form of a hand. When it can't be read, the system's hand is

@@ -2,9 +2,17 @@
 
 #include "controls/Control.h"
 
+#include <functional>
 #include <vector>
 
 namespace korvane {
+
+/// What a tab tells beside its caption.
+struct TabNote {
+    /// The child has changes that aren't on disk.
+    bool altered = false;
+    Text toolTip{};
+};
 
 /// The child windows of a main window, one tab each, in the order of their creation, with their captions.
 class TabStrip : public Control {
@@ -28,6 +36,14 @@ public:
     Form* ActiveChild() const { return active_; }
     /// Shows the child and runs its `Activate`, as a click of the user does.
     void Select(Form& child);
+
+    /// The view asks for the notes of all children when it is told that one changed.
+    std::function<TabNote(const Form&)> NoteOf;
+    void TellNotes() { Notify(Aspect::State); }
+    /// What is told of the active child where the strip has room, the most important part first. The view
+    /// asks when it is told of a change.
+    std::function<std::vector<Text>()> StatusParts;
+    void TellStatus() { Notify(Aspect::Value); }
 
     /// A click with the context button on a tab.
     std::function<void()> TabContextClick;

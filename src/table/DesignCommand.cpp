@@ -58,6 +58,7 @@ void MakeDesignedTable(const TabContext& tab) {
     tab.host.SetTabCaption(table.TxtDbFile);
     TakeLook(table);
     tab.host.ShowRowHeight(static_cast<std::int16_t>(kNewRowHeight));
+    table.SavedAt.reset();
     table.TableAltered = 1;
 }
 

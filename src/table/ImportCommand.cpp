@@ -49,6 +49,7 @@ void ImportClipboard(const TabContext& tab) {
     table.TxtDbFile = tab.host.TabCaption();
     FillGrid(table.GridStore(), text, app.Settings.AllowSorting == 1);
     GoToFirstCell(table.GridStore());
+    table.SavedAt.reset();
     table.TableAltered = 1;
     table.GridStore().GridSetFocus();
 }

@@ -28,6 +28,7 @@ void EndLoad(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
     grid.SetGridVisible(true);
     GoToFirstCell(grid);
+    tab.table.SavedAt = tab.app.Files().Modified(tab.table.TxtDbFile);
     tab.table.TableAltered = 0;
     tab.app.Screen().ProcessMessages();
     grid.GridSetFocus();
@@ -66,14 +67,25 @@ bool FillTable(const TabContext& tab, const SharedBytes& bytes) {
     return false;
 }
 
+void NoteSaved(const TabContext& tab) {
+    if (tab.history != nullptr) tab.history->NoteSaved();
+    tab.table.SavedAt = tab.app.Clock().Now();
+    tab.table.TableAltered = 0;
+}
+
 void WriteTable(const TabContext& tab, FileWriter& file, SaveGuard& guard) {
     const Hourglass hourglass(tab.app.Screen());
     tab.app.Screen().ProcessMessages();
     tab.table.TakeHeightOfCurrentRow();
+    tab.host.ShowRowHeight(tab.table.SetRowHeight.value_or(std::int16_t{0}));
     if (tab.history != nullptr) tab.history->IgnoreRowHeight();
     TbxWriter(tab.table, file).Write();
     file.Close();
-    tab.table.TableAltered = guard.Finish() ? 0 : 1;
+    if (guard.Finish()) {
+        NoteSaved(tab);
+    } else {
+        tab.table.TableAltered = 1;
+    }
     tab.app.Clock().Wait(kWaitAfterSave);
 }
 

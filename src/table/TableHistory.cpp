@@ -33,11 +33,12 @@ std::size_t TableHistory::Step::MemoryUse() const {
 
 void TableHistory::EndStep() {
     if (stopped_) return;
-    Step step{table_.GridStore().TakeNotedChanges(), {}};
+    Step step{table_.GridStore().TakeNotedChanges(), {}, 0};
     if (commandDepth_ > 0) step.attributes = ChangedAttributes();
     attributes_ = table_;
     if (step.grid == nullptr && step.attributes.empty()) return;
     undone_.clear();
+    step.state = ++lastState_;
     doneMemory_ += step.MemoryUse();
     done_.push_back(std::move(step));
     ForgetOldest();
@@ -57,8 +58,14 @@ std::vector<TableHistory::AttributeNote> TableHistory::ChangedAttributes() const
 void TableHistory::ForgetOldest() {
     while (doneMemory_ > mostMemory_ && done_.size() > 1) {
         doneMemory_ -= done_.front().MemoryUse();
+        first_ = done_.front().state;
         done_.pop_front();
     }
+}
+
+void TableHistory::NoteSaved() {
+    EndStep();
+    saved_ = State();
 }
 
 bool TableHistory::Undo() {
@@ -90,7 +97,7 @@ void TableHistory::TurnStep(Step& step) {
         std::visit([this](auto& each) { std::swap(table_.*each.field, each.other); }, note);
     if (table_.SetRowHeight != height) host_.ShowRowHeight(table_.SetRowHeight.value_or(std::int16_t{0}));
     attributes_ = table_;
-    table_.TableAltered = 1;
+    table_.TableAltered = State() == saved_ ? 0 : 1;
     grid.EnsureRowVisible(grid.CurRow());
     grid.GridSetFocus();
 }
@@ -107,6 +114,7 @@ void TableHistory::Start() {
     table_.GridStore().NoteChanges(true);
     stopped_ = false;
     attributes_ = table_;
+    saved_ = first_ = ++lastState_;
 }
 
 TableStep::TableStep(TableHistory& history) : history_(history) {

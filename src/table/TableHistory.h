@@ -35,7 +35,13 @@ public:
     /// Keeps a change of the model's row height out of the next step, because it wasn't an edit.
     void IgnoreRowHeight() { attributes_.SetRowHeight = table_.SetRowHeight; }
 
-    /// Takes the latest step back; the table counts as altered. False when there is none.
+    /// The file has what the table has now. When undoing or redoing comes back here, the table doesn't count
+    /// as altered any more.
+    void NoteSaved();
+    /// No state of the table is in the file any more.
+    void NoteFileLost() { saved_ = kNowhere; }
+
+    /// Takes the latest step back. False when there is none.
     bool Undo();
     /// Makes the step again that was undone last. False when there is none.
     bool Redo();
@@ -55,11 +61,16 @@ private:
     struct Step {
         std::unique_ptr<GridChanges> grid; // none when only attributes changed
         std::vector<AttributeNote> attributes;
+        std::size_t state = 0; // the number of the state that the step leads to
 
         std::size_t MemoryUse() const;
     };
     using Steps = std::deque<Step>;
 
+    static constexpr std::size_t kNowhere = 0;
+
+    /// The number of the state in which the table is. No other state ever gets it.
+    std::size_t State() const { return done_.empty() ? first_ : done_.back().state; }
     std::vector<AttributeNote> ChangedAttributes() const;
     void TurnStep(Step& step);
     bool MoveStep(Steps& from, Steps& to);
@@ -74,6 +85,9 @@ private:
     Steps undone_;
     std::size_t doneMemory_ = 0;
     TableAttributes attributes_; // as they were at the end of the last step
+    std::size_t lastState_ = 1;
+    std::size_t first_ = 1; // the state before the first step
+    std::size_t saved_ = 1;
     int commandDepth_ = 0;
     bool stopped_ = false;
 };

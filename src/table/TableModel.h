@@ -1,8 +1,10 @@
 #pragma once
 
+#include "common/number/DateTime.h"
 #include "common/number/Units.h"
 #include "common/text/Text.h"
 #include "grid/Grid.h"
+#include "table/AlteredFlag.h"
 
 #include <array>
 #include <cstddef>
@@ -59,7 +61,9 @@ public:
     /// Full path of the file; empty for a table that has none.
     Text TxtDbFile;
     /// 1 when the table has changes that aren't on disk.
-    std::int16_t TableAltered = 0;
+    AlteredFlag TableAltered;
+    /// When the file was written; nothing for a table that isn't in a file yet.
+    std::optional<DateTime> SavedAt;
     /// Used only between reading the column lines of a file and creating the columns.
     ColumnTexts ColumnWidths;
     /// The titles of the last design on this tab. Entries without a title are left out.

@@ -125,5 +125,13 @@ TEST(MarkBackTest, StandsOutMoreInTheCurrentCell) {
     EXPECT_LT(strong.blue(), soft.blue());
 }
 
+TEST(CheckColoursTest, ABoxAndItsTickCanBeSeenOnEveryLookOfARow) {
+    for (const auto& [name, colours] : Looks()) {
+        const CheckColours box = CheckColoursOn(colours.back);
+        EXPECT_GE(Contrast(box.edge, colours.back), 3.0) << name;
+        EXPECT_GE(Contrast(box.tick, box.fill), 4.5) << name;
+    }
+}
+
 } // namespace
 } // namespace korvane

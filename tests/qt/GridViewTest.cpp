@@ -628,5 +628,45 @@ TEST_F(GridViewTest, AllThatIsMarkedInALineIsPaintedBehindItsText) {
     EXPECT_GT(marked, 5);
 }
 
+// ---- What can be seen ---------------------------------------------------------------------------------
+
+TEST_F(GridViewTest, TheHeaderHasRoomForItsLetters) {
+    const QHeaderView& header = *View().horizontalHeader();
+    const int margins = 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+    EXPECT_GT(header.height(), header.fontMetrics().height() + margins);
+    const QFont before = QApplication::font();
+    QFont large = before;
+    large.setPointSize(20);
+    QApplication::setFont(large);
+    View().ReadLook();
+    EXPECT_GT(header.height(), QFontMetrics(large).height() + margins);
+    QApplication::setFont(before);
+}
+
+TEST_F(GridViewTest, ARowThatIsMarkedForDeletionIsFaded) {
+    const QImage before = Picture(2, 2);
+    form.iGrid1.FadedMark = u"---";
+    EXPECT_EQ(Picture(2, 2), before);
+    Store().SetCellValue(Row{2}, Col{1}, u"---");
+    test::Settle();
+    EXPECT_NE(Picture(2, 2), before);
+    EXPECT_EQ(Picture(3, 2).size(), before.size());
+    form.iGrid1.FadedMark = u"";
+    EXPECT_EQ(Picture(2, 2), before);
+}
+
+TEST_F(GridViewTest, TellsWhatIsSeenOfTheTable) {
+    int seen = 0;
+    form.iGrid1.Seen = [&seen] { ++seen; };
+    Store().SetCurRow(Row{2});
+    EXPECT_EQ(seen, 1);
+    Store().SetCellCheck(Row{2}, 1);
+    EXPECT_EQ(seen, 2);
+    Store().SetRowVisible(Row{3}, false);
+    EXPECT_EQ(seen, 3);
+    Key(Qt::Key_Down);
+    EXPECT_EQ(seen, 4);
+}
+
 } // namespace
 } // namespace korvane

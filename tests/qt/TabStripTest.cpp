@@ -264,5 +264,47 @@ TEST_F(TabStripTest, ATabIsAsWideAsItsCaptionInTheFontOfTheMoment) {
     EXPECT_GT(tabs.tabRect(0).width(), longer);
 }
 
+// ---- What the strip tells -----------------------------------------------------------------------------
+
+TEST_F(TabStripTest, AChangedChildHasADotAndItsToolTip) {
+    AddBoth();
+    bool altered = true;
+    parent.MDITabs1.NoteOf = [&](const Form& child) {
+        return &child == &first ? TabNote{altered, u"/home/anna/a & b.tbx"} : TabNote();
+    };
+    const QImage before = Tabs().grab(Tabs().tabRect(0)).toImage();
+    parent.MDITabs1.TellNotes();
+    test::Settle();
+    EXPECT_TRUE(Tabs().Altered(0));
+    EXPECT_FALSE(Tabs().Altered(1));
+    EXPECT_NE(Tabs().grab(Tabs().tabRect(0)).toImage(), before);
+    EXPECT_EQ(Tabs().tabToolTip(0), QString("/home/anna/a & b.tbx"));
+    EXPECT_TRUE(Tabs().accessibleTabName(0).contains("changed"));
+    altered = false;
+    parent.MDITabs1.TellNotes();
+    test::Settle();
+    EXPECT_EQ(Tabs().grab(Tabs().tabRect(0)).toImage(), before);
+}
+
+TEST_F(TabStripTest, TheFreeEndTellsAsMuchAsThereIsRoomFor) {
+    AddBoth();
+    parent.MDITabs1.StatusParts = [] {
+        return std::vector<Text>{u"Row 12 of 201", u"34 ticked", u"filtered", u"saved 23:32"};
+    };
+    parent.MDITabs1.TellStatus();
+    host.WidgetOf(parent)->resize(1200, 400);
+    test::Settle();
+    EXPECT_EQ(Tabs().ShownStatus(), QString("Row 12 of 201, 34 ticked, filtered, saved 23:32"));
+    EXPECT_EQ(Tabs().accessibleDescription(), Tabs().ShownStatus());
+    const int tabs = Tabs().tabRect(1).right();
+    host.WidgetOf(parent)->resize(
+        tabs + Tabs().fontMetrics().horizontalAdvance("Row 12 of 201, 34 ticked") + 50, 400);
+    test::Settle();
+    EXPECT_EQ(Tabs().ShownStatus(), QString("Row 12 of 201, 34 ticked"));
+    host.WidgetOf(parent)->resize(tabs + 20, 400);
+    test::Settle();
+    EXPECT_EQ(Tabs().ShownStatus(), QString());
+}
+
 } // namespace
 } // namespace korvane

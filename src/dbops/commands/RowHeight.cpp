@@ -28,7 +28,10 @@ void SetAllRowHeights(TableModel& table) {
 
 void mnuEdit_SetRowHeight_Clack(const TabContext& tab) {
     frmSetRowHeight form(tab);
-    if (ShowForResult(tab.app, form) == 1) SetAllRowHeights(tab.table);
+    if (ShowForResult(tab.app, form) == 1) {
+        SetAllRowHeights(tab.table);
+        tab.host.ShowRowHeight(tab.table.SetRowHeight.value_or(std::int16_t{0}));
+    }
     // This also happens after a cancel. Kept for compatibility: row-height-counts-after-cancel.
     tab.table.TableAltered = 1;
 }

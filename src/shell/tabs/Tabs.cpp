@@ -45,7 +45,16 @@ private:
 
 } // namespace
 
-Tabs::Tabs(App& app, TabStrip& strip) : app_(app), strip_(strip), documents_(1) {}
+Tabs::Tabs(App& app, TabStrip& strip) : app_(app), strip_(strip), documents_(1) {
+    strip_.NoteOf = [](const Form& child) {
+        const auto* document = dynamic_cast<const frmMDIChild*>(&child);
+        return document == nullptr ? TabNote() : document->Note();
+    };
+    strip_.StatusParts = [this] {
+        const frmMDIChild* active = Active();
+        return active == nullptr ? std::vector<Text>() : active->StatusParts();
+    };
+}
 
 Tabs::~Tabs() = default;
 
@@ -73,6 +82,10 @@ void Tabs::NewDocument() {
     document->Tag = NumberText(slot);
     document->Caption = u"Untitled_" + NumberText(slot) + u".tbx";
     TabState[slot].Path = document->Caption;
+    document->Told = [this] {
+        strip_.TellNotes();
+        strip_.TellStatus();
+    };
     strip_.Add(*document);
     CurrentTabIndex = static_cast<std::int16_t>(slot);
 }
@@ -84,7 +97,10 @@ void Tabs::AddNewTab() {
 }
 
 bool Tabs::Close(Form& child) {
-    if (OwnerOf(child) == nullptr || !child.Close()) return false;
+    if (OwnerOf(child) == nullptr) return false;
+    // The user sees what he is asked about.
+    if (strip_.NoteOf(child).altered) strip_.Select(child);
+    if (!child.Close()) return false;
     strip_.Remove(child);
     // The owner is looked up again: another tab may have been opened during the question, which moves the
     // documents.

@@ -5,9 +5,12 @@
 #include "context/ports/MainWindow.h"
 #include "controls/KeyTable.h"
 #include "dbops/commands/RowHeight.h"
+#include "dbops/rules/DeleteMark.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/rules/TableSearch.h"
+#include "dbops/rules/TableStatus.h"
 #include "grid/Grid.h"
+#include "platform/Clock.h"
 #include "shell/tabs/TabStates.h"
 #include "table/SaveCommands.h"
 
@@ -33,12 +36,16 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
     txtRowHeight.KeyDown = KeysOf(*this, Tables::kHeightKeys);
     ZoomSlider.Scroll = [this] { ZoomSlider_Scroll(); };
     ZoomSlider.Released = [this] { ZoomSlider_Released(); };
+    iGrid1.FadedMark = DeleteMark();
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
     iGrid1.AfterChange = [this] { history_.EndStep(); };
     iGrid1.PastEnd = [this] { iGrid1_PastEnd(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
     iGrid1.KeyDown = [this](KeyEvent& key) { iGrid1_KeyDown(key); };
+    iGrid1.Seen = table_.TableAltered.Changed = [this] {
+        if (Told) Told();
+    };
     ForwardToMainWindow(cmdWebsites, CommandName::mnuMisc_Websites);
     ForwardToMainWindow(cmdWallpaper, CommandName::mnuMisc_Wallpaper);
     ForwardToMainWindow(cmdSettings, CommandName::mnuMisc_Settings);
@@ -52,6 +59,15 @@ TabContext frmMDIChild::Context() {
 void frmMDIChild::Run(TabRoutine routine) {
     const TableStep step(history_);
     routine(Context());
+}
+
+TabNote frmMDIChild::Note() const {
+    const Text& path = table_.TxtDbFile;
+    return {table_.TableAltered == 1, path.empty() ? Caption.Get() : path};
+}
+
+std::vector<Text> frmMDIChild::StatusParts() const {
+    return TableStatus(table_, app_.Clock().Now());
 }
 
 int frmMDIChild::Slot() const {

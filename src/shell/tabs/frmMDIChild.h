@@ -5,6 +5,7 @@
 #include "controls/GridBox.h"
 #include "controls/Label.h"
 #include "controls/Slider.h"
+#include "controls/TabStrip.h"
 #include "controls/TextBox.h"
 #include "table/TabContext.h"
 #include "table/TableHistory.h"
@@ -12,8 +13,10 @@
 #include "table/TableModel.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace korvane {
 
@@ -43,6 +46,12 @@ public:
     TabContext Context();
     /// Runs a routine of the tab. What it changes is one step to undo.
     void Run(TabRoutine routine);
+    /// What the tab strip tells of the tab.
+    TabNote Note() const;
+    /// Where the user is in the table: the row, the ticks, the filter and the last save.
+    std::vector<Text> StatusParts() const;
+    /// The note or the status changed.
+    std::function<void()> Told;
     /// The number of the tab's slot, which is kept in its `Tag`.
     int Slot() const;
 

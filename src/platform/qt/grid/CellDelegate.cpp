@@ -83,16 +83,29 @@ void CellDelegate::PaintBack(QPainter& painter, const QStyleOptionViewItem& opti
 
 void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
                               const CellColours& colours) const {
-    QStyleOptionViewItem box = option;
-    box.rect = CheckRect(option.rect, *option.widget);
-    box.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected | QStyle::State_MouseOver);
-    box.state |= Store().CellCheck(row) == 1 ? QStyle::State_On : QStyle::State_Off;
-    // The box takes the row's colours, so that it can be seen on a light row in a dark window.
-    box.palette.setColor(QPalette::Base, Blend(colours.back, Qt::white, 0.15));
-    box.palette.setColor(QPalette::Window, Blend(colours.back, colours.text, 0.45));
-    box.palette.setColor(QPalette::Text, colours.text);
-    option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, &painter,
-                                          option.widget);
+    const CheckColours own = CheckColoursOn(colours.back);
+    const QRectF box = QRectF(CheckRect(option.rect, *option.widget)).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(own.edge);
+    painter.setBrush(own.fill);
+    painter.drawRoundedRect(box, 2, 2);
+    if (Store().CellCheck(row) == 1) {
+        painter.setPen(
+            QPen(own.tick, std::max(1.5, box.width() / 7), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&box](double x, double y) {
+            return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+        };
+        painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.74), at(0.8, 0.26)});
+    }
+    painter.restore();
+}
+
+CellColours CellDelegate::ColoursIn(CellPosition cell, const QPalette& palette) const {
+    const CellColours colours = ColoursOf(Store(), cell.row, cell.col, palette);
+    const Text& mark = box_.FadedMark.Get();
+    const bool fades = !mark.empty() && Store().CellText(cell.row, Col{1}) == mark;
+    return fades ? Faded(colours) : colours;
 }
 
 TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) const {
@@ -105,7 +118,7 @@ TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) c
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     const CellPosition cell{model_.RowOf(index.row()), GridModel::ColOf(index.column())};
-    const CellColours colours = ColoursOf(Store(), cell.row, cell.col, option.palette);
+    const CellColours colours = ColoursIn(cell, option.palette);
     PaintBack(*painter, option, cell, colours.back);
 
     QRect area = option.rect.adjusted(kPaddingX, kPaddingTop, -kPaddingX, -1);

@@ -51,6 +51,7 @@ private:
                    const QColor& back) const;
     void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
                     const CellColours& colours) const;
+    CellColours ColoursIn(CellPosition cell, const QPalette& palette) const;
     TextMarks MarksIn(CellPosition cell, const CellColours& colours) const;
     bool IsCurrent(CellPosition cell) const {
         return cell == CellPosition{Store().CurRow(), Store().CurCol()};

@@ -72,6 +72,17 @@ QColor MarkText(const CellColours& colours, const QColor& mark) {
     return Contrast(colours.text, mark) >= kMarkContrast ? colours.text : BlackOrWhite(mark);
 }
 
+CellColours Faded(const CellColours& colours) {
+    constexpr double kFading = 0.55;
+    return {colours.back, Blend(colours.text, colours.back, kFading)};
+}
+
+CheckColours CheckColoursOn(const QColor& back) {
+    const QColor ink = BlackOrWhite(back);
+    const QColor fill = Blend(back, IsDark(back) ? Qt::black : Qt::white, 0.5);
+    return {fill, Blend(back, ink, 0.75), BlackOrWhite(fill)};
+}
+
 QColor TableBack(const Grid& store, const QPalette& palette) {
     const Colour own = OwnTableBack(store, palette);
     return own == kNoColour ? palette.color(QPalette::Base) : ToQColor(own);

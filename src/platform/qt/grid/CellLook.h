@@ -18,6 +18,17 @@ struct CellColours {
 /// the text or only the background, the other one is chosen so that the text can be read.
 CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette);
 
+/// The colours of a row that is going to be deleted: the text is halfway to the background.
+CellColours Faded(const CellColours& colours);
+
+/// The colours of a check box in a cell with this background. The box can be seen on any background.
+struct CheckColours {
+    QColor fill;
+    QColor edge;
+    QColor tick;
+};
+CheckColours CheckColoursOn(const QColor& back);
+
 /// The background of the table.
 QColor TableBack(const Grid& store, const QPalette& palette);
 

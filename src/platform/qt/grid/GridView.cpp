@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 namespace korvane {
@@ -14,7 +15,7 @@ namespace korvane {
 namespace {
 
 constexpr int kSmallestColumn = 16;
-constexpr int kHeaderPadding = 8;
+constexpr int kHeaderLine = 2;
 
 } // namespace
 
@@ -43,7 +44,6 @@ void GridView::SetUpHeaders() {
     columns.setMinimumSectionSize(kSmallestColumn);
     columns.setMaximumSectionSize(1 << 20);
     columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    columns.setFixedHeight(columns.fontMetrics().height() + kHeaderPadding);
     connect(&columns, &QHeaderView::sectionClicked, this, &GridView::HeaderClicked);
     connect(&columns, &QHeaderView::sectionResized, this,
             [this](int column, int, int width) { ColumnResized(column, width); });
@@ -96,6 +96,7 @@ void GridView::setModel(QAbstractItemModel* model) {
 // ---- Following the store ------------------------------------------------------------------------------
 
 void GridView::RowsChanged(Row first, Row last) {
+    TellSeen();
     if (stale_) return;
     model_->TellChanged(first, last);
 }
@@ -104,6 +105,11 @@ void GridView::TableChanged() {
     // Notices that the store held back, those about the look too, arrive as this one.
     ReadLook();
     ReadTable();
+    TellSeen();
+}
+
+void GridView::TellSeen() const {
+    if (box_->Seen) box_->Seen();
 }
 
 void GridView::ColumnChanged(Col col) {
@@ -120,12 +126,15 @@ void GridView::LookChanged() {
 }
 
 void GridView::CurrentCellChanged() {
+    TellSeen();
     if (!stale_) ShowCurrent();
     viewport()->update();
 }
 
 void GridView::FocusWanted() {
-    setFocus(Qt::OtherFocusReason);
+    // A command may end when another tab has come to the front, which then keeps the keyboard.
+    const bool hiddenPage = window()->isVisible() && !isVisible();
+    if (!hiddenPage) setFocus(Qt::OtherFocusReason);
 }
 
 void GridView::RowWantedInView(Row row) {
@@ -177,6 +186,7 @@ void GridView::WriteWidths() {
 void GridView::ReadLook() {
     const Grid& store = box_->Store();
     horizontalHeader()->setFont(QApplication::font());
+    FitHeader();
     const FontSpec own{store.GridFontName(), store.GridFontSize(), false};
     setFont(WithSpec(WithSpec(QApplication::font(), box_->Font), own));
 
@@ -187,6 +197,13 @@ void GridView::ReadLook() {
     viewport()->setUpdatesEnabled(store.GridVisible());
     viewport()->setCursor(CursorOf(box_->MousePointer, box_->HandImage.Get()));
     viewport()->update();
+}
+
+/// The style leaves its margin free above and below a caption, and the header has a line at its bottom.
+void GridView::FitHeader() {
+    QHeaderView& header = *horizontalHeader();
+    const int margin = header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+    header.setFixedHeight(header.fontMetrics().height() + 2 * margin + kHeaderLine);
 }
 
 void GridView::ShowCurrent() {

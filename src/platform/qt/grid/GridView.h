@@ -56,10 +56,12 @@ private:
     void FocusWanted() override;
     void RowWantedInView(Row row) override;
 
+    void TellSeen() const;
     void SetUpHeaders();
     void ReadTable();
     void WriteHeights();
     void WriteWidths();
+    void FitHeader();
     void ShowCurrent();
     void ShowSortIndicator();
     void ColumnResized(int column, int width);

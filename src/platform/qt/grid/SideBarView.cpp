@@ -16,6 +16,7 @@ constexpr int kIconSize = 24;
 constexpr int kGap = 4;
 constexpr int kInset = 4;
 constexpr int kRadius = 6;
+constexpr int kRing = 2;
 
 class SideBarDelegate : public CellDelegate {
 public:
@@ -31,6 +32,7 @@ public:
         painter->setPen(option.palette.color(QPalette::WindowText));
         if (current) PaintHighlight(*painter, option);
         PaintContent(*painter, option, index);
+        if (current && view_.hasFocus()) PaintFocus(*painter, option);
         painter->restore();
     }
 
@@ -43,6 +45,14 @@ private:
         painter.setPen(Qt::NoPen);
         painter.drawRoundedRect(option.rect.adjusted(kInset, 2, -kInset, -2), kRadius, kRadius);
         painter.setPen(text.isValid() ? text : option.palette.color(QPalette::HighlightedText));
+    }
+
+    void PaintFocus(QPainter& painter, const QStyleOptionViewItem& option) const {
+        const QRectF ring = QRectF(option.rect).adjusted(kInset, 2, -kInset, -2);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(option.palette.color(QPalette::WindowText), kRing));
+        painter.drawRoundedRect(ring.adjusted(1, 1, -1, -1), kRadius, kRadius);
     }
 
     void PaintContent(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {

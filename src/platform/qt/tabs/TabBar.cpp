@@ -1,5 +1,6 @@
 #include "platform/qt/tabs/TabBar.h"
 
+#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/tabs/TabLook.h"
 
@@ -14,7 +15,8 @@ namespace korvane {
 
 namespace {
 
-constexpr int kPadding = 10;
+constexpr int kPadding = 12;
+constexpr int kDot = 6;
 constexpr int kCloseSize = 16;
 constexpr int kRoomAround = 14;
 constexpr int kAboveTabs = 3;
@@ -28,7 +30,7 @@ constexpr int kBesideCaption = 3 * kPadding + kCloseSize + kGapBetween;
 // tabs are crowded.
 constexpr int kShortest = 6;
 constexpr int kLongest = 26;
-constexpr int kCrowded = 9;
+constexpr int kCrowded = 14;
 
 /// The part of a tab's place that is painted.
 QRect ShapeIn(const QRect& tab) {
@@ -88,6 +90,36 @@ void TabBar::SetLook(int style, bool framed) {
 
 TabColours TabBar::Colours() const {
     return ColoursOf(*style_, palette());
+}
+
+void TabBar::SetAltered(int index, bool altered) {
+    if (Altered(index) == altered) return;
+    setTabData(index, altered);
+    const QString caption = tabText(index);
+    setAccessibleTabName(index, altered ? tr("%1, changed").arg(caption) : QString());
+    update(tabRect(index));
+}
+
+void TabBar::SetStatus(const QStringList& parts) {
+    if (status_ == parts) return;
+    status_ = parts;
+    setAccessibleDescription(parts.join(QStringLiteral(", ")));
+    update(FreeEnd());
+}
+
+QRect TabBar::FreeEnd() const {
+    const int tabs = count() == 0 ? 0 : tabRect(count() - 1).right() + 1;
+    return rect().adjusted(tabs + 2 * kPadding, kAboveTabs, -kPadding, 0);
+}
+
+QString TabBar::ShownStatus() const {
+    QString shown;
+    for (const QString& part : status_) {
+        const QString longer = shown.isEmpty() ? part : shown + QStringLiteral(", ") + part;
+        if (fontMetrics().horizontalAdvance(longer) > FreeEnd().width()) break;
+        shown = longer;
+    }
+    return shown;
 }
 
 QSize TabBar::tabSizeHint(int index) const {
@@ -188,6 +220,21 @@ void TabBar::paintEvent(QPaintEvent*) {
     }
     for (int index = 0; index < count(); ++index)
         PaintTab(painter, index, colours);
+    PaintStatus(painter, colours);
+}
+
+void TabBar::PaintStatus(QPainter& painter, const TabColours& colours) const {
+    painter.setPen(TextFor(colours.strip, palette()));
+    painter.drawText(FreeEnd(), Qt::AlignRight | Qt::AlignVCenter, ShownStatus());
+}
+
+void TabBar::PaintDot(QPainter& painter, int index, const QColor& colour) const {
+    if (!Altered(index)) return;
+    const QRect shape = ShapeOf(index);
+    const QRectF dot(shape.left() + (kPadding - kDot) / 2.0, shape.center().y() - kDot / 2.0 + 1, kDot, kDot);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(dot);
 }
 
 void TabBar::PaintTab(QPainter& painter, int index, const TabColours& colours) const {
@@ -228,7 +275,8 @@ void TabBar::PaintMark(QPainter& painter, const QRect& shape, const TabColours& 
 void TabBar::PaintCaption(QPainter& painter, int index, const QColor& colour) const {
     const QRect room = ShapeOf(index).adjusted(kPadding, 0, -2 * kPadding - kCloseSize, 0);
     const QString caption =
-        fontMetrics().elidedText(tabText(index), Qt::ElideMiddle, room.width(), Qt::TextShowMnemonic);
+        fontMetrics().elidedText(tabText(index), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+    PaintDot(painter, index, colour);
     painter.setPen(colour);
     painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic, caption);
     if (!hasFocus() || index != currentIndex()) return;

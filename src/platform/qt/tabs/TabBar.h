@@ -19,6 +19,13 @@ public:
     /// Sets the tab style by its number, and whether there is a line around the strip.
     void SetLook(int style, bool framed);
     TabColours Colours() const;
+    /// Draws a dot on the tab of something that has changed.
+    void SetAltered(int index, bool altered);
+    bool Altered(int index) const { return tabData(index).toBool(); }
+    /// What is told at the free end of the strip, the most important part first.
+    void SetStatus(const QStringList& parts);
+    /// The parts for which there is room, as they are shown.
+    QString ShownStatus() const;
     /// The place of the close button in a tab that covers `tab`.
     static QRect CloseButtonOf(const QRect& tab);
 
@@ -38,13 +45,18 @@ private:
     void ForgetSizes();
     void CloseAt(const QWidget& button);
     QRect ShapeOf(int index) const;
+    /// The place beside the tabs.
+    QRect FreeEnd() const;
     QPainterPath OutlineOf(const QRectF& shape) const;
     void PaintTab(QPainter& painter, int index, const TabColours& colours) const;
     void PaintMark(QPainter& painter, const QRect& shape, const TabColours& colours) const;
+    void PaintDot(QPainter& painter, int index, const QColor& colour) const;
+    void PaintStatus(QPainter& painter, const TabColours& colours) const;
     void PaintCaption(QPainter& painter, int index, const QColor& colour) const;
 
     const TabStyle* style_;
     bool framed_ = false;
+    QStringList status_;
     // Sizes in the present font. They are kept because for each new tab Qt asks several times for the sizes
     // of all tabs.
     mutable QHash<QString, int> captionWidths_;

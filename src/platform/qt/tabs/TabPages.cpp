@@ -54,8 +54,8 @@ void TabPages::SetCaption(int index, const QString& caption) {
     SetToolTip(index, caption);
 }
 
-void TabPages::SetToolTip(int index, const QString& caption) {
-    tabs_->setTabToolTip(index, Qt::mightBeRichText(caption) ? caption.toHtmlEscaped() : caption);
+void TabPages::SetToolTip(int index, const QString& toolTip) {
+    tabs_->setTabToolTip(index, Qt::mightBeRichText(toolTip) ? toolTip.toHtmlEscaped() : toolTip);
 }
 
 /// Qt stops painting while the page changes, and to do so it tells every widget of all pages. It leaves this

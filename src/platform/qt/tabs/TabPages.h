@@ -24,13 +24,13 @@ public:
     void Add(QWidget& page, const QString& caption);
     void Remove(int index);
     void SetCaption(int index, const QString& caption);
+    void SetToolTip(int index, const QString& toolTip);
     void ShowPage(int index);
 
     QString EmptyHint() const { return hint_->text(); }
     void SetEmptyHint(const QString& hint) { hint_->setText(hint); }
 
 private:
-    void SetToolTip(int index, const QString& caption);
     void BringToFront(QWidget& page);
 
     TabBar* tabs_;

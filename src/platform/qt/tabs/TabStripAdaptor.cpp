@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 namespace korvane {
 
@@ -30,7 +31,43 @@ void TabStripAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Items && !tied_) TakeKeyboard();
     if (aspect == Aspect::Visible) widget_.Tabs().setUpdatesEnabled(control_.AllowDrawing);
     if (aspect == Aspect::Colours) widget_.Tabs().SetLook(control_.Style, control_.Framed);
+    const bool tells = aspect == Aspect::State || aspect == Aspect::Value || aspect == Aspect::Items ||
+                       aspect == Aspect::Selection;
+    if (tells) HoldNotes();
     AdaptorOf::Write(aspect);
+}
+
+/// However often something changed since, notes and status are written once, when the event loop turns.
+void TabStripAdaptor::HoldNotes() {
+    if (std::exchange(told_, true)) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            told_ = false;
+            if (!Attached()) return;
+            WriteNotes();
+            WriteStatus();
+        },
+        Qt::QueuedConnection);
+}
+
+void TabStripAdaptor::WriteNotes() {
+    if (!control_.NoteOf) return;
+    int index = 0;
+    for (const Form* child : shown_) {
+        const TabNote note = control_.NoteOf(*child);
+        widget_.Tabs().SetAltered(index, note.altered);
+        if (!note.toolTip.empty()) widget_.SetToolTip(index, ToQString(note.toolTip));
+        ++index;
+    }
+}
+
+void TabStripAdaptor::WriteStatus() {
+    if (!control_.StatusParts) return;
+    QStringList parts;
+    for (const Text& part : control_.StatusParts())
+        parts.append(ToQString(part));
+    widget_.Tabs().SetStatus(parts);
 }
 
 void TabStripAdaptor::Deafen() {
@@ -62,6 +99,7 @@ void TabStripAdaptor::AddTab(Form& child) {
     connect(page, &QWidget::windowTitleChanged, this, [this, page, &child] {
         const int index = widget_.IndexOf(page);
         if (index >= 0) widget_.SetCaption(index, ToQString(child.Caption.Get()));
+        HoldNotes();
     });
 }
 

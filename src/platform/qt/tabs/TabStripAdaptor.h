@@ -22,6 +22,9 @@ private:
     void WriteTabs();
     void AddTab(Form& child);
     void ShowActive();
+    void HoldNotes();
+    void WriteNotes();
+    void WriteStatus();
     void TakeKeyboard();
     void TabClicked(int index);
     void CloseClicked(int index);
@@ -32,6 +35,8 @@ private:
     /// The children that have a tab, in the order of the tabs.
     std::vector<Form*> shown_;
     bool writing_ = false;
+    /// Whether notes and status are going to be written.
+    bool told_ = false;
     /// Whether the strip has been written for the first time.
     bool tied_ = false;
 };

@@ -41,6 +41,11 @@ TEST_F(RowHeight, TheCommandSetsAllRowsToTheChosenHeight) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
+TEST_F(RowHeight, TheBoxAndTheSliderFollowTheDialog) {
+    Proceed([](frmSetRowHeight& window) { window.cboRowHeight.Select(39); });
+    EXPECT_EQ(t.host.heights, Shown{40});
+}
+
 // Kept for compatibility: row-height-counts-after-cancel.
 TEST_F(RowHeight, CountsAsAChangeEvenAfterACancel) {
     t.table.SetRowHeight = 50;

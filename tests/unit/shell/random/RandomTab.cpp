@@ -97,9 +97,13 @@ void RandomTab::UndoOrRedo() {
 }
 
 bool RandomTab::Turn(TabRoutine routine) {
-    tab_.Table().TableAltered = 0;
+    // Undoing sets the mark either way: at the saved state the table isn't altered any more.
+    constexpr std::int16_t kUntouched = 7;
+    tab_.Table().TableAltered = kUntouched;
     tab_.Run(routine);
-    return tab_.Table().TableAltered == 1;
+    const bool turned = tab_.Table().TableAltered != kUntouched;
+    if (!turned) tab_.Table().TableAltered = 0;
+    return turned;
 }
 
 void RandomTab::Edit() {

@@ -1,6 +1,7 @@
 #include "TableWatch.h"
 
 #include "common/number/Number.h"
+#include "grid/SortKeys.h"
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,11 @@ constexpr std::array kRules{
     Rule{"Ctrl+Alt+9", Alters::Always},
     Rule{"mnuEdit_Replace", Alters::Sometimes, &Any},
     Rule{"mnuEdit_EditCell", Alters::Sometimes, &Current},
+    Rule{"Ctrl+X", Alters::Sometimes, &Current},
+    Rule{"Shift+Delete", Alters::Sometimes, &Current},
+    Rule{"Delete", Alters::Sometimes, &Current},
+    Rule{"Ctrl+V", Alters::Sometimes, &Any, 0, kMaxRows.Number()},
+    Rule{"Shift+Insert", Alters::Sometimes, &Any, 0, kMaxRows.Number()},
     Rule{"mnuCalc_Add", Alters::Never, &None, 0, 1},
 };
 
@@ -202,10 +208,17 @@ void CheckSort(Col col, const TableMoment& before, const TableMoment& after) {
     std::ranges::sort(old);
     std::ranges::sort(now);
     EXPECT_EQ(now, old);
-    const auto at = static_cast<std::size_t>(col.Number() - 1);
-    const auto byCol = [at](const std::vector<Text>& row) { return row[at]; };
-    EXPECT_TRUE(std::ranges::is_sorted(after.texts, {}, byCol) ||
-                std::ranges::is_sorted(after.texts, std::ranges::greater(), byCol));
+    std::vector<Text> column;
+    for (const auto& row : after.texts)
+        column.push_back(row[static_cast<std::size_t>(col.Number() - 1)]);
+    const SortKeys keys(column, PlainTextOrder());
+    const auto isSorted = [&](SortOrder order) {
+        std::size_t row = 1;
+        while (row < column.size() && !keys.ComesBefore(row, row - 1, order))
+            ++row;
+        return row >= column.size();
+    };
+    EXPECT_TRUE(isSorted(SortOrder::Ascending) || isSorted(SortOrder::Descending));
     EXPECT_EQ(after.Visible(), before.Visible());
     EXPECT_EQ(after.altered, 1);
 }

@@ -67,6 +67,24 @@ TEST_F(Closing, CancelKeepsTheTab) {
     EXPECT_EQ(p.app.Settings.LastDbFindText, u"");
 }
 
+TEST_F(Closing, TheTabIsShownThatTheQuestionIsAbout) {
+    Start();
+    const auto expectShown = [this](int slot) {
+        return [this, slot] { EXPECT_EQ(p.AllTabs().Active(), &p.Tab(slot)); };
+    };
+    p.user.AnswerAfter(expectShown(1), Answer::No);
+    p.user.AnswerAfter(expectShown(2), Answer::Cancel);
+    p.Choose("mnuFile_Exit");
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(2));
+}
+
+TEST_F(Closing, ATabThatClosesWithoutAWordIsNotShown) {
+    Start();
+    p.Tab(1).Table().TableAltered = 0;
+    p.AllTabs().Close(p.Tab(1));
+    EXPECT_EQ(p.AllTabs().Active(), &p.Tab(3));
+}
+
 // Kept for compatibility: closing-saves-directly.
 TEST_F(Closing, YesSavesUnderThePresentNameWhereOtherQuestionsAskForOne) {
     Start();

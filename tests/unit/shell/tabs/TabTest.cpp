@@ -319,5 +319,44 @@ TEST_F(TabTest, WhatStandsInTheFindBoxIsMarkedInTheTable) {
     EXPECT_EQ(Tab().iGrid1.MarkedText.Get(), u"");
 }
 
+TEST_F(TabTest, TheStripIsToldOfEachChangeOfTheMark) {
+    Start();
+    const auto altered = [this] { return p.Main().MDITabs1.NoteOf(Tab()).altered; };
+    EXPECT_FALSE(altered());
+    EXPECT_EQ(p.Main().MDITabs1.NoteOf(Tab()).toolTip, kFile);
+    int told = 0;
+    Tab().Told = [&told] { ++told; };
+    Tab().iGrid1.CommitEdit(Row{1}, Col{1}, u"plum");
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(altered());
+    Tab().iGrid1.CommitEdit(Row{1}, Col{1}, u"fig");
+    EXPECT_EQ(told, 1);
+    p.PressKey('Z', Mask::Ctrl);
+    p.PressKey('Z', Mask::Ctrl);
+    EXPECT_EQ(told, 2);
+    EXPECT_FALSE(altered());
+}
+
+TEST_F(TabTest, TheStripTellsWhereTheUserIs) {
+    Start();
+    const auto& status = p.Main().MDITabs1.StatusParts;
+    EXPECT_EQ(status().at(0), u"Row 1 of 2");
+    Tab().GridStore().SetCurRow(Row{2});
+    Tab().iGrid1.ClickCheck(Row{2});
+    p.Choose("mnuFile_Save");
+    EXPECT_EQ(status(), (std::vector<Text>{u"Row 2 of 2", u"1 ticked",
+                                           u"saved " + FormatDate(p.clock.Now(), u"hh:nn")}));
+    p.Choose("mnuFile_Close");
+    EXPECT_TRUE(status().empty());
+}
+
+TEST_F(TabTest, TheBoxAndTheSliderOfTheHeightFollowASave) {
+    Start();
+    Tab().GridStore().SetRowHeight(Row{1}, 40);
+    p.Choose("mnuFile_Save");
+    EXPECT_EQ(Tab().txtRowHeight.Text.Get(), u"40");
+    EXPECT_EQ(Tab().ZoomSlider.Value, 40);
+}
+
 } // namespace
 } // namespace korvane

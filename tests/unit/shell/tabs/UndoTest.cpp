@@ -251,5 +251,33 @@ TEST_F(UndoTest, TheCurrentCellGoesToWhatWasUndone) {
     EXPECT_EQ(Store().CurCol(), Col{2});
 }
 
+TEST_F(UndoTest, BackAtTheSavedStateTheTableIsNotAlteredAnyMore) {
+    Tab().iGrid1.CommitEdit(Row{2}, Col{1}, u"plum");
+    Tab().iGrid1.CommitEdit(Row{3}, Col{1}, u"date");
+    Undo();
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+    Undo();
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+    Redo();
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+    Save();
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+    Undo();
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+    Redo();
+    EXPECT_EQ(Tab().Table().TableAltered, 0);
+}
+
+TEST_F(UndoTest, AStateThatIsNoLongerReachedIsNotTakenForTheSavedOne) {
+    Tab().iGrid1.CommitEdit(Row{2}, Col{1}, u"plum");
+    Save();
+    Undo();
+    Tab().iGrid1.CommitEdit(Row{2}, Col{1}, u"date");
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+    Undo();
+    Redo();
+    EXPECT_EQ(Tab().Table().TableAltered, 1);
+}
+
 } // namespace
 } // namespace korvane
