@@ -19,7 +19,11 @@ void TabStrip::Remove(Form& child) {
     const bool wasActive = active_ == &child;
     if (wasActive) active_ = nullptr;
     Notify(Aspect::Items);
-    if (wasActive && !children_.empty()) Select(next == children_.end() ? *children_.back() : **next);
+    if (children_.empty()) {
+        if (Emptied) Emptied();
+    } else if (wasActive) {
+        Select(next == children_.end() ? *children_.back() : **next);
+    }
 }
 
 void TabStrip::Select(Form& child) {

@@ -45,6 +45,8 @@ public:
     std::function<std::vector<Text>()> StatusParts;
     void TellStatus() { Notify(Aspect::Value); }
 
+    /// The last child went.
+    std::function<void()> Emptied;
     /// A click with the context button on a tab.
     std::function<void()> TabContextClick;
     /// The same on the part of the strip without tabs.

@@ -189,16 +189,20 @@ TEST_F(MainWindowTest, SpaceRunsTheRowOfTheSideBar) {
 
 TEST_F(MainWindowTest, AKeyOfTheMenuIsTheMenusAlsoWhileACellIsEdited) {
     outside.user.Answer(Answer::No);
-    outside.user.Answer(Answer::No);
+    Key(Qt::Key_F2);
+    Key(Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(Window().findChild<CellEditor*>(), nullptr);
+    EXPECT_EQ(outside.user.Messages().size(), 1u);
+}
+
+TEST_F(MainWindowTest, AnEditingKeyIsTheCellsWhileItIsEdited) {
     Key(Qt::Key_F2);
     Key(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(Window().findChild<CellEditor*>(), nullptr);
-    auto& find = Part<QLineEdit>("txtFindString");
-    find.setFocus();
-    QTest::keyClicks(&find, "text");
-    Key(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_FALSE(find.hasSelectedText());
-    EXPECT_EQ(outside.user.Messages().size(), 2u);
+    const auto* editor = Window().findChild<CellEditor*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->textCursor().selectedText(), QString("Bert"));
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(outside.user.Messages().empty());
 }
 
 TEST_F(MainWindowTest, F10InTheTableOffersANewName) {
@@ -468,6 +472,80 @@ TEST_F(MainWindowTest, CtrlZInACellThatIsBeingEditedIsTheFieldsOwn) {
     EXPECT_EQ(editor->Lines(), QString("Zoe"));
     Key(Qt::Key_Return);
     EXPECT_EQ(store.CellText(Row{1}, Col{1}), u"Zoe");
+}
+
+TEST_F(MainWindowTest, ATabThatCameDuringACommandKeepsTheKeyboard) {
+    frmMDIChild& first = *main.Parts().tabs.Active();
+    first.GridStore().GridSetFocus();
+    main.Parts().tabs.AddNewTab();
+    test::Settle();
+    QWidget* const keyboard = QApplication::focusWidget();
+    ASSERT_NE(keyboard, nullptr);
+    first.GridStore().GridSetFocus();
+    test::Settle();
+    EXPECT_EQ(QApplication::focusWidget(), keyboard);
+    EXPECT_TRUE(keyboard->isVisible());
+    first.Table().TableAltered = 0;
+}
+
+TEST_F(MainWindowTest, TheFindBoxComesBeforeTheTable) {
+    QWidget* next = Part<QLineEdit>("txtFindString").nextInFocusChain();
+    while (next->focusPolicy() == Qt::NoFocus)
+        next = next->nextInFocusChain();
+    EXPECT_EQ(next, &Table());
+}
+
+TEST_F(MainWindowTest, TheFindBoxIsReachedByAKey) {
+    Table().setFocus();
+    Key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(Part<QLineEdit>("txtFindString").hasFocus());
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(Table().hasFocus());
+}
+
+TEST_F(MainWindowTest, WhatIsSelectedInTheFindBoxDoesNotTickTheTable) {
+    Part<QLineEdit>("txtFindString").setFocus();
+    Type("Anna");
+    Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Part<QLineEdit>("txtFindString").selectedText(), QString("Anna"));
+    EXPECT_EQ(main.Parts().tabs.Active()->GridStore().CellCheck(Row{1}), 0);
+}
+
+TEST_F(MainWindowTest, TheStripTellsOfTheTable) {
+    auto& tabs = Part<TabPages>("MDITabs1").Tabs();
+    EXPECT_TRUE(tabs.ShownStatus().startsWith("Row 1 of 2"));
+    EXPECT_FALSE(tabs.Altered(0));
+    EXPECT_EQ(tabs.tabToolTip(0), ToQString(kFile));
+    Key(Qt::Key_Down);
+    Type("Cora");
+    Key(Qt::Key_Return);
+    EXPECT_TRUE(tabs.Altered(0));
+    EXPECT_TRUE(tabs.ShownStatus().startsWith("Row 2 of 2"));
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(tabs.Altered(0));
+}
+
+TEST_F(MainWindowTest, WithoutATableTheRecentFilesAreListed) {
+    main.RunCommand("mnuFile_Close");
+    test::Settle();
+    auto& button = Part<QToolButton>("cmdStart1");
+    ASSERT_TRUE(button.isVisible());
+    EXPECT_TRUE(button.text().startsWith("people.tbx"));
+    EXPECT_FALSE(Part<QToolButton>("cmdStart2").isVisible());
+    button.click();
+    test::Settle();
+    EXPECT_FALSE(button.isVisible());
+    EXPECT_NE(main.Parts().tabs.Active(), nullptr);
+}
+
+TEST_F(MainWindowTest, TheSidebarShowsThatItHasTheKeyboard) {
+    auto& bar = Part<SideBarView>("iGridListBar");
+    Table().setFocus();
+    test::Settle();
+    const QImage without = bar.viewport()->grab().toImage();
+    bar.setFocus();
+    test::Settle();
+    EXPECT_NE(bar.viewport()->grab().toImage(), without);
 }
 
 } // namespace

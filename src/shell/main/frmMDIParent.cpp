@@ -10,6 +10,7 @@
 #include "shell/commands/Styles.h"
 #include "shell/main/StartUp.h"
 #include "shell/settings/SettingsFile.h"
+#include "shell/tabs/RecentFiles.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "table/SaveCommands.h"
 
@@ -30,7 +31,8 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
       sideBar_(app, {Picture2, lblListBar, iGridListBar},
                [this](const CommandCall& call) { runner_.Run(call); }),
       parts_{app, *this, OfficeMenu1, MDITabs1, sideBar_, tabs_, pipeline_, recents_, windowSize_},
-      runner_(parts_) {
+      runner_(parts_),
+      startPage_(app, *this, [this](const Text& path) { OpenRecent(path); }) {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();
     CheckFirstStyle(OfficeMenu1);
@@ -56,7 +58,12 @@ void frmMDIParent::Wire() {
     txtCommand.Change = [this] { txtCommand_Change(); };
     MDITabs1.TabContextClick = [this] { runner_.Run(&mnuFile_FileInfo_Clack); };
     MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };
+    MDITabs1.Emptied = [this] { startPage_.Fill(recents_); };
     MDITabs1.CloseWanted = [this](Form& child) { runner_.CloseTab(child); };
+}
+
+void frmMDIParent::OpenRecent(const Text& path) {
+    RecentFiles(app_, tabs_, recents_, pipeline_, *this).Open(path);
 }
 
 void frmMDIParent::RunCommand(std::string_view name) {
@@ -81,6 +88,7 @@ Text frmMDIParent::GetActiveFolder() {
 
 void frmMDIParent::Load() {
     StartUp(parts_, txtCommand, commandLine_);
+    startPage_.Fill(recents_);
 }
 
 void frmMDIParent::Activate() {

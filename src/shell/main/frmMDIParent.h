@@ -11,6 +11,7 @@
 #include "shell/commands/CommandRunner.h"
 #include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
+#include "shell/main/StartPage.h"
 #include "shell/recent/RecentRecord.h"
 #include "shell/settings/frmWindowSize.h"
 #include "shell/tabs/LoadPipeline.h"
@@ -58,6 +59,7 @@ public:
 private:
     void MakeToolBar();
     void Wire();
+    void OpenRecent(const Text& path);
     void txtCommand_Change();
     void StorePlace();
     void CloseOtherWindows();
@@ -72,6 +74,7 @@ private:
     MainParts parts_;
     CommandRunner runner_;
     std::vector<std::unique_ptr<CommandButton>> toolBar_;
+    StartPage startPage_;
     bool firstActivation_ = true;
 };
 

@@ -25,6 +25,11 @@ Text RecordLine(TextView path, int offset, const DateTime& now) {
 
 } // namespace
 
+TextView PathInRecord(TextView entry) {
+    const std::size_t bar = InStrRev(entry, u"|");
+    return bar == 0 ? TextView() : Trim(Left(entry, bar - 1));
+}
+
 void RecentRecord::Read(App& app) {
     const auto bytes = app.Files().ReadAll(app.Exchange<StateFiles>().RecFilePath);
     if (!bytes) return;

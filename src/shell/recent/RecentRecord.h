@@ -11,6 +11,9 @@ namespace korvane {
 class App;
 struct DateTime;
 
+/// The path in a line of the record.
+TextView PathInRecord(TextView entry);
+
 /// The files that were loaded last, one line each, as they are written in Korvane.rec:
 /// `<path> | <offset>*<yyyy.mm.dd>   <hh:mm>`.
 class RecentRecord {

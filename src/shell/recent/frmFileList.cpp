@@ -42,12 +42,6 @@ constexpr std::int16_t kLoad = 1;
 constexpr std::int16_t kNewText = 11;
 constexpr std::int16_t kGoToFolder = 99;
 
-/// The text before the last bar, without the blanks around it.
-TextView PathPart(TextView entry) {
-    const std::size_t bar = InStrRev(entry, u"|");
-    return bar == 0 ? TextView() : Trim(Left(entry, bar - 1));
-}
-
 TextView Behind(TextView entry, TextView mark) {
     const std::size_t found = InStr(entry, mark);
     return found == 0 ? TextView() : Mid(entry, found + 1);
@@ -195,7 +189,7 @@ void frmFileList::FillList() {
 ListRow frmFileList::RowOf(const Text& entry) const {
     if (InStr(entry, u"|") == 0) return LostRow(entry, {});
     const FileSystem& files = app_.Files();
-    Text path(PathPart(entry));
+    Text path(PathInRecord(entry));
     bool found = !path.empty() && files.FileExists(path);
     if (!found) {
         const Text other = SwapDriveForm(files, path);

@@ -48,6 +48,14 @@ void RecentFiles::LoadPick(std::size_t index) {
     OpenFromRecord(path);
 }
 
+void RecentFiles::Open(const Text& path) {
+    Text missing = path;
+    if (!app_.Files().FileExists(path)) return ShowCannotLocate(app_, missing);
+    GoToFolderOf(app_.Files(), path);
+    recents_.RecentOffset = 0;
+    OpenFromRecord(path);
+}
+
 void RecentFiles::OpenFromRecord(const Text& path) {
     const ScopedValue fromRecord(recents_.LoadFromRecent, 1, 0);
     pipeline_.OpenDatabase(path, LoadInto::NewTab);

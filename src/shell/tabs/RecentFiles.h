@@ -21,6 +21,8 @@ public:
 
     /// Shows the recent files and loads those that the user picks, each on a tab of its own.
     void ShowRecentFiles();
+    /// Loads one of them on a tab of its own; says so when it isn't there any more.
+    void Open(const Text& path);
 
 private:
     void LoadPick(std::size_t index);

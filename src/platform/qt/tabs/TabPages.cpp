@@ -1,5 +1,6 @@
 #include "platform/qt/tabs/TabPages.h"
 
+#include <QEvent>
 #include <QVBoxLayout>
 
 namespace korvane {
@@ -11,10 +12,18 @@ QString TabText(const QString& caption) {
     return QString(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+constexpr int kAroundHint = 24;
+constexpr int kWidestStart = 640;
+constexpr int kShareOfStart = 6;
+
 } // namespace
 
 TabPages::TabPages(QWidget* parent)
-    : QWidget(parent), tabs_(new TabBar(this)), stack_(new QStackedWidget(this)), hint_(new QLabel(stack_)) {
+    : QWidget(parent),
+      tabs_(new TabBar(this)),
+      stack_(new QStackedWidget(this)),
+      empty_(new QWidget(stack_)),
+      hint_(new QLabel(empty_)) {
     tabs_->setObjectName("plainTabs");
     tabs_->setAccessibleName(tr("Open databases"));
 
@@ -24,13 +33,36 @@ TabPages::TabPages(QWidget* parent)
     hint_->setTextFormat(Qt::PlainText);
     hint_->setWordWrap(true);
     hint_->setForegroundRole(QPalette::PlaceholderText);
-    stack_->addWidget(hint_);
+    auto* middle = new QVBoxLayout(empty_);
+    middle->setSpacing(kAroundHint);
+    middle->addStretch(1);
+    middle->addWidget(hint_);
+    middle->addStretch(1);
+    stack_->addWidget(empty_);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(tabs_);
     column->addWidget(stack_, 1);
+}
+
+bool TabPages::event(QEvent* event) {
+    if (event->type() == QEvent::Polish) TakeStart();
+    return QWidget::event(event);
+}
+
+/// Puts the widget of the window's own below the hint.
+void TabPages::TakeStart() {
+    auto* start = findChild<QWidget*>(QStringLiteral("plainStart"), Qt::FindDirectChildrenOnly);
+    if (start == nullptr) return;
+    start->setMaximumWidth(kWidestStart);
+    auto* row = new QHBoxLayout;
+    row->addStretch(1);
+    row->addWidget(start, kShareOfStart);
+    row->addStretch(1);
+    auto* middle = static_cast<QVBoxLayout*>(empty_->layout());
+    middle->insertLayout(middle->indexOf(hint_) + 1, row);
 }
 
 void TabPages::Add(QWidget& page, const QString& caption) {
@@ -46,7 +78,7 @@ void TabPages::Remove(int index) {
     stack_->removeWidget(page);
     page->hide();
     tabs_->removeTab(index);
-    if (pages_.isEmpty()) BringToFront(*hint_);
+    if (pages_.isEmpty()) BringToFront(*empty_);
 }
 
 void TabPages::SetCaption(int index, const QString& caption) {

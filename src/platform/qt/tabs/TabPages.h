@@ -8,7 +8,8 @@
 
 namespace korvane {
 
-/// A strip of tabs above their pages. While there is no tab, a hint is shown.
+/// A strip of tabs above their pages. While there is no tab, a hint is shown, with a child widget of the name
+/// "plainStart" below it.
 class TabPages : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString emptyHint READ EmptyHint WRITE SetEmptyHint)
@@ -30,11 +31,16 @@ public:
     QString EmptyHint() const { return hint_->text(); }
     void SetEmptyHint(const QString& hint) { hint_->setText(hint); }
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
+    void TakeStart();
     void BringToFront(QWidget& page);
 
     TabBar* tabs_;
     QStackedWidget* stack_;
+    QWidget* empty_;
     QLabel* hint_;
     QList<QWidget*> pages_;
 };
