@@ -68,9 +68,13 @@ TextView StandInArgument(const FileSystem& files, TextView argument) {
 
 } // namespace
 
+bool StartCompanion(App& app, Companion companion, TextView argument) {
+    return LaunchProgram(app, kCompanions[static_cast<std::size_t>(companion)].path, argument) != 0;
+}
+
 void LaunchCompanion(App& app, Companion companion, TextView argument) {
     const CompanionProgram& program = kCompanions[static_cast<std::size_t>(companion)];
-    const bool started = LaunchProgram(app, program.path, argument) != 0;
+    const bool started = StartCompanion(app, companion, argument);
     if (!started && program.standIn != nullptr) program.standIn(app, StandInArgument(app.Files(), argument));
 }
 

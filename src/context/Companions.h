@@ -26,6 +26,9 @@ enum class Companion : std::uint8_t {
 /// others fail without a message.
 void LaunchCompanion(App& app, Companion companion, TextView argument = {});
 
+/// Does the same without anything in its place. False when it can't be started.
+bool StartCompanion(App& app, Companion companion, TextView argument = {});
+
 void LaunchLorrit(App& app, TextView folder);
 void LaunchDunmark(App& app, TextView file);
 

@@ -14,6 +14,16 @@ void ListBox::SetList(int index, TextView text) {
     TellChanged(index, index);
 }
 
+void ListBox::SetSample(int index, Colour back, Colour text) {
+    if (!Holds(index)) return;
+    items_[static_cast<std::size_t>(index)].sample = Sample{back, text};
+    TellChanged(index, index);
+}
+
+std::optional<ListBox::Sample> ListBox::SampleAt(int index) const {
+    return Holds(index) ? items_[static_cast<std::size_t>(index)].sample : std::nullopt;
+}
+
 void ListBox::AddItem(TextView text) {
     InsertItem(ListCount(), text);
 }

@@ -2,6 +2,7 @@
 
 #include "controls/RowsControl.h"
 
+#include <optional>
 #include <vector>
 
 namespace korvane {
@@ -22,6 +23,15 @@ public:
     void InsertItem(int index, TextView text);
     void RemoveItem(int index);
     void Clear();
+
+    /// Shows these colours before the line. `kNoColour` leaves one to the look of the list.
+    void SetSample(int index, Colour back, Colour text);
+    struct Sample {
+        Colour back = kNoColour;
+        Colour text = kNoColour;
+    };
+    /// Nothing for a line without colours.
+    std::optional<Sample> SampleAt(int index) const;
 
     /// Fires `Click` when the current line changes. An index outside the list has no effect.
     int ListIndex() const { return listIndex_; }
@@ -44,6 +54,7 @@ private:
     struct Item {
         Text text;
         bool selected = false;
+        std::optional<Sample> sample{};
     };
     bool Holds(int index) const { return index >= 0 && index < ListCount(); }
 

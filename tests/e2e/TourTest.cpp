@@ -96,7 +96,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuStyle8", kSilent},
     {"mnuStyle9", kSilent},
     {"mnuStyle11", kSilent},
-    {"mnuHelpText", Starts("Korvane_Help.rtf\n")},
+    {"mnuHelpText", Shows("^Help text$")},
     {"mnuMisc_About", Shows("^About Korvane$")},
     {"mnuMisc_Settings", Shows("^Settings$")},
     {"mnuMisc_Wallpaper", kSilent},

@@ -21,6 +21,7 @@
 #include "files/names/frmRenDir.h"
 #include "files/names/frmRenFile.h"
 #include "shell/commands/frmAbout.h"
+#include "shell/commands/frmHelp.h"
 #include "shell/recent/frmFileList.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"
@@ -86,6 +87,12 @@ constexpr Window kWindows[] = {
     {"frmFoldersToday",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFoldersToday>(all.app, u"C:\\data");
+     }},
+    {"frmHelp",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmHelp>(
+             all.app, std::vector<HelpSection>{{u"What Korvane is", u"Korvane keeps tables of text.\r\n\r\n"},
+                                               {u"The keys", u"F1  \u2013  This help text\r\n\r\n"}});
      }},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {

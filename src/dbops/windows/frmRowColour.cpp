@@ -50,6 +50,8 @@ void frmRowColour::Load() {
     Text keys;
     for (const RowColourChoice& choice : RowColourChoices()) {
         lstColourOptions.AddItem(choice.listText);
+        const RowColours colours = choice.ByDialog(tableBack_);
+        lstColourOptions.SetSample(lstColourOptions.ListCount() - 1, colours.back, colours.text);
         if (!keys.empty()) keys += kCrLf;
         keys += choice.keyText;
     }

@@ -8,14 +8,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr auto kSettingsName = "Korvane.ini";
 constexpr auto kKeptFolder = fs::path::preferred_separator == '/' ? "korvane/kept" : "Korvane/kept";
 constexpr auto kConfigName = "korvane";
-
-bool KeepsState(const fs::path& folder) {
-    std::error_code error;
-    return fs::exists(folder / kSettingsName, error) || system_calls::IsWritable(folder);
-}
 
 /// The folder that the environment names, or else the usual one below the home folder, or an empty path when
 /// there is none. A relative path in the environment is ignored.
@@ -39,7 +33,7 @@ Surroundings OwnSurroundings() {
 
 fs::path FindStateFolder(const Surroundings& surroundings) {
     fs::path beside = surroundings.executable.parent_path();
-    if (KeepsState(beside)) return beside;
+    if (system_calls::IsWritable(beside)) return beside;
     const fs::path configHome = UserFolder(surroundings.configHome, surroundings.home, ".config");
     if (configHome.empty()) return beside;
     const fs::path folder = configHome / kConfigName;

@@ -19,9 +19,9 @@ bool MakePrivateDirs(const std::filesystem::path& path);
 /// The surroundings of the running process.
 Surroundings OwnSurroundings();
 
-/// The folder of the executable if it contains Korvane.ini or can be written, so that a copy on a removable
-/// disk keeps its state beside it. Otherwise the user's configuration folder, which is made if necessary and
-/// is private. If it can't be made, the folder of the executable after all.
+/// The folder of the executable if it can be written, so that a copy on a removable disk keeps its state
+/// beside it. Otherwise the user's configuration folder, which is made if necessary and is private. If it
+/// can't be made, the folder of the executable after all.
 std::filesystem::path FindStateFolder(const Surroundings& surroundings);
 
 /// The user's folder for what the program keeps of tables, or an empty path when there is no place for it. It

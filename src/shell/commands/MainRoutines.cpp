@@ -14,6 +14,7 @@
 #include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
 #include "shell/commands/frmAbout.h"
+#include "shell/commands/frmHelp.h"
 #include "shell/settings/frmSetYourProg.h"
 #include "shell/settings/frmSettings.h"
 #include "shell/settings/frmWindowSize.h"
@@ -119,7 +120,8 @@ void mnuSwitchFocus_Click(const MainParts& main) {
 }
 
 void mnuHelpText(const MainParts& main) {
-    LaunchDunmark(main.app, main.app.Exchange<StateFiles>().HelpFilePath);
+    const Text& path = main.app.Exchange<StateFiles>().HelpFilePath;
+    if (!StartCompanion(main.app, Companion::Dunmark, path)) ShowHelp(main.app);
 }
 
 void mnuMisc_About(const MainParts& main) {

@@ -3,6 +3,7 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
+#include "controls/TextBox.h"
 
 namespace korvane {
 
@@ -15,6 +16,10 @@ public:
 
     Label lblTitle{*this, "lblTitle", u"Korvane"};
     Label lblPurpose{*this, "lblPurpose", u"A database of text tables, with a text window and file tools"};
+    Label lblVersion{*this, "lblVersion"};
+    Label lblLicence{*this, "lblLicence", u"Free software under the MIT licence"};
+    Label lblState{*this, "lblState", u"Settings and recent files are in:"};
+    TextBox txtState{*this, "txtState"};
     CommandButton cmdClose{*this, "cmdClose", u"&Close"};
 };
 

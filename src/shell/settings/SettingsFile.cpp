@@ -17,6 +17,8 @@ namespace korvane {
 
 namespace {
 
+constexpr TextView kSettingsName = u"Korvane.ini";
+
 void StoreLine(const SettingLine& setting, std::string_view bytes, const CodePage& page, Text& field) {
     if (setting.kind == SettingKind::Plain) {
         field = page.ToText(bytes);
@@ -48,6 +50,14 @@ std::string AllLines(const Settings& settings, const CodePage& page) {
     return bytes;
 }
 
+/// The settings that came with the program are those of a user who has none of his own yet.
+Text FileToRead(App& app) {
+    const FileSystem& files = app.Files();
+    const Text& own = app.Exchange<StateFiles>().IniFilePath;
+    const Text shipped = files.Style().JoinPath(files.ProgramDir(), kSettingsName);
+    return !files.FileExists(own) && files.FileExists(shipped) ? shipped : own;
+}
+
 void TakeCurrentDir(App& app) {
     app.Settings.CurDirAtSave = app.Files().CurrentDir();
     app.Settings.CurDrive = Text(Left(app.Settings.CurDirAtSave, 1));
@@ -56,12 +66,12 @@ void TakeCurrentDir(App& app) {
 } // namespace
 
 void ReadSettings(App& app) {
-    StateFiles& files = app.Exchange<StateFiles>();
-    if (!app.Files().FileExists(files.IniFilePath)) {
-        ShowCannotLoad(app, files.IniFilePath);
+    const Text path = FileToRead(app);
+    if (!app.Files().FileExists(path)) {
+        ShowCannotLoad(app, path);
         return;
     }
-    const auto bytes = app.Files().ReadAll(files.IniFilePath);
+    const auto bytes = app.Files().ReadAll(path);
     if (!bytes) return;
     // Only CR LF ends a line, because the line that holds the word delimiters has a lone CR at its end.
     LineReader lines(bytes->View(), LineEnds::CrLf);

@@ -161,5 +161,21 @@ TEST_F(ListBoxTest, AComboBoxTellsTheChosenLine) {
     EXPECT_EQ(combo.Chosen(), u"one");
 }
 
+TEST(ListBoxSample, IsKeptWithItsLine) {
+    ScriptedUser user;
+    Form form(user, "frm", u"");
+    ListBox list(form, "List1");
+    list.AddItem(u"red");
+    list.AddItem(u"plain");
+    list.SetSample(0, Colour{0xFF}, kNoColour);
+    list.InsertItem(0, u"first");
+    ASSERT_TRUE(list.SampleAt(1));
+    EXPECT_EQ(list.SampleAt(1)->back, Colour{0xFF});
+    EXPECT_FALSE(list.SampleAt(0));
+    EXPECT_FALSE(list.SampleAt(2));
+    list.SetSample(7, Colour{1}, Colour{1});
+    EXPECT_FALSE(list.SampleAt(7));
+}
+
 } // namespace
 } // namespace korvane

@@ -2,6 +2,7 @@
 
 #include "platform/qt/base/BackColour.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/DenseLines.h"
 #include "platform/qt/base/DocumentText.h"
 
 #include <QScopedValueRollback>
@@ -59,6 +60,7 @@ void LineAdaptor::WriteSelection() {
 }
 
 LinesAdaptor::LinesAdaptor(TextBox& box, QPlainTextEdit& widget) : AdaptorOf(box, widget) {
+    if (widget.property(kDenseLines).toBool()) widget.document()->setDocumentMargin(0);
     connect(&widget, &QPlainTextEdit::textChanged, this, &LinesAdaptor::ReadText);
     const auto readSelection = [this] { ReadSelection(control_.Text.Get()); };
     connect(&widget, &QPlainTextEdit::selectionChanged, this, readSelection);

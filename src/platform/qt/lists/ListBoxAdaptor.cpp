@@ -2,6 +2,7 @@
 
 #include "platform/qt/base/BackColour.h"
 #include "platform/qt/base/Contrast.h"
+#include "platform/qt/base/DenseLines.h"
 #include "platform/qt/lists/ListBoxModel.h"
 
 #include <QApplication>
@@ -9,10 +10,13 @@
 namespace korvane {
 
 ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget)
-    : RowsAdaptor(list, widget, *new ListBoxModel(list, widget.property("checkBoxes").toBool(), &widget)),
-      list_(list),
-      widget_(widget) {
+    : ListBoxAdaptor(list, widget, *new ListBoxModel(list, widget.property("checkBoxes").toBool(), &widget)) {
+}
+
+ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget, ListBoxModel& model)
+    : RowsAdaptor(list, widget, model), list_(list), widget_(widget) {
     widget.setUniformItemSizes(true);
+    if (widget.property(kDenseLines).toBool()) model.SetRowHeight(widget.fontMetrics().height());
 }
 
 void ListBoxAdaptor::Write(Aspect aspect) {

@@ -9,6 +9,8 @@ namespace korvane {
 
 /// A list. With the property "checkBoxes" in its look its items have check marks; with a selection mode that
 /// takes several they can be picked.
+class ListBoxModel;
+
 class ListBoxAdaptor : public RowsAdaptor {
 public:
     ListBoxAdaptor(ListBox& list, QListView& widget);
@@ -22,6 +24,8 @@ protected:
     void DoubleClick(int row) override { list_.DoubleClick(row); }
 
 private:
+    ListBoxAdaptor(ListBox& list, QListView& widget, ListBoxModel& model);
+
     bool TakesSeveral() const;
 
     ListBox& list_;

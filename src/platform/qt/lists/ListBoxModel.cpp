@@ -1,8 +1,41 @@
 #include "platform/qt/lists/ListBoxModel.h"
 
+#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
 
+#include <QApplication>
+#include <QPainter>
+#include <QPixmap>
+
 namespace korvane {
+
+namespace {
+
+constexpr QSize kSampleSize(30, 12);
+constexpr int kSampleDetail = 2;
+
+/// A small field with a letter in it, in the colours of the sample.
+QVariant SamplePicture(const std::optional<ListBox::Sample>& sample) {
+    if (!sample) return {};
+    const QPalette palette = QApplication::palette();
+    const QColor back = sample->back == kNoColour ? palette.color(QPalette::Base) : ToQColor(sample->back);
+    const QColor text = sample->text == kNoColour ? palette.color(QPalette::Text) : ToQColor(sample->text);
+    QPixmap picture(kSampleSize * kSampleDetail);
+    picture.setDevicePixelRatio(kSampleDetail);
+    picture.fill(back);
+    QPainter painter(&picture);
+    QFont font = QApplication::font();
+    font.setPixelSize(kSampleSize.height() - 2);
+    painter.setFont(font);
+    painter.setPen(text);
+    const QRect area(QPoint(), kSampleSize);
+    painter.drawText(area, Qt::AlignCenter, QStringLiteral("Abc"));
+    painter.setPen(Blend(back, BlackOrWhite(back), 0.4));
+    painter.drawRect(area.adjusted(0, 0, -1, -1));
+    return picture;
+}
+
+} // namespace
 
 ListBoxModel::ListBoxModel(ListBox& list, bool checkBoxes, QObject* parent)
     : RowsModel(parent), list_(list), checkBoxes_(checkBoxes) {}
@@ -14,6 +47,8 @@ int ListBoxModel::columnCount(const QModelIndex& parent) const {
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
     if (!Holds(index)) return {};
     if (role == Qt::DisplayRole) return ToLines(list_.List(index.row()));
+    if (role == Qt::DecorationRole) return SamplePicture(list_.SampleAt(index.row()));
+    if (role == Qt::SizeHintRole && rowHeight_ > 0) return QSize(0, rowHeight_);
     if (role == Qt::CheckStateRole && checkBoxes_) {
         return list_.Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
     }

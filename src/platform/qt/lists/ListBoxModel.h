@@ -10,6 +10,9 @@ public:
     /// The list outlives the model, or `Forget` is called before it goes.
     ListBoxModel(ListBox& list, bool checkBoxes, QObject* parent);
 
+    /// How high each row is; 0 leaves it to the look.
+    void SetRowHeight(int height) { rowHeight_ = height; }
+
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
@@ -22,6 +25,7 @@ protected:
 private:
     ListBox& list_;
     bool checkBoxes_;
+    int rowHeight_ = 0;
 };
 
 } // namespace korvane

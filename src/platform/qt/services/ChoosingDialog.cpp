@@ -3,6 +3,7 @@
 #include "platform/qt/base/Convert.h"
 
 #include <QApplication>
+#include <QLineEdit>
 
 namespace korvane {
 
@@ -12,6 +13,14 @@ ChoosingDialog::ChoosingDialog(TextView title, AcceptMode acceptMode, FileMode f
     setOption(ReadOnly);
     setAcceptMode(acceptMode);
     setFileMode(fileMode);
+}
+
+void ChoosingDialog::showEvent(QShowEvent* event) {
+    QFileDialog::showEvent(event);
+    auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (name == nullptr || acceptMode() != AcceptSave) return;
+    const auto dot = name->text().lastIndexOf(QLatin1Char('.'));
+    if (dot > 0) name->setSelection(0, static_cast<int>(dot));
 }
 
 QStringList ChoosingDialog::Choose() {

@@ -15,6 +15,10 @@ public:
 
     /// Shows the dialog until the user closes it. The list is empty after a cancel.
     QStringList Choose();
+
+protected:
+    /// In the name of a save all but the ending is selected, so that a typed name keeps it.
+    void showEvent(QShowEvent* event) override;
 };
 
 } // namespace korvane

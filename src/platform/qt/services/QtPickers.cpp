@@ -10,8 +10,11 @@ namespace korvane {
 
 std::optional<FontSpec> QtFontPicker::Choose(const FontSpec& present) {
     QFontDialog dialog(WithSpec(QApplication::font(), present), QApplication::activeWindow());
+    const QFont first = dialog.currentFont();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     const QFont chosen = dialog.selectedFont();
+    // A font that this system doesn't have is shown by another one, which isn't to take its place unasked.
+    if (chosen == first) return present;
     return FontSpec{ToText(chosen.family()), chosen.pointSize(), chosen.bold()};
 }
 

@@ -175,5 +175,17 @@ TEST_F(RowColourWindow, TheFlagButtonsFlipTheCurrentRowAndLeaveTheWindowOpen) {
     EXPECT_EQ(t.table.TableAltered, 0);
 }
 
+TEST_F(RowColourWindow, ShowsTheColoursOfItsChoices) {
+    Show([](frmRowColour& f) {
+        const auto red = f.lstColourOptions.SampleAt(3);
+        ASSERT_TRUE(red);
+        EXPECT_EQ(red->back, Colour{0x0000FF});
+        EXPECT_EQ(red->text, Colour{0xFFFFFF});
+        EXPECT_EQ(f.lstColourOptions.SampleAt(0)->back, kTableBack);
+        EXPECT_FALSE(f.lstColourOptions.SampleAt(9));
+        f.cmdCancel.Press();
+    });
+}
+
 } // namespace
 } // namespace korvane

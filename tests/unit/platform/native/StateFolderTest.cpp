@@ -29,11 +29,11 @@ TEST_F(StateFolder, IsTheExecutablesWhenThatCanBeWritten) {
     EXPECT_FALSE(fs::exists(dir / "home/.config"));
 }
 
-TEST_F(StateFolder, IsTheExecutablesWhenThatHoldsTheSettings) {
+TEST_F(StateFolder, IsNotTheExecutablesWhenOnlyTheShippedSettingsAreThere) {
     fs::permissions(dir / "bin", fs::perms::owner_all);
     WriteBytes(dir / "bin/Korvane.ini", "");
     fs::permissions(dir / "bin", static_cast<fs::perms>(0555));
-    EXPECT_EQ(FindStateFolder(surroundings), dir / "bin");
+    EXPECT_EQ(FindStateFolder(surroundings), dir / "home/.config/korvane");
 }
 
 TEST_F(StateFolder, IsOtherwiseMadeInTheUsersConfigurationForTheUserAlone) {

@@ -1,9 +1,9 @@
 // The help text that ships with the program names what the program has, and nothing else.
 
 #include "SourceTree.h"
+#include "common/text/RtfText.h"
 #include "shell/commands/Commands.h"
 #include "shell/commands/GridKeys.h"
-#include "support/RtfText.h"
 
 #include <gtest/gtest.h>
 

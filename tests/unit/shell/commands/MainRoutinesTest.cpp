@@ -1,5 +1,6 @@
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/ClipboardView.h"
+#include "shell/commands/frmHelp.h"
 #include "shell/settings/frmSetYourProg.h"
 #include "support/TestProgram.h"
 
@@ -71,12 +72,33 @@ TEST_P(HelpText, ComesUpInTheTextToolWhereThatIsThere) {
     EXPECT_TRUE(p.shell.Opened().empty());
 }
 
-TEST_P(HelpText, ComesUpInTheDesktopsOwnProgramOtherwise) {
+TEST_P(HelpText, ComesUpInAWindowOfTheProgramOtherwise) {
+    p.shell.SetStartable([](TextView) { return false; });
+    p.files.AddFile(HelpPath(), "{\\rtf1\\pard\\outlinelevel0 First\\par\\pard one\\par"
+                                "\\pard\\outlinelevel0 Keys\\par\\trowd F1\\cell Help \\'e9\\cell\\row}");
+    p.StartWith({});
+    bool shown = false;
+    p.user.On<frmHelp>([&shown](frmHelp& f) {
+        shown = true;
+        EXPECT_EQ(f.lstSections.ListCount(), 2);
+        EXPECT_EQ(f.txtHelp.Text.Get(), u"one\r\n\r\n");
+        f.lstSections.Select(1);
+        EXPECT_EQ(f.lstSections.List(1), u"Keys");
+        EXPECT_EQ(f.txtHelp.Text.Get(), u"F1  \u2013  Help \u00E9\r\n\r\n");
+        f.cmdClose.Press();
+    });
+    EXPECT_TRUE(p.PressKey(Key::F(1)));
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(p.shell.Opened().empty());
+}
+
+TEST_P(HelpText, IsMissedAloud) {
     p.shell.SetStartable([](TextView) { return false; });
     p.StartWith({});
+    p.user.Answer(Answer::Ok);
     EXPECT_TRUE(p.PressKey(Key::F(1)));
-    EXPECT_EQ(p.shell.Opened(), std::vector<OpenRequest>{{.file = HelpPath()}});
-    EXPECT_TRUE(p.user.Messages().empty());
+    ASSERT_EQ(p.user.Messages().size(), 1u);
+    EXPECT_NE(p.user.Messages()[0].text.find(HelpPath()), Text::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Styles, HelpText, testing::Values(PathStyle::Windows, PathStyle::Posix),

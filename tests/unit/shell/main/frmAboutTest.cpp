@@ -15,6 +15,10 @@ TEST(AboutTest, TheMenuShowsTheNameOfTheProgram) {
     t.user.On<frmAbout>([&shown](frmAbout& f) {
         shown = true;
         EXPECT_EQ(f.lblTitle.Caption.Get(), u"Korvane");
+        EXPECT_TRUE(f.lblVersion.Caption.Get().starts_with(u"Version 0."));
+        EXPECT_EQ(f.lblLicence.Caption.Get(), u"Free software under the MIT licence");
+        EXPECT_EQ(f.txtState.Text.Get(), u"C:\\Korvane");
+        EXPECT_TRUE(f.txtState.Locked);
         EXPECT_TRUE(f.cmdClose.Cancel);
         f.cmdClose.Press();
     });

@@ -65,6 +65,21 @@ TEST_F(SettingsFile, EveryLineSurvivesARunButForWhatIsMeantNotTo) {
     EXPECT_EQ(WrittenLines(), expected);
 }
 
+TEST_F(SettingsFile, TheFirstRunOfAUserTakesWhatCameWithTheProgram) {
+    const Text own = u"C:\\Users\\anna\\Korvane.ini";
+    t.files.AddDir(u"C:\\Users\\anna");
+    t.files.AddFile(kIni, OneLine(6, "18000"));
+    t.app.Exchange<StateFiles>().IniFilePath = own;
+    ReadSettings(t.app);
+    EXPECT_EQ(settings.MainWidth, 18000);
+    settings.MainWidth = 9000;
+    WriteSettings(t.app);
+    EXPECT_EQ(t.files.Contents(kIni), OneLine(6, "18000"));
+    settings = Settings();
+    ReadSettings(t.app);
+    EXPECT_EQ(settings.MainWidth, 9000);
+}
+
 TEST_F(SettingsFile, TheWordListsMeasuresComeBackExchanged) {
     settings.WordListWidth = 5000;
     settings.WordListHeight = 3000;

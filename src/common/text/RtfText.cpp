@@ -1,4 +1,4 @@
-#include "support/RtfText.h"
+#include "common/text/RtfText.h"
 
 #include <array>
 #include <cctype>
