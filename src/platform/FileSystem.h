@@ -42,6 +42,14 @@ struct Drive {
     bool operator==(const Drive&) const = default;
 };
 
+/// What a list of files shows of one.
+struct FileDetails {
+    std::int64_t size = 0;
+    DateTime modified;
+
+    bool operator==(const FileDetails&) const = default;
+};
+
 enum class CopyOutcome : std::uint8_t { Copied, DiskFull, Failed };
 
 struct CopyOptions {
@@ -80,8 +88,9 @@ public:
 
     // Folders and whole files. A disk that only reads and writes files has none of this.
 
-    /// The names of a folder's files that match the patterns, sorted by name, case ignored. Names that start
-    /// with a point are left out where that hides them. None for a folder that can't be read.
+    /// The names of a folder's files that match the patterns, sorted by name, case ignored. "*.exe" stands
+    /// for programs, also where the right to start a file makes one. Names that start with a point are left
+    /// out where that hides them. None for a folder that can't be read.
     virtual std::vector<Text> FileNames(TextView /*folder*/, TextView /*patterns*/) const { return {}; }
     /// The same of its folders and of links to folders.
     virtual std::vector<Text> FolderNames(TextView /*folder*/) const { return {}; }
@@ -119,6 +128,13 @@ public:
 
     virtual std::optional<std::int64_t> Size(TextView path) const = 0;
     virtual std::optional<DateTime> Modified(TextView path) const = 0;
+
+    /// Size and modified time together, which costs less than each alone for a folder of many files. Nothing
+    /// when there is no such file; a folder is none.
+    virtual std::optional<FileDetails> Details(TextView path) const {
+        if (!FileExists(path)) return std::nullopt;
+        return FileDetails{Size(path).value_or(0), Modified(path).value_or(DateTime())};
+    }
 
     /// The volume of the path: a drive ("D:\") or a mounted file system. Nothing when there is none, and on a
     /// disk that doesn't know its volumes.

@@ -35,16 +35,27 @@ bool Matches(TextView name, TextView pattern) {
     return pattern.find_first_not_of(u'*', wanted) == TextView::npos;
 }
 
-} // namespace
-
-bool MatchesPatterns(TextView name, TextView patterns) {
+/// Whether the test holds for one of the patterns.
+template <class TestT>
+bool AnyPattern(TextView patterns, TestT test) {
     for (;;) {
         const std::size_t end = std::min(patterns.find(u';'), patterns.size());
-        const TextView pattern = Trim(patterns.substr(0, end));
-        if (pattern == u"*.*" || (!pattern.empty() && Matches(name, pattern))) return true;
+        if (test(Trim(patterns.substr(0, end)))) return true;
         if (end == patterns.size()) return false;
         patterns.remove_prefix(end + 1);
     }
+}
+
+} // namespace
+
+bool MatchesPatterns(TextView name, TextView patterns) {
+    return AnyPattern(patterns, [name](TextView pattern) {
+        return pattern == u"*.*" || (!pattern.empty() && Matches(name, pattern));
+    });
+}
+
+bool AskForPrograms(TextView patterns) {
+    return AnyPattern(patterns, [](TextView pattern) { return EqualIgnoringCase(pattern, u"*.exe"); });
 }
 
 bool ComesBefore(TextView a, TextView b) {

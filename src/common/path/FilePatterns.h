@@ -8,6 +8,9 @@ namespace korvane {
 /// any characters and "?" for one; case is ignored. "*.*" matches every name, one without a point too.
 bool MatchesPatterns(TextView name, TextView patterns);
 
+/// Whether one of them is that of programs, "*.exe".
+bool AskForPrograms(TextView patterns);
+
 /// The order in which names are listed, the same on every system: by character with case ignored, and names
 /// that differ by nothing else by case.
 bool ComesBefore(TextView a, TextView b);

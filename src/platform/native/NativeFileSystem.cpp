@@ -209,8 +209,11 @@ std::optional<system_calls::FileRights> NativeFileSystem::RightsToRestore(const 
 }
 
 std::vector<Text> NativeFileSystem::FileNames(TextView folder, TextView patterns) const {
-    return SortedNames(folder, [patterns](const fs::directory_entry& entry, const Text& name) {
-        return MatchesPatterns(name, patterns) && !IsFolder(entry);
+    const bool programs = AskForPrograms(patterns);
+    return SortedNames(folder, [patterns, programs](const fs::directory_entry& entry, const Text& name) {
+        const bool matches =
+            MatchesPatterns(name, patterns) || (programs && system_calls::IsProgram(entry.path()));
+        return matches && !IsFolder(entry);
     });
 }
 
@@ -314,9 +317,15 @@ std::optional<std::int64_t> NativeFileSystem::Size(TextView path) const {
 }
 
 std::optional<DateTime> NativeFileSystem::Modified(TextView path) const {
-    const auto time = system_calls::ModifiedTime(ToNativePath(path));
-    if (!time) return std::nullopt;
-    return ToLocalDateTime(*time);
+    const auto facts = system_calls::FactsOf(ToNativePath(path));
+    if (!facts) return std::nullopt;
+    return ToLocalDateTime(facts->modified);
+}
+
+std::optional<FileDetails> NativeFileSystem::Details(TextView path) const {
+    const auto facts = system_calls::FactsOf(ToNativePath(path));
+    if (!facts || facts->isFolder) return std::nullopt;
+    return FileDetails{facts->size, ToLocalDateTime(facts->modified)};
 }
 
 std::optional<VolumeInfo> NativeFileSystem::Volume(TextView path) const {

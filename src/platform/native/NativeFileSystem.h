@@ -46,6 +46,7 @@ public:
     CopyOutcome Copy(TextView from, TextView to, const CopyOptions& options = {}) override;
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
+    std::optional<FileDetails> Details(TextView path) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override;
     Text ProgramDir() const override { return programDir_; }

@@ -105,10 +105,15 @@ std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights) {
     return FileRights{rights->mode & kOwnersBits, rights->user, rights->group};
 }
 
-std::optional<std::time_t> ModifiedTime(const fs::path& path) {
+bool IsProgram(const fs::path& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && access(path.c_str(), X_OK) == 0;
+}
+
+std::optional<FileFacts> FactsOf(const fs::path& path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) return std::nullopt;
-    return status.st_mtime;
+    return FileFacts{status.st_size, status.st_mtime, S_ISDIR(status.st_mode)};
 }
 
 bool Flush(const fs::path& path) {

@@ -36,16 +36,24 @@ std::size_t SizeOf(int file);
 /// Whether the user may write to the file or folder. A file that nobody may write to isn't writable for the
 /// administrator either, although the system would let him.
 bool IsWritable(const std::filesystem::path& path);
+/// Whether the user may start the file, on a system where that and not the name makes a program.
+bool IsProgram(const std::filesystem::path& path);
 std::optional<FileRights> RightsOf(const std::filesystem::path& path);
 /// The given rights without those of the group and of others. Without `rights`, those of a new file that only
 /// its owner may read and write.
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
-std::optional<std::time_t> ModifiedTime(const std::filesystem::path& path);
 /// Returns when the contents of the file are safe on the disk.
 bool Flush(const std::filesystem::path& path);
 /// Opens a file, which is made for its owner alone if it is missing, and locks it until it is closed. Returns
 /// `kNoFile` if it is locked already, by this process too.
 int OpenLocked(const std::filesystem::path& path);
+/// Of what the path leads to, through links.
+struct FileFacts {
+    std::int64_t size = 0;
+    std::time_t modified = 0;
+    bool isFolder = false;
+};
+std::optional<FileFacts> FactsOf(const std::filesystem::path& path);
 /// Makes the last folder of the path. Only the user may enter it.
 bool MakePrivateDir(const std::filesystem::path& path);
 

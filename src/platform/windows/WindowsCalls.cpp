@@ -89,10 +89,14 @@ std::optional<FileRights> OwnersAlone(const std::optional<FileRights>&) {
     return std::nullopt;
 }
 
-std::optional<std::time_t> ModifiedTime(const fs::path& path) {
+bool IsProgram(const fs::path&) {
+    return false;
+}
+
+std::optional<FileFacts> FactsOf(const fs::path& path) {
     struct _stat64 status {};
     if (_wstat64(path.c_str(), &status) != 0) return std::nullopt;
-    return status.st_mtime;
+    return FileFacts{status.st_size, status.st_mtime, (status.st_mode & _S_IFDIR) != 0};
 }
 
 bool Flush(const fs::path& path) {

@@ -54,5 +54,12 @@ TEST(ComesBeforeTest, OrdersByCharacterWithCaseIgnored) {
     EXPECT_EQ(names, (std::vector<Text>{u"10", u"9", u"A", u"a", u"a", u"ab", u"a_", u"b", u"B1"}));
 }
 
+TEST(FilePatterns, ProgramsAreAskedForByTheirPattern) {
+    EXPECT_TRUE(AskForPrograms(u"*.exe"));
+    EXPECT_TRUE(AskForPrograms(u"*.txt; *.EXE"));
+    EXPECT_FALSE(AskForPrograms(u"*.*"));
+    EXPECT_FALSE(AskForPrograms(u"my.exe"));
+}
+
 } // namespace
 } // namespace korvane

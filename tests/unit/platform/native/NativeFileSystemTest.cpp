@@ -154,6 +154,17 @@ TEST_F(NativeFiles, TheModifiedTimeIsLocal) {
     EXPECT_EQ(files.Modified(At("a.tbx")), ToLocalDateTime(moment));
 }
 
+TEST_F(NativeFiles, TheDetailsAreThoseOfAFile) {
+    WriteBytes(dir / "a.tbx", "abc");
+    const auto details = files.Details(At("a.tbx"));
+    ASSERT_TRUE(details);
+    EXPECT_EQ(details->size, 3);
+    EXPECT_EQ(details->modified, files.Modified(At("a.tbx")));
+    fs::create_directory(dir / "folder");
+    EXPECT_FALSE(files.Details(At("folder")));
+    EXPECT_FALSE(files.Details(At("none")));
+}
+
 TEST_F(NativeFiles, RelativePathsStartAtTheCurrentDirectory) {
     const Text before = files.CurrentDir();
     fs::create_directory(dir / "data");

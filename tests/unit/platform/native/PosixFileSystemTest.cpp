@@ -216,5 +216,15 @@ TEST(NativeVolume, OfAFileThatIsNotThereIsThatOfItsFolder) {
     EXPECT_EQ(files.Volume(u"/no/such/file")->totalBytes, files.Volume(u"/")->totalBytes);
 }
 
+TEST_F(NativeFiles, ProgramsAreListedByTheRightToStartThem) {
+    WriteBytes(dir / "tool", "x");
+    WriteBytes(dir / "note.txt", "x");
+    WriteBytes(dir / "old.exe", "x");
+    fs::create_directory(dir / "folder");
+    fs::permissions(dir / "tool", fs::perms::owner_all);
+    EXPECT_EQ(files.FileNames(At(""), u"*.exe"), (std::vector<Text>{u"old.exe", u"tool"}));
+    EXPECT_EQ(files.FileNames(At(""), u"*.tbx"), std::vector<Text>());
+}
+
 } // namespace
 } // namespace korvane
