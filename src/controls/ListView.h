@@ -89,6 +89,8 @@ public:
     std::function<void(int index)> ItemCheck;
     std::function<void(int column)> ColumnClick;
     std::function<void(int index, TextView text)> TextTyped;
+    /// The user let go of the right mouse button. The row under the mouse has become the current one before.
+    std::function<void()> RightClick;
 
     // What the user does.
     void Select(int index) { SetCurrent(index); }

@@ -103,6 +103,8 @@ public:
     std::function<void(TextView key)> Expand;
 
     void DoubleClick(TextView key);
+    /// Whether the user works with the keyboard. The view writes it before it tells what he does.
+    bool ByKeys = false;
 
     /// At most one; nullptr takes it away. The caller owns it.
     void SetTreeListener(TreeListener* listener) { listener_ = listener; }

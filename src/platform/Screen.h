@@ -24,6 +24,9 @@ public:
     virtual void SetPointer(Pointer pointer) = 0;
     /// Lets pending messages run once.
     virtual void ProcessMessages() = 0;
+    /// Lets messages run now and then in a long work. It can be called at each small step, because nothing
+    /// happens when messages ran a moment ago.
+    virtual void Yield() { ProcessMessages(); }
 };
 
 /// Shows the hourglass as long as it lives, then the normal pointer.

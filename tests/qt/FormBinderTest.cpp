@@ -1,9 +1,12 @@
 #include "QtSupport.h"
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
+#include "controls/DropDown.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
+#include "controls/ProgressBar.h"
 #include "controls/Slider.h"
+#include "controls/Splitter.h"
 #include "controls/TextBox.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/binder/QtFormHost.h"
@@ -12,14 +15,17 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QSplitter>
 
 namespace korvane {
 namespace {
@@ -38,6 +44,9 @@ public:
     TextBox txtLine{*this, "txtLine", u"line", u"A line"};
     TextBox txtLines{*this, "txtLines"};
     Slider ZoomSlider{*this, "ZoomSlider", 13, 360};
+    DropDown txtPattern{*this, "txtPattern"};
+    ProgressBar ProgressBar1{*this, "ProgressBar1"};
+    Splitter imgSplitV{*this, "imgSplitV"};
 
     void KeyDown(KeyEvent& key) override {
         if (onKey) onKey(key);
@@ -65,6 +74,12 @@ std::unique_ptr<QWidget> MakeEveryKind() {
     Add<QLineEdit>(frame, "txtLine");
     Add<QPlainTextEdit>(frame, "txtLines");
     Add<QSlider>(frame, "ZoomSlider");
+    Add<QComboBox>(*window, "txtPattern");
+    Add<QProgressBar>(*window, "ProgressBar1");
+    auto* splitter = Add<QSplitter>(*window, "imgSplitV");
+    splitter->addWidget(new QWidget(splitter));
+    splitter->addWidget(new QWidget(splitter));
+    splitter->resize(300, 100);
     auto* tool = new QAction(window.get());
     tool->setObjectName("cmdTool");
     return window;
@@ -388,6 +403,68 @@ TEST_F(FormBinderTest, AClosedWindowLetsGoOfItsControls) {
     EXPECT_TRUE(window.isNull());
     form.Show();
     EXPECT_EQ(Widget<QLineEdit>("txtLine").text(), QString("nobody looks"));
+}
+
+TEST_F(FormBinderTest, ADropDownOffersItsItemsAndTakesOthers) {
+    auto& field = Widget<QComboBox>("txtPattern");
+    form.txtPattern.Items = std::vector<Text>{u"*.*", u"*.tbx"};
+    form.txtPattern.Text = u"*.rtf";
+    EXPECT_EQ(field.count(), 2);
+    EXPECT_EQ(field.itemText(1), QString("*.tbx"));
+    EXPECT_EQ(field.currentText(), QString("*.rtf"));
+    test::Settle();
+    field.setFocus();
+    field.lineEdit()->clear();
+    QTest::keyClicks(&field, "*.t");
+    EXPECT_EQ(form.txtPattern.Text.Get(), u"*.t");
+}
+
+TEST_F(FormBinderTest, ADropDownTellsWhatIsChosen) {
+    auto& field = Widget<QComboBox>("txtPattern");
+    form.txtPattern.Items = std::vector<Text>{u"*.*", u"*.tbx"};
+    int clicks = 0;
+    form.txtPattern.Click = [&clicks] { ++clicks; };
+    field.setCurrentIndex(1);
+    EXPECT_EQ(clicks, 0);
+    emit field.activated(1);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(form.txtPattern.Text.Get(), u"*.tbx");
+}
+
+TEST_F(FormBinderTest, ADropDownShowsItsKeysToTheWindow) {
+    auto& field = Widget<QComboBox>("txtPattern");
+    int returns = 0;
+    form.txtPattern.KeyDown = [&returns](KeyEvent& key) { returns += key.Is(Key::Return, Mask::None); };
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(returns, 1);
+}
+
+TEST_F(FormBinderTest, AProgressBarShowsItsValue) {
+    auto& bar = Widget<QProgressBar>("ProgressBar1");
+    form.ProgressBar1.Max = 1000;
+    form.ProgressBar1.Value = 250;
+    EXPECT_EQ(bar.maximum(), 1000);
+    EXPECT_EQ(bar.value(), 250);
+}
+
+TEST_F(FormBinderTest, ASplitterStandsWhereItIsPut) {
+    auto& splitter = Widget<QSplitter>("imgSplitV");
+    form.imgSplitV.Position = 120;
+    EXPECT_EQ(splitter.sizes().constFirst(), 120);
+    splitter.resize(500, 100);
+    test::Settle();
+    EXPECT_EQ(splitter.sizes().constFirst(), 120);
+}
+
+TEST_F(FormBinderTest, ASplitterTellsThatItIsMoved) {
+    auto& splitter = Widget<QSplitter>("imgSplitV");
+    form.imgSplitV.Position = 120;
+    int moves = 0;
+    form.imgSplitV.Moved = [&moves] { ++moves; };
+    emit splitter.splitterMoved(150, 1);
+    EXPECT_EQ(form.imgSplitV.Position.Get(), 150);
+    EXPECT_EQ(moves, 1);
 }
 
 } // namespace

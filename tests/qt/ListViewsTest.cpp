@@ -484,5 +484,19 @@ TEST_F(ListTypingTest, AListThatTakesNoTextIsNotEdited) {
     EXPECT_EQ(Field(), nullptr);
 }
 
+TEST_F(ListViewsTest, TellsThatTheRightButtonIsLetGo) {
+    AddRows(3);
+    list.SetCurrent(1);
+    std::vector<int> rows;
+    list.RightClick = [&] { rows.push_back(list.Current()); };
+    QTest::mouseClick(View().viewport(), Qt::RightButton, {}, View().visualRect(At(2)).center());
+    EXPECT_EQ(rows, std::vector<int>{3});
+}
+
+TEST_F(ListViewsTest, ATextWithLineEndsStaysOnItsLine) {
+    list.Add({.key = u"a", .texts = {u"two\nlines\r.txt"}});
+    EXPECT_EQ(At(0).data().toString(), QString::fromUtf8("two␊lines␍.txt"));
+}
+
 } // namespace
 } // namespace korvane

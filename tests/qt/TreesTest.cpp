@@ -239,5 +239,16 @@ TEST_F(TreesTest, TakesItsPicturesFromTheirFilesWhereThereAreAny) {
     EXPECT_NE(ImageOf(At(1)), ImageOf(At(0)));
 }
 
+TEST_F(TreesTest, TellsKeysFromTheMouse) {
+    tree.SetExpanded(u"root", true);
+    tree.Select(u"root");
+    std::vector<bool> byKeys;
+    tree.NodeClick = [&] { byKeys.push_back(tree.ByKeys); };
+    Key(View(), Qt::Key_Down);
+    Click(View(), At(1, At(0)));
+    EXPECT_EQ(tree.Selected(), u"b");
+    EXPECT_EQ(byKeys, (std::vector<bool>{true, false}));
+}
+
 } // namespace
 } // namespace korvane

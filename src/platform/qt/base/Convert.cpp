@@ -38,6 +38,18 @@ Text ToText(const QString& text) {
     return Text(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
 }
 
+QString ToOneLine(TextView text) {
+    constexpr char16_t kFirstPrinted = u' ';
+    constexpr char16_t kFirstPicture = u'\u2400';
+    QString line = ToQString(text);
+    const auto isControl = [](char16_t unit) { return unit < kFirstPrinted; };
+    if (std::ranges::none_of(text, isControl)) return line;
+    for (QChar& unit : line) {
+        if (isControl(unit.unicode())) unit = QChar(kFirstPicture + unit.unicode());
+    }
+    return line;
+}
+
 QString ToLines(TextView text) {
     QString lines = ToQString(text);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n"));

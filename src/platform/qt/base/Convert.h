@@ -15,6 +15,9 @@ namespace korvane {
 QString ToQString(TextView text);
 Text ToText(const QString& text);
 
+/// The text for a place that has one line: line ends and other control characters become pictures of them.
+QString ToOneLine(TextView text);
+
 /// The text for a widget of several lines: each CR LF, CR and LF becomes one LF.
 QString ToLines(TextView text);
 /// The text of such a widget for the rest of the program: each line end becomes CR LF.

@@ -1,8 +1,10 @@
 #include "platform/qt/binder/FormBinder.h"
 
 #include "platform/qt/base/Icons.h"
+#include "platform/qt/binder/DropDownAdaptor.h"
 #include "platform/qt/binder/MenuAdaptor.h"
 #include "platform/qt/binder/SimpleAdaptors.h"
+#include "platform/qt/binder/SplitterAdaptor.h"
 #include "platform/qt/binder/TextAdaptors.h"
 #include "platform/qt/grid/GridAdaptor.h"
 #include "platform/qt/lists/ComboBoxAdaptor.h"
@@ -40,11 +42,14 @@ constexpr Maker kMakers[] = {
     Make<Panel, QWidget, PanelAdaptor>,
     Make<TextBox, QLineEdit, LineAdaptor>,
     Make<TextBox, QPlainTextEdit, LinesAdaptor>,
+    Make<DropDown, QComboBox, DropDownAdaptor>,
     Make<ComboBox, QComboBox, ComboBoxAdaptor>,
     Make<ListBox, QListView, ListBoxAdaptor>,
     Make<ListView, QTreeView, ListViewAdaptor>,
     Make<TreeView, QTreeView, TreeViewAdaptor>,
+    Make<ProgressBar, QProgressBar, ProgressAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,
+    Make<Splitter, QSplitter, SplitterAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<Menu, QMenuBar, MenuAdaptor>,
     Make<TabStrip, TabPages, TabStripAdaptor>,

@@ -1,5 +1,6 @@
 #include "controls/Label.h"
 #include "controls/Menu.h"
+#include "controls/Splitter.h"
 #include "platform/qt/binder/FormBinder.h"
 
 #include <QAbstractButton>
@@ -28,7 +29,8 @@ bool StandsForNoControl(const QObject& part) {
 bool IsInnerPart(const QWidget& part, const Form& form) {
     for (const QWidget* around = part.parentWidget(); around != nullptr; around = around->parentWidget()) {
         const Control* control = form.Find(around->objectName().toStdString());
-        const bool holdsOthers = dynamic_cast<const Panel*>(control) != nullptr;
+        const bool holdsOthers = dynamic_cast<const Panel*>(control) != nullptr ||
+                                 dynamic_cast<const Splitter*>(control) != nullptr;
         if (control != nullptr && !holdsOthers) return true;
     }
     return false;

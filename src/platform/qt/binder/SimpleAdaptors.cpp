@@ -114,6 +114,12 @@ void PanelAdaptor::Write(Aspect aspect) {
     AdaptorOf::Write(aspect);
 }
 
+void ProgressAdaptor::Write(Aspect aspect) {
+    if (aspect == Aspect::Range) widget_.setMaximum(control_.Max);
+    if (aspect == Aspect::Value) widget_.setValue(control_.Value);
+    AdaptorOf::Write(aspect);
+}
+
 SliderAdaptor::SliderAdaptor(Slider& slider, QAbstractSlider& widget) : AdaptorOf(slider, widget) {
     connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
         control_.MoveTo(value);

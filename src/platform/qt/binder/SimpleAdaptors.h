@@ -3,12 +3,14 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Label.h"
+#include "controls/ProgressBar.h"
 #include "controls/Slider.h"
 #include "platform/qt/base/ControlAdaptor.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QLabel>
+#include <QProgressBar>
 
 namespace korvane {
 
@@ -55,6 +57,14 @@ protected:
 };
 
 class PanelAdaptor : public AdaptorOf<Panel, QWidget> {
+public:
+    using AdaptorOf::AdaptorOf;
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class ProgressAdaptor : public AdaptorOf<ProgressBar, QProgressBar> {
 public:
     using AdaptorOf::AdaptorOf;
 

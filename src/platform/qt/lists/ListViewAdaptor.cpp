@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QMouseEvent>
 
 namespace korvane {
 
@@ -59,6 +60,14 @@ void ListViewAdaptor::WriteShape() {
 void ListViewAdaptor::WriteColours() {
     const Colour back = ChosenBack(list_.BackColor, QApplication::palette());
     WriteBackColour(widget_, back, kFieldSurface);
+}
+
+bool ListViewAdaptor::eventFilter(QObject* watched, QEvent* event) {
+    const bool taken = RowsAdaptor::eventFilter(watched, event);
+    if (taken || watched != widget_.viewport() || event->type() != QEvent::MouseButtonRelease) return taken;
+    const bool right = static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
+    if (right && ByUser() && list_.RightClick) list_.RightClick();
+    return taken;
 }
 
 void ListViewAdaptor::ReadWidth(int column, int width) {

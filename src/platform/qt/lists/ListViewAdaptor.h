@@ -23,6 +23,7 @@ protected:
     void DoubleClick(int row) override { list_.DoubleClick(row + 1); }
 
     void Write(Aspect aspect) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     ListViewAdaptor(ListView& list, QTreeView& widget, ListViewModel& model);

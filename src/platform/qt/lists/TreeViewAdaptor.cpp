@@ -1,5 +1,6 @@
 #include "platform/qt/lists/TreeViewAdaptor.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <utility>
 
@@ -153,6 +154,13 @@ void TreeViewAdaptor::WriteSelection() {
 }
 
 // ---- What the user does -------------------------------------------------------------------------------
+
+bool TreeViewAdaptor::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (Attached() && (type == QEvent::KeyPress || type == QEvent::MouseButtonPress))
+        tree_.ByKeys = type == QEvent::KeyPress;
+    return ItemsAdaptor::eventFilter(watched, event);
+}
 
 void TreeViewAdaptor::ReadCurrent(const QModelIndex& index) {
     const TreeNode* node = index.isValid() ? model_.NodeOf(index) : nullptr;

@@ -22,6 +22,8 @@ protected:
     void WriteHeldBack() override;
     void ScrollToWanted() override;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void TreeReset() override;
     void NodeAdding(const TreeNode& parent) override;

@@ -77,7 +77,7 @@ bool TreeViewModel::hasChildren(const QModelIndex& parent) const {
 QVariant TreeViewModel::data(const QModelIndex& index, int role) const {
     const TreeNode* node = NodeOf(index);
     if (!index.isValid() || node == nullptr) return {};
-    if (role == Qt::DisplayRole) return ToQString(node->text);
+    if (role == Qt::DisplayRole) return ToOneLine(node->text);
     if (role == Qt::DecorationRole) return IconOf(*node);
     return {};
 }

@@ -9,6 +9,13 @@
 
 namespace korvane {
 
+namespace {
+
+/// A user doesn't notice a wait of this length, and the work loses little time.
+constexpr int kMillisecondsBetweenYields = 20;
+
+} // namespace
+
 Rect QtScreen::WorkArea() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr) return {};
@@ -29,6 +36,12 @@ void QtScreen::SetPointer(Pointer pointer) {
 
 void QtScreen::ProcessMessages() {
     QCoreApplication::processEvents();
+}
+
+void QtScreen::Yield() {
+    if (sinceYield_.isValid() && sinceYield_.elapsed() < kMillisecondsBetweenYields) return;
+    ProcessMessages();
+    sinceYield_.start();
 }
 
 } // namespace korvane

@@ -2,6 +2,8 @@
 
 #include "platform/Screen.h"
 
+#include <QElapsedTimer>
+
 namespace korvane {
 
 class QtScreen final : public Screen {
@@ -10,9 +12,11 @@ public:
     bool IsDark() const override;
     void SetPointer(Pointer pointer) override;
     void ProcessMessages() override;
+    void Yield() override;
 
 private:
     Pointer pointer_ = Pointer::Default;
+    QElapsedTimer sinceYield_;
 };
 
 } // namespace korvane

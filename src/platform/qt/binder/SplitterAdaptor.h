@@ -1,0 +1,23 @@
+#pragma once
+
+#include "controls/Splitter.h"
+#include "platform/qt/base/ControlAdaptor.h"
+
+#include <QSplitter>
+
+namespace korvane {
+
+/// A splitter of two parts, of which the left one keeps its width when the window gets another size.
+class SplitterAdaptor : public AdaptorOf<Splitter, QSplitter> {
+public:
+    SplitterAdaptor(Splitter& splitter, QSplitter& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void WritePosition();
+};
+
+} // namespace korvane
