@@ -6,11 +6,13 @@
 
 namespace korvane {
 
+class Form;
 struct KeyEvent;
 
 /// The commands that windows below the main window run by name.
 namespace CommandName {
 inline constexpr std::string_view mnuHelpText = "mnuHelpText";
+inline constexpr std::string_view mnuMisc_Clock = "mnuMisc_Clock";
 inline constexpr std::string_view mnuMisc_Settings = "mnuMisc_Settings";
 inline constexpr std::string_view mnuMisc_Wallpaper = "mnuMisc_Wallpaper";
 inline constexpr std::string_view mnuMisc_Websites = "mnuMisc_Websites";
@@ -30,6 +32,10 @@ public:
     /// The folder that the active tab's caption names; empty when it names none, and, with a message, when no
     /// tab is open.
     virtual Text GetActiveFolder() = 0;
+    /// The window itself, beside which others are put.
+    virtual Form& Window() = 0;
+    /// Shows the recent files; `DialogResult` says what the user wants of them. Modal.
+    virtual void ShowFileList() = 0;
 };
 
 } // namespace korvane

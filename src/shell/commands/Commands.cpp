@@ -139,6 +139,7 @@ consteval const Command& The(std::string_view name) {
 
 // What windows below the main window run by name.
 static_assert(The(CommandName::mnuHelpText).level >= 0);
+static_assert(The(CommandName::mnuMisc_Clock).level >= 0);
 static_assert(The(CommandName::mnuMisc_Settings).level >= 0);
 static_assert(The(CommandName::mnuMisc_Wallpaper).level >= 0);
 static_assert(The(CommandName::mnuMisc_Websites).level >= 0);

@@ -9,6 +9,7 @@
 #include "shell/commands/MainRoutines.h"
 #include "shell/commands/Styles.h"
 #include "shell/main/StartUp.h"
+#include "shell/recent/frmFileList.h"
 #include "shell/settings/SettingsFile.h"
 #include "shell/tabs/RecentFiles.h"
 #include "shell/tabs/frmMDIChild.h"
@@ -84,6 +85,10 @@ Text frmMDIParent::GetActiveFolder() {
     }
     app_.Messages().Show({u"No form loaded."});
     return {};
+}
+
+void frmMDIParent::ShowFileList() {
+    frmFileList(app_, recents_, *this).ShowModal();
 }
 
 void frmMDIParent::Load() {

@@ -48,6 +48,8 @@ public:
     void ShowPopupMenu() override;
     void GridKeyDown(KeyEvent& key) override;
     Text GetActiveFolder() override;
+    Form& Window() override { return *this; }
+    void ShowFileList() override;
 
     void Load() override;
     void Activate() override;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "context/App.h"
-#include "context/ports/MainWindow.h"
 #include "context/ports/SystemFileDialog.h"
 #include "context/ports/TextWindow.h"
+#include "support/FakeMainWindow.h"
 
 #include <optional>
 #include <string>
@@ -18,19 +18,6 @@ public:
     std::vector<Text> inserted;
 
     void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
-};
-
-/// Knows the folder of its tab, and remembers what it was to run.
-class FakeMainWindow final : public MainWindow {
-public:
-    explicit FakeMainWindow(App& app) { app.SetPort<MainWindow>(this); }
-    Text folder;
-    std::vector<std::string> commands;
-
-    void GridKeyDown(KeyEvent&) override {}
-    void ShowPopupMenu() override {}
-    void RunCommand(std::string_view name) override { commands.emplace_back(name); }
-    Text GetActiveFolder() override { return folder; }
 };
 
 /// Chooses a file, or nothing, and remembers what it was asked.
