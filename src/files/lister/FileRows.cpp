@@ -1,0 +1,184 @@
+#include "files/lister/FileRows.h"
+
+#include "common/number/Number.h"
+#include "common/text/ScopedValue.h"
+#include "context/App.h"
+#include "context/exchange/ListSort.h"
+#include "controls/CommandButton.h"
+#include "controls/ListView.h"
+#include "controls/ProgressBar.h"
+#include "controls/UpdateScope.h"
+#include "dialogs/Questions.h"
+#include "files/lister/SortForms.h"
+#include "platform/FileSystem.h"
+#include "platform/Screen.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kNameColumn = 1;
+constexpr int kSizeColumn = 2;
+constexpr int kDateColumn = 3;
+
+} // namespace
+
+FileRows::FileRows(App& app, Parts parts) : app_(app), parts_(parts), images_(app) {}
+
+bool FileRows::Fill(const Text& folder, const Text& patterns) {
+    const int mine = ++fill_;
+    parts_.list.Clear();
+    if (!images_.Prepare()) {
+        Warn(app_, u"Cannot initialise image list!");
+        return false;
+    }
+    const Hourglass hourglass(app_.Screen());
+    chosenByUser_ = false;
+    const std::vector<Text> names = app_.Files().FileNames(folder, patterns);
+    ShowReading(names);
+    if (!Read(folder, names)) return false;
+    parts_.list.Visible = true;
+    parts_.list.SetFocus();
+    const auto read = static_cast<std::size_t>(parts_.list.Count());
+    if (read < names.size()) {
+        Warn(app_, u"Only " + FormatGrouped(read) + u" of the " + FormatGrouped(names.size()) +
+                       u" files in this directory were read.");
+        if (mine != fill_) return false;
+    } else {
+        parts_.bar.Value = parts_.bar.Max;
+    }
+    Choose(1);
+    parts_.bar.Visible = false;
+    parts_.stop.Visible = false;
+    return true;
+}
+
+void FileRows::ShowReading(const std::vector<Text>& names) {
+    const bool shown = names.size() > kMostReadAtOnce;
+    stopRequested_ = false;
+    parts_.bar.Visible = shown;
+    parts_.stop.Visible = shown;
+    parts_.list.Visible = !shown;
+    if (!shown) return;
+    parts_.bar.Max = static_cast<int>(names.size()) - 1;
+    parts_.bar.Value = 0;
+    parts_.stop.SetFocus();
+}
+
+/// False when the reading was overtaken.
+bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
+    const UpdateScope update(parts_.list);
+    const int mine = fill_;
+    const bool shown = names.size() > kMostReadAtOnce;
+    ListRow row;
+    for (std::size_t index = 0; index < names.size(); ++index) {
+        if (shown) app_.Screen().Yield();
+        if (mine != fill_) return false;
+        WriteRow(row, folder, names[index], index);
+        parts_.list.Add(row);
+        // Kept for compatibility: bar-skips-every-32nd.
+        if (shown && index % 32 != 0) parts_.bar.Value = static_cast<int>(index);
+        if (shown && stopRequested_) break;
+    }
+    FinishOrder();
+    return true;
+}
+
+void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name, std::size_t index) {
+    const std::int16_t sortColumn = app_.Exchange<ListSort>().ListSortColumn;
+    const Text path = app_.Files().Style().JoinPath(folder, name);
+    row.key = u"K_ " + NumberText(index + 1);
+    row.texts.assign({name, {}, {}});
+    row.icon.clear();
+    const auto details = app_.Files().Details(path);
+    if (!details) return;
+    row.icon = images_.ImageOf(path);
+    row.texts[kSizeColumn - 1] = SizeText(details->size, sortColumn);
+    row.texts[kDateColumn - 1] = DateText(details->modified, sortColumn);
+}
+
+void FileRows::FinishOrder() {
+    const ListSort& sort = app_.Exchange<ListSort>();
+    // The names come in their order.
+    if (sort.ListSortColumn != ListSort::kName || sort.ListSortOrder != 0) Sort();
+    UndoSortForms();
+}
+
+void FileRows::Sort() {
+    const ListSort& sort = app_.Exchange<ListSort>();
+    parts_.list.SortBy(sort.ListSortColumn + 1,
+                       sort.ListSortOrder == 0 ? SortOrder::Ascending : SortOrder::Descending);
+}
+
+void FileRows::UndoSortForms() {
+    const std::int16_t sortColumn = app_.Exchange<ListSort>().ListSortColumn;
+    if (sortColumn == ListSort::kName) return;
+    const int column = sortColumn + 1;
+    ListView& list = parts_.list;
+    for (int row = 1; row <= list.Count(); ++row) {
+        const TextView sorted = list.TextAt(row, column);
+        // A file that had gone before it was reached has none.
+        if (sorted.empty()) continue;
+        list.SetText(row, column, column == kSizeColumn ? ShownSize(sorted) : ShownDate(sorted));
+    }
+}
+
+void FileRows::Choose(int row) {
+    const ScopedValue choosing(choosing_, true);
+    parts_.list.SetCurrent(row);
+}
+
+int FileRows::Count() const {
+    return parts_.list.Count();
+}
+
+int FileRows::Current() const {
+    return parts_.list.Current();
+}
+
+Text FileRows::CurrentName() const {
+    return Text(parts_.list.TextAt(parts_.list.Current(), kNameColumn));
+}
+
+std::vector<Text> FileRows::MarkedNames() const {
+    std::vector<Text> names;
+    for (const int row : parts_.list.SelectedRows())
+        names.emplace_back(parts_.list.TextAt(row, kNameColumn));
+    return names;
+}
+
+void FileRows::MarkAll() {
+    NoteChoice();
+    parts_.list.SetAllSelected(true);
+}
+
+void FileRows::Mark(const std::vector<Text>& names) {
+    const std::unordered_set<TextView> marked(names.begin(), names.end());
+    ListView& list = parts_.list;
+    const UpdateScope update(list);
+    list.SetAllSelected(false);
+    for (int row = 1; row <= list.Count(); ++row) {
+        if (marked.contains(list.TextAt(row, kNameColumn))) list.SetSelected(row, true);
+    }
+}
+
+void FileRows::GoToRow(int row) {
+    Choose(std::min(row, parts_.list.Count()));
+}
+
+void FileRows::TakeFocus() {
+    parts_.list.SetSelected(Current(), true);
+    parts_.list.SetFocus();
+}
+
+void FileRows::GoToName(TextView name) {
+    ListView& list = parts_.list;
+    for (int row = 1; row <= list.Count(); ++row) {
+        if (app_.Files().Style().SameName(list.TextAt(row, kNameColumn), name)) return Choose(row);
+    }
+}
+
+} // namespace korvane

@@ -1,0 +1,70 @@
+#include "files/lister/ShownFolder.h"
+
+#include "common/text/ScopedValue.h"
+#include "context/App.h"
+#include "context/exchange/ListSort.h"
+#include "context/exchange/ListerRequest.h"
+#include "controls/DropDown.h"
+#include "files/lister/FileRows.h"
+#include "files/tree/FolderTree.h"
+#include "platform/FileSystem.h"
+
+namespace korvane {
+
+ShownFolder::ShownFolder(App& app, Parts parts) : app_(app), parts_(parts) {}
+
+const Text& ShownFolder::Path() const {
+    return parts_.path.Text;
+}
+
+Text ShownFolder::PathOf(TextView name) const {
+    const PathStyle style = app_.Files().Style();
+    return style.IsFullPath(name) ? Text(name) : style.JoinPath(Path(), name);
+}
+
+bool ShownFolder::IsListed() const {
+    return !LastListedPath_.empty() && LastListedPath_ == Path();
+}
+
+void ShownFolder::TakePath(const Text& folder) {
+    app_.Exchange<ListerRequest>().ListerFolder = folder;
+    parts_.path.Text = folder;
+}
+
+void ShownFolder::GoTo(const Text& folder) {
+    TakePath(folder);
+    {
+        const ScopedValue going(going_, true);
+        parts_.tree.SetTreePath(folder);
+    }
+    ListAnew();
+}
+
+void ShownFolder::List() {
+    if (IsListed()) return;
+    LastListedPath_.clear();
+    const ScopedValue listing(listing_, true);
+    const Text folder = Path();
+    app_.Files().ChangeDir(folder);
+    if (Listing) Listing();
+    if (parts_.rows.Fill(folder, parts_.pattern.Text)) LastListedPath_ = folder;
+}
+
+void ShownFolder::ListAnew() {
+    LastListedPath_.clear();
+    List();
+}
+
+void ShownFolder::SortBy(int column) {
+    if (parts_.rows.Count() < 2) return;
+    ListSort& sort = app_.Exchange<ListSort>();
+    sort.ListSortColumn = static_cast<std::int16_t>(column - 1);
+    sort.ListSortOrder = sort.ListSortOrder == 0 ? 1 : 0;
+    if (sort.ListSortColumn == ListSort::kName) return parts_.rows.Sort();
+    // The texts that are shown don't sort by their numbers.
+    const std::vector<Text> marked = parts_.rows.MarkedNames();
+    ListAnew();
+    parts_.rows.Mark(marked);
+}
+
+} // namespace korvane

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <functional>
+
+namespace korvane {
+
+class App;
+class DropDown;
+class FileRows;
+class FolderTree;
+class TextBox;
+
+/// The folder that the lister shows. The line with its path, the tree and the list of files follow one
+/// another here.
+class ShownFolder {
+public:
+    struct Parts {
+        TextBox& path;
+        DropDown& pattern;
+        FolderTree& tree;
+        FileRows& rows;
+    };
+    /// All outlive the object.
+    ShownFolder(App& app, Parts parts);
+
+    const Text& Path() const;
+    /// The path of a file in the folder; a path that is one already stays.
+    Text PathOf(TextView name) const;
+    /// Whether the list shows the files of the folder. It doesn't after the user went on in the tree by keys
+    /// alone.
+    bool IsListed() const;
+
+    /// Takes the folder into the line alone.
+    void TakePath(const Text& folder);
+    /// Goes to a folder with the tree, and lists its files anew.
+    void GoTo(const Text& folder);
+    /// The tree is on the way there: what it tells isn't what the user does.
+    bool IsGoing() const { return going_; }
+    /// Whether they are being read just now.
+    bool IsListing() const { return listing_; }
+    /// Lists the files of the folder unless they are listed.
+    void List();
+    /// Lists them anew, whatever is listed.
+    void ListAnew();
+    /// Sorts by a column, as a click on its header asks; a second click turns the order round.
+    void SortBy(int column);
+
+    /// The files are about to be read.
+    std::function<void()> Listing;
+
+private:
+    App& app_;
+    Parts parts_;
+    /// Empty when the files are to be read anew in any case.
+    Text LastListedPath_;
+    bool listing_ = false;
+    bool going_ = false;
+};
+
+} // namespace korvane
