@@ -1,0 +1,153 @@
+#include "files/lister/FileCommands.h"
+
+#include "common/number/Number.h"
+#include "common/text/ScopedValue.h"
+#include "context/App.h"
+#include "context/FileChooser.h"
+#include "context/StandardMessages.h"
+#include "context/exchange/CopyMoveRequest.h"
+#include "context/exchange/FileOperation.h"
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/TextFileViewer.h"
+#include "dialogs/Questions.h"
+#include "dialogs/frmTxtInfo.h"
+#include "files/jobs/frmCopyMove.h"
+#include "files/lister/FileRows.h"
+#include "files/lister/OpenShortcut.h"
+#include "files/lister/ShownFolder.h"
+#include "files/lists/OpenWith.h"
+#include "files/names/frmDupFile.h"
+#include "files/names/frmRenFile.h"
+#include "files/viewing/ViewFile.h"
+#include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Shell.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr std::int16_t kCopy = 1;
+constexpr std::int16_t kMove = 2;
+
+constexpr TextView kRecycleNote =
+    u"\r\n\r\nNote: Deleted files can be retrieved from the Windows Recycle Bin as\r\nlong as they stem from "
+    u"a fixed drive, i.e. the hard disk of your computer.";
+
+Text DeleteQuestion(const std::vector<Text>& marked) {
+    const Text question = marked.size() == 1
+                              ? u"Delete the following file ?\r\n\r\n" + marked.front()
+                              : u"Delete   >   " + NumberText(marked.size()) + u"   <   files ?";
+    return question + Text(kRecycleNote);
+}
+
+} // namespace
+
+FileCommands::FileCommands(App& app, ShownFolder& folder, FileRows& rows)
+    : app_(app), folder_(folder), rows_(rows) {}
+
+bool FileCommands::HasFile() {
+    if (folder_.IsListed()) return rows_.Current() > 0;
+    folder_.List();
+    return false;
+}
+
+void FileCommands::PutAtHand() {
+    FileOperation& file = app_.Exchange<FileOperation>();
+    file.FileOpFolder = folder_.Path();
+    file.FileOpName = rows_.CurrentName();
+    // The windows for new names work in the current directory.
+    app_.Files().ChangeDir(folder_.Path());
+}
+
+// The current file.
+
+void FileCommands::View(Viewing viewing) {
+    if (!HasFile()) return;
+    const KeepCurrentDir keep(app_.Files());
+    Text path = folder_.PathOf(rows_.CurrentName());
+    if (!app_.Files().FileExists(path)) return ShowCannotLocate(app_, path);
+    if (OpenShortcut(app_, path)) return;
+    // Whatever opens a pipe or a socket waits for somebody to write into it.
+    if (!app_.Files().Size(path)) return ShowCannotLoad(app_, path);
+    if (viewing == Viewing::ByType) {
+        ViewFile(app_, path);
+    } else if (auto* texts = app_.Port<TextFileViewer>()) {
+        texts->View(path);
+    }
+}
+
+void FileCommands::ViewWith() {
+    if (HasFile()) OpenWithUserProgram(app_, folder_.PathOf(rows_.CurrentName()));
+}
+
+void FileCommands::ShowInfo() {
+    if (HasFile()) frmTxtInfo(app_, FactsOfFile(app_, folder_.PathOf(rows_.CurrentName()))).ShowModal();
+}
+
+void FileCommands::Rename() {
+    if (!HasFile()) return;
+    PutAtHand();
+    frmRenFile window(app_);
+    if (ShowForResult(app_, window) != 1) return;
+    folder_.ListAnew();
+    rows_.GoToName(app_.Exchange<FileOperation>().FileNewName);
+}
+
+void FileCommands::Duplicate() {
+    if (!HasFile()) return;
+    PutAtHand();
+    frmDupFile window(app_);
+    if (ShowForResult(app_, window) == 1) ListAnewAtRow();
+}
+
+// The marked files.
+
+void FileCommands::Copy() {
+    ShowCopyMove(kCopy);
+}
+
+void FileCommands::Move() {
+    ShowCopyMove(kMove);
+}
+
+void FileCommands::ShowCopyMove(std::int16_t kind) {
+    if (!HasFile()) return;
+    CopyMoveRequest& request = app_.Exchange<CopyMoveRequest>();
+    request.lstMarkedFiles = rows_.MarkedNames();
+    if (request.lstMarkedFiles.empty()) return Inform(app_, u"No items checked.");
+    request.CopyMoveKind = kind;
+    app_.Files().ChangeDir(folder_.Path());
+    request.CopySourceFolder = app_.Files().CurrentDir();
+    {
+        // Whoever opened the lister reads the count as that of the files to load.
+        const ScopedValue count(app_.Exchange<ListerRequest>().ChosenFileCount,
+                                static_cast<std::int16_t>(request.lstMarkedFiles.size()));
+        frmCopyMove(app_).ShowModal();
+    }
+    ListAnewAtRow();
+}
+
+void FileCommands::Delete() {
+    if (!HasFile()) return;
+    std::vector<Text>& marked = app_.Exchange<CopyMoveRequest>().lstMarkedFiles;
+    marked = rows_.MarkedNames();
+    if (marked.empty()) return Inform(app_, u"No items checked.");
+    const Message question{DeleteQuestion(marked), MessageIcon::Exclamation, MessageButtons::YesNo, 2};
+    if (app_.Messages().Show(question) != Answer::Yes) return rows_.TakeFocus();
+    const FileSystem& files = app_.Files();
+    for (const Text& name : marked) {
+        const Text path = folder_.PathOf(name);
+        // A link that leads nowhere is there too.
+        if (files.FileExists(path) || files.IsLink(path)) app_.Shell().Recycle(path, RecycleTalk::Silent);
+    }
+    ListAnewAtRow();
+}
+
+void FileCommands::ListAnewAtRow() {
+    const int row = rows_.Current();
+    folder_.ListAnew();
+    rows_.GoToRow(row);
+}
+
+} // namespace korvane

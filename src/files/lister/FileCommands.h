@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+class FileRows;
+class ShownFolder;
+
+/// What the lister does with the files that are marked, or with the one in the current row.
+///
+/// When the list doesn't show the files of the folder any more, because the user went on in the tree, each
+/// command only lists them: the marked rows aren't files of that folder.
+class FileCommands {
+public:
+    /// All outlive the object.
+    FileCommands(App& app, ShownFolder& folder, FileRows& rows);
+
+    enum class Viewing : std::uint8_t { ByType, AsText };
+
+    // The current file.
+
+    void View(Viewing viewing = Viewing::ByType);
+    void ViewWith();
+    void ShowInfo();
+    void Rename();
+    void Duplicate();
+
+    // The marked files.
+
+    void Copy();
+    void Move();
+    void Delete();
+
+private:
+    /// Whether there is a current file, which is in the folder shown.
+    bool HasFile();
+    /// Notes the current file for the windows that work on one.
+    void PutAtHand();
+    void ShowCopyMove(std::int16_t kind);
+    bool MayDelete();
+    void ListAnewAtRow();
+
+    App& app_;
+    ShownFolder& folder_;
+    FileRows& rows_;
+};
+
+} // namespace korvane

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/text/Text.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+class FolderTree;
+class ShownFolder;
+
+/// What the lister does with the folder that it shows, and how it goes to others.
+class FolderCommands {
+public:
+    /// All outlive the object.
+    FolderCommands(App& app, ShownFolder& folder, FolderTree& tree);
+
+    void NewFolder();
+    void RenameFolder();
+    /// Moves the folder to the recycle store.
+    void DeleteFolder();
+    /// Reads the drives and the files anew.
+    void Refresh();
+
+    /// Shows the folder in the desktop's file manager, and reads it anew afterwards.
+    void Explore();
+    /// Starts the companion that lists folders.
+    void StartLorrit();
+
+    enum class NoteFolder : std::uint8_t { No, Yes };
+    /// Lets the user go to a folder of the day, to which the present one may be added before.
+    void ShowTodaysFolders(NoteFolder note);
+    /// Lets the user go to one of his favourite folders.
+    void GetTarget();
+
+private:
+    void TellOfDeletion(const Text& folder);
+
+    App& app_;
+    ShownFolder& folder_;
+    FolderTree& tree_;
+};
+
+} // namespace korvane
