@@ -3,6 +3,7 @@
 #include "app/SystemParts.h"
 #include "context/exchange/StartState.h"
 #include "context/ports/ColourPicker.h"
+#include "context/ports/FavouriteFolders.h"
 #include "context/ports/FilePicker.h"
 #include "context/ports/FileViewer.h"
 #include "context/ports/FontPicker.h"
@@ -55,7 +56,8 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
           system.Folders(), locale_, fileTypes_)) {
-    app_.SetPort<FilePicker>(&filePicker_);
+    app_.SetPort<FilePicker>(&lister_);
+    app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<ColourPicker>(&colourPicker_);

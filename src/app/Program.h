@@ -1,12 +1,12 @@
 #pragma once
 
 #include "context/App.h"
+#include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/services/QtClipboard.h"
-#include "platform/qt/services/QtFilePicker.h"
 #include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
@@ -43,12 +43,12 @@ private:
     QtUserLocale locale_;
     QtFileTypes fileTypes_;
     QtFormHost forms_;
-    QtFilePicker filePicker_;
     QtSystemFileDialog systemFileDialog_;
     QtFontPicker fontPicker_;
     QtColourPicker colourPicker_;
     App app_;
     ClipboardWindow clipboardWindow_{app_};
+    Lister lister_{app_};
     FileHandling fileHandling_{app_};
     DesktopFileViewer desktopViewer_{app_};
 };

@@ -34,6 +34,9 @@ void Show(App& app, TextView filter, TextView caption) {
     request.FileDialogFilter = Text(filter);
     request.FileDialogCaption = Text(caption);
     request.ChosenFilePath.clear();
+    // The chooser changes these only when rows are marked. No files are left when it has shown one instead.
+    request.ChosenFiles.assign(2, Text());
+    request.ChosenFileCount = 1;
     if (auto* filePicker = app.Port<FilePicker>()) filePicker->Choose(request);
 }
 

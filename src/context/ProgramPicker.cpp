@@ -9,9 +9,9 @@ namespace korvane {
 bool PickProgram(App& app, TextView title, Text& location) {
     const KeepCurrentDir keep(app.Files());
     ShowFileChooser(app, ChooserMode::Load, u"*.exe", title);
-    const Text& chosen = app.Exchange<ListerRequest>().ChosenFilePath;
-    if (chosen.empty()) return false;
-    location = chosen;
+    const ListerRequest& request = app.Exchange<ListerRequest>();
+    if (request.ChosenFilePath.empty() || request.ChosenFileCount == 0) return false;
+    location = request.ChosenFilePath;
     return true;
 }
 

@@ -1,10 +1,8 @@
 #include "platform/qt/services/ChoosingDialog.h"
 
 #include "SourceTree.h"
-#include "context/exchange/ListerRequest.h"
 #include "context/ports/SystemFileDialog.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/services/QtFilePicker.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
 
 #include <gmock/gmock.h>
@@ -32,14 +30,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void PickFile(const Text& filter, std::int16_t mode, const Text& path) {
-    ListerRequest request;
-    request.FileDialogFilter = filter;
-    request.FileDialogDefaultName = path;
-    request.ListerMode = mode;
-    QtFilePicker().Choose(request);
-}
-
 void AskSystemDialog(SystemFileDialog::Purpose purpose, const Text& path) {
     QtSystemFileDialog().Choose(
         {.purpose = purpose, .filter = u"All files (*.*)|*.*", .title = {}, .name = path});
@@ -55,9 +45,6 @@ void PrintTo(const Opening& opening, std::ostream* out) {
 }
 
 const Opening kOpenings[] = {
-    {"Load", [](const Text& path) { PickFile(u"*.tbx", 0, path); }},
-    {"SaveUnderAName", [](const Text& path) { PickFile(u"*.tbx", 1, path); }},
-    {"ChooseProgram", [](const Text& path) { PickFile(u"*.exe", 0, path); }},
     {"SystemOpen", [](const Text& path) { AskSystemDialog(SystemFileDialog::Purpose::Open, path); }},
     {"SystemSave", [](const Text& path) { AskSystemDialog(SystemFileDialog::Purpose::Save, path); }},
 };
@@ -137,7 +124,7 @@ TEST(ChoosingDialog, NobodyOpensAnotherFileDialog) {
         const std::string text{std::istreambuf_iterator<char>(file), {}};
         if (text.find("<QFileDialog>") != std::string::npos) naming.insert(entry.path().filename().string());
     }
-    EXPECT_THAT(naming, testing::ElementsAre("ChoosingDialog.h", "ProgramsOnly.cpp"));
+    EXPECT_THAT(naming, testing::ElementsAre("ChoosingDialog.h"));
 }
 
 } // namespace

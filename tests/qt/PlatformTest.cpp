@@ -2,7 +2,6 @@
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/services/QtClipboard.h"
-#include "platform/qt/services/QtFilePicker.h"
 #include "platform/qt/services/QtMessageBoxes.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
@@ -12,16 +11,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractProxyModel>
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QFileSystemModel>
 #include <QFontDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -194,100 +188,6 @@ TEST(QtSystemFoldersTest, WhatOnlyWindowsHasIsEmpty) {
     EXPECT_EQ(QtSystemFolders().Windows(), u"");
     EXPECT_EQ(QtSystemFolders().System(), u"");
 }
-
-// ---- File dialog --------------------------------------------------------------------------------------
-
-class QtFilePickerTest : public testing::Test {
-protected:
-    void SetUp() override {
-        for (const char* name : {"one.tbx", "two.tbx", "other.txt"}) {
-            QFile file(dir.filePath(name));
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        }
-        request.FileDialogCaption = u"Load database";
-        request.FileDialogFilter = u"*.tbx";
-        request.FileDialogDefaultName = ToText(dir.filePath("present.tbx"));
-    }
-
-    void Choose(const std::function<void(QFileDialog&)>& act) {
-        QTimer::singleShot(0, [act] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            act(*dialog);
-        });
-        picker.Choose(request);
-    }
-    static void Accept(QFileDialog& dialog) { QMetaObject::invokeMethod(&dialog, "accept"); }
-
-    QTemporaryDir dir;
-    QtFilePicker picker;
-    ListerRequest request;
-};
-
-TEST_F(QtFilePickerTest, OffersWhatTheRequestAsksFor) {
-    Choose([this](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QString("Load database"));
-        EXPECT_EQ(dialog.nameFilters(), QStringList{"*.tbx"});
-        EXPECT_EQ(dialog.directory(), QDir(dir.path()));
-        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
-        dialog.reject();
-    });
-    EXPECT_EQ(request.ChosenFilePath, u"");
-    EXPECT_EQ(request.ChosenFileCount, 0);
-}
-
-TEST_F(QtFilePickerTest, AllFilesAreAlsoThoseWithoutAPoint) {
-    request.FileDialogFilter = u"*.tbx;*.*";
-    Choose([](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.nameFilters(), QStringList{"*.tbx *"});
-        dialog.reject();
-    });
-}
-
-TEST_F(QtFilePickerTest, TellsAllChosenFiles) {
-    Choose([this](QFileDialog& dialog) {
-        dialog.selectFile(dir.filePath("one.tbx"));
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText("\"one.tbx\" \"two.tbx\"");
-        Accept(dialog);
-    });
-    ASSERT_EQ(request.ChosenFileCount, 2);
-    EXPECT_EQ(request.ChosenFilePath, ToText(dir.filePath("one.tbx")));
-    EXPECT_EQ(request.ChosenFiles[1], ToText(dir.filePath("one.tbx")));
-    EXPECT_EQ(request.ChosenFiles[2], ToText(dir.filePath("two.tbx")));
-}
-
-TEST_F(QtFilePickerTest, ASaveTakesTheNameAsItIsGiven) {
-    request.ListerMode = 1;
-    Choose([](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-        auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-        EXPECT_EQ(name->text(), QString("present.tbx"));
-        name->setText("new name");
-        Accept(dialog);
-    });
-    EXPECT_EQ(request.ChosenFilePath, ToText(dir.filePath("new name")));
-    EXPECT_EQ(request.ChosenFileCount, 1);
-}
-
-#ifndef Q_OS_WIN
-TEST_F(QtFilePickerTest, ProgramsAreToldByTheirRightToRun) {
-    QFile program(dir.filePath("one.tbx"));
-    ASSERT_TRUE(program.setPermissions(program.permissions() | QFile::ExeOwner));
-    request.FileDialogFilter = u"*.exe";
-    Choose([this](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.nameFilters(), QStringList{"*"});
-        ASSERT_NE(dialog.proxyModel(), nullptr);
-        auto* source = qobject_cast<QFileSystemModel*>(dialog.proxyModel()->sourceModel());
-        ASSERT_NE(source, nullptr);
-        const auto offered = [&](const char* name) {
-            return dialog.proxyModel()->mapFromSource(source->index(dir.filePath(name))).isValid();
-        };
-        EXPECT_TRUE(offered("one.tbx"));
-        EXPECT_FALSE(offered("two.tbx"));
-        dialog.reject();
-    });
-}
-#endif
 
 // ---- The system's own dialogs -------------------------------------------------------------------------
 

@@ -11,6 +11,7 @@
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
 #include "files/jobs/frmFolderOpNotify.h"
+#include "files/lister/frmGetFileFromTree.h"
 #include "files/lists/frmFavouriteLocations.h"
 #include "files/lists/frmFindStingInList.h"
 #include "files/lists/frmFoldersToday.h"
@@ -88,6 +89,7 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFoldersToday>(all.app, u"C:\\data");
      }},
+    {"frmGetFileFromTree", FromApp<frmGetFileFromTree>},
     {"frmHelp",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmHelp>(

@@ -11,8 +11,8 @@ QString WithoutPatterns(const QString& name) {
     return name.left(name.indexOf(QLatin1Char('('))).trimmed();
 }
 
-} // namespace
-
+/// Turns patterns separated by semicolons ("*.tbx;*.txt") into the form that Qt's dialogs expect. "*.*" means
+/// all files, even those without a dot in their names, and so does an empty list.
 QString FilePatterns(TextView patterns) {
     QStringList list = ToQString(patterns).split(QLatin1Char(';'), Qt::SkipEmptyParts);
     // With a wrong separator a name gets among the patterns. It would match no file.
@@ -20,6 +20,8 @@ QString FilePatterns(TextView patterns) {
     list.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
     return list.isEmpty() ? QStringLiteral("*") : list.join(QLatin1Char(' '));
 }
+
+} // namespace
 
 QStringList FileNameFilters(TextView pairs) {
     const QStringList parts = ToQString(pairs).split(QLatin1Char('|'));
