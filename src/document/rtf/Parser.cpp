@@ -1,6 +1,6 @@
 #include "document/rtf/Parser.h"
 
-#include "document/rtf/Instruction.h"
+#include "document/model/Instruction.h"
 #include "document/rtf/Rtf.h"
 
 #include <algorithm>

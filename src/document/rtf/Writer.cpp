@@ -1,5 +1,5 @@
+#include "document/model/Instruction.h"
 #include "document/model/ListTable.h"
-#include "document/rtf/Instruction.h"
 #include "document/rtf/Rtf.h"
 
 #include <algorithm>
@@ -368,7 +368,7 @@ private:
         if (field == 0) return;
         const auto found = document_.fields.find(field);
         out_ += "{\\field{\\*\\fldinst ";
-        PutText(out_, rtf::WriteInstruction(found == document_.fields.end() ? Field{} : found->second));
+        PutText(out_, WriteInstruction(found == document_.fields.end() ? Field{} : found->second));
         out_ += "}{\\fldrslt ";
         look_.reset();
     }

@@ -1,4 +1,4 @@
-#include "document/rtf/Instruction.h"
+#include "document/model/Instruction.h"
 
 #include "common/text/CaseFold.h"
 #include "document/model/Base64.h"
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace korvane::doc::rtf {
+namespace korvane::doc {
 
 namespace {
 
@@ -112,4 +112,4 @@ Text WriteInstruction(const Field& field) {
     return Text(kLink) + u' ' + Quoted(address);
 }
 
-} // namespace korvane::doc::rtf
+} // namespace korvane::doc

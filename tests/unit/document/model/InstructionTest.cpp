@@ -1,8 +1,8 @@
-#include "document/rtf/Instruction.h"
+#include "document/model/Instruction.h"
 
 #include <gtest/gtest.h>
 
-namespace korvane::doc::rtf {
+namespace korvane::doc {
 namespace {
 
 Text AddressOf(TextView instruction) {
@@ -45,4 +45,4 @@ TEST(Instruction, EveryFieldComesBack) {
 }
 
 } // namespace
-} // namespace korvane::doc::rtf
+} // namespace korvane::doc

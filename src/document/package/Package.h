@@ -1,0 +1,66 @@
+#pragma once
+
+#include "document/model/Reading.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct zip;
+
+namespace korvane::doc {
+
+/// A file of the Open Packaging Conventions: a ZIP archive of parts that refer to each other.
+class Package {
+public:
+    struct Relation {
+        std::string id;
+        /// The last word of the relation's type, as "image".
+        std::string type;
+        /// The part's name without a "/" at the beginning, or an address outside.
+        std::string target;
+        bool external = false;
+    };
+
+    /// The bytes outlive the package. A part that unpacks to more than the limit is left out.
+    Package(std::string_view bytes, const Limits& limits);
+    ~Package();
+    Package(const Package&) = delete;
+    Package& operator=(const Package&) = delete;
+
+    /// Whether the bytes are an archive.
+    bool IsOpen() const { return archive_ != nullptr; }
+    /// The bytes of the part; nothing if it isn't there, is damaged or is too large.
+    std::optional<std::string> Part(const std::string& name);
+    /// What the part refers to; the package itself for an empty name.
+    std::vector<Relation> Relations(const std::string& part);
+    /// The part to which the package refers as its document.
+    std::string MainPart();
+    bool OverLimit() const { return overLimit_; }
+
+private:
+    zip* archive_ = nullptr;
+    std::size_t left_;
+    bool overLimit_ = false;
+};
+
+/// Makes a package part by part.
+class PackageWriter {
+public:
+    void Add(std::string name, std::string bytes) { parts_.push_back({std::move(name), std::move(bytes)}); }
+    /// The bytes of the whole file, which are the same for the same parts. Empty when the archive can't be
+    /// made.
+    std::string Write() const;
+
+private:
+    struct Part {
+        std::string name;
+        std::string bytes;
+    };
+    std::vector<Part> parts_;
+};
+
+} // namespace korvane::doc
