@@ -1,0 +1,512 @@
+#include "document/docx/Docx.h"
+#include "document/model/ListTable.h"
+#include "document/package/Package.h"
+#include "document/package/Xml.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace korvane::doc {
+
+namespace {
+
+constexpr std::int32_t kTwipsPerHalfPoint = 10;
+constexpr std::int32_t kTwipsPerPoint = 20;
+constexpr double kTwipsPerEighth = 2.5;
+constexpr double kLineParts = 240;
+constexpr std::int64_t kEmuPerTwip = 635;
+
+constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
+constexpr std::string_view kMain = "xmlns:w=\"http://schemas.openxmlformats.org/wordprocessingml/2006/main\"";
+constexpr std::string_view kOffice = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
+
+void PutNumber(std::string& out, std::int64_t number) {
+    char digits[24];
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
+    out.append(digits, end.ptr);
+}
+
+/// Writes ` name="number"`.
+void PutAttribute(std::string& out, std::string_view name, std::int64_t number) {
+    out += ' ';
+    out += name;
+    out += "=\"";
+    PutNumber(out, number);
+    out += '"';
+}
+
+/// Writes an element with a number as its value.
+void PutValue(std::string& out, std::string_view element, std::int64_t number) {
+    out += '<';
+    out += element;
+    PutAttribute(out, "w:val", number);
+    out += "/>";
+}
+
+void PutColour(std::string& out, Colour colour) {
+    static constexpr char kDigits[] = "0123456789ABCDEF";
+    for (const int shift : {4, 0, 12, 8, 20, 16})
+        out += kDigits[colour.value >> shift & 15];
+}
+
+void PutShading(std::string& out, Colour colour) {
+    out += "<w:shd w:val=\"clear\" w:color=\"auto\" w:fill=\"";
+    PutColour(out, colour);
+    out += "\"/>";
+}
+
+void PutLine(std::string& out, std::string_view element, std::string_view kind, std::int32_t width,
+             std::int32_t distance) {
+    out += '<';
+    out += element;
+    out += " w:val=\"";
+    out += kind;
+    out += '"';
+    PutAttribute(out, "w:sz", std::lround(width / kTwipsPerEighth));
+    PutAttribute(out, "w:space", distance / kTwipsPerPoint);
+    out += " w:color=\"auto\"/>";
+}
+
+class Writer {
+public:
+    explicit Writer(const Document& document)
+        : document_(document),
+          lists_(document),
+          looks_(document.chars.Size()),
+          shapes_(document.paras.Size()) {}
+
+    std::string Write() {
+        WriteBody();
+        PackageWriter package;
+        package.Add("[Content_Types].xml", ContentTypes());
+        package.Add("_rels/.rels", Relations("<Relationship Id=\"rId1\" Type=\"" + std::string(kOffice) +
+                                             "/officeDocument\" Target=\"word/document.xml\"/>"));
+        package.Add("word/document.xml", std::move(body_));
+        package.Add("word/_rels/document.xml.rels", Relations(relations_));
+        package.Add("word/styles.xml", StylesPart());
+        package.Add("word/settings.xml", SettingsPart());
+        if (!lists_.Lists().empty()) package.Add("word/numbering.xml", NumberingPart());
+        for (auto& [name, bytes] : media_)
+            package.Add(name, std::move(bytes));
+        return package.Write();
+    }
+
+private:
+    static std::string Relations(const std::string& relations) {
+        return std::string(kHead) +
+               "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">" +
+               relations + "</Relationships>";
+    }
+
+    std::string ContentTypes() const {
+        static constexpr std::string_view kPart = "<Override PartName=\"/word/";
+        static constexpr std::string_view kType =
+            " ContentType=\"application/vnd.openxmlformats-officedocument.wordprocessingml.";
+        std::string out(kHead);
+        out += "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
+               "<Default Extension=\"rels\" "
+               "ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
+               "<Default Extension=\"xml\" ContentType=\"application/xml\"/>"
+               "<Default Extension=\"png\" ContentType=\"image/png\"/><Default Extension=\"jpeg\" "
+               "ContentType=\"image/jpeg\"/>";
+        for (const std::string_view part : {"document", "styles", "settings", "numbering"}) {
+            if (part == "numbering" && lists_.Lists().empty()) continue;
+            out += kPart;
+            out += part;
+            out += ".xml\"";
+            out += kType;
+            out += part == "document" ? std::string_view("document.main") : part;
+            out += "+xml\"/>";
+        }
+        return out + "</Types>";
+    }
+
+    std::string StylesPart() {
+        std::string out(kHead);
+        out += "<w:styles ";
+        out += kMain;
+        out += "><w:docDefaults><w:rPrDefault><w:rPr>";
+        PutFont(out, document_.chars[0].font);
+        PutValue(out, "w:sz", document_.chars[0].halfPoints);
+        return out + "</w:rPr></w:rPrDefault><w:pPrDefault/></w:docDefaults>"
+                     "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\"><w:name "
+                     "w:val=\"Normal\"/></w:style>"
+                     "</w:styles>";
+    }
+
+    std::string SettingsPart() const {
+        std::string out(kHead);
+        out += "<w:settings ";
+        out += kMain;
+        out += '>';
+        PutValue(out, "w:defaultTabStop", document_.defaultTab);
+        return out + "</w:settings>";
+    }
+
+    std::string NumberingPart() const {
+        std::string out(kHead);
+        out += "<w:numbering ";
+        out += kMain;
+        out += '>';
+        for (const auto& [number, levels] : lists_.Lists())
+            PutList(out, number, levels);
+        for (const auto& [number, levels] : lists_.Lists()) {
+            out += "<w:num";
+            PutAttribute(out, "w:numId", number);
+            out += '>';
+            PutValue(out, "w:abstractNumId", number);
+            out += "</w:num>";
+        }
+        return out + "</w:numbering>";
+    }
+
+    static void PutList(std::string& out, std::uint32_t number, const ListTable::Levels& levels) {
+        static constexpr std::string_view kFormats[] = {
+            "none", "bullet", "decimal", "lowerLetter", "upperLetter", "lowerRoman", "upperRoman"};
+        out += "<w:abstractNum";
+        PutAttribute(out, "w:abstractNumId", number);
+        out += '>';
+        for (std::size_t level = 0; level < levels.size(); ++level) {
+            const ListMark mark = levels[level].value_or(ListMark{ListKind::Decimal});
+            out += "<w:lvl";
+            PutAttribute(out, "w:ilvl", static_cast<std::int64_t>(level));
+            out += '>';
+            PutValue(out, "w:start", mark.start);
+            out += "<w:numFmt w:val=\"";
+            out += kFormats[static_cast<std::size_t>(mark.kind)];
+            out += "\"/><w:lvlText w:val=\"";
+            if (mark.kind == ListKind::Bullet)
+                out += "\xE2\x80\xA2";
+            else {
+                out += '%';
+                PutNumber(out, static_cast<std::int64_t>(level) + 1);
+                out += '.';
+            }
+            out += "\"/></w:lvl>";
+        }
+        out += "</w:abstractNum>";
+    }
+
+    void WriteBody() {
+        AddRelation("styles", "styles.xml", false);
+        AddRelation("settings", "settings.xml", false);
+        if (!lists_.Lists().empty()) AddRelation("numbering", "numbering.xml", false);
+        body_ = kHead;
+        body_ += "<w:document ";
+        body_ += kMain;
+        body_ += " xmlns:r=\"";
+        body_ += kOffice;
+        body_ += "\" xmlns:wp=\"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing\""
+                 " xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\""
+                 " xmlns:pic=\"http://schemas.openxmlformats.org/drawingml/2006/picture\"><w:body>";
+        CellPlace before;
+        for (const Paragraph& paragraph : document_.paragraphs) {
+            MoveTo(before, paragraph.cell);
+            WriteParagraph(paragraph);
+            before = paragraph.cell;
+        }
+        WriteSection();
+        body_ += "</w:body></w:document>";
+    }
+
+    /// Adds what the document refers to, and gives the number by which it does.
+    std::string AddRelation(std::string_view type, std::string_view target, bool external) {
+        const std::string id = "rId" + std::to_string(++relationCount_);
+        relations_ += "<Relationship Id=\"" + id + "\" Type=\"";
+        relations_ += kOffice;
+        relations_ += '/';
+        relations_ += type;
+        relations_ += "\" Target=\"";
+        PutXml(relations_, FromUtf8(target));
+        relations_ += external ? "\" TargetMode=\"External\"/>" : "\"/>";
+        return id;
+    }
+
+    void WriteSection() {
+        const Page& page = document_.page;
+        body_ += "<w:sectPr><w:pgSz";
+        PutAttribute(body_, "w:w", page[Page::Width]);
+        PutAttribute(body_, "w:h", page[Page::Height]);
+        body_ += "/><w:pgMar";
+        PutAttribute(body_, "w:top", page[Page::MarginTop]);
+        PutAttribute(body_, "w:right", page[Page::MarginRight]);
+        PutAttribute(body_, "w:bottom", page[Page::MarginBottom]);
+        PutAttribute(body_, "w:left", page[Page::MarginLeft]);
+        body_ += " w:header=\"0\" w:footer=\"0\" w:gutter=\"0\"/></w:sectPr>";
+    }
+
+    void MoveTo(const CellPlace& from, const CellPlace& to) {
+        if (from == to) return;
+        const bool sameTable = from.table == to.table;
+        const bool sameRow = sameTable && from.row == to.row;
+        if (from.table != 0) body_ += "</w:tc>";
+        if (from.table != 0 && !sameRow) body_ += "</w:tr>";
+        if (from.table != 0 && !sameTable) body_ += "</w:tbl>";
+        if (to.table == 0) return;
+        const Table& table = document_.tables.at(to.table);
+        if (!sameTable) BeginTable(table.rows[0]);
+        if (!sameRow) body_ += "<w:tr>";
+        BeginCell(table.rows[to.row].cells[to.column]);
+    }
+
+    void BeginTable(const TableRow& first) {
+        body_ += "<w:tbl><w:tblPr><w:tblW w:w=\"0\" w:type=\"auto\"/>";
+        if (first.cells[0].left) {
+            body_ += "<w:tblInd";
+            PutAttribute(body_, "w:w", *first.cells[0].left);
+            body_ += " w:type=\"dxa\"/>";
+        }
+        body_ += "<w:tblLayout w:type=\"fixed\"/></w:tblPr><w:tblGrid>";
+        for (const CellFormat& cell : first.cells) {
+            body_ += "<w:gridCol";
+            PutAttribute(body_, "w:w", cell.width);
+            body_ += "/>";
+        }
+        body_ += "</w:tblGrid>";
+    }
+
+    void BeginCell(const CellFormat& cell) {
+        static constexpr std::pair<Side, std::string_view> kSides[] = {{Side::Top, "w:top"},
+                                                                       {Side::Left, "w:left"},
+                                                                       {Side::Bottom, "w:bottom"},
+                                                                       {Side::Right, "w:right"}};
+        body_ += "<w:tc><w:tcPr><w:tcW";
+        PutAttribute(body_, "w:w", cell.width);
+        body_ += " w:type=\"dxa\"/><w:tcBorders>";
+        for (const auto& [side, element] : kSides) {
+            const std::int32_t width = cell.border[static_cast<std::size_t>(side)];
+            PutLine(body_, element, width == 0 ? "nil" : "single", width, 0);
+        }
+        body_ += "</w:tcBorders>";
+        if (cell.back != kNoColour) PutShading(body_, cell.back);
+        body_ += "<w:tcMar><w:left";
+        PutAttribute(body_, "w:w", cell.gapLeft);
+        body_ += " w:type=\"dxa\"/><w:right";
+        PutAttribute(body_, "w:w", cell.gapRight);
+        body_ += " w:type=\"dxa\"/></w:tcMar></w:tcPr>";
+    }
+
+    void WriteParagraph(const Paragraph& paragraph) {
+        std::optional<std::string>& shape = shapes_[paragraph.format];
+        if (!shape) shape = ShapeOf(document_.FormatOf(paragraph));
+        const std::string& mark = paragraph.text.empty() ? LookOf(paragraph.emptyFormat) : kNothing_;
+        body_ += "<w:p>";
+        if (!shape->empty() || !mark.empty()) body_ += "<w:pPr>" + *shape + mark + "</w:pPr>";
+        std::size_t at = 0;
+        Index field = 0;
+        for (const Run& run : paragraph.runs) {
+            if (run.field != field) ChangeLink(field, run.field);
+            field = run.field;
+            WriteRun(run, TextView(paragraph.text).substr(at, run.length));
+            at += run.length;
+        }
+        ChangeLink(field, 0);
+        body_ += "</w:p>";
+    }
+
+    void WriteRun(const Run& run, TextView text) {
+        body_ += "<w:r>";
+        body_ += LookOf(run.format);
+        if (run.image != 0)
+            WriteImage(document_.images[run.image - 1], run.image);
+        else
+            WriteText(text);
+        body_ += "</w:r>";
+    }
+
+    void WriteText(TextView text) {
+        while (!text.empty()) {
+            const std::size_t end = std::min(text.find_first_of(u"\t\v"), text.size());
+            if (end > 0) {
+                body_ += "<w:t xml:space=\"preserve\">";
+                PutXml(body_, text.substr(0, end));
+                body_ += "</w:t>";
+            }
+            text.remove_prefix(end);
+            if (text.empty()) return;
+            body_ += text[0] == u'\t' ? "<w:tab/>" : "<w:br/>";
+            text.remove_prefix(1);
+        }
+    }
+
+    const Field* LinkOf(Index field) const {
+        const auto found = document_.fields.find(field);
+        const bool link = found != document_.fields.end() && found->second.kind == FieldKind::Hyperlink;
+        return link ? &found->second : nullptr;
+    }
+
+    void ChangeLink(Index from, Index to) {
+        if (LinkOf(from) != nullptr) body_ += "</w:hyperlink>";
+        const Field* const link = LinkOf(to);
+        if (link == nullptr) return;
+        const TextView address = link->typeData;
+        body_ += "<w:hyperlink ";
+        if (address.starts_with(u'#')) {
+            body_ += "w:anchor=\"";
+            PutXml(body_, address.substr(1));
+            body_ += "\">";
+        } else {
+            body_ += "r:id=\"" + AddRelation("hyperlink", ToUtf8(address), true) + "\">";
+        }
+    }
+
+    const std::string& LookOf(Index look) {
+        std::optional<std::string>& words = looks_[look];
+        if (!words) words = MakeLook(document_.chars[look]);
+        return *words;
+    }
+
+    void PutFont(std::string& out, std::uint16_t font) const {
+        out += "<w:rFonts";
+        for (const std::string_view attribute : {" w:ascii=\"", " w:hAnsi=\"", " w:cs=\""}) {
+            out += attribute;
+            PutXml(out, document_.fonts[font]);
+            out += '"';
+        }
+        out += "/>";
+    }
+
+    std::string MakeLook(const CharFormat& look) const {
+        const CharFormat& usual = document_.chars[0];
+        std::string out;
+        if (look.font != usual.font) PutFont(out, look.font);
+        if (look.bold) out += "<w:b/>";
+        if (look.italic) out += "<w:i/>";
+        if (look.smallCaps) out += "<w:smallCaps/>";
+        if (look.strike) out += "<w:strike/>";
+        if (look.fore != kNoColour) {
+            out += "<w:color w:val=\"";
+            PutColour(out, look.fore);
+            out += "\"/>";
+        }
+        if (look.baseLine != 0)
+            PutValue(out, "w:position", std::lround(static_cast<double>(look.baseLine) / kTwipsPerHalfPoint));
+        if (look.halfPoints != usual.halfPoints) PutValue(out, "w:sz", look.halfPoints);
+        if (look.underline) out += "<w:u w:val=\"single\"/>";
+        if (look.back != kNoColour) PutShading(out, look.back);
+        if (look.script == Script::Raised) out += "<w:vertAlign w:val=\"superscript\"/>";
+        if (look.script == Script::Lowered) out += "<w:vertAlign w:val=\"subscript\"/>";
+        return out.empty() ? out : "<w:rPr>" + out + "</w:rPr>";
+    }
+
+    std::string ShapeOf(const ParaFormat& format) const {
+        static constexpr std::string_view kAlignments[] = {"", "right", "center", "both"};
+        std::string out;
+        if (format.pageBreakBefore) out += "<w:pageBreakBefore/>";
+        if (format.list.kind != ListKind::None) {
+            out += "<w:numPr>";
+            PutValue(out, "w:ilvl", format.list.level);
+            PutValue(out, "w:numId", lists_.NumberOf(format.list));
+            out += "</w:numPr>";
+        }
+        if ((format.frame & kFrameSides) != 0) PutFrame(out, format);
+        if (!format.tabs.empty()) PutTabs(out, format);
+        PutSpacing(out, format);
+        PutIndent(out, format);
+        if (const std::string_view alignment = kAlignments[static_cast<std::size_t>(format.alignment)];
+            !alignment.empty()) {
+            out += "<w:jc w:val=\"";
+            out += alignment;
+            out += "\"/>";
+        }
+        return out;
+    }
+
+    static void PutFrame(std::string& out, const ParaFormat& format) {
+        static constexpr std::pair<std::uint16_t, std::string_view> kSides[] = {{kFrameTop, "w:top"},
+                                                                                {kFrameLeft, "w:left"},
+                                                                                {kFrameBottom, "w:bottom"},
+                                                                                {kFrameRight, "w:right"}};
+        const std::string_view kind = (format.frame & kFrameDouble) != 0 ? "double" : "single";
+        out += "<w:pBdr>";
+        for (const auto& [bit, element] : kSides) {
+            if ((format.frame & bit) != 0)
+                PutLine(out, element, kind, format.frameWidth, format.frameDistance);
+        }
+        out += "</w:pBdr>";
+    }
+
+    static void PutTabs(std::string& out, const ParaFormat& format) {
+        static constexpr std::string_view kTypes[] = {"left", "right", "center", "decimal"};
+        out += "<w:tabs>";
+        for (const TabStop& stop : format.tabs) {
+            out += "<w:tab w:val=\"";
+            out += kTypes[static_cast<std::size_t>(stop.type) - 1];
+            out += '"';
+            PutAttribute(out, "w:pos", stop.at);
+            out += "/>";
+        }
+        out += "</w:tabs>";
+    }
+
+    static void PutSpacing(std::string& out, const ParaFormat& format) {
+        const bool exact = format.spacingExact > 0;
+        if (format.before == 0 && format.after == 0 && !exact && format.spacingPercent == 100) return;
+        out += "<w:spacing";
+        PutAttribute(out, "w:before", format.before);
+        PutAttribute(out, "w:after", format.after);
+        if (exact)
+            PutAttribute(out, "w:line", format.spacingExact);
+        else
+            PutAttribute(out, "w:line", std::lround(format.spacingPercent * kLineParts / 100));
+        out += exact ? " w:lineRule=\"exact\"/>" : " w:lineRule=\"auto\"/>";
+    }
+
+    static void PutIndent(std::string& out, const ParaFormat& format) {
+        if (format.left == 0 && format.right == 0 && format.first == 0) return;
+        out += "<w:ind";
+        PutAttribute(out, "w:left", format.left);
+        PutAttribute(out, "w:right", format.right);
+        if (format.first > 0) PutAttribute(out, "w:firstLine", format.first);
+        if (format.first < 0) PutAttribute(out, "w:hanging", -format.first);
+        out += "/>";
+    }
+
+    void WriteImage(const Image& image, Index number) {
+        if (image.kind == ImageKind::Other) return;
+        const std::string name =
+            "media/image" + std::to_string(number) + (image.kind == ImageKind::Png ? ".png" : ".jpeg");
+        media_.emplace_back("word/" + name, std::string(image.bytes.View()));
+        const std::string id = AddRelation("image", name, false);
+        std::string size;
+        PutAttribute(size, "cx", image.width * kEmuPerTwip);
+        PutAttribute(size, "cy", image.height * kEmuPerTwip);
+        body_ += "<w:drawing><wp:inline distT=\"0\" distB=\"0\" distL=\"0\" distR=\"0\"><wp:extent" + size +
+                 "/><wp:docPr";
+        PutAttribute(body_, "id", number);
+        body_ +=
+            " name=\"" + id +
+            "\"/><a:graphic><a:graphicData uri=\"http://schemas.openxmlformats.org/drawingml/2006/picture\">"
+            "<pic:pic><pic:nvPicPr><pic:cNvPr id=\"0\" name=\"" +
+            id +
+            "\"/><pic:cNvPicPr/></pic:nvPicPr><pic:blipFill>"
+            "<a:blip r:embed=\"" +
+            id +
+            "\"/><a:stretch><a:fillRect/></a:stretch></pic:blipFill><pic:spPr><a:xfrm>"
+            "<a:off x=\"0\" y=\"0\"/><a:ext" +
+            size +
+            "/></a:xfrm><a:prstGeom prst=\"rect\"><a:avLst/></a:prstGeom></pic:spPr>"
+            "</pic:pic></a:graphicData></a:graphic></wp:inline></w:drawing>";
+    }
+
+    const Document& document_;
+    ListTable lists_;
+    /// The properties of the formats that were used so far.
+    std::vector<std::optional<std::string>> looks_;
+    std::vector<std::optional<std::string>> shapes_;
+    std::string body_;
+    std::string relations_;
+    int relationCount_ = 0;
+    std::vector<std::pair<std::string, std::string>> media_;
+    const std::string kNothing_{};
+};
+
+} // namespace
+
+std::string WriteDocx(const Document& document) {
+    return Writer(document).Write();
+}
+
+} // namespace korvane::doc
