@@ -25,6 +25,9 @@ constexpr std::size_t kStep = std::size_t{4} << 20;
 /// Up to this size reading and writing is faster than asking the system to copy.
 constexpr std::int64_t kSmallFile = 64 * 1024;
 constexpr std::size_t kBuffer = 256 * 1024;
+/// The folder in which the system shows a program its open files.
+constexpr const char* kOpenFiles = "/proc/self/fd/";
+constexpr mode_t kOwnersAlone = 0600;
 constexpr mode_t kRightsBits = 0777;
 constexpr mode_t kGroupBits = 0070;
 constexpr mode_t kOthersBits = 0007;
@@ -163,6 +166,22 @@ private:
         return source_.st_size <= Room() + static_cast<std::int64_t>(target_.st_blocks) * kBlock;
     }
 
+    std::error_code CopyBeside() {
+        const std::error_code error = OpenNameless() ? Complete() : Error(std::errc::not_supported);
+        if (error != std::errc::not_supported) return error;
+        lseek(sourceFile_.Number(), 0, SEEK_SET);
+        return MakeUnfinished() ? Complete() : LastSystemError();
+    }
+
+    /// Opens a file that gets its name when the copy is complete. It goes by itself if the program ends
+    /// before, and it costs one change of the folder instead of two. Not every disk has such files.
+    bool OpenNameless() {
+        static const bool canBeNamed = access(kOpenFiles, X_OK) == 0;
+        if (isThere_ || !canBeNamed) return false;
+        copyFile_ = SystemFile(open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnersAlone));
+        return copyFile_.IsOpen();
+    }
+
     /// Creates the file that holds the copy until it is complete. Only the user can read it.
     bool MakeUnfinished() {
         std::string name = (folder_ / ".korvane-XXXXXX").native();
@@ -170,8 +189,6 @@ private:
         copy_ = name;
         return copyFile_.IsOpen();
     }
-
-    std::error_code CopyBeside() { return MakeUnfinished() ? Complete() : LastSystemError(); }
 
     /// The target itself is renamed and then becomes the unfinished copy, so that there is never half a file
     /// under the target's name.
@@ -194,7 +211,7 @@ private:
     std::error_code GiveUp(const std::error_code& error) {
         // While the file is open its room on the disk isn't freed.
         copyFile_ = SystemFile();
-        unlink(copy_.c_str());
+        if (!copy_.empty()) unlink(copy_.c_str());
         return error;
     }
 
@@ -216,9 +233,27 @@ private:
         // source may be removed next.
         const bool flush = options_.flush || isThere_;
         std::error_code error = flush ? ErrorOf(fsync(copyFile_.Number())) : std::error_code();
-        if (!error) copyFile_.Close(error);
-        if (!error) error = isThere_ ? ErrorOf(rename(copy_.c_str(), to_.c_str())) : RenameToFree(copy_, to_);
+        if (!error) error = copy_.empty() ? NameNameless() : RenameUnfinished();
         return error || !options_.flush ? error : FlushFolder(folder_);
+    }
+
+    std::error_code RenameUnfinished() {
+        std::error_code error;
+        copyFile_.Close(error);
+        if (error) return error;
+        return isThere_ ? ErrorOf(rename(copy_.c_str(), to_.c_str())) : RenameToFree(copy_, to_);
+    }
+
+    std::error_code NameNameless() const {
+        // Some disks tell only at a close that a write failed. Closing a second handle asks them before the
+        // copy has its name.
+        const int second = dup(copyFile_.Number());
+        if (second < 0 || close(second) != 0) return LastSystemError();
+        const std::string open = kOpenFiles + std::to_string(copyFile_.Number());
+        const std::error_code error =
+            ErrorOf(linkat(AT_FDCWD, open.c_str(), AT_FDCWD, to_.c_str(), AT_SYMLINK_FOLLOW));
+        const bool final = !error || error == std::errc::file_exists || IsDiskFull(error);
+        return final ? error : Error(std::errc::not_supported);
     }
 
     /// Keeps the permissions and times as far as the disk supports them.
@@ -239,6 +274,7 @@ private:
     /// Whether there is a target to replace, and whether it is a link.
     bool isThere_ = false;
     bool isLink_ = false;
+    /// The name of the unfinished copy; empty while it has none.
     fs::path copy_;
     SystemFile sourceFile_;
     SystemFile copyFile_;

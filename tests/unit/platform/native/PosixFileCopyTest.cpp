@@ -5,10 +5,14 @@
 #include "support/WholeFilesContract.h"
 #include "unit/platform/native/NativeStage.h"
 
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <sys/wait.h>
 #include <unistd.h>
+
+#include <iterator>
 
 namespace korvane {
 namespace {
@@ -82,6 +86,33 @@ TEST_F(PosixCopy, ASecondNameOfTheOldTargetKeepsItsBytes) {
     EXPECT_EQ(Copy(u"a", u"b"), CopyOutcome::Copied);
     EXPECT_EQ(stage.Contents(u"b"), "new");
     EXPECT_EQ(stage.Contents(u"other"), "old");
+}
+
+TEST_F(PosixCopy, LinksInACircleAreNeitherCopiedNorReplaced) {
+    stage.AddLink(u"a", u"b");
+    stage.AddLink(u"b", u"a");
+    stage.AddFile(u"c", "bytes");
+    EXPECT_EQ(Copy(u"a", u"d"), CopyOutcome::Failed);
+    EXPECT_EQ(Copy(u"c", u"a"), CopyOutcome::Failed);
+    EXPECT_TRUE(fs::is_symlink(stage.Path(u"a")));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(stage.Path(u"d"))));
+}
+
+TEST_F(PosixCopy, AProgramThatEndsOnTheWayLeavesNothingOfANewCopy) {
+    const fs::path folder = stage.Path(u"a").parent_path();
+    const int nameless = open(folder.c_str(), O_TMPFILE | O_WRONLY, 0600);
+    if (nameless < 0) GTEST_SKIP() << "this disk has no files without a name";
+    close(nameless);
+    stage.AddFile(u"a", std::string(NativeStage::kLongFile, 'a'));
+    const pid_t child = fork();
+    if (child == 0) {
+        stage.Files().Copy(stage.At(u"a"), stage.At(u"b"), {.betweenSteps = [] { _exit(0); }});
+        _exit(1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0) << "the copy was made in one step";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
 }
 
 TEST_F(PosixCopy, ASocketIsNeitherOpenedNorReplaced) {
