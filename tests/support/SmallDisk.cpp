@@ -21,9 +21,14 @@ constexpr int kNotAllowed = 2;
 /// A user who isn't the administrator may mount a disk only in a namespace in which he is.
 bool EnterOwnWorld() {
     const std::string user = std::to_string(getuid());
+    const std::string group = std::to_string(getgid());
     if (geteuid() == 0) return unshare(CLONE_NEWNS) == 0;
     if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
     WriteBytes("/proc/self/uid_map", "0 " + user + " 1");
+    // A process may name its group only after it has given up changing it. Without a group it can make no
+    // files.
+    WriteBytes("/proc/self/setgroups", "deny");
+    WriteBytes("/proc/self/gid_map", "0 " + group + " 1");
     return true;
 }
 
