@@ -1,6 +1,7 @@
 // Rows that stand for files are dragged to other programs.
 
 #include "ListsFixture.h"
+#include "platform/qt/binder/DroppedFiles.h"
 
 #include <QMimeData>
 #include <QUrl>
@@ -86,6 +87,13 @@ TEST_F(FileDragTest, RowsThatAreNoFilesAreNotDragged) {
     EXPECT_FALSE(View().dragEnabled());
     EXPECT_FALSE(At(0).flags().testFlag(Qt::ItemIsDragEnabled));
     EXPECT_EQ(Dragged(), nullptr);
+}
+
+TEST(DroppedFilesTest, AFolderIsNamedAsItStandsInPaths) {
+    QMimeData dragged;
+    dragged.setUrls({QUrl("file:///data/sub%20folder/"), QUrl("file:///data/a.txt"), QUrl("file:///"),
+                     QUrl("http://example.org/a.txt")});
+    EXPECT_EQ(LocalFiles(dragged), (std::vector<Text>{u"/data/sub folder", u"/data/a.txt", u"/"}));
 }
 
 } // namespace

@@ -12,7 +12,9 @@ namespace korvane {
 std::vector<Text> LocalFiles(const QMimeData& dragged) {
     std::vector<Text> files;
     for (const QUrl& url : dragged.urls()) {
-        if (url.isLocalFile()) files.push_back(ToText(QDir::toNativeSeparators(url.toLocalFile())));
+        // The address of a folder may end in a separator.
+        const QString path = QDir::cleanPath(url.toLocalFile());
+        if (url.isLocalFile()) files.push_back(ToText(QDir::toNativeSeparators(path)));
     }
     return files;
 }
