@@ -27,8 +27,8 @@ constexpr std::int64_t kSmallFile = 64 * 1024;
 constexpr std::size_t kBuffer = 256 * 1024;
 /// The folder in which the system shows a program its open files.
 constexpr const char* kOpenFiles = "/proc/self/fd/";
-constexpr mode_t kOwnersAlone = 0600;
 constexpr mode_t kRightsBits = 0777;
+constexpr mode_t kAllModeBits = 07777;
 constexpr mode_t kGroupBits = 0070;
 constexpr mode_t kOthersBits = 0007;
 
@@ -178,7 +178,9 @@ private:
     bool OpenNameless() {
         static const bool canBeNamed = access(kOpenFiles, X_OK) == 0;
         if (isThere_ || !canBeNamed) return false;
-        copyFile_ = SystemFile(open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kOwnersAlone));
+        // Nobody else can open it without a name, so it has the rights of the source from the start.
+        const mode_t rights = source_.st_mode & kRightsBits;
+        copyFile_ = SystemFile(open(folder_.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, rights));
         return copyFile_.IsOpen();
     }
 
@@ -262,7 +264,9 @@ private:
         const std::array times{source_.st_atim, source_.st_mtim};
         futimens(copyFile_.Number(), times.data());
         if (fstat(copyFile_.Number(), &copy) != 0) return;
-        [[maybe_unused]] const int result = fchmod(copyFile_.Number(), RightsForCopy(source_, copy));
+        const mode_t rights = RightsForCopy(source_, copy);
+        if ((copy.st_mode & kAllModeBits) == rights) return;
+        [[maybe_unused]] const int result = fchmod(copyFile_.Number(), rights);
     }
 
     const fs::path& from_;
