@@ -116,6 +116,7 @@ const std::vector<ForeignHeaders>& AllForeignHeaders() {
         {"Windows",
          std::regex(R"((windows|shlobj|shellapi|shldisp|objbase|oleauto|io|direct)\.h)"),
          {"platform/windows", "app"}},
+        {"the libraries for archives and XML", std::regex(R"((zip|expat)\.h)"), {"document/package"}},
         {"POSIX",
          std::regex(R"(sys/.*\.h|(unistd|fcntl|dirent|pwd|grp|poll|dlfcn|langinfo|mntent|termios|signal|)"
                     R"(pthread|spawn|netdb|arpa/inet|netinet/in)\.h)"),

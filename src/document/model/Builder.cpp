@@ -135,6 +135,8 @@ void Builder::EndRow(std::vector<CellFormat> cells) {
     table.rows.push_back({std::move(cells)});
     cellEnds_.clear();
     rowStart_ = nextRow;
+    // A paragraph outside that came before the row's end parts two tables too.
+    if (!cellOpen_ && document_.paragraphs.size() > nextRow) table_ = 0;
 }
 
 Document Builder::Finish(const ParaFormat& last) {

@@ -85,6 +85,7 @@ TEST(HostileRtf, PartsWithoutTheirGroupsAreHarmless) {
     Read("{\\rtf1\\ls5\\ilvl9\\levelnfc3\\listid1\\pict 00}");
     Read("{\\rtf1\\fonttbl\\f0 x;\\f1 y;\\colortbl;;;x}");
     Read("{\\rtf1{\\pict 0{\\fonttbl{\\pict 0}}0}}");
+    Read("{\\rtf\\cell\\par\\row x\\cell y}");
     Read("{\\rtf1{\\*\\kvbase5}{\\*\\kvframe99999}\\par\\'\\'g\\");
 }
 
