@@ -44,6 +44,17 @@ std::size_t PlainLength(std::string_view text) {
     return length;
 }
 
+/// The length of the text that is shown as it is: ASCII with single blanks between its words.
+std::size_t ShownLength(std::string_view text, bool afterBlank) {
+    std::size_t length = 0;
+    for (; length < text.size(); ++length) {
+        const char c = text[length];
+        if (c == ' ' ? afterBlank : c < ' ' || c >= 0x7F || c == '&') break;
+        afterBlank = c == ' ';
+    }
+    return length;
+}
+
 std::optional<CodePage> PageNamed(std::string_view name) {
     if (SameWord(name.substr(0, 8), "windows-")) {
         int number = 0;
@@ -229,17 +240,21 @@ void Parser::PutText(std::string_view text) {
 
 void Parser::PutSpaced(std::string_view text) {
     while (!text.empty()) {
-        if (IsBlank(text[0])) {
-            text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n\f"), text.size()));
-            if (!std::exchange(afterBlank_, true)) {
-                BeforeContent();
-                builder_.Add(u' ');
-            }
-            continue;
+        if (const std::size_t shown = ShownLength(text, afterBlank_); shown > 0) {
+            BeforeContent();
+            builder_.AddAscii(text.substr(0, shown));
+            afterBlank_ = text[shown - 1] == ' ';
+            text.remove_prefix(shown);
+        } else if (IsBlank(text[0])) {
+            text.remove_prefix(1);
+            if (std::exchange(afterBlank_, true)) continue;
+            BeforeContent();
+            builder_.Add(u' ');
+        } else {
+            const std::size_t end = std::min(text.find_first_of(" \t\r\n\f"), text.size());
+            PutDecoded(text.substr(0, end));
+            text.remove_prefix(end);
         }
-        const std::size_t end = std::min(text.find_first_of(" \t\r\n\f"), text.size());
-        PutDecoded(text.substr(0, end));
-        text.remove_prefix(end);
     }
 }
 

@@ -93,6 +93,7 @@ private:
     void ApplyStyle();
     void ApplyStyle(std::string_view raw);
     void ApplyInlineStyle(std::string_view raw);
+    void ApplyBlockStyle(std::string_view raw);
     void ApplyCommonAttributes();
     ElementState& State() { return stack_.back(); }
     CharFormat& Look() { return State().look; }
@@ -174,6 +175,17 @@ private:
     };
     std::array<StyledLook, 8> styled_{};
     std::size_t nextStyled_ = 0;
+    /// The same of paragraphs.
+    struct StyledBlock {
+        std::string_view style;
+        CharFormat lookBefore{};
+        ParaFormat paraBefore{};
+        CharFormat lookAfter{};
+        ParaFormat paraAfter{};
+        bool pre = false;
+    };
+    std::array<StyledBlock, 8> styledBlocks_{};
+    std::size_t nextStyledBlock_ = 0;
     std::vector<Attribute> attributes_;
     std::optional<ParaFormat> pending_;
     /// Whether the paragraph at hand has anything, and whether a blank would be one too many.
