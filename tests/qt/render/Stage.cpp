@@ -92,6 +92,11 @@ void Stage::FillRequests() {
     file.FileOpFolder = u"C:\\data";
     file.FileOpName = Text(kSamples[0]);
     app_.Exchange<ListerRequest>().ListerFolder = u"C:\\data";
+    app_.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
+    app_.Settings.TreeFormLastPath = u"C:\\data";
+    outside_.fileTypes.SetType(u".tbx", {u"Table", u"fileTable"});
+    outside_.fileTypes.SetType(u".txt", {u"Text", u"fileText"});
+    outside_.files.AddFile(InData(u"Notes on the garden.txt"), std::string(12345, 'x'));
     outside_.files.AddDir(u"C:\\data\\Letters\\2026");
     outside_.files.AddDir(u"C:\\Pictures");
     auto& copy = app_.Exchange<CopyMoveRequest>();

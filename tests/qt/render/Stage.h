@@ -28,8 +28,20 @@ private:
     TestApp outside_;
     QtFormHost host_{KorvaneForms()};
     PrintedMessages messages_;
-    App app_{{outside_.files, messages_, outside_.clipboard, outside_.clock, outside_.screen, outside_.shell,
-              outside_.instance, host_, [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }}};
+    App app_{{outside_.files,
+              messages_,
+              outside_.clipboard,
+              outside_.clock,
+              outside_.screen,
+              outside_.shell,
+              outside_.instance,
+              host_,
+              [] { return std::make_unique<GridStore>(CodePage::Windows1252()); },
+              CodePage::Windows1252(),
+              nullptr,
+              {},
+              nullptr,
+              &outside_.fileTypes}};
     Surroundings all_{app_};
 };
 
