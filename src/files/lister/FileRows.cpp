@@ -33,7 +33,7 @@ bool FileRows::Fill(const Text& folder, const Text& patterns) {
     parts_.list.Clear();
     if (!images_.Prepare()) {
         Warn(app_, u"Cannot initialise image list!");
-        return false;
+        return true;
     }
     const Hourglass hourglass(app_.Screen());
     chosenByUser_ = false;

@@ -26,8 +26,8 @@ public:
     FileRows(App& app, Parts parts);
 
     /// Reads the files of the folder that match the patterns. The first one is the current row then, and the
-    /// list has the keyboard. False when it came to nothing: there are no pictures, or the window closed or
-    /// another folder was read in the meantime.
+    /// list has the keyboard. Without pictures the list stays empty. False when the window closed or another
+    /// folder was read in the meantime.
     bool Fill(const Text& folder, const Text& patterns);
     /// Ends the reading with the row at hand.
     void Stop() { stopRequested_ = true; }
