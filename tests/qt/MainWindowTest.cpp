@@ -21,14 +21,18 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <cstdlib>
 
 namespace korvane {
 namespace {
@@ -546,6 +550,28 @@ TEST_F(MainWindowTest, TheSidebarShowsThatItHasTheKeyboard) {
     bar.setFocus();
     test::Settle();
     EXPECT_NE(bar.viewport()->grab().toImage(), without);
+}
+
+TEST_F(MainWindowTest, TheKeysOfTheRowColoursAreInLineWithThem) {
+    bool seen = false;
+    QTimer::singleShot(0, &Window(), [&seen] {
+        QWidget* const dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        QCoreApplication::processEvents();
+        const auto& list = *dialog->findChild<QListView*>("lstColourOptions");
+        const auto& keys = *dialog->findChild<QPlainTextEdit*>("Text1");
+        QTextCursor last(keys.document());
+        last.movePosition(QTextCursor::End);
+        const QModelIndex row = list.model()->index(8, 0);
+        const int keyTop = keys.viewport()->mapTo(dialog, keys.cursorRect(last).topLeft()).y();
+        const int rowTop = list.viewport()->mapTo(dialog, list.visualRect(row).topLeft()).y();
+        EXPECT_LE(std::abs(keyTop - rowTop), 2);
+        EXPECT_TRUE(row.data(Qt::DecorationRole).isValid());
+        seen = true;
+        dialog->findChild<QPushButton*>("cmdCancel")->click();
+    });
+    main.RunCommand("mnuFormat_RowColour");
+    EXPECT_TRUE(seen);
 }
 
 } // namespace
