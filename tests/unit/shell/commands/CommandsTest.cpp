@@ -1,5 +1,6 @@
 #include "shell/commands/Commands.h"
 
+#include "dbops/commands/CellCommands.h"
 #include "dbops/commands/ColumnCommands.h"
 #include "dbops/commands/RowLookCommands.h"
 #include "dbops/rules/RowFontFlags.h"
@@ -75,7 +76,8 @@ TEST(GridKeys, AMaskMeansExactlyThatMask) {
     EXPECT_EQ(CallOf('X', Mask::Alt), CommandCall(&mnuSwitchFocus_Click));
     EXPECT_EQ(CallOf('X', Mask::Ctrl | Mask::Alt), CommandCall(&ExploreTableFolder));
     EXPECT_EQ(CallOf('X', Mask::Ctrl | Mask::Shift), CommandCall(&MakeEmailStrikethru));
-    EXPECT_EQ(CallOf('X', Mask::Ctrl), CommandCall());
+    EXPECT_EQ(CallOf('X', Mask::Ctrl), CommandCall(&CutCell));
+    EXPECT_EQ(CallOf('X', Mask::Shift), CommandCall());
     EXPECT_EQ(CallOf(Key::F(4), Mask::None), CommandCall(&mnuEdit_EditCell_Clack));
     EXPECT_EQ(CallOf(Key::F(4), Mask::Shift), CommandCall());
     EXPECT_EQ(CallOf('1', Mask::Ctrl), CommandCall(&mnuEdit_Font_Clack));

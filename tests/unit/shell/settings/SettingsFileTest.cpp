@@ -68,13 +68,13 @@ TEST_F(SettingsFile, EveryLineSurvivesARunButForWhatIsMeantNotTo) {
 TEST_F(SettingsFile, TheFirstRunOfAUserTakesWhatCameWithTheProgram) {
     const Text own = u"C:\\Users\\anna\\Korvane.ini";
     t.files.AddDir(u"C:\\Users\\anna");
-    t.files.AddFile(kIni, OneLine(6, "18000"));
+    t.files.AddFile(kIni, OneLine(5, "18000"));
     t.app.Exchange<StateFiles>().IniFilePath = own;
     ReadSettings(t.app);
     EXPECT_EQ(settings.MainWidth, 18000);
     settings.MainWidth = 9000;
     WriteSettings(t.app);
-    EXPECT_EQ(t.files.Contents(kIni), OneLine(6, "18000"));
+    EXPECT_EQ(t.files.Contents(kIni), OneLine(5, "18000"));
     settings = Settings();
     ReadSettings(t.app);
     EXPECT_EQ(settings.MainWidth, 9000);
