@@ -64,7 +64,8 @@ void ListViewAdaptor::WriteColours() {
 
 bool ListViewAdaptor::eventFilter(QObject* watched, QEvent* event) {
     const bool taken = RowsAdaptor::eventFilter(watched, event);
-    if (taken || watched != widget_.viewport() || event->type() != QEvent::MouseButtonRelease) return taken;
+    // The type comes first: other events come also while the view is destroyed and has no viewport any more.
+    if (taken || event->type() != QEvent::MouseButtonRelease || watched != widget_.viewport()) return taken;
     const bool right = static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
     if (right && ByUser() && list_.RightClick) list_.RightClick();
     return taken;
