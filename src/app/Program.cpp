@@ -52,16 +52,19 @@ NativeFileSystem OwnFiles() {
 Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages)
     : system_(system),
       files_(OwnFiles()),
+      backgroundFiles_(OwnFiles()),
       forms_(KorvaneForms()),
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
-          system.Folders(), locale_, fileTypes_)) {
+          system.Folders(), locale_, fileTypes_)),
+      keptTables_(app_, background_, FromNativePath(FindKeptFolder(OwnSurroundings()))) {
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<ColourPicker>(&colourPicker_);
     app_.SetPort<FileViewer>(&fileHandling_);
+    app_.SetPort<TableKeeper>(&keptTables_);
     // As long as the program has no windows of its own for them.
     app_.SetPort<TextFileViewer>(&desktopViewer_);
     app_.SetPort<PageViewer>(&desktopViewer_);
@@ -71,6 +74,7 @@ int Program::Run(const Text& path) {
     frmMDIParent main(app_, path);
     main.EnsureLoaded();
     if (app_.Exchange<StartState>().SecondInstance == 1) return 0;
+    keptTables_.LookForUnsaved();
     main.Show();
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
     QObject whileItRuns;

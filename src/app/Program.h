@@ -3,9 +3,11 @@
 #include "context/App.h"
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
+#include "kept/KeptTables.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
+#include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtPickers.h"
@@ -37,6 +39,9 @@ public:
 private:
     SystemParts& system_;
     NativeFileSystem files_;
+    /// For the background alone.
+    NativeFileSystem backgroundFiles_;
+    QtBackground background_{backgroundFiles_};
     QtClipboard clipboard_;
     NativeClock clock_;
     QtScreen screen_;
@@ -51,6 +56,7 @@ private:
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
     DesktopFileViewer desktopViewer_{app_};
+    KeptTables keptTables_;
 };
 
 } // namespace korvane

@@ -27,6 +27,7 @@ std::string FirstLine(int descriptor) {
 Desk::Desk()
     : environment_{{"PATH", (folder_ / "bin").string() + ":" + std::getenv("PATH")},
                    {"HOME", folder_.Path().string()},
+                   {"XDG_STATE_HOME", (folder_ / "state").string()},
                    {"XDG_RUNTIME_DIR", (folder_ / "run").string()},
                    {"LANG", "C.UTF-8"},
                    // Memory leaks of the system's libraries are ignored.

@@ -14,6 +14,7 @@
 #include "shell/tabs/RecentFiles.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "table/SaveCommands.h"
+#include "table/TableKeeper.h"
 
 #include <algorithm>
 
@@ -33,7 +34,8 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
                [this](const CommandCall& call) { runner_.Run(call); }),
       parts_{app, *this, OfficeMenu1, MDITabs1, sideBar_, tabs_, pipeline_, recents_, windowSize_},
       runner_(parts_),
-      startPage_(app, *this, [this](const Text& path) { OpenRecent(path); }) {
+      startPage_(app, *this, [this](const Text& path) { OpenRecent(path); }),
+      unsavedPage_(app, *this, tabs_) {
     app_.SetPort<MainWindow>(this);
     MakeToolBar();
     CheckFirstStyle(OfficeMenu1);
@@ -42,6 +44,7 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
 
 frmMDIParent::~frmMDIParent() {
     if (app_.Port<MainWindow>() == this) app_.SetPort<MainWindow>(nullptr);
+    if (auto* keeper = app_.Port<TableKeeper>()) keeper->UnsavedChanged = nullptr;
 }
 
 void frmMDIParent::MakeToolBar() {
@@ -57,6 +60,8 @@ void frmMDIParent::Wire() {
     }
     txtCommand.Visible = false;
     txtCommand.Change = [this] { txtCommand_Change(); };
+    tabs_.CountChanged = [this] { unsavedPage_.Fill(); };
+    if (auto* keeper = app_.Port<TableKeeper>()) keeper->UnsavedChanged = [this] { unsavedPage_.Fill(); };
     MDITabs1.TabContextClick = [this] { runner_.Run(&mnuFile_FileInfo_Clack); };
     MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };
     MDITabs1.Emptied = [this] { startPage_.Fill(recents_); };

@@ -12,6 +12,7 @@
 #include "shell/commands/MainParts.h"
 #include "shell/commands/SideBar.h"
 #include "shell/main/StartPage.h"
+#include "shell/main/UnsavedPage.h"
 #include "shell/recent/RecentRecord.h"
 #include "shell/settings/frmWindowSize.h"
 #include "shell/tabs/LoadPipeline.h"
@@ -77,6 +78,7 @@ private:
     CommandRunner runner_;
     std::vector<std::unique_ptr<CommandButton>> toolBar_;
     StartPage startPage_;
+    UnsavedPage unsavedPage_;
     bool firstActivation_ = true;
 };
 

@@ -4,6 +4,7 @@
 #include "context/App.h"
 #include "controls/TabStrip.h"
 #include "grid/Grid.h"
+#include "platform/FileSystem.h"
 #include "platform/Screen.h"
 #include "shell/tabs/frmMDIChild.h"
 
@@ -88,6 +89,14 @@ void Tabs::NewDocument() {
     };
     strip_.Add(*document);
     CurrentTabIndex = static_cast<std::int16_t>(slot);
+    if (CountChanged) CountChanged();
+}
+
+void Tabs::NameTab(frmMDIChild& tab, const Text& path) {
+    korvane::TabState& state = TabState[tab.Slot()];
+    state.Path = path;
+    state.Name = Text(app_.Files().Style().NamePart(path));
+    tab.Caption = app_.Settings.ShowFullPath == 1 ? state.Path : state.Name;
 }
 
 void Tabs::AddNewTab() {
@@ -105,6 +114,7 @@ bool Tabs::Close(Form& child) {
     // The owner is looked up again: another tab may have been opened during the question, which moves the
     // documents.
     closed_.push_back(std::move(*OwnerOf(child)));
+    if (CountChanged) CountChanged();
     return true;
 }
 

@@ -26,6 +26,8 @@ public:
     TabStates TabState;
     /// The slot of the tab that was made last; 0 before the first.
     std::int16_t CurrentTabIndex = 0;
+    /// A tab was made, or closed.
+    std::function<void()> CountChanged;
     // The paper size by the settings' name for it, in twips. Nothing reads them.
     int PageWidth = 0;
     int PageHeight = 0;
@@ -41,6 +43,9 @@ public:
     void NewDocument();
     /// Does the same without painting in between.
     void AddNewTab();
+
+    /// Gives the tab a table's path, or the caption of a table that has none.
+    void NameTab(frmMDIChild& tab, const Text& path);
 
     /// Closes a tab, which may ask and refuse. The window lives on until `ReleaseClosed`, since the command
     /// that closes it may be its own.

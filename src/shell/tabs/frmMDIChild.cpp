@@ -13,6 +13,7 @@
 #include "platform/Clock.h"
 #include "shell/tabs/TabStates.h"
 #include "table/SaveCommands.h"
+#include "table/TableKeeper.h"
 
 namespace korvane {
 
@@ -38,7 +39,10 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
     ZoomSlider.Released = [this] { ZoomSlider_Released(); };
     iGrid1.FadedMark = DeleteMark();
     iGrid1.AfterEdit = [this](Row, Col) { iGrid1_AfterEdit(); };
-    iGrid1.AfterChange = [this] { history_.EndStep(); };
+    iGrid1.AfterChange = [this] {
+        const WatchedCommand watched(Context());
+        history_.EndStep();
+    };
     iGrid1.PastEnd = [this] { iGrid1_PastEnd(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
@@ -52,11 +56,16 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
     ForwardToMainWindow(cmdHelp, CommandName::mnuHelpText);
 }
 
+frmMDIChild::~frmMDIChild() {
+    if (auto* keeper = app_.Port<TableKeeper>()) keeper->Forget(table_);
+}
+
 TabContext frmMDIChild::Context() {
     return {app_, table_, *this, &history_};
 }
 
 void frmMDIChild::Run(TabRoutine routine) {
+    const WatchedCommand watched(Context());
     const TableStep step(history_);
     routine(Context());
 }
@@ -82,6 +91,7 @@ void frmMDIChild::Load() {
 
 bool frmMDIChild::QueryUnload() {
     if (!AskToSaveAtClosing(Context())) return false;
+    if (auto* keeper = app_.Port<TableKeeper>()) keeper->GiveUp(Context());
     app_.Settings.LastDbFindText = txtFindString.Text;
     states_[Slot()].Deleted = -1;
     return true;
@@ -96,6 +106,7 @@ void frmMDIChild::cmdFind_Click() {
 }
 
 void frmMDIChild::ApplyTypedHeight() {
+    const WatchedCommand watched(Context());
     const TableStep step(history_);
     ApplyTypedRowHeight(Context(), txtRowHeight.Text.Get());
 }
@@ -106,6 +117,7 @@ void frmMDIChild::ZoomSlider_Scroll() {
 }
 
 void frmMDIChild::ZoomSlider_Released() {
+    const WatchedCommand watched(Context());
     ApplyRowHeight(Context());
     sliding_.reset();
 }

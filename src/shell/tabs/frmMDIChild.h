@@ -27,6 +27,7 @@ class frmMDIChild : public Form, private TableHost {
 public:
     /// All arguments outlive the tab.
     frmMDIChild(App& app, TabStates& states);
+    ~frmMDIChild() override;
 
     Panel Picture1{*this, "Picture1"};
     TextBox txtFindString{*this, "txtFindString", u"", u"Text to find (Ctrl+Shift+F)"};
