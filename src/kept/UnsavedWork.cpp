@@ -44,6 +44,11 @@ std::vector<KeptFile> TableFolder::Drafts() const {
     return KeptFilesIn(files_, folder_);
 }
 
+Text TableFolder::Name() const {
+    const auto name = name_.Read<NameRecord>();
+    return name ? name->name : Text();
+}
+
 bool TableFolder::Prepare(const Text& name) {
     if (!MakePrivateDirs(files_, folder_)) return false;
     const auto known = name_.Read<NameRecord>();
@@ -113,12 +118,11 @@ std::optional<UnsavedDraft> TableFolder::Settle() {
     ForgetSave();
     files_.Remove(PathOf(kUnfinished));
     const std::vector<KeptFile> drafts = Drafts();
-    const auto name = name_.Read<NameRecord>();
     if (drafts.empty()) {
         Remove();
         return std::nullopt;
     }
-    return UnsavedDraft{folder_, name ? name->name : Text(), drafts.back()};
+    return UnsavedDraft{folder_, Name(), drafts.back()};
 }
 
 void TableFolder::SettleSave(const SaveRecord& begun) {

@@ -59,6 +59,8 @@ public:
     void Remove();
 
     std::vector<KeptFile> Drafts() const;
+    /// The table's path or caption, as it was noted last.
+    Text Name() const;
 
 private:
     void SettleSave(const SaveRecord& begun);

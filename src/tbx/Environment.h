@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
+#include "common/text/Text.h"
 #include "tbx/Output.h"
 
 #include <functional>
@@ -31,6 +32,8 @@ struct Environment {
     std::function<std::optional<std::string>()> readInput;
     /// The code page of files for which none is named.
     CodePage page;
+    /// The folder of what the program keeps of tables; empty for none.
+    Text keptFolder{};
 };
 
 /// Writes one line that says what is wrong; control characters in it become "?", so that it stays one line.

@@ -10,6 +10,8 @@ namespace {
 constexpr std::array kOptions{
     OptionSpec{'d', "delimiter", "CHAR", "what separates the fields of CSV, or \"tab\""},
     OptionSpec{'p', "code-page", "NUMBER", "code page of .tbx files: 874 or 1250 to 1258"},
+    OptionSpec{'r', "restore", "N", "write the kept table N to OUT"},
+    OptionSpec{'D', "diff", "N", "write the rows that differ from the kept table N"},
     OptionSpec{'h', "help", "", "show help, of a command when one is named"},
     OptionSpec{'V', "version", "", "show the version"},
 };

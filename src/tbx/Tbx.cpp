@@ -41,7 +41,7 @@ public:
         : verb_(verb),
           parsed_(parsed),
           environment_(environment),
-          call_{{parsed.words.begin() + 1, parsed.words.end()}, environment.page} {}
+          call_{{parsed.words.begin() + 1, parsed.words.end()}, environment.page, ',', {}, {}} {}
 
     ExitStatus Run() {
         std::string fault = OptionFault();
@@ -61,8 +61,9 @@ private:
     }
 
     std::string OperandFault() const {
-        if (call_.operands.size() == verb_.OperandCount()) return {};
-        const bool tooFew = call_.operands.size() < verb_.OperandCount();
+        const std::size_t count = call_.operands.size();
+        const bool tooFew = count < verb_.LeastOperands();
+        if (!tooFew && count <= verb_.MostOperands()) return {};
         return std::string(tooFew ? "too few" : "too many") + " arguments; usage: " + UsageLine(verb_);
     }
 
@@ -76,6 +77,10 @@ private:
                 const auto delimiter = ReadDelimiter(value);
                 if (!delimiter) return "the delimiter has to be one character, not \"" + value + "\"";
                 call_.delimiter = *delimiter;
+            } else if (letter == 'r') {
+                call_.restore = value;
+            } else if (letter == 'D') {
+                call_.diff = value;
             }
         }
         return {};

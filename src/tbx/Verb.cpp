@@ -52,12 +52,23 @@ constexpr std::array kVerbs{
          "24 columns, rows past 32767, characters outside the code page, comments, and\n"
          "numbers that come back as others.\n",
          RunCheck},
+    Verb{"kept", "[FILE] [OUT]", "prD", "List the kept versions of FILE, or of all tables",
+         "Each line has the number of a version, the time when it was saved, its size and\n"
+         "its rows. A line \"unsaved\" is what was changed and not saved. --restore writes\n"
+         "such a table to OUT. --diff writes the rows that only it has after \"-\" and those\n"
+         "that only FILE has after \"+\", as by tsv; only the texts count. The exit status is\n"
+         "1 when nothing is kept or no row differs.\n",
+         RunKept},
 };
 
 } // namespace
 
-std::size_t Verb::OperandCount() const {
+std::size_t Verb::MostOperands() const {
     return static_cast<std::size_t>(std::count(operands.begin(), operands.end(), ' ')) + 1;
+}
+
+std::size_t Verb::LeastOperands() const {
+    return MostOperands() - static_cast<std::size_t>(std::count(operands.begin(), operands.end(), '['));
 }
 
 std::span<const Verb> Verbs() {

@@ -16,12 +16,15 @@ struct Call {
     std::vector<std::string> operands;
     CodePage page;
     char delimiter = ',';
+    /// The kept table to restore, and the one to compare with; empty for none.
+    std::string restore;
+    std::string diff;
 };
 
 /// One command of the program.
 struct Verb {
     std::string_view name;
-    /// The words for them in the usage line, separated by blanks.
+    /// The words for them in the usage line, separated by blanks. One in brackets may be left out.
     std::string_view operands;
     /// The letters of its options, besides that of the help.
     std::string_view options;
@@ -30,7 +33,8 @@ struct Verb {
     std::string_view details;
     ExitStatus (*run)(const Call& call, Environment& environment);
 
-    std::size_t OperandCount() const;
+    std::size_t MostOperands() const;
+    std::size_t LeastOperands() const;
 };
 
 /// All commands in the order of the help.
@@ -44,6 +48,7 @@ ExitStatus RunJson(const Call& call, Environment& environment);
 ExitStatus RunImport(const Call& call, Environment& environment);
 ExitStatus RunFind(const Call& call, Environment& environment);
 ExitStatus RunInfo(const Call& call, Environment& environment);
+ExitStatus RunKept(const Call& call, Environment& environment);
 ExitStatus RunCheck(const Call& call, Environment& environment);
 
 } // namespace korvane

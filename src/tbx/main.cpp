@@ -1,4 +1,6 @@
 #include "platform/native/NativeFileSystem.h"
+#include "platform/native/NativePath.h"
+#include "platform/native/StateFolder.h"
 #include "platform/native/SystemCalls.h"
 #include "platform/native/UserCodePage.h"
 #include "tbx/Tbx.h"
@@ -36,7 +38,12 @@ ExitStatus Run(const std::vector<std::string>& arguments) {
     StreamOutput out(stdout);
     StreamOutput err(stderr);
     NativeFileSystem files({});
-    Environment environment{files, out, err, [] { return ReadAllOf(stdin); }, UserCodePage()};
+    Environment environment{files,
+                            out,
+                            err,
+                            [] { return ReadAllOf(stdin); },
+                            UserCodePage(),
+                            FromNativePath(FindKeptFolder(OwnSurroundings()))};
     ExitStatus status = ExitStatus::Error;
     try {
         status = Finish(RunTbx(arguments, environment), out, environment);

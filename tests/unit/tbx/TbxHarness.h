@@ -18,6 +18,7 @@ public:
     /// Nothing when the standard input can't be read.
     std::optional<std::string> input = "";
     CodePage page = CodePage::Windows1252();
+    Text keptFolder;
 
     /// The outputs of the last run.
     std::string out;
@@ -26,7 +27,7 @@ public:
     ExitStatus Run(const std::vector<std::string>& arguments) {
         StringOutput outBytes;
         StringOutput errBytes;
-        Environment environment{files, outBytes, errBytes, [this] { return input; }, page};
+        Environment environment{files, outBytes, errBytes, [this] { return input; }, page, keptFolder};
         const ExitStatus status = RunTbx(arguments, environment);
         outBytes.Flush();
         errBytes.Flush();
