@@ -2,8 +2,11 @@
 #include "Contest.h"
 #include "LimitTable.h"
 #include "RawFile.h"
+#include "kept/KeptTables.h"
 #include "table/TableFile.h"
+#include "testing/MemoryBackground.h"
 
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -37,6 +40,67 @@ void Save(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
+/// The floor is the same save over the same file while nothing is kept. The work in the background isn't
+/// measured, because the user doesn't wait for it.
+void SaveAndKeep(benchmark::State& state) {
+    const std::filesystem::path folder = std::filesystem::path(LimitTablePath() + ".kept");
+    std::filesystem::create_directory(folder);
+    BenchProgram program;
+    program.Load();
+    program.table.TxtDbFile = FromUtf8((folder / "table.tbx").string());
+    SaveThisTable(program.tab);
+    MemoryBackground background(program.files, program.clock);
+    Contest contest(state);
+    {
+        KeptTables keeper(program.app, background, FromUtf8((folder / "kept").string()));
+        for ([[maybe_unused]] auto _ : state) {
+            const double floor = SecondsOf([&program] { SaveThisTable(program.tab); });
+            program.app.SetPort<TableKeeper>(&keeper);
+            contest.Round(floor, SecondsOf([&program] { SaveThisTable(program.tab); }));
+            program.app.SetPort<TableKeeper>(nullptr);
+            background.DoAll();
+        }
+    }
+    background.End();
+    std::filesystem::remove_all(folder);
+}
+
+/// What the user may notice of a draft: the table is written into memory. The floor is a save.
+void Draft(benchmark::State& state) {
+    const std::string path = LimitTablePath() + ".draft";
+    BenchProgram program;
+    program.Load();
+    program.table.TxtDbFile = FromUtf8(path);
+    MemoryBackground background(program.files, program.clock);
+    Contest contest(state);
+    {
+        KeptTables keeper(program.app, background, FromUtf8(path + ".kept"));
+        program.app.SetPort<TableKeeper>(&keeper);
+        for ([[maybe_unused]] auto _ : state) {
+            program.app.SetPort<TableKeeper>(nullptr);
+            const double floor = SecondsOf([&program] { SaveThisTable(program.tab); });
+            program.app.SetPort<TableKeeper>(&keeper);
+            {
+                const WatchedCommand command(program.tab);
+                program.grid.SetCellValue(Row{1}, Col{1},
+                                          FromAscii(std::to_string(program.clock.Uptime().count())));
+                program.table.TableAltered = 1;
+            }
+            // The work is done later and not measured.
+            contest.Round(floor,
+                          SecondsOf([&background] { background.PassWithoutWork(std::chrono::minutes(1)); }));
+            background.DoAll();
+        }
+        program.app.SetPort<TableKeeper>(nullptr);
+        keeper.GiveUp(program.tab);
+    }
+    background.End();
+    std::filesystem::remove_all(path + ".kept");
+    std::filesystem::remove(path);
+}
+
+BENCHMARK(SaveAndKeep)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+BENCHMARK(Draft)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
 BENCHMARK(Save)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
 
 } // namespace

@@ -109,6 +109,7 @@ public:
         fs::copy_file(KORVANE_STARTED_PROGRAM, Program());
         fs::copy_file(KORVANE_SOURCE_DIR "/packaging/Korvane.ini", folder_ / "Korvane.ini");
         setenv("HOME", folder_.c_str(), 1);
+        setenv("XDG_STATE_HOME", (folder_ / "state").c_str(), 1);
         setenv("XDG_RUNTIME_DIR", (folder_ / "run").c_str(), 1);
         setenv("QT_QPA_PLATFORM", "xcb", 1);
     }

@@ -27,16 +27,25 @@ void MemoryBackground::DoAll() {
     }
 }
 
+bool MemoryBackground::CallNext(std::chrono::milliseconds until) {
+    const bool calls = !due_.empty() && due_.begin()->first <= until;
+    const auto time = calls ? due_.begin()->first : until;
+    clock_.Pass(std::max(time - clock_.Uptime(), std::chrono::milliseconds(0)));
+    if (calls) due_.extract(due_.begin()).mapped()();
+    return calls;
+}
+
 void MemoryBackground::Pass(std::chrono::milliseconds time) {
     const auto end = clock_.Uptime() + time;
     DoAll();
-    while (!due_.empty() && due_.begin()->first <= end) {
-        const auto next = due_.extract(due_.begin());
-        clock_.Pass(std::max(next.key() - clock_.Uptime(), std::chrono::milliseconds(0)));
-        next.mapped()();
+    while (CallNext(end))
         DoAll();
+}
+
+void MemoryBackground::PassWithoutWork(std::chrono::milliseconds time) {
+    const auto end = clock_.Uptime() + time;
+    while (CallNext(end)) {
     }
-    clock_.Pass(std::max(end - clock_.Uptime(), std::chrono::milliseconds(0)));
 }
 
 void MemoryBackground::End() {

@@ -25,6 +25,8 @@ public:
     /// Lets the time go by: what is due is called at its time, and all work is done that waits before and
     /// after it.
     void Pass(std::chrono::milliseconds time);
+    /// Calls what is due now or in that time, and leaves all work waiting.
+    void PassWithoutWork(std::chrono::milliseconds time);
     /// The program ends: only the work is done that mustn't be left out, and nothing follows.
     void End();
 
@@ -34,6 +36,9 @@ private:
         AtEnd atEnd;
         Action then;
     };
+
+    /// Calls what is due next, if it is due until then.
+    bool CallNext(std::chrono::milliseconds until);
 
     FileSystem& files_;
     MemoryClock& clock_;
