@@ -35,6 +35,11 @@ protected:
         f.txtColumnName.Text = title;
         f.cmdAssign.Press();
     }
+    /// Does the same and goes back to the entry.
+    static void AssignAndStay(frmDesignTable& f, int entry, const Text& title) {
+        Assign(f, entry, title);
+        f.ListView1.Select(entry);
+    }
     static Message Question(const Text& count) {
         return {u"Delete  [ " + count + u" ]  entries ?\r\n", MessageIcon::Question, MessageButtons::YesNo};
     }
@@ -192,7 +197,7 @@ TEST_F(DesignTable, DeletesNothingWhereNoEntryIsSelected) {
     user.On<frmDesignTable>([](frmDesignTable& f) { f.cmdCancel.Press(); });
     frmDesignTable f(on.tab);
     f.EnsureLoaded();
-    Assign(f, 1, u"Name");
+    AssignAndStay(f, 1, u"Name");
     f.ListView1.SetSelected(1, false);
     f.cmdDeleteEntry.Press();
     EXPECT_EQ(Title(f, 1), u"Name");
@@ -232,13 +237,13 @@ TEST_F(DesignTable, ANoKeepsTheTitlesAndTheSelection) {
 TEST_F(DesignTable, TheDeleteKeyInTheListDeletes) {
     frmDesignTable f(on.tab);
     f.EnsureLoaded();
-    Assign(f, 1, u"Name");
+    AssignAndStay(f, 1, u"Name");
     user.Answer(Question(u"1"), Answer::Yes);
     KeyEvent key{Key::Delete, Mask::None};
     f.ListView1.KeyDown(key);
     EXPECT_TRUE(key.consumed);
     EXPECT_EQ(Title(f, 1), u"");
-    KeyEvent other{Key::Return, Mask::None};
+    KeyEvent other{Key::Insert, Mask::None};
     f.ListView1.KeyDown(other);
     EXPECT_FALSE(other.consumed);
 }
@@ -246,7 +251,7 @@ TEST_F(DesignTable, TheDeleteKeyInTheListDeletes) {
 TEST_F(DesignTable, MovesAnEntryWithItsNumberAndTheSelectionGoesAlong) {
     Try([](frmDesignTable& f) {
         Assign(f, 3, u"Town");
-        Assign(f, 2, u"Name");
+        AssignAndStay(f, 2, u"Name");
         f.Image1.Press();
         EXPECT_EQ(Title(f, 3), u"Name");
         EXPECT_EQ(Title(f, 2), u"Town");
