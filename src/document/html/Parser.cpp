@@ -260,7 +260,9 @@ void Parser::PutSpaced(std::string_view text) {
 
 void Parser::PutPreserved(std::string_view text) {
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of("\t\r\n"), text.size());
+        const auto mark =
+            std::ranges::find_if(text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; });
+        const std::size_t end = static_cast<std::size_t>(mark - text.begin());
         PutDecoded(text.substr(0, end));
         text.remove_prefix(end);
         if (text.empty()) return;
