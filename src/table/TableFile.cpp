@@ -73,6 +73,12 @@ void NoteSaved(const TabContext& tab) {
     tab.table.TableAltered = 0;
 }
 
+/// The new file isn't whole, so the table counts as altered whatever is undone.
+void NoteFileLost(const TabContext& tab) {
+    if (tab.history != nullptr) tab.history->NoteFileLost();
+    tab.table.TableAltered = 1;
+}
+
 void WriteTable(const TabContext& tab, FileWriter& file, SaveGuard& guard) {
     const Hourglass hourglass(tab.app.Screen());
     tab.app.Screen().ProcessMessages();
@@ -84,7 +90,7 @@ void WriteTable(const TabContext& tab, FileWriter& file, SaveGuard& guard) {
     if (guard.Finish()) {
         NoteSaved(tab);
     } else {
-        tab.table.TableAltered = 1;
+        NoteFileLost(tab);
     }
     tab.app.Clock().Wait(kWaitAfterSave);
 }

@@ -56,8 +56,8 @@ constexpr std::array kVerbs{
          "Each line has the number of a version, the time when it was saved, its size and\n"
          "its rows. A line \"unsaved\" is what was changed and not saved. --restore writes\n"
          "such a table to OUT. --diff writes the rows that only it has after \"-\" and those\n"
-         "that only FILE has after \"+\", as by tsv; only the texts count. The exit status is\n"
-         "1 when nothing is kept or no row differs.\n",
+         "that only FILE has after \"+\", as by tsv; only the texts count. The exit status\n"
+         "is 1 when nothing is kept or no row differs.\n",
          RunKept},
 };
 

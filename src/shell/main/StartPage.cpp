@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "platform/FileSystem.h"
+#include "shell/main/ButtonText.h"
 #include "shell/recent/RecentRecord.h"
 
 #include <algorithm>
@@ -10,14 +11,6 @@
 namespace korvane {
 
 namespace {
-
-/// Doubles ampersands, so that the button shows them and doesn't use them to mark a key.
-Text ButtonText(TextView text) {
-    Text doubled;
-    for (const char16_t character : text)
-        doubled.append(character == u'&' ? 2 : 1, character);
-    return doubled;
-}
 
 std::vector<Text> NewestFiles(const FileSystem& files, const RecentRecord& recents) {
     std::vector<Text> newest;

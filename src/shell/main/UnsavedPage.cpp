@@ -4,6 +4,7 @@
 #include "context/App.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "shell/main/ButtonText.h"
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "table/TableFile.h"
@@ -14,14 +15,6 @@
 namespace korvane {
 
 namespace {
-
-/// Doubles ampersands, so that the button shows them and doesn't use them to mark a key.
-Text ButtonText(TextView text) {
-    Text doubled;
-    for (const char16_t character : text)
-        doubled.append(character == u'&' ? 2 : 1, character);
-    return doubled;
-}
 
 bool SameDay(const DateTime& a, const DateTime& b) {
     return a.year == b.year && a.month == b.month && a.day == b.day;
