@@ -38,7 +38,7 @@ void CheckPrograms(const Lines& lines) {
     const std::vector<ListedProgram> programs = ProgramsOfLines(lines);
     std::vector<ListedProgram> kept = programs;
     std::erase_if(kept, [](const ListedProgram& program) { return program.name == kDeletedRow; });
-    // Only a last row can lack its folder, so that the pairs stand.
+    // Only the last row can be without a folder. Otherwise the pairs would shift.
     Require(ProgramsOfLines(LinesOfPrograms(programs)) == kept, "the programs that are written come back");
     const PathQuestion none = [](TextView) { return false; };
     for (const ListedProgram& program : programs) {

@@ -11,7 +11,7 @@
 namespace korvane {
 
 /// The rows of a list with columns, counted from 0, in little memory. A row that is inserted, removed or
-/// sorted stays where it is in memory: only the order of the rows, four bytes for each, is written anew.
+/// sorted keeps its place in memory: only the order of the rows changes, which takes four bytes for each.
 class ListRows {
 public:
     int Count() const { return order_.Size(); }
@@ -19,7 +19,7 @@ public:
     void Write(int at, const ListRow& row);
     void Remove(int at);
     void Clear();
-    /// `order` names for each row, from the first on, the row that comes to stand there.
+    /// `order` has for each row, from the first on, the number of the row that moves there.
     void Reorder(const std::vector<int>& order);
 
     ListRow RowAt(int at) const;
@@ -54,7 +54,7 @@ private:
     void Fill(Held& held, const ListRow& row);
 
     std::vector<Held> held_;
-    /// Which of `held_` stands in each row, and which of them are free.
+    /// The index in `held_` of each row, and the indices that are free.
     PlaceOrder order_;
     std::vector<std::uint32_t> free_;
     NameNumbers icons_;

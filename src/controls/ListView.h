@@ -76,8 +76,8 @@ public:
 
     /// Sorts by the texts of a column, case ignored; rows that compare alike keep their order.
     void SortBy(int column, SortOrder order);
-    /// Sorts as the window wants: `order` names for each row, from the first on, the row that comes to stand
-    /// there. Nothing happens unless it names each row once.
+    /// Sorts as the window wants: `order` has for each row, from the first on, the number of the row that
+    /// moves there. Nothing happens unless it has each number once.
     void Reorder(const std::vector<int>& order);
 
     /// The full paths of the files that the picked rows are; unset where rows aren't files. The user can drag

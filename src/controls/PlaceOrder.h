@@ -24,7 +24,7 @@ private:
     std::size_t BlockOf(int at) const;
     bool Holds(std::size_t block, int at) const;
     void SplitLongBlock(std::size_t block);
-    /// Counts the starts of the blocks after this one anew.
+    /// Updates the starts of the blocks after this one.
     void CountFrom(std::size_t block);
 
     /// None of them is empty.

@@ -11,7 +11,7 @@ class RowListener {
 public:
     virtual ~RowListener() = default;
 
-    /// Everything may have become another: read it anew.
+    /// Everything may have changed, so the view reads it again.
     virtual void RowsReset() = 0;
     virtual void RowsInserted(int first, int last) = 0;
     virtual void RowsRemoved(int first, int last) = 0;

@@ -41,7 +41,7 @@ class TreeListener {
 public:
     virtual ~TreeListener() = default;
 
-    /// Everything may have become another: read it anew.
+    /// Everything may have changed, so the view reads it again.
     virtual void TreeReset() = 0;
     /// Around the adding of a node to those of the parent, at the end.
     virtual void NodeAdding(const TreeNode& parent) = 0;
@@ -114,8 +114,8 @@ private:
     /// The root for an empty key.
     TreeNode* FindParent(TextView key) const;
     void Register(TreeNode& node);
-    /// Opens what the node hangs on. The node, unless it isn't there or goes when a handler fills the tree
-    /// anew.
+    /// Opens the nodes above this one. Returns the node, or nullptr when there is none, also because a handler
+    /// removed it.
     const TreeNode* OpenAbove(const Text& key);
     /// Forgets the node and all that hangs on it.
     void Unregister(const TreeNode& node);

@@ -6,7 +6,7 @@ namespace korvane {
 class FavouriteFolders {
 public:
     virtual ~FavouriteFolders() = default;
-    /// When a folder was picked, `DialogResult` is 1 and the folder stands in `ChosenFilePath`.
+    /// When a folder was picked, `DialogResult` is 1 and `ChosenFilePath` is the folder.
     virtual void Show() = 0;
 };
 

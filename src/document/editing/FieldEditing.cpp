@@ -107,7 +107,7 @@ int TextEditing::FieldNext(int field) const {
         next = std::ranges::find(places, static_cast<Index>(field), &FieldPlace::field);
         if (next != places.end()) ++next;
     }
-    // A field that stands in several places counts where it stands first.
+    // A field that is in several places counts at the first of them.
     while (next != places.end() &&
            std::ranges::find(places.begin(), next, next->field, &FieldPlace::field) != next)
         ++next;

@@ -6,7 +6,7 @@
 
 namespace korvane::doc::html {
 
-/// Takes the reference at the beginning of the text (`&amp;`, `&#8364;`) away and adds what it stands for.
+/// Takes the reference at the beginning of the text (`&amp;`, `&#8364;`) away and adds the characters that it means.
 /// One that makes no sense is text.
 void TakeReference(std::string_view& rest, Text& text);
 
