@@ -114,8 +114,8 @@ private:
     /// The root for an empty key.
     TreeNode* FindParent(TextView key) const;
     void Register(TreeNode& node);
-    /// Opens the nodes above this one. Returns the node, or nullptr when there is none, also because a handler
-    /// removed it.
+    /// Opens the nodes above this one. Returns the node, or nullptr when there is none, also because a
+    /// handler removed it.
     const TreeNode* OpenAbove(const Text& key);
     /// Forgets the node and all that hangs on it.
     void Unregister(const TreeNode& node);

@@ -6,8 +6,8 @@
 
 namespace korvane::doc::html {
 
-/// Takes the reference at the beginning of the text (`&amp;`, `&#8364;`) away and adds the characters that it means.
-/// One that makes no sense is text.
+/// Takes the reference at the beginning of the text (`&amp;`, `&#8364;`) away and adds the characters that it
+/// means. One that makes no sense is text.
 void TakeReference(std::string_view& rest, Text& text);
 
 /// The text of an attribute's value.
