@@ -99,14 +99,14 @@ TEST_F(WindowFitting, AWindowKeepsItsPlaceInTheSettings) {
     EXPECT_EQ(t.app.Settings.LoadListHeight, 4000);
     Form again(t.user, "frmLoadList", u"");
     RestorePlace(t.app, again, kLoadList);
-    EXPECT_EQ(Rect(again.Left, again.Top, again.Width, again.Height), Place(11, 12, 5000, 4000));
+    EXPECT_EQ((Rect{again.Left, again.Top, again.Width, again.Height}), Place(11, 12, 5000, 4000));
 }
 
 TEST_F(WindowFitting, AWindowWithoutAStoredPlaceComesUpInsideTheWorkArea) {
     const Rect screen = t.app.Screen().WorkArea();
     RestorePlace(t.app, other, kLoadList);
-    EXPECT_EQ(Rect(other.Left, other.Top, other.Width, other.Height),
-              Rect(screen.left + 600, screen.top + 600, Twips{4800}, Twips{3200}));
+    EXPECT_EQ((Rect{other.Left, other.Top, other.Width, other.Height}),
+              (Rect{screen.left + 600, screen.top + 600, Twips{4800}, Twips{3200}}));
     EXPECT_EQ(t.app.Settings.LoadListWidth, 0);
 }
 

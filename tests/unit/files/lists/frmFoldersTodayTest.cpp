@@ -317,7 +317,7 @@ TEST_F(FoldersTodayTest, ACancelledDialogChangesNothing) {
 // ---- The side bar --------------------------------------------------------------------------------------
 
 TEST_F(FoldersTodayTest, TheSideBarInItsOrder) {
-    InWindow([this](frmFoldersToday& f) {
+    InWindow([](frmFoldersToday& f) {
         const Grid& bar = f.iGridListBar.Store();
         std::vector<Text> captions;
         for (Row row{1}; row <= bar.RowCount(); ++row)
