@@ -17,7 +17,18 @@ protected:
     }
     std::string All() const { return ToUtf8(control.All()); }
 
-    TextEditing control{std::make_unique<Store>()};
+    class CountingEditing final : public TextEditing {
+    public:
+        using TextEditing::TextEditing;
+        int edits = 0;
+        int moves = 0;
+
+    private:
+        void Edited() override { ++edits; }
+        void SelectionMoved() override { ++moves; }
+    };
+
+    CountingEditing control{std::make_unique<Store>()};
 };
 
 TYPED_TEST_SUITE_P(TextEditingContract);
@@ -86,15 +97,59 @@ TYPED_TEST_P(TextEditingContract, ManySmallChangesKeepTheText) {
 }
 
 TYPED_TEST_P(TextEditingContract, AChangeIsReported) {
-    int changes = 0;
-    this->control.Changed = [&changes] { ++changes; };
     this->control.SetSelText(u"abc");
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(this->control.edits, 1);
     this->control.SetFontBold(1);
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(this->control.edits, 1);
     this->Select(0, 1);
     this->control.SetFontBold(1);
-    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(this->control.edits, 2);
+}
+
+TYPED_TEST_P(TextEditingContract, AnotherSelectionIsReported) {
+    this->control.SetAll(u"abc");
+    const int before = this->control.moves;
+    this->control.SetSelStart(2);
+    EXPECT_EQ(this->control.moves, before + 1);
+    this->control.SetSelStart(2);
+    this->control.SetSelLength(0);
+    EXPECT_EQ(this->control.moves, before + 1);
+    this->control.SetSelLength(1);
+    EXPECT_EQ(this->control.moves, before + 2);
+    this->control.SetSelText(u"x");
+    EXPECT_EQ(this->control.moves, before + 3);
+}
+
+TYPED_TEST_P(TextEditingContract, AnotherStoreGoesOnWithTheDocument) {
+    this->control.SetAll(u"ab\r\ncd");
+    this->Select(0, 1);
+    this->control.SetFontBold(1);
+    this->control.SetSelStart(4);
+    this->control.FieldInsert(u"note");
+    this->control.SetFieldData(1, u"data");
+    this->control.SetPageSize(Page::Width, 5000);
+    this->Select(1, 4);
+    this->control.SetDataChanged(false);
+    const Document before = this->control.Whole();
+    this->control.SetStore(std::make_unique<TypeParam>());
+    EXPECT_TRUE(SameContent(this->control.Whole(), before));
+    EXPECT_EQ(this->control.SelStart(), 1);
+    EXPECT_EQ(this->control.SelLength(), 4);
+    EXPECT_EQ(this->control.FieldData(1), u"data");
+    EXPECT_FALSE(this->control.DataChanged());
+    EXPECT_FALSE(this->control.Undo());
+}
+
+TYPED_TEST_P(TextEditingContract, TheCursorIsWithinTheTextAfterTheStoreWasChangedByItsView) {
+    this->control.SetAll(u"abcdef");
+    this->Select(4, 2);
+    this->control.Store().Replace(1, 6, Document());
+    this->control.SetDataChanged(false);
+    this->control.NoteOwnEdit(1, 0);
+    EXPECT_EQ(this->All(), "a");
+    EXPECT_EQ(this->control.SelStart(), 1);
+    EXPECT_EQ(this->control.SelLength(), 0);
+    EXPECT_TRUE(this->control.DataChanged());
 }
 
 TYPED_TEST_P(TextEditingContract, EveryCallIsUndoneByItself) {
@@ -489,6 +544,8 @@ TYPED_TEST_P(TextEditingContract, AFieldMayHaveSeveralLines) {
 REGISTER_TYPED_TEST_SUITE_P(TextEditingContract, ANewTextIsEmpty, WhatIsWrittenIsReadWithCrLf,
                             ASelectionStaysWithinTheText, WritingReplacesTheSelectionAndLeavesTheCursorBehind,
                             AnEdgeWithinALineEndMovesOutward, ManySmallChangesKeepTheText, AChangeIsReported,
+                            AnotherSelectionIsReported, AnotherStoreGoesOnWithTheDocument,
+                            TheCursorIsWithinTheTextAfterTheStoreWasChangedByItsView,
                             EveryCallIsUndoneByItself, AStepIsUndoneAsOne, FormatsApplyToTheSelection,
                             AMixedSelectionTellsTheFirstCharacter, AFormatAtTheCursorIsForWhatIsWrittenNext,
                             AFormatAtTheCursorGoesWhenTheCursorMoves, WrittenTextLooksLikeTheOneBeforeIt,

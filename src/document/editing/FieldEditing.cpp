@@ -71,12 +71,12 @@ Text TextEditing::FieldText() const {
 }
 
 void TextEditing::SetFieldText(TextView text) {
-    if (emptyField_ && *emptyField_ == fieldCurrent_) return Insert(LineLike(text, First(), fieldCurrent_));
+    if (emptyField_ && *emptyField_ == fieldCurrent_) return Insert(LineHere(text, fieldCurrent_));
     const FieldPlace* const found = PlaceOfField(fieldCurrent_);
     if (found == nullptr) return;
     const FieldPlace place = *found;
     Select(place.start, place.end);
-    Insert(LineLike(text, First(), fieldCurrent_));
+    Insert(LineHere(text, fieldCurrent_));
 }
 
 void TextEditing::SetFieldType(int field, int type) {
@@ -117,9 +117,8 @@ int TextEditing::FieldNext(int field) const {
 void TextEditing::FieldInsert(TextView text) {
     const Index number = fields_.empty() ? 1 : fields_.rbegin()->first + 1;
     const CharDelta pending = pending_;
-    const Look look = First();
     fields_[number] = {};
-    if (!text.empty()) return Insert(LineLike(text, look, number));
+    if (!text.empty()) return Insert(LineHere(text, number));
     if (end_ > start_) DeleteSelection();
     pending_ = pending;
     emptyField_ = number;

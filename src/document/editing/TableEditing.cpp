@@ -59,14 +59,9 @@ Text TextEditing::CellText(int table, int row, int column) const {
 void TextEditing::SetCellText(int table, int row, int column, TextView text) {
     const auto range = store_->CellRange(PlaceOf(table, row, column));
     if (!range) return;
-    const Pos start = start_;
-    const Pos end = end_;
-    Select(range->first, range->second);
-    const Document piece = LineLike(text, First(), 0);
-    Select(start, end);
-    store_->Replace(range->first, range->second, piece);
+    const auto [from, to] = *range;
+    store_->Replace(from, to, LineLike(text, LookIn(from, to), 0, store_->ParaAt(from)));
     NoteChange(true);
-    Select(Clamped(static_cast<std::int64_t>(start)), Clamped(static_cast<std::int64_t>(end)));
 }
 
 int TextEditing::CellStart(int table, int row, int column) const {

@@ -50,18 +50,37 @@ Pos TextEditing::Clamped(std::int64_t position) const {
 }
 
 void TextEditing::NoteChange(bool moved) {
-    if (moved) fieldPlaces_.reset();
+    if (moved) {
+        fieldPlaces_.reset();
+        start_ = std::min(start_, All().size());
+        end_ = std::min(end_, All().size());
+    }
     dataChanged_ = true;
-    if (Changed) Changed();
+    Edited();
+}
+
+void TextEditing::DropPending() {
+    pending_ = {};
+    emptyField_.reset();
 }
 
 void TextEditing::Select(Pos start, Pos end) {
-    if (start != start_) {
-        pending_ = {};
-        emptyField_.reset();
-    }
+    if (start == start_ && end == end_) return;
+    if (start != start_) DropPending();
     start_ = start;
     end_ = end;
+    SelectionMoved();
+}
+
+void TextEditing::SetStore(std::unique_ptr<TextStore> store) {
+    store->Reset(Whole());
+    store_ = std::move(store);
+    fieldPlaces_.reset();
+}
+
+void TextEditing::NoteOwnEdit(int start, int length) {
+    NoteChange(true);
+    SetSelection(start, length);
 }
 
 void TextEditing::SetAll(TextView text) {
@@ -81,23 +100,27 @@ Document TextEditing::Whole() const {
 void TextEditing::SetWhole(Document document) {
     fields_ = document.fields;
     fieldCurrent_ = 0;
-    Select(0, 0);
-    pending_ = {};
-    emptyField_.reset();
     store_->Reset(std::move(document));
+    start_ = end_ = 0;
+    DropPending();
     NoteChange(true);
+    SelectionMoved();
 }
 
 void TextEditing::SetSelStart(int start) {
-    const Pos place = Clamped(start);
-    Select(place, place);
+    SetSelection(start, 0);
 }
 
 void TextEditing::SetSelLength(int length) {
-    const Pos end =
-        length == -1 ? All().size() : Clamped(static_cast<std::int64_t>(start_) + std::max(length, 0));
-    end_ = std::max(start_, end);
-    if (end_ > start_) pending_ = {};
+    SetSelection(SelStart(), length);
+}
+
+void TextEditing::SetSelection(int start, int length) {
+    const Pos from = Clamped(start);
+    const Pos to =
+        length == -1 ? All().size() : Clamped(static_cast<std::int64_t>(from) + std::max(length, 0));
+    if (to > from) pending_ = {};
+    Select(from, to);
 }
 
 Text TextEditing::SelText() const {
@@ -105,7 +128,7 @@ Text TextEditing::SelText() const {
 }
 
 void TextEditing::SetSelText(TextView text) {
-    Insert(LineLike(text, First(), FieldFor(start_, end_)));
+    Insert(LineHere(text, FieldFor(start_, end_)));
 }
 
 std::string TextEditing::SelTextRtf() const {
@@ -134,55 +157,52 @@ void TextEditing::SetSelTextRtf(std::string_view rtf) {
     Insert(std::move(read.document));
 }
 
-/// A piece of the text with the look and with the paragraph format of the cursor.
-Document TextEditing::LineLike(TextView text, const Look& look, Index field) const {
+/// A piece of the text with the look and the format of its paragraphs.
+Document TextEditing::LineLike(TextView text, const Look& look, Index field, const ParaFormat& shape) const {
     Document piece = FromPlainText(text);
     piece.fonts[0] = look.font;
     CharFormat format = look.format;
     format.font = 0;
-    const Index number = piece.chars.Add(format);
-    const Index shape = piece.paras.Add(Para());
+    const Index charNumber = piece.chars.Add(format);
+    const Index paraNumber = piece.paras.Add(shape);
     for (Paragraph& paragraph : piece.paragraphs) {
-        paragraph.format = shape;
+        paragraph.format = paraNumber;
         if (paragraph.text.empty())
-            paragraph.emptyFormat = number;
+            paragraph.emptyFormat = charNumber;
         else
-            paragraph.runs = {{static_cast<Index>(paragraph.text.size()), number, field}};
+            paragraph.runs = {{static_cast<Index>(paragraph.text.size()), charNumber, field}};
     }
     return piece;
 }
 
 void TextEditing::Insert(Document piece) {
     const Pos end = store_->Replace(start_, end_, piece);
+    start_ = end_ = end;
+    DropPending();
     NoteChange(true);
-    start_ = end_ = Clamped(static_cast<std::int64_t>(end));
-    pending_ = {};
-    emptyField_.reset();
+    SelectionMoved();
 }
 
-bool TextEditing::Undo() {
-    if (!store_->Undo()) return false;
-    Select(std::min(start_, All().size()), std::min(end_, All().size()));
+bool TextEditing::Travel(bool (TextStore::*way)()) {
+    if (!((*store_).*way)()) return false;
+    DropPending();
     NoteChange(true);
-    return true;
-}
-
-bool TextEditing::Redo() {
-    if (!store_->Redo()) return false;
-    Select(std::min(start_, All().size()), std::min(end_, All().size()));
-    NoteChange(true);
+    SelectionMoved();
     return true;
 }
 
 /// The look of the first character of the selection, or of what is written next.
 Look TextEditing::First() const {
-    if (start_ == end_) return With(store_->LookAt(start_), pending_);
+    return start_ == end_ ? With(store_->LookAt(start_), pending_) : LookIn(start_, end_);
+}
+
+Look TextEditing::LookIn(Pos from, Pos to) const {
     std::optional<Look> first;
-    // A selection may begin with the ends of paragraphs, so a few characters more are looked at.
-    store_->Runs(start_, std::min(end_, start_ + 64), [&first](Pos, std::size_t, const Look& look) {
+    // A stretch may begin with the ends of paragraphs, so a few characters more are looked at.
+    store_->Runs(from, std::min(to, from + 64), [&first](Pos, std::size_t, const Look& look) {
         if (!first) first = look;
     });
-    return first ? *first : store_->LookAt(start_);
+    return first ? *first : store_->LookAt(from);
 }
 
 int TextEditing::FlagOf(bool CharFormat::*flag) const {
@@ -305,7 +325,9 @@ void TextEditing::SetTabType(int type) {
 void TextEditing::SetPageSize(Page::Size size, int twips) {
     Page page = store_->PageSetup();
     page[size] = std::clamp(twips, 0, kLongest);
+    if (page == store_->PageSetup()) return;
     store_->SetPageSetup(page);
+    NoteChange(false);
 }
 
 } // namespace korvane::doc

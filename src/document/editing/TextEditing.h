@@ -35,10 +35,14 @@ public:
     };
 
     explicit TextEditing(std::unique_ptr<TextStore> store);
+    TextEditing(const TextEditing&) = delete;
+    TextEditing& operator=(const TextEditing&) = delete;
+    virtual ~TextEditing() = default;
 
     TextStore& Store() { return *store_; }
-    /// Runs after every change of the text or of its formats.
-    std::function<void()> Changed;
+    const TextStore& Store() const { return *store_; }
+    /// Goes on with another store, which gets the document. Nothing of before can be undone.
+    void SetStore(std::unique_ptr<TextStore> store);
 
     // The text and the selection.
     const Text& All() const { return store_->All(); }
@@ -52,6 +56,8 @@ public:
     int SelLength() const { return static_cast<int>(end_ - start_); }
     /// -1 selects up to the end.
     void SetSelLength(int length);
+    /// Both in one step.
+    void SetSelection(int start, int length);
     Text SelText() const;
     void SetSelText(TextView text);
     std::string SelTextRtf() const;
@@ -59,8 +65,10 @@ public:
     void DeleteSelection() { SetSelText({}); }
     bool DataChanged() const { return dataChanged_; }
     void SetDataChanged(bool changed) { dataChanged_ = changed; }
-    bool Undo();
-    bool Redo();
+    /// The store was changed by its own view, which left this selection.
+    void NoteOwnEdit(int start, int length);
+    bool Undo() { return Travel(&TextStore::Undo); }
+    bool Redo() { return Travel(&TextStore::Redo); }
 
     // Characters: of the selection, or of what is written next at the cursor.
     Text FontName() const;
@@ -159,6 +167,12 @@ public:
     /// text.
     void FieldInsert(TextView text);
 
+protected:
+    /// Runs after every change of the text or of its formats.
+    virtual void Edited() {}
+    /// Runs after the selection became another one.
+    virtual void SelectionMoved() {}
+
 private:
     struct FieldPlace {
         Index field = 0;
@@ -168,6 +182,8 @@ private:
 
     int FlagOf(bool CharFormat::*flag) const;
     Look First() const;
+    /// The look of the first character of the stretch, or of what is written there.
+    Look LookIn(Pos from, Pos to) const;
     void Apply(const CharDelta& delta);
     ParaFormat Para() const { return store_->ParaAt(start_); }
     void ChangeParas(const std::function<void(ParaFormat&)>& change);
@@ -175,9 +191,14 @@ private:
     void ChangeTab(const std::function<void(std::vector<TabStop>&, std::size_t)>& change);
     void Select(Pos start, Pos end);
     void Insert(Document piece);
-    Document LineLike(TextView text, const Look& look, Index field) const;
+    Document LineLike(TextView text, const Look& look, Index field, const ParaFormat& shape) const;
+    Document LineHere(TextView text, Index field) const { return LineLike(text, First(), field, Para()); }
     Index FieldFor(Pos from, Pos to) const;
+    /// `moved` says whether places in the text became others.
     void NoteChange(bool moved);
+    /// Undoes or does again, if there is something to.
+    bool Travel(bool (TextStore::*way)());
+    void DropPending();
     Pos Clamped(std::int64_t position) const;
 
     static Index TableNumber(int table) { return static_cast<Index>(table < 0 ? -table : table); }
