@@ -1,0 +1,136 @@
+#pragma once
+
+#include "controls/Control.h"
+#include "controls/TextDialogs.h"
+#include "controls/TextFiles.h"
+#include "document/editing/TextEditing.h"
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace korvane {
+
+/// A text that the user is typing, before it is written.
+struct TypedText {
+    Text text;
+    /// Keeps the text from being written.
+    bool consumed = false;
+
+    bool Is(char16_t character) const { return text == TextView(&character, 1); }
+};
+
+/// A formatted text with tables and fields. What can be done with the text is in `TextEditing`; this adds its
+/// look, its files and the user.
+///
+/// An adaptor shows it so:
+/// - `SetStore` gives it a store that the view can draw, which the control owns from then on. When the view
+///   goes, the store stays and the next view goes on with it.
+/// - `Aspect::Text` says that the text or its formats changed, `Aspect::Selection` that the program moved the
+///   selection. The view then shows `SelStart` and `SelLength` and scrolls to them.
+/// - What the user types goes to `Type`, a selection that the user makes to `MoveSelection`. A text is
+/// deleted
+///   by `MoveSelection` and `DeleteSelection`, and pasted by `SetSelText` or `SetSelTextRtf`.
+/// - If the view changes its store by itself, it tells `NoteOwnEdit` afterwards.
+/// - `KeyDown` sees every key first, as in all controls.
+class TextControl : public Control, public doc::TextEditing {
+public:
+    /// A new control keeps its text in memory.
+    TextControl(Form& owner, std::string_view name);
+
+    /// Of the page, in per cent.
+    Property<int> ZoomFactor{*this, Aspect::Value, 100};
+    /// 0 lets the text flow in the width of the control, 2 shows pages.
+    static constexpr int kFlow = 0;
+    static constexpr int kPages = 2;
+    Property<int> ViewMode{*this, Aspect::State, kFlow};
+    /// How pages are shown: 1 on a light ground, 0 on a dark one.
+    Property<int> PageViewStyle{*this, Aspect::State, 1};
+    /// Whether the ends of paragraphs and tabs are shown.
+    Property<bool> ControlChars{*this, Aspect::State};
+    /// The unit of the ruler and of the control's windows.
+    static constexpr int kInches = 0;
+    static constexpr int kMillimetres = 1;
+    Property<int> ScaleUnits{*this, Aspect::State, kInches};
+    /// The background of the page. `kNoColour` leaves it to the look of the window.
+    Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
+    /// Whether the user can't change the text.
+    Property<bool> Locked{*this, Aspect::Enabled};
+    /// While this is off, the view shows what was there when it was turned off.
+    Property<bool> Redraw{*this, Aspect::Visible, true};
+    /// What the window leaves free at the left of the control. Its other sides belong to the layout.
+    Property<Twips> Left{*this, Aspect::Place};
+    /// Whether pictures are written into the file (1) or beside it.
+    int ImageSaveMode = 1;
+
+    // Events.
+
+    /// The user is typing a text, also a tab or a Return.
+    std::function<void(TypedText&)> KeyPress;
+    /// The text or its formats changed in any way but by a typed space.
+    std::function<void()> Change;
+    /// The selection became another one, by the user or the program.
+    std::function<void()> SelChange;
+    /// A step failed, with the reason.
+    std::function<void(const Text&)> Error;
+    std::function<void(int field)> FieldEntered;
+    std::function<void()> FieldLeft;
+    /// A field that isn't a hyperlink was clicked.
+    std::function<void(int field)> FieldClicked;
+    std::function<void(int field, int kind, const Text& link)> HyperlinkClicked;
+
+    // What the user does.
+
+    /// A text, mostly of one character, is typed at the selection. Return is CR.
+    void Type(TextView text);
+    void MoveSelection(int start, int length);
+    /// The mouse comes over a field, or leaves it for 0.
+    void Hover(int field);
+    void Click(int field);
+
+    // Files. Without `Files`, none can be read or written.
+
+    /// Outlives the control.
+    TextFiles* Files = nullptr;
+    /// Takes the place of the text. Nothing changes when the file can't be read.
+    bool Load(TextView path, int format);
+    bool Save(TextView path, int format);
+    bool LoadFromMemory(std::string_view bytes, int format);
+    /// Empty when there is no such format in memory.
+    std::string SaveToMemory(int format) const;
+    /// The attributes 0 to 5 are the sizes of the page in the order of `Page::Size`. After a load they are
+    /// those that the file told, and 0 for the others.
+    int LoadSaveAttribute(int index) const;
+    void SetLoadSaveAttribute(int index, int value) { attributes_[index] = value; }
+    void SetLoadSaveAttribute(int index, TextView value) { attributes_[index] = Text(value); }
+
+    // Dialogs. Without `Dialogs`, none is shown.
+
+    /// Outlives the control.
+    TextDialogs* Dialogs = nullptr;
+    void FindReplaceDialog(int mode) { Show(mode == 2 ? TextDialog::Replace : TextDialog::Find); }
+    void ParagraphDialog() { Show(TextDialog::Paragraph); }
+    void ListAttrDialog() { Show(TextDialog::List); }
+    void PageSetupDialog() { Show(TextDialog::Page); }
+    void TabDialog() { Show(TextDialog::Tabs); }
+    void TableInsertDialog() { Show(TextDialog::InsertTable); }
+    void TableAttrDialog() { Show(TextDialog::Table); }
+
+protected:
+    void Edited() override;
+    void SelectionMoved() override;
+
+private:
+    void Show(TextDialog dialog);
+    void Take(doc::ReadResult read);
+    bool Fail(TextView reason);
+
+    std::map<int, std::variant<int, Text>> attributes_;
+    bool spaceTyped_ = false;
+    bool movedByUser_ = false;
+    int hovered_ = 0;
+};
+
+} // namespace korvane
