@@ -80,6 +80,14 @@ public:
     /// The same for a file that only its owner may read, also when others could read it before. On a disk
     /// that doesn't know owners it is `OpenRaw`.
     virtual std::unique_ptr<FileWriter> OpenPrivate(TextView path) { return OpenRaw(path); }
+    /// Gives the file these bytes, or makes it. They are safe under another name before they take the file's,
+    /// so that a failure leaves the file as it was, and it keeps its rights. A link is followed. Only where
+    /// no other file can be made in the folder, or the file is none that can be replaced, are the bytes
+    /// written into the file itself.
+    virtual bool WriteWhole(TextView path, std::string_view bytes) {
+        const auto file = OpenRaw(path);
+        return file && file->Write(bytes) && file->Close();
+    }
     /// Whether the file is there and may be written.
     virtual bool CanWrite(TextView path) const { return FileExists(path); }
     /// Removes a file; one that can't be written is refused. For a symbolic link, the file that it names is

@@ -156,6 +156,21 @@ bool MemoryFileSystem::CanOpenToWrite(const Place& place) {
     return true;
 }
 
+bool MemoryFileSystem::WriteWhole(TextView path, std::string_view bytes) {
+    if (Strikes(FileStep::OpenToWrite)) return false;
+    const Place place = Find(path);
+    if (!CanOpenToWrite(place)) return false;
+    Place unfinished{place.volume, place.folder, Text(kUnfinishedCopy), nullptr};
+    const auto made = unfinished.node = disk_.Put(unfinished, MemoryNode::Kind::File);
+    const bool whole = !Strikes(FileStep::Write) && Append(*made, *place.volume, bytes) &&
+                       !Strikes(FileStep::Close) && !Strikes(FileStep::Rename);
+    disk_.Erase(unfinished);
+    if (!whole) return false;
+    if (place.node) made->isPrivate = place.node->isPrivate;
+    disk_.PutBack(place, made);
+    return Succeed();
+}
+
 bool MemoryFileSystem::CanWrite(TextView path) const {
     const Place place = Find(path);
     return IsFile(place) && !place.volume->readOnly && !place.node->readOnly;

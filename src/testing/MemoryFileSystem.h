@@ -27,6 +27,7 @@ public:
     /// The disk has to outlive the writer.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
+    bool WriteWhole(TextView path, std::string_view bytes) override;
     bool CanWrite(TextView path) const override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;

@@ -213,6 +213,26 @@ TYPED_TEST_P(WholeFilesContract, AReadOnlyTargetStays) {
     EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt", u"b.txt"));
 }
 
+TYPED_TEST_P(WholeFilesContract, BytesAreWrittenToANewFileOrInPlaceOfOne) {
+    EXPECT_TRUE(this->Files().WriteWhole(this->At(u"a.txt"), "first and longer"));
+    EXPECT_EQ(this->stage.Contents(u"a.txt"), "first and longer");
+    EXPECT_TRUE(this->Files().WriteWhole(this->At(u"a.txt"), "second"));
+    EXPECT_EQ(this->stage.Contents(u"a.txt"), "second");
+    EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt"));
+}
+
+TYPED_TEST_P(WholeFilesContract, BytesAreNotWrittenToAReadOnlyFileAFolderOrNoFolder) {
+    this->stage.AddFile(u"a.txt", "old");
+    this->stage.SetReadOnly(u"a.txt");
+    EXPECT_FALSE(this->Files().WriteWhole(this->At(u"a.txt"), "new"));
+    EXPECT_NE(this->Files().LastErrorText(), u"");
+    EXPECT_EQ(this->stage.Contents(u"a.txt"), "old");
+    EXPECT_TRUE(this->Files().MakeDir(this->At(u"folder")));
+    EXPECT_FALSE(this->Files().WriteWhole(this->At(u"folder"), "new"));
+    EXPECT_FALSE(this->Files().WriteWhole(this->At(u"nowhere") + u"/b.txt", "new"));
+    EXPECT_THAT(this->Listing(), testing::ElementsAre(u"a.txt"));
+}
+
 TYPED_TEST_P(WholeFilesContract, AFileIsNotCopiedOntoItself) {
     this->stage.AddFile(u"a.txt", "bytes");
     ASSERT_TRUE(this->Files().MakeDir(this->At(u"folder")));
@@ -333,19 +353,18 @@ TYPED_TEST_P(WholeFilesContract, APrivateFolderIsAFolderLikeOthers) {
     EXPECT_TRUE(this->Files().RemoveDir(this->At(u"own")));
 }
 
-REGISTER_TYPED_TEST_SUITE_P(WholeFilesContract, ListsFilesByNameUnderThePatterns, ListsFoldersByName,
-                            WhereThereIsNoFolderNothingIsListed, NamesADriveAtLeast,
-                            MakesAFolderWhereNothingIs, RemovesAnEmptyFolderOnly, AFileIsNotRemovedAsAFolder,
-                            RenamesAFile, RenamesAFolderWithAllThatIsInIt, ARenameReplacesNothing,
-                            ARenameOfNothingOrToNothingFails, AFolderDoesNotGoIntoItself,
-                            KnowsOneThingByTwoPaths, ACopyHasTheBytesAndTheTime, ACopyMayBeEmptyOrLong,
-                            ACopyReplacesItsTargetAndLeavesNothingElse, ACopyOfAReadOnlyFileIsReadOnly,
-                            AReadOnlyTargetStays, AFileIsNotCopiedOntoItself, WhatIsNotThereIsNotCopied,
-                            AFolderIsNeitherCopiedNorReplaced, OnlyALongCopyStopsOnItsWay,
-                            OnItsWayACopyHasNotTheNameOfItsTarget, WhatTookTheNameMeanwhileStays,
-                            AFileStaysAsLongAsItHasAName, ASecondNameReplacesNothing,
-                            OnlyAFileThatIsThereGetsASecondName, OnlyAFileThatIsThereIsFlushed,
-                            AFileIsLockedByOneAtATime, APrivateFolderIsAFolderLikeOthers);
+REGISTER_TYPED_TEST_SUITE_P(
+    WholeFilesContract, ListsFilesByNameUnderThePatterns, ListsFoldersByName,
+    WhereThereIsNoFolderNothingIsListed, NamesADriveAtLeast, MakesAFolderWhereNothingIs,
+    RemovesAnEmptyFolderOnly, AFileIsNotRemovedAsAFolder, RenamesAFile, RenamesAFolderWithAllThatIsInIt,
+    ARenameReplacesNothing, ARenameOfNothingOrToNothingFails, AFolderDoesNotGoIntoItself,
+    KnowsOneThingByTwoPaths, ACopyHasTheBytesAndTheTime, ACopyMayBeEmptyOrLong,
+    ACopyReplacesItsTargetAndLeavesNothingElse, ACopyOfAReadOnlyFileIsReadOnly, AReadOnlyTargetStays,
+    BytesAreWrittenToANewFileOrInPlaceOfOne, BytesAreNotWrittenToAReadOnlyFileAFolderOrNoFolder,
+    AFileIsNotCopiedOntoItself, WhatIsNotThereIsNotCopied, AFolderIsNeitherCopiedNorReplaced,
+    OnlyALongCopyStopsOnItsWay, OnItsWayACopyHasNotTheNameOfItsTarget, WhatTookTheNameMeanwhileStays,
+    AFileStaysAsLongAsItHasAName, ASecondNameReplacesNothing, OnlyAFileThatIsThereGetsASecondName,
+    OnlyAFileThatIsThereIsFlushed, AFileIsLockedByOneAtATime, APrivateFolderIsAFolderLikeOthers);
 
 // Tests of links, and of things that must not be opened. For them the stage also has AddLink(name, target)
 // and AddPipe(name).
@@ -421,6 +440,14 @@ TYPED_TEST_P(LinksContract, ALinkInTheTargetsPlaceIsReplacedAndNotFollowed) {
     EXPECT_EQ(this->stage.Contents(u"elsewhere"), "kept");
 }
 
+TYPED_TEST_P(LinksContract, BytesAreWrittenThroughALink) {
+    this->stage.AddFile(u"a.txt", "old");
+    this->stage.AddLink(u"link", u"a.txt");
+    EXPECT_TRUE(this->Files().WriteWhole(this->At(u"link"), "new"));
+    EXPECT_TRUE(this->Files().IsLink(this->At(u"link")));
+    EXPECT_EQ(this->stage.Contents(u"a.txt"), "new");
+}
+
 TYPED_TEST_P(LinksContract, ALinkToTheSourceIsTheSameFile) {
     this->stage.AddFile(u"a.txt", "bytes");
     this->stage.AddLink(u"link", u"a.txt");
@@ -466,6 +493,7 @@ REGISTER_TYPED_TEST_SUITE_P(LinksContract, LinksAreListedAsWhatTheyLeadTo, Names
                             ARenameTakesTheLinkAndReplacesNoneThatLeadsNowhere, ALinkIsCopiedAsItsFile,
                             ALinkInTheTargetsPlaceIsReplacedAndNotFollowed, ALinkToTheSourceIsTheSameFile,
                             ALinkThatLeadsNowhereIsNeitherCopiedNorWrittenThrough,
-                            APipeIsNeitherOpenedNorReplaced, ALinkGetsNoSecondName);
+                            BytesAreWrittenThroughALink, APipeIsNeitherOpenedNorReplaced,
+                            ALinkGetsNoSecondName);
 
 } // namespace korvane

@@ -6,6 +6,7 @@
 #include "platform/native/NativePath.h"
 #include "platform/native/NativeVolume.h"
 #include "platform/native/ReadFile.h"
+#include "platform/native/ReplaceBytes.h"
 #include "platform/native/SystemFile.h"
 
 #include <algorithm>
@@ -167,6 +168,13 @@ std::unique_ptr<FileWriter> NativeFileSystem::OpenWith(const std::optional<syste
     if (!file.IsOpen()) return nullptr;
     removed_ = {};
     return std::make_unique<Writer>(std::move(file), lastError_);
+}
+
+bool NativeFileSystem::WriteWhole(TextView path, std::string_view bytes) {
+    const auto error = ReplaceBytes(ToNativePath(path), bytes);
+    if (!error) return FileSystem::WriteWhole(path, bytes);
+    lastError_ = *error;
+    return !lastError_;
 }
 
 bool NativeFileSystem::CanWrite(TextView path) const {

@@ -27,6 +27,7 @@ public:
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     /// A file that exists, or that `Remove` removed last, keeps its owner's permissions and loses all others.
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
+    bool WriteWhole(TextView path, std::string_view bytes) override;
     bool CanWrite(TextView path) const override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;

@@ -331,6 +331,19 @@ TEST_F(PosixDisk, AFullDiskTakesWhatFits) {
     EXPECT_EQ(files.Contents(u"/a.tbx"), "12345");
 }
 
+TEST_F(PosixDisk, AFileStaysAsItWasUntilItsNewBytesAreWhole) {
+    files.AddFile(u"/a.rtf", "old");
+    for (const FileStep step : {FileStep::OpenToWrite, FileStep::Write, FileStep::Close, FileStep::Rename}) {
+        files.Faults().FailNth(step, 1);
+        EXPECT_FALSE(files.WriteWhole(u"/a.rtf", "new"));
+        EXPECT_EQ(files.Contents(u"/a.rtf"), "old");
+    }
+    files.SetFreeBytes(2);
+    EXPECT_FALSE(files.WriteWhole(u"/a.rtf", "new"));
+    EXPECT_EQ(files.Contents(u"/a.rtf"), "old");
+    EXPECT_EQ(files.FileNames(u"/", u"*").size(), 1U);
+}
+
 TEST_F(PosixDisk, AReadOnlyDiskKeepsItsFiles) {
     files.AddFile(u"/a.tbx", "old");
     files.SetDiskReadOnly();

@@ -43,6 +43,20 @@ TEST_F(NativeFiles, APipeIsNotRemoved) {
     EXPECT_NE(files.LastErrorText(), u"");
 }
 
+TEST_F(NativeFiles, AFileKeepsItsRightsWhenItIsWrittenWhole) {
+    WriteBytes(dir / "a.rtf", "old");
+    fs::permissions(dir / "a.rtf", kOwnersAlone);
+    EXPECT_TRUE(files.WriteWhole(At("a.rtf"), "new"));
+    EXPECT_EQ(ReadBytes(dir / "a.rtf"), "new");
+    EXPECT_EQ(fs::status(dir / "a.rtf").permissions(), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, ADeviceIsWrittenItself) {
+    EXPECT_TRUE(files.WriteWhole(u"/dev/null", "bytes"));
+    EXPECT_FALSE(files.WriteWhole(u"/dev/full", "bytes"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
 TEST_F(NativeFiles, RemovingALinkEmptiesItsFileAndKeepsTheLink) {
     WriteBytes(dir / "a.tbx", "old");
     fs::create_symlink("a.tbx", dir / "link.tbx");

@@ -1,0 +1,61 @@
+#include "platform/native/ReplaceBytes.h"
+
+#include "platform/native/SystemCalls.h"
+#include "platform/native/SystemFile.h"
+
+namespace korvane {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The file to which links lead. It needn't be there.
+fs::path TargetOf(const fs::path& path) {
+    std::error_code error;
+    fs::path target = fs::weakly_canonical(path, error);
+    return error ? path : target;
+}
+
+/// A name beside the file that is free.
+fs::path NameBeside(const fs::path& target) {
+    std::error_code ignored;
+    for (int number = 1;; ++number) {
+        fs::path name = target.parent_path() / (".korvane-" + std::to_string(number) + ".part");
+        if (!fs::exists(fs::symlink_status(name, ignored))) return name;
+    }
+}
+
+std::error_code WriteAll(SystemFile& file, std::string_view bytes) {
+    std::error_code error;
+    file.Write(bytes, error);
+    std::error_code closing;
+    file.Close(closing);
+    return error ? error : closing;
+}
+
+std::error_code GiveUp(const fs::path& unfinished, const std::error_code& error) {
+    std::error_code ignored;
+    fs::remove(unfinished, ignored);
+    return error;
+}
+
+} // namespace
+
+std::optional<std::error_code> ReplaceBytes(const fs::path& path, std::string_view bytes) {
+    const fs::path target = TargetOf(path);
+    std::error_code error;
+    const fs::file_status status = fs::status(target, error);
+    const bool isThere = fs::exists(status);
+    if (isThere && !fs::is_regular_file(status)) return std::nullopt;
+    if (isThere && !system_calls::IsWritable(target)) return LastSystemError();
+    const fs::path unfinished = NameBeside(target);
+    SystemFile file =
+        SystemFile::OpenToWrite(unfinished, isThere ? system_calls::RightsOf(target) : std::nullopt, error);
+    if (!file.IsOpen()) return std::nullopt;
+    error = WriteAll(file, bytes);
+    if (!error && !system_calls::Flush(unfinished)) error = LastSystemError();
+    if (!error) fs::rename(unfinished, target, error);
+    return error ? GiveUp(unfinished, error) : error;
+}
+
+} // namespace korvane
