@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+enum class Conversion : std::uint8_t { DocToRtf, RtfToDoc, PdfToXml };
+
+/// Other programs that know formats of documents which this one doesn't.
+class DocumentConverter {
+public:
+    virtual ~DocumentConverter() = default;
+    /// Nothing when no program can do it, or when it failed.
+    virtual std::optional<std::string> Convert(Conversion conversion, std::string_view bytes) = 0;
+};
+
+} // namespace korvane

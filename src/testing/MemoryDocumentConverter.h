@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/DocumentConverter.h"
+
+#include <map>
+
+namespace korvane {
+
+/// Knows of each conversion what a test told it, and remembers what it got.
+class MemoryDocumentConverter final : public DocumentConverter {
+public:
+    std::map<Conversion, std::string> outcomes;
+    std::map<Conversion, std::string> got;
+
+    std::optional<std::string> Convert(Conversion conversion, std::string_view bytes) override {
+        got[conversion] = bytes;
+        const auto found = outcomes.find(conversion);
+        return found == outcomes.end() ? std::nullopt : std::optional(found->second);
+    }
+};
+
+} // namespace korvane
