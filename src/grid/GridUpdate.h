@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grid/EndQuietly.h"
 #include "grid/Grid.h"
 
 namespace korvane {
@@ -11,7 +12,9 @@ public:
     explicit GridUpdate(Grid& grid) : grid_(grid) { grid_.GridBeginUpdate(); }
     GridUpdate(const GridUpdate&) = delete;
     GridUpdate& operator=(const GridUpdate&) = delete;
-    ~GridUpdate() { grid_.GridEndUpdate(); }
+    ~GridUpdate() {
+        EndQuietly([this] { grid_.GridEndUpdate(); });
+    }
 
 private:
     Grid& grid_;
@@ -24,7 +27,9 @@ public:
     explicit GridHidden(Grid& grid) : grid_(grid) { grid_.SetGridVisible(false); }
     GridHidden(const GridHidden&) = delete;
     GridHidden& operator=(const GridHidden&) = delete;
-    ~GridHidden() { grid_.SetGridVisible(true); }
+    ~GridHidden() {
+        EndQuietly([this] { grid_.SetGridVisible(true); });
+    }
 
 private:
     Grid& grid_;

@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "context/StandardMessages.h"
+#include "grid/EndQuietly.h"
 #include "grid/Grid.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
@@ -48,8 +49,8 @@ public:
     LoadBracket& operator=(const LoadBracket&) = delete;
     ~LoadBracket() {
         if (leftOpen_) return;
-        grid_.GridEndUpdate();
-        grid_.SetGridVisible(true);
+        EndQuietly([this] { grid_.GridEndUpdate(); });
+        EndQuietly([this] { grid_.SetGridVisible(true); });
     }
     void LeaveOpen() { leftOpen_ = true; }
 

@@ -3,6 +3,7 @@
 #include "grid/Grid.h"
 #include "table/TableHost.h"
 
+#include <exception>
 #include <utility>
 
 namespace korvane {
@@ -123,7 +124,14 @@ TableStep::TableStep(TableHistory& history) : history_(history) {
 }
 
 TableStep::~TableStep() {
-    history_.EndStep();
+    try {
+        history_.EndStep();
+    } catch (const std::exception&) {
+        // The earlier steps lead to a state that isn't this one, and nobody knows whether this one is saved.
+        history_.Stop();
+        history_.Start();
+        history_.NoteFileLost();
+    }
     --history_.commandDepth_;
 }
 

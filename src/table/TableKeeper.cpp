@@ -1,6 +1,7 @@
 #include "table/TableKeeper.h"
 
 #include "context/App.h"
+#include "grid/EndQuietly.h"
 
 namespace korvane {
 
@@ -9,7 +10,8 @@ WatchedCommand::WatchedCommand(const TabContext& tab) : tab_(tab), keeper_(tab.a
 }
 
 WatchedCommand::~WatchedCommand() {
-    if (keeper_ != nullptr) keeper_->CommandEnds(tab_);
+    if (keeper_ == nullptr) return;
+    EndQuietly([this] { keeper_->CommandEnds(tab_); });
 }
 
 std::unique_ptr<SaveGuard> GuardSave(const TabContext& tab) {

@@ -17,6 +17,22 @@
 
 namespace korvane {
 
+namespace {
+
+/// Ends the step of a slide, whatever becomes of what belongs to it.
+class SlideEnd {
+public:
+    explicit SlideEnd(std::optional<TableStep>& step) : step_(step) {}
+    SlideEnd(const SlideEnd&) = delete;
+    SlideEnd& operator=(const SlideEnd&) = delete;
+    ~SlideEnd() { step_.reset(); }
+
+private:
+    std::optional<TableStep>& step_;
+};
+
+} // namespace
+
 struct frmMDIChild::Tables {
     static constexpr WindowKey<frmMDIChild> kFindKeys[] = {{"Return", &frmMDIChild::cmdFind},
                                                            {"Esc", &frmMDIChild::Activate}};
@@ -118,8 +134,8 @@ void frmMDIChild::ZoomSlider_Scroll() {
 
 void frmMDIChild::ZoomSlider_Released() {
     const WatchedCommand watched(Context());
+    const SlideEnd end(sliding_);
     ApplyRowHeight(Context());
-    sliding_.reset();
 }
 
 void frmMDIChild::iGrid1_AfterEdit() {

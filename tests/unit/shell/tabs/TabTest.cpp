@@ -1,5 +1,6 @@
 #include "dbops/commands/ColumnCommands.h"
 #include "grid/Grid.h"
+#include "support/HandlerFailure.h"
 #include "support/TestProgram.h"
 #include "table/TableFile.h"
 #include "text/frmViewAndPaste.h"
@@ -202,6 +203,33 @@ TEST_F(TabTest, TheSliderSetsTheHeightWhileItMovesAndTheRowsWhenItIsReleased) {
     Tab().ZoomSlider.Release();
     EXPECT_EQ(Tab().GridStore().RowHeight(Row{1}), 50);
     EXPECT_EQ(Tab().GridStore().RowHeight(Row{2}), 50);
+}
+
+/// A view that can't show a change.
+class FailingView final : public GridListener {
+public:
+    void RowsChanged(Row, Row) override { FailInHandler(); }
+    void TableChanged() override { FailInHandler(); }
+    void ColumnChanged(Col) override { FailInHandler(); }
+    void LookChanged() override { FailInHandler(); }
+    void CurrentCellChanged() override { FailInHandler(); }
+    void FocusWanted() override { FailInHandler(); }
+    void RowWantedInView(Row) override { FailInHandler(); }
+};
+
+TEST_F(TabTest, ASlideThatFailsEndsItsStep) {
+    Start();
+    FailingView view;
+    Tab().ZoomSlider.MoveTo(50);
+    Tab().GridStore().SetListener(&view);
+    EXPECT_THROW(Tab().ZoomSlider.Release(), HandlerFailure);
+    Tab().GridStore().SetListener(nullptr);
+    Tab().iGrid1.CommitEdit(Row{1}, Col{1}, u"plum");
+    EXPECT_TRUE(Tab().Context().history->Undo());
+    EXPECT_EQ(Cell(1), u"pear");
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{1}), 50);
+    EXPECT_TRUE(Tab().Context().history->Undo());
+    EXPECT_EQ(Tab().GridStore().RowHeight(Row{1}), 24);
 }
 
 TEST_F(TabTest, CtrlShiftReturnInTheBoxSetsTheHeightOfAllRows) {
