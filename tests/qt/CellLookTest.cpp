@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace korvane {
 namespace {
 
@@ -62,6 +64,20 @@ TEST_F(CellLookTest, ADarkTextWithoutABackgroundStaysReadableInTheDark) {
     const CellColours colours = ColoursOf(*store, kRow, kCol, Dark());
     EXPECT_GE(Contrast(colours.text, colours.back), kReadable);
     EXPECT_GT(colours.text.blue(), colours.text.red());
+}
+
+TEST_F(CellLookTest, ARowOfTheDefaultWhiteIsDrawnAsTheTableInTheDark) {
+    store->SetGridBackColor(Colour{0xFFFFFF});
+    store->SetCellBackColor(kRow, kCol, Colour{0xFFFFFF});
+    store->SetCellForeColor(kRow, kCol, Colour{0});
+    const CellColours dark = ColoursOf(*store, kRow, kCol, Dark());
+    EXPECT_EQ(dark.back, QColor(30, 30, 34));
+    EXPECT_GE(Contrast(dark.text, dark.back), 4.5);
+    const CellColours light = ColoursOf(*store, kRow, kCol, QPalette());
+    EXPECT_EQ(light.back, QColor(Qt::white));
+    EXPECT_EQ(light.text, QColor(Qt::black));
+    store->SetGridBackColor(Colour{0xC0FFFF});
+    EXPECT_EQ(ColoursOf(*store, kRow, kCol, Dark()).back, ToQColor(Colour{0xC0FFFF}));
 }
 
 TEST_F(CellLookTest, TwoColoursOfTheDataStandAsTheyAre) {
@@ -123,6 +139,30 @@ TEST(MarkBackTest, StandsOutMoreInTheCurrentCell) {
     const QColor soft = MarkBack(colours, Mark::Soft);
     const QColor strong = MarkBack(colours, Mark::Strong);
     EXPECT_LT(strong.blue(), soft.blue());
+}
+
+TEST(MarkBackTest, HasAnOutlineThatCanBeSeenOnEveryLookOfARow) {
+    for (const auto& [name, colours] : Looks()) {
+        for (const Mark mark : {Mark::Soft, Mark::Strong})
+            EXPECT_GE(Contrast(MarkEdge(colours, MarkBack(colours, mark)), colours.back), 3.0) << name;
+    }
+}
+
+TEST(FrameTest, OneOfItsTwoLinesCanBeSeenOnAnyColour) {
+    for (const QColor accent :
+         {QColor(48, 140, 198), QColor(53, 117, 189), QColor(Qt::yellow), QColor(Qt::black)}) {
+        const FrameColours frame = FrameOf(accent);
+        constexpr int kStep = 17;
+        for (int red = 0; red < 256; red += kStep) {
+            for (int green = 0; green < 256; green += kStep) {
+                for (int blue = 0; blue < 256; blue += kStep) {
+                    const QColor back(red, green, blue);
+                    const double best = std::max(Contrast(frame.dark, back), Contrast(frame.light, back));
+                    ASSERT_GE(best, 3.0) << back.name().toStdString();
+                }
+            }
+        }
+    }
 }
 
 TEST(CheckColoursTest, ABoxAndItsTickCanBeSeenOnEveryLookOfARow) {

@@ -52,6 +52,27 @@ QColor TextFor(const QColor& back, const QPalette& palette) {
     return BlackOrWhite(back);
 }
 
+QColor WithContrast(const QColor& colour, std::initializer_list<QColor> backs, double wanted) {
+    const QColor aim = BlackOrWhite(*backs.begin());
+    const auto least = [&backs](const QColor& candidate) {
+        double contrast = Contrast(candidate, *backs.begin());
+        for (const QColor& back : backs)
+            contrast = std::min(contrast, Contrast(candidate, back));
+        return contrast;
+    };
+    constexpr int kSteps = 20;
+    QColor result = colour;
+    for (int step = 1; step <= kSteps && least(result) < wanted; ++step)
+        result = Blend(colour, aim, static_cast<double>(step) / kSteps);
+    return result;
+}
+
+QColor RingColour(const QPalette& palette, std::initializer_list<QColor> backs) {
+    // A little more than is needed, because smoothed edges lose some of it.
+    constexpr double kRingContrast = 3.4;
+    return WithContrast(palette.color(QPalette::Highlight), backs, kRingContrast);
+}
+
 QColor BlackOrWhite(const QColor& back) {
     return Contrast(Qt::black, back) >= Contrast(Qt::white, back) ? Qt::black : Qt::white;
 }

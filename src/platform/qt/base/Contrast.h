@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QPalette>
+#include <initializer_list>
 
 namespace korvane {
 
@@ -17,11 +18,22 @@ Colour ChosenBack(Colour back, const QPalette& palette);
 /// A text with less contrast than this is hard to read.
 inline constexpr double kReadable = 3.0;
 
+/// The contrast with which a text is easy to read.
+inline constexpr double kEasyToRead = 4.5;
+
 /// How well `text` can be read on `back`: from 1 (not at all) to 21.
 double Contrast(const QColor& text, const QColor& back);
 
 /// The palette's text colour if it can be read on `back`, otherwise black or white.
 QColor TextFor(const QColor& back, const QPalette& palette);
+
+/// The colour, made as much lighter or darker as it takes to have the contrast with all of `backs`. Where
+/// that can't be had, it is black or white.
+QColor WithContrast(const QColor& colour, std::initializer_list<QColor> backs, double wanted);
+
+/// The colour of the ring around what has the keyboard: the palette's accent, so that it can be seen on
+/// `backs`.
+QColor RingColour(const QPalette& palette, std::initializer_list<QColor> backs);
 
 /// Black or white, whichever is easier to read on `back`.
 QColor BlackOrWhite(const QColor& back);

@@ -26,7 +26,7 @@ constexpr RoleColour kDark[] = {
     {QPalette::BrightText, 0xffff6b6b},
     {QPalette::ToolTipBase, 0xff32363d},
     {QPalette::ToolTipText, 0xffe4e7eb},
-    {QPalette::Highlight, 0xff3d7fc9},
+    {QPalette::Highlight, 0xff3575bd},
     {QPalette::HighlightedText, 0xffffffff},
     {QPalette::Link, 0xff6fb1f5},
     {QPalette::LinkVisited, 0xffb59af0},

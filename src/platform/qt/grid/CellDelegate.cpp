@@ -22,16 +22,21 @@ constexpr unsigned kFontCount = 8;
 constexpr double kRowTint = 0.07;
 constexpr double kCellTint = 0.12;
 
+/// Draws lines of this width along the inner side of the rectangle's edges.
+void PaintLines(QPainter& painter, const QRect& area, int width, const QColor& colour) {
+    painter.fillRect(QRect(area.left(), area.top(), area.width(), width), colour);
+    painter.fillRect(QRect(area.left(), area.bottom() - width + 1, area.width(), width), colour);
+    painter.fillRect(QRect(area.left(), area.top(), width, area.height()), colour);
+    painter.fillRect(QRect(area.right() - width + 1, area.top(), width, area.height()), colour);
+}
+
+/// The frame is thinner where another control has the keyboard.
 void PaintFrame(QPainter& painter, const QStyleOptionViewItem& option) {
-    const auto group = option.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     const bool focused = option.widget != nullptr && option.widget->hasFocus();
-    const QColor accent = option.palette.color(group, QPalette::Highlight);
-    const QColor colour = focused ? accent : Blend(accent, option.palette.color(QPalette::Mid), 0.6);
-    const QRect& cell = option.rect;
-    painter.fillRect(QRect(cell.left(), cell.top(), cell.width(), kFrameWidth), colour);
-    painter.fillRect(QRect(cell.left(), cell.bottom() - kFrameWidth + 1, cell.width(), kFrameWidth), colour);
-    painter.fillRect(QRect(cell.left(), cell.top(), kFrameWidth, cell.height()), colour);
-    painter.fillRect(QRect(cell.right() - kFrameWidth + 1, cell.top(), kFrameWidth, cell.height()), colour);
+    const int width = focused ? kFrameWidth : 1;
+    const FrameColours colours = FrameOf(option.palette.color(QPalette::Active, QPalette::Highlight));
+    PaintLines(painter, option.rect, width, colours.dark);
+    PaintLines(painter, option.rect.adjusted(width, width, -width, -width), 1, colours.light);
 }
 
 QFont FlaggedFont(const QFont& base, unsigned flags) {
@@ -112,7 +117,7 @@ TextMarks CellDelegate::MarksIn(CellPosition cell, const CellColours& colours) c
     const Text& part = box_.MarkedText.Get();
     if (part.empty()) return {};
     const QColor back = MarkBack(colours, IsCurrent(cell) ? Mark::Strong : Mark::Soft);
-    return {part, back, MarkText(colours, back)};
+    return {part, back, MarkText(colours, back), MarkEdge(colours, back)};
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -12,8 +12,6 @@ namespace {
 
 /// The contrast to which a text is brought that was hard to read.
 constexpr double kComfortable = 6.0;
-/// The contrast that a text keeps on a marked place.
-constexpr double kMarkContrast = 4.5;
 
 Colour FirstSet(Colour first, Colour second) {
     return first == kNoColour ? second : first;
@@ -27,13 +25,7 @@ Colour OwnTableBack(const Grid& store, const QPalette& palette) {
 /// Makes the data's text colour readable on a background that the data didn't choose: the hue stays, and the
 /// colour becomes as light or dark as needed.
 QColor Readable(const QColor& text, const QColor& back) {
-    if (Contrast(text, back) >= kReadable) return text;
-    const QColor aim = IsDark(back) ? Qt::white : Qt::black;
-    QColor result = text;
-    for (int step = 1; step <= 10 && Contrast(result, back) < kComfortable; ++step) {
-        result = Blend(text, aim, step / 10.0);
-    }
-    return result;
+    return Contrast(text, back) >= kReadable ? text : WithContrast(text, {back}, kComfortable);
 }
 
 /// The hues of marks, the best one first. The next one is used where the background has a similar hue, or
@@ -48,7 +40,7 @@ int Difference(const QColor& a, const QColor& b) {
 
 /// Mixes in up to `share` of the hue, but only so much that the text stays readable.
 QColor ReadableMark(const CellColours& colours, const QColor& hue, double share) {
-    const double wanted = std::min(Contrast(colours.text, colours.back), kMarkContrast);
+    const double wanted = std::min(Contrast(colours.text, colours.back), kEasyToRead);
     QColor mark = Blend(colours.back, hue, share);
     for (; share > 0.05 && Contrast(colours.text, mark) < wanted; share -= 0.05)
         mark = Blend(colours.back, hue, share);
@@ -69,7 +61,17 @@ QColor MarkBack(const CellColours& colours, Mark mark) {
 }
 
 QColor MarkText(const CellColours& colours, const QColor& mark) {
-    return Contrast(colours.text, mark) >= kMarkContrast ? colours.text : BlackOrWhite(mark);
+    return Contrast(colours.text, mark) >= kEasyToRead ? colours.text : BlackOrWhite(mark);
+}
+
+QColor MarkEdge(const CellColours& colours, const QColor& mark) {
+    return WithContrast(mark, {colours.back}, kReadable);
+}
+
+FrameColours FrameOf(const QColor& accent) {
+    // With this contrast between the two lines, one of them differs enough from any colour.
+    constexpr double kBetweenLines = 9.2;
+    return {WithContrast(accent, {Qt::white}, kBetweenLines), Qt::white};
 }
 
 CellColours Faded(const CellColours& colours) {
@@ -93,7 +95,8 @@ QColor GridLine(const QColor& back) {
 }
 
 CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette) {
-    const Colour back = FirstSet(store.CellBackColor(row, col), OwnTableBack(store, palette));
+    const Colour own = ChosenBack(store.CellBackColor(row, col), palette);
+    const Colour back = FirstSet(own, OwnTableBack(store, palette));
     const Colour text = FirstSet(store.CellForeColor(row, col), store.GridForeColor());
     const QColor shownBack = back == kNoColour ? palette.color(QPalette::Base) : ToQColor(back);
     if (text == kNoColour) return {shownBack, TextFor(shownBack, palette)};

@@ -15,8 +15,19 @@ struct CellColours {
 };
 
 /// The colours of a cell: its own, otherwise the table's, otherwise the palette's. Where the data sets only
-/// the text or only the background, the other one is chosen so that the text can be read.
+/// the text or only the background, the other one is chosen so that the text can be read. White is the
+/// default, so on a dark palette it counts as not set.
 CellColours ColoursOf(const Grid& store, Row row, Col col, const QPalette& palette);
+
+/// The colour of the line around such a mark, which can be seen on the cell's background.
+QColor MarkEdge(const CellColours& colours, const QColor& mark);
+
+/// The two lines of the frame around the current cell. One of them can be seen on any background.
+struct FrameColours {
+    QColor dark;
+    QColor light;
+};
+FrameColours FrameOf(const QColor& accent);
 
 /// The colours of a row that is going to be deleted: the text is halfway to the background.
 CellColours Faded(const CellColours& colours);

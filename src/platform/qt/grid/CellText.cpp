@@ -118,6 +118,10 @@ private:
         const qreal right = line.cursorToX(static_cast<int>(end));
         const QRectF mark(std::min(left, right), line.y(), std::abs(right - left), line.height());
         painter_.fillRect(mark.translated(shift), marks_.back);
+        const QPen before = painter_.pen();
+        painter_.setPen(marks_.edge);
+        painter_.drawRect(mark.translated(shift).toRect().adjusted(0, 0, -1, -1));
+        painter_.setPen(before);
     }
 
     /// Draws the last line that fits, with an ellipsis if more text follows.

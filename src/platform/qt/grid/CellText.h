@@ -15,6 +15,7 @@ struct TextMarks {
     TextView part{};
     QColor back{};
     QColor text{};
+    QColor edge{};
 };
 
 /// Draws a cell's text from the top left corner of `area`. The text is wrapped if there is room for several

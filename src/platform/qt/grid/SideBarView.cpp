@@ -31,8 +31,9 @@ public:
         painter->fillRect(option.rect, option.palette.window());
         painter->setPen(option.palette.color(QPalette::WindowText));
         if (current) PaintHighlight(*painter, option);
+        const QColor text = painter->pen().color();
         PaintContent(*painter, option, index);
-        if (current && view_.hasFocus()) PaintFocus(*painter, option);
+        if (current && view_.hasFocus()) PaintFocus(*painter, option, text);
         painter->restore();
     }
 
@@ -47,11 +48,12 @@ private:
         painter.setPen(text.isValid() ? text : option.palette.color(QPalette::HighlightedText));
     }
 
-    void PaintFocus(QPainter& painter, const QStyleOptionViewItem& option) const {
+    /// The text's colour can be seen on the highlight, so the ring has it too.
+    void PaintFocus(QPainter& painter, const QStyleOptionViewItem& option, const QColor& colour) const {
         const QRectF ring = QRectF(option.rect).adjusted(kInset, 2, -kInset, -2);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(option.palette.color(QPalette::WindowText), kRing));
+        painter.setPen(QPen(colour, kRing));
         painter.drawRoundedRect(ring.adjusted(1, 1, -1, -1), kRadius, kRadius);
     }
 
