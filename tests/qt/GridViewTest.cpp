@@ -3,6 +3,7 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/PopupPlace.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/grid/CellEditor.h"
 #include "platform/qt/grid/CellLook.h"
@@ -306,6 +307,19 @@ TEST_F(GridViewTest, TheKeyboardComesWhenTheStoreWantsIt) {
     View().clearFocus();
     Store().GridSetFocus();
     EXPECT_TRUE(View().hasFocus());
+}
+
+// ---- The pop-up menu ----------------------------------------------------------------------------------
+
+TEST_F(GridViewTest, TheMenuKeyOpensThePopUpAtTheCurrentCell) {
+    Store().SetCurRow(Row{3});
+    Store().SetCurCol(Col{2});
+    QPoint place;
+    form.iGrid1.MouseUp = [&place](MouseButton) { place = PopupPlace::Wanted(); };
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&View(), &menuKey);
+    EXPECT_EQ(place, View().viewport()->mapToGlobal(Cell(3, 2).bottomLeft()));
+    EXPECT_EQ(PopupPlace::Wanted(), QCursor::pos());
 }
 
 // ---- Keys and buttons ---------------------------------------------------------------------------------

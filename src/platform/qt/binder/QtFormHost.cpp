@@ -1,10 +1,10 @@
 #include "platform/qt/binder/QtFormHost.h"
 
 #include "controls/Form.h"
+#include "platform/qt/base/PopupPlace.h"
 #include "platform/qt/binder/MenuAdaptor.h"
 
 #include <QApplication>
-#include <QCursor>
 #include <QDialog>
 #include <QMenu>
 #include <algorithm>
@@ -104,7 +104,7 @@ void QtFormHost::Hide(Form& form) {
 void QtFormHost::PopUp(Menu& menu) {
     QMenu popup;
     FillPopup(popup, menu);
-    popup.exec(QCursor::pos());
+    popup.exec(PopupPlace::Wanted());
 }
 
 void QtFormHost::Raise(Form& form) {

@@ -1,6 +1,7 @@
 // This file handles what the user does with the keyboard and the mouse.
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/PopupPlace.h"
 #include "platform/qt/grid/CellEditor.h"
 #include "platform/qt/grid/GridView.h"
 
@@ -146,9 +147,12 @@ void GridView::TellMouseUp(const QMouseEvent& event) {
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
     // A right click was reported when the button was released. Only the menu key is handled here.
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    if (byKey && box_ != nullptr && box_->MouseUp) box_->MouseUp(MouseButton::Right);
     event->accept();
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    if (!byKey || box_ == nullptr || !box_->MouseUp) return;
+    const QRect cell = visualRect(currentIndex()) & viewport()->rect();
+    const PopupPlace place(*this, viewport()->mapToGlobal(cell.bottomLeft()));
+    box_->MouseUp(MouseButton::Right);
 }
 
 void GridView::enterEvent(QEnterEvent* event) {
