@@ -2,6 +2,7 @@
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/grid/CellLook.h"
+#include "platform/qt/grid/GridAccess.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -31,6 +32,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
     // The delegate draws the lines between cells in a colour that fits the table's.
     setShowGrid(false);
     SetUpHeaders();
+    GridAccess::Install();
 }
 
 GridView::~GridView() {
@@ -44,7 +46,7 @@ void GridView::SetUpHeaders() {
     columns.setMinimumSectionSize(kSmallestColumn);
     columns.setMaximumSectionSize(1 << 20);
     columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    connect(&columns, &QHeaderView::sectionClicked, this, &GridView::HeaderClicked);
+    connect(&columns, &QHeaderView::sectionClicked, this, &GridView::PressCaption);
     connect(&columns, &QHeaderView::sectionResized, this,
             [this](int column, int, int width) { ColumnResized(column, width); });
 

@@ -25,6 +25,15 @@ public:
     /// Reads the table's colours, its font and the mouse pointer again.
     void ReadLook();
     const GridModel* Model() const { return model_.get(); }
+    /// Whether the grid is a bar of buttons and no table.
+    virtual bool IsBar() const { return false; }
+
+    // What the user does by other ways than the keyboard and the mouse.
+
+    void PressCaption(int column);
+    void PressCell(const QModelIndex& cell);
+    /// Ticks or unticks the current row. False when the current cell has no check box.
+    bool ToggleCurrentCheck();
 
     void setModel(QAbstractItemModel* model) override;
 
@@ -65,10 +74,8 @@ private:
     void ShowCurrent();
     void ShowSortIndicator();
     void ColumnResized(int column, int width);
-    void HeaderClicked(int column);
 
     QModelIndex CheckAt(const QPoint& place) const;
-    bool ToggleCurrentCheck();
     void StepBy(int cells);
     void MoveDown();
     void TellMouseUp(const QMouseEvent& event);

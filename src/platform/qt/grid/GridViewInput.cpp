@@ -55,7 +55,12 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
     return handled;
 }
 
-void GridView::HeaderClicked(int column) {
+void GridView::PressCell(const QModelIndex& cell) {
+    if (box_ != nullptr && cell.isValid())
+        box_->ClickCell(model_->RowOf(cell.row()), GridModel::ColOf(cell.column()));
+}
+
+void GridView::PressCaption(int column) {
     if (box_ == nullptr) return;
     FinishTyping();
     box_->ClickHeader(GridModel::ColOf(column));
@@ -92,7 +97,7 @@ void GridView::MoveDown() {
 
 bool GridView::ToggleCurrentCheck() {
     const QModelIndex current = currentIndex();
-    if (!current.isValid() || current.column() != 0) return false;
+    if (box_ == nullptr || !current.isValid() || current.column() != 0) return false;
     const Row row = model_->RowOf(current.row());
     if (!box_->Store().CellCheckShown(row)) return false;
     box_->ClickCheck(row);

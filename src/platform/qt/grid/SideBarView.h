@@ -17,6 +17,7 @@ public:
 
     QStringList RowIcons() const { return rowIcons_; }
     void SetRowIcons(const QStringList& names) { rowIcons_ = names; }
+    bool IsBar() const override { return true; }
 
 protected:
     std::unique_ptr<CellDelegate> MakeDelegate(const GridModel& model, const GridBox& box) override;
