@@ -101,6 +101,7 @@ void GridView::RowsChanged(Row first, Row last) {
     TellSeen();
     if (stale_) return;
     model_->TellChanged(first, last);
+    voice_.CellsChanged();
 }
 
 void GridView::TableChanged() {
@@ -241,6 +242,7 @@ void GridView::changeEvent(QEvent* event) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    voice_.CellReached();
     viewport()->update();
 }
 

@@ -3,6 +3,7 @@
 #include "controls/GridBox.h"
 #include "platform/qt/grid/CellDelegate.h"
 #include "platform/qt/grid/GridModel.h"
+#include "platform/qt/grid/GridVoice.h"
 
 #include <QTableView>
 #include <memory>
@@ -25,6 +26,7 @@ public:
     /// Reads the table's colours, its font and the mouse pointer again.
     void ReadLook();
     const GridModel* Model() const { return model_.get(); }
+    GridVoice& Voice() { return voice_; }
     /// Whether the grid is a bar of buttons and no table.
     virtual bool IsBar() const { return false; }
 
@@ -42,6 +44,7 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -83,6 +86,7 @@ private:
     GridBox* box_ = nullptr;
     std::unique_ptr<GridModel> model_;
     std::unique_ptr<CellDelegate> delegate_;
+    GridVoice voice_{*this};
     QPersistentModelIndex pressed_;
     bool pressedCheck_ = false;
     /// Whether the view is changing itself to follow the store. What it hears of itself then doesn't come

@@ -29,14 +29,21 @@ int TabStep(const QKeyEvent& event) {
 
 } // namespace
 
+/// QTableView would tell screen readers of each cell at once, also of those that a command only passes.
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-    QTableView::currentChanged(current, previous);
+    QAbstractItemView::currentChanged(current, previous);
+    voice_.CellReached();
     if (following_ || box_ == nullptr || !current.isValid()) return;
     const QScopedValueRollback guard(following_, true);
     Grid& store = box_->Store();
     store.SetCurRow(model_->RowOf(current.row()));
     store.SetCurCol(GridModel::ColOf(current.column()));
     viewport()->update();
+}
+
+void GridView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    // The selected cell is always the current one, which is told already.
+    QAbstractItemView::selectionChanged(selected, deselected);
 }
 
 void GridView::ColumnResized(int column, int width) {
