@@ -1,5 +1,6 @@
 #include "controls/TabStrip.h"
 
+#include "HeardEvents.h"
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QLineEdit>
 #include <QMainWindow>
 
@@ -67,6 +69,7 @@ protected:
     TabBar& Tabs() { return Pages().Tabs(); }
     QPoint At(int tab) { return Tabs().tabRect(tab).center(); }
 
+    test::HeardEvents heard;
     QtFormHost host{kForms};
     frmChild first{host, u"a & b.tbx"};
     frmChild second{host, u"second.tbx"};
@@ -279,7 +282,7 @@ TEST_F(TabStripTest, AChangedChildHasADotAndItsToolTip) {
     EXPECT_FALSE(Tabs().Altered(1));
     EXPECT_NE(Tabs().grab(Tabs().tabRect(0)).toImage(), before);
     EXPECT_EQ(Tabs().tabToolTip(0), QString("/home/anna/a & b.tbx"));
-    EXPECT_TRUE(Tabs().accessibleTabName(0).contains("changed"));
+    EXPECT_EQ(Tabs().SpokenName(0), "a & b.tbx, changed");
     altered = false;
     parent.MDITabs1.TellNotes();
     test::Settle();
@@ -304,6 +307,52 @@ TEST_F(TabStripTest, TheFreeEndTellsAsMuchAsThereIsRoomFor) {
     host.WidgetOf(parent)->resize(tabs + 20, 400);
     test::Settle();
     EXPECT_EQ(Tabs().ShownStatus(), QString());
+}
+
+// ---- What a screen reader hears -----------------------------------------------------------------------
+
+TEST_F(TabStripTest, EachTabTellsWhetherItIsSelected) {
+    AddBoth();
+    parent.MDITabs1.Select(second);
+    QAccessibleInterface& strip = *QAccessible::queryAccessibleInterface(&Tabs());
+    EXPECT_EQ(strip.role(), QAccessible::PageTabList);
+    ASSERT_EQ(strip.childCount(), 4);
+    EXPECT_EQ(strip.child(0)->role(), QAccessible::PageTab);
+    EXPECT_EQ(strip.child(0)->text(QAccessible::Name), "a & b.tbx");
+    EXPECT_FALSE(strip.child(0)->state().selected);
+    EXPECT_TRUE(strip.child(1)->state().selected);
+    strip.child(0)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(parent.MDITabs1.ActiveChild(), &first);
+    EXPECT_TRUE(strip.child(0)->state().selected);
+    EXPECT_EQ(strip.indexOfChild(strip.child(1)), 1);
+}
+
+TEST_F(TabStripTest, TheButtonsThatCloseTabsAreNamedAndCanBePressed) {
+    AddBoth();
+    QAccessibleInterface& strip = *QAccessible::queryAccessibleInterface(&Tabs());
+    QAccessibleInterface* button = strip.child(2);
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->role(), QAccessible::Button);
+    EXPECT_EQ(button->text(QAccessible::Name), "Close a & b.tbx");
+    EXPECT_EQ(strip.indexOfChild(button), 2);
+    const QPoint middle = button->rect().center();
+    EXPECT_EQ(strip.childAt(middle.x(), middle.y()), button);
+    const Form* closed = nullptr;
+    parent.MDITabs1.CloseWanted = [&closed](Form& child) { closed = &child; };
+    EXPECT_TRUE(button->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    qobject_cast<QAbstractButton*>(button->object())->click();
+    EXPECT_EQ(closed, &first);
+}
+
+TEST_F(TabStripTest, TheTabIsToldWhenTheKeyboardComesToTheStrip) {
+    AddBoth();
+    parent.MDITabs1.Select(second);
+    test::Settle();
+    Tabs().SetEars(heard);
+    Tabs().setFocus();
+    test::Settle();
+    ASSERT_FALSE(heard.Of(QAccessible::Focus).isEmpty());
+    EXPECT_EQ(heard.Of(QAccessible::Focus).last(), "second.tbx");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Icons.h"
+#include "platform/qt/tabs/TabAccess.h"
 #include "platform/qt/tabs/TabLook.h"
 
 #include <QAbstractButton>
@@ -80,6 +81,7 @@ TabBar::TabBar(QWidget* parent) : QTabBar(parent), style_(&TabStyleOf(0)) {
     setElideMode(Qt::ElideNone);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
+    TabBarAccess::Install();
 }
 
 void TabBar::SetLook(int style, bool framed) {
@@ -95,9 +97,46 @@ TabColours TabBar::Colours() const {
 void TabBar::SetAltered(int index, bool altered) {
     if (Altered(index) == altered) return;
     setTabData(index, altered);
-    const QString caption = tabText(index);
-    setAccessibleTabName(index, altered ? tr("%1, changed").arg(caption) : QString());
     update(tabRect(index));
+    TellOf(index, QAccessible::NameChanged);
+}
+
+void TabBar::SetCaption(int index, const QString& caption) {
+    setTabText(index, caption);
+    NameButton(index);
+    TellOf(index, QAccessible::NameChanged);
+}
+
+QString TabBar::ShownCaption(int index) const {
+    return tabText(index).replace(QLatin1String("&&"), QLatin1String("&"));
+}
+
+QString TabBar::SpokenName(int index) const {
+    const QString caption = ShownCaption(index);
+    return Altered(index) ? tr("%1, changed").arg(caption) : caption;
+}
+
+void TabBar::NameButton(int index) {
+    tabButton(index, RightSide)->setAccessibleName(tr("Close %1").arg(ShownCaption(index)));
+}
+
+void TabBar::TellOf(int index, QAccessible::Event kind) {
+    if (!ears_->Listen() || index < 0) return;
+    QAccessibleEvent event(this, kind);
+    event.setChild(index);
+    ears_->Hear(event);
+}
+
+/// Qt tells of the strip after this, so the tab is told when the event loop turns.
+void TabBar::focusInEvent(QFocusEvent* event) {
+    QTabBar::focusInEvent(event);
+    if (!ears_->Listen()) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (hasFocus()) TellOf(currentIndex(), QAccessible::Focus);
+        },
+        Qt::QueuedConnection);
 }
 
 void TabBar::SetStatus(const QStringList& parts) {
@@ -170,6 +209,7 @@ void TabBar::tabInserted(int index) {
     auto* button = new CloseButton(*this);
     connect(button, &QAbstractButton::clicked, this, [this, button] { CloseAt(*button); });
     setTabButton(index, RightSide, button);
+    NameButton(index);
 }
 
 void TabBar::CloseAt(const QWidget& button) {
@@ -283,6 +323,7 @@ void TabBar::PaintCaption(QPainter& painter, int index, const QColor& colour) co
     QStyleOptionFocusRect option;
     option.initFrom(this);
     option.rect = room.adjusted(-4, 4, 4, -4);
+    option.backgroundColor = Colours().active;
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
 }
 

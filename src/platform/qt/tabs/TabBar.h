@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/base/Ears.h"
+
 #include <QHash>
 #include <QPainterPath>
 #include <QTabBar>
@@ -22,6 +24,12 @@ public:
     /// Draws a dot on the tab of something that has changed.
     void SetAltered(int index, bool altered);
     bool Altered(int index) const { return tabData(index).toBool(); }
+    /// Sets the caption. "&&" is shown as an ampersand.
+    void SetCaption(int index, const QString& caption);
+    /// What is said of the tab: its caption, and whether it has changed.
+    QString SpokenName(int index) const;
+    /// The ears outlive the strip, which has usual ones until then.
+    void SetEars(Ears& ears) { ears_ = &ears; }
     /// What is told at the free end of the strip, the most important part first.
     void SetStatus(const QStringList& parts);
     /// The parts for which there is room, as they are shown.
@@ -37,12 +45,16 @@ protected:
     void tabLayoutChange() override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     int CaptionWidth(const QString& caption) const;
     /// The average width of a letter and the height of a line.
     const QSize& LetterSize() const;
     void ForgetSizes();
+    QString ShownCaption(int index) const;
+    void NameButton(int index);
+    void TellOf(int index, QAccessible::Event kind);
     void CloseAt(const QWidget& button);
     QRect ShapeOf(int index) const;
     /// The place beside the tabs.
@@ -56,6 +68,8 @@ private:
 
     const TabStyle* style_;
     bool framed_ = false;
+    Ears usualEars_;
+    Ears* ears_ = &usualEars_;
     QStringList status_;
     // Sizes in the present font. They are kept because for each new tab Qt asks several times for the sizes
     // of all tabs.

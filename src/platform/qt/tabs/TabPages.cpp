@@ -32,7 +32,7 @@ TabPages::TabPages(QWidget* parent)
     hint_->setAlignment(Qt::AlignCenter);
     hint_->setTextFormat(Qt::PlainText);
     hint_->setWordWrap(true);
-    hint_->setForegroundRole(QPalette::PlaceholderText);
+    hint_->setForegroundRole(QPalette::WindowText);
     auto* middle = new QVBoxLayout(empty_);
     middle->setSpacing(kAroundHint);
     middle->addStretch(1);
@@ -82,7 +82,7 @@ void TabPages::Remove(int index) {
 }
 
 void TabPages::SetCaption(int index, const QString& caption) {
-    tabs_->setTabText(index, TabText(caption));
+    tabs_->SetCaption(index, TabText(caption));
     SetToolTip(index, caption);
 }
 
