@@ -1,5 +1,6 @@
 #include "platform/qt/binder/CalmStyle.h"
 
+#include "Pixels.h"
 #include "QtSupport.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/grid/CellLook.h"
@@ -8,6 +9,10 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
 #include <QStyleOptionButton>
 
 namespace korvane {
@@ -23,6 +28,24 @@ protected:
         return Contrast(QColor(picture.pixel(place)), QApplication::palette().color(QPalette::Window));
     }
 
+    /// The contrast of an entry of the menu bar whose menu is open.
+    double OpenMenuOfBar(const QPalette& palette) {
+        QMenuBar bar;
+        QStyleOptionMenuItem option;
+        option.initFrom(&bar);
+        option.palette = palette;
+        option.rect = QRect(0, 0, 80, 24);
+        option.menuRect = option.rect;
+        option.text = "Chosen";
+        option.state |= QStyle::State_Selected | QStyle::State_Sunken | QStyle::State_Enabled;
+        QImage picture(option.rect.size(), QImage::Format_RGB32);
+        picture.fill(palette.color(QPalette::Window));
+        QPainter painter(&picture);
+        style.drawControl(QStyle::CE_MenuBarItem, &option, &painter, &bar);
+        painter.end();
+        return test::ContrastWithin(picture, option.rect.adjusted(1, 1, -1, -1));
+    }
+
     CalmStyle style;
 };
 
@@ -36,6 +59,39 @@ TEST_F(CalmStyleTest, HollowsHaveAnEdgeOnADarkWindow) {
     EXPECT_GT(EdgeOf(box, {hollow.center().x(), hollow.top()}), 2);
     QLineEdit line;
     EXPECT_GT(EdgeOf(line, {60, 0}), 2);
+}
+
+TEST_F(CalmStyleTest, ChosenLinesOfListsAndMenusAreEasyToRead) {
+    QPalette light = style.standardPalette();
+    style.polish(light);
+    for (const QPalette& palette : {light, DarkPalette()}) {
+        const test::UnderPalette under(palette);
+        QListWidget list;
+        list.setStyle(&style);
+        list.addItem("A chosen line");
+        list.setCurrentRow(0);
+        list.show();
+        const QRect line = list.visualItemRect(list.item(0));
+        EXPECT_GE(test::ContrastWithin(list.viewport()->grab().toImage(), line), kEasyToRead);
+        QMenu menu;
+        menu.setStyle(&style);
+        menu.setActiveAction(menu.addAction("A chosen entry"));
+        const QRect entry = menu.actionGeometry(menu.activeAction());
+        EXPECT_GE(test::ContrastWithin(menu.grab().toImage(), entry.adjusted(2, 2, -2, -2)), kEasyToRead);
+        EXPECT_GE(OpenMenuOfBar(palette), kEasyToRead);
+    }
+}
+
+TEST_F(CalmStyleTest, APaletteOfTheDesktopsIsMadeReadable) {
+    QPalette palette;
+    palette.setColor(QPalette::Highlight, QColor(150, 200, 255));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    style.polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        EXPECT_GE(Contrast(palette.color(group, QPalette::HighlightedText),
+                           palette.color(group, QPalette::Highlight)),
+                  kEasyToRead);
+    }
 }
 
 TEST_F(CalmStyleTest, EachKindOfMessageHasAnIconOfTheProgramsOwn) {

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
@@ -200,6 +201,41 @@ TEST_F(FormBinderTest, ACheckBoxFollowsAndLeads) {
     form.chkYes.Value = 0;
     EXPECT_FALSE(Widget<QCheckBox>("chkYes").isChecked());
     EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(FormBinderTest, OptionsAreRadioButtonsAmongWhichTheArrowsChoose) {
+    auto& one = Widget<QRadioButton>("optOne");
+    auto& two = Widget<QRadioButton>("optTwo");
+    two.move(one.geometry().bottomLeft());
+    form.optOne.Value = true;
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&one);
+    EXPECT_EQ(access->role(), QAccessible::RadioButton);
+    EXPECT_TRUE(access->state().checked);
+    one.setFocus();
+    QTest::keyClick(&one, Qt::Key_Down);
+    test::Settle();
+    EXPECT_TRUE(form.optTwo.Value);
+    EXPECT_FALSE(form.optOne.Value);
+    EXPECT_TRUE(two.hasFocus());
+}
+
+TEST_F(FormBinderTest, TabComesToOneOptionOfAGroup) {
+    const auto stops = [this](const char* name) {
+        return (Widget<QRadioButton>(name).focusPolicy() & Qt::TabFocus) != 0;
+    };
+    EXPECT_TRUE(stops("optOne"));
+    EXPECT_FALSE(stops("optTwo"));
+    form.optTwo.Value = true;
+    EXPECT_FALSE(stops("optOne"));
+    EXPECT_TRUE(stops("optTwo"));
+    form.optTwo.Value = false;
+    EXPECT_FALSE(Widget<QRadioButton>("optTwo").isChecked());
+    EXPECT_TRUE(stops("optOne"));
+}
+
+TEST_F(FormBinderTest, ALabelWithATitleIsSpokenWithIt) {
+    form.lblName.Caption = u"Anna";
+    EXPECT_EQ(Widget<QLabel>("lblName").accessibleName(), "lblName: Anna");
 }
 
 TEST_F(FormBinderTest, OptionsOfAGroupExcludeEachOther) {

@@ -5,8 +5,11 @@
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/tabs/TabBar.h"
 
+#include <QAbstractScrollArea>
+#include <QLabel>
 #include <QPainter>
 #include <QStyleOption>
+#include <QToolButton>
 
 namespace korvane {
 
@@ -14,6 +17,7 @@ namespace {
 
 constexpr int kHeaderMargin = 5;
 constexpr int kAirInList = 4;
+constexpr int kRing = 2;
 
 /// Whether the element is drawn as a hollow in its window. On a dark window it could not be seen without an
 /// edge.
@@ -37,6 +41,52 @@ void DrawEdge(QStyle::PrimitiveElement element, const QStyleOption& option, QPai
     painter.restore();
 }
 
+void DrawRing(QPainter& painter, const QRect& area, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(colour, kRing));
+    constexpr qreal kHalf = kRing / 2.0;
+    painter.drawRoundedRect(QRectF(area).adjusted(kHalf, kHalf, -kHalf, -kHalf), 2, 2);
+    painter.restore();
+}
+
+/// The colour of a ring on the usual surfaces of a window.
+QColor RingOn(const QPalette& palette) {
+    return RingColour(palette, {palette.color(QPalette::Window), palette.color(QPalette::Base),
+                                palette.color(QPalette::Button)});
+}
+
+/// A chosen line of a list has a ground of its own, and so has a tab.
+QColor RingOf(const QStyleOption& option) {
+    const auto* ring = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    const QPalette& palette = option.palette;
+    const bool own = ring != nullptr && ring->backgroundColor.isValid() &&
+                     ring->backgroundColor != palette.color(QPalette::Window);
+    return own ? RingColour(palette, {ring->backgroundColor}) : RingOn(palette);
+}
+
+/// The ring of a flat button needn't be as far inside as Fusion draws it.
+QRect RingPlace(const QStyleOption& option, const QWidget* widget) {
+    constexpr int kOut = 2;
+    const bool flat = qobject_cast<const QToolButton*>(widget) != nullptr;
+    return flat ? option.rect.adjusted(-kOut, -kOut, kOut, kOut) : option.rect;
+}
+
+/// Whether the frame is that of a control that shows the keyboard by it: a list, a text, or a value that can
+/// be walked with the keyboard.
+bool IsRinged(const QWidget* widget) {
+    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr ||
+           qobject_cast<const QLabel*>(widget) != nullptr;
+}
+
+/// Makes the text of a chosen line easy to read.
+void MakeReadable(QPalette& palette, QPalette::ColorGroup group) {
+    const QColor text = palette.color(group, QPalette::HighlightedText);
+    const QColor back = palette.color(group, QPalette::Highlight);
+    palette.setColor(group, QPalette::Highlight, WithContrast(back, {text}, kEasyToRead));
+}
+
 QString OwnIconName(QStyle::StandardPixmap picture) {
     switch (picture) {
     case QStyle::SP_MessageBoxInformation:
@@ -58,12 +108,38 @@ QString OwnIconName(QStyle::StandardPixmap picture) {
 
 CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+void CalmStyle::polish(QPalette& palette) {
+    QProxyStyle::polish(palette);
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        MakeReadable(palette, group);
+}
+
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
+    if (element == PE_FrameFocusRect) return DrawRing(*painter, RingPlace(*option, widget), RingOf(*option));
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    // Fusion draws an edge already around a field that has the keyboard.
-    const bool edged = element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus);
-    if (IsHollow(element) && !edged && IsDark(option->palette)) DrawEdge(element, *option, *painter);
+    const bool focused = option->state.testFlag(State_HasFocus);
+    if (element == PE_FrameLineEdit && focused) {
+        DrawRing(*painter, option->rect, RingOn(option->palette));
+    } else if (IsHollow(element) && IsDark(option->palette)) {
+        DrawEdge(element, *option, *painter);
+    }
+}
+
+void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool ringed = element == CE_PushButton || (element == CE_ShapedFrame && IsRinged(widget));
+    if (ringed && option->state.testFlag(State_HasFocus))
+        DrawRing(*painter, option->rect, RingOn(option->palette));
+}
+
+void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    const bool ringed = control == CC_ComboBox || control == CC_Slider;
+    if (ringed && option->state.testFlag(State_HasFocus))
+        DrawRing(*painter, option->rect, RingOn(option->palette));
 }
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

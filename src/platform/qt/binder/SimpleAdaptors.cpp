@@ -6,6 +6,8 @@
 
 #include <QGroupBox>
 #include <QPushButton>
+#include <QRadioButton>
+#include <algorithm>
 #include <functional>
 
 namespace korvane {
@@ -86,22 +88,50 @@ OptionAdaptor::OptionAdaptor(OptionButton& option, QAbstractButton& widget) : Ad
         control_.Press();
         if (Attached()) Write(Aspect::Value);
     });
+    widget.setAutoExclusive(true);
 }
 
 void OptionAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption) widget_.setText(ToQString(control_.Caption.Get()));
-    if (aspect == Aspect::Value) widget_.setChecked(control_.Value);
+    if (aspect == Aspect::Value) WriteValue();
     AdaptorOf::Write(aspect);
 }
 
-LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget) : AdaptorOf(label, widget) {
+void OptionAdaptor::WriteValue() {
+    // Qt doesn't turn off the only button of a group that is on.
+    widget_.setAutoExclusive(false);
+    widget_.setChecked(control_.Value);
+    widget_.setAutoExclusive(true);
+    WriteTabStop();
+}
+
+/// The Tab key comes to one button of the group: the one that is on, otherwise the first.
+void OptionAdaptor::WriteTabStop() {
+    if (widget_.parentWidget() == nullptr) return;
+    const auto group =
+        widget_.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    if (group.isEmpty()) return;
+    const auto on = std::ranges::find_if(group, &QAbstractButton::isChecked);
+    const QRadioButton* stop = on == group.end() ? group.front() : *on;
+    for (QRadioButton* button : group)
+        button->setFocusPolicy(button == stop ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
+LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget)
+    : AdaptorOf(label, widget), title_(widget.accessibleName()) {
     widget.setTextFormat(Qt::PlainText);
 }
 
 void LabelAdaptor::Write(Aspect aspect) {
-    if (aspect == Aspect::Caption) widget_.setText(ToLines(control_.Caption.Get()));
+    if (aspect == Aspect::Caption) WriteCaption();
     if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
     AdaptorOf::Write(aspect);
+}
+
+void LabelAdaptor::WriteCaption() {
+    const QString caption = ToLines(control_.Caption.Get());
+    widget_.setText(caption);
+    if (!title_.isEmpty()) widget_.setAccessibleName(title_ + QStringLiteral(": ") + caption);
 }
 
 void PanelAdaptor::Write(Aspect aspect) {

@@ -40,20 +40,31 @@ protected:
     void Write(Aspect aspect) override;
 };
 
+/// The options of a group are beside each other in one widget. The arrow keys choose among them.
 class OptionAdaptor : public AdaptorOf<OptionButton, QAbstractButton> {
 public:
     OptionAdaptor(OptionButton& option, QAbstractButton& widget);
 
 protected:
     void Write(Aspect aspect) override;
+
+private:
+    void WriteValue();
+    void WriteTabStop();
 };
 
+/// A screen reader hears the accessible name of a label's look as the title of what the label shows.
 class LabelAdaptor : public AdaptorOf<Label, QLabel> {
 public:
     LabelAdaptor(Label& label, QLabel& widget);
 
 protected:
     void Write(Aspect aspect) override;
+
+private:
+    void WriteCaption();
+
+    QString title_;
 };
 
 class PanelAdaptor : public AdaptorOf<Panel, QWidget> {

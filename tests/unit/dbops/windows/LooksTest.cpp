@@ -70,7 +70,8 @@ TEST_F(Looks, SetRowHeight) {
 }
 
 TEST_F(Looks, ColName) {
-    Check(frmTxtDbColName(t.app, u""), {"txtNewColumnName", "cmdColAccept", "cmdColReject"},
+    Check(frmTxtDbColName(t.app, u""),
+          {"txtNewColumnName", "lblOldColumnName", "cmdColAccept", "cmdColReject"},
           {" Alter name of current column ", "Old name", "New name"});
 }
 
