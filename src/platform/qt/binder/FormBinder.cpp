@@ -6,12 +6,15 @@
 #include "platform/qt/binder/SimpleAdaptors.h"
 #include "platform/qt/binder/SplitterAdaptor.h"
 #include "platform/qt/binder/TextAdaptors.h"
+#include "platform/qt/binder/ToolBarKeys.h"
 #include "platform/qt/grid/GridAdaptor.h"
 #include "platform/qt/lists/ComboBoxAdaptor.h"
 #include "platform/qt/lists/ListBoxAdaptor.h"
 #include "platform/qt/lists/ListViewAdaptor.h"
 #include "platform/qt/lists/TreeViewAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
+
+#include <QToolBar>
 
 namespace korvane {
 
@@ -82,6 +85,8 @@ FormBinder::FormBinder(Form& form, QWidget& window, PageSource& pages) : form_(&
         controls_.emplace_back(adaptor);
     }
     SetIcons(window);
+    for (QToolBar* bar : window.findChildren<QToolBar*>())
+        new ToolBarKeys(*bar);
 }
 
 FormBinder::~FormBinder() {
