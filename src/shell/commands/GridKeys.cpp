@@ -4,6 +4,7 @@
 #include "context/Desktop.h"
 #include "dbops/commands/CellCommands.h"
 #include "dbops/commands/ColumnCommands.h"
+#include "dbops/commands/RowCommands.h"
 #include "dbops/commands/RowLookCommands.h"
 #include "dbops/rules/RowFontFlags.h"
 #include "dbops/rules/UndoCommands.h"
@@ -65,6 +66,9 @@ constexpr GridKey kGridKeys[] = {
     {"Shift+Insert", &PasteCells},
     {"Delete", &ClearCell},
     {"Ctrl+Shift+F", &GoToFindBox},
+    {"Ctrl+Shift+O", &SortByCurrentColumn},
+    {"Ctrl+Shift+Up", &mnuRowUp_Clack},
+    {"Ctrl+Shift+Down", &mnuRowDown_Clack},
 };
 
 } // namespace
@@ -83,6 +87,10 @@ void GoToFindBox(const MainParts& main) {
     if (tab == nullptr) return;
     tab->txtFindString.SelectAll();
     tab->txtFindString.SetFocus();
+}
+
+void SortByCurrentColumn(const MainParts& main) {
+    if (frmMDIChild* tab = main.tabs.Active()) tab->iGrid1.ClickHeader(tab->GridStore().CurCol());
 }
 
 void NextSideBarWidthFromGrid(const MainParts& main) {

@@ -21,6 +21,8 @@ std::span<const GridKey> GridKeys();
 void ExploreTableFolder(const TabContext& tab);
 /// Gives the keyboard to the tab's box for the text to find, with its text selected.
 void GoToFindBox(const MainParts& main);
+/// Does what a click on the current column's caption does.
+void SortByCurrentColumn(const MainParts& main);
 /// The sidebar's next width, after which the grid has the keyboard.
 void NextSideBarWidthFromGrid(const MainParts& main);
 

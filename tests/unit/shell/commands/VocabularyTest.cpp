@@ -315,6 +315,9 @@ const Called kGridKeys[] = {
     {"Shift+Insert", &PasteCells},
     {"Delete", &ClearCell},
     {"Ctrl+Shift+F", &GoToFindBox},
+    {"Ctrl+Shift+O", &SortByCurrentColumn},
+    {"Ctrl+Shift+Up", &mnuRowUp_Clack},
+    {"Ctrl+Shift+Down", &mnuRowDown_Clack},
 };
 
 Lines LinesOf(std::string_view block) {
