@@ -1,0 +1,108 @@
+// Goes through all windows as those use them who listen, or have the keyboard alone.
+
+#include "BoundWindow.h"
+#include "Pixels.h"
+#include "platform/qt/base/Palettes.h"
+#include "platform/qt/binder/CalmStyle.h"
+#include "platform/qt/grid/GridView.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QLabel>
+
+namespace korvane {
+namespace {
+
+/// The widgets to which the Tab key comes.
+QList<QWidget*> TabStops(QWidget& window) {
+    QList<QWidget*> stops;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool stops_ = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+        if (stops_ && widget->isVisible() && widget->isEnabled()) stops << widget;
+    }
+    return stops;
+}
+
+std::string Name(const QWidget& widget) {
+    return widget.objectName().toStdString() + " (" + widget.metaObject()->className() + ")";
+}
+
+class WindowAccessTest : public testing::TestWithParam<Window> {
+protected:
+    /// Calls `look` for the window in the style of the program, with light and with dark colours.
+    template <class Look>
+    void InBothColours(Look look) {
+        QApplication::setStyle(new CalmStyle);
+        QPalette light = QApplication::style()->standardPalette();
+        QApplication::style()->polish(light);
+        for (const QPalette& palette : {light, DarkPalette()}) {
+            const test::UnderPalette colours(palette);
+            test::BoundWindow bound(GetParam());
+            bound.Show();
+            look(bound.Look());
+        }
+        QApplication::setStyle("Fusion");
+    }
+};
+
+TEST_P(WindowAccessTest, EverythingThatTakesTheKeyboardHasARoleAndAName) {
+    test::BoundWindow bound(GetParam());
+    bound.Show();
+    for (QWidget* stop : TabStops(bound.Look())) {
+        QAccessibleInterface* access = QAccessible::queryAccessibleInterface(stop);
+        ASSERT_NE(access, nullptr) << Name(*stop);
+        EXPECT_NE(access->role(), QAccessible::NoRole) << Name(*stop);
+        EXPECT_NE(access->role(), QAccessible::Client) << Name(*stop);
+        const bool named = !access->text(QAccessible::Name).isEmpty();
+        // The buttons of the empty window get their captions when there is something to open.
+        EXPECT_TRUE(named || stop->objectName().startsWith("cmdStart") || stop->objectName() == "cmdSample")
+            << Name(*stop);
+    }
+}
+
+TEST_P(WindowAccessTest, WhatHasTheKeyboardHasARingThatCanBeSeen) {
+    InBothColours([](QWidget& window) {
+        for (QWidget* stop : TabStops(window)) {
+            if (QWidget* before = window.focusWidget()) before->clearFocus();
+            test::Settle();
+            const QImage without = window.grab().toImage();
+            stop->setFocus(Qt::TabFocusReason);
+            test::Settle();
+            // An empty tree hands the keyboard on.
+            if (!stop->hasFocus()) continue;
+            const QRect place(stop->mapTo(&window, QPoint()), stop->size());
+            const int seen = test::SeenChanges(without, window.grab().toImage(), place, kReadable);
+            EXPECT_GE(seen, std::min(place.width(), place.height()))
+                << Name(*stop) << (IsDark(window.palette()) ? " in the dark" : "");
+        }
+    });
+}
+
+TEST_P(WindowAccessTest, TextsCanBeRead) {
+    InBothColours([](QWidget& window) {
+        if (QWidget* before = window.focusWidget()) before->clearFocus();
+        const QImage picture = window.grab().toImage();
+        for (QWidget* widget : window.findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<QLabel*>(widget);
+            const auto* button = qobject_cast<QAbstractButton*>(widget);
+            const QString text = label != nullptr    ? label->text()
+                                 : button != nullptr ? button->text()
+                                                     : QString();
+            const bool shows = !text.trimmed().isEmpty() && widget->isEnabled() &&
+                               widget->isVisibleTo(&window) && !widget->visibleRegion().isEmpty();
+            if (!shows || widget->height() < 8) continue;
+            const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+            EXPECT_GE(test::ContrastWithin(picture, place), kEasyToRead)
+                << Name(*widget) << (IsDark(window.palette()) ? " in the dark" : "");
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, WindowAccessTest,
+                         testing::ValuesIn(AllWindows().begin(), AllWindows().end()),
+                         [](const auto& window) { return std::string(window.param.name); });
+
+} // namespace
+} // namespace korvane
