@@ -3,6 +3,8 @@
 #include "platform/qt/base/Convert.h"
 
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTemporaryDir>
 
 namespace korvane {
@@ -248,6 +250,36 @@ TEST_F(TreesTest, TellsKeysFromTheMouse) {
     Click(View(), At(1, At(0)));
     EXPECT_EQ(tree.Selected(), u"b");
     EXPECT_EQ(byKeys, (std::vector<bool>{true, false}));
+}
+
+// A line that is measured too narrow ends in dots.
+TEST_F(TreesTest, IsWideEnoughForEachOfItsTexts) {
+    const QStyledItemDelegate byStyle;
+    QStyleOptionViewItem option;
+    option.initFrom(&View());
+    option.widget = &View();
+    const int side = View().style()->pixelMetric(QStyle::PM_SmallIconSize);
+    option.decorationSize = QSize(side, side);
+    for (int number = 0; number < 200; ++number) {
+        const Text name = u"Folder \u00e9t\u00e9 " + ToText(QString::number(number * 7919));
+        tree.Add(u"a", name, name);
+        const QModelIndex line = At(number, At(0, At(0)));
+        const QSize wanted = byStyle.sizeHint(option, line);
+        const QSize measured = View().itemDelegate()->sizeHint(option, line);
+        EXPECT_EQ(measured.height(), wanted.height());
+        EXPECT_GE(measured.width(), wanted.width()) << number;
+        EXPECT_LE(measured.width(), wanted.width() + 2) << number;
+    }
+}
+
+TEST_F(TreesTest, IsMeasuredOnceMoreWithAnotherFont) {
+    tree.SetExpanded(u"root", true);
+    const int before = View().visualRect(At(0)).height();
+    QFont larger = View().font();
+    larger.setPointSize(larger.pointSize() * 2);
+    View().setFont(larger);
+    test::Settle();
+    EXPECT_GT(View().visualRect(At(0)).height(), before);
 }
 
 } // namespace

@@ -18,6 +18,7 @@ protected:
     int CurrentRow() const override { return list_.Current() - 1; }
     int CurrentColumn() const override { return list_.EditColumn > 0 ? list_.EditColumn - 1 : 0; }
     bool Picked(int row) const override { return list_.Selected(row + 1); }
+    bool NonePicked() const override { return list_.SelectedCount() == 0; }
     void Pick(int row, bool picked) override { list_.SetSelected(row + 1, picked); }
     void GoTo(int row) override { list_.Select(row + 1); }
     void DoubleClick(int row) override { list_.DoubleClick(row + 1); }

@@ -120,6 +120,7 @@ std::pair<int, int> RowsAdaptor::RowsInView() const {
 }
 
 void RowsAdaptor::WritePicks() {
+    if (NonePicked() && !view_.selectionModel()->hasSelection()) return;
     int row = 0;
     const std::vector<bool> before = ShownPicks();
     // Writing the same marks again would make Qt forget where the user began to mark.

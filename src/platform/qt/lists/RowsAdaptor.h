@@ -25,6 +25,8 @@ protected:
     /// The column in which the user types.
     virtual int CurrentColumn() const { return 0; }
     virtual bool Picked(int row) const = 0;
+    /// True only if that is known without a look at each row.
+    virtual bool NonePicked() const { return false; }
     virtual void Pick(int row, bool picked) = 0;
     virtual void GoTo(int row) = 0;
     virtual void DoubleClick(int row) = 0;
@@ -37,7 +39,7 @@ protected:
 
 private:
     /// What became of the rows since the view heard of it last. More than one run of new rows, or of rows
-    /// that went, is a reset: the view lays out all rows anew for the one as for the other.
+    /// that went, is a reset: the view lays out all rows again for the one as for the other.
     struct Change {
         enum class Kind { None, Inserted, Removed, Reset } kind = Kind::None;
         int first = 0;

@@ -1,5 +1,7 @@
 #include "platform/qt/lists/TreeViewAdaptor.h"
 
+#include "platform/qt/lists/LineDelegate.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <utility>
@@ -15,6 +17,7 @@ constexpr std::size_t kMany = 20;
 TreeViewAdaptor::TreeViewAdaptor(TreeView& tree, QTreeView& widget)
     : ItemsAdaptor(tree, widget), tree_(tree), widget_(widget), model_(*new TreeViewModel(tree, &widget)) {
     widget.setUniformRowHeights(true);
+    widget.setItemDelegate(new LineDelegate(&widget));
     widget.setHeaderHidden(true);
     widget.setModel(&model_);
     // A long line is scrolled to its end, not cut.
