@@ -26,14 +26,11 @@ struct TypedText {
 /// look, its files and the user.
 ///
 /// An adaptor shows it so:
-/// - `SetStore` gives it a store that the view can draw, which the control owns from then on. When the view
-///   goes, the store stays and the next view goes on with it.
 /// - `Aspect::Text` says that the text or its formats changed, `Aspect::Selection` that the program moved the
 ///   selection. The view then shows `SelStart` and `SelLength` and scrolls to them.
 /// - What the user types goes to `Type`, a selection that the user makes to `MoveSelection`. A text is
 /// deleted
 ///   by `MoveSelection` and `DeleteSelection`, and pasted by `SetSelText` or `SetSelTextRtf`.
-/// - If the view changes its store by itself, it tells `NoteOwnEdit` afterwards.
 /// - `KeyDown` sees every key first, as in all controls.
 class TextControl : public Control, public doc::TextEditing {
 public:

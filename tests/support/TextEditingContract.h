@@ -120,38 +120,6 @@ TYPED_TEST_P(TextEditingContract, AnotherSelectionIsReported) {
     EXPECT_EQ(this->control.moves, before + 3);
 }
 
-TYPED_TEST_P(TextEditingContract, AnotherStoreGoesOnWithTheDocument) {
-    this->control.SetAll(u"ab\r\ncd");
-    this->Select(0, 1);
-    this->control.SetFontBold(1);
-    this->control.SetSelStart(4);
-    this->control.FieldInsert(u"note");
-    this->control.SetFieldData(1, u"data");
-    this->control.SetPageSize(Page::Width, 5000);
-    this->Select(1, 4);
-    this->control.SetDataChanged(false);
-    const Document before = this->control.Whole();
-    this->control.SetStore(std::make_unique<TypeParam>());
-    EXPECT_TRUE(SameContent(this->control.Whole(), before));
-    EXPECT_EQ(this->control.SelStart(), 1);
-    EXPECT_EQ(this->control.SelLength(), 4);
-    EXPECT_EQ(this->control.FieldData(1), u"data");
-    EXPECT_FALSE(this->control.DataChanged());
-    EXPECT_FALSE(this->control.Undo());
-}
-
-TYPED_TEST_P(TextEditingContract, TheCursorIsWithinTheTextAfterTheStoreWasChangedByItsView) {
-    this->control.SetAll(u"abcdef");
-    this->Select(4, 2);
-    this->control.Store().Replace(1, 6, Document());
-    this->control.SetDataChanged(false);
-    this->control.NoteOwnEdit(1, 0);
-    EXPECT_EQ(this->All(), "a");
-    EXPECT_EQ(this->control.SelStart(), 1);
-    EXPECT_EQ(this->control.SelLength(), 0);
-    EXPECT_TRUE(this->control.DataChanged());
-}
-
 TYPED_TEST_P(TextEditingContract, EveryCallIsUndoneByItself) {
     this->control.SetAll(u"abc");
     this->Select(0, 1);
@@ -541,22 +509,18 @@ TYPED_TEST_P(TextEditingContract, AFieldMayHaveSeveralLines) {
     EXPECT_EQ(this->control.FieldText(), u"c");
 }
 
-REGISTER_TYPED_TEST_SUITE_P(TextEditingContract, ANewTextIsEmpty, WhatIsWrittenIsReadWithCrLf,
-                            ASelectionStaysWithinTheText, WritingReplacesTheSelectionAndLeavesTheCursorBehind,
-                            AnEdgeWithinALineEndMovesOutward, ManySmallChangesKeepTheText, AChangeIsReported,
-                            AnotherSelectionIsReported, AnotherStoreGoesOnWithTheDocument,
-                            TheCursorIsWithinTheTextAfterTheStoreWasChangedByItsView,
-                            EveryCallIsUndoneByItself, AStepIsUndoneAsOne, FormatsApplyToTheSelection,
-                            AMixedSelectionTellsTheFirstCharacter, AFormatAtTheCursorIsForWhatIsWrittenNext,
-                            AFormatAtTheCursorGoesWhenTheCursorMoves, WrittenTextLooksLikeTheOneBeforeIt,
-                            FormatsOfParagraphsApplyToAllThatAreTouched, LinesAreApartByAPercentageOrExactly,
-                            FourteenTabsAreSetAndCleared, FramesKeepTheirBits, ThePageHasItsSizes,
-                            FormattedTextGoesFromOneSelectionToAnother, AnEmptySelectionHasNoFormattedText,
-                            AWholeDocumentComesBack, ATableIsFilledByItsCells, ATableIsRefusedWithinATable,
-                            CellsHaveAttributes, ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater,
-                            AFieldWithoutTextGoesWhenTheCursorMoves, FieldsFollowEachOtherInTheText,
-                            TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
-                            AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField,
-                            AFieldMayHaveSeveralLines);
+REGISTER_TYPED_TEST_SUITE_P(
+    TextEditingContract, ANewTextIsEmpty, WhatIsWrittenIsReadWithCrLf, ASelectionStaysWithinTheText,
+    WritingReplacesTheSelectionAndLeavesTheCursorBehind, AnEdgeWithinALineEndMovesOutward,
+    ManySmallChangesKeepTheText, AChangeIsReported, AnotherSelectionIsReported, EveryCallIsUndoneByItself,
+    AStepIsUndoneAsOne, FormatsApplyToTheSelection, AMixedSelectionTellsTheFirstCharacter,
+    AFormatAtTheCursorIsForWhatIsWrittenNext, AFormatAtTheCursorGoesWhenTheCursorMoves,
+    WrittenTextLooksLikeTheOneBeforeIt, FormatsOfParagraphsApplyToAllThatAreTouched,
+    LinesAreApartByAPercentageOrExactly, FourteenTabsAreSetAndCleared, FramesKeepTheirBits,
+    ThePageHasItsSizes, FormattedTextGoesFromOneSelectionToAnother, AnEmptySelectionHasNoFormattedText,
+    AWholeDocumentComesBack, ATableIsFilledByItsCells, ATableIsRefusedWithinATable, CellsHaveAttributes,
+    ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater, AFieldWithoutTextGoesWhenTheCursorMoves,
+    FieldsFollowEachOtherInTheText, TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
+    AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField, AFieldMayHaveSeveralLines);
 
 } // namespace korvane::doc

@@ -72,17 +72,6 @@ void TextEditing::Select(Pos start, Pos end) {
     SelectionMoved();
 }
 
-void TextEditing::SetStore(std::unique_ptr<TextStore> store) {
-    store->Reset(Whole());
-    store_ = std::move(store);
-    fieldPlaces_.reset();
-}
-
-void TextEditing::NoteOwnEdit(int start, int length) {
-    NoteChange(true);
-    SetSelection(start, length);
-}
-
 void TextEditing::SetAll(TextView text) {
     SetWhole(FromPlainText(text));
 }

@@ -41,8 +41,6 @@ public:
 
     TextStore& Store() { return *store_; }
     const TextStore& Store() const { return *store_; }
-    /// Goes on with another store, which gets the document. Nothing of before can be undone.
-    void SetStore(std::unique_ptr<TextStore> store);
 
     // The text and the selection.
     const Text& All() const { return store_->All(); }
@@ -65,8 +63,6 @@ public:
     void DeleteSelection() { SetSelText({}); }
     bool DataChanged() const { return dataChanged_; }
     void SetDataChanged(bool changed) { dataChanged_ = changed; }
-    /// The store was changed by its own view, which left this selection.
-    void NoteOwnEdit(int start, int length);
     bool Undo() { return Travel(&TextStore::Undo); }
     bool Redo() { return Travel(&TextStore::Redo); }
 
