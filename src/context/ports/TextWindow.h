@@ -2,9 +2,11 @@
 
 #include "common/text/Text.h"
 
+#include <string_view>
+
 namespace korvane {
 
-/// The rich-text window, for callers that write into it.
+/// The rich-text window, for callers that open it or write into it.
 class TextWindow {
 public:
     virtual ~TextWindow() = default;
@@ -12,6 +14,10 @@ public:
     /// before the text goes in, and then this returns when it has closed again. An open one comes to the
     /// front.
     virtual void TextWindowInsert(TextView text) = 0;
+    /// The same with formatted text.
+    virtual void TextWindowInsertRtf(std::string_view rtf) = 0;
+    /// Shows the window, an empty one if it was closed, and returns at once.
+    virtual void TextWindowShow() = 0;
 };
 
 } // namespace korvane

@@ -16,8 +16,12 @@ class FakeTextWindow final : public TextWindow {
 public:
     explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }
     std::vector<Text> inserted;
+    std::vector<std::string> insertedRtf;
+    int shown = 0;
 
     void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
+    void TextWindowInsertRtf(std::string_view rtf) override { insertedRtf.emplace_back(rtf); }
+    void TextWindowShow() override { ++shown; }
 };
 
 /// Chooses a file, or nothing, and remembers what it was asked.
