@@ -33,6 +33,7 @@
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
 #include "text/frmViewAndPaste.h"
+#include "text/window/frm_RTF_HTM.h"
 
 namespace korvane {
 
@@ -119,6 +120,7 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmRowColour>(all.tab, Colour{0xFFFFFF});
      }},
+    {"frm_RTF_HTM", FromApp<frm_RTF_HTM>},
     {"frmSetRowHeight",
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSetRowHeight>(all.tab); }},
     {"frmSetYourProg", FromApp<frmSetYourProg>},

@@ -1,0 +1,160 @@
+#pragma once
+
+#include "controls/CommandButton.h"
+#include "controls/Form.h"
+#include "controls/Label.h"
+#include "controls/Menu.h"
+#include "controls/TextBars.h"
+#include "controls/TextControl.h"
+
+#include <cstdint>
+
+namespace korvane {
+
+class App;
+enum class MsgAnswer : std::int16_t;
+
+/// The rich-text window, in which one document is edited. It opens with the file `TextWindowFile`, or without
+/// one.
+class frm_RTF_HTM : public Form {
+public:
+    /// The App outlives the window.
+    explicit frm_RTF_HTM(App& app);
+
+    Menu OfficeMenu1;
+    Panel picToolbar{*this, "picToolbar"};
+    CommandButton cmdNew{*this, "cmdNew", u"", u"Start new text"};
+    CommandButton cmdOpen{*this, "cmdOpen", u"", u"Open file on disk"};
+    CommandButton cmdSave{*this, "cmdSave", u"", u"Save text to disk"};
+    CommandButton cmdSaveAs{*this, "cmdSaveAs", u"", u"Save text as ..."};
+    CommandButton cmdInfo{*this, "cmdInfo", u"", u"Info on file"};
+    CommandButton cmdWordList{*this, "cmdWordList", u"", u"Open list of shortcuts"};
+    // It does nothing. Kept for compatibility: text-clip-button-does-nothing.
+    CommandButton cmdClipTmp{*this, "cmdClipTmp", u"", u"Put selection in cumulative clipboard"};
+    CommandButton cmdViewAndPaste{*this, "cmdViewAndPaste", u"", u"View Windows clipboard and paste to text"};
+    CommandButton cmdFind{*this, "cmdFind", u"", u"Find string in text"};
+    // The tip is that of finding. Kept for compatibility: replace-has-tip-of-find.
+    CommandButton cmdReplace{*this, "cmdReplace", u"", u"Find string in text"};
+    CommandButton cmdFonts{*this, "cmdFonts", u"", u"Specify font"};
+    CommandButton cmdAlign{*this, "cmdAlign", u"", u"Text alignment"};
+    CommandButton cmdParagraph{*this, "cmdParagraph", u"", u"Paragraph dialog (Ctrl-4)"};
+    CommandButton cmdPageSetup{*this, "cmdPageSetup", u"", u"Page setup (Ctrl-7)"};
+    // No key Ctrl-F5 exists. Kept for compatibility: text-keys-without-handler.
+    CommandButton cmdBulletsNumbering{*this, "cmdBulletsNumbering", u"", u"Bullets/numbering (Ctrl-F5)"};
+    CommandButton cmdFormatting{*this, "cmdFormatting", u"", u"Show control characters"};
+    CommandButton cmdViewMode{*this, "cmdViewMode", u"", u"View mode"};
+    CommandButton cmdZoomIn{*this, "cmdZoomIn", u"", u"Zoom in"};
+    CommandButton cmdZoomOut{*this, "cmdZoomOut", u"", u"Zoom out"};
+    CommandButton cmdCentreOnScreen{*this, "cmdCentreOnScreen", u"", u"Centre window on screen"};
+    CommandButton cmdExit{*this, "cmdExit", u"", u"Exit text editor"};
+    /// Takes the place of the buttons while a save runs.
+    Label lblFileName{*this, "lblFileName"};
+    TextButtonBar TXButtonBar1{*this, "TXButtonBar1"};
+    TextRuler TXRuler1{*this, "TXRuler1"};
+    TextControl ThisTextCtrl{*this, "ThisTextCtrl"};
+    TextStatusBar TXStatusBar1{*this, "TXStatusBar1"};
+    HairLine tabHairline{*this, "tabHairline"};
+    /// This is never seen.
+    TextControl rtfTempText{*this, "rtfTempText"};
+
+    /// The full path of the document, or "Untitled.rtf".
+    Text ThisFileName;
+    /// 1 after a change that the control doesn't know of.
+    std::int16_t TextAltered = 0;
+
+    void Load() override;
+    bool QueryUnload() override;
+    void Unload() override;
+    void Activate() override;
+    void Resize() override;
+
+    void LoadThisFile();
+    /// Saves under the name that the document has, whatever it is.
+    void SaveThisFile();
+    /// What the user wants to do with the altered text.
+    MsgAnswer AskSaveChanges();
+    /// Opens a file in place of the text, after the question that closing asks. Nothing happens when the user
+    /// cancels.
+    void View(TextView path);
+    bool Altered() const { return ThisTextCtrl.DataChanged() || TextAltered == 1; }
+
+    // Nothing in the window starts these six. Kept for compatibility: text-operations-without-key.
+    void DoUppercase();
+    void DoLowercase();
+    void DoSmallCaps();
+    void DoSuperScript();
+    void DoSubScript();
+    void AssignAltAKey();
+
+    void DoThisZoomIn();
+    void DoThisZoomOut();
+
+private:
+    struct Tables;
+
+    void Wire();
+    void WireButtons();
+    void ClearAltered();
+    void SetZoom(int percent);
+    bool MayClose();
+    void ShowButtons(bool visible);
+    void ThisTextCtrl_Error(const Text& reason);
+    void Typed(TypedText& typed);
+    void TakePage();
+    Text FolderOfFile() const;
+    Form* MainForm() const;
+
+    void mnuFile_New_Click();
+    void mnuFile_Open_Click();
+    void mnuFile_SaveAs_Click();
+    void mnuInfo_Click();
+    void mnuFind_Click();
+    void mnuReplace_Click();
+    void mnuEdit_ViewAndPaste_Click();
+    void mnuWordList_Click();
+    void mnuEdit_Unicode_Click();
+    void mnuCharacters_Click();
+    void mnuSymbols_Click();
+    void mnuFonts_Click();
+    void mnuParagraphFormatting_Click();
+    void mnuBulletsNumbering_Click();
+    void mnuPageSetup_Click();
+    void mnuView_Click();
+    void mnuFormatting_Click();
+    void mnuColours_Click();
+    void mnuExplorer_Click();
+    void mnuDateInsert_Click();
+    void mnuTimer_Click();
+    void cmdCentreOnScreen_Click();
+
+    // Keys.
+
+    void FocusText();
+    void TabKey(KeyEvent& key);
+    void WriteCtrlShiftReturn();
+    void WriteAltReturn();
+    void Swap();
+    void TableAttributes();
+    void InsertTable();
+    void SetTabs();
+    void NoteEdit();
+    void SelectAll();
+    void Bold();
+    void Underline();
+    void Italic();
+    void ClearFormat();
+    void Yellow();
+    void DockLeft();
+    void DockRight();
+    void DockRightFilling();
+    void CentreAt90();
+    void Webmail();
+    void Desktop();
+    void StartBrowser();
+    void StartLorrit();
+    void NoteFind();
+
+    App& app_;
+};
+
+} // namespace korvane
