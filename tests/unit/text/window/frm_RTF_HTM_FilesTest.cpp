@@ -1,0 +1,379 @@
+#include "context/exchange/ListerRequest.h"
+#include "dialogs/frmTxtInfo.h"
+#include "unit/text/window/TextWindowStage.h"
+
+namespace korvane {
+namespace {
+
+using TextWindowFiles = TextWindowStage;
+
+const Message kSaveError{u"Error saving file directly.\r\n\r\nPlease use \"Save as\" function.",
+                         MessageIcon::Exclamation};
+const Message kOtherError{u"Error executing command just now.\r\n\r\nTry again in a moment.",
+                          MessageIcon::Exclamation};
+
+TEST_F(TextWindowFiles, OpensEmptyUnderTheUntitledNameAndUnaltered) {
+    Open();
+    EXPECT_EQ(window->Caption.Get(), u"Untitled.rtf");
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_FALSE(window->Altered());
+    EXPECT_EQ(State().TextWindowOpen, 1);
+    EXPECT_EQ(window->TXRuler1.Target, &Control());
+    EXPECT_EQ(window->TXButtonBar1.Target, &Control());
+    EXPECT_EQ(window->TXStatusBar1.Target, &Control());
+    window->Close();
+    EXPECT_EQ(State().TextWindowOpen, 0);
+}
+
+TEST_F(TextWindowFiles, OpensWithTheFileOfItsCaller) {
+    t.files.AddFile(u"C:\\a.txt", "one\r\ntwo");
+    Open(u"C:\\a.txt");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\a.txt");
+    EXPECT_EQ(Control().All(), u"one\r\ntwo");
+    EXPECT_FALSE(window->Altered());
+}
+
+TEST_F(TextWindowFiles, AMissingFileGivesAnEmptyWindowUnderItsName) {
+    Open(u"C:\\gone.rtf");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\gone.rtf");
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_TRUE(t.user.Messages().empty());
+}
+
+// Kept for compatibility: untitled-text-not-read.
+TEST_F(TextWindowFiles, AnUntitledFileThatIsThereIsNotRead) {
+    t.files.AddFile(t.files.FullPath(u"Untitled.rtf"), "{\\rtf1 text}");
+    Open();
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_EQ(window->Caption.Get(), u"Untitled.rtf");
+}
+
+TEST_F(TextWindowFiles, AMinusOneMeansUntitledToo) {
+    State().TextWindowUntitled = -1;
+    State().TextWindowFile = u"C:\\a.txt";
+    window = std::make_unique<frm_RTF_HTM>(t.app);
+    window->EnsureLoaded();
+    EXPECT_EQ(window->ThisFileName, u"Untitled.rtf");
+    window->Close();
+}
+
+TEST_F(TextWindowFiles, ABareNameIsInTheCurrentDirectory) {
+    t.files.AddFile(u"C:\\data\\a.txt", "one");
+    t.files.ChangeDir(u"C:\\data");
+    Open(u"a.txt");
+    EXPECT_EQ(window->ThisFileName, u"C:\\data\\a.txt");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\data\\a.txt");
+    EXPECT_EQ(Control().All(), u"one");
+    t.files.AddFile(u"C:\\b.txt", "root");
+    t.files.ChangeDir(u"C:\\");
+    window->ThisFileName = u"b.txt";
+    window->LoadThisFile();
+    EXPECT_EQ(window->ThisFileName, u"C:\\b.txt");
+}
+
+TEST_F(TextWindowFiles, AFileGivesThePageItsSizesAndLeavesTheOthers) {
+    t.files.AddFile(u"C:\\a.rtf", "{\\rtf1\\paperw9000\\margl700 text}");
+    Open(u"C:\\a.rtf");
+    EXPECT_EQ(Control().PageSize(doc::Page::Width), 9000);
+    EXPECT_EQ(Control().PageSize(doc::Page::MarginLeft), 700);
+    EXPECT_EQ(Control().PageSize(doc::Page::MarginTop), 240);
+    EXPECT_EQ(Control().PageSize(doc::Page::MarginRight), 240);
+    EXPECT_EQ(Control().PageSize(doc::Page::MarginBottom), 240);
+}
+
+TEST_F(TextWindowFiles, APlainFileHasPagesAsWideAsTheWindow) {
+    t.files.AddFile(u"C:\\a.txt", "text");
+    Open(u"C:\\a.txt");
+    EXPECT_EQ(Control().PageSize(doc::Page::Width), window->Width.Get().Number());
+    EXPECT_GT(Control().PageSize(doc::Page::Height), 240);
+}
+
+TEST_F(TextWindowFiles, AFileThatIsNotOfItsFormatIsReported) {
+    t.files.AddFile(u"C:\\a.rtf", "\x89PNG");
+    t.user.Answer(kOtherError, Answer::Ok);
+    Open(u"C:\\a.rtf");
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\a.rtf");
+}
+
+TEST_F(TextWindowFiles, SavesUnderItsNameWithTheNameOverTheButtons) {
+    Open();
+    Control().SetSelText(u"text");
+    t.files.ChangeDir(u"C:\\");
+    bool covered = false;
+    // The first messages run before the buttons go, the second ones while they are gone.
+    t.screen.QueueMessage([] {});
+    t.screen.QueueMessage([&] {
+        covered = !window->cmdSave.Visible && window->lblFileName.Visible &&
+                  window->lblFileName.Caption.Get() == u" Saving:  Untitled.rtf" &&
+                  t.screen.CurrentPointer() == Pointer::Hourglass;
+    });
+    const auto before = t.clock.Uptime();
+    window->cmdSave.Press();
+    EXPECT_TRUE(covered);
+    EXPECT_EQ(t.clock.Uptime() - before, std::chrono::milliseconds(500));
+    EXPECT_TRUE(window->cmdSave.Visible);
+    EXPECT_FALSE(window->lblFileName.Visible);
+    EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
+    EXPECT_TRUE(t.files.Contents(u"C:\\Untitled.rtf")->starts_with("{\\rtf1"));
+    EXPECT_FALSE(window->Altered());
+}
+
+TEST_F(TextWindowFiles, ThePageGoesIntoTheFile) {
+    Open();
+    Control().SetPageSize(doc::Page::Width, 8000);
+    window->ThisFileName = u"C:\\a.rtf";
+    window->SaveThisFile();
+    Control().SetPageSize(doc::Page::Width, 5000);
+    State().TextWindowUntitled = 0;
+    window->LoadThisFile();
+    EXPECT_EQ(Control().PageSize(doc::Page::Width), 8000);
+}
+
+// Kept for compatibility: save-types-differ.
+TEST_F(TextWindowFiles, AnAspOpensAsPlainTextAndIsSavedAsHtml) {
+    t.files.AddFile(u"C:\\a.asp", "<b>x</b>");
+    Open(u"C:\\a.asp");
+    EXPECT_EQ(Control().All(), u"<b>x</b>");
+    window->SaveThisFile();
+    EXPECT_NE(t.files.Contents(u"C:\\a.asp")->find("&lt;b"), std::string::npos);
+}
+
+// Kept for compatibility: save-types-differ.
+TEST_F(TextWindowFiles, AnXmlIsWrittenBackAsPlainText) {
+    t.files.AddFile(u"C:\\a.xml", "<a>x</a>");
+    Open(u"C:\\a.xml");
+    Control().SetSelText(u"!");
+    window->SaveThisFile();
+    EXPECT_EQ(t.files.Contents(u"C:\\a.xml"), "!<a>x</a>");
+}
+
+// Kept for compatibility: failed-text-save-counts.
+TEST_F(TextWindowFiles, AFailedSaveIsToldAndCountsAsSaved) {
+    t.files.AddFile(u"C:\\a.rtf", "{\\rtf1 old}");
+    Open(u"C:\\a.rtf");
+    Control().SetSelText(u"new");
+    t.files.SetFileReadOnly(u"C:\\a.rtf");
+    t.user.Answer(kSaveError, Answer::Ok);
+    window->SaveThisFile();
+    EXPECT_EQ(t.files.Contents(u"C:\\a.rtf"), "{\\rtf1 old}");
+    EXPECT_FALSE(window->Altered());
+}
+
+TEST_F(TextWindowFiles, ADocWithoutItsProgramIsToldInOtherWords) {
+    Open();
+    window->ThisFileName = u"C:\\a.doc";
+    t.user.Answer(kOtherError, Answer::Ok);
+    window->SaveThisFile();
+    EXPECT_FALSE(t.files.FileExists(u"C:\\a.doc"));
+}
+
+TEST_F(TextWindowFiles, ClosingAnUnalteredTextAsksNothing) {
+    Open();
+    EXPECT_TRUE(window->Close());
+}
+
+TEST_F(TextWindowFiles, ClosingAsksForAnAlteredTextAndSavesIt) {
+    t.files.AddFile(u"C:\\a.txt", "old");
+    Open(u"C:\\a.txt");
+    Control().SetSelText(u"new ");
+    t.user.On<frmMyMsgBox>([](frmMyMsgBox& box) {
+        EXPECT_EQ(box.txtFileName.Text.Get(), u"a.txt");
+        box.cmdAutoSave.Press();
+    });
+    EXPECT_TRUE(window->Close());
+    EXPECT_EQ(t.files.Contents(u"C:\\a.txt"), "new old");
+}
+
+TEST_F(TextWindowFiles, EachOfTheTwoFlagsIsEnoughForTheQuestion) {
+    Open();
+    Control().SetSelText(u"x");
+    window->TextAltered = 0;
+    AnswerSaving(MsgAnswer::Cancel);
+    EXPECT_FALSE(window->Close());
+    Control().SetDataChanged(false);
+    window->TextAltered = 1;
+    AnswerSaving(MsgAnswer::DoNotSave);
+    EXPECT_TRUE(window->Close());
+}
+
+TEST_F(TextWindowFiles, ACancelledClosingLeavesTheWindowOpenWithTheFocusInTheText) {
+    Open();
+    Control().SetSelText(u"x");
+    window->cmdSave.SetFocus();
+    AnswerSaving(MsgAnswer::Cancel);
+    EXPECT_FALSE(window->Close());
+    EXPECT_EQ(State().TextWindowOpen, 1);
+    EXPECT_EQ(window->Focused(), &Control());
+    CloseUnsaved();
+}
+
+TEST_F(TextWindowFiles, AnUntitledTextIsSavedUnderAName) {
+    Open();
+    Control().SetSelText(u"x");
+    AnswerSaving(MsgAnswer::SaveDirectly);
+    t.user.ChooseFile(u"C:\\b.txt");
+    EXPECT_TRUE(window->Close());
+    EXPECT_EQ(t.files.Contents(u"C:\\b.txt"), "x");
+}
+
+TEST_F(TextWindowFiles, TheWordUntitledCountsInItsExactCase) {
+    Open();
+    window->Caption = u"C:\\untitled.txt";
+    window->ThisFileName = u"C:\\untitled.txt";
+    AnswerSaving(MsgAnswer::SaveDirectly);
+    EXPECT_EQ(window->AskSaveChanges(), MsgAnswer::SaveDirectly);
+    window->Caption = u"C:\\Untitled letter.txt";
+    AnswerSaving(MsgAnswer::SaveDirectly);
+    EXPECT_EQ(window->AskSaveChanges(), MsgAnswer::SaveUnderAName);
+    AnswerSaving(MsgAnswer::DoNotSave);
+    EXPECT_EQ(window->AskSaveChanges(), MsgAnswer::DoNotSave);
+}
+
+TEST_F(TextWindowFiles, AClosingWhoseSaveAsIsCancelledStops) {
+    Open();
+    Control().SetSelText(u"x");
+    AnswerSaving(MsgAnswer::SaveUnderAName);
+    t.user.CancelChooser();
+    EXPECT_FALSE(window->Close());
+    EXPECT_TRUE(window->Shown());
+    CloseUnsaved();
+}
+
+// Kept for compatibility: new-text-saves-nothing.
+TEST_F(TextWindowFiles, NewDropsTheTextAlsoAfterTheAnswerToSave) {
+    t.files.AddFile(u"C:\\a.txt", "old");
+    Open(u"C:\\a.txt");
+    Control().SetSelText(u"new");
+    AnswerSaving(MsgAnswer::SaveDirectly);
+    window->OfficeMenu1.Choose("mnuFile_New");
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_EQ(window->Caption.Get(), u"Untitled.rtf");
+    EXPECT_EQ(window->ThisFileName, u"Untitled.rtf");
+    EXPECT_FALSE(window->Altered());
+    EXPECT_EQ(t.files.Contents(u"C:\\a.txt"), "old");
+}
+
+TEST_F(TextWindowFiles, ACancelKeepsTheTextFromNewAndOpen) {
+    Open();
+    Control().SetSelText(u"x");
+    AnswerSaving(MsgAnswer::Cancel);
+    window->cmdNew.Press();
+    AnswerSaving(MsgAnswer::Cancel);
+    window->cmdOpen.Press();
+    EXPECT_EQ(Control().All(), u"x");
+    EXPECT_TRUE(window->Altered());
+    CloseUnsaved();
+}
+
+TEST_F(TextWindowFiles, OpenLoadsTheChosenFileAndKeepsTheDirectory) {
+    t.files.AddDir(u"C:\\data");
+    t.files.AddFile(u"C:\\other\\b.txt", "text of b");
+    t.files.ChangeDir(u"C:\\data");
+    Open();
+    t.user.OnChooser([this](ListerRequest& request) {
+        EXPECT_EQ(request.ListerMode, 0);
+        EXPECT_EQ(request.FileDialogFilter, u"*.*");
+        EXPECT_EQ(request.FileDialogCaption, u"Load a file into text window");
+        t.files.ChangeDir(u"C:\\other");
+        request.ChosenFilePath = u"C:\\other\\b.txt";
+    });
+    window->OfficeMenu1.Choose("mnuFile_Open");
+    EXPECT_EQ(Control().All(), u"text of b");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\other\\b.txt");
+    EXPECT_FALSE(window->Altered());
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\data");
+    t.user.CancelChooser();
+    window->cmdOpen.Press();
+    EXPECT_EQ(window->ThisFileName, u"C:\\other\\b.txt");
+}
+
+TEST_F(TextWindowFiles, OpeningAMissingFileLeavesTheCaption) {
+    Open();
+    t.user.ChooseFile(u"C:\\gone.txt");
+    window->cmdOpen.Press();
+    EXPECT_EQ(window->ThisFileName, u"C:\\gone.txt");
+    EXPECT_EQ(window->Caption.Get(), u"Untitled.rtf");
+}
+
+TEST_F(TextWindowFiles, SaveAsTakesTheNameAndKeepsTheDirectory) {
+    t.files.AddDir(u"C:\\data");
+    t.files.AddDir(u"C:\\other");
+    t.files.ChangeDir(u"C:\\data");
+    Open();
+    Control().SetSelText(u"x");
+    t.user.OnChooser([this](ListerRequest& request) {
+        EXPECT_EQ(request.ListerMode, 1);
+        EXPECT_EQ(request.FileDialogFilter, u"*.*");
+        EXPECT_EQ(request.FileDialogCaption, u"Save text to disk");
+        EXPECT_EQ(request.FileDialogDefaultName, u"Untitled.rtf");
+        t.files.ChangeDir(u"C:\\other");
+        request.ChosenFilePath = u"C:\\other\\b.txt";
+    });
+    window->OfficeMenu1.Choose("mnuFile_SaveAs");
+    EXPECT_EQ(t.files.Contents(u"C:\\other\\b.txt"), "x");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\other\\b.txt");
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\data");
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ListerMode, 0);
+}
+
+// Kept for compatibility: cancelled-save-as-stays.
+TEST_F(TextWindowFiles, ACancelledSaveAsLeavesTheModeAndTheDirectory) {
+    t.files.AddDir(u"C:\\other");
+    Open();
+    t.user.OnChooser([this](ListerRequest&) { t.files.ChangeDir(u"C:\\other"); });
+    window->cmdSaveAs.Press();
+    EXPECT_EQ(t.app.Exchange<ListerRequest>().ListerMode, 1);
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\other");
+    EXPECT_EQ(window->ThisFileName, u"Untitled.rtf");
+}
+
+TEST_F(TextWindowFiles, TheInformationHasTheSizeInBytes) {
+    t.files.AddFile(u"C:\\data\\a.txt", std::string(1234, 'x'));
+    t.files.SetModified(u"C:\\data\\a.txt", DateTime{2026, 3, 4, 5, 6, 7});
+    Open(u"C:\\data\\a.txt");
+    t.user.On<frmTxtInfo>([this](frmTxtInfo& info) {
+        EXPECT_EQ(info.lblFileName.Caption.Get(), u"a.txt");
+        EXPECT_EQ(info.lblFilePath.Caption.Get(), u"C:\\data");
+        EXPECT_EQ(info.lblFileSize.Caption.Get(), u"1,234 bytes");
+        info.cmdClip.Press();
+        // Kept for compatibility: bytes-twice.
+        EXPECT_NE(t.clipboard.GetText().find(u"Size: 1,234 bytes bytes\r\n"), Text::npos);
+        info.Close();
+    });
+    window->OfficeMenu1.Choose("mnuInfo");
+}
+
+TEST_F(TextWindowFiles, TheInformationOnAnUnsavedTextSaysSo) {
+    Open();
+    t.user.On<frmTxtInfo>([](frmTxtInfo& info) {
+        EXPECT_EQ(info.lblFileSize.Caption.Get(), u"0");
+        EXPECT_EQ(info.lblArchived.Caption.Get(), u"(not yet saved!)");
+        info.Close();
+    });
+    window->cmdInfo.Press();
+}
+
+TEST_F(TextWindowFiles, ThePlaceAndTheZoomAreKept) {
+    t.app.Settings.RtfZoom = 150;
+    t.app.Settings.RtfLeft = 2000;
+    t.app.Settings.RtfTop = 1000;
+    t.app.Settings.RtfWidth = 7000;
+    t.app.Settings.RtfHeight = 6000;
+    Open();
+    EXPECT_EQ(window->Width.Get(), Twips{7000});
+    EXPECT_EQ(Control().ZoomFactor, 150);
+    window->Left = Twips{2100};
+    Control().ZoomFactor = 200;
+    window->Close();
+    EXPECT_EQ(t.app.Settings.RtfLeft, 2100);
+    EXPECT_EQ(t.app.Settings.RtfZoom, 200);
+}
+
+TEST_F(TextWindowFiles, AZoomOfZeroInTheSettingsIsNone) {
+    Open();
+    EXPECT_EQ(Control().ZoomFactor, 100);
+}
+
+} // namespace
+} // namespace korvane

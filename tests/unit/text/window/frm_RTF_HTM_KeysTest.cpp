@@ -1,0 +1,302 @@
+#include "context/ports/TextTools.h"
+#include "dialogs/frmMyInputBox.h"
+#include "unit/text/window/TextWindowStage.h"
+
+#include <tuple>
+
+namespace korvane {
+namespace {
+
+constexpr int kCtrlShift = Mask::Ctrl | Mask::Shift;
+constexpr int kCtrlAlt = Mask::Ctrl | Mask::Alt;
+
+class TextWindowKeys : public TextWindowStage {
+protected:
+    TextWindowKeys() { Open(); }
+    ~TextWindowKeys() override { CloseUnsaved(); }
+};
+
+TEST_F(TextWindowKeys, EscGoesToTheTextAndPasses) {
+    window->cmdSave.SetFocus();
+    EXPECT_FALSE(Press(Key::Escape));
+    EXPECT_EQ(window->Focused(), &Control());
+}
+
+TEST_F(TextWindowKeys, ATabIsWrittenForASelectionOfLessThanTwo) {
+    SelectAll(u"x");
+    EXPECT_TRUE(Press(Key::Tab));
+    EXPECT_EQ(Control().All(), u"\t");
+    EXPECT_TRUE(Press(Key::Tab, Mask::Shift));
+    EXPECT_EQ(Control().All(), u"\t\t");
+}
+
+TEST_F(TextWindowKeys, ATabIndentsALongerSelection) {
+    t.app.Settings.TabUnitTwips = 700;
+    SelectAll(u"xy");
+    EXPECT_TRUE(Press(Key::Tab));
+    EXPECT_EQ(Control().IndentL(), 700);
+    EXPECT_TRUE(Press(Key::Tab, Mask::Shift));
+    EXPECT_EQ(Control().IndentL(), 0);
+    EXPECT_EQ(Control().All(), u"xy");
+}
+
+// Kept for compatibility: indent-always-alters.
+TEST_F(TextWindowKeys, AnIndentAltersAlsoWhenItDidNothing) {
+    SelectAll(u"xy");
+    window->TextAltered = 0;
+    EXPECT_TRUE(Press(Key::Tab, Mask::Ctrl));
+    EXPECT_EQ(Control().IndentL(), 0);
+    EXPECT_EQ(window->TextAltered, 1);
+}
+
+TEST_F(TextWindowKeys, TheZoomKeysGoOneStepAndAreKept) {
+    EXPECT_TRUE(Press(Key::NumPlus, Mask::Ctrl));
+    EXPECT_EQ(Control().ZoomFactor, 105);
+    EXPECT_EQ(t.app.Settings.RtfZoom, 105);
+    EXPECT_TRUE(Press(Key::NumMinus, Mask::Ctrl));
+    EXPECT_EQ(Control().ZoomFactor, 100);
+    EXPECT_FALSE(Press(Key::NumPlus, kCtrlShift));
+}
+
+TEST_F(TextWindowKeys, TwoKeysSave) {
+    for (const auto& [code, name] : {std::pair{int{'S'}, u"C:\\a.txt"}, {Key::F(12), u"C:\\b.txt"}}) {
+        window->ThisFileName = name;
+        EXPECT_TRUE(Press(code, Mask::Ctrl));
+        EXPECT_TRUE(t.files.FileExists(name));
+    }
+    window->ThisFileName = u"C:\\c.txt";
+    EXPECT_FALSE(Press('S', kCtrlShift));
+    EXPECT_FALSE(t.files.FileExists(u"C:\\c.txt"));
+}
+
+TEST_F(TextWindowKeys, TheReturnKeysWriteTheirStrings) {
+    t.app.Settings.CtrlShiftReturnString = u"one";
+    t.app.Settings.AltReturnString = u"two";
+    EXPECT_TRUE(Press(Key::Return, kCtrlShift));
+    EXPECT_TRUE(Press(Key::Return, Mask::Alt));
+    EXPECT_EQ(Control().All(), u"one\r\ntwo\r\n");
+}
+
+TEST_F(TextWindowKeys, AltSSwapsTwoCharacters) {
+    Control().SetAll(u"abc");
+    Control().SetSelStart(1);
+    EXPECT_TRUE(Press('S', Mask::Alt));
+    EXPECT_EQ(Control().All(), u"bac");
+}
+
+TEST_F(TextWindowKeys, AltF3ShowsPagesAndBack) {
+    EXPECT_TRUE(Press(Key::F(3), Mask::Alt));
+    EXPECT_EQ(Control().ViewMode, 2);
+    EXPECT_TRUE(Press(Key::F(3), Mask::Alt));
+    EXPECT_EQ(Control().ViewMode, 0);
+}
+
+TEST_F(TextWindowKeys, TheKeysOfTheControlsDialogsAreTaken) {
+    const std::tuple<int, int, TextDialog> kKeys[] = {
+        {'7', Mask::Ctrl, TextDialog::Page},      {'T', Mask::Ctrl, TextDialog::InsertTable},
+        {'0', Mask::Ctrl, TextDialog::Tabs},      {'2', Mask::Ctrl, TextDialog::Paragraph},
+        {'4', Mask::Ctrl, TextDialog::Paragraph},
+    };
+    for (const auto& [code, mask, dialog] : kKeys) {
+        EXPECT_TRUE(Press(code, mask));
+        EXPECT_EQ(dialogs.shown.back(), dialog);
+    }
+    EXPECT_EQ(dialogs.shown.size(), 5U);
+}
+
+TEST_F(TextWindowKeys, Ctrl8NeedsATableAtTheCursor) {
+    t.user.Answer({u"Cursor not within a table or more than one cell is selected.", MessageIcon::Exclamation},
+                  Answer::Ok);
+    EXPECT_TRUE(Press('8', Mask::Ctrl));
+    EXPECT_TRUE(dialogs.shown.empty());
+    const int table = Control().InsertTable(2, 2);
+    Control().SetSelStart(Control().CellStart(table, 1, 1) - 1);
+    EXPECT_TRUE(Press('8', Mask::Ctrl));
+    EXPECT_EQ(dialogs.shown, (std::vector<TextDialog>{TextDialog::Table}));
+}
+
+TEST_F(TextWindowKeys, AKeyWithoutACommandIsTakenAllTheSame) {
+    EXPECT_TRUE(Press('Y', kCtrlAlt));
+    EXPECT_FALSE(window->Altered());
+}
+
+TEST_F(TextWindowKeys, Ctrl1ChoosesTheFont) {
+    class Tools final : public TextTools {
+    public:
+        int fonts = 0;
+        void FindString(TextControl&) override {}
+        void ChooseFont(TextControl&) override { ++fonts; }
+        void ShowUnicode(TextControl&) override {}
+        void ShowCharacters(TextControl&) override {}
+        void ShowElements(TextControl&) override {}
+    };
+    EXPECT_TRUE(Press('1', Mask::Ctrl));
+    Tools tools;
+    t.app.SetPort<TextTools>(&tools);
+    EXPECT_TRUE(Press('1', Mask::Ctrl));
+    EXPECT_EQ(tools.fonts, 1);
+}
+
+TEST_F(TextWindowKeys, CutAndPasteAlterAndPass) {
+    for (const int code : {'X', 'V'}) {
+        window->TextAltered = 0;
+        EXPECT_FALSE(Press(code, Mask::Ctrl));
+        EXPECT_EQ(window->TextAltered, 1);
+    }
+}
+
+TEST_F(TextWindowKeys, CtrlASelectsAll) {
+    Control().SetAll(u"abc");
+    EXPECT_TRUE(Press('A', Mask::Ctrl));
+    EXPECT_EQ(Control().SelText(), u"abc");
+}
+
+TEST_F(TextWindowKeys, TheAttributesAreToggledAndCleared) {
+    SelectAll(u"abc");
+    EXPECT_TRUE(Press('B', kCtrlShift));
+    EXPECT_TRUE(Press('U', kCtrlShift));
+    EXPECT_TRUE(Press('I', kCtrlShift));
+    EXPECT_EQ(Control().FontBold() + Control().FontUnderline() + Control().FontItalic(), 3);
+    EXPECT_TRUE(Press('B', kCtrlShift));
+    EXPECT_EQ(Control().FontBold(), 0);
+    EXPECT_TRUE(Press(Key::Home, kCtrlShift));
+    EXPECT_EQ(Control().FontUnderline() + Control().FontItalic(), 0);
+    EXPECT_TRUE(Press('Y', Mask::Alt));
+    EXPECT_EQ(Control().TextBkColor(), Colour{65535});
+}
+
+TEST_F(TextWindowKeys, TheWindowGoesBesideTheMainWindow) {
+    t.screen.SetWorkArea({Twips{0}, Twips{0}, Twips{30000}, Twips{12000}});
+    main.window.Left = Twips{8000};
+    window->Width = Twips{4000};
+    EXPECT_TRUE(Press('L', kCtrlShift));
+    EXPECT_EQ(window->Left.Get(), Twips{4000});
+    EXPECT_EQ(window->Height.Get(), main.window.Height.Get());
+    EXPECT_TRUE(Press('R', kCtrlShift));
+    EXPECT_EQ(window->Left.Get(), Twips{18000});
+    EXPECT_EQ(window->Width.Get(), Twips{4000});
+    EXPECT_TRUE(Press('R', kCtrlAlt));
+    EXPECT_EQ(window->Width.Get(), Twips{12000});
+    EXPECT_TRUE(Press(Key::F(2), kCtrlShift));
+    EXPECT_EQ(window->Width.Get(), Twips{9000});
+    EXPECT_EQ(window->Left.Get(), Twips{8500});
+}
+
+TEST_F(TextWindowKeys, CtrlAltF5AsksForTheAddressOfTheMail) {
+    t.app.Settings.WebmailUrl = u"https://old";
+    t.app.Settings.CustomBrowserPath = u"C:\\browser.exe";
+    t.files.AddFile(u"C:\\browser.exe");
+    t.user.On<frmMyInputBox>([](frmMyInputBox& box) {
+        EXPECT_EQ(box.txtBoxCaption.Caption.Get(), u"Enter URL for webmail interface");
+        EXPECT_EQ(box.txtBoxText.Text.Get(), u"https://old");
+        box.txtBoxText.Type(u"https://new");
+        box.cmdOk.Press();
+    });
+    EXPECT_TRUE(Press(Key::F(5), kCtrlAlt));
+    EXPECT_EQ(t.app.Settings.WebmailUrl, u"https://new");
+    ASSERT_EQ(t.shell.Starts().size(), 1U);
+    EXPECT_EQ(t.shell.Starts()[0].arguments, (std::vector<Text>{u"https://new"}));
+    t.user.On<frmMyInputBox>([](frmMyInputBox& box) { box.cmdCancel.Press(); });
+    EXPECT_TRUE(Press(Key::F(5), kCtrlAlt));
+    EXPECT_EQ(t.app.Settings.WebmailUrl, u"https://new");
+    EXPECT_EQ(t.shell.Starts().size(), 1U);
+}
+
+TEST_F(TextWindowKeys, KeysOpenTheDesktopTheExplorerTheBrowserAndLorrit) {
+    t.files.AddDir(u"C:\\data");
+    window->ThisFileName = u"C:\\data\\a.txt";
+    t.app.Settings.CustomBrowserPath = u"C:\\browser.exe";
+    t.files.AddFile(u"C:\\browser.exe");
+    EXPECT_TRUE(Press('D', kCtrlAlt));
+    EXPECT_TRUE(Press('X', kCtrlAlt));
+    EXPECT_EQ(t.shell.Calls(), (std::vector<ShellCall>{{ShellCall::Kind::ToggleDesktop, {}},
+                                                       {ShellCall::Kind::Explore, u"C:\\data"}}));
+    EXPECT_TRUE(Press('B', Mask::Alt));
+    ASSERT_EQ(t.shell.Starts().size(), 1U);
+    EXPECT_EQ(t.shell.Starts()[0].program, u"C:\\browser.exe");
+    EXPECT_TRUE(Press(Key::F(1), kCtrlShift));
+}
+
+TEST_F(TextWindowKeys, F11WithAModifierShowsTheClock) {
+    EXPECT_FALSE(Press(Key::F(11)));
+    for (const int mask : {Mask::Shift, Mask::Ctrl, Mask::Alt, kCtrlAlt, kCtrlShift})
+        EXPECT_TRUE(Press(Key::F(11), mask)) << mask;
+    EXPECT_EQ(main.commands, std::vector<std::string>(5, "mnuMisc_Clock"));
+}
+
+// Kept for compatibility: ctrl-f-clears-altered.
+TEST_F(TextWindowKeys, CtrlFClearsOneFlagAndPasses) {
+    Control().SetSelText(u"x");
+    EXPECT_FALSE(Press('F', Mask::Ctrl));
+    EXPECT_EQ(window->TextAltered, 0);
+    EXPECT_TRUE(Control().DataChanged());
+}
+
+// Kept for compatibility: text-keys-without-handler.
+TEST_F(TextWindowKeys, OtherKeysPass) {
+    EXPECT_FALSE(Press(Key::F(5), Mask::Ctrl));
+    EXPECT_FALSE(Press('G', Mask::Alt));
+    EXPECT_FALSE(Press('Z', Mask::Alt));
+    EXPECT_FALSE(Press('A'));
+    EXPECT_FALSE(Press('C', Mask::Ctrl));
+    EXPECT_FALSE(window->Altered());
+}
+
+// Typing.
+
+TEST_F(TextWindowKeys, ATypedSpaceLeavesTheTextUnalteredAndALetterDoesNot) {
+    Type(u" ");
+    EXPECT_EQ(Control().All(), u" ");
+    EXPECT_FALSE(window->Altered());
+    Type(u"x");
+    EXPECT_EQ(window->TextAltered, 1);
+    EXPECT_TRUE(Control().DataChanged());
+}
+
+TEST_F(TextWindowKeys, ATypedTabOverASelectionIsDropped) {
+    SelectAll(u"abc");
+    Type(u"\t");
+    EXPECT_EQ(Control().All(), u"abc");
+}
+
+TEST_F(TextWindowKeys, QuotesAreTypographicOnlyWhenTheSettingSaysSo) {
+    Type(u"\"a\"");
+    EXPECT_EQ(Control().All(), u"\"a\"");
+    Control().SetAll(u"");
+    t.app.Settings.SmartQuotes = 1;
+    Type(u"\"a\" 'b' it's '\"c\"'");
+    EXPECT_EQ(Control().All(), u"\u201Ca\u201D \u2018b\u2019 it\u2019s \u2018\u201Cc\u201D\u2019");
+    EXPECT_TRUE(window->Altered());
+}
+
+TEST_F(TextWindowKeys, AQuoteTakesThePlaceOfTheSelection) {
+    t.app.Settings.SmartQuotes = 1;
+    SelectAll(u"abc");
+    Type(u"'");
+    EXPECT_EQ(Control().All(), u"\u2018");
+}
+
+// Kept for compatibility: text-operations-without-key.
+TEST_F(TextWindowKeys, SixOperationsAreThereWithoutAKey) {
+    t.app.Settings.MarkupOption = 60;
+    SelectAll(u"aBc");
+    window->DoUppercase();
+    EXPECT_EQ(Control().All(), u"ABC");
+    Control().SetSelection(0, -1);
+    window->DoLowercase();
+    EXPECT_EQ(Control().All(), u"abc");
+    Control().SetSelection(0, -1);
+    window->DoSmallCaps();
+    EXPECT_EQ(Control().CharAttributes(), 32);
+    window->DoSuperScript();
+    EXPECT_EQ(Control().BaseLine(), 60);
+    window->DoSubScript();
+    EXPECT_EQ(Control().BaseLine(), -60);
+    window->cmdSave.SetFocus();
+    window->AssignAltAKey();
+    EXPECT_EQ(Control().All(), u"abc");
+    EXPECT_EQ(window->Focused(), &Control());
+}
+
+} // namespace
+} // namespace korvane
