@@ -74,6 +74,21 @@ void RestorePlace(const App& app, Form& window, const StoredPlace& stored) {
     FitWindowToWorkArea(app.Screen().WorkArea(), window, place);
 }
 
+void RestoreCorner(const App& app, Form& window, const StoredCorner& stored) {
+    const Rect area = app.Screen().WorkArea();
+    const Twips left{app.Settings.*stored.left};
+    const Twips top{app.Settings.*stored.top};
+    const bool seen = left >= area.left && left < area.left + area.width.Number() && top >= area.top &&
+                      top < area.top + area.height.Number();
+    window.Left = seen ? left : Twips{0};
+    window.Top = seen ? top : Twips{0};
+}
+
+void StoreCorner(App& app, const Form& window, const StoredCorner& stored) {
+    app.Settings.*stored.left = window.Left.Get().Number();
+    app.Settings.*stored.top = window.Top.Get().Number();
+}
+
 void StorePlace(App& app, const Form& window, const StoredPlace& stored) {
     app.Settings.*stored.left = window.Left.Get().Number();
     app.Settings.*stored.top = window.Top.Get().Number();

@@ -33,4 +33,15 @@ void RestorePlace(const App& app, Form& window, const StoredPlace& stored);
 /// Stores the window's place for its next opening.
 void StorePlace(App& app, const Form& window, const StoredPlace& stored);
 
+/// The settings in which a window of fixed size keeps its place.
+struct StoredCorner {
+    std::int32_t Settings::*left;
+    std::int32_t Settings::*top;
+};
+
+/// Gives the window its stored place if that can be seen. Otherwise the desktop chooses one.
+void RestoreCorner(const App& app, Form& window, const StoredCorner& stored);
+
+void StoreCorner(App& app, const Form& window, const StoredCorner& stored);
+
 } // namespace korvane

@@ -33,6 +33,7 @@
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
 #include "text/frmViewAndPaste.h"
+#include "text/markup/frmHTMLCodes.h"
 #include "text/window/frm_RTF_HTM.h"
 
 namespace korvane {
@@ -97,6 +98,7 @@ constexpr Window kWindows[] = {
              all.app, std::vector<HelpSection>{{u"What Korvane is", u"Korvane keeps tables of text.\r\n\r\n"},
                                                {u"The keys", u"F1  \u2013  This help text\r\n\r\n"}});
      }},
+    {"frmHTMLCodes", FromApp<frmHTMLCodes>},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmLoadList>(all.app, all.main.Parts().tabs, all.main);

@@ -29,6 +29,8 @@
 #include "platform/Screen.h"
 #include "text/commands/TextCommands.h"
 #include "text/commands/TextFileTypes.h"
+#include "text/markup/MarkupConversion.h"
+#include "text/markup/TagPairs.h"
 
 #include <chrono>
 
@@ -86,8 +88,8 @@ struct frm_RTF_HTM::Tables {
         {1, "mnuParagraphFormatting", u"Paragrap&h formatting", "", &Window::cmdParagraph},
         {1, "mnuBulletsNumbering", u"Bu&llets and numbering", "", &Window::cmdBulletsNumbering},
         {1, "", u"", ""},
-        {1, "mnuEdit_GetHTML", u"Get &HTML code", ""},
-        {1, "mnuEdit_ConvertHTML", u"Convert HT&ML to formatting", ""},
+        {1, "mnuEdit_GetHTML", u"Get &HTML code", "", &Window::mnuEdit_GetHTML_Click},
+        {1, "mnuEdit_ConvertHTML", u"Convert HT&ML to formatting", "", &Window::DoConvertHTML},
         {0, "mnuView_Menu", u"&View", ""},
         {1, "mnuView_ZoomIn", u"Zoom &in    ( Ctrl+NumPlus )", "", &Window::cmdZoomIn},
         {1, "mnuView_ZoomOut", u"Zoom &out    ( Ctrl+NumMinus )", "", &Window::cmdZoomOut},
@@ -113,6 +115,7 @@ struct frm_RTF_HTM::Tables {
         {"Ctrl+S", &Window::SaveThisFile},
         {"Ctrl+F12", &Window::SaveThisFile},
         {"Ctrl+Shift+Return", &Window::WriteCtrlShiftReturn},
+        {"Ctrl+Alt+L", &Window::mnuEdit_GetHTML_Click},
         {"Alt+Return", &Window::WriteAltReturn},
         {"Alt+S", &Window::Swap},
         {"Alt+F3", &Window::mnuView_Click},
@@ -136,6 +139,8 @@ struct frm_RTF_HTM::Tables {
         {"Alt+Y", &Window::Yellow},
         {"Ctrl+Shift+L", &Window::DockLeft},
         {"Ctrl+Shift+R", &Window::DockRight},
+        // An earlier row has this key. Kept for compatibility: ctrl-alt-l-opens-tags.
+        {"Ctrl+Alt+L", &Window::DockLeftFilling},
         {"Ctrl+Alt+R", &Window::DockRightFilling},
         {"Ctrl+Shift+F2", &Window::CentreAt90},
         {"Ctrl+Alt+F5", &Window::Webmail},
@@ -154,6 +159,10 @@ frm_RTF_HTM::frm_RTF_HTM(App& app)
     : Form(app.Forms(), "frm_RTF_HTM", u""), OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu), app_(app) {
     Wire();
     WireButtons();
+}
+
+frm_RTF_HTM::~frm_RTF_HTM() {
+    if (app_.Port<OpenText>() == &openText_) app_.SetPort<OpenText>(nullptr);
 }
 
 void frm_RTF_HTM::Wire() {
@@ -221,6 +230,7 @@ void frm_RTF_HTM::Load() {
     ThisTextCtrl.Left = kLeftOfText;
     LoadThisFile();
     state.TextWindowOpen = 1;
+    app_.SetPort<OpenText>(&openText_);
     // Before the first zoom of all, there is none in the settings.
     if (app_.Settings.RtfZoom > 0) ThisTextCtrl.ZoomFactor = app_.Settings.RtfZoom;
     ClearAltered();
@@ -252,6 +262,7 @@ bool frm_RTF_HTM::QueryUnload() {
 void frm_RTF_HTM::Unload() {
     app_.Settings.RtfZoom = static_cast<std::int16_t>(ThisTextCtrl.ZoomFactor.Get());
     app_.Exchange<TextWindowState>().TextWindowOpen = 0;
+    app_.SetPort<OpenText>(nullptr);
     StorePlace(app_, *this, kPlace);
 }
 
@@ -455,6 +466,10 @@ void frm_RTF_HTM::DockLeft() {
     if (const Form* main = MainForm()) DockLeftOf(app_, *main, *this, Stretch::KeepWidth);
 }
 
+void frm_RTF_HTM::DockLeftFilling() {
+    if (const Form* main = MainForm()) DockLeftOf(app_, *main, *this, Stretch::FillSpace);
+}
+
 void frm_RTF_HTM::DockRight() {
     if (const Form* main = MainForm()) DockRightOf(app_, *main, *this, Stretch::KeepWidth);
 }
@@ -499,6 +514,14 @@ void frm_RTF_HTM::mnuCharacters_Click() {
 
 void frm_RTF_HTM::mnuSymbols_Click() {
     if (auto* tools = app_.Port<TextTools>()) tools->ShowElements(ThisTextCtrl);
+}
+
+void frm_RTF_HTM::mnuEdit_GetHTML_Click() {
+    InsertTagPair(app_, ThisTextCtrl);
+}
+
+void frm_RTF_HTM::DoConvertHTML() {
+    ConvertMarkupDirect(app_, ThisTextCtrl);
 }
 
 void frm_RTF_HTM::mnuFonts_Click() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "context/ports/OpenText.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
@@ -20,6 +21,7 @@ class frm_RTF_HTM : public Form {
 public:
     /// The App outlives the window.
     explicit frm_RTF_HTM(App& app);
+    ~frm_RTF_HTM() override;
 
     Menu OfficeMenu1;
     Panel picToolbar{*this, "picToolbar"};
@@ -86,6 +88,7 @@ public:
     void DoSubScript();
     void AssignAltAKey();
 
+    void DoConvertHTML();
     void DoThisZoomIn();
     void DoThisZoomOut();
 
@@ -115,6 +118,7 @@ private:
     void mnuEdit_Unicode_Click();
     void mnuCharacters_Click();
     void mnuSymbols_Click();
+    void mnuEdit_GetHTML_Click();
     void mnuFonts_Click();
     void mnuParagraphFormatting_Click();
     void mnuBulletsNumbering_Click();
@@ -145,6 +149,7 @@ private:
     void ClearFormat();
     void Yellow();
     void DockLeft();
+    void DockLeftFilling();
     void DockRight();
     void DockRightFilling();
     void CentreAt90();
@@ -155,6 +160,7 @@ private:
     void NoteFind();
 
     App& app_;
+    OpenText openText_{ThisTextCtrl, rtfTempText};
 };
 
 } // namespace korvane
