@@ -1,5 +1,6 @@
 #include "context/ports/TextTools.h"
 #include "dialogs/frmMyInputBox.h"
+#include "text/markup/frmHTMLCodes.h"
 #include "unit/text/window/TextWindowStage.h"
 
 #include <tuple>
@@ -222,6 +223,28 @@ TEST_F(TextWindowKeys, F11WithAModifierShowsTheClock) {
     for (const int mask : {Mask::Shift, Mask::Ctrl, Mask::Alt, kCtrlAlt, kCtrlShift})
         EXPECT_TRUE(Press(Key::F(11), mask)) << mask;
     EXPECT_EQ(main.commands, std::vector<std::string>(5, "mnuMisc_Clock"));
+}
+
+// Kept for compatibility: ctrl-alt-l-opens-tags.
+TEST_F(TextWindowKeys, CtrlAltLOpensTheTagsAndMovesNothing) {
+    SelectAll(u"abc");
+    const Twips left = window->Left;
+    t.user.On<frmHTMLCodes>([](frmHTMLCodes& tags) {
+        tags.lstClient.Select(1);
+        tags.cmdOk.Press();
+    });
+    EXPECT_TRUE(Press('L', kCtrlAlt));
+    EXPECT_EQ(Control().All(), u"<B>abc</B>");
+    EXPECT_EQ(window->Left.Get(), left);
+}
+
+TEST_F(TextWindowKeys, TheMenuHasTheTagsAndTheConversion) {
+    SelectAll(u"<B>x</B>");
+    t.user.On<frmHTMLCodes>([](frmHTMLCodes& tags) { tags.cmdCancel.Press(); });
+    window->OfficeMenu1.Choose("mnuEdit_GetHTML");
+    t.user.Answer(Answer::Yes);
+    window->OfficeMenu1.Choose("mnuEdit_ConvertHTML");
+    EXPECT_EQ(Control().All(), u"x");
 }
 
 // Kept for compatibility: ctrl-f-clears-altered.
