@@ -27,6 +27,16 @@ void MemoryTextStore::Reset(Document document) {
     step_.clear();
     undo_.clear();
     redo_.clear();
+    TellAll();
+}
+
+void MemoryTextStore::SetPageSetup(const Page& page) {
+    document_.page = page;
+    TellAll();
+}
+
+void MemoryTextStore::TellAll() const {
+    if (listener_ != nullptr) listener_->AllChanged();
 }
 
 Range MemoryTextStore::RangeOf(Pos from, Pos to) const {
@@ -41,12 +51,18 @@ Document MemoryTextStore::Slice(Pos from, Pos to) const {
 
 Patch MemoryTextStore::Carry(Patch patch) {
     const std::size_t first = patch.first;
+    const std::size_t removed = patch.count;
     const std::size_t added = patch.paragraphs.size();
+    const bool tables = !patch.tables.empty();
     // The start of the first paragraph stays as it is, so the place that is remembered stays right.
     const Pos start = places_.StartOf(first);
     const std::size_t before = Joined(document_.paragraphs, first, patch.count).size();
     Patch inverse = Apply(document_, std::move(patch));
     all_.replace(start, before, Joined(document_.paragraphs, first, added));
+    if (tables)
+        TellAll();
+    else if (listener_ != nullptr)
+        listener_->ParagraphsChanged(first, removed, added);
     return inverse;
 }
 

@@ -6,7 +6,19 @@
 
 namespace korvane::doc {
 
-/// A text in memory. It is never laid out, so it suits texts that nobody sees.
+/// Hears of what changes in a text, so that it can be shown.
+class TextListener {
+public:
+    /// Paragraphs from the first one on were replaced by others. Tables are as they were.
+    virtual void ParagraphsChanged(std::size_t first, std::size_t removed, std::size_t added) = 0;
+    /// Tables, the page or the whole text are other ones.
+    virtual void AllChanged() = 0;
+
+protected:
+    ~TextListener() = default;
+};
+
+/// A text in memory. It is never laid out: whoever shows it listens to it.
 class MemoryTextStore final : public TextStore {
 public:
     const Text& All() const override { return all_; }
@@ -25,13 +37,17 @@ public:
     std::optional<Index> InsertTable(Pos position, std::size_t rows, std::size_t columns) override;
     void FormatCells(Index table, const std::function<void(const CellPlace&, CellFormat&)>& change) override;
     Page PageSetup() const override { return document_.page; }
-    void SetPageSetup(const Page& page) override { document_.page = page; }
+    void SetPageSetup(const Page& page) override;
     void BeginStep() override { ++depth_; }
     void EndStep() override;
     bool Undo() override;
     bool Redo() override;
 
     const Document& Whole() const { return document_; }
+    Place PlaceAt(Pos position) const { return places_.At(position); }
+    Pos PosOf(const Place& place) const { return places_.Of(place); }
+    /// nullptr takes the listener away.
+    void SetListener(TextListener* listener) { listener_ = listener; }
 
 private:
     using Steps = std::vector<std::vector<Patch>>;
@@ -43,6 +59,7 @@ private:
     /// Carries the patch out in the document and in the whole text.
     Patch Carry(Patch patch);
     bool Move(Steps& from, Steps& to);
+    void TellAll() const;
 
     Document document_{};
     Text all_{};
@@ -51,6 +68,7 @@ private:
     std::vector<Patch> step_;
     Steps undo_;
     Steps redo_;
+    TextListener* listener_ = nullptr;
 };
 
 } // namespace korvane::doc
