@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/text/Text.h"
 #include "document/model/Document.h"
 
 #include <QTextBlockFormat>
