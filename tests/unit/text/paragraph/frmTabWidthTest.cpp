@@ -1,0 +1,140 @@
+#include "text/paragraph/frmTabWidth.h"
+
+#include "unit/text/paragraph/ParagraphStage.h"
+
+namespace korvane {
+namespace {
+
+class TabWidthTest : public ParagraphStage {
+protected:
+    frmTabWidth& Open() {
+        window.EnsureLoaded();
+        return window;
+    }
+    int TypeOf(int tab) {
+        control.SetTabCurrent(tab);
+        return control.TabType();
+    }
+    const Message kUnits{
+        u"Use metric units of measurement?\r\n(\"No\" = Imperial system)\r\nCurrent value = NO",
+        MessageIcon::Question, MessageButtons::YesNo};
+
+    frmTabWidth window{t.app};
+};
+
+TEST_F(TabWidthTest, TheListOfTheUnitsGivesTheWidth) {
+    t.app.Settings.TabUnitKind = 1;
+    Open();
+    EXPECT_TRUE(window.lstTabsCm.Visible);
+    EXPECT_FALSE(window.lstTabsIns.Visible);
+    const TextView kCm[] = {u"284", u"567", u"851", u"1134", u"1418", u"1701", u"1985", u"2268"};
+    const TextView kInches[] = {u"360", u"720", u"1080", u"1440", u"1800", u"2160", u"2520", u"2880"};
+    // The first row may be the current one already.
+    window.lstTabsCm.Select(7);
+    for (int row = 0; row < 8; ++row) {
+        window.lstTabsCm.Select(row);
+        EXPECT_EQ(window.txtTabWidth.Text.Get(), kCm[row]);
+        window.lstTabsIns.Select(row);
+        EXPECT_EQ(window.txtTabWidth.Text.Get(), kInches[row]);
+    }
+    EXPECT_EQ(window.lstTabsCm.List(2), u" 1\u00BD cm");
+    EXPECT_EQ(window.lstTabsIns.List(6), u" 1\u00BE ins");
+    EXPECT_EQ(window.lstTabType.List(2), u" 3  Centered tab");
+}
+
+TEST_F(TabWidthTest, ApplySetsAllTabsOfTheKind) {
+    Open();
+    window.txtTabWidth.Type(u"400");
+    window.lstTabType.Select(1);
+    window.cmdApply.Press();
+    EXPECT_EQ(t.app.Settings.TabUnitTwips, 400);
+    EXPECT_EQ(Tabs(), Multiples(400));
+    EXPECT_EQ(TypeOf(1), 2);
+    EXPECT_EQ(TypeOf(14), 2);
+    EXPECT_TRUE(control.DataChanged());
+    EXPECT_TRUE(control.Visible);
+    EXPECT_TRUE(control.Undo());
+    EXPECT_EQ(Tabs(), Multiples(0));
+}
+
+TEST_F(TabWidthTest, OldTabsAndIndentsGoWhenTheBoxesSaySo) {
+    control.SetTabCurrent(1);
+    control.SetTabPos(5);
+    control.SetIndentL(300);
+    Open();
+    window.txtTabWidth.Type(u"500");
+    window.chkDeleteTabs.Press();
+    window.cmdApply.Press();
+    EXPECT_EQ(Tabs(), Multiples(500));
+    EXPECT_EQ(control.IndentL(), 300);
+    window.chkUndoIndents.Press();
+    window.cmdApply.Press();
+    EXPECT_EQ(control.IndentL(), 0);
+    EXPECT_EQ(t.app.Settings.TabWidthOptionA, 1);
+}
+
+TEST_F(TabWidthTest, AWidthThatIsTooLargeLeavesTheStep) {
+    t.app.Settings.TabUnitTwips = 720;
+    Open();
+    window.txtTabWidth.Type(u"40000");
+    window.cmdApply.Press();
+    EXPECT_EQ(t.app.Settings.TabUnitTwips, 720);
+}
+
+TEST_F(TabWidthTest, UnitsAreAskedForAndGoToTheRuler) {
+    Open();
+    t.user.Answer(kUnits, Answer::Yes);
+    window.cmdUnits.Press();
+    EXPECT_EQ(t.app.Settings.TabUnitKind, 1);
+    EXPECT_EQ(control.ScaleUnits, TextControl::kMillimetres);
+    EXPECT_TRUE(window.lstTabsCm.Visible);
+    t.user.Answer(Answer::No);
+    window.cmdUnits.Press();
+    EXPECT_TRUE(t.user.Messages().back().text.ends_with(u"Current value = YES"));
+    EXPECT_EQ(t.app.Settings.TabUnitKind, 2);
+    EXPECT_EQ(control.ScaleUnits, TextControl::kInches);
+    EXPECT_TRUE(window.lstTabsIns.Visible);
+}
+
+TEST_F(TabWidthTest, TheControlCharactersAreShownOnlyMeanwhile) {
+    Open();
+    window.cmdShow.Press();
+    EXPECT_TRUE(control.ControlChars);
+    window.cmdShow.Press();
+    EXPECT_FALSE(control.ControlChars);
+    window.cmdShow.Press();
+    window.Close();
+    EXPECT_FALSE(control.ControlChars);
+}
+
+TEST_F(TabWidthTest, ComesUpWithItsLastChoices) {
+    t.app.Settings.TabUnitTwips = 720;
+    Open();
+    EXPECT_EQ(window.txtTabWidth.Text.Get(), u"720");
+    window.lstTabsIns.Select(3);
+    window.txtTabWidth.Type(u"1500");
+    window.chkDefault.Press();
+    window.Close();
+    frmTabWidth again(t.app);
+    again.EnsureLoaded();
+    EXPECT_EQ(again.lstTabsIns.ListIndex(), 3);
+    EXPECT_EQ(again.txtTabWidth.Text.Get(), u"1500");
+    EXPECT_EQ(again.chkDefault.Value, 1);
+    EXPECT_EQ(again.chkDeleteTabs.Value, 0);
+}
+
+TEST_F(TabWidthTest, KeepsTheStepWithoutTheTextWindow) {
+    t.app.SetPort<OpenText>(nullptr);
+    Open();
+    window.txtTabWidth.Type(u"400");
+    window.cmdApply.Press();
+    window.cmdShow.Press();
+    t.user.Answer(Answer::Yes);
+    window.cmdUnits.Press();
+    EXPECT_EQ(t.app.Settings.TabUnitTwips, 400);
+    EXPECT_FALSE(control.DataChanged());
+    EXPECT_FALSE(control.ControlChars);
+}
+
+} // namespace
+} // namespace korvane
