@@ -32,8 +32,14 @@
 #include "shell/tabs/frmLoadList.h"
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
+#include "text/fields/frmShowFieldContents.h"
+#include "text/fields/frmViewEditField.h"
 #include "text/frmViewAndPaste.h"
 #include "text/markup/frmHTMLCodes.h"
+#include "text/paragraph/frmFramesDlg.h"
+#include "text/paragraph/frmIndent.h"
+#include "text/paragraph/frmParaSpacing.h"
+#include "text/paragraph/frmTabWidth.h"
 #include "text/window/frm_RTF_HTM.h"
 
 namespace korvane {
@@ -91,6 +97,7 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFoldersToday>(all.app, u"C:\\data");
      }},
+    {"frmFramesDlg", FromApp<frmFramesDlg>},
     {"frmGetFileFromTree", FromApp<frmGetFileFromTree>},
     {"frmHelp",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -99,6 +106,7 @@ constexpr Window kWindows[] = {
                                                {u"The keys", u"F1  \u2013  This help text\r\n\r\n"}});
      }},
     {"frmHTMLCodes", FromApp<frmHTMLCodes>},
+    {"frmIndent", FromApp<frmIndent>},
     {"frmLoadList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmLoadList>(all.app, all.main.Parts().tabs, all.main);
@@ -115,6 +123,7 @@ constexpr Window kWindows[] = {
     {"frmMyMsgBox", FromApp<frmMyMsgBox>},
     {"frmNewDir", FromApp<frmNewDir>},
     {"frmOpenFileWith", FromApp<frmOpenFileWith>},
+    {"frmParaSpacing", FromApp<frmParaSpacing>},
     {"frmProgramLocations", FromApp<frmProgramLocations>},
     {"frmRenDir", FromApp<frmRenDir>},
     {"frmRenFile", FromApp<frmRenFile>},
@@ -131,6 +140,8 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmSettings>(all.app, all.main.Parts().tabs, all.main.OfficeMenu1,
                                               all.main.iGridListBar);
      }},
+    {"frmShowFieldContents", FromApp<frmShowFieldContents>},
+    {"frmTabWidth", FromApp<frmTabWidth>},
     {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
     {"frmTxtDbColName",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -145,6 +156,10 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmTxtInfo>(all.app, all.facts);
      }},
     {"frmViewAndPaste", FromApp<frmViewAndPaste>},
+    {"frmViewEditField",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmViewEditField>(all.app, all.text);
+     }},
     {"frmViewCell",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmViewCell>(all.app, all.cell);

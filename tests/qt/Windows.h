@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context/App.h"
+#include "controls/TextControl.h"
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"
@@ -39,6 +40,8 @@ struct Surroundings {
     LoneNameLine nameLine;
     CopyMoveRun copyMove;
     frmMDIParent main{app, Text()};
+    Form textOwner{app.Forms(), "textOwner", u""};
+    TextControl text{textOwner, "text"};
 };
 
 /// A window's name and the function that makes it.

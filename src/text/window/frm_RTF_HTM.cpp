@@ -29,8 +29,11 @@
 #include "platform/Screen.h"
 #include "text/commands/TextCommands.h"
 #include "text/commands/TextFileTypes.h"
+#include "text/fields/FieldEvents.h"
+#include "text/fields/OpenUrl.h"
 #include "text/markup/MarkupConversion.h"
 #include "text/markup/TagPairs.h"
+#include "text/paragraph/frmIndent.h"
 
 #include <chrono>
 
@@ -151,6 +154,7 @@ struct frm_RTF_HTM::Tables {
         {"Any+Ctrl+F11", &Window::mnuTimer_Click},
         {"Any+Alt+F11", &Window::mnuTimer_Click},
         {"Ctrl+Shift+F1", &Window::StartLorrit},
+        {"Alt+U", &Window::OpenUrl},
         {"Ctrl+F", &Window::NoteFind, KeyUse::Passes},
     };
 };
@@ -183,6 +187,17 @@ void frm_RTF_HTM::Wire() {
     tabHairline.Visible = false;
     lblFileName.Visible = false;
     rtfTempText.Visible = false;
+    ThisTextCtrl.FieldEntered = [this](int field) {
+        ThisTextCtrl.ToolTipText = FieldTip(ThisTextCtrl, field);
+    };
+    ThisTextCtrl.FieldLeft = [this] { ThisTextCtrl.ToolTipText = Text(); };
+    ThisTextCtrl.FieldClicked = [this](int) {
+        ThisTextCtrl.ToolTipText = Text();
+        EditThisField();
+    };
+    ThisTextCtrl.HyperlinkClicked = [this](int field, int, const Text& link) {
+        ShowHyperlink(app_, ThisTextCtrl, rtfTempText, field, link);
+    };
     for (TextControl* control : {&ThisTextCtrl, &rtfTempText}) {
         control->Files = app_.Port<TextFiles>();
         control->Dialogs = app_.Port<TextDialogs>();
@@ -200,6 +215,7 @@ void frm_RTF_HTM::WireButtons() {
     cmdFind.Click = [this] { mnuFind_Click(); };
     cmdReplace.Click = [this] { mnuReplace_Click(); };
     cmdFonts.Click = [this] { mnuFonts_Click(); };
+    cmdAlign.Click = [this] { mnuAlign_Click(); };
     cmdParagraph.Click = [this] { mnuParagraphFormatting_Click(); };
     cmdPageSetup.Click = [this] { mnuPageSetup_Click(); };
     cmdBulletsNumbering.Click = [this] { mnuBulletsNumbering_Click(); };
@@ -528,6 +544,11 @@ void frm_RTF_HTM::mnuFonts_Click() {
     if (auto* tools = app_.Port<TextTools>()) tools->ChooseFont(ThisTextCtrl);
 }
 
+void frm_RTF_HTM::mnuAlign_Click() {
+    frmIndent(app_).ShowModal();
+    ThisTextCtrl.SetFocus();
+}
+
 void frm_RTF_HTM::mnuParagraphFormatting_Click() {
     ThisTextCtrl.ParagraphDialog();
 }
@@ -587,6 +608,20 @@ void frm_RTF_HTM::Typed(TypedText& typed) {
     if (!quote) return;
     typed.consumed = true;
     ThisTextCtrl.SetSelText(TextView(&*quote, 1));
+}
+
+void frm_RTF_HTM::mnuView_EditField_Clack() {
+    EditThisField();
+}
+
+void frm_RTF_HTM::EditThisField() {
+    if (!EditField(app_, ThisTextCtrl)) return;
+    TextAltered = 1;
+    ThisTextCtrl.SetFocus();
+}
+
+void frm_RTF_HTM::OpenUrl() {
+    OpenUrlFromSelection(app_, ThisTextCtrl);
 }
 
 void frm_RTF_HTM::FocusText() {

@@ -88,6 +88,8 @@ public:
     void DoSubScript();
     void AssignAltAKey();
 
+    void mnuView_EditField_Clack();
+    void EditThisField();
     void DoConvertHTML();
     void DoThisZoomIn();
     void DoThisZoomOut();
@@ -120,6 +122,7 @@ private:
     void mnuSymbols_Click();
     void mnuEdit_GetHTML_Click();
     void mnuFonts_Click();
+    void mnuAlign_Click();
     void mnuParagraphFormatting_Click();
     void mnuBulletsNumbering_Click();
     void mnuPageSetup_Click();
@@ -157,6 +160,7 @@ private:
     void Desktop();
     void StartBrowser();
     void StartLorrit();
+    void OpenUrl();
     void NoteFind();
 
     App& app_;

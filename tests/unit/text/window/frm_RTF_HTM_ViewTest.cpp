@@ -2,6 +2,9 @@
 #include "context/ports/InsertTools.h"
 #include "context/ports/TextTools.h"
 #include "context/ports/WordList.h"
+#include "text/fields/frmShowFieldContents.h"
+#include "text/fields/frmViewEditField.h"
+#include "text/paragraph/frmIndent.h"
 #include "unit/text/window/TextWindowStage.h"
 
 #include <string>
@@ -272,6 +275,51 @@ TEST_F(TextWindowView, TheControlsOwnDialogsAreShown) {
         Choose(entry);
     EXPECT_EQ(dialogs.shown, (std::vector<TextDialog>{TextDialog::Replace, TextDialog::Paragraph,
                                                       TextDialog::List, TextDialog::Page}));
+}
+
+TEST_F(TextWindowView, AlignmentAndIndentsAreForItsText) {
+    SelectAll(u"abc");
+    t.user.On<frmIndent>([](frmIndent& indent) {
+        indent.lstClient.Select(2);
+        indent.cmdAccept.Press();
+        indent.Close();
+    });
+    Choose("mnuAlign");
+    EXPECT_EQ(Control().Alignment(), 2);
+    EXPECT_TRUE(window->Altered());
+}
+
+TEST_F(TextWindowView, FieldsHaveTipsAndAreOpenedByAClick) {
+    Control().FieldInsert(u"note");
+    Control().SetFieldData(1, u"data");
+    Control().FieldInsert(u"link");
+    Control().SetFieldType(2, 1);
+    Control().SetFieldTypeData(2, u"www.a.b");
+    Control().Hover(1);
+    EXPECT_EQ(Control().ToolTipText.Get(), u"Field No. 1: data");
+    Control().Hover(0);
+    EXPECT_EQ(Control().ToolTipText.Get(), u"");
+    t.user.On<frmShowFieldContents>([](frmShowFieldContents& shown) {
+        EXPECT_EQ(shown.txtHyperLink.Text.Get(), u"www.a.b");
+        shown.cmdExit.Press();
+    });
+    Control().Click(2);
+    Control().SetSelStart(1);
+    Control().Hover(1);
+    window->TextAltered = 0;
+    t.user.On<frmViewEditField>([this](frmViewEditField& editor) {
+        EXPECT_EQ(Control().ToolTipText.Get(), u"");
+        EXPECT_EQ(editor.txtFieldLabel.Text.Get(), u"note");
+        editor.Close();
+    });
+    Control().Click(1);
+    EXPECT_EQ(window->TextAltered, 1);
+}
+
+TEST_F(TextWindowView, AltUOpensAnAddress) {
+    SelectAll(u"www.a.b");
+    t.user.On<frmShowFieldContents>([](frmShowFieldContents& shown) { shown.cmdExit.Press(); });
+    EXPECT_TRUE(Press('U', Mask::Alt));
 }
 
 TEST_F(TextWindowView, TheExplorerAndTheClockAreOpened) {
