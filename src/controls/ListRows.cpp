@@ -26,9 +26,9 @@ void ListRows::Write(int at, const ListRow& row) {
 }
 
 void ListRows::Fill(Held& held, const ListRow& row) {
-    std::vector<TextView> texts{row.key};
-    texts.insert(texts.end(), row.texts.begin(), row.texts.end());
-    held = {PackedTexts(texts), row.tag, icons_.NumberOf(row.icon), row.checked, row.selected};
+    texts_.assign(1, row.key);
+    texts_.insert(texts_.end(), row.texts.begin(), row.texts.end());
+    held = {PackedTexts(texts_), row.tag, icons_.NumberOf(row.icon), row.checked, row.selected};
     selectedCount_ += row.selected ? 1 : 0;
 }
 

@@ -58,6 +58,8 @@ private:
     PlaceOrder order_;
     std::vector<std::uint32_t> free_;
     NameNumbers icons_;
+    /// Those of the row that is taken just now; kept so that not each row asks for memory.
+    std::vector<TextView> texts_;
     int selectedCount_ = 0;
 };
 

@@ -1,9 +1,8 @@
 #include "controls/ListView.h"
 
-#include "common/text/CaseFold.h"
+#include "common/text/FoldedOrder.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace korvane {
 
@@ -180,17 +179,12 @@ void ListView::EnsureVisible(int index) {
 // ---- Sorting ------------------------------------------------------------------------------------------
 
 void ListView::SortBy(int column, SortOrder order) {
-    std::vector<Text> keys;
-    keys.reserve(static_cast<std::size_t>(Count()));
+    std::vector<TextView> texts;
+    texts.reserve(static_cast<std::size_t>(Count()));
     for (int index = 1; index <= Count(); ++index)
-        keys.push_back(ToUpper(TextAt(index, column)));
-    std::vector<int> sorted(keys.size());
-    std::iota(sorted.begin(), sorted.end(), 0);
-    const auto key = [&keys](int at) -> const Text& { return keys[static_cast<std::size_t>(at)]; };
-    std::stable_sort(sorted.begin(), sorted.end(), [&key, order](int a, int b) {
-        return order == SortOrder::Ascending ? key(a) < key(b) : key(b) < key(a);
-    });
-    TakeOrder(sorted);
+        texts.push_back(TextAt(index, column));
+    const std::vector<std::uint32_t> sorted = FoldedOrder(texts, order);
+    TakeOrder({sorted.begin(), sorted.end()});
 }
 
 void ListView::Reorder(const std::vector<int>& order) {

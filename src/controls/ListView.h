@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/number/SortOrder.h"
+#include "common/text/SortOrder.h"
 #include "controls/ListRow.h"
 #include "controls/ListRows.h"
 #include "controls/RowsControl.h"

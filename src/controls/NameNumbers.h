@@ -18,6 +18,8 @@ public:
 private:
     std::vector<Text> names_{Text()};
     std::unordered_map<Text, std::uint32_t> numbers_{{Text(), 0}};
+    /// Rows that follow one another mostly have the same name.
+    std::uint32_t last_ = 0;
 };
 
 } // namespace korvane

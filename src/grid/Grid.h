@@ -1,8 +1,8 @@
 #pragma once
 
-#include "common/number/SortOrder.h"
 #include "common/number/Units.h"
 #include "common/text/SharedBytes.h"
+#include "common/text/SortOrder.h"
 #include "common/text/Text.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "common/number/SortOrder.h"
+#include "common/text/SortOrder.h"
 #include "common/text/TextOrder.h"
 
 #include <vector>

@@ -230,7 +230,7 @@ std::vector<Text> MemoryFileSystem::Names(TextView folder,
         const bool hidden = !Style().HasDrives() && child.name.starts_with(u'.');
         if (!hidden && wanted(Find(Style().JoinPath(folder, child.name)))) names.push_back(child.name);
     }
-    std::ranges::sort(names, ComesBefore);
+    SortNames(names);
     return names;
 }
 

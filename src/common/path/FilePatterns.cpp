@@ -1,6 +1,7 @@
 #include "common/path/FilePatterns.h"
 
 #include "common/text/CaseFold.h"
+#include "common/text/FoldedOrder.h"
 
 #include <algorithm>
 
@@ -46,6 +47,15 @@ bool AnyPattern(TextView patterns, TestT test) {
     }
 }
 
+void SortRunsByCase(std::vector<Text>& names) {
+    for (auto first = names.begin(); first != names.end();) {
+        const auto last = std::find_if(first + 1, names.end(),
+                                       [&](const Text& name) { return !EqualIgnoringCase(name, *first); });
+        std::sort(first, last);
+        first = last;
+    }
+}
+
 } // namespace
 
 bool MatchesPatterns(TextView name, TextView patterns) {
@@ -58,12 +68,14 @@ bool AskForPrograms(TextView patterns) {
     return AnyPattern(patterns, [](TextView pattern) { return EqualIgnoringCase(pattern, u"*.exe"); });
 }
 
-bool ComesBefore(TextView a, TextView b) {
-    const auto [atA, atB] = std::ranges::mismatch(
-        a, b, [](char16_t x, char16_t y) { return x == y || ToUpper(x) == ToUpper(y); });
-    if (atA == a.end() && atB == b.end()) return a < b;
-    if (atA == a.end() || atB == b.end()) return atA == a.end();
-    return ToUpper(*atA) < ToUpper(*atB);
+void SortNames(std::vector<Text>& names) {
+    const std::vector<TextView> views(names.begin(), names.end());
+    std::vector<Text> sorted;
+    sorted.reserve(names.size());
+    for (const std::uint32_t index : FoldedOrder(views))
+        sorted.push_back(std::move(names[index]));
+    names = std::move(sorted);
+    SortRunsByCase(names);
 }
 
 } // namespace korvane

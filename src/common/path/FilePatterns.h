@@ -2,6 +2,8 @@
 
 #include "common/text/Text.h"
 
+#include <vector>
+
 namespace korvane {
 
 /// Whether the name matches one of the patterns, which semicolons separate ("*.rtf;*.doc"). "*" stands for
@@ -11,8 +13,8 @@ bool MatchesPatterns(TextView name, TextView patterns);
 /// Whether one of them is that of programs, "*.exe".
 bool AskForPrograms(TextView patterns);
 
-/// The order in which names are listed, the same on every system: by character with case ignored, and names
-/// that differ by nothing else by case.
-bool ComesBefore(TextView a, TextView b);
+/// Brings names into the order in which they are listed, the same on every system: by character with case
+/// ignored, and names that differ by nothing else by case.
+void SortNames(std::vector<Text>& names);
 
 } // namespace korvane

@@ -67,7 +67,7 @@ std::vector<Text> SortedNames(TextView folder, WantedT wanted) {
         if (wanted(entry, name)) names.push_back(std::move(name));
         return true;
     });
-    std::ranges::sort(names, ComesBefore);
+    SortNames(names);
     return names;
 }
 

@@ -48,10 +48,22 @@ TEST(MatchesPatternsTest, AnEmptyPatternMatchesNothing) {
     EXPECT_FALSE(MatchesPatterns(u"a", u" ; "));
 }
 
-TEST(ComesBeforeTest, OrdersByCharacterWithCaseIgnored) {
+TEST(SortNamesTest, OrdersByCharacterWithCaseIgnored) {
     std::vector<Text> names{u"b", u"B1", u"a_", u"A", u"a", u"ab", u"10", u"9", u"a"};
-    std::ranges::sort(names, ComesBefore);
+    SortNames(names);
     EXPECT_EQ(names, (std::vector<Text>{u"10", u"9", u"A", u"a", u"a", u"ab", u"a_", u"b", u"B1"}));
+}
+
+TEST(SortNamesTest, NamesThatDifferByCaseAloneAreOrderedByIt) {
+    std::vector<Text> names{u"letter to all", u"Letter To All", u"LETTER TO ALL", u"letter"};
+    SortNames(names);
+    EXPECT_EQ(names, (std::vector<Text>{u"letter", u"LETTER TO ALL", u"Letter To All", u"letter to all"}));
+}
+
+TEST(SortNamesTest, ThereMayBeNone) {
+    std::vector<Text> names;
+    SortNames(names);
+    EXPECT_TRUE(names.empty());
 }
 
 TEST(FilePatterns, ProgramsAreAskedForByTheirPattern) {
