@@ -50,6 +50,14 @@ struct FileDetails {
     bool operator==(const FileDetails&) const = default;
 };
 
+/// A folder of which many files are asked for their details.
+class FolderDetails {
+public:
+    virtual ~FolderDetails() = default;
+    /// As `FileSystem::Details` of the file of this name.
+    virtual std::optional<FileDetails> Of(TextView name) const = 0;
+};
+
 enum class CopyOutcome : std::uint8_t { Copied, DiskFull, Failed };
 
 struct CopyOptions {
@@ -104,6 +112,9 @@ public:
     virtual std::vector<Text> FolderNames(TextView /*folder*/) const { return {}; }
     /// Whether there are any: the disk is asked for the first only.
     virtual bool HasFolders(TextView /*folder*/) const { return false; }
+    /// Whether it is worth opening the folder for folders. That costs little for a folder of very many files
+    /// too, and another volume isn't waited for: where the disk can't tell at once, there may be some.
+    virtual bool MayHaveFolders(TextView folder) const { return HasFolders(folder); }
     virtual std::vector<Drive> Drives() const { return {}; }
     virtual bool MakeDir(TextView /*path*/) { return false; }
     /// Makes a folder that only the user may enter. On a disk that doesn't know owners it is `MakeDir`.
@@ -143,6 +154,9 @@ public:
         if (!FileExists(path)) return std::nullopt;
         return FileDetails{Size(path).value_or(0), Modified(path).value_or(DateTime())};
     }
+
+    /// The same for many files of one folder, which costs less than their paths would. The disk outlives it.
+    virtual std::unique_ptr<FolderDetails> DetailsIn(TextView folder) const;
 
     /// The volume of the path: a drive ("D:\") or a mounted file system. Nothing when there is none, and on a
     /// disk that doesn't know its volumes.

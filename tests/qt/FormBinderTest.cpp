@@ -484,6 +484,21 @@ TEST_F(FormBinderTest, AProgressBarShowsItsValue) {
     EXPECT_EQ(bar.value(), 250);
 }
 
+TEST_F(FormBinderTest, AProgressBarIsToldOfTheStepsThatAreSeen) {
+    auto& bar = Widget<QProgressBar>("ProgressBar1");
+    form.ProgressBar1.Max = 100'000;
+    form.ProgressBar1.Value = 99;
+    EXPECT_EQ(bar.value(), 0);
+    form.ProgressBar1.Value = 100;
+    EXPECT_EQ(bar.value(), 100);
+    form.ProgressBar1.Value = 99'999;
+    form.ProgressBar1.Value = 100'000;
+    EXPECT_EQ(bar.value(), 100'000);
+    form.ProgressBar1.Value = 99'950;
+    form.ProgressBar1.Value = 0;
+    EXPECT_EQ(bar.value(), 0);
+}
+
 TEST_F(FormBinderTest, ASplitterStandsWhereItIsPut) {
     auto& splitter = Widget<QSplitter>("imgSplitV");
     form.imgSplitV.Position = 120;

@@ -23,6 +23,7 @@ namespace {
 constexpr int kNameColumn = 1;
 constexpr int kSizeColumn = 2;
 constexpr int kDateColumn = 3;
+constexpr std::size_t kColumns = 3;
 
 } // namespace
 
@@ -73,11 +74,14 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
     const UpdateScope update(parts_.list);
     const int mine = fill_;
     const bool shown = names.size() > kMostReadAtOnce;
+    const std::unique_ptr<FolderDetails> details = app_.Files().DetailsIn(folder);
     ListRow row;
     for (std::size_t index = 0; index < names.size(); ++index) {
         if (shown) app_.Screen().Yield();
         if (mine != fill_) return false;
-        WriteRow(row, folder, names[index], index);
+        row.key = u"K_ ";
+        row.key += NumberText(index + 1);
+        WriteRow(row, folder, names[index], details->Of(names[index]));
         parts_.list.Add(row);
         // Kept for compatibility: bar-skips-every-32nd.
         if (shown && index % 32 != 0) parts_.bar.Value = static_cast<int>(index);
@@ -87,17 +91,20 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
     return true;
 }
 
-void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name, std::size_t index) {
+void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name,
+                        const std::optional<FileDetails>& details) {
+    row.texts.resize(kColumns);
+    row.texts[kNameColumn - 1] = name;
+    if (!details) {
+        row.texts[kSizeColumn - 1].clear();
+        row.texts[kDateColumn - 1].clear();
+        row.icon.clear();
+        return;
+    }
     const std::int16_t sortColumn = app_.Exchange<ListSort>().ListSortColumn;
-    const Text path = app_.Files().Style().JoinPath(folder, name);
-    row.key = u"K_ " + NumberText(index + 1);
-    row.texts.assign({name, {}, {}});
-    row.icon.clear();
-    const auto details = app_.Files().Details(path);
-    if (!details) return;
-    row.icon = images_.ImageOf(path);
     row.texts[kSizeColumn - 1] = SizeText(details->size, sortColumn);
     row.texts[kDateColumn - 1] = DateText(details->modified, sortColumn);
+    row.icon = images_.ImageOf(folder, name);
 }
 
 void FileRows::FinishOrder() {

@@ -4,6 +4,7 @@
 #include "files/lister/TypeImages.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace korvane {
@@ -12,6 +13,7 @@ class App;
 class CommandButton;
 class ListView;
 class ProgressBar;
+struct FileDetails;
 struct ListRow;
 
 /// The rows of the list of files: their reading, which the user can stop, their order and their marks.
@@ -63,7 +65,8 @@ private:
 
     void ShowReading(const std::vector<Text>& names);
     bool Read(const Text& folder, const std::vector<Text>& names);
-    void WriteRow(ListRow& row, const Text& folder, const Text& name, std::size_t index);
+    void WriteRow(ListRow& row, const Text& folder, const Text& name,
+                  const std::optional<FileDetails>& details);
     void FinishOrder();
     void UndoSortForms();
     void Choose(int row);

@@ -2,6 +2,7 @@
 
 #include "common/text/CaseFold.h"
 #include "context/App.h"
+#include "platform/FileSystem.h"
 #include "platform/FileTypes.h"
 
 #include <algorithm>
@@ -34,26 +35,26 @@ const CarryingType* FindCarrying(const FileType& type) {
 
 } // namespace
 
-TypeImages::TypeImages(const App& app) : types_(app.FileTypes()) {}
+TypeImages::TypeImages(const App& app) : app_(app), types_(app.FileTypes()) {}
 
 bool TypeImages::Prepare() {
     carries_.clear();
     return types_ == nullptr || types_->PrepareImages();
 }
 
-Text TypeImages::ImageOf(TextView path) {
-    if (types_ == nullptr) return {};
-    const FileType& type = types_->TypeOf(path);
+const Text& TypeImages::ImageOf(TextView folder, TextView name) {
+    static const Text kNone;
+    if (types_ == nullptr) return kNone;
+    const FileType& type = types_->TypeOf(name);
     const auto met = carries_.try_emplace(&type, false);
     if (met.second) met.first->second = FindCarrying(type) != nullptr;
-    return met.first->second ? CarriedImage(path, type) : type.image;
+    return met.first->second ? CarriedImage(app_.Files().Style().JoinPath(folder, name), type) : type.image;
 }
 
-Text TypeImages::CarriedImage(TextView path, const FileType& type) {
-    const Text own = types_->OwnImage(path);
-    if (!own.empty()) return own;
-    const TextView otherwise = FindCarrying(type)->otherwise;
-    return otherwise.empty() ? type.image : Text(otherwise);
+const Text& TypeImages::CarriedImage(TextView path, const FileType& type) {
+    carried_ = types_->OwnImage(path);
+    if (carried_.empty()) carried_ = FindCarrying(type)->otherwise;
+    return carried_.empty() ? type.image : carried_;
 }
 
 } // namespace korvane

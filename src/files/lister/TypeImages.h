@@ -18,13 +18,16 @@ public:
 
     /// Called before a folder is listed. False when there are no pictures to be had.
     bool Prepare();
-    /// The name of the picture; empty for none. A file is read only if those of its type carry a picture.
-    Text ImageOf(TextView path);
+    /// The name of the picture, until the next one is asked for; empty for none. A file is read only if those
+    /// of its type carry a picture.
+    const Text& ImageOf(TextView folder, TextView name);
 
 private:
-    Text CarriedImage(TextView path, const FileType& type);
+    const Text& CarriedImage(TextView path, const FileType& type);
 
+    const App& app_;
     FileTypes* types_;
+    Text carried_;
     /// For each type that was met, whether its files carry pictures.
     std::unordered_map<const FileType*, bool> carries_;
 };

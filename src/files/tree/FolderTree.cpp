@@ -68,7 +68,7 @@ void FolderTree::ReadFolders(const Text& folder) {
 Text FolderTree::AddFolder(const Text& parent, const Text& name) {
     const Text path = files_.Style().JoinPath(parent, name);
     tree_.Add(parent, path, name);
-    tree_.SetExpandable(path, files_.HasFolders(path));
+    tree_.SetExpandable(path, files_.MayHaveFolders(path));
     return path;
 }
 

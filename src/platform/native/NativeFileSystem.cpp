@@ -2,6 +2,7 @@
 
 #include "common/path/FilePatterns.h"
 #include "platform/native/FileCopy.h"
+#include "platform/native/FolderReader.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/NativeVolume.h"
@@ -38,38 +39,36 @@ fs::path WithoutDetours(const fs::path& path) {
     return plain.make_preferred();
 }
 
-/// Where files have no hidden attribute, names that begin with a dot are hidden.
-bool IsHidden(const fs::path& path) {
-    return fs::path::preferred_separator == '/' && path.filename().native().front() == '.';
-}
-
-/// Calls `take` for each entry of the folder that isn't hidden, until it returns false.
-template <class TakeT>
-void ForEachEntry(const fs::path& folder, TakeT take) {
-    std::error_code error;
-    fs::directory_iterator entry(folder, error);
-    while (!error && entry != fs::directory_iterator()) {
-        if (!IsHidden(entry->path()) && !take(*entry)) return;
-        entry.increment(error);
-    }
-}
-
-bool IsFolder(const fs::directory_entry& entry) {
-    std::error_code error;
-    return entry.is_directory(error);
-}
-
+/// Those that are wanted, in their order.
 template <class WantedT>
 std::vector<Text> SortedNames(TextView folder, WantedT wanted) {
     std::vector<Text> names;
-    ForEachEntry(ToNativePath(folder), [&](const fs::directory_entry& entry) {
-        Text name = FromNativePath(entry.path().filename());
-        if (wanted(entry, name)) names.push_back(std::move(name));
-        return true;
-    });
+    FolderReader entries(ToNativePath(folder));
+    while (entries.Next()) {
+        Text name = entries.Name();
+        if (wanted(entries, name)) names.push_back(std::move(name));
+    }
     SortNames(names);
     return names;
 }
+
+/// So many entries take no time to speak of.
+constexpr int kMostEntriesRead = 1000;
+
+std::optional<FileDetails> DetailsOf(const std::optional<system_calls::FileFacts>& facts) {
+    if (!facts || facts->isFolder) return std::nullopt;
+    return FileDetails{facts->size, ToLocalDateTime(facts->modified)};
+}
+
+class OpenFolder final : public FolderDetails {
+public:
+    explicit OpenFolder(const fs::path& folder) : folder_(folder) {}
+
+    std::optional<FileDetails> Of(TextView name) const override { return DetailsOf(folder_.FactsOf(name)); }
+
+private:
+    FolderReader folder_;
+};
 
 } // namespace
 
@@ -218,24 +217,31 @@ std::optional<system_calls::FileRights> NativeFileSystem::RightsToRestore(const 
 
 std::vector<Text> NativeFileSystem::FileNames(TextView folder, TextView patterns) const {
     const bool programs = AskForPrograms(patterns);
-    return SortedNames(folder, [patterns, programs](const fs::directory_entry& entry, const Text& name) {
-        const bool matches =
-            MatchesPatterns(name, patterns) || (programs && system_calls::IsProgram(entry.path()));
-        return matches && !IsFolder(entry);
+    return SortedNames(folder, [patterns, programs](const FolderReader& entry, const Text& name) {
+        return (MatchesPatterns(name, patterns) || (programs && entry.IsProgram())) && !entry.IsFolder();
     });
 }
 
 std::vector<Text> NativeFileSystem::FolderNames(TextView folder) const {
-    return SortedNames(folder, [](const fs::directory_entry& entry, const Text&) { return IsFolder(entry); });
+    return SortedNames(folder, [](const FolderReader& entry, const Text&) { return entry.IsFolder(); });
 }
 
 bool NativeFileSystem::HasFolders(TextView folder) const {
-    bool found = false;
-    ForEachEntry(ToNativePath(folder), [&found](const fs::directory_entry& entry) {
-        found = IsFolder(entry);
-        return !found;
-    });
-    return found;
+    FolderReader entries(ToNativePath(folder));
+    while (entries.Next()) {
+        if (entries.IsFolder()) return true;
+    }
+    return false;
+}
+
+bool NativeFileSystem::MayHaveFolders(TextView folder) const {
+    FolderReader entries(ToNativePath(folder), FolderReader::Reach::SameVolume);
+    if (entries.IsElsewhere()) return true;
+    int read = 0;
+    while (entries.Next()) {
+        if (entries.IsFolder() || ++read > kMostEntriesRead) return true;
+    }
+    return false;
 }
 
 std::vector<Drive> NativeFileSystem::Drives() const {
@@ -331,9 +337,11 @@ std::optional<DateTime> NativeFileSystem::Modified(TextView path) const {
 }
 
 std::optional<FileDetails> NativeFileSystem::Details(TextView path) const {
-    const auto facts = system_calls::FactsOf(ToNativePath(path));
-    if (!facts || facts->isFolder) return std::nullopt;
-    return FileDetails{facts->size, ToLocalDateTime(facts->modified)};
+    return DetailsOf(system_calls::FactsOf(ToNativePath(path)));
+}
+
+std::unique_ptr<FolderDetails> NativeFileSystem::DetailsIn(TextView folder) const {
+    return std::make_unique<OpenFolder>(ToNativePath(folder));
 }
 
 std::optional<VolumeInfo> NativeFileSystem::Volume(TextView path) const {

@@ -33,6 +33,8 @@ public:
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
     std::vector<Text> FolderNames(TextView folder) const override;
     bool HasFolders(TextView folder) const override;
+    /// A folder without any among its first thousand entries isn't read to its end.
+    bool MayHaveFolders(TextView folder) const override;
     std::vector<Drive> Drives() const override;
     bool MakeDir(TextView path) override;
     bool MakePrivateDir(TextView path) override;
@@ -48,6 +50,7 @@ public:
     std::optional<std::int64_t> Size(TextView path) const override;
     std::optional<DateTime> Modified(TextView path) const override;
     std::optional<FileDetails> Details(TextView path) const override;
+    std::unique_ptr<FolderDetails> DetailsIn(TextView folder) const override;
     std::optional<VolumeInfo> Volume(TextView path) const override;
     Text LastErrorText() const override;
     Text ProgramDir() const override { return programDir_; }

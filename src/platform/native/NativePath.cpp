@@ -51,7 +51,7 @@ std::string ToAnyBytes(TextView text) {
     std::string bytes;
     std::size_t start = 0;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!IsByteUnit(text, at)) continue;
+        if (text[at] < kFirstByteUnit || !IsByteUnit(text, at)) continue;
         bytes += ToUtf8(text.substr(start, at - start));
         bytes += static_cast<char>(text[at] - kByteUnits);
         start = at + 1;
@@ -63,20 +63,28 @@ std::string ToAnyBytes(TextView text) {
 #endif
 
 std::filesystem::path ToNativePath(TextView path) {
-    // The system would read the name only up to the null, and so open another file.
-    if (path.find(u'\0') != TextView::npos) return {};
-#ifdef _WIN32
-    return Text(path);
-#else
-    return ToAnyBytes(path);
-#endif
+    return ToNative(path);
 }
 
 Text FromNativePath(const std::filesystem::path& path) {
+    return FromNative(path.native());
+}
+
+std::filesystem::path::string_type ToNative(TextView name) {
+    // The system would read the name only up to the null, and so open another file.
+    if (name.find(u'\0') != TextView::npos) return {};
 #ifdef _WIN32
-    return path.u16string();
+    return {name.begin(), name.end()};
 #else
-    return IsUtf8(path.native()) ? FromUtf8(path.native()) : FromAnyBytes(path.native());
+    return ToAnyBytes(name);
+#endif
+}
+
+Text FromNative(std::basic_string_view<std::filesystem::path::value_type> name) {
+#ifdef _WIN32
+    return {name.begin(), name.end()};
+#else
+    return IsUtf8(name) ? FromUtf8(name) : FromAnyBytes(name);
 #endif
 }
 

@@ -3,6 +3,7 @@
 #include "common/text/Text.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace korvane {
 
@@ -11,5 +12,10 @@ namespace korvane {
 /// a file's name.
 std::filesystem::path ToNativePath(TextView path);
 Text FromNativePath(const std::filesystem::path& path);
+
+// The same of a single name, without the look at its parts that makes it a path.
+
+std::filesystem::path::string_type ToNative(TextView name);
+Text FromNative(std::basic_string_view<std::filesystem::path::value_type> name);
 
 } // namespace korvane

@@ -146,8 +146,15 @@ void PanelAdaptor::Write(Aspect aspect) {
 
 void ProgressAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Range) widget_.setMaximum(control_.Max);
-    if (aspect == Aspect::Value) widget_.setValue(control_.Value);
+    if (aspect == Aspect::Value && IsSeen()) widget_.setValue(control_.Value);
     AdaptorOf::Write(aspect);
+}
+
+/// A long work counts each of its steps, and to tell the widget of one can cost more than the step itself.
+bool ProgressAdaptor::IsSeen() const {
+    const std::int64_t value = control_.Value;
+    const std::int64_t max = control_.Max;
+    return value <= 0 || value >= max || std::abs(value - widget_.value()) * kStepsOfBar >= max;
 }
 
 SliderAdaptor::SliderAdaptor(Slider& slider, QAbstractSlider& widget) : AdaptorOf(slider, widget) {

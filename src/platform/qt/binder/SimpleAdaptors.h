@@ -81,6 +81,13 @@ public:
 
 protected:
     void Write(Aspect aspect) override;
+
+private:
+    /// A bar on the screen shows no smaller steps.
+    static constexpr int kStepsOfBar = 1000;
+
+    /// Whether the bar looks different with its new value.
+    bool IsSeen() const;
 };
 
 class SliderAdaptor : public AdaptorOf<Slider, QAbstractSlider> {

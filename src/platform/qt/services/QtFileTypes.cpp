@@ -18,7 +18,7 @@ constexpr qsizetype kLongestExtension = 24;
 constexpr qsizetype kMostExtensions = 1000;
 
 /// Files in which another one is compressed: its extension tells the type, too, as in "a.tar.gz".
-constexpr std::array kCompressed{u"gz", u"bz2", u"xz", u"Z", u"lz", u"lzma", u"lz4", u"zst"};
+constexpr std::array<QStringView, 8> kCompressed{u"gz", u"bz2", u"xz", u"Z", u"lz", u"lzma", u"lz4", u"zst"};
 /// Longer parts of a name before such an extension are words, not extensions.
 constexpr qsizetype kLongestInner = 4;
 
@@ -62,7 +62,7 @@ bool IsWord(QStringView part) {
 QStringView ExtensionOf(QStringView name) {
     const QStringView last = LastExtension(name);
     if (last.isEmpty() || last.size() > kLongestExtension) return {};
-    const bool compressed = std::ranges::any_of(kCompressed, [last](auto known) { return last == known; });
+    const bool compressed = std::ranges::find(kCompressed, last) != kCompressed.end();
     const QStringView inner = compressed ? LastExtension(name.chopped(last.size() + 1)) : QStringView();
     return IsWord(inner) ? name.last(inner.size() + 1 + last.size()) : last;
 }

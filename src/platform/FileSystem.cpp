@@ -1,0 +1,26 @@
+#include "platform/FileSystem.h"
+
+namespace korvane {
+
+namespace {
+
+class DetailsByPath final : public FolderDetails {
+public:
+    DetailsByPath(const FileSystem& files, TextView folder) : files_(files), folder_(folder) {}
+
+    std::optional<FileDetails> Of(TextView name) const override {
+        return files_.Details(files_.Style().JoinPath(folder_, name));
+    }
+
+private:
+    const FileSystem& files_;
+    Text folder_;
+};
+
+} // namespace
+
+std::unique_ptr<FolderDetails> FileSystem::DetailsIn(TextView folder) const {
+    return std::make_unique<DetailsByPath>(*this, folder);
+}
+
+} // namespace korvane
