@@ -25,10 +25,16 @@ struct AlikeTexts {
     std::size_t from = 0;
 };
 
+/// As `ToUpper`, which is needed for few letters.
+char16_t Fold(char16_t unit) {
+    if (unit >= u'a' && unit <= u'z') return static_cast<char16_t>(unit - u'a' + u'A');
+    return unit < 0x80 ? unit : ToUpper(unit);
+}
+
 std::uint64_t UnitsAt(TextView text, std::size_t from) {
     std::uint64_t units = 0;
     for (std::size_t at = from; at < from + kUnitsInKey; ++at)
-        units = units << 16U | (at < text.size() ? ToUpper(text[at]) : 0U);
+        units = units << 16U | (at < text.size() ? Fold(text[at]) : 0U);
     return units;
 }
 

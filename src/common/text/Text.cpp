@@ -1,6 +1,8 @@
 #include "common/text/Text.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <type_traits>
 
 namespace korvane {
 
@@ -86,6 +88,14 @@ char32_t NextCodePoint(std::string_view bytes, std::size_t& at) {
     return point;
 }
 
+/// How many of the units or bytes, from the first on, are ASCII. In names mostly all are.
+template <class UnitsT>
+std::size_t AsciiLength(const UnitsT& units) {
+    const auto end = std::ranges::find_if(
+        units, [](auto unit) { return static_cast<std::make_unsigned_t<decltype(unit)>>(unit) >= 0x80; });
+    return static_cast<std::size_t>(end - units.begin());
+}
+
 } // namespace
 
 Text FromAscii(std::string_view ascii) {
@@ -93,15 +103,16 @@ Text FromAscii(std::string_view ascii) {
 }
 
 Text FromUtf8(std::string_view utf8) {
-    Text text;
+    const std::size_t ascii = AsciiLength(utf8);
+    Text text(utf8.begin(), utf8.begin() + ascii);
     text.reserve(utf8.size());
-    for (std::size_t at = 0; at < utf8.size();)
+    for (std::size_t at = ascii; at < utf8.size();)
         AppendCodePoint(text, NextCodePoint(utf8, at));
     return text;
 }
 
 bool IsUtf8(std::string_view bytes) {
-    for (std::size_t at = 0; at < bytes.size();) {
+    for (std::size_t at = AsciiLength(bytes); at < bytes.size();) {
         const std::size_t start = at;
         // A replacement character that is really in the bytes takes three of them.
         if (NextCodePoint(bytes, at) == kReplacement && at - start == 1) return false;
@@ -110,9 +121,12 @@ bool IsUtf8(std::string_view bytes) {
 }
 
 std::string ToUtf8(TextView text) {
-    std::string bytes;
+    const std::size_t ascii = AsciiLength(text);
+    std::string bytes(ascii, '\0');
+    std::transform(text.begin(), text.begin() + ascii, bytes.begin(),
+                   [](char16_t unit) { return static_cast<char>(unit); });
     bytes.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    for (std::size_t i = ascii; i < text.size(); ++i) {
         const char16_t unit = text[i];
         if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
             const char32_t point = 0x10000u + ((unit - 0xD800u) << 10) + (text[i + 1] - 0xDC00u);

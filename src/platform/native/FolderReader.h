@@ -31,6 +31,8 @@ public:
 
     Text Name() const;
     bool IsFolder() const;
+    /// Whether the disk has to be asked for that. It needn't for most entries.
+    bool MustBeAsked() const;
     /// As `system_calls::IsProgram`.
     bool IsProgram() const;
 

@@ -237,11 +237,19 @@ bool NativeFileSystem::HasFolders(TextView folder) const {
 bool NativeFileSystem::MayHaveFolders(TextView folder) const {
     FolderReader entries(ToNativePath(folder), FolderReader::Reach::SameVolume);
     if (entries.IsElsewhere()) return true;
-    int read = 0;
-    while (entries.Next()) {
-        if (entries.IsFolder() || ++read > kMostEntriesRead) return true;
+    std::vector<Text> unsure;
+    for (int read = 0; entries.Next(); ++read) {
+        if (read == kMostEntriesRead) return true;
+        if (entries.MustBeAsked()) {
+            unsure.push_back(entries.Name());
+        } else if (entries.IsFolder()) {
+            return true;
+        }
     }
-    return false;
+    return std::ranges::any_of(unsure, [&entries](const Text& name) {
+        const auto facts = entries.FactsOf(name);
+        return facts && facts->isFolder;
+    });
 }
 
 std::vector<Drive> NativeFileSystem::Drives() const {

@@ -56,7 +56,7 @@ std::string ToAnyBytes(TextView text) {
         bytes += static_cast<char>(text[at] - kByteUnits);
         start = at + 1;
     }
-    return bytes + ToUtf8(text.substr(start));
+    return start == 0 ? ToUtf8(text) : bytes + ToUtf8(text.substr(start));
 }
 
 } // namespace
@@ -71,10 +71,13 @@ Text FromNativePath(const std::filesystem::path& path) {
 }
 
 std::filesystem::path::string_type ToNative(TextView name) {
+    std::filesystem::path::string_type native(name.begin(), name.end());
+    // A large folder has very many names, and most of them need no other look than this one.
+    if (std::ranges::all_of(name, [](char16_t unit) { return unit != 0 && unit < 0x80; })) return native;
     // The system would read the name only up to the null, and so open another file.
     if (name.find(u'\0') != TextView::npos) return {};
 #ifdef _WIN32
-    return {name.begin(), name.end()};
+    return native;
 #else
     return ToAnyBytes(name);
 #endif

@@ -53,10 +53,8 @@ struct FolderReader::Opened {
     const dirent* entry = nullptr;
     bool isElsewhere = false;
 
-    std::optional<struct stat> StatusOf(const char* name) const {
-        struct stat status {};
-        if (entries == nullptr || fstatat(dirfd(entries), name, &status, 0) != 0) return std::nullopt;
-        return status;
+    bool ReadStatus(const char* name, struct stat& status) const {
+        return entries != nullptr && fstatat(dirfd(entries), name, &status, 0) == 0;
     }
 };
 
@@ -89,23 +87,28 @@ Text FolderReader::Name() const {
     return FromNative(opened_->entry->d_name);
 }
 
-bool FolderReader::IsFolder() const {
+bool FolderReader::MustBeAsked() const {
     const unsigned char type = opened_->entry->d_type;
-    if (type != DT_LNK && type != DT_UNKNOWN) return type == DT_DIR;
-    const auto status = opened_->StatusOf(opened_->entry->d_name);
-    return status && S_ISDIR(status->st_mode);
+    return type == DT_LNK || type == DT_UNKNOWN;
+}
+
+bool FolderReader::IsFolder() const {
+    if (!MustBeAsked()) return opened_->entry->d_type == DT_DIR;
+    struct stat status;
+    return opened_->ReadStatus(opened_->entry->d_name, status) && S_ISDIR(status.st_mode);
 }
 
 bool FolderReader::IsProgram() const {
     const char* const name = opened_->entry->d_name;
-    const auto status = opened_->StatusOf(name);
-    return status && S_ISREG(status->st_mode) && faccessat(dirfd(opened_->entries), name, X_OK, 0) == 0;
+    struct stat status;
+    return opened_->ReadStatus(name, status) && S_ISREG(status.st_mode) &&
+           faccessat(dirfd(opened_->entries), name, X_OK, 0) == 0;
 }
 
 std::optional<system_calls::FileFacts> FolderReader::FactsOf(TextView name) const {
-    const auto status = opened_->StatusOf(ToNative(name).c_str());
-    if (!status) return std::nullopt;
-    return system_calls::FileFacts{status->st_size, status->st_mtime, S_ISDIR(status->st_mode)};
+    struct stat status;
+    if (!opened_->ReadStatus(ToNative(name).c_str(), status)) return std::nullopt;
+    return system_calls::FileFacts{status.st_size, status.st_mtime, S_ISDIR(status.st_mode)};
 }
 
 } // namespace korvane

@@ -35,6 +35,11 @@ Text FolderReader::Name() const {
     return FromNativePath(opened_->entry->path().filename());
 }
 
+bool FolderReader::MustBeAsked() const {
+    std::error_code error;
+    return opened_->entry->is_symlink(error);
+}
+
 bool FolderReader::IsFolder() const {
     std::error_code error;
     return opened_->entry->is_directory(error);

@@ -35,11 +35,11 @@ TEST(FoldedOrder, ATextComesBeforeItsContinuation) {
 
 TEST(FoldedOrder, AgreesWithAComparisonOfWholeTexts) {
     std::mt19937 random(1);
-    const auto pick = [&random](unsigned count) { return random() % count; };
+    const auto pick = [&random](std::size_t count) { return std::size_t{random()} % count; };
     std::vector<Text> texts(500);
     for (Text& text : texts) {
         text = u"Report ";
-        for (unsigned left = pick(9); left > 0; --left)
+        for (std::size_t left = pick(9); left > 0; --left)
             text += u"aAbB\u0436\u0416\uFFFF"[pick(7)];
     }
     for (const SortOrder order : {SortOrder::Ascending, SortOrder::Descending}) {

@@ -1,5 +1,6 @@
 // Tests what only POSIX systems have: pipes, devices, links and permissions of owners.
 
+#include "support/SmallDisk.h"
 #include "unit/platform/native/NativeFiles.h"
 
 #include <sys/stat.h>
@@ -228,6 +229,58 @@ TEST(NativeVolume, OfTheRootHoldsBytes) {
 TEST(NativeVolume, OfAFileThatIsNotThereIsThatOfItsFolder) {
     const NativeFileSystem files(u"/opt/korvane");
     EXPECT_EQ(files.Volume(u"/no/such/file")->totalBytes, files.Volume(u"/")->totalBytes);
+}
+
+// Folders that may be worth opening.
+
+TEST_F(NativeFiles, AFolderOfFilesIsNotWorthOpening) {
+    WriteBytes(dir / "a.txt", "x");
+    fs::create_symlink(dir / "a.txt", dir / "link");
+    fs::create_symlink(dir / "gone", dir / "dangling");
+    EXPECT_FALSE(files.MayHaveFolders(At("")));
+    EXPECT_FALSE(files.MayHaveFolders(At("a.txt")));
+    EXPECT_FALSE(files.MayHaveFolders(At("none")));
+}
+
+TEST_F(NativeFiles, AFolderWithFoldersOrLinksToThemIsWorthOpening) {
+    fs::create_directories(dir / "folder" / ".hidden");
+    EXPECT_TRUE(files.MayHaveFolders(At("")));
+    EXPECT_FALSE(files.MayHaveFolders(At("folder")));
+    fs::create_symlink(dir / "folder", dir / "folder" / "circle");
+    EXPECT_TRUE(files.MayHaveFolders(At("folder")));
+}
+
+TEST_F(NativeFiles, OfAVeryLargeFolderOnlyTheFirstEntriesAreRead) {
+    for (int number = 0; number < 1000; ++number)
+        WriteBytes(dir / std::to_string(number), "");
+    EXPECT_FALSE(files.MayHaveFolders(At("")));
+    WriteBytes(dir / "1000", "");
+    EXPECT_TRUE(files.MayHaveFolders(At("")));
+    EXPECT_FALSE(files.HasFolders(At("")));
+}
+
+TEST(NativeFolders, OfAnotherVolumeAreNotLookedForUntilItIsOpened) {
+    const bool mounted = RunOnSmallDisk(1 << 20, [](const fs::path& disk) {
+        const NativeFileSystem files(u"/opt/korvane");
+        EXPECT_FALSE(files.HasFolders(FromNativePath(disk)));
+        EXPECT_TRUE(files.MayHaveFolders(FromNativePath(disk)));
+    });
+    if (!mounted) GTEST_SKIP() << "this user may not mount a disk";
+}
+
+TEST_F(NativeFiles, DetailsOfManyFilesAreThoseOfEach) {
+    WriteBytes(dir / "a.txt", "12345");
+    WriteBytes(dir / "caf\xC3\xA9 \xFF", "1");
+    fs::create_directory(dir / "folder");
+    fs::create_symlink(dir / "a.txt", dir / "link");
+    const auto details = files.DetailsIn(At(""));
+    for (const Text& name : files.FileNames(At(""), u"*"))
+        EXPECT_EQ(details->Of(name), files.Details(files.Style().JoinPath(At(""), name)));
+    EXPECT_EQ(details->Of(u"link")->size, 5);
+    EXPECT_FALSE(details->Of(u"folder"));
+    EXPECT_FALSE(details->Of(u"gone"));
+    EXPECT_FALSE(details->Of(Text(u"a.txt\0x", 7)));
+    EXPECT_FALSE(files.DetailsIn(At("gone"))->Of(u"a.txt"));
 }
 
 TEST_F(NativeFiles, ProgramsAreListedByTheRightToStartThem) {
