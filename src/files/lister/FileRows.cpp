@@ -1,6 +1,7 @@
 #include "files/lister/FileRows.h"
 
 #include "common/number/Number.h"
+#include "common/text/FoldedOrder.h"
 #include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/exchange/ListSort.h"
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <unordered_set>
+#include <utility>
 
 namespace korvane {
 
@@ -24,6 +26,10 @@ constexpr int kNameColumn = 1;
 constexpr int kSizeColumn = 2;
 constexpr int kDateColumn = 3;
 constexpr std::size_t kColumns = 3;
+
+SortOrder OrderOf(const ListSort& sort) {
+    return sort.ListSortOrder == 0 ? SortOrder::Ascending : SortOrder::Descending;
+}
 
 } // namespace
 
@@ -75,6 +81,7 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
     const int mine = fill_;
     const bool shown = names.size() > kMostReadAtOnce;
     const std::unique_ptr<FolderDetails> details = app_.Files().DetailsIn(folder);
+    std::vector<Text> sortForms;
     ListRow row;
     for (std::size_t index = 0; index < names.size(); ++index) {
         if (shown) app_.Screen().Yield();
@@ -82,12 +89,13 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
         row.key = u"K_ ";
         row.key += NumberText(index + 1);
         WriteRow(row, folder, names[index], details->Of(names[index]));
+        TakeSortForm(row, sortForms);
         parts_.list.Add(row);
         // Kept for compatibility: bar-skips-every-32nd.
         if (shown && index % 32 != 0) parts_.bar.Value = static_cast<int>(index);
         if (shown && stopRequested_) break;
     }
-    FinishOrder();
+    Order(sortForms);
     return true;
 }
 
@@ -107,30 +115,35 @@ void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name,
     row.icon = images_.ImageOf(folder, name);
 }
 
-void FileRows::FinishOrder() {
+/// The row shows the same for all sorts.
+void FileRows::TakeSortForm(ListRow& row, std::vector<Text>& sortForms) const {
+    const std::int16_t sortColumn = app_.Exchange<ListSort>().ListSortColumn;
+    if (sortColumn == ListSort::kName) return;
+    Text& text = row.texts[static_cast<std::size_t>(sortColumn)];
+    sortForms.push_back(std::exchange(text, {}));
+    const Text& sorted = sortForms.back();
+    // A file that had gone before it was reached has none.
+    if (!sorted.empty()) text = sortColumn == ListSort::kSize ? ShownSize(sorted) : ShownDate(sorted);
+}
+
+void FileRows::Order(const std::vector<Text>& sortForms) {
     const ListSort& sort = app_.Exchange<ListSort>();
-    // The names come in their order.
-    if (sort.ListSortColumn != ListSort::kName || sort.ListSortOrder != 0) Sort();
-    UndoSortForms();
+    if (sort.ListSortColumn == ListSort::kName) {
+        // The names come in their order.
+        if (sort.ListSortOrder != 0) Sort();
+        return;
+    }
+    const std::vector<TextView> forms(sortForms.begin(), sortForms.end());
+    std::vector<int> order;
+    order.reserve(forms.size());
+    for (const std::uint32_t index : FoldedOrder(forms, OrderOf(sort)))
+        order.push_back(static_cast<int>(index) + 1);
+    parts_.list.Reorder(order);
 }
 
 void FileRows::Sort() {
     const ListSort& sort = app_.Exchange<ListSort>();
-    parts_.list.SortBy(sort.ListSortColumn + 1,
-                       sort.ListSortOrder == 0 ? SortOrder::Ascending : SortOrder::Descending);
-}
-
-void FileRows::UndoSortForms() {
-    const std::int16_t sortColumn = app_.Exchange<ListSort>().ListSortColumn;
-    if (sortColumn == ListSort::kName) return;
-    const int column = sortColumn + 1;
-    ListView& list = parts_.list;
-    for (int row = 1; row <= list.Count(); ++row) {
-        const TextView sorted = list.TextAt(row, column);
-        // A file that had gone before it was reached has none.
-        if (sorted.empty()) continue;
-        list.SetText(row, column, column == kSizeColumn ? ShownSize(sorted) : ShownDate(sorted));
-    }
+    parts_.list.SortBy(sort.ListSortColumn + 1, OrderOf(sort));
 }
 
 void FileRows::Choose(int row) {

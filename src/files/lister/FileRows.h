@@ -67,8 +67,8 @@ private:
     bool Read(const Text& folder, const std::vector<Text>& names);
     void WriteRow(ListRow& row, const Text& folder, const Text& name,
                   const std::optional<FileDetails>& details);
-    void FinishOrder();
-    void UndoSortForms();
+    void TakeSortForm(ListRow& row, std::vector<Text>& sortForms) const;
+    void Order(const std::vector<Text>& sortForms);
     void Choose(int row);
 
     App& app_;
