@@ -12,15 +12,15 @@ namespace {
 
 constexpr QMimeDatabase::MatchMode kByName = QMimeDatabase::MatchExtension;
 /// No known extension is longer.
-constexpr qsizetype kLongestExtension = 24;
+constexpr std::size_t kLongestExtension = 24;
 /// A folder can have files of very many extensions, such as numbers. The desktop needs long to find out that
 /// it doesn't know one, so it isn't asked about more than this.
-constexpr qsizetype kMostExtensions = 1000;
+constexpr std::size_t kMostExtensions = 1000;
 
 /// Files in which another one is compressed: its extension tells the type, too, as in "a.tar.gz".
-constexpr std::array<QStringView, 8> kCompressed{u"gz", u"bz2", u"xz", u"Z", u"lz", u"lzma", u"lz4", u"zst"};
+constexpr std::array<TextView, 8> kCompressed{u"gz", u"bz2", u"xz", u"Z", u"lz", u"lzma", u"lz4", u"zst"};
 /// Longer parts of a name before such an extension are words, not extensions.
-constexpr qsizetype kLongestInner = 4;
+constexpr std::size_t kLongestInner = 4;
 
 struct OwnPicture {
     const char16_t* genericName;
@@ -48,23 +48,23 @@ constexpr TextView kDatabaseName = u"Korvane text database";
 constexpr TextView kDatabasePicture = u"fileTable";
 
 /// The part after the last dot; empty when there is none, or when the name begins with it.
-QStringView LastExtension(QStringView name) {
-    const qsizetype dot = name.lastIndexOf(u'.');
-    return dot <= 0 ? QStringView() : name.sliced(dot + 1);
+TextView LastExtension(TextView name) {
+    const std::size_t dot = name.rfind(u'.');
+    return dot == 0 || dot == TextView::npos ? TextView() : name.substr(dot + 1);
 }
 
-bool IsWord(QStringView part) {
-    return !part.isEmpty() && part.size() <= kLongestInner &&
-           std::ranges::all_of(part, [](QChar letter) { return letter.isLetter(); });
+bool IsWord(TextView part) {
+    return !part.empty() && part.size() <= kLongestInner &&
+           std::ranges::all_of(part, [](char16_t letter) { return QChar(letter).isLetter(); });
 }
 
 /// That part, with the one before where the file is a compressed one.
-QStringView ExtensionOf(QStringView name) {
-    const QStringView last = LastExtension(name);
-    if (last.isEmpty() || last.size() > kLongestExtension) return {};
-    const bool compressed = std::ranges::find(kCompressed, last) != kCompressed.end();
-    const QStringView inner = compressed ? LastExtension(name.chopped(last.size() + 1)) : QStringView();
-    return IsWord(inner) ? name.last(inner.size() + 1 + last.size()) : last;
+TextView ExtensionOf(TextView name) {
+    const TextView last = LastExtension(name);
+    if (last.empty() || last.size() > kLongestExtension) return {};
+    if (std::ranges::find(kCompressed, last) == kCompressed.end()) return last;
+    const TextView inner = LastExtension(name.substr(0, name.size() - last.size() - 1));
+    return IsWord(inner) ? Right(name, inner.size() + 1 + last.size()) : last;
 }
 
 TextView NameOf(TextView path) {
@@ -98,22 +98,20 @@ bool QtFileTypes::PrepareImages() {
 }
 
 const FileType& QtFileTypes::TypeOf(TextView path) {
-    const TextView name = NameOf(path);
-    const QStringView extension = ExtensionOf(QStringView(name.data(), static_cast<qsizetype>(name.size())));
-    // The text isn't copied to look for it.
-    const QString key = QString::fromRawData(extension.data(), extension.size());
-    const auto found = byExtension_.constFind(key);
-    if (found != byExtension_.cend()) return **found;
-    const bool tooMany = byExtension_.size() >= kMostExtensions && !extension.isEmpty();
-    return tooMany ? TypeOf({}) : Ask(extension.toString());
+    const TextView extension = ExtensionOf(NameOf(path));
+    const auto found = byExtension_.find(extension);
+    if (found != byExtension_.end()) return *found->second;
+    const bool tooMany = byExtension_.size() >= kMostExtensions && !extension.empty();
+    return tooMany ? TypeOf({}) : Ask(extension);
 }
 
-const FileType& QtFileTypes::Ask(const QString& extension) {
-    const QMimeType mime = extension.isEmpty()
+const FileType& QtFileTypes::Ask(TextView extension) {
+    const QString end = ToQString(extension);
+    const QMimeType mime = end.isEmpty()
                                ? database_.mimeTypeForName(QStringLiteral("application/octet-stream"))
-                               : database_.mimeTypeForFile(QStringLiteral("a.") + extension, kByName);
-    const FileType& type = TypeOfMime(extension, mime);
-    byExtension_.insert(extension, &type);
+                               : database_.mimeTypeForFile(QStringLiteral("a.") + end, kByName);
+    const FileType& type = TypeOfMime(end, mime);
+    byExtension_.emplace(extension, &type);
     return type;
 }
 

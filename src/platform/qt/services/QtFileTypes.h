@@ -2,11 +2,11 @@
 
 #include "platform/FileTypes.h"
 
-#include <QHash>
 #include <QMimeDatabase>
 #include <QString>
-#include <QStringView>
+#include <functional>
 #include <map>
+#include <unordered_map>
 
 namespace korvane {
 
@@ -20,13 +20,18 @@ public:
     Text OwnImage(TextView) override { return {}; }
 
 private:
-    const FileType& Ask(const QString& extension);
+    /// So that a text isn't copied to look for it.
+    struct HashOfText : std::hash<TextView> {
+        using is_transparent = void;
+    };
+
+    const FileType& Ask(TextView extension);
     const FileType& TypeOfMime(const QString& extension, const QMimeType& mime);
 
     QMimeDatabase database_;
     QString theme_;
     /// By extension, without its dot. Several of them may have one type.
-    QHash<QString, const FileType*> byExtension_;
+    std::unordered_map<Text, const FileType*, HashOfText, std::equal_to<>> byExtension_;
     /// By the names of the MIME data.
     std::map<QString, FileType> types_;
 };
