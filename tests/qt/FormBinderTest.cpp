@@ -487,10 +487,10 @@ TEST_F(FormBinderTest, AProgressBarShowsItsValue) {
 TEST_F(FormBinderTest, AProgressBarIsToldOfTheStepsThatAreSeen) {
     auto& bar = Widget<QProgressBar>("ProgressBar1");
     form.ProgressBar1.Max = 100'000;
-    form.ProgressBar1.Value = 99;
+    form.ProgressBar1.Value = 999;
     EXPECT_EQ(bar.value(), 0);
-    form.ProgressBar1.Value = 100;
-    EXPECT_EQ(bar.value(), 100);
+    form.ProgressBar1.Value = 1'000;
+    EXPECT_EQ(bar.value(), 1'000);
     form.ProgressBar1.Value = 99'999;
     form.ProgressBar1.Value = 100'000;
     EXPECT_EQ(bar.value(), 100'000);

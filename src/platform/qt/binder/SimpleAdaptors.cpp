@@ -146,7 +146,12 @@ void PanelAdaptor::Write(Aspect aspect) {
 
 void ProgressAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Range) widget_.setMaximum(control_.Max);
-    if (aspect == Aspect::Value && IsSeen()) widget_.setValue(control_.Value);
+    if (aspect == Aspect::Value && IsSeen()) {
+        // The bar would paint itself at once and not when events run.
+        widget_.setUpdatesEnabled(false);
+        widget_.setValue(control_.Value);
+        widget_.setUpdatesEnabled(true);
+    }
     AdaptorOf::Write(aspect);
 }
 

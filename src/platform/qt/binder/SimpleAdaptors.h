@@ -83,8 +83,8 @@ protected:
     void Write(Aspect aspect) override;
 
 private:
-    /// A bar on the screen shows no smaller steps.
-    static constexpr int kStepsOfBar = 1000;
+    /// A small bar shows hardly more steps, and the widget paints itself at each.
+    static constexpr int kStepsOfBar = 100;
 
     /// Whether the bar looks different with its new value.
     bool IsSeen() const;
