@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/lists/AsciiWidths.h"
+
 #include <QStyledItemDelegate>
 
 namespace korvane {
@@ -28,9 +30,14 @@ protected:
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
+    /// Draws a cell that has nothing but a picture and a short plain text, which takes half the time of the
+    /// general way. False for any other cell.
+    bool PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
+
     void Finish(QWidget& editor, int row, const QString& text, int step) const;
 
     bool lined_ = false;
+    mutable AsciiWidths widths_;
 };
 
 } // namespace korvane
