@@ -376,6 +376,8 @@ CopyOutcome MemoryFileSystem::CopyBeside(const Place& source, const Place& place
     Place unfinished{place.volume, place.folder, Text(kUnfinishedCopy), nullptr};
     const auto copy = unfinished.node = disk_.Put(unfinished, MemoryNode::Kind::File);
     CopyOutcome outcome = FillCopy(unfinished, source, options);
+    const bool flushes = outcome == CopyOutcome::Copied && options.flush;
+    if (flushes && Strikes(FileStep::Flush)) outcome = CopyOutcome::Failed;
     if (outcome == CopyOutcome::Copied && (Strikes(FileStep::Close) || Strikes(FileStep::Rename)))
         outcome = CopyOutcome::Failed;
     disk_.Erase(unfinished);

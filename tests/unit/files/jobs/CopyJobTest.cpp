@@ -22,10 +22,13 @@ struct CopyJobTest : testing::Test {
         t.files.AddDrive(u'D');
         t.files.AddDir(u"C:\\From");
         t.files.AddDir(u"D:\\To");
-        t.files.SetVolume(u"D:\\", {.totalBytes = 1'000'000'000'000, .freeBytes = 500'000'000'000});
+        SetRoom(1'000'000'000'000, 500'000'000'000);
     }
     ~CopyJobTest() override { EXPECT_THAT(answers, IsEmpty()) << "answers that nobody asked for"; }
 
+    void SetRoom(std::int64_t total, std::int64_t free) {
+        t.files.SetVolume(u"D:\\", {.totalBytes = total, .freeBytes = free});
+    }
     void AddSource(TextView name, std::string_view bytes) { t.files.AddFile(From(name), bytes); }
     void AddTarget(TextView name, std::string_view bytes) { t.files.AddFile(To(name), bytes); }
     static Text From(TextView name) { return u"C:\\From\\" + Text(name); }
@@ -317,7 +320,7 @@ TEST_F(CopyJobTest, ASourceThatCantBeDeletedStaysWithoutAWord) {
 
 TEST_F(CopyJobTest, ExactlyTheBytesNeededAndFourThousandNinetySixMorePass) {
     AddSource(u"a", std::string(1000, 'a'));
-    t.files.SetVolume(u"D:\\", {.totalBytes = 9000, .freeBytes = 5096});
+    SetRoom(9000, 5096);
     RunFor({u"a"});
     EXPECT_EQ(run.FilesCopied, 1);
     EXPECT_EQ(run.DriveFree, 4096);
@@ -327,7 +330,7 @@ TEST_F(CopyJobTest, OneByteLessStopsTheJobWithAReport) {
     AddSource(u"first.txt", std::string(10, 'f'));
     AddSource(u"große.txt", std::string(1000, 'a'));
     AddSource(u"last.txt", "l");
-    t.files.SetVolume(u"D:\\", {.totalBytes = 5'000'000'000, .freeBytes = 5105});
+    SetRoom(5'000'000'000, 5105);
     t.user.Answer({u"Target drive full !\r\n\r\nTarget drive\tD:\\\r\nTotal space\t5,000,000,000\r\nFree "
                    u"space\t5,095\r\n\r\nHalted at\tC:\\FROM\\GROßE.TXT\r\nSize\t1,000",
                    MessageIcon::Exclamation},
@@ -341,7 +344,7 @@ TEST_F(CopyJobTest, OneByteLessStopsTheJobWithAReport) {
 TEST_F(CopyJobTest, ReplacingABiggerTargetNeedsTheReserveAlone) {
     AddSource(u"a", std::string(1000, 'a'));
     AddTarget(u"a", std::string(2000, 'o'));
-    t.files.SetVolume(u"D:\\", {.totalBytes = 9000, .freeBytes = 4096});
+    SetRoom(9000, 4096);
     answers = {Yes};
     RunFor({u"a"});
     EXPECT_EQ(run.FilesCopied, 1);
@@ -351,7 +354,7 @@ TEST_F(CopyJobTest, ReplacingABiggerTargetNeedsTheReserveAlone) {
 TEST_F(CopyJobTest, ReplacingASmallerTargetNeedsTheDifference) {
     AddSource(u"a", std::string(1000, 'a'));
     AddTarget(u"a", std::string(400, 'o'));
-    t.files.SetVolume(u"D:\\", {.totalBytes = 9000, .freeBytes = 4696});
+    SetRoom(9000, 4696);
     answers = {Yes};
     RunFor({u"a"});
     EXPECT_EQ(run.DriveFree, 4096);
@@ -362,10 +365,10 @@ TEST_F(CopyJobTest, ReplacingASmallerTargetNeedsTheDifference) {
 TEST_F(CopyJobTest, TheFreeSpaceIsAnEstimateReadOnce) {
     AddSource(u"a", std::string(100, 'a'));
     AddSource(u"b", std::string(100, 'b'));
-    t.files.SetVolume(u"D:\\", {.totalBytes = 9000, .freeBytes = 5000});
+    SetRoom(9000, 5000);
     CopyJob job = JobFor({u"a", u"b"});
     ASSERT_TRUE(job.Step());
-    t.files.SetVolume(u"D:\\", {.totalBytes = 9000, .freeBytes = 1});
+    SetRoom(9000, 1);
     ASSERT_TRUE(job.Step());
     EXPECT_FALSE(job.Step());
     EXPECT_EQ(run.DriveFree, 4800);
@@ -383,7 +386,7 @@ TEST_F(CopyJobTest, ADriveFullerThanItSaidIsReportedToo) {
     AddSource(u"a", std::string(3000, 'a'));
     AddSource(u"b", "b");
     t.files.SetFreeBytes(2000, u"D:\\");
-    t.files.SetVolume(u"D:\\", {.totalBytes = 90'000, .freeBytes = 80'000});
+    SetRoom(90'000, 80'000);
     CopyJob job = JobFor({u"a", u"b"});
     run.DriveFree = 80'000;
     t.user.Answer({u"Target drive full !\r\n\r\nTarget drive\tD:\\\r\nTotal space\t90,000\r\nFree "
@@ -507,6 +510,23 @@ TEST_F(CopyJobTest, AFailedMoveKeepsItsSource) {
         EXPECT_EQ(At(To(u"a")), "(none)");
     }
     EXPECT_EQ(run.FilesCopied, 0);
+}
+
+TEST_F(CopyJobTest, AMoveRemovesItsSourceOnlyWhenTheCopyIsSafeOnTheDisk) {
+    AddSource(u"a", "first");
+    t.files.Faults().FailNth(FileStep::Flush, 1);
+    RunFor({u"a"});
+    EXPECT_EQ(At(To(u"a")), "first") << "a copy waits for no flush";
+    t.files.Erase(To(u"a"));
+
+    move = true;
+    t.user.Answer(Answer::Ok);
+    RunFor({u"a"});
+    EXPECT_EQ(At(From(u"a")), "first");
+    EXPECT_EQ(At(To(u"a")), "(none)");
+    RunFor({u"a"});
+    EXPECT_EQ(At(From(u"a")), "(none)");
+    EXPECT_EQ(At(To(u"a")), "first");
 }
 
 TEST_F(CopyJobTest, ATargetThatCantBeWrittenStays) {
