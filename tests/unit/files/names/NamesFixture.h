@@ -16,14 +16,14 @@ inline bool PressIn(TextBox& field, int code, int mask = Mask::None) {
     return key.consumed;
 }
 
-/// A program with the folder C:\Data and its file Old.txt, and that folder the current one.
-struct NamesFixture : testing::Test {
-    NamesFixture() {
-        t.files.AddFile(u"C:\\Data\\Old.txt", "bytes");
-        t.files.ChangeDir(u"C:\\Data");
-        file.FileOpFolder = u"C:\\Data";
+/// A program with a folder that is the current one, and its file Old.txt.
+struct FolderFixture : testing::Test {
+    FolderFixture(PathStyle style, const Text& folder) : t(style) {
+        t.files.AddFile(style.JoinPath(folder, u"Old.txt"), "bytes");
+        t.files.ChangeDir(folder);
+        file.FileOpFolder = folder;
         file.FileOpName = u"Old.txt";
-        lister.ListerFolder = u"C:\\Data";
+        lister.ListerFolder = folder;
     }
 
     TestApp t;
@@ -32,20 +32,23 @@ struct NamesFixture : testing::Test {
     ListerRequest& lister = app.Exchange<ListerRequest>();
 };
 
-/// The same where paths are written with "/".
-struct PosixNamesFixture : testing::Test {
-    PosixNamesFixture() {
-        t.files.AddFile(u"/home/me/Old.txt", "bytes");
-        t.files.ChangeDir(u"/home/me");
-        file.FileOpFolder = u"/home/me";
-        file.FileOpName = u"Old.txt";
-        lister.ListerFolder = u"/home/me";
-    }
+struct NamesFixture : FolderFixture {
+    NamesFixture() : FolderFixture(PathStyle::Windows, u"C:\\Data") {}
+};
 
-    TestApp t{PathStyle::Posix};
-    App& app = t.app;
-    FileOperation& file = app.Exchange<FileOperation>();
-    ListerRequest& lister = app.Exchange<ListerRequest>();
+struct PosixNamesFixture : FolderFixture {
+    PosixNamesFixture() : FolderFixture(PathStyle::Posix, u"/home/me") {}
+};
+
+/// Shows the window to a script, on either kind of disk.
+template <class WindowT, class FixtureT = NamesFixture>
+struct NameWindowTest : FixtureT {
+    template <class ScriptT>
+    void Show(ScriptT script) {
+        this->app.DialogResult = 0;
+        this->t.user.template On<WindowT>(script);
+        WindowT(this->app).ShowModal();
+    }
 };
 
 } // namespace korvane

@@ -6,14 +6,7 @@
 namespace korvane {
 namespace {
 
-struct DupFileTest : NamesFixture {
-    template <class ScriptT>
-    void Show(ScriptT script) {
-        app.DialogResult = 0;
-        t.user.On<frmDupFile>(script);
-        frmDupFile(app).ShowModal();
-    }
-};
+struct DupFileTest : NameWindowTest<frmDupFile> {};
 
 TEST_F(DupFileTest, HasItsTexts) {
     Show([](frmDupFile& f) {
@@ -144,27 +137,25 @@ TEST_F(DupFileTest, ReturnAcceptsAndEscGivesUp) {
     EXPECT_EQ(app.DialogResult, 1);
 }
 
-struct PosixDupFileTest : PosixNamesFixture {};
+struct PosixDupFileTest : NameWindowTest<frmDupFile, PosixNamesFixture> {};
 
 TEST_F(PosixDupFileTest, WhereCaseCountsANameMayDifferByItAlone) {
-    t.user.On<frmDupFile>([](frmDupFile& f) {
+    Show([](frmDupFile& f) {
         f.Text2.Type(u"OLD.txt");
         f.cmdAccept.Press();
     });
-    frmDupFile(app).ShowModal();
     EXPECT_EQ(t.files.Contents(u"/home/me/OLD.txt"), "bytes");
 }
 
 TEST_F(PosixDupFileTest, APipeIsNotOpened) {
     t.files.AddPipe(u"/home/me/pipe");
     file.FileOpName = u"pipe";
-    t.user.On<frmDupFile>([this](frmDupFile& f) {
+    Show([this](frmDupFile& f) {
         t.user.Answer(Answer::Ok);
         f.Text2.Type(u"copy");
         f.cmdAccept.Press();
         f.cmdCancel.Press();
     });
-    frmDupFile(app).ShowModal();
     EXPECT_NE(InStr(t.user.Messages().back().text, u"\"Operation not permitted\""), 0u);
     EXPECT_FALSE(t.files.FileExists(u"/home/me/copy"));
 }

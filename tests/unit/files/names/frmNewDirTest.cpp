@@ -6,14 +6,7 @@
 namespace korvane {
 namespace {
 
-struct NewDirTest : NamesFixture {
-    template <class ScriptT>
-    void Show(ScriptT script) {
-        app.DialogResult = 0;
-        t.user.On<frmNewDir>(script);
-        frmNewDir(app).ShowModal();
-    }
-};
+struct NewDirTest : NameWindowTest<frmNewDir> {};
 
 TEST_F(NewDirTest, HasItsTexts) {
     Show([](frmNewDir& f) {
@@ -156,17 +149,16 @@ TEST_F(NewDirTest, KeepsItsWidthForTheOthersOfItsKind) {
     });
 }
 
-struct PosixNewDirTest : PosixNamesFixture {};
+struct PosixNewDirTest : NameWindowTest<frmNewDir, PosixNamesFixture> {};
 
 TEST_F(PosixNewDirTest, MakesTheFolderBelowAShortOneToo) {
     t.files.AddDir(u"/a");
     for (const TextView folder : {u"/a", u"/"}) {
         t.files.ChangeDir(folder);
-        t.user.On<frmNewDir>([](frmNewDir& f) {
+        Show([](frmNewDir& f) {
             f.Text1.Type(u"New");
             f.cmdAccept.Press();
         });
-        frmNewDir(app).ShowModal();
         EXPECT_EQ(file.NewFolderPath, t.files.Style().JoinPath(folder, u"New"));
         EXPECT_TRUE(t.files.DirExists(file.NewFolderPath));
     }

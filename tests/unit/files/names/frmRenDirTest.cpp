@@ -6,17 +6,10 @@
 namespace korvane {
 namespace {
 
-struct RenDirTest : NamesFixture {
+struct RenDirTest : NameWindowTest<frmRenDir> {
     RenDirTest() {
         t.files.AddFile(u"C:\\Data\\Old\\a.txt", "a");
         lister.ListerFolder = u"C:\\Data\\Old";
-    }
-
-    template <class ScriptT>
-    void Show(ScriptT script) {
-        app.DialogResult = 0;
-        t.user.On<frmRenDir>(script);
-        frmRenDir(app).ShowModal();
     }
 };
 
@@ -161,17 +154,16 @@ TEST_F(RenDirTest, TakesALargerStoredWidthThanTheOthers) {
     });
 }
 
-struct PosixRenDirTest : PosixNamesFixture {};
+struct PosixRenDirTest : NameWindowTest<frmRenDir, PosixNamesFixture> {};
 
 TEST_F(PosixRenDirTest, WhereCaseCountsANameMayDifferByItAlone) {
     t.files.AddDir(u"/a");
     lister.ListerFolder = u"/a";
-    t.user.On<frmRenDir>([](frmRenDir& f) {
+    Show([](frmRenDir& f) {
         EXPECT_EQ(f.Text2.Text.Get(), u"a");
         f.Text2.Type(u"A");
         f.cmdAccept.Press();
     });
-    frmRenDir(app).ShowModal();
     EXPECT_EQ(file.NewFolderResult, u"/A");
     EXPECT_TRUE(t.files.DirExists(u"/A"));
 }

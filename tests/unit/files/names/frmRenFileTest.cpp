@@ -6,14 +6,7 @@
 namespace korvane {
 namespace {
 
-struct RenFileTest : NamesFixture {
-    template <class ScriptT>
-    void Show(ScriptT script) {
-        app.DialogResult = 0;
-        t.user.On<frmRenFile>(script);
-        frmRenFile(app).ShowModal();
-    }
-};
+struct RenFileTest : NameWindowTest<frmRenFile> {};
 
 TEST_F(RenFileTest, HasItsTextsAndTheOldName) {
     Show([](frmRenFile& f) {
