@@ -225,5 +225,55 @@ TEST_P(FileRowsTest, AStoppedReadingIsSortedToo) {
     });
 }
 
+/// A disk with one folder of a million files.
+class MillionFiles final : public FileSystem {
+public:
+    PathStyle Style() const override { return PathStyle::Posix; }
+    bool FileExists(TextView) const override { return false; }
+    bool DirExists(TextView path) const override { return path == u"/"; }
+    Text CurrentDir() const override { return u"/"; }
+    bool ChangeDir(TextView path) override { return DirExists(path); }
+    Text FullPath(TextView path) const override { return Text(path); }
+    std::optional<SharedBytes> ReadAll(TextView) override { return std::nullopt; }
+    std::unique_ptr<FileWriter> OpenRaw(TextView) override { return nullptr; }
+    bool Remove(TextView) override { return false; }
+    std::vector<Text> FileNames(TextView, TextView) const override {
+        std::vector<Text> names;
+        for (int number = 1'000'000; number < 2'000'000; ++number)
+            names.push_back(NumberText(number));
+        return names;
+    }
+    std::optional<FileDetails> Details(TextView) const override {
+        ++asked;
+        return FileDetails{1, {}};
+    }
+    std::optional<std::int64_t> Size(TextView) const override { return std::nullopt; }
+    std::optional<DateTime> Modified(TextView) const override { return std::nullopt; }
+    Text LastErrorText() const override { return {}; }
+    Text ProgramDir() const override { return u"/"; }
+
+    mutable int asked = 0;
+};
+
+TEST(FileRowsOfAMillion, AStopLeavesTheOthersUntouched) {
+    TestApp t;
+    MillionFiles files;
+    App app{
+        {files, t.user, t.clipboard, t.clock, t.screen, t.shell, t.instance, t.user, [] { return nullptr; }}};
+    app.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
+    t.user.On<frmGetFileFromTree>([&](frmGetFileFromTree& f) {
+        t.user.Answer(
+            {u"Only 2 of the 1,000,000 files in this directory were read.", MessageIcon::Exclamation},
+            Answer::Ok);
+        t.screen.QueueMessage([] {});
+        t.screen.QueueMessage([&f] { f.cmdEscape.Press(); });
+        f.Activate();
+        EXPECT_EQ(f.ListView1.Count(), 2);
+        EXPECT_EQ(files.asked, 2);
+        f.cmdCancel.Press();
+    });
+    frmGetFileFromTree(app).ShowModal();
+}
+
 } // namespace
 } // namespace korvane
