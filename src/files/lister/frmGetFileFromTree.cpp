@@ -265,6 +265,7 @@ void frmGetFileFromTree::Activate() {
     folder_.GoTo(Text(folder_.Path()));
     if (!Saves()) return;
     txtFileName.BackColor = kSaveColour;
+    SelectStem(txtFileName);
     txtFileName.SetFocus();
 }
 

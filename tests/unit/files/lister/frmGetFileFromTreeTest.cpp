@@ -128,6 +128,11 @@ TEST_P(frmGetFileFromTreeTest, ASaveBeginsInTheLineOfTheName) {
     Open([](frmGetFileFromTree& f) { EXPECT_EQ(f.txtFileName.BackColor.Get(), kNoColour); });
 }
 
+TEST_P(frmGetFileFromTreeTest, ASaveSelectsTheProposedNameUpToItsExtension) {
+    request.FileDialogDefaultName = u"letter.to all.tbx";
+    OpenToSave([](frmGetFileFromTree& f) { EXPECT_EQ(f.txtFileName.SelText(), u"letter.to all"); });
+}
+
 TEST_P(frmGetFileFromTreeTest, ReadsNothingBeforeItIsActive) {
     OpenOnly([](frmGetFileFromTree& f) {
         EXPECT_EQ(f.ListView1.Count(), 0);
