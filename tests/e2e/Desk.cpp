@@ -68,10 +68,11 @@ bool Desk::Holds(const fs::path& file, const std::string& bytes) {
     return Until([&] { return ReadBytes(file) == bytes; });
 }
 
-std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments) const {
+std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments,
+                                     const fs::path& folder) const {
     std::vector<std::string> command{(folder_ / "korvane").string()};
     command.insert(command.end(), arguments.begin(), arguments.end());
-    return std::make_unique<Process>(command, environment_);
+    return std::make_unique<Process>(command, environment_, -1, folder.string());
 }
 
 void Desk::Provide(const std::string& program) const {

@@ -28,8 +28,9 @@ public:
     /// Waits until the file contains exactly these bytes.
     bool Holds(const std::filesystem::path& file, const std::string& bytes);
 
-    /// Starts the copy of the program.
-    std::unique_ptr<Process> Start(const std::vector<std::string>& arguments) const;
+    /// Starts the copy of the program, in this folder unless it is empty.
+    std::unique_ptr<Process> Start(const std::vector<std::string>& arguments,
+                                   const std::filesystem::path& folder = {}) const;
 
     /// Creates a program of this name that is found before the system's own. It only records how it was
     /// started.

@@ -31,7 +31,8 @@ std::vector<std::string> Settings(const Process::Environment& environment) {
 
 } // namespace
 
-Process::Process(const std::vector<std::string>& command, const Environment& environment, int inherited) {
+Process::Process(const std::vector<std::string>& command, const Environment& environment, int inherited,
+                 const std::string& folder) {
     std::vector<std::string> words = command;
     std::vector<std::string> settings = Settings(environment);
     const std::vector<char*> arguments = Pointers(words);
@@ -39,6 +40,7 @@ Process::Process(const std::vector<std::string>& command, const Environment& env
     id_ = fork();
     if (id_ != 0) return;
     if (inherited >= 0) fcntl(inherited, F_SETFD, 0);
+    if (!folder.empty() && chdir(folder.c_str()) != 0) _exit(127);
     execvpe(arguments[0], arguments.data(), variables.data());
     _exit(127);
 }

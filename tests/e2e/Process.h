@@ -14,8 +14,10 @@ class Process {
 public:
     using Environment = std::map<std::string, std::string>;
 
-    /// `inherited` is a file descriptor that stays open in the child, or -1 for none.
-    Process(const std::vector<std::string>& command, const Environment& environment, int inherited = -1);
+    /// `inherited` is a file descriptor that stays open in the child, or -1 for none. The child starts in the
+    /// folder, or where this process is when it is empty.
+    Process(const std::vector<std::string>& command, const Environment& environment, int inherited = -1,
+            const std::string& folder = "");
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
     ~Process();
