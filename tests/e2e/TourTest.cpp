@@ -76,7 +76,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuCopyCheckedRowsToClipb", Shows("^Copy rows$")},
     {"mnuCopyTableToText", Shows("^Copy rows$")},
     {"mnuCopyTableToClipboard", Shows("^Copy rows$")},
-    {"mnuEdit_MakeTable", kSilent},
+    {"mnuEdit_MakeTable", Shows("^Choose range$")},
     {"mnuExport_Excel", Shows("^Choose range$")},
     {"mnuCalc_Add", {{{"^Choose range$", {"Return"}}, {kMain, {"alt+y"}}}}},
     {"mnuMisc_Calc", Starts("gnome-calculator ")},

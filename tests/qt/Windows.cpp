@@ -2,6 +2,7 @@
 
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmFindReplace.h"
+#include "dbops/windows/frmFormatTable.h"
 #include "dbops/windows/frmRowColour.h"
 #include "dbops/windows/frmSetRowHeight.h"
 #include "dbops/windows/frmTxtDbAddRows.h"
@@ -97,6 +98,7 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFoldersToday>(all.app, u"C:\\data");
      }},
+    {"frmFormatTable", FromApp<frmFormatTable>},
     {"frmFramesDlg", FromApp<frmFramesDlg>},
     {"frmGetFileFromTree", FromApp<frmGetFileFromTree>},
     {"frmHelp",

@@ -8,6 +8,7 @@
 #include "dbops/commands/RowCommands.h"
 #include "dbops/commands/RowHeight.h"
 #include "dbops/commands/RowLookCommands.h"
+#include "dbops/commands/TextTableCommand.h"
 #include "dbops/commands/TickCommands.h"
 #include "dbops/windows/frmFindReplace.h"
 #include "dbops/windows/frmViewCell.h"
@@ -75,7 +76,7 @@ constexpr std::array kCommands{
             &mnuCopyTableToText_Clack},
     Command{1, "mnuCopyTableToClipboard", u"Copy whole table to clip&board", "Ctrl+Shift+F7",
             &mnuCopyTableToClipboard_Clack},
-    Command{1, "mnuEdit_MakeTable", u"Convert to text &table", "Ctrl+F9"},
+    Command{1, "mnuEdit_MakeTable", u"Convert to text &table", "Ctrl+F9", &mnuEdit_MakeTable_Clack},
     Command{1, "mnuExport_Excel", u"Export to E&xcel table", "Ctrl+F12", &mnuExport_Excel_Clack},
 
     Command{0, "mnuCalc", u"&Calculation", ""},
@@ -87,7 +88,7 @@ constexpr std::array kCommands{
     Command{1, "mnuFormat_BColor", u"Bac&kground colour...", "", &mnuFormat_BColor_Clack},
     Command{1, "mnuFormat_RowColour", u"Specify row &colour", "Ctrl+F3", &mnuFormat_RowColour_Clack},
     Command{1, "mnuSidebarWidth", u"Set side&bar width    ( Alt-Shift-F7 )", "", &mnuSidebarWidth},
-    Command{1, "mnuView_TextEdit", u"Text &edit window", "Ctrl+E"},
+    Command{1, "mnuView_TextEdit", u"Text &edit window", "Ctrl+E", &mnuView_TextEdit},
 
     Command{0, "mnuWindow", u"&Window", ""},
     Command{1, "mnuFile_SwitchTabsForward", u"&Next tab", "F12", &mnuFile_SwitchTabsForward},

@@ -8,6 +8,7 @@
 #include "context/StandardMessages.h"
 #include "context/exchange/StateFiles.h"
 #include "context/ports/ClipboardView.h"
+#include "context/ports/TextWindow.h"
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
@@ -138,6 +139,10 @@ void mnuMisc_YourProgram(const MainParts& main) {
 
 void ViewAndPaste(const MainParts& main) {
     if (auto* clipboardView = main.app.Port<ClipboardView>()) clipboardView->Show();
+}
+
+void mnuView_TextEdit(const MainParts& main) {
+    if (auto* textWindow = main.app.Port<TextWindow>()) textWindow->TextWindowShow();
 }
 
 void mnuMisc_Calc(const MainParts& main) {

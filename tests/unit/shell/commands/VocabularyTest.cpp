@@ -9,6 +9,7 @@
 #include "dbops/commands/RowCommands.h"
 #include "dbops/commands/RowHeight.h"
 #include "dbops/commands/RowLookCommands.h"
+#include "dbops/commands/TextTableCommand.h"
 #include "dbops/commands/TickCommands.h"
 #include "dbops/rules/RowFontFlags.h"
 #include "dbops/rules/UndoCommands.h"
@@ -227,7 +228,7 @@ const Called kCalled[] = {
     {ON_A_TAB(mnuCopyCheckedRowsToClipb)},
     {ON_A_TAB(mnuCopyTableToText)},
     {ON_A_TAB(mnuCopyTableToClipboard)},
-    {"mnuEdit_MakeTable", {}},
+    {ON_A_TAB(mnuEdit_MakeTable)},
     {ON_A_TAB(mnuExport_Excel)},
     {"mnuCalc", {}},
     {ON_A_TAB(mnuCalc_Add)},
@@ -237,7 +238,7 @@ const Called kCalled[] = {
     {ON_A_TAB(mnuFormat_BColor)},
     {ON_A_TAB(mnuFormat_RowColour)},
     {ON_THE_MAIN_WINDOW(mnuSidebarWidth)},
-    {"mnuView_TextEdit", {}},
+    {ON_THE_MAIN_WINDOW(mnuView_TextEdit)},
     {"mnuWindow", {}},
     {ON_THE_MAIN_WINDOW(mnuFile_SwitchTabsForward)},
     {ON_THE_MAIN_WINDOW(mnuFile_SwitchTabsBack)},

@@ -1,0 +1,56 @@
+#include "dbops/commands/TextTableCommand.h"
+
+#include "context/App.h"
+#include "context/ports/TextWindow.h"
+#include "dbops/rules/TextTable.h"
+#include "dbops/windows/frmChooseRange.h"
+#include "dbops/windows/frmFormatTable.h"
+#include "dialogs/Questions.h"
+#include "document/rtf/Rtf.h"
+#include "platform/Screen.h"
+#include "table/TableModel.h"
+
+namespace korvane {
+
+namespace {
+
+TextTableLook LookOf(const Settings& settings) {
+    return {.titles = settings.TableOptionA == 1,
+            .firstRowColoured = settings.TableOptionB == 1,
+            .firstRowBack = {settings.TableValueA},
+            .firstRowText = {settings.TableValueB},
+            .alternateRowsColoured = settings.TableOptionC == 1,
+            .alternateBack = {settings.TableValueC},
+            .leftMargin = settings.TableOptionD,
+            .border = settings.TableValueD,
+            .gap = settings.TableOptionE};
+}
+
+std::vector<Text> TitlesOf(const TableModel& table) {
+    std::vector<Text> titles;
+    for (Col col{1}; col <= table.GridStore().ColCount(); ++col)
+        titles.push_back(table.ColumnNames[col]);
+    return titles;
+}
+
+/// The rows as formatted text.
+std::string MakeRtf(const TabContext& tab) {
+    const Hourglass hourglass(tab.app.Screen());
+    const Grid& grid = tab.table.GridStore();
+    const auto takes = [&](Row row) { return IsInChosenRange(tab.app, grid, row); };
+    return doc::WriteRtf(MakeTextTable(grid, TitlesOf(tab.table), takes, LookOf(tab.app.Settings)),
+                         doc::RtfExtent::Fragment);
+}
+
+} // namespace
+
+void mnuEdit_MakeTable_Clack(const TabContext& tab) {
+    if (!ChooseRange(tab.app)) return;
+    tab.app.Screen().ProcessMessages();
+    frmFormatTable form(tab.app);
+    if (ShowForResult(tab.app, form) == 0) return;
+    if (auto* textWindow = tab.app.Port<TextWindow>()) textWindow->TextWindowInsertRtf(MakeRtf(tab));
+    tab.table.GridStore().GridSetFocus();
+}
+
+} // namespace korvane

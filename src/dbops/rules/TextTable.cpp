@@ -1,0 +1,113 @@
+#include "dbops/rules/TextTable.h"
+
+#include "dbops/rules/DeleteMark.h"
+#include "document/model/Builder.h"
+
+#include <algorithm>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kFontSize = 10;
+constexpr int kHalfPoints = 2;
+/// A column's width in the grid becomes so many twips for each of its units.
+constexpr int kWidthFactor = 6;
+constexpr int kWidthOfNone = 1800;
+
+class TextTable {
+public:
+    TextTable(const Grid& grid, const TextTableLook& look) : grid_(grid), look_(look) {
+        text_.halfPoints = kFontSize * kHalfPoints;
+    }
+
+    /// Adds a row of the texts that `textOf(Col)` gives.
+    template <class TextOf>
+    void AddRow(const TextOf& textOf) {
+        ++row_;
+        std::vector<doc::CellFormat> cells;
+        for (Col col{1}; col <= grid_.ColCount(); ++col) {
+            AddCell(textOf(col));
+            cells.push_back(Format(col));
+        }
+        builder_.EndRow(std::move(cells));
+    }
+
+    doc::Document Finish() { return builder_.Finish({}); }
+
+private:
+    bool First() const { return row_ == 1 && look_.firstRowColoured; }
+
+    void AddCell(TextView text) {
+        doc::CharFormat format = text_;
+        if (First()) format.fore = look_.firstRowText;
+        builder_.SetFormat(format);
+        builder_.OpenCell();
+        const doc::Document lines = doc::FromPlainText(text);
+        for (std::size_t line = 0; line < lines.paragraphs.size(); ++line) {
+            if (line > 0) builder_.EndParagraph({});
+            builder_.Add(lines.paragraphs[line].text);
+        }
+        builder_.EndCell({});
+    }
+
+    doc::CellFormat Format(Col col) const {
+        const int width = grid_.ColWidth(col);
+        doc::CellFormat cell;
+        cell.left = Left(col);
+        cell.width = width > 0 ? width * kWidthFactor : kWidthOfNone;
+        cell.gapLeft = cell.gapRight = look_.gap;
+        cell.border.fill(look_.border);
+        cell.back = Back();
+        return cell;
+    }
+
+    int Left(Col col) const {
+        int left = look_.leftMargin;
+        for (Col before{1}; before < col; ++before)
+            left += grid_.ColWidth(before);
+        return left;
+    }
+
+    Colour Back() const {
+        if (First()) return look_.firstRowBack;
+        const bool alternate = (row_ + (look_.firstRowColoured ? 1 : 0)) % 2 == 0;
+        return look_.alternateRowsColoured && alternate ? look_.alternateBack : kNoColour;
+    }
+
+    const Grid& grid_;
+    const TextTableLook& look_;
+    doc::Builder builder_{doc::Limits{}};
+    doc::CharFormat text_{};
+    int row_ = 0;
+};
+
+/// The text without one line end at its end.
+TextView WithoutLineEnd(TextView text) {
+    if (text.ends_with(u'\n')) text.remove_suffix(1);
+    if (text.ends_with(u'\r')) text.remove_suffix(1);
+    return text;
+}
+
+} // namespace
+
+doc::Document MakeTextTable(const Grid& grid, const std::vector<Text>& titles,
+                            const std::function<bool(Row)>& takes, const TextTableLook& look) {
+    TextTable table(grid, look);
+    if (look.titles) {
+        table.AddRow([&titles](Col col) {
+            const auto place = static_cast<std::size_t>(col.Number()) - 1;
+            return place < titles.size() ? TextView(titles[place]) : TextView();
+        });
+    }
+    for (Row row{1}; row <= grid.RowCount(); ++row) {
+        const bool first = row == Row{1} && look.titles;
+        if (!first && !takes(row)) continue;
+        const bool marked = IsMarkedForDeletion(grid, row);
+        table.AddRow(
+            [&](Col col) { return marked ? Text() : Text(WithoutLineEnd(grid.CellValue(row, col))); });
+    }
+    return table.Finish();
+}
+
+} // namespace korvane

@@ -1,0 +1,76 @@
+#include "dbops/commands/TextTableCommand.h"
+
+#include "dbops/windows/frmChooseRange.h"
+#include "dbops/windows/frmFormatTable.h"
+#include "document/rtf/Rtf.h"
+#include "unit/dbops/FakePorts.h"
+#include "unit/dbops/TestTab.h"
+
+#include <gtest/gtest.h>
+
+namespace korvane {
+namespace {
+
+class TextTableCommand : public testing::Test {
+protected:
+    TextTableCommand() {
+        t.Fill({{u"a1", u"b1"}, {u"a2", u"b2"}});
+        t.table.ColumnNames.Set(Col{1}, u"Name");
+    }
+    void Choose(bool onlyTicked, bool goesOn = true) {
+        t.user.On<frmChooseRange>([=](frmChooseRange& f) {
+            (onlyTicked ? f.Option2 : f.Option1).Press();
+            (goesOn ? f.cmdProceed : f.cmdCancel).Press();
+        });
+    }
+    Text Inserted() {
+        EXPECT_EQ(textWindow.insertedRtf.size(), 1U);
+        return textWindow.insertedRtf.empty()
+                   ? Text()
+                   : doc::PlainText(doc::ReadRtf(textWindow.insertedRtf[0]).document);
+    }
+
+    TestTab t;
+    FakeTextWindow textWindow{t.app};
+};
+
+TEST_F(TextTableCommand, PutsTheTableIntoTheTextWindow) {
+    Choose(false);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) {
+        f.chkColumnToFirstRow.Press();
+        f.cmdProceed.Press();
+    });
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_EQ(Inserted(), u"Name\r\n\r\na1\r\nb1\r\na2\r\nb2\r\n");
+    EXPECT_EQ(t.watcher.focusWanted, 1);
+    EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
+    EXPECT_EQ(doc::ReadRtf(textWindow.insertedRtf[0]).document.tables.size(), 1U);
+}
+
+TEST_F(TextTableCommand, TakesTickedRowsAlone) {
+    t.grid.SetCellCheck(Row{2}, 1);
+    Choose(true);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_EQ(Inserted(), u"a2\r\nb2\r\n");
+}
+
+TEST_F(TextTableCommand, ACancelInEitherWindowStopsIt) {
+    Choose(false, false);
+    mnuEdit_MakeTable_Clack(t.tab);
+    Choose(false);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdCancel.Press(); });
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_TRUE(textWindow.insertedRtf.empty());
+}
+
+TEST_F(TextTableCommand, WithoutATextWindowNothingHappens) {
+    t.app.SetPort<TextWindow>(nullptr);
+    Choose(false);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_EQ(t.watcher.focusWanted, 1);
+}
+
+} // namespace
+} // namespace korvane
