@@ -9,6 +9,7 @@
 
 #ifndef _WIN32
 #include "document/docx/Docx.h"
+#include "document/xlsx/Xlsx.h"
 #endif
 
 #include <algorithm>
@@ -46,6 +47,9 @@ doc::ReadResult FromDocx(std::string_view bytes, const CodePage&) {
 std::string ToDocx(const doc::Document& document, const CodePage&) {
     return doc::WriteDocx(document);
 }
+doc::ReadResult FromXlsx(std::string_view bytes, const CodePage&) {
+    return doc::ReadXlsx(bytes);
+}
 #endif
 
 /// How a format is read and written. Where it needs a conversion, the reader gets its outcome, and the
@@ -68,6 +72,7 @@ constexpr Format kFormats[] = {
 #ifndef _WIN32
     // There is no library for archives on Windows.
     {TextFormat::Docx, FromDocx, ToDocx},
+    {TextFormat::Xlsx, FromXlsx, nullptr},
 #endif
 };
 
