@@ -9,6 +9,7 @@
 
 #ifndef _WIN32
 #include "document/docx/Docx.h"
+#include "document/pdf/Pdf.h"
 #include "document/xlsx/Xlsx.h"
 #endif
 
@@ -47,6 +48,9 @@ doc::ReadResult FromDocx(std::string_view bytes, const CodePage&) {
 std::string ToDocx(const doc::Document& document, const CodePage&) {
     return doc::WriteDocx(document);
 }
+doc::ReadResult FromPdfXml(std::string_view bytes, const CodePage&) {
+    return doc::ReadPdfXml(bytes);
+}
 doc::ReadResult FromXlsx(std::string_view bytes, const CodePage&) {
     return doc::ReadXlsx(bytes);
 }
@@ -70,7 +74,8 @@ constexpr Format kFormats[] = {
     {TextFormat::Xml, FromPlain, ToPlain},
     {TextFormat::Css, FromPlain, ToPlain},
 #ifndef _WIN32
-    // There is no library for archives on Windows.
+    // There are no libraries for archives and XML on Windows.
+    {TextFormat::Pdf, FromPdfXml, nullptr, Conversion::PdfToXml},
     {TextFormat::Docx, FromDocx, ToDocx},
     {TextFormat::Xlsx, FromXlsx, nullptr},
 #endif

@@ -65,6 +65,16 @@ TEST_F(DocumentFilesTest, WithoutTheOtherProgramADocIsNeitherReadNorWritten) {
     EXPECT_EQ(alone.Save(kPath, TextFormat::Doc, Letter()), TextSaving::NotMade);
 }
 
+TEST_F(DocumentFilesTest, APdfIsReadWithAnotherProgramAndNeverWritten) {
+    converter.outcomes[Conversion::PdfToXml] =
+        "<pdf2xml><page><text top=\"1\">from pdf</text></page></pdf2xml>";
+    disk.AddFile(kPath, "%PDF-1.4");
+    EXPECT_EQ(Loaded(TextFormat::Pdf), u"from pdf");
+    EXPECT_EQ(converter.got[Conversion::PdfToXml], "%PDF-1.4");
+    EXPECT_EQ(documents.Save(kPath, TextFormat::Pdf, Letter()), TextSaving::NotMade);
+    EXPECT_EQ(disk.Contents(kPath), "%PDF-1.4");
+}
+
 TEST_F(DocumentFilesTest, AnRtfCalledDocIsReadAsItIs) {
     disk.AddFile(kPath, "{\\rtf1 plain}");
     EXPECT_EQ(Loaded(TextFormat::Doc), u"plain");
