@@ -2,6 +2,9 @@
 
 #include "common/text/Text.h"
 
+#include <optional>
+#include <string>
+
 namespace korvane {
 
 class Clipboard {
@@ -12,6 +15,8 @@ public:
     virtual Text GetText() const = 0;
     virtual void SetText(Text text) = 0;
     virtual void Clear() = 0;
+    /// The contents as RTF; nothing when no program put such there.
+    virtual std::optional<std::string> GetRtf() const { return std::nullopt; }
 };
 
 } // namespace korvane

@@ -40,4 +40,15 @@ void QtClipboard::Clear() {
     QGuiApplication::clipboard()->clear();
 }
 
+std::optional<std::string> QtClipboard::GetRtf() const {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+    if (data == nullptr) return std::nullopt;
+    // Programs call it by several names.
+    for (const char* const format : {"text/rtf", "application/rtf", "text/richtext"}) {
+        if (data->hasFormat(QString::fromLatin1(format)))
+            return data->data(QString::fromLatin1(format)).toStdString();
+    }
+    return std::nullopt;
+}
+
 } // namespace korvane

@@ -11,6 +11,7 @@ public:
     Text GetText() const override;
     void SetText(Text text) override;
     void Clear() override;
+    std::optional<std::string> GetRtf() const override;
 };
 
 } // namespace korvane
