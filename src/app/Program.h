@@ -16,6 +16,7 @@
 #include "platform/qt/services/QtUserLocale.h"
 #include "shell/main/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
+#include "text/markup/TagPairs.h"
 
 #include <QString>
 
@@ -56,6 +57,7 @@ private:
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
     DesktopFileViewer desktopViewer_{app_};
+    TagPairs tagPairs_{app_};
     KeptTables keptTables_;
 };
 
