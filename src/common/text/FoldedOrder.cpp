@@ -49,7 +49,7 @@ public:
     std::vector<std::uint32_t> Run() {
         // The texts of one list mostly begin alike, and often end alike. So a comparison of whole texts would
         // go over the same units again and again.
-        runs_.push_back({0, keys_.size(), 0});
+        runs_.push_back({0, keys_.size(), CommonLength()});
         while (!runs_.empty()) {
             const AlikeTexts run = runs_.back();
             runs_.pop_back();
@@ -61,6 +61,17 @@ public:
     }
 
 private:
+    /// How many units all texts have in common at their beginnings.
+    std::size_t CommonLength() const {
+        if (texts_.empty()) return 0;
+        TextView common = texts_.front();
+        for (const TextView text : texts_) {
+            const auto end = std::ranges::mismatch(common, text).in1;
+            common = common.substr(0, static_cast<std::size_t>(end - common.begin()));
+        }
+        return common.size();
+    }
+
     void Sort(const AlikeTexts& run) {
         const std::span<Key> keys(keys_.begin() + static_cast<std::ptrdiff_t>(run.first),
                                   keys_.begin() + static_cast<std::ptrdiff_t>(run.last));

@@ -87,6 +87,9 @@ Text FromNative(std::basic_string_view<std::filesystem::path::value_type> name) 
 #ifdef _WIN32
     return {name.begin(), name.end()};
 #else
+    const bool ascii =
+        std::ranges::all_of(name, [](char unit) { return static_cast<signed char>(unit) >= 0; });
+    if (ascii) return {name.begin(), name.end()};
     return IsUtf8(name) ? FromUtf8(name) : FromAnyBytes(name);
 #endif
 }
