@@ -36,6 +36,27 @@ struct FolderTreeTest : testing::Test {
     std::vector<Text> visited;
 };
 
+/// Notes which nodes are brought into view.
+struct SeenNodes final : TreeListener {
+    explicit SeenNodes(TreeView& tree) : tree_(tree) { tree_.SetTreeListener(this); }
+    ~SeenNodes() override { tree_.SetTreeListener(nullptr); }
+
+    void TreeReset() override {}
+    void NodeAdding(const TreeNode&) override {}
+    void NodeAdded() override {}
+    void NodeRemoving(const TreeNode&) override {}
+    void NodeRemoved() override {}
+    void NodeChanged(const TreeNode&) override {}
+    void NodeExpanded(const TreeNode&) override {}
+    void SelectionChanged() override {}
+    void NodeWantedInView(const TreeNode& node) override { keys.push_back(node.key); }
+
+    std::vector<Text> keys;
+
+private:
+    TreeView& tree_;
+};
+
 struct PosixFolderTreeTest : FolderTreeTest {
     PosixFolderTreeTest() : FolderTreeTest(PathStyle::Posix) {}
 };
@@ -52,6 +73,18 @@ TEST_F(FolderTreeTest, ShowsTheDrivesWithNothingOfThemRead) {
     }
     EXPECT_EQ(folders.Folder(), u"");
     EXPECT_THAT(visited, IsEmpty());
+}
+
+TEST_F(FolderTreeTest, AnOpenedNodeIsSeenWithAsManyOfItsFoldersAsFit) {
+    for (const TextView name : {u"C:\\Data\\a", u"C:\\Data\\b", u"C:\\Data\\c", u"C:\\Empty"})
+        t.files.AddDir(name);
+    folders.Fill();
+    tree.SetExpanded(u"C:\\", true);
+    SeenNodes seen(tree);
+    tree.SetExpanded(u"C:\\Data", true);
+    EXPECT_THAT(seen.keys, ElementsAre(u"C:\\Data\\c", u"C:\\Data"));
+    tree.SetExpanded(u"C:\\Empty", true);
+    EXPECT_EQ(seen.keys.size(), 2u);
 }
 
 // Kept for compatibility: drive-b-without-label.
