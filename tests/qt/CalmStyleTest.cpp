@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QStyleOptionButton>
+#include <QTreeView>
 
 namespace korvane {
 namespace {
@@ -112,6 +113,12 @@ TEST_F(CalmStyleTest, TheArrowToMoreToolsGoesWithThePalette) {
                              .pixmap(24, 24)
                              .toImage();
     EXPECT_EQ(QColor(arrow.pixelColor(11, 12).rgb()), DarkPalette().color(QPalette::ButtonText));
+}
+
+TEST_F(CalmStyleTest, TheTextOfACellBeginsBelowThatOfItsHeader) {
+    const QTreeView list;
+    const int ofCell = style.pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+    EXPECT_EQ(ofCell, style.pixelMetric(QStyle::PM_HeaderMargin, nullptr, &list));
 }
 
 } // namespace

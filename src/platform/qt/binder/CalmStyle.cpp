@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace korvane {
 
@@ -143,7 +144,10 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 }
 
 int CalmStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    return metric == PM_HeaderMargin ? kHeaderMargin : QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric == PM_HeaderMargin) return kHeaderMargin;
+    // A cell's text begins below that of its header, and a number keeps its distance from what follows it.
+    const bool ofCell = metric == PM_FocusFrameHMargin && qobject_cast<const QTreeView*>(widget) != nullptr;
+    return ofCell ? kHeaderMargin - 1 : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 /// `TabBar` places its buttons by itself. This is the same place, so that a layout doesn't move them twice.

@@ -27,6 +27,7 @@ ListViewAdaptor::ListViewAdaptor(ListView& list, QTreeView& widget, ListViewMode
     widget.setUniformRowHeights(true);
     widget.setAllColumnsShowFocus(true);
     widget.header()->setSectionsClickable(true);
+    widget.header()->setTextElideMode(Qt::ElideRight);
     connect(widget.header(), &QHeaderView::sectionClicked, this, [this](int section) {
         if (Attached()) list_.ClickColumn(section + 1);
     });

@@ -16,6 +16,12 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
 }
 
+void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // Of a name that is too long the end may matter, but of a date or a size it doesn't.
+    if (index.column() > 0) option->textElideMode = Qt::ElideRight;
+}
+
 bool RowDelegate::PaintPlain(QPainter& painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
     using Item = QStyleOptionViewItem;

@@ -27,6 +27,7 @@ signals:
     void Typed(int row, const QString& text, int step) const;
 
 protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
