@@ -40,4 +40,20 @@ private:
     QPalette before_ = QApplication::palette();
 };
 
+/// Gives windows a font of this size in points while it lives.
+class UnderFont {
+public:
+    explicit UnderFont(int points) {
+        QFont font = before_;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+    }
+    UnderFont(const UnderFont&) = delete;
+    UnderFont& operator=(const UnderFont&) = delete;
+    ~UnderFont() { QApplication::setFont(before_); }
+
+private:
+    QFont before_ = QApplication::font();
+};
+
 } // namespace korvane::test

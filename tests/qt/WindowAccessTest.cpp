@@ -10,7 +10,9 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QHeaderView>
 #include <QLabel>
+#include <QToolButton>
 
 namespace korvane {
 namespace {
@@ -98,6 +100,42 @@ TEST_P(WindowAccessTest, TextsCanBeRead) {
                 << Name(*widget) << (IsDark(window.palette()) ? " in the dark" : "");
         }
     });
+}
+
+/// What a text needs that a widget shows on one line. Empty where it shows none, or breaks its lines.
+QSize NeededBy(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        return label->wordWrap() || label->text().isEmpty() ? QSize() : label->sizeHint();
+    }
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    const auto* tool = qobject_cast<const QToolButton*>(&widget);
+    const bool iconOnly = tool != nullptr && tool->toolButtonStyle() == Qt::ToolButtonIconOnly;
+    return button == nullptr || iconOnly || button->text().isEmpty() ? QSize() : button->sizeHint();
+}
+
+void ExpectWholeCaptions(const QHeaderView& header) {
+    if (header.orientation() == Qt::Vertical) return;
+    const std::string list = Name(*header.parentWidget());
+    EXPECT_GE(header.height(), header.fontMetrics().height()) << list;
+    for (int section = 0; section < header.count(); ++section) {
+        if (header.isSectionHidden(section)) continue;
+        const QString caption = header.model()->headerData(section, Qt::Horizontal).toString();
+        EXPECT_GE(header.sectionSize(section), header.fontMetrics().horizontalAdvance(caption))
+            << caption.toStdString() << " in " << list;
+    }
+}
+
+TEST_P(WindowAccessTest, ALargeSystemFontCutsNothing) {
+    const test::UnderFont large(16);
+    test::BoundWindow bound(GetParam());
+    bound.Show();
+    for (QWidget* widget : bound.Look().findChildren<QWidget*>()) {
+        if (!widget->isVisible()) continue;
+        const QSize needed = NeededBy(*widget);
+        EXPECT_GE(widget->width(), needed.width()) << Name(*widget);
+        EXPECT_GE(widget->height(), needed.height()) << Name(*widget);
+        if (const auto* header = qobject_cast<QHeaderView*>(widget)) ExpectWholeCaptions(*header);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, WindowAccessTest,

@@ -10,6 +10,7 @@
 #include <QDialog>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMainWindow>
 #include <QPushButton>
 #include <algorithm>
@@ -98,6 +99,10 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::WindowStateChange:
         ReadState();
         break;
+    case QEvent::Show:
+    case QEvent::FontChange:
+        MakeRoom();
+        break;
     case QEvent::Move:
         ReadPlace();
         break;
@@ -166,6 +171,17 @@ bool WindowAdaptor::PressButtonFor(int code) {
     if (button == nullptr) return false;
     button->Press();
     return true;
+}
+
+/// Qt doesn't look at the contents of a window that has a smallest size of its own, and with a large font
+/// they may need more.
+void WindowAdaptor::MakeRoom() {
+    const QLayout* layout = window_.layout();
+    if (qobject_cast<QDialog*>(&window_) == nullptr || layout == nullptr) return;
+    const QSize least = window_.minimumSize().expandedTo(layout->totalMinimumSize());
+    const int width = std::max(window_.width(), least.width());
+    const int high = layout->hasHeightForWidth() ? layout->totalMinimumHeightForWidth(width) : 0;
+    window_.setMinimumSize(least.expandedTo(QSize(0, high)));
 }
 
 void WindowAdaptor::WritePlace() {

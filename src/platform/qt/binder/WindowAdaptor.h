@@ -33,6 +33,7 @@ private:
     void TakeDrop(QEvent& event);
     bool KeyPressed(const QKeyEvent& event);
     bool PressButtonFor(int code);
+    void MakeRoom();
     void WritePlace();
     void WriteState();
     void ReadState();

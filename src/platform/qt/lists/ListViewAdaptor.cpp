@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <algorithm>
 
 namespace korvane {
 
@@ -45,8 +46,14 @@ void ListViewAdaptor::WriteShape() {
     const auto guard = Writing();
     model_.ReadColumns();
     const auto& columns = list_.Columns.Get();
-    for (std::size_t column = 0; column < columns.size(); ++column)
-        widget_.setColumnWidth(static_cast<int>(column), ToPixels(columns[column].width));
+    const bool sized =
+        std::ranges::any_of(columns, [](const auto& column) { return column.width > Twips{}; });
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        const int width = ToPixels(columns[column].width);
+        // Qt would show a column without a width a little.
+        widget_.setColumnHidden(static_cast<int>(column), sized && width == 0);
+        if (width > 0) WriteWidth(static_cast<int>(column), width);
+    }
     widget_.setSelectionMode(list_.MultiSelect ? QAbstractItemView::ExtendedSelection
                                                : QAbstractItemView::SingleSelection);
     widget_.setDragEnabled(list_.FilesToDrag != nullptr);
@@ -56,6 +63,12 @@ void ListViewAdaptor::WriteShape() {
     widget_.setEditTriggers(
         list_.EditColumn > 0 ? kTyping : QAbstractItemView::EditTriggers(QAbstractItemView::NoEditTriggers));
     widget_.viewport()->update();
+}
+
+/// A column that is shown is wide enough for its caption.
+void ListViewAdaptor::WriteWidth(int column, int width) {
+    const int least = widget_.isHeaderHidden() ? 0 : widget_.header()->sectionSizeHint(column);
+    widget_.setColumnWidth(column, std::max(width, least));
 }
 
 void ListViewAdaptor::WriteColours() {

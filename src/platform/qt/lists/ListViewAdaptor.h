@@ -29,6 +29,7 @@ protected:
 private:
     ListViewAdaptor(ListView& list, QTreeView& widget, ListViewModel& model);
     void WriteShape();
+    void WriteWidth(int column, int width);
     void WriteColours();
     void ReadWidth(int column, int width);
 
