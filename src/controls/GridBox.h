@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Control.h"
+#include "grid/FieldText.h"
 #include "grid/Grid.h"
 #include "platform/Screen.h"
 
@@ -36,6 +37,8 @@ public:
     std::function<void()> Seen;
     /// The user went on from the last cell.
     std::function<void()> PastEnd;
+    /// Something was typed into the field of a cell, or that field has closed.
+    std::function<void()> Typing;
     /// The mouse pointer came over the grid (true) or left it.
     std::function<void(bool)> Hover;
 
@@ -52,6 +55,11 @@ public:
     /// A picture file for the pointer in the form of a hand. When it can't be read, the system's hand is
     /// used.
     Property<Text> HandImage{*this, Aspect::Pointer};
+
+    /// Whether the text in the field of a cell isn't the one with which it was opened. The view sets it.
+    bool FieldAltered = false;
+    /// What that field has. The view sets it.
+    std::function<std::optional<FieldText>()> ReadField;
 
     /// How wide the grid is on the screen, as the view set it last; 0 while it isn't shown.
     Twips ShownWidth;

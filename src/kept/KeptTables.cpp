@@ -44,9 +44,12 @@ public:
     std::int64_t count = 0;
 };
 
-std::string DraftOf(const TableModel& table) {
+/// The table with the text that is being typed into it.
+std::string DraftOf(const TableModel& table, const TableHost& host) {
     TextWriter writer;
-    TbxWriter(table, writer, ChunkedOutput::kUsualChunk, TbxContent::Whole).Write();
+    TbxWriter tbx(table, writer, ChunkedOutput::kUsualChunk, TbxContent::Whole);
+    if (const auto typed = host.Typed()) tbx.Replace(*typed);
+    tbx.Write();
     return std::move(writer.text);
 }
 
@@ -74,15 +77,18 @@ bool MayKeepBeside(FileSystem& files, const Text& path, TextView root, const Tab
 } // namespace
 
 struct KeptTables::OpenTable {
-    explicit OpenTable(TableModel& model) : table(model) {}
+    explicit OpenTable(const TabContext& tab) : table(tab.table), host(tab.host) {}
 
     TableModel& table;
+    const TableHost& host;
     /// Of the tab.
     Text caption;
     /// Empty as long as nothing was kept.
     Text folder;
     DraftPace pace;
-    /// The grid's count of changes at the last look, and at the last draft or save that has them all.
+    /// How often something was typed into a field that isn't committed.
+    std::uint64_t typed = 0;
+    /// The count of changes at the last look, and at the last draft or save that has them all.
     std::optional<std::uint64_t> seen;
     std::optional<std::uint64_t> kept;
     int lastDraft = 0;
@@ -94,7 +100,8 @@ struct KeptTables::OpenTable {
     bool armed = false;
     bool writing = false;
 
-    bool Altered() const { return table.TableAltered == 1; }
+    bool Altered() const { return table.TableAltered == 1 || host.Types(); }
+    std::uint64_t Changes() const { return table.GridStore().ChangeCount() + typed; }
     Text Name() const { return table.TxtDbFile.empty() ? caption : table.TxtDbFile; }
 };
 
@@ -162,7 +169,7 @@ private:
     void EndWhole() {
         open_.brokenSave.reset();
         open_.olderDrafts = open_.lastDraft;
-        open_.seen = open_.kept = open_.table.GridStore().ChangeCount();
+        open_.seen = open_.kept = open_.Changes();
         open_.pace.NothingChanged();
         if (!folder_) return;
         const WrittenRecord written{sum_.Get(), open_.lastDraft};
@@ -231,7 +238,7 @@ Text KeptTables::NewFolder() {
 
 KeptTables::OpenTable& KeptTables::Of(const TabContext& tab) {
     auto& open = open_[&tab.table];
-    if (open == nullptr) open = std::make_unique<OpenTable>(tab.table);
+    if (open == nullptr) open = std::make_unique<OpenTable>(tab);
     open->caption = tab.host.TabCaption();
     return *open;
 }
@@ -256,13 +263,20 @@ void KeptTables::CommandEnds(const TabContext& tab) {
     Arm(*open);
 }
 
+void KeptTables::TextTyped(const TabContext& tab) {
+    OpenTable& open = Of(tab);
+    if (open.host.Types()) ++open.typed;
+    LookAt(open);
+    Arm(open);
+}
+
 std::unique_ptr<SaveGuard> KeptTables::GuardSave(const TabContext& tab) {
     return std::make_unique<Guard>(*this, tab);
 }
 
 /// Finds out whether there is something to keep.
 void KeptTables::LookAt(OpenTable& open) {
-    const std::uint64_t changes = open.table.GridStore().ChangeCount();
+    const std::uint64_t changes = open.Changes();
     if (open.Altered()) {
         const bool isNew = open.seen != changes && open.kept != changes;
         open.seen = changes;
@@ -311,8 +325,8 @@ void KeptTables::WriteDraft(OpenTable& open) {
     if (open.folder.empty()) open.folder = NewFolder();
     open.writing = true;
     const auto draft = std::make_shared<Draft>();
-    draft->changes = open.table.GridStore().ChangeCount();
-    const auto bytes = std::make_shared<const std::string>(DraftOf(open.table));
+    draft->changes = open.Changes();
+    const auto bytes = std::make_shared<const std::string>(DraftOf(open.table, open.host));
     draft->work = clock.Uptime() - begin;
     background_.Do(
         [=, &clock, root = root_, folder = open.folder, name = open.Name(), number = ++open.lastDraft,
@@ -433,7 +447,7 @@ void KeptTables::Adopt(const TabContext& tab, int number) {
     OpenTable& open = Of(tab);
     open.folder = found.mapped().folder;
     open.lastDraft = found.mapped().draft.number;
-    open.kept = open.seen = tab.table.GridStore().ChangeCount();
+    open.kept = open.seen = open.Changes();
     std::erase_if(unsaved_, [number](const UnsavedTable& each) { return each.number == number; });
     if (UnsavedChanged) UnsavedChanged();
 }

@@ -31,6 +31,7 @@ public:
 
     void CommandBegins(const TabContext& tab) override;
     void CommandEnds(const TabContext& tab) override;
+    void TextTyped(const TabContext& tab) override;
     std::unique_ptr<SaveGuard> GuardSave(const TabContext& tab) override;
     void GiveUp(const TabContext& tab) override;
     void Forget(const TableModel& table) override;

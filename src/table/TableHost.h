@@ -2,8 +2,10 @@
 
 #include "common/number/Units.h"
 #include "common/text/Text.h"
+#include "grid/FieldText.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace korvane {
 
@@ -17,6 +19,10 @@ public:
     virtual void SetTabCaption(TextView caption) = 0;
     /// How wide the grid is on the screen; 0 where none is shown.
     virtual Twips GridWidth() const { return {}; }
+    /// Whether something was typed into the field of a cell that isn't committed yet.
+    virtual bool Types() const { return false; }
+    /// What the field of the cell has then.
+    virtual std::optional<FieldText> Typed() const { return std::nullopt; }
     /// Clears the `Dirty` flag of the tab's slot.
     virtual void ClearDirty() = 0;
 };

@@ -40,6 +40,8 @@ public:
     /// A command begins that may change the table, and ends.
     virtual void CommandBegins(const TabContext& tab) = 0;
     virtual void CommandEnds(const TabContext& tab) = 0;
+    /// Something was typed into the field of a cell, or that field has closed.
+    virtual void TextTyped(const TabContext&) {}
     virtual std::unique_ptr<SaveGuard> GuardSave(const TabContext& tab) = 0;
     /// The tab closes, and changes that aren't in its file aren't wanted.
     virtual void GiveUp(const TabContext& tab) = 0;

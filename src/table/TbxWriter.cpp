@@ -125,6 +125,10 @@ void TbxWriter::PutCells(Row row) {
 
 /// Valid until the next call.
 std::string_view TbxWriter::CellBytes(Row row, Col col) {
+    if (typed_ && typed_->cell == CellPosition{row, col}) {
+        converted_ = ToBytes(typed_->text);
+        return converted_;
+    }
     if (const auto bytes = grid_.CellBytes(row, col)) return *bytes;
     converted_ = ToBytes(grid_.CellText(row, col));
     return converted_;

@@ -2,11 +2,13 @@
 
 #include "common/number/Units.h"
 #include "common/text/CodePage.h"
+#include "grid/FieldText.h"
 #include "grid/Grid.h"
 #include "platform/ChunkedOutput.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +29,8 @@ public:
     TbxWriter(const TableModel& table, FileWriter& file, std::size_t chunkSize = ChunkedOutput::kUsualChunk,
               TbxContent content = TbxContent::Saved);
 
+    /// Writes this text instead of the one that the cell has.
+    void Replace(const FieldText& typed) { typed_ = typed; }
     void Write();
 
 private:
@@ -44,6 +48,7 @@ private:
     const Grid& grid_;
     ChunkedOutput output_;
     TbxContent content_;
+    std::optional<FieldText> typed_;
     /// For each column, what is written before its text in a row.
     std::vector<std::string> cellHeads_;
     /// The bytes of a text that the code page can't hold in full.

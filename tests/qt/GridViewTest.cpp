@@ -119,6 +119,26 @@ TEST_F(GridViewTest, TypingReplacesTheCellAndReturnCommits) {
     EXPECT_TRUE(View().hasFocus());
 }
 
+TEST_F(GridViewTest, WhatIsTypedIsToldBeforeItIsCommitted) {
+    int told = 0;
+    form.iGrid1.Typing = [&told] { ++told; };
+    Key(Qt::Key_F2);
+    EXPECT_FALSE(form.iGrid1.FieldAltered);
+    Type("xy");
+    EXPECT_GE(told, 2);
+    EXPECT_TRUE(form.iGrid1.FieldAltered);
+    const auto typed = form.iGrid1.ReadField();
+    ASSERT_TRUE(typed);
+    EXPECT_EQ(typed->cell, (CellPosition{Row{1}, Col{1}}));
+    EXPECT_EQ(typed->text, u"1/1xy");
+    EXPECT_EQ(At(1, 1), u"1/1");
+    told = 0;
+    Key(Qt::Key_Escape);
+    EXPECT_GE(told, 1);
+    EXPECT_FALSE(form.iGrid1.FieldAltered);
+    EXPECT_FALSE(form.iGrid1.ReadField());
+}
+
 TEST_F(GridViewTest, F2EditsBehindTheText) {
     Key(Qt::Key_F2);
     Type("x");

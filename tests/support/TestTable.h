@@ -19,10 +19,16 @@ public:
     Text TabCaption() const override { return captions.empty() ? Text() : captions.back(); }
     void SetTabCaption(TextView caption) override { captions.emplace_back(caption); }
     void ClearDirty() override { ++dirtyCleared; }
+    bool Types() const override { return field.has_value(); }
+    std::optional<FieldText> Typed() const override {
+        return field ? std::optional(FieldText{{Row{1}, Col{1}}, *field}) : std::nullopt;
+    }
 
     std::vector<std::int16_t> shownRowHeights;
     std::vector<Text> captions;
     int dirtyCleared = 0;
+    /// What is being typed into the first cell.
+    std::optional<Text> field;
 };
 
 /// An empty table on a tab, in a program on an in-memory platform with a scripted user.

@@ -59,6 +59,9 @@ frmMDIChild::frmMDIChild(App& app, TabStates& states)
         const WatchedCommand watched(Context());
         history_.EndStep();
     };
+    iGrid1.Typing = [this] {
+        if (auto* keeper = app_.Port<TableKeeper>()) keeper->TextTyped(Context());
+    };
     iGrid1.PastEnd = [this] { iGrid1_PastEnd(); };
     iGrid1.HeaderClick = [this](Col) { iGrid1_HeaderClick(); };
     iGrid1.MouseUp = [this](MouseButton button) { iGrid1_MouseUp(button); };
@@ -175,6 +178,10 @@ void frmMDIChild::ForwardToMainWindow(CommandButton& button, std::string_view co
 void frmMDIChild::ShowRowHeight(std::int16_t height) {
     ZoomSlider.Value = height;
     txtRowHeight.Text = NumberText(height);
+}
+
+std::optional<FieldText> frmMDIChild::Typed() const {
+    return iGrid1.FieldAltered && iGrid1.ReadField ? iGrid1.ReadField() : std::nullopt;
 }
 
 void frmMDIChild::SetTabCaption(TextView caption) {

@@ -78,6 +78,8 @@ private:
     void ShowRowHeight(std::int16_t height) override;
     Twips GridWidth() const override { return iGrid1.ShownWidth; }
     Text TabCaption() const override { return Caption; }
+    bool Types() const override { return iGrid1.FieldAltered; }
+    std::optional<FieldText> Typed() const override;
     void SetTabCaption(TextView caption) override;
     void ClearDirty() override;
 

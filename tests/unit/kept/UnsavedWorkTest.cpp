@@ -64,6 +64,40 @@ TEST_F(UnsavedWork, OfOneWhoNeverPausesIsKeptAfterFiveSeconds) {
     }
 }
 
+TEST_F(UnsavedWork, HasTheTextThatIsBeingTypedIntoACell) {
+    tab->TypeIntoField(u"not committed");
+    run->background.Pass(2s);
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("not committed")));
+    EXPECT_EQ(tab->Cell(), u"first");
+    EXPECT_EQ(tab->model.TableAltered, 0);
+    for (int second = 0; second < 20; ++second) {
+        tab->TypeIntoField(FromAscii("still typing " + std::to_string(second)));
+        run->background.Pass(1s);
+    }
+    EXPECT_THAT(Drafts(), ElementsAre(testing::AnyOf(HasSubstr("typing 15"), HasSubstr("typing 16"),
+                                                     HasSubstr("typing 17"), HasSubstr("typing 18"),
+                                                     HasSubstr("typing 19"))));
+}
+
+TEST_F(UnsavedWork, OfATextThatIsTypedGoesWhenTheFieldIsLeftWithoutIt) {
+    tab->TypeIntoField(u"not committed");
+    run->background.Pass(2s);
+    tab->TypeIntoField(std::nullopt);
+    run->background.DoAll();
+    EXPECT_THAT(Drafts(), IsEmpty());
+    run->background.Pass(1min);
+    EXPECT_THAT(Drafts(), IsEmpty());
+}
+
+TEST_F(UnsavedWork, OfATextThatIsTypedBecomesThatOfTheEdit) {
+    tab->TypeIntoField(u"second");
+    run->background.Pass(2s);
+    tab->Type(u"second");
+    tab->TypeIntoField(std::nullopt);
+    run->background.Pass(1min);
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("second")));
+}
+
 TEST_F(UnsavedWork, OfATableWithoutChangesThereIsNone) {
     { const WatchedCommand command(tab->tab); }
     run->background.Pass(1min);

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionViewItem>
+#include <QTextDocument>
 #include <algorithm>
 
 namespace korvane {
@@ -163,6 +164,12 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     editor->setPalette(palette);
     connect(editor, &CellEditor::Finished, this,
             [this, editor](bool commit, int step) { Finish(*editor, commit, step); });
+    connect(editor, &QPlainTextEdit::textChanged, this, &CellDelegate::Typing);
+    // This one comes after the text was set with which the field opens.
+    connect(editor->document(), &QTextDocument::modificationChanged, this, &CellDelegate::Typing);
+    connect(editor, &QObject::destroyed, this, &CellDelegate::Typing);
+    field_ = editor;
+    fieldCell_ = index;
     return editor;
 }
 
@@ -180,10 +187,22 @@ void CellDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewI
     static_cast<CellEditor&>(*editor).SetCell(option.rect);
 }
 
+bool CellDelegate::FieldAltered() const {
+    return !field_.isNull() && field_->document()->isModified();
+}
+
+std::optional<FieldText> CellDelegate::ReadField() const {
+    if (field_.isNull() || !fieldCell_.isValid()) return std::nullopt;
+    const CellPosition cell{model_.RowOf(fieldCell_.row()), GridModel::ColOf(fieldCell_.column())};
+    return FieldText{cell, FromLines(field_->Lines())};
+}
+
 void CellDelegate::Finish(QWidget& editor, bool commit, int cellStep) const {
     auto& self = const_cast<CellDelegate&>(*this); // NOLINT: Qt makes editors in a const function
     if (commit) emit self.commitData(&editor);
     emit self.closeEditor(&editor, NoHint);
+    field_ = nullptr;
+    emit Typing();
     if (cellStep != 0) emit Moved(cellStep);
 }
 

@@ -8,9 +8,14 @@
 #include <QAbstractItemDelegate>
 #include <QFont>
 #include <QPalette>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <optional>
 #include <vector>
 
 namespace korvane {
+
+class CellEditor;
 
 /// Paints the cells of a grid directly from its store, and makes the editor of a cell.
 class CellDelegate : public QAbstractItemDelegate {
@@ -22,6 +27,10 @@ public:
 
     /// Whether the next editor starts with its text selected, so that typing replaces it.
     void SetTypingReplaces(bool replaces) { typingReplaces_ = replaces; }
+    /// Whether the text in the open field isn't the one with which it was opened.
+    bool FieldAltered() const;
+    /// What the open field has; nothing when none is open.
+    std::optional<FieldText> ReadField() const;
     /// The place of the check box in a cell that covers `cell`.
     static QRect CheckRect(const QRect& cell, const QWidget& view);
 
@@ -39,6 +48,8 @@ public:
 signals:
     /// The editor was closed, and the user goes on by `cellStep` cells.
     void Moved(int cellStep) const;
+    /// Something was typed into the field, or it has closed.
+    void Typing() const;
 
 protected:
     bool eventFilter(QObject* editor, QEvent* event) override;
@@ -60,6 +71,8 @@ private:
     const GridModel& model_;
     const GridBox& box_;
     bool typingReplaces_ = false;
+    mutable QPointer<CellEditor> field_;
+    mutable QPersistentModelIndex fieldCell_;
     /// The fonts that the style flags of cells ask for, all made from the first font. Empty until a cell is
     /// painted.
     mutable std::vector<QFont> fonts_;

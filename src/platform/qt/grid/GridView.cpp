@@ -64,6 +64,8 @@ void GridView::Attach(GridBox& box) {
     model_ = std::make_unique<GridModel>(box);
     delegate_ = MakeDelegate(*model_, box);
     connect(delegate_.get(), &CellDelegate::Moved, this, [this](int step) { StepBy(step); });
+    connect(delegate_.get(), &CellDelegate::Typing, this, &GridView::TellTyping);
+    box.ReadField = [this] { return delegate_->ReadField(); };
     QTableView::setModel(model_.get());
     setItemDelegate(delegate_.get());
     box.Store().SetListener(this);
@@ -79,6 +81,8 @@ std::unique_ptr<CellDelegate> GridView::MakeDelegate(const GridModel& model, con
 void GridView::Detach() {
     if (box_ == nullptr) return;
     box_->Store().SetListener(nullptr);
+    box_->ReadField = nullptr;
+    box_->FieldAltered = false;
     Forget();
 }
 
@@ -113,6 +117,12 @@ void GridView::TableChanged() {
 
 void GridView::TellSeen() const {
     if (box_->Seen) box_->Seen();
+}
+
+void GridView::TellTyping() {
+    if (box_ == nullptr) return;
+    box_->FieldAltered = delegate_->FieldAltered();
+    if (box_->Typing) box_->Typing();
 }
 
 void GridView::ColumnChanged(Col col) {

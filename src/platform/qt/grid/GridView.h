@@ -69,6 +69,7 @@ private:
     void RowWantedInView(Row row) override;
 
     void TellSeen() const;
+    void TellTyping();
     void SetUpHeaders();
     void ReadTable();
     void WriteHeights();
