@@ -120,5 +120,23 @@ TEST_F(UnsavedPageTest, IsGoneOnceTheChangesAreNotWanted) {
     EXPECT_FALSE(Shows());
 }
 
+TEST_F(UnsavedPageTest, ATableWhoseSaveIsNotWholeIsMarkedAsAlteredWithoutAMessage) {
+    program.Open(kPath);
+    frmMDIChild& tab = program.Tab(1);
+    const std::string before = program.FileBytes(kPath);
+    tab.iGrid1.CommitEdit(Row{1}, Col{1}, Text(4000, u'x'));
+    program.files.SetFreeBytes(100);
+    program.Choose("mnuFile_Save");
+    EXPECT_TRUE(tab.Note().altered);
+    EXPECT_TRUE(program.user.Messages().empty());
+    EXPECT_NE(program.FileBytes(kPath), before);
+    const KeptVersions versions(program.files, u"C:\\state\\kept");
+    ASSERT_EQ(versions.Of(kPath).size(), 1u);
+    EXPECT_EQ(program.FileBytes(versions.Of(kPath).front().path), before);
+    // Undoing leads to a table that isn't in the file either.
+    EXPECT_TRUE(tab.Context().history->Undo());
+    EXPECT_TRUE(tab.Note().altered);
+}
+
 } // namespace
 } // namespace korvane
