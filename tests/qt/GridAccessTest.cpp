@@ -145,6 +145,7 @@ TEST_F(GridAccessTest, TheCurrentCellIsToldLastWhenTheKeyboardComesBack) {
 TEST_F(GridAccessTest, TheSideBarIsAListWhoseEntriesCanBePressed) {
     form.iBar.Store().SetCellValue(Row{2}, Col{1}, u"Settings");
     EXPECT_EQ(Of(*bar).role(), QAccessible::List);
+    EXPECT_EQ(Of(*bar).childCount(), 2);
     bar->setFocus();
     form.iBar.Store().SetCurRow(Row{2});
     test::Settle();

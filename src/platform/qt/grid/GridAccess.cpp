@@ -40,6 +40,7 @@ void GridAccess::ForgetParts() const {
 }
 
 int GridAccess::ChildOf(const GridView& view, int row, int column) {
+    if (view.IsBar()) return row;
     return (row + 1) * (view.Model()->columnCount() + 1) + column + 1;
 }
 
@@ -52,7 +53,8 @@ int GridAccess::columnCount() const {
 }
 
 int GridAccess::childCount() const {
-    return view_.Model() == nullptr ? 0 : (rowCount() + 1) * (columnCount() + 1);
+    if (view_.Model() == nullptr) return 0;
+    return view_.IsBar() ? rowCount() : (rowCount() + 1) * (columnCount() + 1);
 }
 
 QAccessibleInterface* GridAccess::child(int index) const {
@@ -61,7 +63,8 @@ QAccessibleInterface* GridAccess::child(int index) const {
     const auto known = parts_.constFind(index);
     if (known != parts_.constEnd()) return QAccessible::accessibleInterface(*known);
     const int perRow = columnCount() + 1;
-    auto* part = new GridPart(view_, index / perRow - 1, index % perRow - 1);
+    auto* part = view_.IsBar() ? new GridPart(view_, index, 0)
+                               : new GridPart(view_, index / perRow - 1, index % perRow - 1);
     // The cache of Qt owns it from now on.
     parts_.insert(index, QAccessible::registerAccessibleInterface(part));
     return part;

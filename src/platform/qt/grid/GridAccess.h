@@ -17,7 +17,7 @@ public:
     /// Lets Qt find this class for grids.
     static void Install();
     /// The number under which Qt's events name a cell. The headers are counted too; -1 is the row or the
-    /// column of captions.
+    /// column of captions. A bar of buttons has no headers.
     static int ChildOf(const GridView& view, int row, int column);
 
     int childCount() const override;
