@@ -22,6 +22,18 @@ std::string FirstLine(int descriptor) {
     return line;
 }
 
+/// Starts a server that writes where it can be reached to a file descriptor. Returns what it has written.
+std::string StartServer(std::unique_ptr<Process>& server, const Process::Environment& environment,
+                        const std::function<std::vector<std::string>(const std::string&)>& command) {
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) return "";
+    server = std::make_unique<Process>(command(std::to_string(ends[1])), environment, ends[1]);
+    close(ends[1]);
+    const std::string place = FirstLine(ends[0]);
+    close(ends[0]);
+    return place;
+}
+
 } // namespace
 
 Desk::Desk()
@@ -46,18 +58,26 @@ Desk::Desk()
 }
 
 void Desk::StartDisplay() {
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0) return;
-    server_ = std::make_unique<Process>(
-        std::vector<std::string>{"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", "1280x900x24",
-                                 "-nolisten", "tcp", "-noreset"},
-        environment_, ends[1]);
-    close(ends[1]);
-    const std::string number = FirstLine(ends[0]);
-    close(ends[0]);
+    const std::string number = StartServer(server_, environment_, [](const std::string& descriptor) {
+        return std::vector<std::string>{"Xvfb",        "-displayfd", descriptor, "-screen", "0",
+                                        "1280x900x24", "-nolisten",  "tcp",      "-noreset"};
+    });
     if (number.empty()) return;
     environment_["DISPLAY"] = ":" + number;
     display_ = std::make_unique<Display>(environment_["DISPLAY"]);
+}
+
+bool Desk::ProvideBus() {
+    for (const auto* const part :
+         {"/usr/bin/dbus-daemon", "/usr/bin/dbus-send", "/usr/libexec/at-spi-bus-launcher"})
+        if (!fs::exists(part)) return false;
+    const std::string address = StartServer(bus_, environment_, [](const std::string& descriptor) {
+        return std::vector<std::string>{"dbus-daemon", "--session", "--nofork",
+                                        "--print-address=" + descriptor};
+    });
+    environment_["DBUS_SESSION_BUS_ADDRESS"] = address;
+    environment_["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1";
+    return !address.empty();
 }
 
 bool Desk::Until(const std::function<bool()>& holds) {

@@ -20,6 +20,9 @@ public:
 
     /// Returns false when there is no display.
     bool Stands() const { return display_ && display_->Works(); }
+    /// Provides the bus on which programs talk to screen readers. Returns false where it isn't installed.
+    bool ProvideBus();
+    const Process::Environment& Environment() const { return environment_; }
     std::filesystem::path Path(const std::string& name) const { return folder_ / name; }
 
     /// Waits until `holds` returns true, and asks it again whenever something happens on the display or to a
@@ -61,6 +64,7 @@ private:
     Process::Environment environment_;
     FolderEvents files_{folder_.Path()};
     std::unique_ptr<Process> server_;
+    std::unique_ptr<Process> bus_;
     std::unique_ptr<Display> display_;
 };
 

@@ -61,5 +61,25 @@ TEST_F(EditingTest, ASecondStartHandsItsFileOver) {
     EXPECT_EQ(first->ExitStatus(), 0);
 }
 
+TEST_F(EditingTest, ASecondStartDuringADialogLeavesTheKeyboardToTheTable) {
+    const std::filesystem::path other = desk.Path("other.tbx");
+    WriteBytes(other, Table(other, "old"));
+    const auto first = desk.Start({file.string()});
+    const std::string main = desk.GoTo(kMain);
+    ASSERT_NE(main, "");
+    desk.Press({"shift+F9"});
+    ASSERT_NE(desk.GoTo(kFileInfo), "");
+    EXPECT_EQ(desk.Start({other.string()})->ExitStatus(), 0);
+    ASSERT_NE(desk.GoTo(kFileInfo), "");
+    desk.Press({"Escape"});
+    ASSERT_TRUE(desk.Gone(kFileInfo));
+    ASSERT_EQ(desk.GoTo(kMain), main);
+    Edit(" and typed after the dialog");
+    EXPECT_TRUE(SavedAs(other, "old and typed after the dialog")) << ReadBytes(other);
+    EXPECT_EQ(ReadBytes(file), Table(file, "old"));
+    Exit();
+    EXPECT_EQ(first->ExitStatus(), 0);
+}
+
 } // namespace
 } // namespace korvane::e2e
