@@ -16,11 +16,13 @@
 #include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -231,6 +233,19 @@ TEST_F(FormBinderTest, TabComesToOneOptionOfAGroup) {
     form.optTwo.Value = false;
     EXPECT_FALSE(Widget<QRadioButton>("optTwo").isChecked());
     EXPECT_TRUE(stops("optOne"));
+}
+
+TEST_F(FormBinderTest, ATextTakesNothingFromAnEmptyClipboard) {
+    auto& lines = Widget<QPlainTextEdit>("txtLines");
+    form.txtLines.Text = u"as it was";
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    QTest::keyClick(&lines, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&lines, Qt::Key_Insert, Qt::ShiftModifier);
+    QTest::mouseClick(lines.viewport(), Qt::MiddleButton);
+    EXPECT_EQ(form.txtLines.Text.Get(), u"as it was");
+    QGuiApplication::clipboard()->setText("new, ");
+    QTest::keyClick(&lines, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.txtLines.Text.Get(), u"new, as it was");
 }
 
 TEST_F(FormBinderTest, ALabelWithATitleIsSpokenWithIt) {

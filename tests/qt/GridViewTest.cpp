@@ -10,8 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QHeaderView>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QScrollBar>
 
 namespace korvane {
@@ -137,6 +139,14 @@ TEST_F(GridViewTest, WhatIsTypedIsToldBeforeItIsCommitted) {
     EXPECT_GE(told, 1);
     EXPECT_FALSE(form.iGrid1.FieldAltered);
     EXPECT_FALSE(form.iGrid1.ReadField());
+}
+
+TEST_F(GridViewTest, ACellTakesNothingFromAnEmptyClipboard) {
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    Key(Qt::Key_F2);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(At(1, 1), u"1/1");
 }
 
 TEST_F(GridViewTest, F2EditsBehindTheText) {

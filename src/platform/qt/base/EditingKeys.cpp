@@ -1,8 +1,12 @@
 #include "platform/qt/base/EditingKeys.h"
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTextEdit>
 #include <algorithm>
@@ -36,7 +40,25 @@ bool EditsText(const QWidget& widget) {
            qobject_cast<const QTextEdit*>(&widget) != nullptr || (combo != nullptr && combo->isEditable());
 }
 
+bool IsEmpty(QClipboard::Mode which) {
+    const QMimeData* data = QGuiApplication::clipboard()->mimeData(which);
+    return data == nullptr || data->formats().isEmpty();
+}
+
 } // namespace
+
+bool PastesNothing(const QEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        const auto& key = static_cast<const QKeyEvent&>(event);
+        // With Ctrl, Insert pastes what is selected anywhere.
+        const bool selected = key.key() == Qt::Key_Insert && key.modifiers().testFlag(Qt::ControlModifier);
+        return key.matches(QKeySequence::Paste) &&
+               IsEmpty(selected ? QClipboard::Selection : QClipboard::Clipboard);
+    }
+    if (event.type() != QEvent::MouseButtonRelease) return false;
+    const bool middle = static_cast<const QMouseEvent&>(event).button() == Qt::MiddleButton;
+    return middle && IsEmpty(QClipboard::Selection);
+}
 
 bool EditsWith(const QWidget& widget, const QKeyEvent& key) {
     return IsEditingKey(key) && EditsText(widget);

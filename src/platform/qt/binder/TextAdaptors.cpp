@@ -4,6 +4,7 @@
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/DenseLines.h"
 #include "platform/qt/base/DocumentText.h"
+#include "platform/qt/base/EditingKeys.h"
 
 #include <QScopedValueRollback>
 #include <QTextDocument>
@@ -60,6 +61,7 @@ void LineAdaptor::WriteSelection() {
 }
 
 LinesAdaptor::LinesAdaptor(TextBox& box, QPlainTextEdit& widget) : AdaptorOf(box, widget) {
+    widget.viewport()->installEventFilter(this);
     if (widget.property(kDenseLines).toBool()) widget.document()->setDocumentMargin(0);
     connect(&widget, &QPlainTextEdit::textChanged, this, &LinesAdaptor::ReadText);
     const auto readSelection = [this] { ReadSelection(control_.Text.Get()); };
@@ -74,6 +76,10 @@ void LinesAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Enabled) WriteLocked();
     if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kFieldSurface);
     AdaptorOf::Write(aspect);
+}
+
+bool LinesAdaptor::eventFilter(QObject* watched, QEvent* event) {
+    return AdaptorOf::eventFilter(watched, event) || PastesNothing(*event);
 }
 
 void LinesAdaptor::WriteLocked() {

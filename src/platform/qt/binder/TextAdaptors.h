@@ -32,6 +32,7 @@ public:
 
 protected:
     void Write(Aspect aspect) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void ReadText();

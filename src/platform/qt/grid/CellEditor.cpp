@@ -5,6 +5,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QtMath>
@@ -85,6 +86,10 @@ bool CellEditor::event(QEvent* event) {
         return true;
     }
     return QPlainTextEdit::event(event);
+}
+
+void CellEditor::insertFromMimeData(const QMimeData* source) {
+    if (!source->formats().isEmpty()) QPlainTextEdit::insertFromMimeData(source);
 }
 
 int CellEditor::TextHeight(int most) const {

@@ -28,6 +28,8 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
+    /// Qt fails at a clipboard that is empty.
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
     void Grow();
