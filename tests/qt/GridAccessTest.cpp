@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMainWindow>
 
 namespace korvane {
@@ -127,6 +129,19 @@ TEST_F(GridAccessTest, TheCellThatACommandComesToIsToldOnce) {
     test::Settle();
     EXPECT_EQ(heard.Of(QAccessible::Focus), QStringList{"Berlin"});
     EXPECT_TRUE(heard.Of(QAccessible::SelectionAdd).isEmpty());
+}
+
+TEST_F(GridAccessTest, WhileADialogHasTheKeyboardItTellsOfTheCellThatItComesTo) {
+    QDialog dialog(host.WidgetOf(form));
+    auto* field = new QLineEdit(&dialog);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    field->setFocus();
+    Store().SetCurRow(Row{2});
+    Store().SetCurCol(Col{2});
+    test::Settle();
+    EXPECT_EQ(field->accessibleDescription(), "Column 2, row 2, not ticked: Berlin");
+    EXPECT_TRUE(heard.Of(QAccessible::Focus).isEmpty());
 }
 
 TEST_F(GridAccessTest, TheCurrentCellIsToldLastWhenTheKeyboardComesBack) {

@@ -3,6 +3,7 @@
 #include "platform/qt/grid/GridAccess.h"
 #include "platform/qt/grid/GridView.h"
 
+#include <QApplication>
 #include <utility>
 
 namespace korvane {
@@ -41,8 +42,20 @@ void GridVoice::Tell() {
     if (current.row() == row_ && IsTicked(current) != ticked_) TellTick(current);
     row_ = current.row();
     ticked_ = IsTicked(current);
-    if (reached && view_.hasFocus())
-        Send(QAccessibleEvent(&view_, QAccessible::Focus), row_, current.column());
+    if (!reached) return;
+    if (!view_.hasFocus()) return TellElsewhere(current);
+    Send(QAccessibleEvent(&view_, QAccessible::Focus), row_, current.column());
+}
+
+/// A dialog that goes through the table keeps the keyboard, so what has it there tells where it has come to.
+void GridVoice::TellElsewhere(const QModelIndex& current) {
+    QWidget* focused = QApplication::focusWidget();
+    QAccessibleInterface* grid = QAccessible::queryAccessibleInterface(&view_);
+    const bool inDialog = focused != nullptr && focused->window() != view_.window();
+    if (!inDialog || view_.IsBar() || grid == nullptr) return;
+    const QAccessibleInterface* cell = grid->tableInterface()->cellAt(current.row(), current.column());
+    const QString place = cell->text(QAccessible::Description);
+    focused->setAccessibleDescription(QStringLiteral("%1: %2").arg(place, cell->text(QAccessible::Name)));
 }
 
 void GridVoice::TellTick(const QModelIndex& current) {

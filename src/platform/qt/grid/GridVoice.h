@@ -28,6 +28,7 @@ private:
     void Hold();
     void Tell();
     void TellTick(const QModelIndex& current);
+    void TellElsewhere(const QModelIndex& current);
 
     GridView& view_;
     Ears usualEars_;
