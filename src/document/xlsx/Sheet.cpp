@@ -105,6 +105,24 @@ private:
     bool inValue_ = false;
 };
 
+/// A cell's lines are lines of one paragraph.
+void PutCell(Builder& builder, const Text& text) {
+    for (const char16_t character : text) {
+        if (character == u'\r') continue;
+        builder.Add(character == u'\n' ? kLineBreak : character);
+    }
+}
+
+void PutRow(Builder& builder, const std::map<std::size_t, Text>& cells, std::size_t columns) {
+    if (builder.Full()) return;
+    for (std::size_t column = 0; column < columns; ++column) {
+        builder.OpenCell();
+        if (const auto cell = cells.find(column); cell != cells.end()) PutCell(builder, cell->second);
+        builder.EndCell({});
+    }
+    builder.EndRow({});
+}
+
 } // namespace
 
 std::vector<Text> ReadSharedTexts(std::string_view xml, const Limits& limits) {
@@ -137,6 +155,20 @@ std::vector<Text> ReadSharedTexts(std::string_view xml, const Limits& limits) {
 
 Sheet ReadSheet(std::string_view xml, const std::vector<Text>& shared, const Limits& limits) {
     return SheetReader(shared, limits).Read(xml);
+}
+
+void PutSheet(Builder& builder, TextView name, const Sheet& sheet) {
+    builder.Add(name);
+    builder.EndParagraph({});
+    std::size_t next = 0;
+    for (const auto& [row, cells] : sheet.rows) {
+        for (; next < row; ++next)
+            PutRow(builder, {}, sheet.columns);
+        PutRow(builder, cells, sheet.columns);
+        ++next;
+    }
+    builder.EndTable();
+    builder.Tell(sheet.trouble);
 }
 
 } // namespace korvane::doc::xlsx

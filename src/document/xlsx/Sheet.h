@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
+#include "document/model/Builder.h"
 #include "document/model/Reading.h"
 
 #include <cstddef>
@@ -21,5 +22,8 @@ struct Sheet {
 std::vector<Text> ReadSharedTexts(std::string_view xml, const Limits& limits);
 
 Sheet ReadSheet(std::string_view xml, const std::vector<Text>& shared, const Limits& limits);
+
+/// Adds the sheet to a document: its name and a table.
+void PutSheet(Builder& builder, TextView name, const Sheet& sheet);
 
 } // namespace korvane::doc::xlsx

@@ -58,36 +58,7 @@ private:
     void PutSheet(TextView name, const std::string& part) {
         const auto xml = package_.Part(part);
         if (!xml) return builder_.Tell(Trouble::Damaged);
-        const xlsx::Sheet sheet = xlsx::ReadSheet(*xml, shared_, limits_);
-        builder_.Add(name);
-        builder_.EndParagraph({});
-        std::size_t next = 0;
-        for (const auto& [row, cells] : sheet.rows) {
-            for (; next < row; ++next)
-                PutRow({}, sheet.columns);
-            PutRow(cells, sheet.columns);
-            ++next;
-        }
-        builder_.EndTable();
-        builder_.Tell(sheet.trouble);
-    }
-
-    void PutRow(const std::map<std::size_t, Text>& cells, std::size_t columns) {
-        if (builder_.Full()) return;
-        for (std::size_t column = 0; column < columns; ++column) {
-            builder_.OpenCell();
-            if (const auto cell = cells.find(column); cell != cells.end()) PutCell(cell->second);
-            builder_.EndCell({});
-        }
-        builder_.EndRow({});
-    }
-
-    /// A cell's lines are lines of one paragraph.
-    void PutCell(const Text& text) {
-        for (const char16_t character : text) {
-            if (character == u'\r') continue;
-            builder_.Add(character == u'\n' ? kLineBreak : character);
-        }
+        xlsx::PutSheet(builder_, name, xlsx::ReadSheet(*xml, shared_, limits_));
     }
 
     const Limits& limits_;
