@@ -13,6 +13,8 @@
 #include "platform/qt/lists/ListViewAdaptor.h"
 #include "platform/qt/lists/TreeViewAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
+#include "platform/qt/text/TextBarAdaptors.h"
+#include "platform/qt/text/TextControlAdaptor.h"
 
 #include <QToolBar>
 
@@ -54,6 +56,10 @@ constexpr Maker kMakers[] = {
     Make<Slider, QAbstractSlider, SliderAdaptor>,
     Make<Splitter, QSplitter, SplitterAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
+    Make<TextControl, QtTextView, TextControlAdaptor>,
+    Make<TextRuler, TextRulerView, TextRulerAdaptor>,
+    Make<TextStatusBar, QLabel, TextStatusAdaptor>,
+    Make<HairLine, QFrame, HairLineAdaptor>,
     Make<Menu, QMenuBar, MenuAdaptor>,
     Make<TabStrip, TabPages, TabStripAdaptor>,
 };

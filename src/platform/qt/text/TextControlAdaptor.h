@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/qt/base/ControlAdaptor.h"
+#include "platform/qt/text/QtTextView.h"
+
+namespace korvane {
+
+class TextControlAdaptor : public AdaptorOf<TextControl, QtTextView> {
+public:
+    TextControlAdaptor(TextControl& control, QtTextView& view) : AdaptorOf(control, view) {
+        view.Attach(control);
+    }
+
+protected:
+    void Write(Aspect aspect) override;
+    void Deafen() override;
+    void LetGo() override { widget_.Detach(); }
+};
+
+} // namespace korvane
