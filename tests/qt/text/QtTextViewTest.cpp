@@ -346,5 +346,366 @@ TEST_F(QtTextViewTest, AnInputMethodReplacesWhatIsAroundTheCursor) {
     EXPECT_EQ(view.inputMethodQuery(Qt::ImCursorPosition).toInt(), 3);
 }
 
+// Fields, at whose edges nothing may join them by accident.
+
+TEST_F(QtTextViewTest, TypingAtTheEdgesOfAFieldStaysOutside) {
+    const int field = MakeField();
+    control.SetSelStart(5);
+    Type("1");
+    EXPECT_EQ(FieldText(field), "abcd");
+    control.SetSelStart(1);
+    Type("2");
+    EXPECT_EQ(FieldText(field), "abcd");
+    EXPECT_EQ(All(), "<2abcd1>");
+}
+
+TEST_F(QtTextViewTest, TypingAndReturnWithinAFieldStayIn) {
+    const int field = MakeField();
+    control.SetSelStart(3);
+    Type("x");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(FieldText(field), "abx\r\ncd");
+}
+
+TEST_F(QtTextViewTest, AnInputMethodAtTheEndOfAFieldStaysOutside) {
+    const int field = MakeField();
+    control.SetSelStart(5);
+    Settle();
+    Compose("x");
+    Compose({}, "y");
+    EXPECT_EQ(FieldText(field), "abcd");
+    EXPECT_EQ(All(), "<abcdy>");
+}
+
+TEST_F(QtTextViewTest, OvertypingAFieldDoesNotTakeItsPlaceUnlessWithin) {
+    int field = MakeField();
+    control.SetSelection(2, 2);
+    Settle();
+    Type("x");
+    EXPECT_EQ(FieldText(field), "axd");
+    field = MakeField();
+    control.SetSelection(1, 4);
+    Settle();
+    Type("x");
+    EXPECT_EQ(control.FieldNext(0), 0);
+    field = MakeField();
+    control.SetSelection(3, 3);
+    Settle();
+    Type("x");
+    EXPECT_EQ(FieldText(field), "ab");
+}
+
+TEST_F(QtTextViewTest, PastingAndDroppingAtTheEndOfAFieldStaysOutside) {
+    const int field = MakeField();
+    QGuiApplication::clipboard()->setText("p");
+    control.SetSelStart(5);
+    Settle();
+    Key(Qt::Key_V, Qt::ControlModifier);
+    QMimeData data;
+    data.setText("d");
+    Drop(5, data);
+    EXPECT_EQ(FieldText(field), "abcd");
+    EXPECT_EQ(All(), "<abcddp>");
+}
+
+TEST_F(QtTextViewTest, ACopiedFieldIsAnotherFieldWithTheSameData) {
+    const int field = MakeField();
+    control.SetFieldType(field, 1);
+    control.SetFieldTypeData(field, u"http://a.b");
+    control.SetSelection(1, 4);
+    Settle();
+    Key(Qt::Key_C, Qt::ControlModifier);
+    Key(Qt::Key_End, Qt::ControlModifier);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(All(), "<abcd>abcd");
+    const int copy = control.FieldNext(field);
+    ASSERT_NE(copy, 0);
+    EXPECT_EQ(control.FieldTypeData(copy), u"http://a.b");
+}
+
+TEST_F(QtTextViewTest, ADeletedFieldComesBackByUndoing) {
+    const int field = MakeField();
+    control.SetSelection(1, 4);
+    Settle();
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(control.FieldNext(0), 0);
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(FieldText(field), "abcd");
+}
+
+TEST_F(QtTextViewTest, AFieldKnowsTheMouse) {
+    const int field = MakeField();
+    std::string told;
+    control.FieldEntered = [&](int entered) { told += "+" + std::to_string(entered); };
+    control.FieldLeft = [&] { told += "-"; };
+    control.FieldClicked = [&](int clicked) { told += "!" + std::to_string(clicked); };
+    const std::string number = std::to_string(field);
+    const auto move = [&](const QPoint& point) {
+        QTest::mouseMove(view.viewport(), point);
+        Settle();
+    };
+    move(PointAt(0));
+    move(PointAt(1));
+    move(PointAt(4));
+    EXPECT_EQ(told, "+" + number);
+    move(PointAt(5));
+    EXPECT_EQ(told, "+" + number + "-");
+    Click(PointAt(4));
+    EXPECT_EQ(told, "+" + number + "-+" + number + "!" + number);
+    Click(PointAt(0));
+    EXPECT_EQ(told.back(), '-');
+}
+
+// The clipboard.
+
+TEST_F(QtTextViewTest, FormattedTextIsCopiedAsRtfHtmlAndPlainText) {
+    control.SetAll(u"plain bold\r\nx");
+    control.SetSelection(6, 4);
+    control.SetFontBold(1);
+    Settle();
+    Key(Qt::Key_C, Qt::ControlModifier);
+    const QMimeData* const data = QGuiApplication::clipboard()->mimeData();
+    EXPECT_TRUE(data->data("text/rtf").startsWith("{\\rtf1"));
+    EXPECT_EQ(data->data("text/rtf"), data->data("application/rtf"));
+    EXPECT_TRUE(data->html().contains("bold"));
+    EXPECT_EQ(data->text(), "bold");
+    control.SetSelStart(0);
+    Settle();
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(All(), "boldplain bold\r\nx");
+    control.SetSelection(0, 4);
+    EXPECT_EQ(control.FontBold(), 1);
+}
+
+TEST_F(QtTextViewTest, HtmlOfOtherProgramsIsPastedWithItsFormats) {
+    auto* const data = new QMimeData;
+    data->setHtml("<p>one <b>two</b></p>");
+    data->setText("one two");
+    QGuiApplication::clipboard()->setMimeData(data);
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(All().substr(0, 7), "one two");
+    control.SetSelection(4, 3);
+    EXPECT_EQ(control.FontBold(), 1);
+    control.SetSelection(0, 3);
+    EXPECT_EQ(control.FontBold(), 0);
+}
+
+TEST_F(QtTextViewTest, PlainTextOfSeveralLinesIsPasted) {
+    QGuiApplication::clipboard()->setText("a\nb");
+    Key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(All(), "a\r\nb");
+}
+
+TEST_F(QtTextViewTest, CuttingPutsTheTextOnTheClipboard) {
+    control.SetAll(u"abc");
+    control.SetSelection(1, 1);
+    Settle();
+    Key(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(All(), "ac");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "b");
+    control.Undo();
+    EXPECT_EQ(All(), "abc");
+}
+
+TEST_F(QtTextViewTest, AFormatThatIsOfferedButEmptyIsPassedOver) {
+    QMimeData data;
+    data.setData("text/rtf", "");
+    data.setText("plain");
+    EXPECT_EQ(RtfIn(data), "");
+    data.setData("text/richtext", "{\\rtf1 x}");
+    EXPECT_EQ(RtfIn(data), "{\\rtf1 x}");
+}
+
+TEST_F(QtTextViewTest, ATextIsMovedInOneStep) {
+    control.SetAll(u"one two three");
+    control.SetSelection(0, 4);
+    view.MoveSelectionTo(8);
+    EXPECT_EQ(All(), "two one three");
+    EXPECT_EQ(control.SelText(), u"one ");
+    view.MoveSelectionTo(6);
+    EXPECT_EQ(All(), "two one three");
+    view.MoveSelectionTo(0);
+    EXPECT_EQ(All(), "one two three");
+    control.Undo();
+    control.Undo();
+    EXPECT_EQ(All(), "one two three");
+    EXPECT_FALSE(control.Undo());
+}
+
+TEST_F(QtTextViewTest, FilesThatAreDroppedAreForTheWindow) {
+    QMimeData data;
+    data.setUrls({QUrl("file:///a.txt")});
+    Drop(0, data);
+    EXPECT_EQ(All(), "");
+}
+
+// Zoom and pages.
+
+/// Where each line of the text begins.
+std::vector<int> LineStarts(QTextDocument& document) {
+    document.documentLayout()->documentSize();
+    std::vector<int> starts;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (int line = 0; line < block.layout()->lineCount(); ++line)
+            starts.push_back(block.position() + block.layout()->lineAt(line).textStart());
+    }
+    return starts;
+}
+
+TEST_F(QtTextViewTest, PagesHaveTheSameLinesAtEveryZoom) {
+    Text text;
+    for (int i = 0; i < 120; ++i)
+        text += u"Some words that fill more than a line of the page, so that it is broken somewhere in the "
+                u"middle of what it says.\r\n";
+    control.SetAll(text);
+    control.ViewMode = TextControl::kPages;
+    Settle();
+    const std::vector<int> lines = LineStarts(view.Mirror().Current());
+    const int pages = view.Mirror().Current().pageCount();
+    EXPECT_GT(pages, 2);
+    for (const int zoom : kZoomSteps) {
+        control.ZoomFactor = zoom;
+        Settle();
+        EXPECT_DOUBLE_EQ(view.Zoom(), zoom / 100.0);
+        EXPECT_EQ(LineStarts(view.Mirror().Current()), lines) << zoom;
+        EXPECT_EQ(view.Mirror().Current().pageCount(), pages) << zoom;
+        const doc::Pos place = 700;
+        EXPECT_EQ(view.PlaceAt(view.CursorAt(place).center()), place);
+    }
+}
+
+TEST_F(QtTextViewTest, AFlowingTextIsAsWideAsTheViewAtEveryZoom) {
+    control.SetAll(Text(2000, u'x'));
+    for (const int zoom : kZoomSteps) {
+        control.ZoomFactor = zoom;
+        Settle();
+        const double width = view.Mirror().Current().pageSize().width() * view.Zoom();
+        EXPECT_NEAR(width, std::max<double>(view.viewport()->width(), 24 * view.Zoom()), 1) << zoom;
+    }
+}
+
+TEST_F(QtTextViewTest, NoLineIsInTheGapBetweenPages) {
+    Text text;
+    for (int i = 0; i < 300; ++i)
+        text += u"line\r\n";
+    control.SetAll(text);
+    control.ViewMode = TextControl::kPages;
+    Settle();
+    QTextDocument& document = view.Mirror().Current();
+    document.documentLayout()->documentSize();
+    for (doc::Pos place = 0; place < 1800; place += 6) {
+        const QRectF cursor = view.CursorAt(place);
+        const int page = view.Pages().PageAt(cursor.top());
+        EXPECT_TRUE(view.Pages().Page(page).contains(cursor)) << place;
+    }
+}
+
+TEST_F(QtTextViewTest, TheCursorTellsItsPageLineAndColumn) {
+    Text text;
+    for (int i = 0; i < 200; ++i)
+        text += u"line\r\n";
+    control.SetAll(text);
+    control.SetSelStart(6 * 10 + 2);
+    CursorPlace place = view.Place();
+    EXPECT_EQ(place.line, 11);
+    EXPECT_EQ(place.column, 3);
+    EXPECT_EQ(place.page, 1);
+    control.ViewMode = TextControl::kPages;
+    control.SetSelStart(6 * 150);
+    Settle();
+    view.Mirror().Current().documentLayout()->documentSize();
+    place = view.Place();
+    EXPECT_GT(place.page, 1);
+    EXPECT_EQ(place.column, 1);
+    EXPECT_GT(place.pages, 2);
+    // The line counts from the top of its page.
+    const double top = view.Pages().Page(place.page - 1).top() + view.Pages().Margins().top();
+    const double height = view.CursorAt(6 * 150).height();
+    EXPECT_NEAR(view.CursorAt(6 * 150).top(), top + (place.line - 1) * height, height / 2);
+}
+
+TEST_F(QtTextViewTest, AnotherPageIsShownAtOnce) {
+    control.ViewMode = TextControl::kPages;
+    control.SetPageSize(doc::Page::Width, 9000);
+    control.SetPageSize(doc::Page::MarginLeft, 900);
+    Settle();
+    EXPECT_NEAR(view.Mirror().Current().pageSize().width(), TextPixels(9000), 0.01);
+    EXPECT_NEAR(view.CursorAt(0).left(), TextPixels(900), 0.01);
+    control.SetPageSize(doc::Page::MarginRight, 9000);
+    Settle();
+    EXPECT_GT(view.Mirror().Current().pageSize().width(), view.Pages().Margins().left());
+}
+
+TEST_F(QtTextViewTest, ControlCharactersDoNotChangeTheText) {
+    control.SetAll(u"a\tb");
+    control.SetDataChanged(false);
+    control.ControlChars = true;
+    Settle();
+    EXPECT_TRUE(view.Mirror().Current().defaultTextOption().flags() & QTextOption::ShowTabsAndSpaces);
+    EXPECT_EQ(All(), "a\tb");
+    EXPECT_FALSE(control.DataChanged());
+    control.InsertTable(1, 1);
+    Settle();
+    EXPECT_TRUE(view.Mirror().Current().defaultTextOption().flags() & QTextOption::ShowTabsAndSpaces);
+    control.ControlChars = false;
+    EXPECT_FALSE(view.Mirror().Current().defaultTextOption().flags() & QTextOption::ShowTabsAndSpaces);
+}
+
+// Painting.
+
+int Painted(QtTextView& view, const QColor& colour) {
+    Settle();
+    const QImage image = view.viewport()->grab().toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour ? 1 : 0;
+    }
+    return count;
+}
+
+TEST_F(QtTextViewTest, FramesAreDrawnAroundParagraphs) {
+    control.SetAll(u"a\r\nb");
+    control.BackColor = Colour{0xFFFFFF};
+    const int before = Painted(view, Qt::black);
+    control.SetFrameStyle(doc::kFrameTop | doc::kFrameBottom | doc::kFrameSingle);
+    control.SetFrameLineWidth(45);
+    // Two lines, each three pixels high and nearly as long as the view is wide.
+    EXPECT_GT(Painted(view, Qt::black) - before, 2 * 2 * (view.viewport()->width() - 40));
+}
+
+TEST_F(QtTextViewTest, LinesOfTablesAreDrawn) {
+    control.BackColor = Colour{0xFFFFFF};
+    const int table = control.InsertTable(2, 2);
+    const int before = Painted(view, Qt::black);
+    control.FormatCells(table, [](int, int, doc::CellFormat& cell) { cell.border.fill(30); });
+    EXPECT_GT(Painted(view, Qt::black) - before, 1000);
+}
+
+TEST_F(QtTextViewTest, EverythingThatADocumentHoldsCanBeDrawn) {
+    for (unsigned seed = 1; seed < 12; ++seed) {
+        control.SetWhole(doc::RandomDocument(seed));
+        control.ViewMode = seed % 2 == 0 ? TextControl::kPages : TextControl::kFlow;
+        Settle();
+        EXPECT_FALSE(view.grab().isNull());
+    }
+}
+
+TEST_F(QtTextViewTest, ThePageHasItsColour) {
+    control.BackColor = Colour{0x112233};
+    EXPECT_GT(Painted(view, QColor(0x33, 0x22, 0x11)), 100000);
+}
+
+TEST_F(QtTextViewTest, AViewThatLostItsControlShowsNothing) {
+    control.SetAll(u"abc");
+    adaptor->Detach();
+    EXPECT_EQ(view.Shown(), nullptr);
+    Type("x");
+    view.grab();
+    adaptor = new TextControlAdaptor(control, view);
+    adaptor->WriteAll();
+    EXPECT_EQ(Shown(), "abc");
+}
+
 } // namespace
 } // namespace korvane
