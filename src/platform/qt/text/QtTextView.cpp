@@ -46,6 +46,8 @@ doc::MemoryTextStore& StoreOf(TextControl& control) {
 } // namespace
 
 QtTextView::QtTextView(QWidget* parent) : QGraphicsView(parent), item_(new TextItem(*this)) {
+    // A screen reader may ask for the view before it has a control.
+    TextAccessible::Install();
     item_->setDocument(&nothing_);
     scene_.addItem(item_);
     scene_.setFocusItem(item_);
@@ -64,7 +66,6 @@ QtTextView::~QtTextView() {
 }
 
 void QtTextView::Attach(TextControl& control) {
-    TextAccessible::Install();
     control_ = &control;
     mirror_ = std::make_unique<TextMirror>(StoreOf(control));
     mirror_->Stale = [this] { ShowSoon(); };
