@@ -135,8 +135,10 @@ TEST_F(GridAccessTest, WhileADialogHasTheKeyboardItTellsOfTheCellThatItComesTo) 
     QDialog dialog(host.WidgetOf(form));
     auto* field = new QLineEdit(&dialog);
     dialog.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    dialog.activateWindow();
     field->setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([field] { return field->hasFocus(); }));
+    heard.Clear();
     Store().SetCurRow(Row{2});
     Store().SetCurCol(Col{2});
     test::Settle();
