@@ -85,7 +85,13 @@ bool Desk::Until(const std::function<bool()>& holds) {
 }
 
 bool Desk::Holds(const fs::path& file, const std::string& bytes) {
-    return Until([&] { return ReadBytes(file) == bytes; });
+    return Until([&] {
+        // A folder on the way to the file may be new since the last look.
+        for (fs::path at = file.parent_path(); at != at.root_path() && at != folder_.Path();
+             at = at.parent_path())
+            files_.Watch(at);
+        return ReadBytes(file) == bytes;
+    });
 }
 
 std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments,

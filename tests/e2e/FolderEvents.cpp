@@ -9,11 +9,15 @@ namespace korvane::e2e {
 
 FolderEvents::FolderEvents(const std::filesystem::path& folder)
     : descriptor_(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
-    inotify_add_watch(descriptor_, folder.c_str(), IN_CLOSE_WRITE | IN_MOVED_TO | IN_DELETE);
+    Watch(folder);
 }
 
 FolderEvents::~FolderEvents() {
     close(descriptor_);
+}
+
+void FolderEvents::Watch(const std::filesystem::path& folder) {
+    inotify_add_watch(descriptor_, folder.c_str(), IN_CREATE | IN_CLOSE_WRITE | IN_MOVE | IN_DELETE);
 }
 
 void FolderEvents::Drain() {
