@@ -65,6 +65,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<ColourPicker>(&colourPicker_);
     app_.SetPort<FileViewer>(&fileHandling_);
     app_.SetPort<TableKeeper>(&keptTables_);
+    app_.SetPort<TextFiles>(&documents_);
     // As long as the program has no windows of its own for them.
     app_.SetPort<TextFileViewer>(&desktopViewer_);
     app_.SetPort<PageViewer>(&desktopViewer_);

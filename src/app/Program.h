@@ -16,6 +16,7 @@
 #include "platform/qt/services/QtUserLocale.h"
 #include "shell/main/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
+#include "text/files/DocumentFiles.h"
 #include "text/markup/TagPairs.h"
 
 #include <QString>
@@ -57,6 +58,8 @@ private:
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
     DesktopFileViewer desktopViewer_{app_};
+    // Other programs that know more formats aren't asked yet.
+    DocumentFiles documents_{files_, app_.Page(), nullptr};
     TagPairs tagPairs_{app_};
     KeptTables keptTables_;
 };

@@ -1,6 +1,5 @@
 #include "text/frmViewAndPaste.h"
 
-#include "common/text/LineEnds.h"
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
@@ -8,12 +7,12 @@
 #include "context/WindowFitting.h"
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/MainWindow.h"
+#include "context/ports/OpenText.h"
 #include "context/ports/SystemFileDialog.h"
-#include "context/ports/TextWindow.h"
 #include "controls/KeyTable.h"
 #include "platform/Clipboard.h"
-#include "platform/FileSystem.h"
 #include "platform/Screen.h"
+#include "text/commands/TextFileTypes.h"
 
 #include <algorithm>
 
@@ -28,7 +27,10 @@ constexpr StoredPlace kPlace{&Settings::PasteLeft, &Settings::PasteTop, &Setting
                              &Settings::PasteHeight};
 
 constexpr std::int16_t kFullText = 0;
+constexpr std::int16_t kSimpleText = 1;
 constexpr std::int16_t kPlainText = 2;
+
+constexpr TextView kCaptions[] = {u"> full RTF <", u"> basic RTF <", u"> plain text <"};
 
 constexpr TextView kNoText = u"\r\n( Windows clipboard does not contain text )\r\n";
 
@@ -66,12 +68,6 @@ struct frmViewAndPaste::Tables {
     };
 };
 
-const frmViewAndPaste::Rendering frmViewAndPaste::kRenderings[] = {
-    {&frmViewAndPaste::TXTextControl1, u"> full RTF <"},
-    {&frmViewAndPaste::RichTextBox1, u"> basic RTF <"},
-    {&frmViewAndPaste::Text1, u"> plain text <"},
-};
-
 frmViewAndPaste::frmViewAndPaste(App& app)
     : Form(app.Forms(), "frmViewAndPaste",
            u"Contents of Windows clipboard  (use [Shift-]Tab to select item in toolbar on left)"),
@@ -80,10 +76,12 @@ frmViewAndPaste::frmViewAndPaste(App& app)
     iGridListBar.DblClick = [this] { RunListed(); };
     iGridListBar.KeyDown = KeysOf(*this, Tables::kListKeys);
     TmpTextCtrl.Visible = false;
+    for (TextControl* const rendering : Formatted()) {
+        rendering->Locked = true;
+        rendering->Files = app_.Port<TextFiles>();
+    }
     // Of a locked text, the view gets only as much as anyone would read, however long the text is.
-    TmpTextCtrl.Locked = true;
-    for (const Rendering& rendering : kRenderings)
-        (this->*rendering.view).Locked = true;
+    Text1.Locked = true;
 }
 
 void frmViewAndPaste::Load() {
@@ -103,11 +101,11 @@ void frmViewAndPaste::Activate() {
     activated_ = true;
     const Hourglass hourglass(app_.Screen());
     app_.Screen().ProcessMessages();
-    if (app_.Clipboard().HasText()) {
+    if (app_.Clipboard().HasText() || app_.Clipboard().GetRtf()) {
         // Some programs make their contents only when they are asked for them, which happens here, before the
         // renderings are filled.
-        TmpTextCtrl.Text = app_.Clipboard().GetText();
-        TmpTextCtrl.Text = Text();
+        TmpTextCtrl.SetAll(app_.Clipboard().GetText());
+        TmpTextCtrl.SetAll({});
     }
     FillList();
     FillRenderings();
@@ -133,25 +131,34 @@ void frmViewAndPaste::FillList() {
     iGridListBar.SetListIndex(0);
 }
 
-void frmViewAndPaste::FillRenderings() {
-    for (const Rendering& rendering : kRenderings)
-        (this->*rendering.view).Text = Text();
-    if (app_.Clipboard().HasText()) {
-        const Text contents = app_.Clipboard().GetText();
-        for (const Rendering& rendering : kRenderings) {
-            (this->*rendering.view).Text = contents;
-            app_.Screen().ProcessMessages();
-        }
+void frmViewAndPaste::FillWith(const std::function<void(TextControl&)>& fill) {
+    for (TextControl* const rendering : Formatted()) {
+        fill(*rendering);
+        rendering->SetSelStart(0);
+        app_.Screen().ProcessMessages();
     }
-    if (TXTextControl1.Text.Get().empty()) TXTextControl1.Text = Text(kNoText);
+    Text1.Text = app_.Clipboard().GetText();
+    app_.Screen().ProcessMessages();
+}
+
+void frmViewAndPaste::FillRenderings() {
+    for (TextControl* const rendering : Formatted())
+        rendering->SetAll({});
+    Text1.Text = Text();
+    if (const auto rtf = app_.Clipboard().GetRtf())
+        FillWith([&rtf](TextControl& rendering) { rendering.SetSelTextRtf(*rtf); });
+    else if (app_.Clipboard().HasText())
+        FillWith([text = app_.Clipboard().GetText()](TextControl& rendering) { rendering.SetAll(text); });
+    if (TXTextControl1.All().empty()) TXTextControl1.SetAll(kNoText);
 }
 
 void frmViewAndPaste::ShowMode() {
-    const Rendering& current = Current();
-    for (const Rendering& rendering : kRenderings)
-        (this->*rendering.view).Visible = rendering.view == current.view;
-    lblLeftMargin.BackColor = (this->*current.view).BackColor;
-    Frame1.Caption = Text(current.caption);
+    const std::int16_t mode = Mode();
+    TXTextControl1.Visible = mode == kFullText;
+    RichTextBox1.Visible = mode == kSimpleText;
+    Text1.Visible = mode == kPlainText;
+    lblLeftMargin.BackColor = mode == kPlainText ? Text1.BackColor : FormattedInUse().BackColor;
+    Frame1.Caption = Text(kCaptions[mode]);
 }
 
 void frmViewAndPaste::RunListed() {
@@ -160,14 +167,13 @@ void frmViewAndPaste::RunListed() {
 }
 
 void frmViewAndPaste::PutIntoTextWindow() {
-    auto* textWindow = app_.Port<TextWindow>();
-    if (textWindow == nullptr) return;
-    const TextBox& view = this->*Current().view;
-    if (&view == &Text1) return textWindow->TextWindowInsert(Text1.Text.Get());
+    const auto* open = app_.Port<OpenText>();
+    if (open == nullptr) return;
+    if (Mode() == kPlainText) return open->ThisTextCtrl.SetSelText(Text1.Text.Get());
     // Of a formatted rendering only the selected text is taken. Kept for compatibility:
     // retrieve-takes-selection.
-    const Text selected = view.SelText();
-    if (!selected.empty()) textWindow->TextWindowInsert(selected);
+    const std::string selected = FormattedInUse().SelTextRtf();
+    if (!selected.empty()) open->ThisTextCtrl.SetSelTextRtf(selected);
 }
 
 void frmViewAndPaste::mnuRetrieve_Click() {
@@ -198,10 +204,8 @@ void frmViewAndPaste::mnuSave_Click() {
                                                 {},
                                                 folder});
     if (!path) return;
-    const auto file = app_.Files().OpenRaw(*path);
-    if (!file) return;
-    file->Write(app_.Page().ToBytes(WithCrLf(TXTextControl1.Text.Get())));
-    file->Close();
+    // Nobody hears of a failure. Kept for compatibility: clipboard-save-is-silent.
+    SaveByName(TXTextControl1, *path);
 }
 
 void frmViewAndPaste::mnuPinsey_Click() {

@@ -5,8 +5,11 @@
 #include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
+#include "controls/TextControl.h"
 
+#include <array>
 #include <cstdint>
+#include <functional>
 
 namespace korvane {
 
@@ -27,11 +30,11 @@ public:
     Panel Frame1{*this, "Frame1"};
     /// Has the colour of the rendering that is seen.
     Label lblLeftMargin{*this, "lblLeftMargin"};
-    TextBox TXTextControl1{*this, "TXTextControl1"};
-    TextBox RichTextBox1{*this, "RichTextBox1"};
+    TextControl TXTextControl1{*this, "TXTextControl1"};
+    TextControl RichTextBox1{*this, "RichTextBox1"};
     TextBox Text1{*this, "Text1"};
     /// This is never seen. It takes the contents before the renderings do.
-    TextBox TmpTextCtrl{*this, "TmpTextCtrl"};
+    TextControl TmpTextCtrl{*this, "TmpTextCtrl"};
 
     /// Which rendering is seen: 0 full and 1 simple formatted text, 2 plain text. Any other value counts as
     /// 0.
@@ -44,17 +47,16 @@ public:
 
 private:
     struct Tables;
-    struct Rendering {
-        TextBox frmViewAndPaste::*view;
-        TextView caption;
-    };
-    static const Rendering kRenderings[];
 
     /// `ClipViewMode`, or 0 where it is none of the three.
     std::int16_t Mode() const;
-    const Rendering& Current() const { return kRenderings[Mode()]; }
+    /// The renderings with formatting, which come first.
+    std::array<TextControl*, 2> Formatted() { return {&TXTextControl1, &RichTextBox1}; }
+    /// That of the two which the mode names.
+    TextControl& FormattedInUse() { return Mode() == 0 ? TXTextControl1 : RichTextBox1; }
     void FillList();
     void FillRenderings();
+    void FillWith(const std::function<void(TextControl&)>& fill);
     void ShowMode();
     void RunListed();
     void PutIntoTextWindow();

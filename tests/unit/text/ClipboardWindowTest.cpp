@@ -29,7 +29,7 @@ protected:
     }
 
     TestApp t;
-    FakeTextWindow textWindow{t.app};
+    FakeOpenText textWindow{t.app};
     ClipboardWindow window{t.app};
 };
 
@@ -52,7 +52,7 @@ TEST_F(ClipboardWindowTest, ShowWritesToTheTextWindowThatStandsOpen) {
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     UserRetrieves();
     window.Show();
-    EXPECT_EQ(textWindow.inserted, std::vector<Text>{u"some text"});
+    EXPECT_EQ(textWindow.All(), u"some text");
 }
 
 TEST_F(ClipboardWindowTest, AChoiceLeavesTheContentsToTheCallerAlsoWithATextWindowOpen) {
@@ -66,7 +66,7 @@ TEST_F(ClipboardWindowTest, AChoiceLeavesTheContentsToTheCallerAlsoWithATextWind
     EXPECT_TRUE(window.Choose());
     EXPECT_EQ(during, 0);
     EXPECT_EQ(t.app.Exchange<TextWindowState>().TextWindowOpen, 1);
-    EXPECT_TRUE(textWindow.inserted.empty());
+    EXPECT_EQ(textWindow.All(), u"");
 }
 
 TEST_F(ClipboardWindowTest, AClosedChoiceIsNone) {

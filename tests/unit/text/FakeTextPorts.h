@@ -1,8 +1,10 @@
 #pragma once
 
 #include "context/App.h"
+#include "context/ports/OpenText.h"
 #include "context/ports/SystemFileDialog.h"
-#include "context/ports/TextWindow.h"
+#include "controls/Form.h"
+#include "controls/TextControl.h"
 #include "support/FakeMainWindow.h"
 
 #include <optional>
@@ -11,17 +13,28 @@
 
 namespace korvane {
 
-/// Records what was put into the text window.
-class FakeTextWindow final : public TextWindow {
+/// The controls of a text window that is open.
+class FakeOpenText {
 public:
-    explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }
-    std::vector<Text> inserted;
-    std::vector<std::string> insertedRtf;
-    int shown = 0;
+    explicit FakeOpenText(App& app) : app_(app), form_(app.Forms(), "frm_RTF_HTM", u"") {
+        app_.SetPort<OpenText>(&open_);
+    }
+    FakeOpenText(const FakeOpenText&) = delete;
+    FakeOpenText& operator=(const FakeOpenText&) = delete;
+    ~FakeOpenText() { app_.SetPort<OpenText>(nullptr); }
 
-    void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
-    void TextWindowInsertRtf(std::string_view rtf) override { insertedRtf.emplace_back(rtf); }
-    void TextWindowShow() override { ++shown; }
+    Text All() const { return text.All(); }
+
+private:
+    App& app_;
+    Form form_;
+
+public:
+    TextControl text{form_, "ThisTextCtrl"};
+
+private:
+    TextControl scratch_{form_, "rtfTempText"};
+    OpenText open_{text, scratch_};
 };
 
 /// Chooses a file, or nothing, and remembers what it was asked.

@@ -3,6 +3,7 @@
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/SystemFileDialog.h"
 #include "support/TestApp.h"
+#include "text/files/DocumentFiles.h"
 #include "unit/text/FakeTextPorts.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,8 @@ namespace {
 
 class ViewAndPaste : public testing::Test {
 protected:
+    ViewAndPaste() { t.app.SetPort<TextFiles>(&documents); }
+
     /// Runs `script` in the window as it comes up, and closes it at the end.
     void Look(const std::function<void(frmViewAndPaste&)>& script) {
         t.user.On<frmViewAndPaste>([&script](frmViewAndPaste& f) {
@@ -47,6 +50,7 @@ protected:
     const Text kViewer = u"C:\\Drive_G\\Sandrel\\Wexley\\Wexley.exe";
     const Text kTextTool = u"C:\\Drive_G\\Sandrel\\Dunmark\\Dunmark.exe";
     TestApp t;
+    DocumentFiles documents{t.files, CodePage::Windows1252(), nullptr};
 };
 
 TEST_F(ViewAndPaste, HasItsCaptionAndItsMenu) {
@@ -84,10 +88,10 @@ TEST_F(ViewAndPaste, ListsItsCommandsWithTheFirstOneCurrentAndInUse) {
 TEST_F(ViewAndPaste, ShowsTheTextInAllThreeRenderings) {
     Put(u"one\r\ntwo");
     Look([](frmViewAndPaste& f) {
-        EXPECT_EQ(f.TXTextControl1.Text.Get(), u"one\r\ntwo");
-        EXPECT_EQ(f.RichTextBox1.Text.Get(), u"one\r\ntwo");
+        EXPECT_EQ(f.TXTextControl1.All(), u"one\r\ntwo");
+        EXPECT_EQ(f.RichTextBox1.All(), u"one\r\ntwo");
         EXPECT_EQ(f.Text1.Text.Get(), u"one\r\ntwo");
-        EXPECT_EQ(f.TmpTextCtrl.Text.Get(), u"");
+        EXPECT_EQ(f.TmpTextCtrl.All(), u"");
         EXPECT_FALSE(f.TmpTextCtrl.Visible);
     });
 }
@@ -98,7 +102,7 @@ TEST_F(ViewAndPaste, TakesTheContentsIntoItsHiddenControlBeforeAnythingIsShown) 
     std::vector<Text> passed;
     bool empty = true;
     f.TmpTextCtrl.Change = [&] {
-        passed.push_back(f.TmpTextCtrl.Text);
+        passed.push_back(f.TmpTextCtrl.All());
         empty = empty && f.Text1.Text.Get().empty();
     };
     f.EnsureLoaded();
@@ -109,15 +113,15 @@ TEST_F(ViewAndPaste, TakesTheContentsIntoItsHiddenControlBeforeAnythingIsShown) 
 
 TEST_F(ViewAndPaste, AClipboardWithoutTextSaysSoInTheFullRendering) {
     Look([](frmViewAndPaste& f) {
-        EXPECT_EQ(f.TXTextControl1.Text.Get(), kNoText);
-        EXPECT_EQ(f.RichTextBox1.Text.Get(), u"");
+        EXPECT_EQ(f.TXTextControl1.All(), kNoText);
+        EXPECT_EQ(f.RichTextBox1.All(), u"");
         EXPECT_EQ(f.Text1.Text.Get(), u"");
     });
 }
 
 TEST_F(ViewAndPaste, AnEmptyTextSaysSoToo) {
     Put(u"");
-    Look([](frmViewAndPaste& f) { EXPECT_EQ(f.TXTextControl1.Text.Get(), kNoText); });
+    Look([](frmViewAndPaste& f) { EXPECT_EQ(f.TXTextControl1.All(), kNoText); });
 }
 
 // Kept for compatibility: clipboard-view-opens-plain.
@@ -197,7 +201,7 @@ TEST_F(ViewAndPaste, LetsEventsRunFirstAndBetweenItsSteps) {
     std::vector<std::vector<Text>> seen;
     for (int step = 0; step < 4; ++step) {
         t.screen.QueueMessage([&] {
-            seen.push_back({f.TXTextControl1.Text, f.RichTextBox1.Text, f.Text1.Text});
+            seen.push_back({f.TXTextControl1.All(), f.RichTextBox1.All(), f.Text1.Text});
         });
     }
     f.EnsureLoaded();
@@ -216,7 +220,7 @@ TEST_F(ViewAndPaste, ShowsTheHourglassWhileItFills) {
 }
 
 TEST_F(ViewAndPaste, RetrieveOfThePlainRenderingPutsTheWholeTextIntoTheTextWindow) {
-    FakeTextWindow window(t.app);
+    FakeOpenText window(t.app);
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"one\r\ntwo");
     LookTillClosed([](frmViewAndPaste& f) {
@@ -225,56 +229,85 @@ TEST_F(ViewAndPaste, RetrieveOfThePlainRenderingPutsTheWholeTextIntoTheTextWindo
         f.OfficeMenu1.Choose("mnuRetrieve");
         EXPECT_FALSE(f.Shown());
     });
-    EXPECT_EQ(window.inserted, std::vector<Text>{u"one\r\ntwo"});
+    EXPECT_EQ(window.All(), u"one\r\ntwo");
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 
 TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingPutsItsSelectionOnly) {
-    FakeTextWindow window(t.app);
+    FakeOpenText window(t.app);
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"one two");
     LookTillClosed([](frmViewAndPaste& f) {
         f.OfficeMenu1.Choose("mnuToggle");
-        f.TXTextControl1.SelStart = 4;
-        f.TXTextControl1.SelLength = 3;
+        f.TXTextControl1.SetSelection(4, 3);
         f.OfficeMenu1.Choose("mnuRetrieve");
     });
     LookTillClosed([](frmViewAndPaste& f) {
         f.OfficeMenu1.Choose("mnuToggle");
         f.OfficeMenu1.Choose("mnuToggle");
-        f.RichTextBox1.SelLength = 3;
+        f.RichTextBox1.SetSelection(0, 3);
         f.OfficeMenu1.Choose("mnuRetrieve");
     });
-    EXPECT_EQ(window.inserted, (std::vector<Text>{u"two", u"one"}));
+    EXPECT_EQ(window.All(), u"twoone");
 }
 
 // Kept for compatibility: retrieve-takes-selection.
 TEST_F(ViewAndPaste, RetrieveOfAFormattedRenderingWithoutASelectionWritesNothing) {
-    FakeTextWindow window(t.app);
+    FakeOpenText window(t.app);
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     Put(u"text");
     LookTillClosed([](frmViewAndPaste& f) {
         f.OfficeMenu1.Choose("mnuToggle");
         f.OfficeMenu1.Choose("mnuRetrieve");
     });
-    EXPECT_TRUE(window.inserted.empty());
+    EXPECT_EQ(window.All(), u"");
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 
 TEST_F(ViewAndPaste, WithoutATextWindowOpenRetrieveOnlyTellsTheCaller) {
-    FakeTextWindow window(t.app);
+    FakeOpenText window(t.app);
     Put(u"text");
     LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
-    EXPECT_TRUE(window.inserted.empty());
+    EXPECT_EQ(window.All(), u"");
     EXPECT_EQ(t.app.DialogResult, 1);
 }
 
 TEST_F(ViewAndPaste, RetrieveOfAnEmptyPlainRenderingPutsNothingInPlaceOfTheSelection) {
-    FakeTextWindow window(t.app);
+    FakeOpenText window(t.app);
+    window.text.SetAll(u"of before");
+    window.text.SetSelection(0, 3);
     t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
     LookTillClosed([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuRetrieve"); });
-    EXPECT_EQ(window.inserted, std::vector<Text>{u""});
+    EXPECT_EQ(window.All(), u"before");
     EXPECT_EQ(t.app.DialogResult, 1);
+}
+
+TEST_F(ViewAndPaste, FormattedContentsAreShownAndRetrievedWithTheirFormatting) {
+    FakeOpenText window(t.app);
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
+    Put(u"one two");
+    t.clipboard.AddRtf("{\\rtf1 one {\\b two}}");
+    LookTillClosed([](frmViewAndPaste& f) {
+        EXPECT_EQ(f.TXTextControl1.All(), u"one two");
+        EXPECT_EQ(f.RichTextBox1.All(), u"one two");
+        EXPECT_EQ(f.Text1.Text.Get(), u"one two");
+        f.OfficeMenu1.Choose("mnuToggle");
+        f.TXTextControl1.SetSelection(4, 3);
+        EXPECT_EQ(f.TXTextControl1.FontBold(), 1);
+        f.OfficeMenu1.Choose("mnuRetrieve");
+    });
+    EXPECT_EQ(window.All(), u"two");
+    window.text.SetSelection(0, 3);
+    EXPECT_EQ(window.text.FontBold(), 1);
+}
+
+TEST_F(ViewAndPaste, FormattedContentsAreSavedByTheNameOfTheFile) {
+    FakeSystemFileDialog dialog(t.app);
+    Put(u"two");
+    t.clipboard.AddRtf("{\\rtf1 {\\b two}}");
+    dialog.answer = u"C:\\clip.rtf";
+    Look([](frmViewAndPaste& f) { f.OfficeMenu1.Choose("mnuSave"); });
+    EXPECT_NE(t.files.Contents(u"C:\\clip.rtf").value_or("").find("\\b "), std::string::npos);
 }
 
 TEST_F(ViewAndPaste, RetrieveForATextWindowThatIsGoneOnlyTellsTheCaller) {
@@ -428,11 +461,6 @@ TEST_F(ViewAndPaste, TheRenderingsCannotBeTypedInto) {
     EXPECT_TRUE(f.TXTextControl1.Locked);
     EXPECT_TRUE(f.RichTextBox1.Locked);
     EXPECT_TRUE(f.Text1.Locked);
-}
-
-TEST_F(ViewAndPaste, TheHiddenControlIsLockedSoThatTheToolkitIsSparedALongText) {
-    const frmViewAndPaste f(t.app);
-    EXPECT_TRUE(f.TmpTextCtrl.Locked);
 }
 
 } // namespace
