@@ -9,7 +9,6 @@
 #include "context/ports/FontPicker.h"
 #include "context/ports/PageViewer.h"
 #include "context/ports/SystemFileDialog.h"
-#include "context/ports/TextFileViewer.h"
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
@@ -66,8 +65,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<FileViewer>(&fileHandling_);
     app_.SetPort<TableKeeper>(&keptTables_);
     app_.SetPort<TextFiles>(&documents_);
-    // As long as the program has no windows of its own for them.
-    app_.SetPort<TextFileViewer>(&desktopViewer_);
+    // As long as the program has no window of its own for them.
     app_.SetPort<PageViewer>(&desktopViewer_);
 }
 

@@ -18,6 +18,7 @@
 #include "text/ClipboardWindow.h"
 #include "text/files/DocumentFiles.h"
 #include "text/markup/TagPairs.h"
+#include "text/window/TextWindows.h"
 
 #include <QString>
 
@@ -60,6 +61,7 @@ private:
     DesktopFileViewer desktopViewer_{app_};
     // Other programs that know more formats aren't asked yet.
     DocumentFiles documents_{files_, app_.Page(), nullptr};
+    TextWindows textWindows_{app_};
     TagPairs tagPairs_{app_};
     KeptTables keptTables_;
 };

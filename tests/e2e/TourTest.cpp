@@ -13,10 +13,11 @@ namespace {
 
 using Keys = std::vector<std::string>;
 
-/// A window that appears, and the keys that close it.
+/// A window that appears, and the keys that close it. It may stay until a question that follows is answered.
 struct Visit {
     std::string title;
     Keys keys{"Escape"};
+    bool stays = false;
 };
 
 /// What a command does: the windows that it shows one after the other, the program that it starts ("" for
@@ -40,6 +41,11 @@ Stop Asks(const Keys& keys) {
 Stop Starts(const std::string& commandLine) {
     return {{}, commandLine};
 }
+
+/// The text window shows what it got, and asks before it is closed.
+const Stop kTakesText{{{"^Untitled.rtf$", {"alt+f", "x"}, true},
+                       {"^Closing altered file", {"alt+n"}, true},
+                       {kMain, {"alt+y"}}}};
 
 const std::map<std::string_view, Stop> kStops{
     {"mnuFile_Open", Shows("^Select a text database to edit$")},
@@ -69,8 +75,8 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuEdit_WinClip", Shows(kClipboard)},
     {"mnuSelAll_TickBoxes", Asks({"alt+y"})},
     {"mnuSelAll_UnTickBoxes", Asks({"Escape"})},
-    {"mnuEdit_CopyCellToText", kSilent},
-    {"mnuEdit_CopyRowToText", kSilent},
+    {"mnuEdit_CopyCellToText", kTakesText},
+    {"mnuEdit_CopyRowToText", kTakesText},
     {"mnuCopyColumn", Shows("^Choose range$")},
     {"mnuCopyCheckedRows", Shows("^Copy rows$")},
     {"mnuCopyCheckedRowsToClipb", Shows("^Copy rows$")},
@@ -84,7 +90,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuFormat_BColor", Shows("^Select Color$")},
     {"mnuFormat_RowColour", Shows("^Set colour for checked items in list$")},
     {"mnuSidebarWidth", kSilent},
-    {"mnuView_TextEdit", kSilent},
+    {"mnuView_TextEdit", Shows("^Untitled.rtf$", {"alt+f", "x"})},
     {"mnuFile_SwitchTabsForward", kSilent},
     {"mnuFile_SwitchTabsBack", kSilent},
     {"mnuWindowSize", Shows("^Program window size$")},
@@ -133,8 +139,11 @@ protected:
         for (const Visit& visit : stop.visits) {
             ASSERT_NE(desk.GoTo(visit.title, main), "") << visit.title << " doesn't come";
             desk.Press(visit.keys);
+            if (visit.stays) continue;
             ASSERT_TRUE(desk.Gone(visit.title, main)) << visit.title << " doesn't go";
         }
+        for (const Visit& visit : stop.visits)
+            ASSERT_TRUE(desk.Gone(visit.title, main)) << visit.title << " doesn't go";
         ASSERT_TRUE(desk.Until([&] { return desk.Started().find(stop.started) != std::string::npos; }))
             << stop.started << " isn't in " << desk.Started();
         ASSERT_EQ(desk.GoTo(kMain), main);
