@@ -18,7 +18,7 @@ protected:
     ~TextListener() = default;
 };
 
-/// A text in memory. It is never laid out: whoever shows it listens to it.
+/// A text in memory. It is never laid out here. A view of it listens to its changes and lays out a copy.
 class MemoryTextStore final : public TextStore {
 public:
     const Text& All() const override { return all_; }
