@@ -24,7 +24,7 @@ struct KeptTab {
         grid.SetCellValue(row, Col{1}, text);
         model.TableAltered = 1;
     }
-    /// Types into the field of a cell without committing it. No text stands for a field that is closed.
+    /// Types into the field of a cell without committing it. No text means that the field is closed.
     void TypeIntoField(std::optional<Text> text) {
         host.field = std::move(text);
         tab.app.Port<TableKeeper>()->TextTyped(tab);
