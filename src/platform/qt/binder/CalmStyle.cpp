@@ -100,6 +100,8 @@ QString OwnIconName(QStyle::StandardPixmap picture) {
         return QStringLiteral("boxStop");
     case QStyle::SP_ToolBarHorizontalExtensionButton:
         return QStringLiteral("moreTools");
+    case QStyle::SP_LineEditClearButton:
+        return QStringLiteral("clearText");
     default:
         return {};
     }
