@@ -84,7 +84,7 @@ protected:
         Settle();
     }
 
-    /// The lines of the list, each with the texts of its columns behind each other.
+    /// The lines of the list, each with the texts of its columns one after the other.
     static QStringList Lines(const QAbstractItemView& view) {
         QStringList lines;
         for (int row = 0; row < view.model()->rowCount(); ++row) {

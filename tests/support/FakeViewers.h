@@ -14,7 +14,7 @@ class FakeTextFileViewer final : public TextFileViewer {
 public:
     explicit FakeTextFileViewer(App& app) { app.SetPort<TextFileViewer>(this); }
     std::vector<Text> viewed;
-    /// Runs while the window stands open.
+    /// Runs while the window is open.
     std::function<void()> whileOpen = [] {};
 
     void View(TextView path) override {

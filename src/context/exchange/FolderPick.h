@@ -15,7 +15,7 @@ struct FolderPick {
     Text FolderPicked;
     /// The folders that the user noted since the program started, in their order.
     std::vector<Text> TodaysFolders;
-    /// Where the list of this session's folders stood when it was closed, counted from 0.
+    /// The line of the list of this session's folders that was current when it was closed, counted from 0.
     std::int16_t FoldersListIndex = 0;
 };
 

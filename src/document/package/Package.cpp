@@ -27,7 +27,7 @@ std::string RelationsOf(const std::string& part) {
     return folder + kRelationsFolder + part.substr(folder.size()) + ".rels";
 }
 
-/// The name of the part to which a target leads that stands in a part of the folder.
+/// The name of the part to which a target leads. The target was found in a part of the folder.
 std::string Resolved(const std::string& folder, std::string_view target) {
     std::string path = target.starts_with('/') ? std::string(target.substr(1)) : folder + std::string(target);
     std::vector<std::string> parts;

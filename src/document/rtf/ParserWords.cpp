@@ -162,7 +162,7 @@ void Parser::Raise(const Value& value, std::int32_t direction) {
     lookChanged_ = true;
 }
 
-/// The group of this word stands in the text that is raised, so it sets what follows the group.
+/// The group of this word is part of the raised text, so it sets what follows the group.
 void Parser::ExactRaise(const Value& value, std::int32_t) {
     if (!groups_.empty()) groups_.back().look.baseLine = Bounded(value.number);
 }

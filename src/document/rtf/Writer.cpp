@@ -290,7 +290,7 @@ private:
             PutWord(out, "\\highlight", number);
     }
 
-    /// Other programs know half points only, so the exact length stands beside them.
+    /// Other programs know half points only, so the exact length is written after them.
     static void PutRaise(std::string& out, std::int32_t baseLine) {
         const std::int32_t length = std::abs(baseLine);
         PutWord(out, baseLine > 0 ? "\\up" : "\\dn", (length + kTwipsPerHalfPoint / 2) / kTwipsPerHalfPoint);

@@ -51,7 +51,7 @@ private:
     Task task_;
     CopyMoveRun& run_;
     Host host_;
-    /// As it stands in the report of a full drive.
+    /// As the report of a full drive names it.
     Text drive_;
     bool driveKnown_ = false;
     std::size_t next_ = 0;

@@ -11,7 +11,7 @@ namespace korvane {
 class App;
 
 /// Asks whether the file `AskTarget` is to be overwritten by `AskSource`, or lets the user give the copy
-/// another name. Modal; the answer stands in the run.
+/// another name. Modal; the run gets the answer.
 class frmAskCopyMove : public Form {
 public:
     /// Both outlive the window.

@@ -18,7 +18,7 @@ public:
     /// Asks for a text, and goes to the next file of the folder that has it in its name. After the last one
     /// the user is asked whether to begin again.
     void Run(const Text& folder, const Text& patterns);
-    /// The folder is listed anew, so that the search begins at its first file.
+    /// The folder is listed again, so that the search begins at its first file.
     void Reset() { next_ = 0; }
 
     /// The file that was found last, which alone is marked in the hidden list; empty for none.

@@ -20,10 +20,10 @@ public:
     void RenameFolder();
     /// Moves the folder to the recycle store.
     void DeleteFolder();
-    /// Reads the drives and the files anew.
+    /// Reads the drives and the files again.
     void Refresh();
 
-    /// Shows the folder in the desktop's file manager, and reads it anew afterwards.
+    /// Shows the folder in the desktop's file manager, and reads it again afterwards.
     void Explore();
     /// Starts the companion that lists folders.
     void StartLorrit();

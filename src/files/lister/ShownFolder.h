@@ -34,7 +34,7 @@ public:
 
     /// Takes the folder into the line alone.
     void TakePath(const Text& folder);
-    /// Goes to a folder with the tree, and lists its files anew.
+    /// Goes to a folder with the tree, and lists its files again.
     void GoTo(const Text& folder);
     /// The tree is on the way there: what it tells isn't what the user does.
     bool IsGoing() const { return going_; }
@@ -42,7 +42,7 @@ public:
     bool IsListing() const { return listing_; }
     /// Lists the files of the folder unless they are listed.
     void List();
-    /// Lists them anew, whatever is listed.
+    /// Lists them again, whatever is listed.
     void ListAnew();
     /// Sorts by a column, as a click on its header asks; a second click turns the order round.
     void SortBy(int column);
@@ -53,7 +53,7 @@ public:
 private:
     App& app_;
     Parts parts_;
-    /// Empty when the files are to be read anew in any case.
+    /// Empty when the files are to be read again in any case.
     Text LastListedPath_;
     bool listing_ = false;
     bool going_ = false;

@@ -53,7 +53,7 @@ constexpr auto kProposals = std::to_array<Proposal>({
 });
 constexpr Proposal kAnyOther{u"", u"Dunmark.exe", AsStored};
 
-/// What stands behind the last point, in small letters.
+/// What follows the last point, in small letters.
 Text ExtensionOf(TextView file) {
     const std::size_t point = InStrRev(file, u".");
     return point == 0 ? Text() : ToLower(Mid(file, point + 1));

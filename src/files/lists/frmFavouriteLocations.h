@@ -14,7 +14,7 @@ namespace korvane {
 class App;
 
 /// The folders that the user likes to go to. Modal; when one is picked, `DialogResult` is 1, and the folder
-/// stands in `ChosenFilePath` and `CurrentFolderHint`.
+/// is in `ChosenFilePath` and `CurrentFolderHint`.
 class frmFavouriteLocations : public Form {
 public:
     /// `owner` is the main window, beside which this one docks; it outlives the window. `currentFolder` is

@@ -250,7 +250,7 @@ void frmFoldersToday::GoToDesktop() {
 }
 
 void frmFoldersToday::GoBesideDocuments(TextView name) {
-    // As long as the usual folder's name and the separator behind it. One of another length gives a wrong
+    // As long as the usual folder's name and the separator after it. One of another length gives a wrong
     // folder, and the box then names it. Kept for compatibility: documents-cut-ten.
     constexpr std::size_t kNameLength = 10;
     const Text& documents = app_.Exchange<SystemDirs>().DocumentsDir;

@@ -15,7 +15,7 @@ namespace korvane {
 class App;
 
 /// The folders of the present work session. Modal; when one is picked, `DialogResult` is 1, and the folder
-/// stands in `FolderPicked`.
+/// is in `FolderPicked`.
 class frmFoldersToday : public Form {
 public:
     /// `currentFolder` is what can be added to the list.

@@ -14,7 +14,7 @@ namespace korvane {
 class App;
 
 /// The user's own list of programs, for opening the file of `OpenWithRequest`. Modal; `DialogResult` says
-/// what then stands in `ViewWithProgram`.
+/// what is then in `ViewWithProgram`.
 class frmOpenFileWith : public Form {
 public:
     explicit frmOpenFileWith(App& app);

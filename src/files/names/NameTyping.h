@@ -25,7 +25,7 @@ Text WithDate(TextView name, const DateTime& today, const DateNames& names);
 /// point gets ".txt"; one with another extension stays.
 Text WithNextExtension(TextView name);
 
-/// What stands before the name's first point, and ".docx".
+/// What is before the name's first point, and ".docx".
 Text AsDocx(TextView name);
 
 /// The name with "_" for each blank, comma, semicolon and colon, and for each point but the last.

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// Makes a folder in the current directory. Modal; `DialogResult` is 1 when it is made, and its path stands
+/// Makes a folder in the current directory. Modal; `DialogResult` is 1 when it is made, and its path is
 /// in `NewFolderPath` and `NewFolderResult`.
 class frmNewDir : public NameDialog {
 public:

@@ -4,7 +4,7 @@
 
 namespace korvane {
 
-/// Renames the folder `ListerFolder`. Modal; `DialogResult` is 1 when it has its new name: the path stands in
+/// Renames the folder `ListerFolder`. Modal; `DialogResult` is 1 when it has its new name: the path is in
 /// `ListerFolder` and `NewFolderResult` then, and is the current directory.
 class frmRenDir : public NameDialog {
 public:

@@ -5,7 +5,7 @@
 namespace korvane {
 
 /// Renames the file `FileOpName` in `FileOpFolder`. Modal; `DialogResult` is 1 when it has its new name,
-/// which stands in `FileNewName` then.
+/// which is in `FileNewName` then.
 class frmRenFile : public NameDialog {
 public:
     explicit frmRenFile(App& app);

@@ -9,7 +9,7 @@ namespace korvane {
 #ifndef _WIN32
 namespace {
 
-// A byte that isn't part of a UTF-8 character becomes the second half of a pair that stands alone. No
+// A byte that isn't part of a UTF-8 character becomes the second half of a pair that has no first half. No
 // character is written so.
 constexpr char16_t kByteUnits = 0xDC00;
 constexpr char16_t kFirstByteUnit = kByteUnits + 0x80;

@@ -11,7 +11,7 @@ public:
     /// The list outlives the model, or `Forget` is called before it goes.
     ListViewModel(ListView& list, QObject* parent);
 
-    /// Reads anew which columns there are.
+    /// Reads again which columns there are.
     void ReadColumns();
 
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -15,7 +15,7 @@ using testing::IsEmpty;
 
 constexpr DateTime kOld{2020, 5, 17, 12, 30, 0};
 
-/// Files in C:\From, to be copied to D:\To. The question is answered by what stands in `answers`; an unasked
+/// Files in C:\From, to be copied to D:\To. The question is answered by what is in `answers`; an unasked
 /// one fails the test.
 struct CopyJobTest : testing::Test {
     CopyJobTest() {
