@@ -55,13 +55,19 @@ public:
         Drain(connection);
         close(connection);
     }
-    /// Sends bytes until the other side closes.
-    void Send(std::string_view bytes) {
+    /// Sends bytes until the other side closes. False when it closed before all were sent.
+    bool Send(std::string_view bytes) {
         while (!bytes.empty()) {
             const ssize_t sent = send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-            if (sent <= 0) return;
+            if (sent <= 0) return false;
             bytes.remove_prefix(static_cast<std::size_t>(sent));
         }
+        return true;
+    }
+    /// Whether the other side has closed. Nothing that it sent may be unread.
+    bool IsClosed() const {
+        char byte = 0;
+        return recv(socket_, &byte, 1, MSG_PEEK | MSG_DONTWAIT) == 0;
     }
     /// Everything that the other side sends until it closes.
     std::string ReadToEnd() { return Drain(socket_); }
@@ -135,7 +141,7 @@ struct LocalSockets : testing::Test {
     TempDir dir;
     InstancePlace place{dir / "socket", dir / "lock"};
     std::vector<Text> received;
-    int slotQuestions = 0;
+    std::atomic<int> slotQuestions = 0;
     int slotFullFor = 0;
     int activations = 0;
 };
@@ -327,6 +333,22 @@ TEST_F(LocalSockets, DropWhoKeepsSilent) {
     const auto first = First({16, std::chrono::milliseconds(1)});
     While([&] { EXPECT_EQ(Say(""), ""); });
     While([&] { EXPECT_EQ(Say("SLOT"), ""); });
+}
+
+TEST_F(LocalSockets, DropWhoSendsByteAfterByteWithoutEnd) {
+    const auto first = First({16, std::chrono::milliseconds(20)});
+    While([&] {
+        RawSocket socket;
+        ASSERT_TRUE(socket.Connect(place.socket));
+        std::size_t sent = 0;
+        // Each byte is read before the next one is sent.
+        for (int asked = slotQuestions; sent < hand_over::kLongestLine && socket.Send("x"); ++sent) {
+            while (slotQuestions == asked && !socket.IsClosed())
+                std::this_thread::yield();
+            asked = slotQuestions;
+        }
+        EXPECT_LT(sent, hand_over::kLongestLine);
+    });
 }
 
 TEST_F(LocalSockets, LetWhoWaitsForTheSlotKeepSilent) {

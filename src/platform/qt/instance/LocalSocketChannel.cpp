@@ -3,21 +3,12 @@
 #include "platform/native/HandOverProtocol.h"
 #include "platform/qt/instance/SocketConversation.h"
 
-#include <QFile>
-#include <QLocalServer>
-#include <QLocalSocket>
-
 namespace korvane {
 
 namespace {
 
-constexpr int kNoTimeOut = -1;
 /// This is larger than the longest answer.
-constexpr qint64 kAnswerBuffer = 64;
-
-QString SocketName(const InstancePlace& place) {
-    return QFile::decodeName(place.socket.c_str());
-}
+constexpr std::size_t kAnswerLimit = 64;
 
 } // namespace
 
@@ -28,41 +19,33 @@ LocalSocketChannel::LocalSocketChannel(std::optional<InstancePlace> place, const
     : place_(std::move(place)), limits_(limits) {}
 
 LocalSocketChannel::~LocalSocketChannel() {
-    if (!server_) return;
-    // Closing removes the socket's file. The lock makes sure that it isn't the file of a program that is
-    // starting now.
+    if (!server_.IsOpen()) return;
+    // The lock makes sure that the file isn't that of a program that is starting now.
     const StartLock lock(place_->lock);
-    server_.reset();
+    arrivals_.reset();
+    server_.Close();
+    std::error_code ignored;
+    std::filesystem::remove(place_->socket, ignored);
 }
 
 bool LocalSocketChannel::PreviousInstanceRuns() {
-    if (!place_ || server_) return false;
+    if (running_.IsOpen()) return true;
+    if (!place_ || server_.IsOpen()) return false;
     const StartLock lock(place_->lock);
     if (!lock.Held()) return false;
     if (Connect()) return true;
-    TakePlace();
+    server_ = LocalSocket::ListenAt(place_->socket);
     return false;
 }
 
 bool LocalSocketChannel::Connect() {
-    running_ = std::make_unique<QLocalSocket>();
-    running_->setReadBufferSize(kAnswerBuffer);
-    running_->connectToServer(SocketName(*place_));
-    const bool connected =
-        running_->waitForConnected(kNoTimeOut) && IsOwnPeer(static_cast<int>(running_->socketDescriptor()));
-    if (!connected) running_.reset();
-    return connected;
-}
-
-void LocalSocketChannel::TakePlace() {
-    QFile::remove(SocketName(*place_));
-    server_ = std::make_unique<QLocalServer>();
-    server_->setSocketOptions(QLocalServer::UserAccessOption);
-    if (!server_->listen(SocketName(*place_))) server_.reset();
+    running_ = LocalSocket::ConnectTo(place_->socket);
+    if (running_.IsOpen() && !IsOwnPeer(running_.Descriptor())) running_.Close();
+    return running_.IsOpen();
 }
 
 bool LocalSocketChannel::FindReceiver() {
-    return running_ && running_->state() == QLocalSocket::ConnectedState;
+    return running_.IsOpen();
 }
 
 bool LocalSocketChannel::WaitUntilSlotEmpty() {
@@ -81,33 +64,38 @@ void LocalSocketChannel::ActivateRunning() {
 /// Sends a request and waits for the answer. There is no time limit while the other program lives.
 bool LocalSocketChannel::Ask(std::string_view request, std::string_view expectedAnswer) {
     if (!FindReceiver()) return false;
-    running_->write(request.data(), static_cast<qint64>(request.size()));
-    while (!running_->canReadLine()) {
-        const bool tooMuch = running_->bytesAvailable() >= kAnswerBuffer;
-        if (tooMuch || !running_->waitForReadyRead(kNoTimeOut)) return false;
-    }
-    return running_->readLine().toStdString() == expectedAnswer;
+    const std::string answer = running_.Send(request) ? running_.ReadLine(kAnswerLimit) : std::string();
+    if (answer.empty()) running_.Close();
+    return answer == expectedAnswer;
 }
 
 void LocalSocketChannel::Listen(Reception reception) {
-    if (!server_) return;
+    if (!server_.IsOpen()) return;
     reception_ = std::make_shared<const Reception>(std::move(reception));
-    QObject::connect(server_.get(), &QLocalServer::newConnection, server_.get(),
+    arrivals_ = std::make_unique<QSocketNotifier>(server_.Descriptor(), QSocketNotifier::Read);
+    QObject::connect(arrivals_.get(), &QSocketNotifier::activated, arrivals_.get(),
                      [this] { TakeConnections(); });
-    TakeConnections();
 }
 
 void LocalSocketChannel::TakeConnections() {
-    while (conversations_ < limits_.conversations && server_->hasPendingConnections()) {
-        auto* conversation =
-            new SocketConversation(*server_, *server_->nextPendingConnection(), reception_, limits_.silence);
-        ++conversations_;
-        QObject::connect(conversation, &QObject::destroyed, server_.get(), [this] {
-            --conversations_;
-            TakeConnections();
-        });
-        conversation->Start();
+    bool more = true;
+    while (more && conversations_ < limits_.conversations) {
+        LocalSocket connection = server_.Accept();
+        more = connection.IsOpen();
+        if (more && IsOwnPeer(connection.Descriptor())) Serve(std::move(connection));
     }
+    arrivals_->setEnabled(conversations_ < limits_.conversations);
+}
+
+void LocalSocketChannel::Serve(LocalSocket connection) {
+    auto* conversation =
+        new SocketConversation(*arrivals_, std::move(connection), reception_, limits_.patience);
+    ++conversations_;
+    QObject::connect(conversation, &QObject::destroyed, arrivals_.get(), [this] {
+        --conversations_;
+        TakeConnections();
+    });
+    conversation->Start();
 }
 
 } // namespace korvane

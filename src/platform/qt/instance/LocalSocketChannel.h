@@ -2,13 +2,12 @@
 
 #include "platform/InstanceChannel.h"
 #include "platform/native/InstancePlace.h"
+#include "platform/native/LocalSocket.h"
 
+#include <QSocketNotifier>
 #include <chrono>
 #include <memory>
 #include <optional>
-
-class QLocalServer;
-class QLocalSocket;
 
 namespace korvane {
 
@@ -19,8 +18,8 @@ public:
     struct Limits {
         /// How many connections are served at a time. The others wait.
         int conversations = 16;
-        /// How long a connection may send nothing when it is expected to.
-        std::chrono::milliseconds silence{10'000};
+        /// How long a connection may keep this copy waiting, all its lines together.
+        std::chrono::milliseconds patience{2'000};
     };
 
     /// Without a place no other copy is ever found.
@@ -31,7 +30,7 @@ public:
     ~LocalSocketChannel() override;
 
     /// If no other copy runs, this call also makes this copy the running one. Later starts wait until it
-    /// listens. A socket that is left from a crash is ignored.
+    /// listens. A socket that is left from a crash is ignored. Needs no event loop, and may be called again.
     bool PreviousInstanceRuns() override;
     bool FindReceiver() override;
     bool WaitUntilSlotEmpty() override;
@@ -43,14 +42,18 @@ public:
 
 private:
     bool Connect();
-    void TakePlace();
     bool Ask(std::string_view request, std::string_view expectedAnswer);
     void TakeConnections();
+    void Serve(LocalSocket connection);
 
     std::optional<InstancePlace> place_;
     Limits limits_;
-    std::unique_ptr<QLocalSocket> running_;
-    std::unique_ptr<QLocalServer> server_;
+    /// The connection of a second start.
+    LocalSocket running_;
+    /// Where second starts connect with the running copy.
+    LocalSocket server_;
+    /// Tells of new connections while this copy listens. The conversations are its children.
+    std::unique_ptr<QSocketNotifier> arrivals_;
     std::shared_ptr<const Reception> reception_;
     int conversations_ = 0;
 };

@@ -1,8 +1,5 @@
 #include "platform/qt/instance/SocketConversation.h"
 
-#include "platform/native/InstancePlace.h"
-
-#include <QLocalSocket>
 #include <QPointer>
 
 namespace korvane {
@@ -10,91 +7,92 @@ namespace korvane {
 namespace {
 
 constexpr std::chrono::milliseconds kSlotInterval{20};
-constexpr qint64 kMostBytes = hand_over::kLongestLine + 1;
-
-void Run(QTimer& timer, bool on) {
-    if (!on) timer.stop();
-    if (on && !timer.isActive()) timer.start();
-}
+constexpr std::size_t kMostBytes = hand_over::kLongestLine + 1;
 
 } // namespace
 
-SocketConversation::SocketConversation(QObject& parent, QLocalSocket& socket,
+SocketConversation::SocketConversation(QObject& parent, LocalSocket socket,
                                        std::shared_ptr<const InstanceChannel::Reception> reception,
-                                       std::chrono::milliseconds silence)
-    : QObject(&parent), socket_(socket), reception_(std::move(reception)) {
-    socket_.setParent(this);
-    socket_.setReadBufferSize(kMostBytes);
+                                       std::chrono::milliseconds patience)
+    : QObject(&parent),
+      socket_(std::move(socket)),
+      reception_(std::move(reception)),
+      arrivals_(socket_.Descriptor(), QSocketNotifier::Read) {
     slotTimer_.setInterval(kSlotInterval);
-    silenceTimer_.setInterval(silence);
-    silenceTimer_.setSingleShot(true);
+    patienceTimer_.setInterval(patience);
+    patienceTimer_.setSingleShot(true);
 }
 
 void SocketConversation::Start() {
-    if (!IsOwnPeer(static_cast<int>(socket_.socketDescriptor()))) return End();
-    connect(&socket_, &QLocalSocket::disconnected, this, [this] { End(); });
-    // The slot is queued because Qt doesn't emit this signal again before its handlers return. `Proceed` may
-    // run an event loop that waits for the next bytes of this very connection.
-    connect(
-        &socket_, &QLocalSocket::readyRead, this, [this] { Proceed(); }, Qt::QueuedConnection);
+    connect(&arrivals_, &QSocketNotifier::activated, this, [this] { Proceed(); });
     connect(&slotTimer_, &QTimer::timeout, this, [this] { Proceed(); });
-    connect(&silenceTimer_, &QTimer::timeout, this, [this] { EndSilence(); });
-    silenceTimer_.start();
+    connect(&patienceTimer_, &QTimer::timeout, this, [this] { EndPatience(); });
+    patienceTimer_.start();
     Proceed();
 }
 
 void SocketConversation::Proceed() {
+    using Arrival = LocalSocket::Arrival;
     if (ended_) return;
+    Arrival arrival = Arrival::Nothing;
     for (bool more = true; more;) {
-        more = TakeIn();
+        arrival = TakeIn();
         const auto step = conversation_.Next(reception_->slotEmpty());
         if (step && !Perform(*step)) return;
-        more = more || step;
+        more = arrival == Arrival::Bytes || step;
     }
-    // A program that waits for this copy may keep silent.
-    Run(slotTimer_, conversation_.WaitsForSlot());
-    Run(silenceTimer_, !conversation_.WaitsForSlot());
+    if (arrival == Arrival::End) return End();
+    WaitForSlot(conversation_.WaitsForSlot());
 }
 
-/// Reads as much as the conversation has room for. Returns whether anything came.
-bool SocketConversation::TakeIn() {
-    const QByteArray bytes = socket_.peek(kMostBytes);
-    const std::size_t taken = conversation_.Receive({bytes.data(), static_cast<std::size_t>(bytes.size())});
-    socket_.skip(static_cast<qint64>(taken));
-    if (taken > 0) silenceTimer_.start();
-    return taken > 0;
+/// Reads as much as the conversation has room for.
+LocalSocket::Arrival SocketConversation::TakeIn() {
+    std::string bytes(kMostBytes, '\0');
+    const LocalSocket::Arrival arrival = socket_.Peek(bytes);
+    const std::size_t taken = conversation_.Receive(bytes);
+    socket_.Skip(taken);
+    return arrival == LocalSocket::Arrival::Bytes && taken == 0 ? LocalSocket::Arrival::Nothing : arrival;
 }
 
 /// Returns false when the conversation is over. It may even be deleted then.
 bool SocketConversation::Perform(const hand_over::Step& step) {
     using Kind = hand_over::Step::Kind;
-    if (step.kind == Kind::Drop) {
+    if (step.kind == Kind::Drop || !socket_.Send(step.answer)) {
         End();
         return false;
     }
-    socket_.write(step.answer.data(), static_cast<qint64>(step.answer.size()));
-    socket_.flush();
     // The callbacks may run an event loop in which this conversation is deleted.
     const QPointer<SocketConversation> self(this);
     const auto reception = reception_;
     if (step.kind == Kind::TakePath) reception->received(step.path);
     if (step.kind == Kind::Activate) reception->activate();
-    if (self && step.kind == Kind::Activate) socket_.disconnectFromServer();
+    if (self && step.kind == Kind::Activate) End();
     return self && !ended_;
 }
 
-void SocketConversation::EndSilence() {
+/// A program that waits for this copy may keep silent, and what it sends meanwhile is left unread.
+void SocketConversation::WaitForSlot(bool waits) {
+    if (waits == slotTimer_.isActive()) return;
+    arrivals_.setEnabled(!waits);
+    waits ? slotTimer_.start() : slotTimer_.stop();
+    waits ? patienceTimer_.stop() : patienceTimer_.start();
+}
+
+void SocketConversation::EndPatience() {
     // If this program was busy without an event loop, the other side may have sent something that wasn't read
     // yet.
-    if (!socket_.waitForReadyRead(0)) End();
+    const QPointer<SocketConversation> self(this);
+    Proceed();
+    if (self && !slotTimer_.isActive()) End();
 }
 
 void SocketConversation::End() {
+    if (ended_) return;
     ended_ = true;
-    socket_.disconnect(this);
-    socket_.abort();
+    arrivals_.setEnabled(false);
     slotTimer_.stop();
-    silenceTimer_.stop();
+    patienceTimer_.stop();
+    socket_.Close();
     deleteLater();
 }
 

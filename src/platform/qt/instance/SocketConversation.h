@@ -2,39 +2,42 @@
 
 #include "platform/InstanceChannel.h"
 #include "platform/native/HandOverProtocol.h"
+#include "platform/native/LocalSocket.h"
 
 #include <QObject>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <chrono>
 #include <memory>
 
-class QLocalSocket;
-
 namespace korvane {
 
-/// One connection from a second start to this copy. It deletes itself and its socket when it is over.
+/// One connection from a second start to this copy. It deletes itself when it is over.
 class SocketConversation final : public QObject {
 public:
-    SocketConversation(QObject& parent, QLocalSocket& socket,
+    SocketConversation(QObject& parent, LocalSocket socket,
                        std::shared_ptr<const InstanceChannel::Reception> reception,
-                       std::chrono::milliseconds silence);
+                       std::chrono::milliseconds patience);
 
     /// Handles what has arrived already and what will arrive.
     void Start();
 
 private:
     void Proceed();
-    bool TakeIn();
+    LocalSocket::Arrival TakeIn();
     bool Perform(const hand_over::Step& step);
-    void EndSilence();
+    void WaitForSlot(bool waits);
+    void EndPatience();
     void End();
 
-    QLocalSocket& socket_;
+    LocalSocket socket_;
     std::shared_ptr<const InstanceChannel::Reception> reception_;
     hand_over::Conversation conversation_;
+    QSocketNotifier arrivals_;
     /// Checks at intervals whether the slot is empty.
     QTimer slotTimer_;
-    QTimer silenceTimer_;
+    /// Runs while this copy waits for the other side.
+    QTimer patienceTimer_;
     bool ended_ = false;
 };
 
