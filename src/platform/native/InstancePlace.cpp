@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdlib>
+#include <thread>
 
 namespace korvane {
 
@@ -54,14 +55,21 @@ std::optional<InstancePlace> PrivatePlaceIn(const fs::path& folder, const fs::pa
     return usable ? std::optional(std::move(place)) : std::nullopt;
 }
 
-int OpenLocked(const fs::path& path) {
+/// Tries again and again, because the system has no call that waits for a lock for some time.
+bool Lock(int file, std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds kPause{10};
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (flock(file, LOCK_EX | LOCK_NB) != 0) {
+        const bool held = errno == EWOULDBLOCK || errno == EINTR;
+        if (!held || std::chrono::steady_clock::now() >= end) return false;
+        std::this_thread::sleep_for(kPause);
+    }
+    return true;
+}
+
+int OpenLocked(const fs::path& path, std::chrono::milliseconds patience) {
     const int file = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, kOwnersFile);
-    if (file < 0) return file;
-    int result = 0;
-    do {
-        result = flock(file, LOCK_EX);
-    } while (result != 0 && errno == EINTR);
-    if (result == 0) return file;
+    if (file < 0 || Lock(file, patience)) return file;
     close(file);
     return -1;
 }
@@ -84,7 +92,8 @@ std::optional<InstancePlace> FindInstancePlace(const InstanceSurroundings& surro
     return PrivatePlaceIn(own, surroundings.executable);
 }
 
-StartLock::StartLock(const fs::path& path) : file_(OpenLocked(path)) {}
+StartLock::StartLock(const fs::path& path, std::chrono::milliseconds patience)
+    : file_(OpenLocked(path, patience)) {}
 
 StartLock::~StartLock() {
     if (Held()) close(file_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -28,10 +29,13 @@ InstanceSurroundings OwnInstanceSurroundings();
 /// another one.
 std::optional<InstancePlace> FindInstancePlace(const InstanceSurroundings& surroundings);
 
-/// Locks a file. Other programs that want the lock wait. The system releases it when the process ends.
+/// Locks a file. Other programs that want the lock wait for some time. The system releases it when the
+/// process ends.
 class StartLock {
 public:
-    explicit StartLock(const std::filesystem::path& path);
+    static constexpr std::chrono::milliseconds kPatience{5'000};
+
+    explicit StartLock(const std::filesystem::path& path, std::chrono::milliseconds patience = kPatience);
     StartLock(const StartLock&) = delete;
     StartLock& operator=(const StartLock&) = delete;
     ~StartLock();

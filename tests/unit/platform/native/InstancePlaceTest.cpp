@@ -123,6 +123,14 @@ TEST(StartLockTest, IsHeldByOneAtATime) {
     second.join();
 }
 
+TEST(StartLockTest, IsNotWaitedForLongerThanAsked) {
+    const TempDir dir;
+    const StartLock first(dir / "lock");
+    ASSERT_TRUE(first.Held());
+    EXPECT_FALSE(StartLock(dir / "lock", std::chrono::milliseconds(0)).Held());
+    EXPECT_FALSE(StartLock(dir / "lock", std::chrono::milliseconds(1)).Held());
+}
+
 TEST(StartLockTest, IsLetGoByAProcessThatDies) {
     TempDir dir;
     const pid_t child = fork();
