@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "app/OwnFiles.h"
 #include "app/SystemParts.h"
 #include "context/exchange/StartState.h"
 #include "context/ports/ColourPicker.h"
@@ -38,12 +39,6 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
         return std::make_unique<XlsSpreadsheet>(files, shell);
     };
     return platform;
-}
-
-NativeFileSystem OwnFiles() {
-    const Surroundings surroundings = OwnSurroundings();
-    return {FromNativePath(surroundings.executable.parent_path()),
-            FromNativePath(FindStateFolder(surroundings))};
 }
 
 } // namespace

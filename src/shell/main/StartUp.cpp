@@ -33,9 +33,8 @@ void SetStartValues(App& app) {
     app.Exchange<StartState>().FirstLoadPending = -1;
     const PathStyle style = app.Files().Style();
     files.HelpFilePath = style.JoinPath(app.Files().ProgramDir(), u"Korvane_Help.rtf");
-    const Text stateDir = app.Files().StateDir();
-    files.IniFilePath = style.JoinPath(stateDir, u"Korvane.ini");
-    files.RecFilePath = style.JoinPath(stateDir, u"Korvane.rec");
+    files.IniFilePath = OwnSettingsFile(app.Files());
+    files.RecFilePath = style.JoinPath(app.Files().StateDir(), u"Korvane.rec");
     SetWordRules(app);
 }
 

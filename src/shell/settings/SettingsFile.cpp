@@ -50,14 +50,6 @@ std::string AllLines(const Settings& settings, const CodePage& page) {
     return bytes;
 }
 
-/// The settings that came with the program are those of a user who has none of his own yet.
-Text FileToRead(App& app) {
-    const FileSystem& files = app.Files();
-    const Text& own = app.Exchange<StateFiles>().IniFilePath;
-    const Text shipped = files.Style().JoinPath(files.ProgramDir(), kSettingsName);
-    return !files.FileExists(own) && files.FileExists(shipped) ? shipped : own;
-}
-
 void TakeCurrentDir(App& app) {
     app.Settings.CurDirAtSave = app.Files().CurrentDir();
     app.Settings.CurDrive = Text(Left(app.Settings.CurDirAtSave, 1));
@@ -65,8 +57,17 @@ void TakeCurrentDir(App& app) {
 
 } // namespace
 
+Text OwnSettingsFile(const FileSystem& files) {
+    return files.Style().JoinPath(files.StateDir(), kSettingsName);
+}
+
+Text SettingsToRead(const FileSystem& files, TextView own) {
+    const Text shipped = files.Style().JoinPath(files.ProgramDir(), kSettingsName);
+    return !files.FileExists(own) && files.FileExists(shipped) ? shipped : Text(own);
+}
+
 void ReadSettings(App& app) {
-    const Text path = FileToRead(app);
+    const Text path = SettingsToRead(app.Files(), app.Exchange<StateFiles>().IniFilePath);
     if (!app.Files().FileExists(path)) {
         ShowCannotLoad(app, path);
         return;

@@ -1,8 +1,18 @@
 #pragma once
 
+#include "common/text/Text.h"
+
 namespace korvane {
 
 class App;
+class FileSystem;
+
+/// The file of the user's own settings.
+Text OwnSettingsFile(const FileSystem& files);
+
+/// The file that the settings are read from. Those that came with the program are the settings of a user who
+/// has no file `own` yet.
+Text SettingsToRead(const FileSystem& files, TextView own);
 
 /// Reads `IniFilePath` into the settings, line by line; what the file doesn't hold stays as it is. Says so
 /// when there is no such file, and nothing when it can't be opened.

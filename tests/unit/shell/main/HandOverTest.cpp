@@ -90,6 +90,48 @@ TEST_F(HandOverTest, ASecondStartReadsTheSettingsToo) {
     EXPECT_FALSE(p.files.FileExists(u"C:\\Korvane\\Korvane.ini"));
 }
 
+class UnseenHandOverTest : public HandOverTest {
+protected:
+    bool Start(TextView commandLine) { return HandOverUnseen(p.files, p.instance, commandLine); }
+};
+
+TEST_F(UnseenHandOverTest, HandsTheFileOverAndBringsTheRunningCopyToTheFront) {
+    EXPECT_TRUE(Start(u"\"a.tbx\""));
+    EXPECT_EQ(p.instance.Delivered(), std::vector<Text>{kFile});
+    EXPECT_EQ(p.instance.Waits(), 1);
+    EXPECT_EQ(p.instance.Activations(), 1);
+    ExpectNothingChangedOnDisk();
+}
+
+TEST_F(UnseenHandOverTest, WithoutAFileOnlyBringsTheRunningCopyToTheFront) {
+    EXPECT_TRUE(Start(u""));
+    EXPECT_TRUE(Start(u"C:\\missing.tbx"));
+    EXPECT_TRUE(p.instance.Delivered().empty());
+    EXPECT_EQ(p.instance.Activations(), 2);
+}
+
+TEST_F(UnseenHandOverTest, IsLeftToAnOrdinaryStartWhenNoOtherCopyRuns) {
+    p.instance.running.runs = false;
+    EXPECT_FALSE(Start(kFile));
+    EXPECT_EQ(p.instance.Activations(), 0);
+}
+
+TEST_F(UnseenHandOverTest, IsLeftToAnOrdinaryStartWhenTheSettingsAreMissing) {
+    p.files.Erase(u"C:\\Korvane\\Korvane.ini");
+    EXPECT_FALSE(Start(kFile));
+    EXPECT_TRUE(p.instance.Delivered().empty());
+}
+
+TEST_F(UnseenHandOverTest, IsLeftToAnOrdinaryStartWhenTheRunningCopyDoesNotAnswer) {
+    p.instance.running.offersSlot = false;
+    EXPECT_FALSE(Start(kFile));
+    p.instance.running = {true, true, true, true};
+    EXPECT_FALSE(Start(kFile));
+    p.instance.running = {true, true, false, false};
+    EXPECT_FALSE(Start(kFile));
+    EXPECT_EQ(p.instance.Activations(), 0);
+}
+
 class ReceptionTest : public testing::Test {
 protected:
     ReceptionTest() {

@@ -1,0 +1,14 @@
+#include "app/OwnFiles.h"
+
+#include "platform/native/NativePath.h"
+#include "platform/native/StateFolder.h"
+
+namespace korvane {
+
+NativeFileSystem OwnFiles() {
+    const Surroundings surroundings = OwnSurroundings();
+    return {FromNativePath(surroundings.executable.parent_path()),
+            FromNativePath(FindStateFolder(surroundings))};
+}
+
+} // namespace korvane
