@@ -16,6 +16,7 @@
 #include "context/ports/ColourPicker.h"
 #include "context/ports/InsertTools.h"
 #include "context/ports/MainWindow.h"
+#include "context/ports/TextFinder.h"
 #include "context/ports/TextTools.h"
 #include "context/ports/WordList.h"
 #include "controls/KeyTable.h"
@@ -497,7 +498,7 @@ void frm_RTF_HTM::DockRightFilling() {
 // Windows and programs.
 
 void frm_RTF_HTM::mnuFind_Click() {
-    if (auto* tools = app_.Port<TextTools>()) tools->FindString(ThisTextCtrl);
+    if (auto* finder = app_.Port<TextFinder>()) finder->FindString(ThisTextCtrl);
 }
 
 void frm_RTF_HTM::mnuReplace_Click() {
@@ -525,7 +526,11 @@ void frm_RTF_HTM::mnuEdit_Unicode_Click() {
 }
 
 void frm_RTF_HTM::mnuCharacters_Click() {
-    if (auto* tools = app_.Port<TextTools>()) tools->ShowCharacters(ThisTextCtrl);
+    auto* tools = app_.Port<TextTools>();
+    if (tools == nullptr) return;
+    tools->ShowCharacters(ThisTextCtrl);
+    // This is so too when no character was taken. Kept for compatibility: character-table-alters.
+    TextAltered = 1;
 }
 
 void frm_RTF_HTM::mnuSymbols_Click() {
@@ -541,7 +546,10 @@ void frm_RTF_HTM::DoConvertHTML() {
 }
 
 void frm_RTF_HTM::mnuFonts_Click() {
-    if (auto* tools = app_.Port<TextTools>()) tools->ChooseFont(ThisTextCtrl);
+    auto* tools = app_.Port<TextTools>();
+    if (tools == nullptr) return;
+    if (tools->ChooseFont(ThisTextCtrl)) TextAltered = 1;
+    ThisTextCtrl.SetFocus();
 }
 
 void frm_RTF_HTM::mnuAlign_Click() {

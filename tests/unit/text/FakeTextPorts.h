@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/ports/OpenText.h"
 #include "context/ports/SystemFileDialog.h"
+#include "context/ports/TextTools.h"
 #include "controls/Form.h"
 #include "controls/TextControl.h"
 #include "support/FakeMainWindow.h"
@@ -35,6 +36,22 @@ public:
 private:
     TextControl scratch_{form_, "rtfTempText"};
     OpenText open_{text, scratch_};
+};
+
+/// Counts the font dialogs, and takes the choice when told.
+class FakeTextTools final : public TextTools {
+public:
+    explicit FakeTextTools(App& app) { app.SetPort<TextTools>(this); }
+    int fonts = 0;
+    bool takesFont = false;
+
+    bool ChooseFont(TextControl&) override {
+        ++fonts;
+        return takesFont;
+    }
+    void ShowUnicode(TextControl&) override {}
+    void ShowCharacters(TextControl&) override {}
+    void ShowElements(TextControl&) override {}
 };
 
 /// Chooses a file, or nothing, and remembers what it was asked.

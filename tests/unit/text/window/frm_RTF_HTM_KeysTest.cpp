@@ -1,6 +1,6 @@
-#include "context/ports/TextTools.h"
 #include "dialogs/frmMyInputBox.h"
 #include "text/markup/frmHTMLCodes.h"
+#include "unit/text/FakeTextPorts.h"
 #include "unit/text/window/TextWindowStage.h"
 
 #include <tuple>
@@ -122,18 +122,8 @@ TEST_F(TextWindowKeys, AKeyWithoutACommandIsTakenAllTheSame) {
 }
 
 TEST_F(TextWindowKeys, Ctrl1ChoosesTheFont) {
-    class Tools final : public TextTools {
-    public:
-        int fonts = 0;
-        void FindString(TextControl&) override {}
-        void ChooseFont(TextControl&) override { ++fonts; }
-        void ShowUnicode(TextControl&) override {}
-        void ShowCharacters(TextControl&) override {}
-        void ShowElements(TextControl&) override {}
-    };
     EXPECT_TRUE(Press('1', Mask::Ctrl));
-    Tools tools;
-    t.app.SetPort<TextTools>(&tools);
+    FakeTextTools tools(t.app);
     EXPECT_TRUE(Press('1', Mask::Ctrl));
     EXPECT_EQ(tools.fonts, 1);
 }

@@ -1,10 +1,12 @@
 #include "context/ports/ClipboardView.h"
 #include "context/ports/InsertTools.h"
+#include "context/ports/TextFinder.h"
 #include "context/ports/TextTools.h"
 #include "context/ports/WordList.h"
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
 #include "text/paragraph/frmIndent.h"
+#include "unit/text/FakeTextPorts.h"
 #include "unit/text/window/TextWindowStage.h"
 
 #include <string>
@@ -254,20 +256,42 @@ TEST_F(TextWindowView, TheListAndTheDateAreWrittenAtTheCursor) {
 }
 
 TEST_F(TextWindowView, TheToolsGetTheTextControl) {
-    class Tools final : public TextTools {
+    class Tools final : public TextTools, public TextFinder {
     public:
         std::string asked;
         void FindString(TextControl&) override { asked += "find "; }
-        void ChooseFont(TextControl&) override { asked += "font "; }
+        bool ChooseFont(TextControl&) override {
+            asked += "font ";
+            return false;
+        }
         void ShowUnicode(TextControl&) override { asked += "unicode "; }
         void ShowCharacters(TextControl&) override { asked += "characters "; }
         void ShowElements(TextControl&) override { asked += "elements "; }
     };
     Tools tools;
     t.app.SetPort<TextTools>(&tools);
+    t.app.SetPort<TextFinder>(&tools);
     for (const char* entry : {"mnuFind", "mnuFonts", "mnuEdit_Unicode", "mnuCharacters", "mnuSymbols"})
         Choose(entry);
     EXPECT_EQ(tools.asked, "find font unicode characters elements ");
+}
+
+/// Kept for compatibility: character-table-alters.
+TEST_F(TextWindowView, TheTableOfCharactersAlwaysAltersTheText) {
+    FakeTextTools tools(t.app);
+    for (const char* entry : {"mnuFonts", "mnuEdit_Unicode", "mnuSymbols"})
+        Choose(entry);
+    EXPECT_EQ(window->TextAltered, 0);
+    Choose("mnuCharacters");
+    EXPECT_EQ(window->TextAltered, 1);
+}
+
+TEST_F(TextWindowView, AChosenFontAltersTheText) {
+    FakeTextTools tools(t.app);
+    tools.takesFont = true;
+    Choose("mnuFonts");
+    EXPECT_EQ(window->TextAltered, 1);
+    EXPECT_EQ(window->Focused(), &Control());
 }
 
 TEST_F(TextWindowView, TheControlsOwnDialogsAreShown) {
