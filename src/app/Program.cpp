@@ -27,10 +27,11 @@ namespace korvane {
 namespace {
 
 App::Platform Complete(App::Platform platform, const SystemFolders& folders, const UserLocale& locale,
-                       FileTypes& fileTypes) {
+                       FileTypes& fileTypes, const InstalledFonts& fonts) {
     platform.folders = &folders;
     platform.locale = &locale;
     platform.fileTypes = &fileTypes;
+    platform.fonts = &fonts;
     platform.codePage = UserCodePage();
     platform.makeGrid = [page = platform.codePage, order = std::make_shared<QtTextOrder>()] {
         return std::make_unique<GridStore>(page, order);
@@ -50,7 +51,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
       forms_(KorvaneForms()),
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
-          system.Folders(), locale_, fileTypes_)),
+          system.Folders(), locale_, fileTypes_, fonts_)),
       keptTables_(app_, background_, FromNativePath(FindKeptFolder(OwnSurroundings()))) {
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);

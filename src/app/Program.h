@@ -10,6 +10,7 @@
 #include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
+#include "platform/qt/services/QtFonts.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
@@ -50,6 +51,7 @@ private:
     QtScreen screen_;
     QtUserLocale locale_;
     QtFileTypes fileTypes_;
+    QtFonts fonts_;
     QtFormHost forms_;
     QtSystemFileDialog systemFileDialog_;
     QtFontPicker fontPicker_;

@@ -21,6 +21,7 @@ class FileSystem;
 class FileTypes;
 class FormHost;
 class Grid;
+class InstalledFonts;
 class InstanceChannel;
 class MessageBoxes;
 class Screen;
@@ -54,6 +55,8 @@ public:
         const UserLocale* locale = nullptr;
         /// Optional: without it, lists of files show no types and pictures.
         FileTypes* fileTypes = nullptr;
+        /// Optional: without it, no font counts as installed.
+        const InstalledFonts* fonts = nullptr;
     };
 
     explicit App(Platform platform);
@@ -78,6 +81,8 @@ public:
 
     /// nullptr where the desktop's types of files aren't known.
     korvane::FileTypes* FileTypes() const { return platform_.fileTypes; }
+    /// nullptr where the installed fonts aren't known.
+    const InstalledFonts* Fonts() const { return platform_.fonts; }
 
     const UserLocale& Locale() const {
         return platform_.locale == nullptr ? sameEverywhere_ : *platform_.locale;

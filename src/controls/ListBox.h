@@ -14,6 +14,8 @@ public:
 
     /// `kNoColour` leaves it to the look of the window.
     Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
+    /// Whether the lines are names of fonts, each of which is shown in the font itself.
+    Property<bool> NamesFonts{*this, Aspect::Font};
 
     int ListCount() const { return static_cast<int>(items_.size()); }
     /// Empty outside the list.

@@ -52,6 +52,18 @@ TEST_F(ListsTest, AClickInAListIsItsIndex) {
     EXPECT_EQ(form.List1.ListIndex(), 2);
 }
 
+TEST_F(ListsTest, AListOfFontsShowsEachNameInItsOwnFace) {
+    auto& list = Widget<QListView>("List1");
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::FontRole).isValid());
+    form.List1.NamesFonts = true;
+    form.List1.SetList(1, u"DejaVu Serif");
+    const auto face = list.model()->index(1, 0).data(Qt::FontRole).value<QFont>();
+    EXPECT_EQ(face.families(), QStringList("DejaVu Serif"));
+    EXPECT_EQ(face.pointSize(), list.font().pointSize());
+    test::Settle();
+    EXPECT_GT(list.visualRect(list.model()->index(0, 0)).height(), list.fontMetrics().height());
+}
+
 TEST_F(ListsTest, ALetterGoesToTheItemThatBeginsWithIt) {
     auto& list = Widget<QListView>("List1");
     Key(list, Qt::Key_T);

@@ -1,7 +1,9 @@
 #include "QtSupport.h"
+#include "common/text/CaseFold.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/services/QtClipboard.h"
+#include "platform/qt/services/QtFonts.h"
 #include "platform/qt/services/QtMessageBoxes.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
@@ -22,6 +24,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <algorithm>
 #include <map>
 
 namespace korvane {
@@ -246,6 +249,16 @@ TEST_F(DialogsTest, ACancelledColourDialogTellsNothing) {
         dialog.reject();
     });
     EXPECT_EQ(QtColourPicker().Choose(kNoColour, ColourPicker::Extent::Full), std::nullopt);
+}
+
+// ---- Fonts --------------------------------------------------------------------------------------------
+
+TEST(QtFontsTest, KnowsTheInstalledFontsByName) {
+    const std::vector<Text> names = QtFonts().Names();
+    EXPECT_TRUE(std::ranges::is_sorted(names, {}, [](const Text& name) { return ToLower(name); }));
+    EXPECT_EQ(std::ranges::count(names, Text(u"DejaVu Sans")), 1);
+    EXPECT_TRUE(QtFonts().Has(u"dejavu sans"));
+    EXPECT_FALSE(QtFonts().Has(u"A Font of Nobody"));
 }
 
 // ---- The order of texts -------------------------------------------------------------------------------

@@ -10,6 +10,7 @@
 #include "testing/MemoryClock.h"
 #include "testing/MemoryFileSystem.h"
 #include "testing/MemoryFileTypes.h"
+#include "testing/MemoryFonts.h"
 #include "testing/MemoryInstanceChannel.h"
 #include "testing/MemoryScreen.h"
 #include "testing/MemoryShell.h"
@@ -41,6 +42,7 @@ public:
     MemoryInstanceChannel instance;
     MemorySystemFolders folders;
     MemoryFileTypes fileTypes;
+    MemoryFonts fonts;
     ScriptedUser user;
     /// What the program asked the spreadsheet application to do.
     std::vector<std::string> spreadsheetSteps;
@@ -49,7 +51,8 @@ public:
     /// Runs before a grid is made.
     std::function<void()> beforeGrid = [] {};
     App app{{files, user, clipboard, clock, screen, shell, instance, user, [this] { return MakeGrid(); },
-             CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }, nullptr, &fileTypes}};
+             CodePage::Windows1252(), &folders, [this] { return StartSpreadsheet(); }, nullptr, &fileTypes,
+             &fonts}};
 
 private:
     bool TakeAway(TextView path) {

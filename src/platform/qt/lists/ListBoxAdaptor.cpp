@@ -9,12 +9,19 @@
 
 namespace korvane {
 
+namespace {
+
+/// Faces are of different heights. This share of the list's own leaves room for most of them.
+constexpr int kFaceHeight = 150;
+
+} // namespace
+
 ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget)
     : ListBoxAdaptor(list, widget, *new ListBoxModel(list, widget.property("checkBoxes").toBool(), &widget)) {
 }
 
 ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget, ListBoxModel& model)
-    : RowsAdaptor(list, widget, model), list_(list), widget_(widget) {
+    : RowsAdaptor(list, widget, model), list_(list), widget_(widget), model_(model) {
     widget.setUniformItemSizes(true);
     if (widget.property(kDenseLines).toBool()) model.SetRowHeight(widget.fontMetrics().height());
 }
@@ -23,6 +30,9 @@ void ListBoxAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Colours)
         WriteBackColour(widget_, ChosenBack(list_.BackColor, QApplication::palette()), kFieldSurface);
     RowsAdaptor::Write(aspect);
+    if (aspect != Aspect::Font || !list_.NamesFonts) return;
+    model_.SetBaseFont(widget_.font());
+    model_.SetRowHeight(widget_.fontMetrics().height() * kFaceHeight / 100);
 }
 
 bool ListBoxAdaptor::TakesSeveral() const {

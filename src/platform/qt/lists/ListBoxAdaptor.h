@@ -30,6 +30,7 @@ private:
 
     ListBox& list_;
     QListView& widget_;
+    ListBoxModel& model_;
 };
 
 } // namespace korvane

@@ -4,6 +4,7 @@
 #include "platform/qt/base/Convert.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPainter>
 #include <QPixmap>
 
@@ -40,6 +41,17 @@ QVariant SamplePicture(const std::optional<ListBox::Sample>& sample) {
 ListBoxModel::ListBoxModel(ListBox& list, bool checkBoxes, QObject* parent)
     : RowsModel(parent), list_(list), checkBoxes_(checkBoxes) {}
 
+/// A font is looked at when its row is drawn, and not before.
+QVariant ListBoxModel::FaceOf(int row) const {
+    if (!list_.NamesFonts) return {};
+    const QString family = ToQString(list_.List(row));
+    // Nobody can read its name in the pictures of such a font.
+    if (QFontDatabase::writingSystems(family).contains(QFontDatabase::Symbol)) return baseFont_;
+    QFont face(baseFont_);
+    face.setFamilies({family});
+    return face;
+}
+
 int ListBoxModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : 1;
 }
@@ -47,6 +59,7 @@ int ListBoxModel::columnCount(const QModelIndex& parent) const {
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
     if (!Holds(index)) return {};
     if (role == Qt::DisplayRole) return ToLines(list_.List(index.row()));
+    if (role == Qt::FontRole) return FaceOf(index.row());
     if (role == Qt::DecorationRole) return SamplePicture(list_.SampleAt(index.row()));
     if (role == Qt::SizeHintRole && rowHeight_ > 0) return QSize(0, rowHeight_);
     if (role == Qt::CheckStateRole && checkBoxes_) {

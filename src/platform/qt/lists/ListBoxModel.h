@@ -3,6 +3,8 @@
 #include "controls/ListBox.h"
 #include "platform/qt/lists/RowsModel.h"
 
+#include <QFont>
+
 namespace korvane {
 
 class ListBoxModel : public RowsModel {
@@ -12,6 +14,8 @@ public:
 
     /// How high each row is; 0 leaves it to the look.
     void SetRowHeight(int height) { rowHeight_ = height; }
+    /// The font from which the faces of a list of fonts are made.
+    void SetBaseFont(const QFont& font) { baseFont_ = font; }
 
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -23,7 +27,10 @@ protected:
     int ControlRows() const override { return list_.ListCount(); }
 
 private:
+    QVariant FaceOf(int row) const;
+
     ListBox& list_;
+    QFont baseFont_;
     bool checkBoxes_;
     int rowHeight_ = 0;
 };
