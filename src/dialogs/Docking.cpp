@@ -73,6 +73,11 @@ void CentreWithin(const Form& owner, Form& window, int percent) {
     centre(owner.Top, owner.Height, window.Top, window.Height);
 }
 
+void CentreOn(const Form& owner, Form& window) {
+    window.Left = owner.Left.Get() + (owner.Width.Get() - window.Width.Get()) / 2;
+    window.Top = owner.Top.Get() + (owner.Height.Get() - window.Height.Get()) / 2;
+}
+
 bool DockByKey(App& app, const Form& owner, Form& window, KeyEvent& key) {
     const KeyRow<Dock>* row = FindKey<Dock>(kDockKeys, key);
     if (row == nullptr) return false;

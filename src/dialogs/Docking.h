@@ -20,6 +20,9 @@ void DockRightOf(App& app, const Form& owner, Form& window, Stretch stretch);
 /// Gives the window this share of the owner's size and centres it within the owner.
 void CentreWithin(const Form& owner, Form& window, int percent);
 
+/// Centres the window within the owner in the size that it has.
+void CentreOn(const Form& owner, Form& window);
+
 /// Docks the window by the keys that list windows share. Ctrl+L and Ctrl+R, also with Alt, fill the space;
 /// with Shift the window keeps its width. Returns whether the key was one of these, which is consumed then.
 bool DockByKey(App& app, const Form& owner, Form& window, KeyEvent& key);

@@ -12,7 +12,7 @@
 #include "controls/KeyTable.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
-#include "dialogs/frmMyInputBox.h"
+#include "dialogs/Webmail.h"
 #include "files/lister/ListPatterns.h"
 #include "files/names/FieldKeys.h"
 #include "files/names/NameTyping.h"
@@ -548,10 +548,7 @@ void frmGetFileFromTree::ShowClock() {
 }
 
 void frmGetFileFromTree::Webmail() {
-    const Text url = AskForText(app_, u"Enter URL for webmail interface", app_.Settings.WebmailUrl);
-    if (url.empty()) return;
-    app_.Settings.WebmailUrl = url;
-    LaunchProgram(app_, app_.Settings.CustomBrowserPath, url);
+    OpenWebmail(app_);
 }
 
 void frmGetFileFromTree::StartBrowser() {

@@ -12,9 +12,6 @@ namespace korvane {
 
 namespace {
 
-// Some ten thousand folders.
-constexpr std::int64_t kLargestList = 1'000'000;
-
 std::string BytesOf(const std::vector<Text>& lines, const CodePage& page) {
     std::string bytes;
     for (const Text& line : lines)
@@ -49,9 +46,9 @@ std::vector<Text> LinesOfList(std::string_view bytes, const CodePage& page) {
     return lines;
 }
 
-std::optional<std::vector<Text>> ReadListFile(App& app, TextView path) {
+std::optional<std::vector<Text>> ReadListFile(App& app, TextView path, std::int64_t largest) {
     FileSystem& files = app.Files();
-    if (files.Size(path).value_or(0) > kLargestList) return std::nullopt;
+    if (files.Size(path).value_or(0) > largest) return std::nullopt;
     const auto bytes = files.ReadAll(path);
     if (!bytes || !CanBeList(bytes->View())) return std::nullopt;
     return LinesOfList(bytes->View(), app.Page());

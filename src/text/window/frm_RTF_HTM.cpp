@@ -22,7 +22,7 @@
 #include "controls/KeyTable.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
-#include "dialogs/frmMyInputBox.h"
+#include "dialogs/Webmail.h"
 #include "dialogs/frmMyMsgBox.h"
 #include "dialogs/frmTxtInfo.h"
 #include "platform/Clock.h"
@@ -585,10 +585,7 @@ void frm_RTF_HTM::mnuTimer_Click() {
 }
 
 void frm_RTF_HTM::Webmail() {
-    const Text url = AskForText(app_, u"Enter URL for webmail interface", app_.Settings.WebmailUrl);
-    if (url.empty()) return;
-    app_.Settings.WebmailUrl = url;
-    LaunchProgram(app_, Text(app_.Settings.CustomBrowserPath), url);
+    OpenWebmail(app_);
 }
 
 void frm_RTF_HTM::Desktop() {

@@ -67,6 +67,7 @@ TEST_F(ListFileTest, AFileWithAZeroByteIsNoList) {
 TEST_F(ListFileTest, AHugeFileIsNoList) {
     EXPECT_NE(Read(std::string(1'000'000, 'x')), std::nullopt);
     EXPECT_EQ(Read(std::string(1'000'001, 'x')), std::nullopt);
+    EXPECT_NE(ReadListFile(t.app, kPath, 1'000'001), std::nullopt);
 }
 
 TEST_F(ListFileTest, WritesALineForEachEntry) {
