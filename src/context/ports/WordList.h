@@ -12,6 +12,8 @@ public:
     virtual ~WordList() = default;
     /// What the user took from the list; nothing when the list was only closed.
     virtual std::optional<Text> Choose() = 0;
+    /// Shows the list with the lines of a selected text added to it. Nothing is taken from it.
+    virtual void Collect(TextView selection) = 0;
 };
 
 } // namespace korvane

@@ -517,7 +517,10 @@ void frm_RTF_HTM::mnuEdit_ViewAndPaste_Click() {
 void frm_RTF_HTM::mnuWordList_Click() {
     auto* list = app_.Port<WordList>();
     if (list == nullptr) return;
-    if (const auto words = list->Choose()) ThisTextCtrl.SetSelText(*words);
+    if (ThisTextCtrl.SelLength() > 0)
+        list->Collect(ThisTextCtrl.SelText());
+    else if (const auto words = list->Choose())
+        ThisTextCtrl.SetSelText(*words);
     ThisTextCtrl.SetFocus();
 }
 

@@ -49,6 +49,7 @@ public:
     std::optional<Text> word;
 
     std::optional<Text> Choose() override { return word; }
+    void Collect(TextView) override {}
 };
 
 /// Gives out a date, unless it has none, and writes characters and elements at the selection.

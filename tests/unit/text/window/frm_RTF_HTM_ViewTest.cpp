@@ -236,6 +236,7 @@ TEST_F(TextWindowView, TheListAndTheDateAreWrittenAtTheCursor) {
     class List final : public WordList {
     public:
         std::optional<Text> Choose() override { return u"word "; }
+        void Collect(TextView) override { ADD_FAILURE() << "nothing is selected"; }
     };
     class Tools final : public InsertTools {
     public:
@@ -253,6 +254,21 @@ TEST_F(TextWindowView, TheListAndTheDateAreWrittenAtTheCursor) {
     Choose("mnuWordList");
     Choose("mnuDateInsert");
     EXPECT_EQ(Control().All(), u"word 4 March");
+}
+
+TEST_F(TextWindowView, ASelectionGoesToTheListAndNothingComesBack) {
+    class List final : public WordList {
+    public:
+        Text collected;
+        std::optional<Text> Choose() override { return u"word"; }
+        void Collect(TextView selection) override { collected = Text(selection); }
+    } list;
+    t.app.SetPort<WordList>(&list);
+    SelectAll(u"one\r\ntwo");
+    window->cmdWordList.Press();
+    EXPECT_EQ(list.collected, u"one\r\ntwo");
+    EXPECT_EQ(Control().All(), u"one\r\ntwo");
+    EXPECT_EQ(window->Focused(), &Control());
 }
 
 TEST_F(TextWindowView, TheToolsGetTheTextControl) {
