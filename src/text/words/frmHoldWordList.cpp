@@ -3,12 +3,18 @@
 #include "common/number/Number.h"
 #include "common/path/PathStyle.h"
 #include "context/App.h"
+#include "context/Companions.h"
+#include "context/Desktop.h"
 #include "context/WindowFitting.h"
+#include "context/ports/FontPicker.h"
 #include "context/ports/MainWindow.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
+#include "dialogs/frmMyInputBox.h"
 #include "files/lists/ListFile.h"
+#include "platform/Clipboard.h"
 #include "platform/FileSystem.h"
+#include "platform/MessageBoxes.h"
 
 #include <algorithm>
 
@@ -34,6 +40,14 @@ bool IsComment(TextView line) {
     return line.starts_with(u';');
 }
 
+Text Quoted(TextView text) {
+    return u'"' + Text(text) + u'"';
+}
+
+Answer Ask(App& app, const Text& question, int defaultButton = 1) {
+    return app.Messages().Show({question, MessageIcon::Question, MessageButtons::YesNoCancel, defaultButton});
+}
+
 Text WithoutLastLineEnd(Text lines) {
     if (lines.ends_with(kCrLf)) lines.resize(lines.size() - kCrLf.size());
     return lines;
@@ -46,9 +60,29 @@ struct frmHoldWordList::Tables {
 
     static constexpr MenuRow<Window> kMenu[] = {
         {0, "mnuFile", u"&File", ""},
+        {1, "", u"", ""},
+        {1, "", u"", ""},
         {1, "mnuCancel", u"E&xit", "", &Window::cmdCancel},
         {0, "mnuText", u"&Text", ""},
         {1, "mnuInsert", u"&Copy to text", "", &Window::cmdOk},
+        {1, "mnuFindString", u"&Find string in text", "", &Window::cmdFind},
+        {0, "mnuList", u"&List", ""},
+        {1, "mnuEdit", u"&Edit entry", "", &Window::cmdEdit},
+        {1, "mnuEntry", u"&Add entry", "", &Window::cmdEntry},
+        {1, "mnuDelete", u"&Delete entry", "", &Window::cmdClear},
+        {1, "", u"", ""},
+        {1, "mnuSelectAll", u"Select a&ll", "", &Window::cmdSelectAll},
+        {1, "mnuClip", u"&To clipboard", "", &Window::cmdClip},
+        {1, "mnuSort", u"So&rt", "", &Window::cmdSort},
+        {1, "", u"", ""},
+        {1, "mnuArrowUp", u"Move item up    ( Alt-U )", "", &Window::mnuArrowUp_Click},
+        {1, "mnuArrowDown", u"Move item down    ( Alt-D )", "", &Window::mnuArrowDown_Click},
+        {0, "mnuMisc", u"&Misc", ""},
+        // It starts Dunmark. Kept for compatibility: word-list-pinsey-starts-dunmark.
+        {1, "mnuPinsey", u"Load &Pinsey", "", &Window::mnuPinsey_Click},
+        {1, "mnuFont", u"&Font", "", &Window::mnuFont_Click},
+        {1, "mnuLorrit", u"File &Lorrit", "", &Window::mnuLorrit_Click},
+        {1, "mnuExplorer", u"&Windows Explorer", "", &Window::mnuExplorer_Click},
     };
 };
 
@@ -63,6 +97,13 @@ frmHoldWordList::frmHoldWordList(App& app)
 
 void frmHoldWordList::Wire() {
     cmdOk.Click = [this] { mnuInsert_Click(); };
+    cmdEntry.Click = [this] { mnuEntry_Click(); };
+    cmdEdit.Click = [this] { mnuEdit_Click(); };
+    cmdClear.Click = [this] { mnuDelete_Click(); };
+    cmdSelectAll.Click = [this] { mnuSelectAll_Click(); };
+    cmdClip.Click = [this] { mnuClip_Click(); };
+    cmdSort.Click = [this] { mnuSort_Click(); };
+    cmdFind.Click = [this] { mnuFindString_Click(); };
     cmdCancel.Click = [this] { Close(); };
     cmdCancel.Cancel = true;
     lstWordList.DblClick = [this] { mnuInsert_Click(); };
@@ -144,6 +185,11 @@ bool frmHoldWordList::WriteListFile() {
 
 // The list's file.
 
+Text frmHoldWordList::FolderOfList() const {
+    const PathStyle style = app_.Files().Style();
+    return style.DirectoryForChange(style.FolderPart(app_.Settings.WordListFile));
+}
+
 // The words.
 
 void frmHoldWordList::mnuInsert_Click() {
@@ -152,6 +198,93 @@ void frmHoldWordList::mnuInsert_Click() {
     State().WordListIndex = lstWordList.Current();
     app_.DialogResult = 1;
     Close();
+}
+
+void frmHoldWordList::mnuFindString_Click() {
+    // No window has the control that is to be searched, so there is neither a hit nor a text to go to the
+    // beginning of. Kept for compatibility: word-list-finds-nothing.
+    AskYesNo(app_, Quoted(rows_.At(lstWordList.Current())) +
+                       u"\r\n\r\nNo (further) find for: \r\n\r\nGoto beginning of text?");
+}
+
+void frmHoldWordList::mnuEdit_Click() {
+    const int row = lstWordList.Current();
+    if (row < 1) return;
+    const Text edited = AskForText(app_, u"Edit text line as required.", rows_.At(row));
+    if (app_.DialogResult != 1) return;
+    rows_.Replace(row, edited);
+}
+
+void frmHoldWordList::mnuEntry_Click() {
+    const Text word = AskForText(app_, u"Enter string to put in list.");
+    if (Trim(word).empty()) return;
+    // The word comes first. Kept for compatibility: word-list-known-word-first.
+    if (rows_.Holds(word)) return Inform(app_, Quoted(word) + u"\r\n\r\nString already in list: ");
+    rows_.Add(word);
+    lstWordList.SetCurrent(lstWordList.Count());
+    ShowStatus();
+}
+
+void frmHoldWordList::mnuDelete_Click() {
+    const std::vector<int> rows = lstWordList.SelectedRows();
+    if (rows.empty() ||
+        !AskYesNo(app_, u"Delete " + NumberText(lstWordList.SelectedCount()) + u" items from list ?",
+                  YesNoDefault::No))
+        return;
+    rows_.RemoveSelected();
+    lstWordList.SetCurrent(std::min(rows.front(), lstWordList.Count()));
+    RebuildBuffer();
+    ShowStatus();
+}
+
+void frmHoldWordList::mnuSelectAll_Click() {
+    lstWordList.SetAllSelected(true);
+}
+
+void frmHoldWordList::mnuClip_Click() {
+    if (lstWordList.SelectedCount() > 0) app_.Clipboard().SetText(WithoutLastLineEnd(rows_.Selected()));
+}
+
+void frmHoldWordList::mnuSort_Click() {
+    if (!AskYesNo(app_, u"Sort list now?")) return;
+    rows_.Sort();
+    lstWordList.SetCurrent(1);
+}
+
+void frmHoldWordList::mnuArrowUp_Click() {
+    rows_.Move(-1);
+}
+
+void frmHoldWordList::mnuArrowDown_Click() {
+    rows_.Move(1);
+}
+
+void frmHoldWordList::mnuPinsey_Click() {
+    const int count = lstWordList.SelectedCount();
+    if (count == 0) return;
+    const Answer answer =
+        Ask(app_, u"Load Dunmark with " + NumberText(count) + u" items in Windows clipboard ?");
+    if (answer == Answer::Cancel) return;
+    if (answer == Answer::Yes) mnuClip_Click();
+    LaunchDunmark(app_, {});
+}
+
+void frmHoldWordList::mnuFont_Click() {
+    auto* fontPicker = app_.Port<FontPicker>();
+    if (fontPicker == nullptr) return;
+    const auto font = fontPicker->Choose(lstWordList.Font);
+    if (!font) return;
+    State().WordListFontName = font->name;
+    State().WordListFontSize = font->size;
+    ShowFont();
+}
+
+void frmHoldWordList::mnuLorrit_Click() {
+    LaunchLorrit(app_, FolderOfList());
+}
+
+void frmHoldWordList::mnuExplorer_Click() {
+    ExploreFolder(app_, FolderOfList());
 }
 
 void frmHoldWordList::CentreInMainWindow() {

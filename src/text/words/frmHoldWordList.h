@@ -55,8 +55,23 @@ private:
     bool WriteListFile();
 
     void mnuInsert_Click();
+    void mnuFindString_Click();
+    void mnuEdit_Click();
+    void mnuEntry_Click();
+    void mnuDelete_Click();
+    void mnuSelectAll_Click();
+    void mnuClip_Click();
+    void mnuSort_Click();
+    void mnuArrowUp_Click();
+    void mnuArrowDown_Click();
+    void mnuPinsey_Click();
+    void mnuFont_Click();
+    void mnuLorrit_Click();
+    void mnuExplorer_Click();
 
     void CentreInMainWindow();
+
+    Text FolderOfList() const;
 
     App& app_;
     WordRows rows_{lstWordList};
