@@ -226,5 +226,163 @@ TEST_F(WordListWords, FindingInTheTextNeverHits) {
     });
 }
 
+// Changing the list.
+
+TEST_F(WordListWords, ANewWordComesToTheEndAndIsCurrent) {
+    Have({u"one"});
+    Open([this](frmHoldWordList& f) {
+        Type(u"One", u"Enter string to put in list.");
+        f.cmdEntry.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"One"));
+        EXPECT_EQ(f.lstWordList.Current(), 2);
+        EXPECT_EQ(f.Caption.Get(), u"File: (not yet saved!)  | Items: 2");
+        for (const auto& nothing : {std::optional<Text>(), std::optional<Text>(u"  ")}) {
+            Type(nothing, u"Enter string to put in list.");
+            f.cmdEntry.Press();
+        }
+        EXPECT_EQ(f.lstWordList.Count(), 2);
+    });
+}
+
+/// Kept for compatibility: word-list-known-word-first.
+TEST_F(WordListWords, AWordThatIsThereIsntAdded) {
+    Have({u"one", u"two"});
+    Open([this](frmHoldWordList& f) {
+        Type(u"two", u"Enter string to put in list.");
+        t.user.Answer({u"\"two\"\r\n\r\nString already in list: ", MessageIcon::Information}, Answer::Ok);
+        f.cmdEntry.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 2);
+    });
+}
+
+TEST_F(WordListWords, KnowsTheWordsAfterEveryChange) {
+    Have({u"one", u"two", u"three"});
+    Open([this](frmHoldWordList& f) {
+        const auto isThere = [&](const Text& word) {
+            const int count = f.lstWordList.Count();
+            Type(word, u"Enter string to put in list.");
+            const std::size_t boxes = t.user.Messages().size();
+            t.user.Answer(Answer::Ok);
+            f.cmdEntry.Press();
+            return f.lstWordList.Count() == count && t.user.Messages().size() > boxes;
+        };
+        EXPECT_TRUE(isThere(u"one"));
+        f.lstWordList.SetCurrent(1);
+        Type(u"four", u"Edit text line as required.", u"one");
+        f.cmdEdit.Press();
+        EXPECT_TRUE(isThere(u"four"));
+        f.lstWordList.SetCurrent(1);
+        f.OfficeMenu1.Choose("mnuArrowDown");
+        EXPECT_TRUE(isThere(u"two"));
+        EXPECT_TRUE(isThere(u"four"));
+        t.user.Answer(Answer::Yes);
+        f.cmdSort.Press();
+        EXPECT_TRUE(isThere(u"three"));
+        t.user.Answer(Answer::Yes);
+        f.cmdClear.Press();
+        Type(u"four", u"Enter string to put in list.");
+        f.cmdEntry.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"three", u"two", u"four"));
+    });
+}
+
+TEST_F(WordListWords, AnEntryIsEdited) {
+    Have({u"one", u"two"});
+    Open([this](frmHoldWordList& f) {
+        f.lstWordList.SetCurrent(2);
+        Type(std::nullopt, u"Edit text line as required.", u"two");
+        f.cmdEdit.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"two"));
+        Type(u"one", u"Edit text line as required.", u"two");
+        f.cmdEdit.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"one"));
+    });
+    EXPECT_THAT(Listed(), ElementsAre(u"one"));
+}
+
+TEST_F(WordListWords, SelectedEntriesAreDeletedAfterAQuestion) {
+    Have({u"one", u"two", u"three", u"four"});
+    const Message question{u"Delete 2 items from list ?", MessageIcon::Question, MessageButtons::YesNo, 2};
+    Open([&](frmHoldWordList& f) {
+        Pick(f, {2, 3});
+        t.user.Answer(question, Answer::No);
+        f.cmdClear.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 4);
+        t.user.Answer(question, Answer::Yes);
+        f.cmdClear.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"four"));
+        EXPECT_EQ(f.lstWordList.Current(), 2);
+        EXPECT_EQ(State().WordListBuffer, u"one\rfour\r");
+        EXPECT_EQ(f.Caption.Get(), u"File: (not yet saved!)  | Items: 2");
+        Pick(f, {});
+        f.cmdClear.Press();
+        f.cmdSelectAll.Press();
+        t.user.Answer(Answer::Yes);
+        f.cmdClear.Press();
+        EXPECT_THAT(WordsIn(f), IsEmpty());
+    });
+}
+
+TEST_F(WordListWords, EntriesAreSortedWithTheirDuplicates) {
+    Have({u"pear", u"Apple", u"apple", u"fig"});
+    Open([this](frmHoldWordList& f) {
+        f.lstWordList.SetCurrent(4);
+        Type(u"pear", u"Edit text line as required.", u"fig");
+        f.cmdEdit.Press();
+        const Message question{u"Sort list now?", MessageIcon::Question, MessageButtons::YesNo};
+        t.user.Answer(question, Answer::No);
+        f.cmdSort.Press();
+        EXPECT_EQ(WordsIn(f).front(), u"pear");
+        t.user.Answer(question, Answer::Yes);
+        f.cmdSort.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"Apple", u"apple", u"pear", u"pear"));
+        EXPECT_EQ(f.lstWordList.KeyAt(4), u"K_4");
+    });
+}
+
+TEST_F(WordListWords, AnEntryMovesAndTheSelectionFollows) {
+    Have({u"one", u"two", u"three"});
+    Open([](frmHoldWordList& f) {
+        const auto& rows = f.lstWordList;
+        f.OfficeMenu1.Choose("mnuArrowUp");
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"two", u"three"));
+        f.OfficeMenu1.Choose("mnuArrowDown");
+        f.OfficeMenu1.Choose("mnuArrowDown");
+        f.OfficeMenu1.Choose("mnuArrowDown");
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"two", u"three", u"one"));
+        EXPECT_EQ(rows.Current(), 3);
+        f.OfficeMenu1.Choose("mnuArrowUp");
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"two", u"one", u"three"));
+        EXPECT_THAT(rows.SelectedRows(), ElementsAre(2));
+    });
+}
+
+TEST_F(WordListWords, AnEmptyListTakesEveryCommand) {
+    Open([this](frmHoldWordList& f) {
+        for (const char* entry : {"mnuAppendToFile", "mnuSave", "mnuEdit", "mnuDelete", "mnuSelectAll",
+                                  "mnuClip", "mnuArrowUp", "mnuArrowDown", "mnuPinsey"})
+            f.OfficeMenu1.Choose(entry);
+        t.user.Answer(Answer::Yes);
+        f.cmdSort.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 0);
+    });
+    EXPECT_THAT(dialog.requests, IsEmpty());
+}
+
+TEST_F(WordListWords, HoldsManyEntriesAndLongOnes) {
+    const Text large(1'000'000, u'x');
+    Text& buffer = State().WordListBuffer;
+    for (std::size_t entry = 0; entry < 40'000; ++entry)
+        buffer += u"entry " + Text(entry % 40, u'n') + FromAscii(std::to_string(entry)) + u"\r";
+    buffer += large + u"\r" + large + u"\r";
+    EXPECT_EQ(Open([](frmHoldWordList& f) {
+                  EXPECT_EQ(f.lstWordList.Count(), 40'001);
+                  f.lstWordList.SetCurrent(40'001);
+                  f.cmdOk.Press();
+              }),
+              large);
+    Open([](frmHoldWordList& f) { EXPECT_EQ(f.lstWordList.Current(), 40'001); });
+}
+
 } // namespace
 } // namespace korvane
