@@ -5,9 +5,13 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
+#include "context/FileChooser.h"
+#include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
+#include "context/exchange/ListerRequest.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/MainWindow.h"
+#include "context/ports/SystemFileDialog.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
 #include "dialogs/frmMyInputBox.h"
@@ -15,6 +19,7 @@
 #include "platform/Clipboard.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
+#include "text/words/AppendedText.h"
 
 #include <algorithm>
 
@@ -32,6 +37,9 @@ constexpr Twips kUsualWidth{6600};
 constexpr Twips kUsualHeight{7200};
 /// The column fills the list.
 constexpr Twips kColumn{1500};
+
+constexpr TextView kListPatterns = u"*.lst;*.txt;*.asc";
+constexpr TextView kListFilter = u"List files (*.lst)|*.lst|All files (*.*)|*.*";
 
 /// Far more than a person collects.
 constexpr std::int64_t kLargestWordList = 64'000'000;
@@ -60,7 +68,13 @@ struct frmHoldWordList::Tables {
 
     static constexpr MenuRow<Window> kMenu[] = {
         {0, "mnuFile", u"&File", ""},
+        {1, "mnuInfo", u"&Info on word list", "", &Window::cmdInfo},
         {1, "", u"", ""},
+        {1, "mnuLoad", u"&Open", "", &Window::cmdLoad},
+        {1, "mnuNew", u"&New list", "", &Window::cmdNewList},
+        {1, "mnuAppendToFile", u"Append items to &file", "", &Window::cmdAppendToFile},
+        {1, "mnuSave", u"&Save", "", &Window::cmdSave},
+        {1, "mnuAutoSave", u"&Autosave", "", &Window::cmdAutoSave},
         {1, "", u"", ""},
         {1, "mnuCancel", u"E&xit", "", &Window::cmdCancel},
         {0, "mnuText", u"&Text", ""},
@@ -104,6 +118,12 @@ void frmHoldWordList::Wire() {
     cmdClip.Click = [this] { mnuClip_Click(); };
     cmdSort.Click = [this] { mnuSort_Click(); };
     cmdFind.Click = [this] { mnuFindString_Click(); };
+    cmdNewList.Click = [this] { mnuNew_Click(); };
+    cmdLoad.Click = [this] { mnuLoad_Click(); };
+    cmdSave.Click = [this] { mnuSave_Click(); };
+    cmdAutoSave.Click = [this] { mnuAutoSave_Click(); };
+    cmdAppendToFile.Click = [this] { mnuAppendToFile_Click(); };
+    cmdInfo.Click = [this] { mnuInfo_Click(); };
     cmdCancel.Click = [this] { Close(); };
     cmdCancel.Cancel = true;
     lstWordList.DblClick = [this] { mnuInsert_Click(); };
@@ -188,6 +208,90 @@ bool frmHoldWordList::WriteListFile() {
 Text frmHoldWordList::FolderOfList() const {
     const PathStyle style = app_.Files().Style();
     return style.DirectoryForChange(style.FolderPart(app_.Settings.WordListFile));
+}
+
+void frmHoldWordList::mnuInfo_Click() {
+    const PathStyle style = app_.Files().Style();
+    const Text& file = app_.Settings.WordListFile;
+    Inform(app_, u"Current \"Word List\" file:\r\nFile:  " + Text(style.NamePart(file)) + u"\r\nFolder:  " +
+                     Text(style.FolderPart(file)) + u"\r\nItem total:  " + NumberText(lstWordList.Count()) +
+                     u"\r\nSelected:  " + NumberText(lstWordList.SelectedCount()));
+}
+
+void frmHoldWordList::mnuLoad_Click() {
+    const KeepCurrentDir keep(app_.Files());
+    ShowFileChooser(app_, ChooserMode::Load, kListPatterns, {});
+    const Text& chosen = app_.Exchange<ListerRequest>().ChosenFilePath;
+    if (chosen.empty()) return;
+    // The name stays after a cancel, and No does the same as Yes. Kept for compatibility:
+    // word-list-names-file-first.
+    app_.Settings.WordListFile = chosen;
+    if (lstWordList.Count() > 0 && Ask(app_,
+                                       u"Clear existing list of " + NumberText(lstWordList.Count()) +
+                                           u" items before loading new list from disk?",
+                                       2) == Answer::Cancel)
+        return;
+    LoadListFile();
+}
+
+void frmHoldWordList::mnuNew_Click() {
+    Text& file = app_.Settings.WordListFile;
+    if (!file.empty() && lstWordList.Count() > 0) {
+        const Answer answer = Ask(app_, file + u"\r\n\r\nSave current list before starting a new one?");
+        if (answer == Answer::Cancel) return;
+        if (answer == Answer::Yes && !SaveUnderAName()) return;
+    }
+    rows_.Show({});
+    file = u"New_WordList.lst";
+    State().fileUnread = false;
+    ShowStatus();
+}
+
+void frmHoldWordList::mnuSave_Click() {
+    SaveUnderAName();
+}
+
+bool frmHoldWordList::SaveUnderAName() {
+    auto* dialog = app_.Port<SystemFileDialog>();
+    if (lstWordList.Count() == 0 || dialog == nullptr) return false;
+    auto* main = app_.Port<MainWindow>();
+    const KeepCurrentDir keep(app_.Files());
+    const auto path = dialog->Choose({SystemFileDialog::Purpose::Save,
+                                      Text(kListFilter),
+                                      u"Save Word List As",
+                                      Text(app_.Files().Style().NamePart(app_.Settings.WordListFile)),
+                                      {},
+                                      main == nullptr ? Text() : main->GetActiveFolder()});
+    if (!path) return false;
+    app_.Settings.WordListFile = *path;
+    return WriteListFile();
+}
+
+void frmHoldWordList::mnuAutoSave_Click() {
+    const Text current = State().WordListAutoSave == 1 ? u"YES" : u"NO";
+    State().WordListAutoSave =
+        AskYesNo(app_, u"Automatically save word list on closing window ?\r\n\r\nCurrent value: " + current)
+            ? 1
+            : 0;
+}
+
+void frmHoldWordList::mnuAppendToFile_Click() {
+    auto* dialog = app_.Port<SystemFileDialog>();
+    auto* files = app_.Port<TextFiles>();
+    if (lstWordList.Count() == 0 || dialog == nullptr || files == nullptr) return;
+    const KeepCurrentDir keep(app_.Files());
+    const auto path = dialog->Choose(
+        {SystemFileDialog::Purpose::Open, Text(kListFilter), u"Get file to append selected items to"});
+    if (!path) return;
+    AppendedText file(*files, *path);
+    if (!file.Load()) return Warn(app_, u"Can't open file: " + *path);
+    const Answer answer = Ask(app_, u"Append items to beginning (= YES) or end (= NO) of file?");
+    if (answer == Answer::Cancel) return;
+    const bool first = answer == Answer::Yes;
+    file.Write(rows_.Selected(), first ? AppendedText::Place::Beginning : AppendedText::Place::End);
+    if (!file.Save()) return ShowCannotAccess(app_, *path);
+    Inform(app_, NumberText(lstWordList.SelectedCount()) + u" items appended to " +
+                     (first ? u"beginning" : u"end") + u" of this file: \r\n\r\n" + *path);
 }
 
 // The words.

@@ -54,6 +54,14 @@ private:
     void LoadListFile();
     bool WriteListFile();
 
+    void mnuInfo_Click();
+    void mnuLoad_Click();
+    void mnuNew_Click();
+    void mnuAppendToFile_Click();
+    void mnuSave_Click();
+    /// False when nothing was saved.
+    bool SaveUnderAName();
+    void mnuAutoSave_Click();
     void mnuInsert_Click();
     void mnuFindString_Click();
     void mnuEdit_Click();

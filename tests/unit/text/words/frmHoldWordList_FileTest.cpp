@@ -1,0 +1,232 @@
+#include "unit/text/words/WordListStage.h"
+
+namespace korvane {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class WordListFile : public WordListStage {
+protected:
+    /// Shows the box of a read that failed and answers it.
+    void ExpectUnread(const Text& file) {
+        t.user.Answer({u"Can't open file: " + file, MessageIcon::Exclamation}, Answer::Ok);
+    }
+    /// The last box tells that the file can't be written.
+    bool UnwrittenTold(TextView file) const {
+        return t.user.Messages().back().text.starts_with(u"Cannot save this file :\r\n\r\n" + Text(file));
+    }
+};
+
+// Reading.
+
+/// Kept for compatibility: word-list-drops-comments.
+TEST_F(WordListFile, ReadsTheFileWithoutCommentsAndEmptyLinesAndSavesItSo) {
+    HaveFile("; my words\r\none\r\n\r\n two \r\n;off\r\n ; no comment\r\none\r\n");
+    dialog.answer = kFile;
+    Open([](frmHoldWordList& f) {
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u" two ", u" ; no comment", u"one"));
+        EXPECT_EQ(f.Caption.Get(), u"File: words.lst  | Items: 4");
+        f.cmdSave.Press();
+    });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\n two \r\n ; no comment\r\none\r\n");
+}
+
+TEST_F(WordListFile, TheFileIsReadAtTheFirstOpeningAlone) {
+    HaveFile("one\r\n");
+    Open();
+    HaveFile("two\r\n");
+    EXPECT_THAT(Listed(), ElementsAre(u"one"));
+}
+
+TEST_F(WordListFile, TheFirstReadingTakesThePlaceOfWhatWasCollected) {
+    HaveFile("one\r\n");
+    Have({u"collected"});
+    EXPECT_THAT(Listed(), ElementsAre(u"one"));
+}
+
+TEST_F(WordListFile, WithoutAFileWhatWasCollectedIsThere) {
+    t.app.Settings.WordListFile = u"C:\\Korvane\\gone.lst";
+    Have({u"collected"});
+    EXPECT_THAT(Listed(), ElementsAre(u"collected"));
+}
+
+TEST_F(WordListFile, AFileThatCannotBeReadLeavesTheListAlone) {
+    HaveFile("one\r\n");
+    Have({u"collected"});
+    t.files.Faults().FailNth(FileStep::OpenToRead, 1);
+    ExpectUnread(Text(kFile));
+    EXPECT_THAT(Listed(), ElementsAre(u"collected"));
+}
+
+TEST_F(WordListFile, ABinaryFileIsNoList) {
+    HaveFile(std::string_view("MZ\0\1", 4));
+    ExpectUnread(Text(kFile));
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
+TEST_F(WordListFile, AutosaveLeavesAFileThatCouldNotBeRead) {
+    const std::string_view program("MZ\0\1", 4);
+    HaveFile(program);
+    State().WordListAutoSave = 1;
+    ExpectUnread(Text(kFile));
+    Open();
+    Open();
+    EXPECT_EQ(Written(Text(kFile)), program);
+    dialog.answer = kFile;
+    Have({u"one"});
+    Open([](frmHoldWordList& f) { f.cmdSave.Press(); });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\n");
+}
+
+TEST_F(WordListFile, AnEmptyFileIsAnEmptyList) {
+    HaveFile("");
+    Have({u"collected"});
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
+// Opening another list.
+
+TEST_F(WordListFile, AnotherListIsOpenedWithTheChooser) {
+    t.files.AddFile(u"C:\\Korvane\\other.txt", "three\r\n");
+    Open([this](frmHoldWordList& f) {
+        t.user.ChooseFile(u"C:\\Korvane\\other.txt");
+        f.cmdLoad.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"three"));
+        EXPECT_EQ(f.Caption.Get(), u"File: other.txt  | Items: 1");
+        t.user.CancelChooser();
+        f.cmdLoad.Press();
+    });
+    EXPECT_EQ(t.user.Requests().front().FileDialogFilter, u"*.lst;*.txt;*.asc");
+    EXPECT_EQ(t.user.Requests().front().FileDialogCaption, u"");
+    EXPECT_EQ(t.app.Settings.WordListFile, u"C:\\Korvane\\other.txt");
+    EXPECT_EQ(State().WordListBuffer, u"three\r");
+}
+
+/// Kept for compatibility: word-list-names-file-first.
+TEST_F(WordListFile, TheNameIsTakenBeforeTheQuestionAndNoClearsAsYesDoes) {
+    const Message question{u"Clear existing list of 2 items before loading new list from disk?",
+                           MessageIcon::Question, MessageButtons::YesNoCancel, 2};
+    for (const Answer answer : {Answer::Cancel, Answer::Yes, Answer::No}) {
+        t.files.AddFile(u"C:\\Korvane\\other.lst", "three\r\n");
+        t.app.Settings.WordListFile.clear();
+        State().WordListBuffer = u"one\rtwo\r";
+        Open([&](frmHoldWordList& f) {
+            t.user.ChooseFile(u"C:\\Korvane\\other.lst");
+            t.user.Answer(question, answer);
+            f.cmdLoad.Press();
+            EXPECT_EQ(f.lstWordList.Count(), answer == Answer::Cancel ? 2 : 1);
+        });
+        EXPECT_EQ(t.app.Settings.WordListFile, u"C:\\Korvane\\other.lst");
+    }
+}
+
+TEST_F(WordListFile, TheChooserLeavesTheDirectoryAsItWas) {
+    t.files.AddDir(u"C:\\Else");
+    t.files.AddFile(u"C:\\Else\\other.lst", "three\r\n");
+    const Text before = t.files.CurrentDir();
+    Open([this](frmHoldWordList& f) {
+        t.user.OnChooser([this](ListerRequest& request) {
+            t.files.ChangeDir(u"C:\\Else");
+            request.ChosenFilePath = u"C:\\Else\\other.lst";
+        });
+        f.cmdLoad.Press();
+    });
+    EXPECT_EQ(t.files.CurrentDir(), before);
+}
+
+TEST_F(WordListFile, AnotherListThatCannotBeReadLeavesTheWords) {
+    Have({u"one"});
+    t.files.AddFile(u"C:\\Korvane\\other.lst", std::string_view("\0", 1));
+    Open([this](frmHoldWordList& f) {
+        t.user.ChooseFile(u"C:\\Korvane\\other.lst");
+        t.user.Answer(Answer::Yes);
+        ExpectUnread(u"C:\\Korvane\\other.lst");
+        f.cmdLoad.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one"));
+    });
+}
+
+// Saving.
+
+TEST_F(WordListFile, SavesUnderAName) {
+    Have({u"one", u"\u2018two\u2019"});
+    main.folder = u"C:\\Data";
+    t.app.Settings.WordListFile = u"C:\\Korvane\\old.lst";
+    t.files.AddDir(u"C:\\Else");
+    const Text before = t.files.CurrentDir();
+    dialog.whileOpen = [this] { t.files.ChangeDir(u"C:\\Else"); };
+    Open([this](frmHoldWordList& f) {
+        f.cmdSave.Press();
+        EXPECT_EQ(t.app.Settings.WordListFile, u"C:\\Korvane\\old.lst");
+        dialog.answer = kFile;
+        f.cmdSave.Press();
+        EXPECT_EQ(f.Caption.Get(), u"File: words.lst  | Items: 2");
+    });
+    EXPECT_EQ(dialog.requests.front(),
+              (SystemFileDialog::Request{SystemFileDialog::Purpose::Save,
+                                         u"List files (*.lst)|*.lst|All files (*.*)|*.*",
+                                         u"Save Word List As",
+                                         u"old.lst",
+                                         {},
+                                         u"C:\\Data"}));
+    EXPECT_EQ(Written(Text(kFile)), "one\r\n\x91two\x92\r\n");
+    EXPECT_EQ(t.files.CurrentDir(), before);
+}
+
+TEST_F(WordListFile, AFailedSaveIsTold) {
+    Have({u"one"});
+    t.files.AddFile(kFile, "old\r\n");
+    t.files.SetFileReadOnly(kFile);
+    dialog.answer = kFile;
+    Open([this](frmHoldWordList& f) {
+        t.user.AnswerAfter([] {}, Answer::Ok);
+        f.cmdSave.Press();
+        EXPECT_EQ(f.Caption.Get(), u"File: (not yet saved!)  | Items: 1");
+    });
+    EXPECT_TRUE(UnwrittenTold(kFile));
+    EXPECT_EQ(Written(Text(kFile)), "old\r\n");
+}
+
+TEST_F(WordListFile, AutosaveIsAskedForWithItsPresentValue) {
+    const auto question = [](const Text& value) {
+        return Message{u"Automatically save word list on closing window ?\r\n\r\nCurrent value: " + value,
+                       MessageIcon::Question, MessageButtons::YesNo};
+    };
+    Open([&](frmHoldWordList& f) {
+        t.user.Answer(question(u"NO"), Answer::No);
+        f.cmdAutoSave.Press();
+        t.user.Answer(question(u"NO"), Answer::Yes);
+        f.cmdAutoSave.Press();
+        EXPECT_EQ(State().WordListAutoSave, 1);
+        t.user.Answer(question(u"YES"), Answer::No);
+        f.cmdAutoSave.Press();
+    });
+    EXPECT_EQ(State().WordListAutoSave, 0);
+}
+
+TEST_F(WordListFile, AutosaveWritesAtEveryClosing) {
+    HaveFile("one\r\n");
+    State().WordListAutoSave = 1;
+    Open([this](frmHoldWordList& f) {
+        Type(u"two", u"Enter string to put in list.");
+        f.cmdEntry.Press();
+    });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\ntwo\r\n");
+    Open([](frmHoldWordList& f) { f.cmdOk.Press(); });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\ntwo\r\n");
+}
+
+TEST_F(WordListFile, AutosaveWithoutAFileTellsThatItFailed) {
+    Have({u"one"});
+    State().WordListAutoSave = 1;
+    t.user.On<frmHoldWordList>([this](frmHoldWordList& f) {
+        t.user.Answer(Answer::Ok);
+        f.cmdCancel.Press();
+    });
+    EXPECT_EQ(list.Choose(), std::nullopt);
+    EXPECT_TRUE(UnwrittenTold(u"( no name specified or name is empty ! )"));
+}
+
+} // namespace
+} // namespace korvane
