@@ -228,5 +228,138 @@ TEST_F(WordListFile, AutosaveWithoutAFileTellsThatItFailed) {
     EXPECT_TRUE(UnwrittenTold(u"( no name specified or name is empty ! )"));
 }
 
+// A new list.
+
+TEST_F(WordListFile, ANewListAsksForTheOldOne) {
+    HaveFile("one\r\n");
+    const Message question{u"C:\\Korvane\\words.lst\r\n\r\nSave current list before starting a new one?",
+                           MessageIcon::Question, MessageButtons::YesNoCancel};
+    Open([&](frmHoldWordList& f) {
+        t.user.Answer(question, Answer::Cancel);
+        f.cmdNewList.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 1);
+        // The user gives up saving, and nothing of the list is lost.
+        t.user.Answer(question, Answer::Yes);
+        f.cmdNewList.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 1);
+        dialog.answer = u"C:\\Korvane\\kept.lst";
+        t.user.Answer(question, Answer::Yes);
+        f.cmdNewList.Press();
+        EXPECT_EQ(f.Caption.Get(), u"File: New_WordList.lst  | Items: 0");
+    });
+    EXPECT_EQ(Written(u"C:\\Korvane\\kept.lst"), "one\r\n");
+    EXPECT_EQ(t.app.Settings.WordListFile, u"New_WordList.lst");
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
+TEST_F(WordListFile, ANewListDropsTheOldOneOnNo) {
+    HaveFile("one\r\n");
+    Open([this](frmHoldWordList& f) {
+        t.user.Answer(Answer::No);
+        f.cmdNewList.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 0);
+    });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\n");
+}
+
+TEST_F(WordListFile, ANewListDoesntAskWithoutAFileOrWords) {
+    Have({u"one"});
+    Open([](frmHoldWordList& f) {
+        f.cmdNewList.Press();
+        EXPECT_EQ(f.lstWordList.Count(), 0);
+        f.cmdNewList.Press();
+    });
+}
+
+TEST_F(WordListFile, TellsOfItsFile) {
+    HaveFile("one\r\ntwo\r\nthree\r\n");
+    Open([this](frmHoldWordList& f) {
+        Pick(f, {1, 3});
+        t.user.Answer({u"Current \"Word List\" file:\r\nFile:  words.lst\r\nFolder:  C:\\Korvane\r\n"
+                       u"Item total:  3\r\nSelected:  2",
+                       MessageIcon::Information},
+                      Answer::Ok);
+        f.cmdInfo.Press();
+    });
+}
+
+// Appending to another file.
+
+class AppendWords : public WordListFile {
+protected:
+    AppendWords() { Have({u"one", u"two", u"three"}); }
+
+    /// Appends the first and the last word with this answer.
+    void Append(const Text& path, Answer answer) {
+        dialog.answer = path;
+        Open([&](frmHoldWordList& f) {
+            Pick(f, {1, 3});
+            t.user.Answer({u"Append items to beginning (= YES) or end (= NO) of file?", MessageIcon::Question,
+                           MessageButtons::YesNoCancel},
+                          answer);
+            if (answer != Answer::Cancel) t.user.Answer(Answer::Ok);
+            f.cmdAppendToFile.Press();
+        });
+    }
+};
+
+TEST_F(AppendWords, GoToTheBeginningOrTheEndOfTheFile) {
+    const Text path = u"C:\\Korvane\\notes.txt";
+    t.files.AddFile(path, "old\r\n");
+    Append(path, Answer::Yes);
+    EXPECT_EQ(Written(path), "one\r\nthree\r\nold\r\n");
+    EXPECT_EQ(
+        t.user.Messages().back(),
+        (Message{u"2 items appended to beginning of this file: \r\n\r\n" + path, MessageIcon::Information}));
+    Append(path, Answer::No);
+    EXPECT_EQ(Written(path), "one\r\nthree\r\nold\r\none\r\nthree\r\n");
+    EXPECT_EQ(t.user.Messages().back().text, u"2 items appended to end of this file: \r\n\r\n" + path);
+    Append(path, Answer::Cancel);
+    EXPECT_EQ(Written(path), "one\r\nthree\r\nold\r\none\r\nthree\r\n");
+    EXPECT_EQ(dialog.requests.front(),
+              (SystemFileDialog::Request{SystemFileDialog::Purpose::Open,
+                                         u"List files (*.lst)|*.lst|All files (*.*)|*.*",
+                                         u"Get file to append selected items to"}));
+}
+
+TEST_F(AppendWords, AFormattedFileKeepsItsFormat) {
+    const Text path = u"C:\\Korvane\\notes.rtf";
+    t.files.AddFile(path, "{\\rtf1 {\\b bold}\\par}");
+    Append(path, Answer::No);
+    EXPECT_THAT(Written(path), testing::StartsWith("{\\rtf1"));
+    EXPECT_THAT(Written(path), testing::HasSubstr("\\b"));
+    EXPECT_THAT(Written(path), testing::HasSubstr("three"));
+}
+
+TEST_F(AppendWords, AFileThatCannotBeReadIsTold) {
+    dialog.answer = u"C:\\Korvane\\gone.txt";
+    Open([this](frmHoldWordList& f) {
+        ExpectUnread(u"C:\\Korvane\\gone.txt");
+        f.cmdAppendToFile.Press();
+        dialog.answer.reset();
+        f.cmdAppendToFile.Press();
+    });
+}
+
+TEST_F(AppendWords, AFileThatCannotBeWrittenIsTold) {
+    const Text path = u"C:\\Korvane\\notes.txt";
+    t.files.AddFile(path, "old\r\n");
+    t.files.SetDiskReadOnly();
+    Append(path, Answer::No);
+    EXPECT_TRUE(UnwrittenTold(path));
+    t.files.SetDiskReadOnly(false);
+    EXPECT_EQ(Written(path), "old\r\n");
+}
+
+TEST_F(AppendWords, TheDirectoryStays) {
+    const Text path = u"C:\\Korvane\\notes.txt";
+    t.files.AddFile(path, "old\r\n");
+    t.files.AddDir(u"C:\\Else");
+    const Text before = t.files.CurrentDir();
+    dialog.whileOpen = [this] { t.files.ChangeDir(u"C:\\Else"); };
+    Append(path, Answer::Yes);
+    EXPECT_EQ(t.files.CurrentDir(), before);
+}
+
 } // namespace
 } // namespace korvane
