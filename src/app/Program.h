@@ -20,6 +20,7 @@
 #include "text/files/DocumentFiles.h"
 #include "text/markup/TagPairs.h"
 #include "text/window/TextWindows.h"
+#include "text/words/WordListWindow.h"
 
 #include <QString>
 
@@ -65,6 +66,7 @@ private:
     DocumentFiles documents_{files_, app_.Page(), nullptr};
     TextWindows textWindows_{app_};
     TagPairs tagPairs_{app_};
+    WordListWindow wordListWindow_{app_};
     KeptTables keptTables_;
 };
 

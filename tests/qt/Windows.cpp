@@ -42,6 +42,7 @@
 #include "text/paragraph/frmParaSpacing.h"
 #include "text/paragraph/frmTabWidth.h"
 #include "text/window/frm_RTF_HTM.h"
+#include "text/words/frmHoldWordList.h"
 
 namespace korvane {
 
@@ -106,6 +107,12 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmHelp>(
              all.app, std::vector<HelpSection>{{u"What Korvane is", u"Korvane keeps tables of text.\r\n\r\n"},
                                                {u"The keys", u"F1  \u2013  This help text\r\n\r\n"}});
+     }},
+    {"frmHoldWordList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         all.app.Exchange<WordListState>().WordListBuffer =
+             u"Yours sincerely\rwith reference to your letter of\rTable of contents\r";
+         return std::make_unique<frmHoldWordList>(all.app);
      }},
     {"frmHTMLCodes", FromApp<frmHTMLCodes>},
     {"frmIndent", FromApp<frmIndent>},

@@ -6,14 +6,17 @@
 #include "context/Companions.h"
 #include "context/Desktop.h"
 #include "context/FileChooser.h"
+#include "context/Launching.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/MainWindow.h"
 #include "context/ports/SystemFileDialog.h"
+#include "controls/KeyTable.h"
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
+#include "dialogs/Webmail.h"
 #include "dialogs/frmMyInputBox.h"
 #include "files/lists/ListFile.h"
 #include "platform/Clipboard.h"
@@ -43,6 +46,11 @@ constexpr TextView kListFilter = u"List files (*.lst)|*.lst|All files (*.*)|*.*"
 
 /// Far more than a person collects.
 constexpr std::int64_t kLargestWordList = 64'000'000;
+
+/// The key of the minus sign, apart from that on the keypad.
+constexpr int kMinusKey = 189;
+/// From this shift mask on, U and D move a row.
+constexpr int kLeastMoveMask = 3;
 
 bool IsComment(TextView line) {
     return line.starts_with(u';');
@@ -98,6 +106,23 @@ struct frmHoldWordList::Tables {
         {1, "mnuLorrit", u"File &Lorrit", "", &Window::mnuLorrit_Click},
         {1, "mnuExplorer", u"&Windows Explorer", "", &Window::mnuExplorer_Click},
     };
+
+    // The keys that dock the window are tested before these, from top to bottom.
+    static constexpr WindowKey<Window> kKeys[] = {
+        {"Esc", &Window::cmdCancel},
+        {"Return", &Window::cmdOk},
+        {"NumMinus", &Window::cmdOk},
+        {"Ctrl+Shift+F2", &Window::CentreInMainWindow},
+        {"Any+U", &Window::UpKey},
+        // It takes Ctrl+Alt+D too, which shows the desktop elsewhere. Kept for compatibility:
+        // word-list-takes-ctrl-alt-d.
+        {"Any+D", &Window::DownKey},
+        {"Alt+B", &Window::StartBrowser},
+        {"Ctrl+Alt+F5", &Window::Webmail},
+        {"Ctrl+Alt+X", &Window::mnuExplorer_Click},
+        {"Insert", &Window::cmdEntry},
+        {"Delete", &Window::cmdClear},
+    };
 };
 
 frmHoldWordList::frmHoldWordList(App& app)
@@ -127,6 +152,7 @@ void frmHoldWordList::Wire() {
     cmdCancel.Click = [this] { Close(); };
     cmdCancel.Cancel = true;
     lstWordList.DblClick = [this] { mnuInsert_Click(); };
+    lstWordList.KeyDown = [this](KeyEvent& key) { lstWordList_KeyDown(key); };
 }
 
 WordListState& frmHoldWordList::State() const {
@@ -391,8 +417,34 @@ void frmHoldWordList::mnuExplorer_Click() {
     ExploreFolder(app_, FolderOfList());
 }
 
+// Keys.
+
+void frmHoldWordList::lstWordList_KeyDown(KeyEvent& key) {
+    if (key.Is(kMinusKey, Mask::None)) key.code = Key::NumMinus;
+    const Form* main = MainForm();
+    if (main == nullptr || !DockByKey(app_, *main, *this, key)) RunKey(Tables::kKeys, *this, key);
+}
+
+void frmHoldWordList::UpKey(KeyEvent& key) {
+    key.consumed = key.mask >= kLeastMoveMask;
+    if (key.consumed) rows_.Move(-1);
+}
+
+void frmHoldWordList::DownKey(KeyEvent& key) {
+    key.consumed = key.mask >= kLeastMoveMask;
+    if (key.consumed) rows_.Move(1);
+}
+
 void frmHoldWordList::CentreInMainWindow() {
     if (const Form* main = MainForm()) CentreOn(*main, *this);
+}
+
+void frmHoldWordList::StartBrowser() {
+    LaunchProgram(app_, Text(app_.Settings.CustomBrowserPath));
+}
+
+void frmHoldWordList::Webmail() {
+    OpenWebmail(app_);
 }
 
 } // namespace korvane

@@ -77,7 +77,14 @@ private:
     void mnuLorrit_Click();
     void mnuExplorer_Click();
 
+    // Keys.
+
+    void lstWordList_KeyDown(KeyEvent& key);
+    void UpKey(KeyEvent& key);
+    void DownKey(KeyEvent& key);
     void CentreInMainWindow();
+    void StartBrowser();
+    void Webmail();
 
     Text FolderOfList() const;
 
