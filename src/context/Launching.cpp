@@ -44,17 +44,6 @@ Text ThatFile(const FileSystem& files, const Text& program) {
     return files.Style().IsAbsolute(program) ? program : files.FullPath(program);
 }
 
-Text FindProgram(const FileSystem& files, TextView program) {
-    const PathStyle style = files.Style();
-    if (!style.HasDrives() && HasWindowsForm(program)) return FindByName(files, program);
-    const Text mapped = MapDrivePath(files, program);
-    if (mapped.empty()) return mapped;
-    if (files.FileExists(mapped)) return ThatFile(files, mapped);
-    const TextView name = style.NamePart(mapped);
-    const Text inSet = InCompanionSet(style, name);
-    return style.HasDrives() && files.FileExists(inSet) ? inSet : InProgramFolder(files, name);
-}
-
 struct OfficeProgram {
     TextView name;
     Text Settings::*location;
@@ -77,6 +66,17 @@ Text LocationSet(const Settings& settings, TextView name) {
 }
 
 } // namespace
+
+Text FindProgram(const FileSystem& files, TextView program) {
+    const PathStyle style = files.Style();
+    if (!style.HasDrives() && HasWindowsForm(program)) return FindByName(files, program);
+    const Text mapped = MapDrivePath(files, program);
+    if (mapped.empty()) return mapped;
+    if (files.FileExists(mapped)) return ThatFile(files, mapped);
+    const TextView name = style.NamePart(mapped);
+    const Text inSet = InCompanionSet(style, name);
+    return style.HasDrives() && files.FileExists(inSet) ? inSet : InProgramFolder(files, name);
+}
 
 TextView BareArgument(TextView argument) {
     if (argument.find(u'"') != TextView::npos) argument = Mid(argument.substr(0, argument.size() - 1), 2);

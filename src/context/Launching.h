@@ -7,6 +7,7 @@
 namespace korvane {
 
 class App;
+class FileSystem;
 
 /// Starts a program in a normal window with the words of `argument`. These aren't quoted, so a path with
 /// blanks reaches the program as several words (kept for compatibility: argument-not-quoted). An argument
@@ -19,6 +20,9 @@ int LaunchProgram(App& app, TextView program, TextView argument = {});
 /// Starts a program that is there in a normal window, without looking for it anywhere else; each argument
 /// reaches it as one word.
 int StartProgram(App& app, TextView program, const std::vector<Text>& arguments = {});
+
+/// Where `LaunchProgram` finds the program. The path may not exist when it is nowhere; empty for no name.
+Text FindProgram(const FileSystem& files, TextView program);
 
 /// The argument as `LaunchProgram` takes it: without its outer characters if it holds a double quote, and
 /// without outer blanks.

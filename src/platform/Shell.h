@@ -38,6 +38,8 @@ public:
     virtual int Run(TextView program, const std::vector<Text>& arguments, WindowState window) = 0;
     /// Nothing happens when it can't be opened.
     virtual void Open(const OpenRequest& request) = 0;
+    /// Shows an address of the web in the desktop's own browser. Nothing happens for one of another kind.
+    virtual void Browse(TextView address) = 0;
     /// Shows a folder in the desktop's file manager.
     virtual void Explore(TextView folder) = 0;
     /// Moves a file, a link or a whole folder to the recycle store, from which the user can get it back.

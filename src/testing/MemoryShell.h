@@ -46,6 +46,7 @@ public:
         return started ? static_cast<int>(starts_.size()) : 0;
     }
     void Open(const OpenRequest& request) override { opened_.push_back(request); }
+    void Browse(TextView address) override { browsed_.emplace_back(address); }
     void Explore(TextView folder) override { calls_.push_back({ShellCall::Kind::Explore, Text(folder)}); }
     bool Recycle(TextView path, RecycleTalk talk) override {
         recycled_.push_back({Text(path), talk});
@@ -68,6 +69,9 @@ public:
     /// All that was to be opened so far, in order.
     const std::vector<OpenRequest>& Opened() const { return opened_; }
 
+    /// All addresses that the desktop's browser was to show so far, in order.
+    const std::vector<Text>& Browsed() const { return browsed_; }
+
     /// All that was to go to the recycle store so far, also what stayed, in order.
     const std::vector<Recycling>& Recycled() const { return recycled_; }
 
@@ -75,6 +79,7 @@ private:
     std::vector<ShellCall> calls_;
     std::vector<ProgramStart> starts_;
     std::vector<OpenRequest> opened_;
+    std::vector<Text> browsed_;
     std::vector<Recycling> recycled_;
     std::function<bool(TextView program)> startable_;
     std::function<bool(TextView path)> recycler_;

@@ -1,5 +1,6 @@
 #include "platform/windows/Win32Shell.h"
 
+#include "common/path/WebAddress.h"
 #include "common/text/CaseFold.h"
 #include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/RecycleStore.h"
@@ -76,6 +77,15 @@ const wchar_t* OrNull(const std::wstring& text) {
     return text.empty() ? nullptr : text.c_str();
 }
 
+/// Windows shows no message of its own about what can't be opened.
+void Execute(SHELLEXECUTEINFOW& execute) {
+    const ObjectsInUse objects;
+    execute.cbSize = sizeof execute;
+    execute.fMask = SEE_MASK_FLAG_NO_UI;
+    execute.nShow = SW_SHOWNORMAL;
+    ShellExecuteExW(&execute);
+}
+
 } // namespace
 
 int Win32Shell::Run(TextView program, const std::vector<Text>& arguments, WindowState window) {
@@ -97,21 +107,25 @@ int Win32Shell::Run(TextView program, const std::vector<Text>& arguments, Window
 
 void Win32Shell::Open(const OpenRequest& request) {
     if (request.file.empty()) return;
-    const ObjectsInUse objects;
     const std::wstring verb = ToWide(request.verb);
     const std::wstring file = FileOf(request);
     const std::wstring parameters = ToWide(request.parameters);
     const std::wstring directory = FolderToStartIn(request.directory);
     SHELLEXECUTEINFOW execute{};
-    execute.cbSize = sizeof execute;
-    // Windows shows no message of its own about a file that can't be opened.
-    execute.fMask = SEE_MASK_FLAG_NO_UI;
     execute.lpVerb = verb.c_str();
     execute.lpFile = file.c_str();
     execute.lpParameters = OrNull(parameters);
     execute.lpDirectory = OrNull(directory);
-    execute.nShow = SW_SHOWNORMAL;
-    ShellExecuteExW(&execute);
+    Execute(execute);
+}
+
+void Win32Shell::Browse(TextView address) {
+    if (!IsForBrowsers(address)) return;
+    const std::wstring wide = ToWide(address);
+    SHELLEXECUTEINFOW execute{};
+    execute.lpVerb = L"open";
+    execute.lpFile = wide.c_str();
+    Execute(execute);
 }
 
 void Win32Shell::Explore(TextView folder) {

@@ -18,11 +18,11 @@ class UrlCatcher : public QObject {
     Q_OBJECT
 public:
     UrlCatcher() {
-        for (const char* scheme : {"file", "trash"})
+        for (const char* scheme : {"file", "trash", "http", "https", "ssh"})
             QDesktopServices::setUrlHandler(scheme, this, "Catch");
     }
     ~UrlCatcher() override {
-        for (const char* scheme : {"file", "trash"})
+        for (const char* scheme : {"file", "trash", "http", "https", "ssh"})
             QDesktopServices::unsetUrlHandler(scheme);
     }
 
@@ -72,6 +72,17 @@ TEST(QtShell, ExploresAFolder) {
     shell.Explore(u"/data/sub folder");
     shell.Explore(u"");
     EXPECT_EQ(desktop.urls, Files({"/data/sub folder"}));
+}
+
+TEST(QtShell, BrowsesAddressesOfTheWebAlone) {
+    UrlCatcher desktop;
+    QtShell shell;
+    shell.Browse(u"https://x.org/a b?c#d");
+    shell.Browse(u"HTTP://x.org");
+    shell.Browse(u"ssh://x.org");
+    shell.Browse(u"/data/page.htm");
+    shell.Browse(u"");
+    EXPECT_EQ(desktop.urls, (std::vector<QUrl>{QUrl("https://x.org/a b?c#d"), QUrl("http://x.org")}));
 }
 
 TEST(QtShell, MovesAFileToTheTrashOfTheUser) {

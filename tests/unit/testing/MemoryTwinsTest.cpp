@@ -138,6 +138,12 @@ TEST(MemoryShellTest, RemembersItsCalls) {
                                            ShellCall{ShellCall::Kind::ToggleDesktop, u""}));
 }
 
+TEST(MemoryShellTest, RemembersTheAddressesThatWereBrowsed) {
+    MemoryShell shell;
+    shell.Browse(u"https://x.org");
+    EXPECT_THAT(shell.Browsed(), ElementsAre(u"https://x.org"));
+}
+
 TEST(MemoryFileTypesTest, FindsTypesByTheExtensionAndRemembersTheFilesThatWereRead) {
     MemoryFileTypes types;
     types.SetType(u".exe", {u"Application", u"DOSExeIcon"});

@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/QtShell.h"
 
+#include "common/path/WebAddress.h"
 #include "platform/DesktopTarget.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/Trash.h"
@@ -49,6 +50,10 @@ int QtShell::Run(TextView program, const std::vector<Text>& arguments, WindowSta
 void QtShell::Open(const OpenRequest& request) {
     const QUrl url = UrlOf(TargetOf(request));
     if (!url.isEmpty()) QDesktopServices::openUrl(url);
+}
+
+void QtShell::Browse(TextView address) {
+    if (IsForBrowsers(address)) QDesktopServices::openUrl(QUrl(ToQString(address)));
 }
 
 void QtShell::Explore(TextView folder) {
