@@ -9,6 +9,7 @@
 #include "dbops/windows/frmTxtDbColName.h"
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
+#include "extras/web/frmWebList.h"
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
 #include "files/jobs/frmFolderOpNotify.h"
@@ -172,6 +173,10 @@ constexpr Window kWindows[] = {
     {"frmViewCell",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmViewCell>(all.app, all.cell);
+     }},
+    {"frmWebList",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmWebList>(all.app, all.main);
      }},
     {"frmWindowSize",
      [](Surroundings& all) -> std::unique_ptr<Form> {
