@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context/App.h"
+#include "extras/web/Websites.h"
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
 #include "kept/KeptTables.h"
@@ -67,6 +68,7 @@ private:
     TextWindows textWindows_{app_};
     TagPairs tagPairs_{app_};
     WordListWindow wordListWindow_{app_};
+    Websites websites_{app_};
     KeptTables keptTables_;
 };
 

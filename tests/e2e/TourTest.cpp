@@ -106,7 +106,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuMisc_About", Shows("^About Korvane$")},
     {"mnuMisc_Settings", Shows("^Settings$")},
     {"mnuMisc_Wallpaper", kSilent},
-    {"mnuMisc_Websites", kSilent},
+    {"mnuMisc_Websites", Shows("^Website list :")},
     {"mnuMisc_YourProgram", Shows("^Set your program$")},
     {"mnuMisc_Clock", kSilent},
     {"mnuMisc_Browser", kSilent},

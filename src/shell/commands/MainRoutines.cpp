@@ -9,6 +9,7 @@
 #include "context/exchange/StateFiles.h"
 #include "context/ports/ClipboardView.h"
 #include "context/ports/TextWindow.h"
+#include "context/ports/WebsiteList.h"
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
@@ -143,6 +144,10 @@ void ViewAndPaste(const MainParts& main) {
 
 void mnuView_TextEdit(const MainParts& main) {
     if (auto* textWindow = main.app.Port<TextWindow>()) textWindow->TextWindowShow();
+}
+
+void mnuMisc_Websites(const MainParts& main) {
+    if (auto* websites = main.app.Port<WebsiteList>()) websites->Show();
 }
 
 void mnuMisc_Calc(const MainParts& main) {

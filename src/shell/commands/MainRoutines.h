@@ -35,6 +35,7 @@ void mnuMisc_Settings(const MainParts& main);
 void mnuMisc_YourProgram(const MainParts& main);
 void ViewAndPaste(const MainParts& main);
 void mnuView_TextEdit(const MainParts& main);
+void mnuMisc_Websites(const MainParts& main);
 
 // What they start is a program of its own.
 void mnuMisc_Calc(const MainParts& main);
