@@ -258,7 +258,7 @@ const Called kCalled[] = {
     {ON_THE_MAIN_WINDOW(mnuMisc_Settings)},
     {"mnuMisc_Wallpaper", {}},
     {ON_THE_MAIN_WINDOW(mnuMisc_Browser)},
-    {"mnuMisc_Websites", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Websites)},
     {ON_THE_MAIN_WINDOW(mnuMisc_YourProgram)},
     {"mnuMisc_Clock", {}},
     {ON_THE_MAIN_WINDOW(mnuMisc_Explorer)},
