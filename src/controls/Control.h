@@ -27,8 +27,9 @@ public:
     Property<bool> Visible{*this, Aspect::Visible, true};
     Property<Text> ToolTipText{*this, Aspect::ToolTip};
     Property<FontSpec> Font{*this, Aspect::Font};
-    /// 0 leaves the width to the layout of the window.
+    /// 0 leaves the width or the height to the layout of the window.
     Property<Twips> Width{*this, Aspect::Place};
+    Property<Twips> Height{*this, Aspect::Place};
     /// This is for the window's own use and isn't shown.
     Text Tag;
 

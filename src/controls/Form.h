@@ -71,6 +71,8 @@ public:
     virtual void FilesDropped(const std::vector<Text>&) {}
     /// Sees each key before the control that has the focus.
     virtual void KeyDown(KeyEvent&) {}
+    /// A mouse button was released over the window, where no control uses the mouse.
+    virtual void Clicked() {}
 
 private:
     friend class Control;

@@ -16,6 +16,9 @@ inline constexpr int Back = 8;
 inline constexpr int Tab = 9;
 inline constexpr int Clear = 12;
 inline constexpr int Return = 13;
+inline constexpr int Shift = 16;
+inline constexpr int Control = 17;
+inline constexpr int Alt = 18;
 inline constexpr int Escape = 27;
 inline constexpr int Space = 32;
 inline constexpr int PageUp = 33;
@@ -44,6 +47,8 @@ struct KeyEvent {
     bool consumed = false;
 
     bool Is(int wantedCode, int wantedMask) const { return code == wantedCode && mask == wantedMask; }
+    /// Whether the key only changes what others mean.
+    bool IsModifier() const { return code >= Key::Shift && code <= Key::Alt; }
 };
 
 } // namespace korvane

@@ -13,6 +13,9 @@ public:
     Property<int> Min{*this, Aspect::Range};
     Property<int> Max{*this, Aspect::Range};
     Property<int> Value{*this, Aspect::Value};
+    /// How far a click beside the handle moves it, which is the length of a scroll bar's handle too. 0 leaves
+    /// it to the look of the window.
+    Property<int> LargeChange{*this, Aspect::Range};
 
     std::function<void()> Change;
     /// The user moved it. `Change` has fired before.

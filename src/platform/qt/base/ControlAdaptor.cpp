@@ -70,7 +70,7 @@ void ControlAdaptor::Write(Aspect aspect) {
             widget_->setFont(WithSpec(QApplication::font(widget_), subject_->Font));
         break;
     case Aspect::Place:
-        WriteWidth();
+        WriteSize();
         break;
     case Aspect::Focus:
         widget_->setFocus(Qt::OtherFocusReason);
@@ -80,8 +80,9 @@ void ControlAdaptor::Write(Aspect aspect) {
     }
 }
 
-void ControlAdaptor::WriteWidth() {
+void ControlAdaptor::WriteSize() {
     if (subject_->Width.Get() > Twips{0}) widget_->setFixedWidth(ToPixels(subject_->Width));
+    if (subject_->Height.Get() > Twips{0}) widget_->setFixedHeight(ToPixels(subject_->Height));
 }
 
 bool ControlAdaptor::eventFilter(QObject* watched, QEvent* event) {

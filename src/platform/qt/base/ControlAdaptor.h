@@ -39,7 +39,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void WriteWidth();
+    void WriteSize();
     bool KeyPressed(const QKeyEvent& event);
 
     Control* subject_;

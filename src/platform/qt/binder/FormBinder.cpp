@@ -55,6 +55,7 @@ constexpr Maker kMakers[] = {
     Make<ProgressBar, QProgressBar, ProgressAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,
     Make<Splitter, QSplitter, SplitterAdaptor>,
+    Make<Timer, QTimer, TimerAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<TextControl, QtTextView, TextControlAdaptor>,
     Make<TextRuler, TextRulerView, TextRulerAdaptor>,
@@ -64,14 +65,15 @@ constexpr Maker kMakers[] = {
     Make<TabStrip, TabPages, TabStripAdaptor>,
 };
 
-QObject* FindShown(const Control& control, QWidget& window) {
+QObject* ShownFor(const Control& control, QWidget& window) {
+    if (dynamic_cast<const Timer*>(&control) != nullptr) return new QTimer(&window);
     const auto name = QString::fromStdString(control.Name());
     if (auto* widget = window.findChild<QWidget*>(name)) return widget;
     return window.findChild<QAction*>(name);
 }
 
 ControlAdaptor* Tie(Control& control, QWidget& window, PageSource& pages) {
-    QObject* shown = FindShown(control, window);
+    QObject* shown = ShownFor(control, window);
     if (shown == nullptr) return nullptr;
     for (const Maker make : kMakers) {
         if (ControlAdaptor* adaptor = make(control, *shown, pages)) return adaptor;

@@ -1,6 +1,7 @@
 #include "controls/Label.h"
 #include "controls/Menu.h"
 #include "controls/Splitter.h"
+#include "controls/Timer.h"
 #include "platform/qt/binder/FormBinder.h"
 
 #include <QAbstractButton>
@@ -13,8 +14,9 @@ namespace korvane {
 namespace {
 
 bool IsShown(const Control& control, const QWidget& window) {
-    // A menu that isn't on the menu bar pops up and has no widget in the window.
-    if (dynamic_cast<const Menu*>(&control) != nullptr) return true;
+    // A menu that isn't on the menu bar pops up and has no widget in the window, and a timer is never seen.
+    if (dynamic_cast<const Menu*>(&control) != nullptr || dynamic_cast<const Timer*>(&control) != nullptr)
+        return true;
     const auto name = QString::fromStdString(control.Name());
     return window.findChild<QWidget*>(name) != nullptr || window.findChild<QAction*>(name) != nullptr;
 }

@@ -177,8 +177,23 @@ void SliderAdaptor::Write(Aspect aspect) {
     // for a move of the user and keeps its own value.
     const QSignalBlocker quiet(widget_);
     if (aspect == Aspect::Range) widget_.setRange(control_.Min, control_.Max);
+    if (aspect == Aspect::Range && control_.LargeChange > 0) widget_.setPageStep(control_.LargeChange);
     if (aspect == Aspect::Range || aspect == Aspect::Value) widget_.setValue(control_.Value);
     AdaptorOf::Write(aspect);
+}
+
+TimerAdaptor::TimerAdaptor(Timer& timer, QTimer& shown) : AdaptorOf(timer, shown) {
+    shown.setInterval(timer.Interval());
+    connect(&shown, &QTimer::timeout, this, [this] { control_.Elapse(); });
+}
+
+void TimerAdaptor::Write(Aspect aspect) {
+    if (aspect != Aspect::Enabled) return;
+    if (control_.Enabled) {
+        widget_.start();
+    } else {
+        widget_.stop();
+    }
 }
 
 } // namespace korvane

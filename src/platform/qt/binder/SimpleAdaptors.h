@@ -5,12 +5,14 @@
 #include "controls/Label.h"
 #include "controls/ProgressBar.h"
 #include "controls/Slider.h"
+#include "controls/Timer.h"
 #include "platform/qt/base/ControlAdaptor.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QLabel>
 #include <QProgressBar>
+#include <QTimer>
 
 namespace korvane {
 
@@ -93,6 +95,14 @@ private:
 class SliderAdaptor : public AdaptorOf<Slider, QAbstractSlider> {
 public:
     SliderAdaptor(Slider& slider, QAbstractSlider& widget);
+
+protected:
+    void Write(Aspect aspect) override;
+};
+
+class TimerAdaptor : public AdaptorOf<Timer, QTimer> {
+public:
+    TimerAdaptor(Timer& timer, QTimer& shown);
 
 protected:
     void Write(Aspect aspect) override;

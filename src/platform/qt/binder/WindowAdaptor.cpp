@@ -93,6 +93,9 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Drop:
         TakeDrop(*event);
         return true;
+    case QEvent::MouseButtonRelease:
+        form_->Clicked();
+        break;
     case QEvent::WindowActivate:
         TellActivated();
         break;
