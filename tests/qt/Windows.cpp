@@ -9,6 +9,7 @@
 #include "dbops/windows/frmTxtDbColName.h"
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
+#include "extras/clock/frmShowTimer.h"
 #include "extras/web/frmWebList.h"
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
@@ -23,6 +24,7 @@
 #include "files/names/frmNewDir.h"
 #include "files/names/frmRenDir.h"
 #include "files/names/frmRenFile.h"
+#include "platform/FileSystem.h"
 #include "shell/commands/frmAbout.h"
 #include "shell/commands/frmHelp.h"
 #include "shell/recent/frmFileList.h"
@@ -151,6 +153,7 @@ constexpr Window kWindows[] = {
                                               all.main.iGridListBar);
      }},
     {"frmShowFieldContents", FromApp<frmShowFieldContents>},
+    {"frmShowTimer", FromApp<frmShowTimer>},
     {"frmTabWidth", FromApp<frmTabWidth>},
     {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
     {"frmTxtDbColName",

@@ -113,7 +113,7 @@ constexpr std::array kCommands{
     Command{1, "mnuMisc_Browser", u"Internet &browser    ( Alt-B )", "", &mnuMisc_Browser},
     Command{1, "mnuMisc_Websites", u"&List of websites", "Ctrl+F7", &mnuMisc_Websites},
     Command{1, "mnuMisc_YourProgram", u"&Your program", "F9", &mnuMisc_YourProgram},
-    Command{1, "mnuMisc_Clock", u"&Time and date", ""},
+    Command{1, "mnuMisc_Clock", u"&Time and date", "", &mnuMisc_Clock},
     Command{1, "mnuMisc_Explorer", u"Windows E&xplorer", "Ctrl+Shift+F9", &mnuMisc_Explorer},
 
     Command{0, "mnuSideBar", u"&SideBar", "", &mnuSideBar},

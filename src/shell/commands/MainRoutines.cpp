@@ -11,6 +11,7 @@
 #include "context/ports/TextWindow.h"
 #include "context/ports/WebsiteList.h"
 #include "dialogs/Questions.h"
+#include "extras/clock/frmShowTimer.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "shell/commands/MainParts.h"
@@ -136,6 +137,10 @@ void mnuMisc_Settings(const MainParts& main) {
 
 void mnuMisc_YourProgram(const MainParts& main) {
     frmSetYourProg(main.app).ShowModal();
+}
+
+void mnuMisc_Clock(const MainParts& main) {
+    frmShowTimer(main.app).ShowModal();
 }
 
 void ViewAndPaste(const MainParts& main) {

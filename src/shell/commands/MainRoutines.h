@@ -33,6 +33,7 @@ void mnuHelpText(const MainParts& main);
 void mnuMisc_About(const MainParts& main);
 void mnuMisc_Settings(const MainParts& main);
 void mnuMisc_YourProgram(const MainParts& main);
+void mnuMisc_Clock(const MainParts& main);
 void ViewAndPaste(const MainParts& main);
 void mnuView_TextEdit(const MainParts& main);
 void mnuMisc_Websites(const MainParts& main);

@@ -260,7 +260,7 @@ const Called kCalled[] = {
     {ON_THE_MAIN_WINDOW(mnuMisc_Browser)},
     {ON_THE_MAIN_WINDOW(mnuMisc_Websites)},
     {ON_THE_MAIN_WINDOW(mnuMisc_YourProgram)},
-    {"mnuMisc_Clock", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Clock)},
     {ON_THE_MAIN_WINDOW(mnuMisc_Explorer)},
     {ON_THE_MAIN_WINDOW(mnuSideBar)},
     {ON_A_TAB(mnuRowUp)},
