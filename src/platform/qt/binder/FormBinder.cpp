@@ -12,6 +12,7 @@
 #include "platform/qt/lists/ListBoxAdaptor.h"
 #include "platform/qt/lists/ListViewAdaptor.h"
 #include "platform/qt/lists/TreeViewAdaptor.h"
+#include "platform/qt/picture/PictureAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
 #include "platform/qt/text/TextBarAdaptors.h"
 #include "platform/qt/text/TextControlAdaptor.h"
@@ -56,6 +57,7 @@ constexpr Maker kMakers[] = {
     Make<Slider, QAbstractSlider, SliderAdaptor>,
     Make<Splitter, QSplitter, SplitterAdaptor>,
     Make<Timer, QTimer, TimerAdaptor>,
+    Make<PictureBox, PictureView, PictureAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<TextControl, QtTextView, TextControlAdaptor>,
     Make<TextRuler, TextRulerView, TextRulerAdaptor>,
