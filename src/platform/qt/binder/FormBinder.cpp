@@ -1,6 +1,7 @@
 #include "platform/qt/binder/FormBinder.h"
 
 #include "platform/qt/base/Icons.h"
+#include "platform/qt/binder/DeskCover.h"
 #include "platform/qt/binder/DropDownAdaptor.h"
 #include "platform/qt/binder/MenuAdaptor.h"
 #include "platform/qt/binder/SimpleAdaptors.h"
@@ -97,6 +98,7 @@ FormBinder::FormBinder(Form& form, QWidget& window, PageSource& pages) : form_(&
     SetIcons(window);
     for (QToolBar* bar : window.findChildren<QToolBar*>())
         new ToolBarKeys(*bar);
+    if (window.property("coversTheDesk").toBool()) new DeskCover(window);
 }
 
 FormBinder::~FormBinder() {
