@@ -9,6 +9,7 @@
 #include "context/ports/FileViewer.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/PageViewer.h"
+#include "context/ports/PictureFiles.h"
 #include "context/ports/SystemFileDialog.h"
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
@@ -58,6 +59,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<ColourPicker>(&colourPicker_);
+    app_.SetPort<PictureFiles>(&pictureFiles_);
     app_.SetPort<FileViewer>(&fileHandling_);
     app_.SetPort<TableKeeper>(&keptTables_);
     app_.SetPort<TextFiles>(&documents_);

@@ -8,6 +8,7 @@
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
+#include "platform/qt/picture/QtPictureFiles.h"
 #include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
@@ -58,6 +59,7 @@ private:
     QtSystemFileDialog systemFileDialog_;
     QtFontPicker fontPicker_;
     QtColourPicker colourPicker_;
+    QtPictureFiles pictureFiles_;
     App app_;
     ClipboardWindow clipboardWindow_{app_};
     Lister lister_{app_};

@@ -10,6 +10,7 @@
 #include "dialogs/frmMyInputBox.h"
 #include "dialogs/frmMyMsgBox.h"
 #include "extras/clock/frmShowTimer.h"
+#include "extras/lock/frmWallpaper.h"
 #include "extras/web/frmWebList.h"
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
@@ -176,6 +177,12 @@ constexpr Window kWindows[] = {
     {"frmViewCell",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmViewCell>(all.app, all.cell);
+     }},
+    {"frmWallpaper",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         all.app.Settings.WallpaperFile = u"C:\\sea.png";
+         all.app.Files().OpenRaw(all.app.Settings.WallpaperFile);
+         return std::make_unique<frmWallpaper>(all.app);
      }},
     {"frmWebList",
      [](Surroundings& all) -> std::unique_ptr<Form> {

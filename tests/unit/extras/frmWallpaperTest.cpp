@@ -1,0 +1,247 @@
+#include "extras/lock/frmWallpaper.h"
+
+#include "context/exchange/InputQuestion.h"
+#include "dialogs/frmMyInputBox.h"
+#include "support/FakeSystemFileDialog.h"
+#include "support/TestApp.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace korvane {
+namespace {
+
+class FakePictureFiles final : public PictureFiles {
+public:
+    explicit FakePictureFiles(App& app) { app.SetPort<PictureFiles>(this); }
+    std::optional<PictureSize> NaturalSize(TextView path) override {
+        const auto found = sizes.find(Text(path));
+        return found == sizes.end() ? std::nullopt : std::optional(found->second);
+    }
+    std::map<Text, PictureSize> sizes;
+};
+
+constexpr TextView kSea = u"C:\\pictures\\sea.jpg";
+constexpr Rect kNoPlace{};
+
+Rect Place(int left, int top, int width, int height) {
+    return {Twips(left), Twips(top), Twips(width), Twips(height)};
+}
+
+class WallpaperTest : public testing::Test {
+protected:
+    WallpaperTest() {
+        t.screen.SetWorkArea(Place(500, 300, 10000, 8000));
+        t.files.AddFile(kSea);
+        pictures.sizes[Text(kSea)] = {Twips(5000), Twips(4000)};
+        t.app.Settings.WallpaperFile = kSea;
+        t.app.Settings.ReturnPassword = u"Secret";
+    }
+
+    /// Opens the lock. After the script the right password opens it.
+    void InLock(const std::function<void(frmWallpaper&)>& script) {
+        t.user.On<frmWallpaper>([this, script](frmWallpaper& f) {
+            script(f);
+            Answer(u"Secret");
+            EXPECT_TRUE(f.Close());
+        });
+        frmWallpaper(t.app).ShowModal();
+    }
+    /// The next question gets this answer.
+    void Answer(TextView answer) {
+        t.user.On<frmMyInputBox>([answer = Text(answer)](frmMyInputBox& box) {
+            box.txtBoxText.Text = answer;
+            box.cmdOk.Press();
+        });
+    }
+    void ExpectWrong(TextView answer) {
+        t.user.Answer({u"Wrong password!\r\n\r\n\"" + Text(answer) + u"\"", MessageIcon::Stop},
+                      korvane::Answer::Ok);
+    }
+
+    TestApp t;
+    FakePictureFiles pictures{t.app};
+    FakeSystemFileDialog chooser{t.app};
+};
+
+TEST_F(WallpaperTest, CoversTheWorkArea) {
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ((Rect{f.Left, f.Top, f.Width, f.Height}), Place(500, 300, 10000, 8000));
+    });
+}
+
+TEST_F(WallpaperTest, HasItsBar) {
+    InLock([](frmWallpaper& f) {
+        std::vector<Text> captions;
+        for (const MenuEntry& entry : f.OfficeMenu1.Entries())
+            captions.emplace_back(entry.caption);
+        EXPECT_EQ(captions, (std::vector<Text>{u"E&xit", u"&Stretch", u"&Image"}));
+    });
+}
+
+// The picture.
+
+TEST_F(WallpaperTest, AnEmptyNameIsReportedAndTheWindowStaysBlank) {
+    t.app.Settings.WallpaperFile = u"";
+    t.user.Answer({u"Cannot locate the following program/file:\r\n\r\n( Filename empty! )\r\n\r\nCheck the "
+                   u"path before the name and see whether\r\nthe program/file exists on your hard disk.",
+                   MessageIcon::Stop},
+                  Answer::Ok);
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ(f.Image1.File.Get(), u"");
+        EXPECT_EQ(f.Image1.Place.Get(), kNoPlace);
+    });
+    EXPECT_EQ(t.app.Settings.WallpaperFile, u"");
+}
+
+TEST_F(WallpaperTest, ALostFileIsReportedAndTheWindowStaysBlank) {
+    t.app.Settings.WallpaperFile = u"C:\\lost.png";
+    t.user.Answer({u"Cannot locate the following program/file:\r\n\r\nC:\\lost.png\r\n\r\nCheck the path "
+                   u"before the name and see whether\r\nthe program/file exists on your hard disk.",
+                   MessageIcon::Stop},
+                  Answer::Ok);
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ(f.Image1.File.Get(), u"");
+        EXPECT_FALSE(f.HScroll1.Visible);
+        EXPECT_FALSE(f.VScroll1.Visible);
+    });
+}
+
+TEST_F(WallpaperTest, AnUnreadablePictureLeavesTheImageEmptyWithoutAWord) {
+    pictures.sizes.clear();
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ(f.Image1.File.Get(), u"");
+        EXPECT_EQ(f.Image1.Place.Get(), kNoPlace);
+    });
+    EXPECT_TRUE(t.user.Messages().empty());
+}
+
+TEST_F(WallpaperTest, APictureIsCentredInItsOwnSize) {
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ(f.Image1.File.Get(), kSea);
+        EXPECT_EQ(f.Image1.Place.Get(), Place(2500, 2000, 5000, 4000));
+        EXPECT_FALSE(f.HScroll1.Visible);
+        EXPECT_FALSE(f.VScroll1.Visible);
+    });
+}
+
+TEST_F(WallpaperTest, APictureIsStretchedWhenTheSettingIsOne) {
+    t.app.Settings.WallpaperNumber = u"1";
+    InLock([](frmWallpaper& f) { EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 10000, 8000)); });
+}
+
+TEST_F(WallpaperTest, AnyOtherSettingLeavesItsSize) {
+    for (const TextView number : {u"", u"0", u"2", u"-1"}) {
+        t.app.Settings.WallpaperNumber = number;
+        InLock([](frmWallpaper& f) { EXPECT_EQ(f.Image1.Place.Get(), Place(2500, 2000, 5000, 4000)); });
+    }
+}
+
+TEST_F(WallpaperTest, FollowsTheRoomInsideTheWindow) {
+    InLock([](frmWallpaper& f) {
+        f.Image1.Resized(Twips(10000), Twips(7700));
+        EXPECT_EQ(f.Image1.Place.Get(), Place(2500, 1850, 5000, 4000));
+    });
+}
+
+TEST_F(WallpaperTest, NothingIsFittedIntoNoRoom) {
+    InLock([](frmWallpaper& f) {
+        f.Image1.Resized(Twips(0), Twips(0));
+        EXPECT_EQ(f.Image1.Place.Get(), kNoPlace);
+    });
+}
+
+TEST_F(WallpaperTest, StretchTogglesTheSettingAndTwiceGivesTheFirstViewAgain) {
+    InLock([this](frmWallpaper& f) {
+        const Rect before = f.Image1.Place;
+        f.OfficeMenu1.Choose("mnuStretch");
+        EXPECT_EQ(t.app.Settings.WallpaperNumber, u"1");
+        EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 10000, 8000));
+        f.OfficeMenu1.Choose("mnuStretch");
+        EXPECT_EQ(t.app.Settings.WallpaperNumber, u"0");
+        EXPECT_EQ(f.Image1.Place.Get(), before);
+    });
+}
+
+class LargePictureTest : public WallpaperTest {
+protected:
+    LargePictureTest() { pictures.sizes[Text(kSea)] = {Twips(15000), Twips(9000)}; }
+    static constexpr int kBar = 255;
+};
+
+TEST_F(LargePictureTest, HasScrollBarsThatReachItsLastEdges) {
+    InLock([](frmWallpaper& f) {
+        EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 15000, 9000));
+        EXPECT_TRUE(f.HScroll1.Visible);
+        EXPECT_TRUE(f.VScroll1.Visible);
+        EXPECT_EQ(f.HScroll1.Max, 5000 + kBar);
+        EXPECT_EQ(f.VScroll1.Max, 1000 + kBar);
+        EXPECT_EQ(f.HScroll1.LargeChange, 10000);
+        f.HScroll1.MoveTo(5000 + kBar);
+        f.VScroll1.MoveTo(700);
+        EXPECT_EQ(f.Image1.Place.Get(), Place(-5000 - kBar, -700, 15000, 9000));
+    });
+}
+
+TEST_F(LargePictureTest, AnAxisThatFitsHasNoBar) {
+    pictures.sizes[Text(kSea)] = {Twips(15000), Twips(7000)};
+    InLock([](frmWallpaper& f) {
+        EXPECT_TRUE(f.HScroll1.Visible);
+        EXPECT_FALSE(f.VScroll1.Visible);
+        EXPECT_EQ(f.HScroll1.Max, 5000);
+        EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 15000, 7000));
+    });
+}
+
+TEST_F(LargePictureTest, StretchingTakesTheBarsAwayAndComesBackToTheCorner) {
+    InLock([](frmWallpaper& f) {
+        f.HScroll1.MoveTo(4000);
+        f.OfficeMenu1.Choose("mnuStretch");
+        EXPECT_EQ(f.Image1.Place.Get(), Place(0, 985, 10000, 6030));
+        EXPECT_FALSE(f.HScroll1.Visible);
+        EXPECT_FALSE(f.VScroll1.Visible);
+        f.OfficeMenu1.Choose("mnuStretch");
+        EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 15000, 9000));
+        EXPECT_EQ(f.HScroll1.Value, 0);
+    });
+}
+
+TEST_F(WallpaperTest, AnotherImageIsChosenInTheSystemsDialog) {
+    t.files.AddFile(u"C:\\hill.png");
+    pictures.sizes[u"C:\\hill.png"] = {Twips(1000), Twips(1000)};
+    chooser.answer = u"C:\\hill.png";
+    InLock([this](frmWallpaper& f) {
+        f.OfficeMenu1.Choose("mnuImage");
+        EXPECT_EQ(t.app.Settings.WallpaperFile, u"C:\\hill.png");
+        EXPECT_EQ(f.Image1.File.Get(), u"C:\\hill.png");
+        EXPECT_EQ(f.Image1.Place.Get(), Place(4500, 3500, 1000, 1000));
+    });
+    EXPECT_EQ(chooser.requests,
+              (std::vector<SystemFileDialog::Request>{
+                  {.filter = u"Image files (*.jpg;*.png;*.bmp;*.gif)|*.jpg;*.png;*.bmp;*.gif",
+                   .title = u"Select wallpaper image",
+                   .name = Text(kSea)}}));
+}
+
+TEST_F(WallpaperTest, ACancelOrALostFileChangesNothing) {
+    InLock([this](frmWallpaper& f) {
+        f.OfficeMenu1.Choose("mnuImage");
+        chooser.answer = u"C:\\lost.png";
+        f.OfficeMenu1.Choose("mnuImage");
+        EXPECT_EQ(t.app.Settings.WallpaperFile, kSea);
+        EXPECT_EQ(f.Image1.File.Get(), kSea);
+    });
+}
+
+TEST_F(WallpaperTest, OpensWithoutThePortsOfThePlatform) {
+    t.app.SetPort<PictureFiles>(nullptr);
+    t.app.SetPort<SystemFileDialog>(nullptr);
+    InLock([](frmWallpaper& f) {
+        f.OfficeMenu1.Choose("mnuImage");
+        EXPECT_EQ(f.Image1.File.Get(), u"");
+    });
+}
+
+} // namespace
+} // namespace korvane
