@@ -234,6 +234,157 @@ TEST_F(WallpaperTest, ACancelOrALostFileChangesNothing) {
     });
 }
 
+// The way out.
+
+TEST_F(WallpaperTest, AsksForThePasswordWithAnEmptyField) {
+    t.user.On<frmWallpaper>([this](frmWallpaper& f) {
+        t.user.On<frmMyInputBox>([](frmMyInputBox& box) {
+            EXPECT_EQ(box.txtBoxCaption.Caption.Get(), u"Enter password to return to program.");
+            EXPECT_EQ(box.txtBoxText.Text.Get(), u"");
+            box.txtBoxText.Text = u"Secret";
+            box.cmdOk.Press();
+        });
+        EXPECT_TRUE(f.Close());
+        EXPECT_FALSE(f.Shown());
+    });
+    frmWallpaper(t.app).ShowModal();
+}
+
+struct Road {
+    std::string name;
+    void (*take)(frmWallpaper&);
+};
+
+class RoadOutTest : public WallpaperTest, public testing::WithParamInterface<Road> {};
+
+TEST_P(RoadOutTest, LeadsThroughThePassword) {
+    InLock([this](frmWallpaper& f) {
+        Answer(u"secret");
+        ExpectWrong(u"secret");
+        GetParam().take(f);
+        EXPECT_TRUE(f.Shown());
+    });
+    t.user.On<frmWallpaper>([this](frmWallpaper& f) {
+        Answer(u"Secret");
+        GetParam().take(f);
+        EXPECT_FALSE(f.Shown());
+    });
+    frmWallpaper(t.app).ShowModal();
+}
+
+void Press(frmWallpaper& f, KeyEvent key) {
+    f.KeyDown(key);
+    EXPECT_TRUE(key.consumed);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Roads, RoadOutTest,
+    testing::Values(Road{"Exit", [](frmWallpaper& f) { f.OfficeMenu1.Choose("mnuExit"); }},
+                    Road{"Click", [](frmWallpaper& f) { f.Clicked(); }},
+                    Road{"CloseBox", [](frmWallpaper& f) { f.Close(); }},
+                    Road{"Letter", [](frmWallpaper& f) { Press(f, KeyEvent{'A'}); }},
+                    Road{"LetterWithoutCode", [](frmWallpaper& f) { Press(f, KeyEvent{0}); }},
+                    Road{"Esc", [](frmWallpaper& f) { Press(f, KeyEvent{Key::Escape}); }},
+                    Road{"AltF4",
+                         [](frmWallpaper& f) {
+                             Press(f, KeyEvent{Key::F(4), Mask::Alt});
+                         }},
+                    Road{"F7", [](frmWallpaper& f) { Press(f, KeyEvent{Key::F(7)}); }}),
+    [](const auto& road) { return road.param.name; });
+
+TEST_F(WallpaperTest, AModifierAloneAsksNothing) {
+    InLock([](frmWallpaper& f) {
+        for (const int code : {Key::Shift, Key::Control, Key::Alt})
+            Press(f, KeyEvent{code});
+        EXPECT_TRUE(f.Shown());
+    });
+}
+
+TEST_F(WallpaperTest, BlanksAroundTheRightPasswordDoNotMatter) {
+    t.user.On<frmWallpaper>([this](frmWallpaper& f) {
+        Answer(u"  Secret ");
+        EXPECT_TRUE(f.Close());
+    });
+    frmWallpaper(t.app).ShowModal();
+}
+
+TEST_F(WallpaperTest, CapitalLettersMatter) {
+    InLock([this](frmWallpaper& f) {
+        Answer(u"SECRET");
+        ExpectWrong(u"SECRET");
+        EXPECT_FALSE(f.Close());
+    });
+}
+
+TEST_F(WallpaperTest, TheMessageShowsTheAnswerAsItWasTyped) {
+    InLock([this](frmWallpaper& f) {
+        Answer(u" wrong  ");
+        ExpectWrong(u" wrong  ");
+        EXPECT_FALSE(f.Close());
+    });
+}
+
+TEST_F(WallpaperTest, ACancelIsAnEmptyAnswerAndRefused) {
+    InLock([this](frmWallpaper& f) {
+        t.user.On<frmMyInputBox>([](frmMyInputBox& box) {
+            box.txtBoxText.Text = u"Secret";
+            box.cmdCancel.Press();
+        });
+        ExpectWrong(u"");
+        EXPECT_FALSE(f.Close());
+        EXPECT_TRUE(f.Shown());
+    });
+}
+
+// Kept for compatibility: empty-password-locks.
+TEST_F(WallpaperTest, AnEmptyPasswordIsNeverGiven) {
+    t.app.Settings.ReturnPassword = u"";
+    InLock([this](frmWallpaper& f) {
+        for (const TextView answer : {u"", u" ", u"Secret"}) {
+            Answer(answer);
+            ExpectWrong(answer);
+            EXPECT_FALSE(f.Close());
+        }
+        t.app.Settings.ReturnPassword = u"Secret";
+    });
+}
+
+// Kept for compatibility: empty-password-locks.
+TEST_F(WallpaperTest, APasswordWithBlanksAtItsEndsIsNeverGiven) {
+    t.app.Settings.ReturnPassword = u"Secret ";
+    InLock([this](frmWallpaper& f) {
+        Answer(u"Secret ");
+        ExpectWrong(u"Secret ");
+        EXPECT_FALSE(f.Close());
+        t.app.Settings.ReturnPassword = u"Secret";
+    });
+}
+
+// Kept for compatibility: lock-question-shows-desktop.
+TEST_F(WallpaperTest, TheQuestionHasTheButtonsOfEveryQuestion) {
+    InLock([this](frmWallpaper& f) {
+        t.user.On<frmMyInputBox>([this](frmMyInputBox& box) {
+            box.cmdDesktop.Press();
+            EXPECT_EQ(t.shell.Calls(), (std::vector<ShellCall>{{ShellCall::Kind::ToggleDesktop, {}}}));
+            box.cmdCancel.Press();
+        });
+        ExpectWrong(u"");
+        EXPECT_FALSE(f.Close());
+    });
+}
+
+TEST_F(WallpaperTest, ASecondCloseWhileItAsksIsRefused) {
+    t.user.On<frmWallpaper>([this](frmWallpaper& f) {
+        t.user.On<frmMyInputBox>([&f](frmMyInputBox& box) {
+            EXPECT_FALSE(f.Close());
+            box.txtBoxText.Text = u"Secret";
+            box.cmdOk.Press();
+        });
+        EXPECT_TRUE(f.Close());
+    });
+    frmWallpaper(t.app).ShowModal();
+}
+
 TEST_F(WallpaperTest, OpensWithoutThePortsOfThePlatform) {
     t.app.SetPort<PictureFiles>(nullptr);
     t.app.SetPort<SystemFileDialog>(nullptr);
