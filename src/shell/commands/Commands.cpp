@@ -109,7 +109,7 @@ constexpr std::array kCommands{
     Command{1, "mnuHelpText", u"&Help text", "F1", &mnuHelpText},
     Command{1, "mnuMisc_About", u"Abo&ut Korvane", "", &mnuMisc_About},
     Command{1, "mnuMisc_Settings", u"&Settings", "F3", &mnuMisc_Settings},
-    Command{1, "mnuMisc_Wallpaper", u"&Wallpaper", "F7"},
+    Command{1, "mnuMisc_Wallpaper", u"&Wallpaper", "F7", &mnuMisc_Wallpaper},
     Command{1, "mnuMisc_Browser", u"Internet &browser    ( Alt-B )", "", &mnuMisc_Browser},
     Command{1, "mnuMisc_Websites", u"&List of websites", "Ctrl+F7", &mnuMisc_Websites},
     Command{1, "mnuMisc_YourProgram", u"&Your program", "F9", &mnuMisc_YourProgram},

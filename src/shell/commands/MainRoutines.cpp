@@ -12,6 +12,7 @@
 #include "context/ports/WebsiteList.h"
 #include "dialogs/Questions.h"
 #include "extras/clock/frmShowTimer.h"
+#include "extras/lock/frmWallpaper.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "shell/commands/MainParts.h"
@@ -133,6 +134,10 @@ void mnuMisc_About(const MainParts& main) {
 
 void mnuMisc_Settings(const MainParts& main) {
     frmSettings(main.app, main.tabs, main.menuBar, main.sideBar.Commands()).ShowModal();
+}
+
+void mnuMisc_Wallpaper(const MainParts& main) {
+    frmWallpaper(main.app).ShowModal();
 }
 
 void mnuMisc_YourProgram(const MainParts& main) {

@@ -32,6 +32,7 @@ void mnuSwitchFocus_Click(const MainParts& main);
 void mnuHelpText(const MainParts& main);
 void mnuMisc_About(const MainParts& main);
 void mnuMisc_Settings(const MainParts& main);
+void mnuMisc_Wallpaper(const MainParts& main);
 void mnuMisc_YourProgram(const MainParts& main);
 void mnuMisc_Clock(const MainParts& main);
 void ViewAndPaste(const MainParts& main);

@@ -256,7 +256,7 @@ const Called kCalled[] = {
     {ON_THE_MAIN_WINDOW(mnuHelpText)},
     {ON_THE_MAIN_WINDOW(mnuMisc_About)},
     {ON_THE_MAIN_WINDOW(mnuMisc_Settings)},
-    {"mnuMisc_Wallpaper", {}},
+    {ON_THE_MAIN_WINDOW(mnuMisc_Wallpaper)},
     {ON_THE_MAIN_WINDOW(mnuMisc_Browser)},
     {ON_THE_MAIN_WINDOW(mnuMisc_Websites)},
     {ON_THE_MAIN_WINDOW(mnuMisc_YourProgram)},
