@@ -54,6 +54,15 @@ void DeskTest::Edit(const std::string& typed) {
     desk.Press({"Return"});
 }
 
+void DeskTest::Set(int number, const std::string& value) {
+    const std::string bytes = ReadBytes(desk.Path("Korvane.ini"));
+    std::size_t start = 0;
+    for (int line = 1; line < number; ++line)
+        start = bytes.find("\r\n", start) + 2;
+    const std::size_t end = bytes.find("\r\n", start);
+    WriteBytes(desk.Path("Korvane.ini"), bytes.substr(0, start) + value + bytes.substr(end));
+}
+
 bool DeskTest::SavedAs(const std::filesystem::path& saved, const std::string& cell) {
     desk.Press({"ctrl+s"});
     return desk.Holds(saved, Table(saved, cell));

@@ -10,6 +10,10 @@ namespace korvane::e2e {
 inline constexpr auto kMain = "^Korvane$";
 inline constexpr auto kFileInfo = "^File information$";
 
+// These are lines of Korvane.ini.
+inline constexpr int kWallpaperFile = 126;
+inline constexpr int kReturnPassword = 128;
+
 /// The bytes of a table of two columns and two rows as the program writes it to `path`.
 std::string Table(const std::filesystem::path& path, const std::string& changedCell);
 
@@ -25,6 +29,8 @@ protected:
     void Edit(const std::string& typed);
     /// Saves, and waits until the file contains the table with this cell.
     bool SavedAs(const std::filesystem::path& saved, const std::string& cell);
+    /// Writes a setting into its line of Korvane.ini. The program mustn't run.
+    void Set(int number, const std::string& value);
     void Exit() { desk.Press({"alt+f", "x"}); }
 
     Desk desk;

@@ -107,8 +107,12 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuMisc_Settings", Shows("^Settings$")},
     {"mnuMisc_Wallpaper", kSilent},
     {"mnuMisc_Websites", Shows("^Website list :")},
+    {"mnuMisc_Wallpaper",
+     {{{kMain, {"Return"}},
+       {"^Wallpaper$", {"a"}, true},
+       {kMain, {"s", "e", "s", "a", "m", "e", "Return"}}}}},
     {"mnuMisc_YourProgram", Shows("^Set your program$")},
-    {"mnuMisc_Clock", kSilent},
+    {"mnuMisc_Clock", Shows("^Time & Date;  press any key to continue...$")},
     {"mnuMisc_Browser", kSilent},
     {"mnuMisc_Explorer", Starts("xdg-open ")},
     {"mnuSideBar", kSilent},
@@ -129,6 +133,7 @@ protected:
         ASSERT_NO_FATAL_FAILURE(DeskTest::SetUp());
         for (const auto* const program : {"gnome-calculator", "xdg-open"})
             desk.Provide(program);
+        Set(kReturnPassword, "sesame");
         program = desk.Start({file.string()});
         main = desk.GoTo(kMain);
         ASSERT_NE(main, "");
