@@ -34,6 +34,8 @@ struct Environment {
     CodePage page;
     /// The folder of what the program keeps of tables; empty for none.
     Text keptFolder{};
+    /// Whether the standard input is read from the file at this path.
+    std::function<bool(TextView)> isInput{};
 };
 
 /// Writes one line that says what is wrong; control characters in it become "?", so that it stays one line.

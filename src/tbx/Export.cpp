@@ -54,11 +54,11 @@ ExitStatus RunRewrite(const Call& call, Environment& environment) {
     if (!workbench) return ExitStatus::Error;
     const ExitStatus status = ReportMessages(*workbench, environment);
     const std::string& out = call.operands[1];
-    const Text path = PathOfArgument(out, environment);
-    // A load that stopped leaves an empty table. A save to the same path would destroy the file.
-    if (status != ExitStatus::Success && path == workbench->Table().TxtDbFile)
-        return Fail(environment, Quoted(out) + " is left as it was");
-    return WriteOutput(out, workbench->Save(path), environment) ? status : ExitStatus::Error;
+    // A load that stopped leaves an empty table. A save over the file itself would destroy it.
+    if (status != ExitStatus::Success && LeadToOneFile(call.operands[0], out, environment))
+        return LeaveAsItWas(out, environment);
+    const std::string bytes = workbench->Save(PathOfArgument(out, environment));
+    return WriteOutput(out, bytes, environment) ? status : ExitStatus::Error;
 }
 
 } // namespace korvane

@@ -1,7 +1,9 @@
 #include "tbx/Files.h"
 
 #include "platform/FileSystem.h"
+#include "platform/native/NativePath.h"
 
+#include <filesystem>
 #include <memory>
 
 namespace korvane {
@@ -11,6 +13,12 @@ namespace {
 SharedBytes Share(std::string bytes) {
     const auto owner = std::make_shared<const std::string>(std::move(bytes));
     return {std::shared_ptr<const char[]>(owner, owner->data()), owner->size()};
+}
+
+/// The name as the system gave it to the program. Bytes in it that are no UTF-8 come back to the system as
+/// they were.
+Text NameOf(const std::string& argument) {
+    return FromNativePath(std::filesystem::path(std::u8string(argument.begin(), argument.end())));
 }
 
 void ComplainOfFile(std::string_view step, const std::string& name, Environment& environment) {
@@ -26,18 +34,21 @@ std::optional<SharedBytes> ReadStandardInput(Environment& environment) {
     return std::nullopt;
 }
 
-bool WriteFile(TextView path, std::string_view bytes, FileSystem& files) {
-    const std::unique_ptr<FileWriter> writer = files.OpenRaw(path);
-    return writer && writer->Write(bytes) && writer->Close();
+std::optional<SharedBytes> ReadNamed(TextView path, const std::string& name, Environment& environment) {
+    auto bytes = environment.files.ReadAll(path);
+    if (!bytes) ComplainOfFile("read", name, environment);
+    return bytes;
 }
 
 } // namespace
 
 std::optional<SharedBytes> ReadInput(const std::string& name, Environment& environment) {
     if (name == kStandardStream) return ReadStandardInput(environment);
-    auto bytes = environment.files.ReadAll(FromUtf8(name));
-    if (!bytes) ComplainOfFile("read", name, environment);
-    return bytes;
+    return ReadNamed(NameOf(name), name, environment);
+}
+
+std::optional<SharedBytes> ReadFileAt(TextView path, Environment& environment) {
+    return ReadNamed(path, ToUtf8(path), environment);
 }
 
 bool WriteOutput(const std::string& name, std::string_view bytes, Environment& environment) {
@@ -45,14 +56,26 @@ bool WriteOutput(const std::string& name, std::string_view bytes, Environment& e
         environment.out.Write(bytes);
         return true;
     }
-    const bool written = WriteFile(FromUtf8(name), bytes, environment.files);
+    const bool written = environment.files.WriteWhole(NameOf(name), bytes);
     if (!written) ComplainOfFile("write", name, environment);
     return written;
 }
 
 Text PathOfArgument(const std::string& name, Environment& environment) {
-    const Text path = FromUtf8(name);
+    const Text path = NameOf(name);
     return name == kStandardStream ? path : environment.files.FullPath(path);
+}
+
+bool LeadToOneFile(const std::string& in, const std::string& out, Environment& environment) {
+    if (out == kStandardStream) return false;
+    const Text path = PathOfArgument(out, environment);
+    if (in == kStandardStream) return environment.isInput && environment.isInput(path);
+    const Text source = PathOfArgument(in, environment);
+    return source == path || environment.files.IsSame(source, path);
+}
+
+ExitStatus LeaveAsItWas(const std::string& name, Environment& environment) {
+    return Fail(environment, Quoted(name) + " is left as it was");
 }
 
 std::string Quoted(std::string_view name) {

@@ -67,9 +67,12 @@ ExitStatus RunImport(const Call& call, Environment& environment) {
     SetLook(workbench.Table());
     AddColumns(csv.headers, workbench.Grid());
     AddRows(csv.rows, workbench.Grid());
-    if (!WriteOutput(out, workbench.Save(PathOfArgument(out, environment)), environment))
-        return ExitStatus::Error;
-    return ReportLosses(out, workbench.Grid(), environment);
+    const std::string table = workbench.Save(PathOfArgument(out, environment));
+    const ExitStatus status = ReportLosses(out, workbench.Grid(), environment);
+    // What the table loses would be lost for good with the file from which it came.
+    if (status != ExitStatus::Success && LeadToOneFile(in, out, environment))
+        return LeaveAsItWas(out, environment);
+    return WriteOutput(out, table, environment) ? status : ExitStatus::Error;
 }
 
 } // namespace korvane

@@ -67,7 +67,7 @@ private:
 };
 
 std::optional<SharedBytes> ReadKept(const KeptTable& table, Environment& environment) {
-    return ReadInput(ToUtf8(table.file.path), environment);
+    return ReadFileAt(table.file.path, environment);
 }
 
 /// "12  2026-11-21 23:32:00  12,345 bytes  201 rows".

@@ -17,6 +17,9 @@
 namespace korvane {
 namespace {
 
+/// What the standard input is read from has this name too, on systems that name it.
+constexpr TextView kInputFile = u"/dev/stdin";
+
 std::optional<std::string> ReadAllOf(std::FILE* stream) {
     std::string bytes;
     std::array<char, 64 * 1024> piece;
@@ -43,7 +46,8 @@ ExitStatus Run(const std::vector<std::string>& arguments) {
                             err,
                             [] { return ReadAllOf(stdin); },
                             UserCodePage(),
-                            FromNativePath(FindKeptFolder(OwnSurroundings()))};
+                            FromNativePath(FindKeptFolder(OwnSurroundings())),
+                            [&files](TextView path) { return files.IsSame(kInputFile, path); }};
     ExitStatus status = ExitStatus::Error;
     try {
         status = Finish(RunTbx(arguments, environment), out, environment);

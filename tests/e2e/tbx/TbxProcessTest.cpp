@@ -112,6 +112,47 @@ TEST_F(TbxProcess, ARewrittenFileNamesItsFullPath) {
     EXPECT_THAT(ReadBytes(folder_ / "out.tbx"), HasSubstr("; End of File: " + path + "\r\n"));
 }
 
+TEST_F(TbxProcess, AStoppedLoadDestroysNoFileByWhateverNameItIsWritten) {
+    std::string wide = "!0\r\n!A\r\n!1\r\n!1\r\n";
+    for (int column = 1; column <= 25; ++column)
+        wide += "!Name\r\n!80\r\n";
+    WriteBytes(folder_ / "wide.tbx", wide);
+    ASSERT_EQ(Shell("ln -s wide.tbx soft.tbx && ln wide.tbx hard.tbx && mkdir sub"), 0);
+    for (const char* line :
+         {"tbx rewrite wide.tbx soft.tbx", "tbx rewrite soft.tbx wide.tbx", "tbx rewrite wide.tbx hard.tbx",
+          "tbx rewrite wide.tbx /proc/self/cwd/wide.tbx", "tbx rewrite wide.tbx sub/../wide.tbx",
+          "tbx rewrite - wide.tbx <wide.tbx", "tbx rewrite - hard.tbx <soft.tbx",
+          "tbx rewrite wide.tbx /dev/fd/3 3<>wide.tbx"}) {
+        EXPECT_EQ(Shell(line), 2) << line;
+        EXPECT_EQ(ReadBytes(folder_ / "wide.tbx"), wide) << line;
+        EXPECT_TRUE(fs::is_symlink(folder_ / "soft.tbx")) << line;
+        EXPECT_EQ(ReadBytes(folder_ / "hard.tbx"), wide) << line;
+    }
+}
+
+TEST_F(TbxProcess, AnImportThatLosesSomethingLeavesItsOwnFile) {
+    const std::string csv = "Name\nAnna\n\"@col_1\nlost\"\n";
+    WriteBytes(folder_ / "people.csv", csv);
+    EXPECT_EQ(Shell("tbx import people.csv people.csv"), 2);
+    EXPECT_EQ(ReadBytes(folder_ / "people.csv"), csv);
+    EXPECT_EQ(Shell("tbx import - people.csv <people.csv"), 2);
+    EXPECT_EQ(ReadBytes(folder_ / "people.csv"), csv);
+    EXPECT_EQ(Shell("tbx import people.csv imported.tbx"), 1);
+}
+
+TEST_F(TbxProcess, AFileIsWrittenUnderItsNameAlsoWhenThatIsNoUtf8) {
+    const std::string name = "caf\xE9.tbx";
+    EXPECT_EQ(Shell("tbx rewrite people.tbx \"$(printf 'caf\\351.tbx')\""), 0);
+    EXPECT_TRUE(fs::exists(folder_ / fs::path(name)));
+    EXPECT_EQ(Shell("tbx csv \"$(printf 'caf\\351.tbx')\""), 0);
+    EXPECT_EQ(out, ReadBytes(kCases / "two-rows-of-the-usual-form/rows.csv"));
+    EXPECT_EQ(Shell("tbx rewrite \"$(printf 'caf\\351.tbx')\" \"$(printf 'caf\\351.tbx')\""), 0);
+    std::size_t tables = 0;
+    for (const auto& entry : fs::directory_iterator(folder_.Path()))
+        tables += entry.path().extension() == ".tbx" ? 1 : 0;
+    EXPECT_EQ(tables, 2u);
+}
+
 TEST_F(TbxProcess, AReaderThatGoesAwayIsNoError) {
     WriteLargeTable();
     EXPECT_EQ(Shell("{ tbx csv large.tbx; echo $? >status; } | head -n 1"), 0);

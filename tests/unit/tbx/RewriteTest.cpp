@@ -62,6 +62,13 @@ TEST_F(Rewrite, AFullDiskIsAnError) {
     EXPECT_THAT(run.err, StartsWith("tbx: cannot write \"/data/out.tbx\": "));
 }
 
+TEST_F(Rewrite, AFullDiskLeavesAFileThatIsRewrittenInPlace) {
+    const auto before = run.files.Contents(u"/data/in.tbx");
+    run.files.SetFreeBytes(100);
+    EXPECT_EQ(run.Run({"rewrite", "/data/in.tbx", "/data/in.tbx"}), ExitStatus::Error);
+    EXPECT_EQ(run.files.Contents(u"/data/in.tbx"), before);
+}
+
 TEST_F(Rewrite, AStoppedLoadIsToldAndItsRemainderSaved) {
     AddTooWideFile(u"/data/wide.tbx");
     EXPECT_EQ(run.Run({"rewrite", "/data/wide.tbx", "/data/out.tbx"}), ExitStatus::Problem);
@@ -76,6 +83,17 @@ TEST_F(Rewrite, AStoppedLoadIsNotSavedOverItsOwnFile) {
     EXPECT_EQ(run.Run({"rewrite", "/data/wide.tbx", "/data/wide.tbx"}), ExitStatus::Error);
     EXPECT_THAT(run.err, EndsWith("tbx: \"/data/wide.tbx\" is left as it was\n"));
     EXPECT_EQ(run.files.Contents(u"/data/wide.tbx"), before);
+}
+
+TEST_F(Rewrite, AStoppedLoadOfTheStandardInputIsNotSavedOverTheFileBehindIt) {
+    AddTooWideFile(u"/data/wide.tbx");
+    const auto before = run.files.Contents(u"/data/wide.tbx");
+    run.input = before;
+    run.inputFile = u"/data/wide.tbx";
+    EXPECT_EQ(run.Run({"rewrite", "-", "/data/wide.tbx"}), ExitStatus::Error);
+    EXPECT_EQ(run.files.Contents(u"/data/wide.tbx"), before);
+    EXPECT_EQ(run.Run({"rewrite", "-", "/data/out.tbx"}), ExitStatus::Problem);
+    EXPECT_EQ(run.Run({"rewrite", "-", "-"}), ExitStatus::Problem);
 }
 
 } // namespace

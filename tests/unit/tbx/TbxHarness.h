@@ -19,6 +19,8 @@ public:
     std::optional<std::string> input = "";
     CodePage page = CodePage::Windows1252();
     Text keptFolder;
+    /// The file from which the standard input is read; empty for none.
+    Text inputFile;
 
     /// The outputs of the last run.
     std::string out;
@@ -27,7 +29,13 @@ public:
     ExitStatus Run(const std::vector<std::string>& arguments) {
         StringOutput outBytes;
         StringOutput errBytes;
-        Environment environment{files, outBytes, errBytes, [this] { return input; }, page, keptFolder};
+        Environment environment{files,
+                                outBytes,
+                                errBytes,
+                                [this] { return input; },
+                                page,
+                                keptFolder,
+                                [this](TextView path) { return files.IsSame(inputFile, path); }};
         const ExitStatus status = RunTbx(arguments, environment);
         outBytes.Flush();
         errBytes.Flush();
