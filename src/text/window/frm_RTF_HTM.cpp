@@ -3,26 +3,15 @@
 #include "common/path/PathStyle.h"
 #include "common/text/CaseFold.h"
 #include "context/App.h"
-#include "context/Companions.h"
-#include "context/Desktop.h"
 #include "context/FileChooser.h"
-#include "context/Launching.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/exchange/MessageQuestion.h"
 #include "context/exchange/TextWindowState.h"
-#include "context/ports/ClipboardView.h"
 #include "context/ports/ColourPicker.h"
-#include "context/ports/InsertTools.h"
-#include "context/ports/MainWindow.h"
-#include "context/ports/TextFinder.h"
-#include "context/ports/TextTools.h"
-#include "context/ports/WordList.h"
 #include "controls/KeyTable.h"
-#include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
-#include "dialogs/Webmail.h"
 #include "dialogs/frmMyMsgBox.h"
 #include "dialogs/frmTxtInfo.h"
 #include "platform/Clock.h"
@@ -31,10 +20,6 @@
 #include "text/commands/TextCommands.h"
 #include "text/commands/TextFileTypes.h"
 #include "text/fields/FieldEvents.h"
-#include "text/fields/OpenUrl.h"
-#include "text/markup/MarkupConversion.h"
-#include "text/markup/TagPairs.h"
-#include "text/paragraph/frmIndent.h"
 
 #include <chrono>
 
@@ -161,13 +146,13 @@ struct frm_RTF_HTM::Tables {
 };
 
 frm_RTF_HTM::frm_RTF_HTM(App& app)
-    : Form(app.Forms(), "frm_RTF_HTM", u""), OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu), app_(app) {
+    : TextToolsForm(app, "frm_RTF_HTM"), OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu) {
     Wire();
     WireButtons();
 }
 
 frm_RTF_HTM::~frm_RTF_HTM() {
-    if (app_.Port<OpenText>() == &openText_) app_.SetPort<OpenText>(nullptr);
+    if (Context().Port<OpenText>() == &openText_) Context().SetPort<OpenText>(nullptr);
 }
 
 void frm_RTF_HTM::Wire() {
@@ -197,11 +182,11 @@ void frm_RTF_HTM::Wire() {
         EditThisField();
     };
     ThisTextCtrl.HyperlinkClicked = [this](int field, int, const Text& link) {
-        ShowHyperlink(app_, ThisTextCtrl, rtfTempText, field, link);
+        ShowHyperlink(Context(), ThisTextCtrl, rtfTempText, field, link);
     };
     for (TextControl* control : {&ThisTextCtrl, &rtfTempText}) {
-        control->Files = app_.Port<TextFiles>();
-        control->Dialogs = app_.Port<TextDialogs>();
+        control->Files = Context().Port<TextFiles>();
+        control->Dialogs = Context().Port<TextDialogs>();
     }
 }
 
@@ -236,8 +221,8 @@ void frm_RTF_HTM::ClearAltered() {
 // Opening and closing.
 
 void frm_RTF_HTM::Load() {
-    TextWindowState& state = app_.Exchange<TextWindowState>();
-    RestorePlace(app_, *this, kPlace);
+    TextWindowState& state = Context().Exchange<TextWindowState>();
+    RestorePlace(Context(), *this, kPlace);
     ThisFileName = IsUntitled(state.TextWindowUntitled) ? Text(kUntitled) : state.TextWindowFile;
     Caption = ThisFileName;
     ClearAltered();
@@ -247,9 +232,9 @@ void frm_RTF_HTM::Load() {
     ThisTextCtrl.Left = kLeftOfText;
     LoadThisFile();
     state.TextWindowOpen = 1;
-    app_.SetPort<OpenText>(&openText_);
+    Context().SetPort<OpenText>(&openText_);
     // Before the first zoom of all, there is none in the settings.
-    if (app_.Settings.RtfZoom > 0) ThisTextCtrl.ZoomFactor = app_.Settings.RtfZoom;
+    if (Context().Settings.RtfZoom > 0) ThisTextCtrl.ZoomFactor = Context().Settings.RtfZoom;
     ClearAltered();
 }
 
@@ -277,16 +262,16 @@ bool frm_RTF_HTM::QueryUnload() {
 }
 
 void frm_RTF_HTM::Unload() {
-    app_.Settings.RtfZoom = static_cast<std::int16_t>(ThisTextCtrl.ZoomFactor.Get());
-    app_.Exchange<TextWindowState>().TextWindowOpen = 0;
-    app_.SetPort<OpenText>(nullptr);
-    StorePlace(app_, *this, kPlace);
+    Context().Settings.RtfZoom = static_cast<std::int16_t>(ThisTextCtrl.ZoomFactor.Get());
+    Context().Exchange<TextWindowState>().TextWindowOpen = 0;
+    Context().SetPort<OpenText>(nullptr);
+    StorePlace(Context(), *this, kPlace);
 }
 
 void frm_RTF_HTM::Activate() {
     ThisTextCtrl.SetFocus();
     // Kept for compatibility: text-window-result-99.
-    if (app_.DialogResult == kUnchanged) TextAltered = 0;
+    if (Context().DialogResult == kUnchanged) TextAltered = 0;
 }
 
 void frm_RTF_HTM::Resize() {
@@ -296,7 +281,7 @@ void frm_RTF_HTM::Resize() {
 void frm_RTF_HTM::View(TextView path) {
     if (!MayClose()) return;
     ThisFileName = Text(path);
-    app_.Exchange<TextWindowState>().TextWindowUntitled = 0;
+    Context().Exchange<TextWindowState>().TextWindowUntitled = 0;
     LoadThisFile();
     ClearAltered();
 }
@@ -311,14 +296,14 @@ void frm_RTF_HTM::TakePage() {
 }
 
 void frm_RTF_HTM::LoadThisFile() {
-    FileSystem& files = app_.Files();
+    FileSystem& files = Context().Files();
     if (ThisFileName.empty() || !files.FileExists(ThisFileName)) return;
     ThisTextCtrl.SetPageSize(doc::Page::Width, Width.Get().Number());
     for (const auto margin :
          {doc::Page::MarginLeft, doc::Page::MarginTop, doc::Page::MarginRight, doc::Page::MarginBottom})
         ThisTextCtrl.SetPageSize(margin, kMargin);
     // An "Untitled.rtf" that is there isn't read. Kept for compatibility: untitled-text-not-read.
-    if (app_.Exchange<TextWindowState>().TextWindowUntitled == 0) {
+    if (Context().Exchange<TextWindowState>().TextWindowUntitled == 0) {
         if (!files.Style().IsFullPath(ThisFileName))
             ThisFileName = files.Style().JoinPath(files.CurrentDir(), ThisFileName);
         if (files.FileExists(ThisFileName)) {
@@ -327,7 +312,7 @@ void frm_RTF_HTM::LoadThisFile() {
             ThisTextCtrl.Load(ThisFileName, format);
         } else {
             Text missing = ThisFileName;
-            ShowCannotLocate(app_, missing);
+            ShowCannotLocate(Context(), missing);
         }
         TakePage();
     }
@@ -341,15 +326,15 @@ void frm_RTF_HTM::ShowButtons(bool visible) {
 }
 
 void frm_RTF_HTM::SaveThisFile() {
-    app_.Screen().ProcessMessages();
+    Context().Screen().ProcessMessages();
     ShowButtons(false);
     lblFileName.Caption = u" Saving:  " + ThisFileName;
     lblFileName.Visible = true;
     {
-        const Hourglass hourglass(app_.Screen());
-        app_.Screen().ProcessMessages();
+        const Hourglass hourglass(Context().Screen());
+        Context().Screen().ProcessMessages();
         SaveByName(ThisTextCtrl, ThisFileName);
-        app_.Clock().Wait(kSavedNote);
+        Context().Clock().Wait(kSavedNote);
         ShowButtons(true);
         lblFileName.Visible = false;
         // The text counts as saved even after a failure. Kept for compatibility: failed-text-save-counts.
@@ -359,15 +344,15 @@ void frm_RTF_HTM::SaveThisFile() {
 
 void frm_RTF_HTM::ThisTextCtrl_Error(const Text& reason) {
     const bool saving = reason.find(u"1d09") != Text::npos;
-    Warn(app_, saving ? u"Error saving file directly.\r\n\r\nPlease use \"Save as\" function."
-                      : u"Error executing command just now.\r\n\r\nTry again in a moment.");
+    Warn(Context(), saving ? u"Error saving file directly.\r\n\r\nPlease use \"Save as\" function."
+                           : u"Error executing command just now.\r\n\r\nTry again in a moment.");
 }
 
 MsgAnswer frm_RTF_HTM::AskSaveChanges() {
-    MessageQuestion& question = app_.Exchange<MessageQuestion>();
+    MessageQuestion& question = Context().Exchange<MessageQuestion>();
     question.MsgAnswer = MsgAnswer::Cancel;
     question.MsgFilePath = Caption;
-    frmMyMsgBox(app_).ShowModal();
+    frmMyMsgBox(Context()).ShowModal();
     const bool untitled = Caption.Get().find(u"Untitled") != Text::npos;
     if (question.MsgAnswer == MsgAnswer::SaveDirectly && untitled)
         question.MsgAnswer = MsgAnswer::SaveUnderAName;
@@ -387,20 +372,20 @@ void frm_RTF_HTM::mnuFile_New_Click() {
 
 void frm_RTF_HTM::mnuFile_Open_Click() {
     if (Altered() && AskSaveChanges() == MsgAnswer::Cancel) return;
-    const KeepCurrentDir keep(app_.Files());
-    ShowFileChooser(app_, ChooserMode::Load, u"*.*", u"Load a file into text window");
-    const Text& path = app_.Exchange<ListerRequest>().ChosenFilePath;
+    const KeepCurrentDir keep(Context().Files());
+    ShowFileChooser(Context(), ChooserMode::Load, u"*.*", u"Load a file into text window");
+    const Text& path = Context().Exchange<ListerRequest>().ChosenFilePath;
     if (path.empty()) return;
     ThisFileName = path;
-    app_.Exchange<TextWindowState>().TextWindowUntitled = 0;
+    Context().Exchange<TextWindowState>().TextWindowUntitled = 0;
     LoadThisFile();
     ClearAltered();
 }
 
 void frm_RTF_HTM::mnuFile_SaveAs_Click() {
-    const Text directory = app_.Files().CurrentDir();
-    ShowFileChooser(app_, ChooserMode::Save, u"*.*", u"Save text to disk", Caption.Get());
-    ListerRequest& request = app_.Exchange<ListerRequest>();
+    const Text directory = Context().Files().CurrentDir();
+    ShowFileChooser(Context(), ChooserMode::Save, u"*.*", u"Save text to disk", Caption.Get());
+    ListerRequest& request = Context().Exchange<ListerRequest>();
     if (request.ChosenFilePath.empty()) {
         // The save mode and the directory stay. Kept for compatibility: cancelled-save-as-stays.
         request.ListerMode = static_cast<std::int16_t>(ChooserMode::Save);
@@ -409,18 +394,13 @@ void frm_RTF_HTM::mnuFile_SaveAs_Click() {
     ThisFileName = request.ChosenFilePath;
     Caption = ThisFileName;
     SaveThisFile();
-    app_.Files().ChangeDir(directory);
+    Context().Files().ChangeDir(directory);
 }
 
 void frm_RTF_HTM::mnuInfo_Click() {
-    FileFacts facts = FactsOfFile(app_, ThisFileName);
-    if (!ThisFileName.empty() && app_.Files().FileExists(ThisFileName)) facts.size += u" bytes";
-    frmTxtInfo(app_, facts).ShowModal();
-}
-
-Text frm_RTF_HTM::FolderOfFile() const {
-    const PathStyle style = app_.Files().Style();
-    return style.DirectoryForChange(style.FolderPart(ThisFileName));
+    FileFacts facts = FactsOfFile(Context(), ThisFileName);
+    if (!ThisFileName.empty() && Context().Files().FileExists(ThisFileName)) facts.size += u" bytes";
+    frmTxtInfo(Context(), facts).ShowModal();
 }
 
 // The view.
@@ -428,7 +408,7 @@ Text frm_RTF_HTM::FolderOfFile() const {
 void frm_RTF_HTM::SetZoom(int percent) {
     ThisTextCtrl.ZoomFactor = percent;
     ThisTextCtrl.SetFocus();
-    app_.Settings.RtfZoom = static_cast<std::int16_t>(percent);
+    Context().Settings.RtfZoom = static_cast<std::int16_t>(percent);
 }
 
 void frm_RTF_HTM::DoThisZoomIn() {
@@ -441,7 +421,7 @@ void frm_RTF_HTM::DoThisZoomOut() {
 
 void frm_RTF_HTM::mnuView_Click() {
     if (ThisTextCtrl.ViewMode == TextControl::kFlow) {
-        ThisTextCtrl.PageViewStyle = app_.Exchange<TextWindowState>().DarkPageBackground == 1 ? 0 : 1;
+        ThisTextCtrl.PageViewStyle = Context().Exchange<TextWindowState>().DarkPageBackground == 1 ? 0 : 1;
         ThisTextCtrl.ViewMode = TextControl::kPages;
         ThisTextCtrl.Left = Twips{0};
     } else {
@@ -455,7 +435,7 @@ void frm_RTF_HTM::mnuFormatting_Click() {
 }
 
 void frm_RTF_HTM::mnuColours_Click() {
-    auto* picker = app_.Port<ColourPicker>();
+    auto* picker = Context().Port<ColourPicker>();
     if (picker == nullptr) return;
     const Colour start = ThisTextCtrl.BackColor == kNoColour ? kWhite : ThisTextCtrl.BackColor.Get();
     const auto chosen = picker->Choose(start, ColourPicker::Extent::Full);
@@ -464,143 +444,6 @@ void frm_RTF_HTM::mnuColours_Click() {
     // one-colour-for-page-and-text.
     ThisTextCtrl.BackColor = *chosen;
     ThisTextCtrl.SetTextBkColor(*chosen);
-}
-
-Form* frm_RTF_HTM::MainForm() const {
-    auto* main = app_.Port<MainWindow>();
-    return main == nullptr ? nullptr : &main->Window();
-}
-
-void frm_RTF_HTM::cmdCentreOnScreen_Click() {
-    if (const Form* main = MainForm()) CentreWithin(*main, *this, 95);
-}
-
-void frm_RTF_HTM::CentreAt90() {
-    if (const Form* main = MainForm()) CentreWithin(*main, *this, 90);
-}
-
-void frm_RTF_HTM::DockLeft() {
-    if (const Form* main = MainForm()) DockLeftOf(app_, *main, *this, Stretch::KeepWidth);
-}
-
-void frm_RTF_HTM::DockLeftFilling() {
-    if (const Form* main = MainForm()) DockLeftOf(app_, *main, *this, Stretch::FillSpace);
-}
-
-void frm_RTF_HTM::DockRight() {
-    if (const Form* main = MainForm()) DockRightOf(app_, *main, *this, Stretch::KeepWidth);
-}
-
-void frm_RTF_HTM::DockRightFilling() {
-    if (const Form* main = MainForm()) DockRightOf(app_, *main, *this, Stretch::FillSpace);
-}
-
-// Windows and programs.
-
-void frm_RTF_HTM::mnuFind_Click() {
-    if (auto* finder = app_.Port<TextFinder>()) finder->FindString(ThisTextCtrl);
-}
-
-void frm_RTF_HTM::mnuReplace_Click() {
-    ThisTextCtrl.FindReplaceDialog(2);
-}
-
-void frm_RTF_HTM::mnuEdit_ViewAndPaste_Click() {
-    auto* view = app_.Port<ClipboardView>();
-    if (view == nullptr) return;
-    view->Show();
-    ThisTextCtrl.SetFocus();
-    // Without a paste the text counts as unaltered. Kept for compatibility: closed-paste-view-clears.
-    TextAltered = app_.DialogResult;
-}
-
-void frm_RTF_HTM::mnuWordList_Click() {
-    auto* list = app_.Port<WordList>();
-    if (list == nullptr) return;
-    if (ThisTextCtrl.SelLength() > 0)
-        list->Collect(ThisTextCtrl.SelText());
-    else if (const auto words = list->Choose())
-        ThisTextCtrl.SetSelText(*words);
-    ThisTextCtrl.SetFocus();
-}
-
-void frm_RTF_HTM::mnuEdit_Unicode_Click() {
-    if (auto* tools = app_.Port<TextTools>()) tools->ShowUnicode(ThisTextCtrl);
-}
-
-void frm_RTF_HTM::mnuCharacters_Click() {
-    auto* tools = app_.Port<TextTools>();
-    if (tools == nullptr) return;
-    tools->ShowCharacters(ThisTextCtrl);
-    // This is so too when no character was taken. Kept for compatibility: character-table-alters.
-    TextAltered = 1;
-}
-
-void frm_RTF_HTM::mnuSymbols_Click() {
-    if (auto* tools = app_.Port<TextTools>()) tools->ShowElements(ThisTextCtrl);
-}
-
-void frm_RTF_HTM::mnuEdit_GetHTML_Click() {
-    InsertTagPair(app_, ThisTextCtrl);
-}
-
-void frm_RTF_HTM::DoConvertHTML() {
-    ConvertMarkupDirect(app_, ThisTextCtrl);
-}
-
-void frm_RTF_HTM::mnuFonts_Click() {
-    auto* tools = app_.Port<TextTools>();
-    if (tools == nullptr) return;
-    if (tools->ChooseFont(ThisTextCtrl)) TextAltered = 1;
-    ThisTextCtrl.SetFocus();
-}
-
-void frm_RTF_HTM::mnuAlign_Click() {
-    frmIndent(app_).ShowModal();
-    ThisTextCtrl.SetFocus();
-}
-
-void frm_RTF_HTM::mnuParagraphFormatting_Click() {
-    ThisTextCtrl.ParagraphDialog();
-}
-
-void frm_RTF_HTM::mnuBulletsNumbering_Click() {
-    ThisTextCtrl.ListAttrDialog();
-}
-
-void frm_RTF_HTM::mnuPageSetup_Click() {
-    ThisTextCtrl.PageSetupDialog();
-}
-
-void frm_RTF_HTM::mnuExplorer_Click() {
-    ExploreFolder(app_, FolderOfFile());
-}
-
-void frm_RTF_HTM::mnuDateInsert_Click() {
-    auto* tools = app_.Port<InsertTools>();
-    if (tools == nullptr) return;
-    if (const auto date = tools->ChooseDateTime()) ThisTextCtrl.SetSelText(*date);
-    ThisTextCtrl.SetFocus();
-}
-
-void frm_RTF_HTM::mnuTimer_Click() {
-    if (auto* main = app_.Port<MainWindow>()) main->RunCommand(CommandName::mnuMisc_Clock);
-}
-
-void frm_RTF_HTM::Webmail() {
-    OpenWebmail(app_);
-}
-
-void frm_RTF_HTM::Desktop() {
-    ShowDesktop(app_);
-}
-
-void frm_RTF_HTM::StartBrowser() {
-    LaunchProgram(app_, Text(app_.Settings.CustomBrowserPath));
-}
-
-void frm_RTF_HTM::StartLorrit() {
-    LaunchLorrit(app_, FolderOfFile());
 }
 
 // Keys and commands on the text.
@@ -612,7 +455,8 @@ void frm_RTF_HTM::Typed(TypedText& typed) {
     }
     const bool counts = typed.text.size() != 1 || kWithoutChange.find(typed.text[0]) == TextView::npos;
     if (counts) TextAltered = 1;
-    const auto quote = app_.Settings.SmartQuotes == 1 ? SmartQuote(ThisTextCtrl, typed.text) : std::nullopt;
+    const auto quote =
+        Context().Settings.SmartQuotes == 1 ? SmartQuote(ThisTextCtrl, typed.text) : std::nullopt;
     if (!quote) return;
     typed.consumed = true;
     ThisTextCtrl.SetSelText(TextView(&*quote, 1));
@@ -623,13 +467,9 @@ void frm_RTF_HTM::mnuView_EditField_Clack() {
 }
 
 void frm_RTF_HTM::EditThisField() {
-    if (!EditField(app_, ThisTextCtrl)) return;
+    if (!EditField(Context(), ThisTextCtrl)) return;
     TextAltered = 1;
     ThisTextCtrl.SetFocus();
-}
-
-void frm_RTF_HTM::OpenUrl() {
-    OpenUrlFromSelection(app_, ThisTextCtrl);
 }
 
 void frm_RTF_HTM::FocusText() {
@@ -638,17 +478,17 @@ void frm_RTF_HTM::FocusText() {
 
 void frm_RTF_HTM::TabKey(KeyEvent& key) {
     if (ThisTextCtrl.SelLength() < 2) return ThisTextCtrl.SetSelText(u"\t");
-    IndentSelection(ThisTextCtrl, key.mask, app_.Settings.TabUnitTwips);
+    IndentSelection(ThisTextCtrl, key.mask, Context().Settings.TabUnitTwips);
     // This is so too when nothing was indented. Kept for compatibility: indent-always-alters.
     TextAltered = 1;
 }
 
 void frm_RTF_HTM::WriteCtrlShiftReturn() {
-    ThisTextCtrl.SetSelText(app_.Settings.CtrlShiftReturnString + Text(kCrLf));
+    ThisTextCtrl.SetSelText(Context().Settings.CtrlShiftReturnString + Text(kCrLf));
 }
 
 void frm_RTF_HTM::WriteAltReturn() {
-    ThisTextCtrl.SetSelText(app_.Settings.AltReturnString + Text(kCrLf));
+    ThisTextCtrl.SetSelText(Context().Settings.AltReturnString + Text(kCrLf));
 }
 
 void frm_RTF_HTM::Swap() {
@@ -657,7 +497,7 @@ void frm_RTF_HTM::Swap() {
 
 void frm_RTF_HTM::TableAttributes() {
     if (ThisTextCtrl.TableAtInputPos() > 0) return ThisTextCtrl.TableAttrDialog();
-    Warn(app_, u"Cursor not within a table or more than one cell is selected.");
+    Warn(Context(), u"Cursor not within a table or more than one cell is selected.");
 }
 
 void frm_RTF_HTM::InsertTable() {
@@ -714,11 +554,11 @@ void frm_RTF_HTM::DoSmallCaps() {
 }
 
 void frm_RTF_HTM::DoSuperScript() {
-    ThisTextCtrl.SetBaseLine(app_.Settings.MarkupOption);
+    ThisTextCtrl.SetBaseLine(Context().Settings.MarkupOption);
 }
 
 void frm_RTF_HTM::DoSubScript() {
-    ThisTextCtrl.SetBaseLine(-app_.Settings.MarkupOption);
+    ThisTextCtrl.SetBaseLine(-Context().Settings.MarkupOption);
 }
 
 void frm_RTF_HTM::AssignAltAKey() {

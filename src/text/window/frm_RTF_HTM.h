@@ -2,22 +2,20 @@
 
 #include "context/ports/OpenText.h"
 #include "controls/CommandButton.h"
-#include "controls/Form.h"
 #include "controls/Label.h"
 #include "controls/Menu.h"
 #include "controls/TextBars.h"
-#include "controls/TextControl.h"
+#include "text/window/TextToolsForm.h"
 
 #include <cstdint>
 
 namespace korvane {
 
-class App;
 enum class MsgAnswer : std::int16_t;
 
 /// The rich-text window, in which one document is edited. It opens with the file `TextWindowFile`, or without
 /// one.
-class frm_RTF_HTM : public Form {
+class frm_RTF_HTM : public TextToolsForm {
 public:
     /// The App outlives the window.
     explicit frm_RTF_HTM(App& app);
@@ -53,16 +51,10 @@ public:
     Label lblFileName{*this, "lblFileName"};
     TextButtonBar TXButtonBar1{*this, "TXButtonBar1"};
     TextRuler TXRuler1{*this, "TXRuler1"};
-    TextControl ThisTextCtrl{*this, "ThisTextCtrl"};
     TextStatusBar TXStatusBar1{*this, "TXStatusBar1"};
     HairLine tabHairline{*this, "tabHairline"};
     /// This is never seen.
     TextControl rtfTempText{*this, "rtfTempText"};
-
-    /// The full path of the document, or "Untitled.rtf".
-    Text ThisFileName;
-    /// 1 after a change that the control doesn't know of.
-    std::int16_t TextAltered = 0;
 
     void Load() override;
     bool QueryUnload() override;
@@ -90,7 +82,6 @@ public:
 
     void mnuView_EditField_Clack();
     void EditThisField();
-    void DoConvertHTML();
     void DoThisZoomIn();
     void DoThisZoomOut();
 
@@ -106,33 +97,14 @@ private:
     void ThisTextCtrl_Error(const Text& reason);
     void Typed(TypedText& typed);
     void TakePage();
-    Text FolderOfFile() const;
-    Form* MainForm() const;
 
     void mnuFile_New_Click();
     void mnuFile_Open_Click();
     void mnuFile_SaveAs_Click();
     void mnuInfo_Click();
-    void mnuFind_Click();
-    void mnuReplace_Click();
-    void mnuEdit_ViewAndPaste_Click();
-    void mnuWordList_Click();
-    void mnuEdit_Unicode_Click();
-    void mnuCharacters_Click();
-    void mnuSymbols_Click();
-    void mnuEdit_GetHTML_Click();
-    void mnuFonts_Click();
-    void mnuAlign_Click();
-    void mnuParagraphFormatting_Click();
-    void mnuBulletsNumbering_Click();
-    void mnuPageSetup_Click();
     void mnuView_Click();
     void mnuFormatting_Click();
     void mnuColours_Click();
-    void mnuExplorer_Click();
-    void mnuDateInsert_Click();
-    void mnuTimer_Click();
-    void cmdCentreOnScreen_Click();
 
     // Keys.
 
@@ -151,19 +123,8 @@ private:
     void Italic();
     void ClearFormat();
     void Yellow();
-    void DockLeft();
-    void DockLeftFilling();
-    void DockRight();
-    void DockRightFilling();
-    void CentreAt90();
-    void Webmail();
-    void Desktop();
-    void StartBrowser();
-    void StartLorrit();
-    void OpenUrl();
     void NoteFind();
 
-    App& app_;
     OpenText openText_{ThisTextCtrl, rtfTempText};
 };
 
