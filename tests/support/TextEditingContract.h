@@ -509,6 +509,85 @@ TYPED_TEST_P(TextEditingContract, AFieldMayHaveSeveralLines) {
     EXPECT_EQ(this->control.FieldText(), u"c");
 }
 
+TYPED_TEST_P(TextEditingContract, AStepCanJoinTheOneBeforeIt) {
+    TextStore& store = this->control.Store();
+    store.JoinNext();
+    this->control.SetSelText(u"a");
+    this->control.SetSelText(u"b");
+    store.JoinNext();
+    this->control.SetSelText(u"c");
+    this->control.SetSelText(u"d");
+    EXPECT_TRUE(this->control.Undo());
+    EXPECT_EQ(this->All(), "abc");
+    EXPECT_TRUE(this->control.Undo());
+    EXPECT_EQ(this->All(), "a");
+    EXPECT_TRUE(this->control.Redo());
+    EXPECT_EQ(this->All(), "abc");
+    // What was undone or done again isn't gone on with.
+    this->control.SetSelStart(3);
+    this->control.SetSelText(u"e");
+    EXPECT_TRUE(this->control.Undo());
+    EXPECT_EQ(this->All(), "abc");
+}
+
+TYPED_TEST_P(TextEditingContract, UndoingLeavesTheCursorAtTheChange) {
+    this->control.SetAll(u"one\r\ntwo\r\nthree");
+    this->Select(3, 2);
+    this->control.SetSelText(u"");
+    this->control.SetSelStart(0);
+    EXPECT_TRUE(this->control.Undo());
+    EXPECT_EQ(this->control.SelStart(), 5);
+    EXPECT_TRUE(this->control.Redo());
+    EXPECT_EQ(this->control.SelStart(), 3);
+    // A change of the look alone has no place.
+    this->Select(0, 3);
+    this->control.SetFontBold(1);
+    this->control.SetSelStart(8);
+    EXPECT_TRUE(this->control.Undo());
+    EXPECT_EQ(this->control.SelStart(), 8);
+}
+
+TYPED_TEST_P(TextEditingContract, ACellTellsItsFormat) {
+    EXPECT_EQ(this->control.CellAtInputPos(), CellPlace{});
+    const int table = this->control.InsertTable(2, 2);
+    this->control.SetCellAttribute(table, 2, 1, TextEditing::kCellWidth, 700);
+    EXPECT_EQ(this->control.FormatOfCell(table, 2, 1)->width, 700);
+    EXPECT_EQ(this->control.FormatOfCell(table, 1, 1)->width, CellFormat{}.width);
+    EXPECT_FALSE(this->control.FormatOfCell(table, 3, 1));
+    EXPECT_FALSE(this->control.FormatOfCell(table, 1, 3));
+    EXPECT_FALSE(this->control.FormatOfCell(table - 1, 1, 1));
+    this->control.SetSelStart(this->control.CellStart(table, 2, 1) - 1);
+    EXPECT_EQ(this->control.CellAtInputPos(), (CellPlace{static_cast<Index>(-table), 2, 1}));
+}
+
+TYPED_TEST_P(TextEditingContract, ParagraphsBecomeALevelOfAList) {
+    this->control.SetAll(u"a\r\nb\r\nc");
+    this->Select(0, 4);
+    this->control.SetListMark({.kind = ListKind::Decimal, .level = 1});
+    const ParaFormat format = this->control.ParagraphFormat();
+    EXPECT_EQ(format.list.kind, ListKind::Decimal);
+    EXPECT_EQ(format.left, 720);
+    EXPECT_EQ(format.first, -360);
+    this->control.SetSelStart(3);
+    EXPECT_EQ(this->control.ParagraphFormat(), format);
+    this->control.SetSelStart(6);
+    EXPECT_EQ(this->control.ParagraphFormat(), ParaFormat{});
+    this->control.SetListMark({.kind = ListKind::Bullet});
+    EXPECT_NE(this->control.ParagraphFormat().list.list, format.list.list);
+    this->control.SetListMark({});
+    EXPECT_EQ(this->control.ParagraphFormat(), ParaFormat{});
+}
+
+TYPED_TEST_P(TextEditingContract, AListIsFoundBeforeTheCursor) {
+    this->control.SetAll(u"a\r\nb\r\n\r\nc");
+    EXPECT_EQ(this->control.ListBefore(), ListMark{});
+    this->control.SetListMark({.kind = ListKind::Bullet});
+    EXPECT_EQ(this->control.ListBefore(), ListMark{});
+    const ListMark mark = this->control.ParagraphFormat().list;
+    this->control.SetSelStart(8);
+    EXPECT_EQ(this->control.ListBefore(), mark);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(
     TextEditingContract, ANewTextIsEmpty, WhatIsWrittenIsReadWithCrLf, ASelectionStaysWithinTheText,
     WritingReplacesTheSelectionAndLeavesTheCursorBehind, AnEdgeWithinALineEndMovesOutward,
@@ -521,6 +600,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     AWholeDocumentComesBack, ATableIsFilledByItsCells, ATableIsRefusedWithinATable, CellsHaveAttributes,
     ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater, AFieldWithoutTextGoesWhenTheCursorMoves,
     FieldsFollowEachOtherInTheText, TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
-    AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField, AFieldMayHaveSeveralLines);
+    AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField, AFieldMayHaveSeveralLines,
+    AStepCanJoinTheOneBeforeIt, UndoingLeavesTheCursorAtTheChange, ACellTellsItsFormat,
+    ParagraphsBecomeALevelOfAList, AListIsFoundBeforeTheCursor);
 
 } // namespace korvane::doc

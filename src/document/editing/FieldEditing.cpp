@@ -36,9 +36,20 @@ Field* TextEditing::DataFor(int field) {
     return found == fields_.end() ? nullptr : &found->second;
 }
 
+/// Whether a character of a field is in the stretch or next to it, also over the end of a paragraph.
+bool TextEditing::NearField(Pos from, Pos to) const {
+    const Pos around = kCrLf.size() + 1;
+    bool near = false;
+    store_->Runs(from > around ? from - around : 0, std::min(to + around, All().size()),
+                 [&near](Pos, std::size_t, const Look& look) { near = near || look.field != 0; });
+    return near;
+}
+
 /// The field to which a text belongs that takes the place of the stretch: the one that has the stretch within
 /// it.
 Index TextEditing::FieldFor(Pos from, Pos to) const {
+    // Most texts are written far from any field, and to look for all fields takes time in a long document.
+    if (!NearField(from, to)) return 0;
     for (const FieldPlace& place : FieldPlaces()) {
         if (place.start > to) return 0;
         const bool within =

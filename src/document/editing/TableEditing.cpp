@@ -51,6 +51,15 @@ int TextEditing::TableAtInputPos() const {
     return static_cast<int>(store_->TableAt(start_).value_or(CellPlace{}).table);
 }
 
+CellPlace TextEditing::CellAtInputPos() const {
+    const auto cell = store_->TableAt(start_);
+    return cell ? CellPlace{cell->table, cell->row + 1, cell->column + 1} : CellPlace{};
+}
+
+std::optional<CellFormat> TextEditing::FormatOfCell(int table, int row, int column) const {
+    return store_->CellAt(PlaceOf(table, row, column));
+}
+
 Text TextEditing::CellText(int table, int row, int column) const {
     const auto range = store_->CellRange(PlaceOf(table, row, column));
     return range ? All().substr(range->first, range->second - range->first) : Text();

@@ -32,6 +32,19 @@ CharDelta Joined(CharDelta delta, const CharDelta& over) {
     return delta;
 }
 
+/// Where the part of the text ends that is another one now; nothing if there is none.
+std::optional<Pos> EndOfChange(TextView before, TextView now) {
+    const auto [first, firstNow] = std::ranges::mismatch(before, now);
+    if (first == before.end() && firstNow == now.end()) return std::nullopt;
+    const auto same = firstNow - now.begin();
+    const auto end =
+        std::mismatch(before.rbegin(), before.rend() - same, now.rbegin(), now.rend() - same).second;
+    const Pos place = static_cast<Pos>(now.rend() - end);
+    // The end of a paragraph is one place.
+    const bool within = place > 0 && place < now.size() && now[place] == u'\n' && now[place - 1] == u'\r';
+    return within ? place + 1 : place;
+}
+
 Look With(Look look, const CharDelta& delta) {
     Document scratch;
     look.font = delta.font.value_or(look.font);
@@ -173,7 +186,9 @@ void TextEditing::Insert(Document piece) {
 }
 
 bool TextEditing::Travel(bool (TextStore::*way)()) {
+    const Text before = All();
     if (!((*store_).*way)()) return false;
+    if (const auto place = EndOfChange(before, All())) start_ = end_ = *place;
     DropPending();
     NoteChange(true);
     SelectionMoved();
@@ -207,6 +222,7 @@ int TextEditing::FlagOf(bool CharFormat::*flag) const {
 void TextEditing::Apply(const CharDelta& delta) {
     if (start_ == end_) {
         pending_ = Joined(pending_, delta);
+        SelectionMoved();
         return;
     }
     store_->Format(start_, end_, delta);

@@ -23,6 +23,7 @@ public:
     /// The value of `CharAttributes` for small capitals.
     static constexpr int kSmallCaps = 32;
     static constexpr int kTabs = 14;
+    static constexpr int kListLevels = 9;
 
     /// The numbers of a cell's attributes.
     enum CellAttribute : std::uint8_t {
@@ -113,6 +114,14 @@ public:
     void SetFrameDistance(int twips) { SetLength(&ParaFormat::frameDistance, twips); }
     int FrameLineWidth() const { return Para().frameWidth; }
     void SetFrameLineWidth(int twips) { SetLength(&ParaFormat::frameWidth, twips); }
+    /// The whole format of the first paragraph, and a change of all that the selection touches.
+    ParaFormat ParagraphFormat() const { return Para(); }
+    void FormatParagraphs(const std::function<void(ParaFormat&)>& change) { ChangeParas(change); }
+    /// The mark of the nearest paragraph before the first one that is in a list.
+    ListMark ListBefore() const;
+    /// With the indents that belong to the mark. Without a number, the paragraphs stay in the list in which
+    /// the first one is, unless that began before them; else they become a list of their own.
+    void SetListMark(ListMark mark);
     /// The tab that the next two are about, counted from 1.
     int TabCurrent() const { return tabCurrent_; }
     void SetTabCurrent(int tab) { tabCurrent_ = tab; }
@@ -134,6 +143,10 @@ public:
     int TableAtInputPos() const;
     int TableRows(int table) const { return static_cast<int>(store_->SizeOf(TableNumber(table)).rows); }
     int TableColumns(int table) const { return static_cast<int>(store_->SizeOf(TableNumber(table)).columns); }
+    /// The cell at the cursor, with its row and column counted from 1; 0 for all three outside of tables.
+    CellPlace CellAtInputPos() const;
+    /// Nothing if there is no such cell.
+    std::optional<CellFormat> FormatOfCell(int table, int row, int column) const;
     Text CellText(int table, int row, int column) const;
     void SetCellText(int table, int row, int column, TextView text);
     /// The place of the cell's first character, counted from 1; 0 if there is no such cell.
@@ -166,7 +179,7 @@ public:
 protected:
     /// Runs after every change of the text or of its formats.
     virtual void Edited() {}
-    /// Runs after the selection became another one.
+    /// Runs after the selection became another one, or what is written next at the cursor got another look.
     virtual void SelectionMoved() {}
 
 private:
@@ -183,12 +196,14 @@ private:
     void Apply(const CharDelta& delta);
     ParaFormat Para() const { return store_->ParaAt(start_); }
     void ChangeParas(const std::function<void(ParaFormat&)>& change);
+    Index FreeList() const;
     void SetLength(std::int32_t ParaFormat::*length, int twips);
     void ChangeTab(const std::function<void(std::vector<TabStop>&, std::size_t)>& change);
     void Select(Pos start, Pos end);
     void Insert(Document piece);
     Document LineLike(TextView text, const Look& look, Index field, const ParaFormat& shape) const;
     Document LineHere(TextView text, Index field) const { return LineLike(text, First(), field, Para()); }
+    bool NearField(Pos from, Pos to) const;
     Index FieldFor(Pos from, Pos to) const;
     /// `moved` says whether places in the text became others.
     void NoteChange(bool moved);

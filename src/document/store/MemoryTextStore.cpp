@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <utility>
 
 namespace korvane::doc {
 
@@ -75,11 +76,15 @@ void MemoryTextStore::Edit(Patch patch) {
 
 void MemoryTextStore::EndStep() {
     if (--depth_ > 0 || step_.empty()) return;
-    undo_.push_back(std::move(step_));
+    if (std::exchange(joins_, false) && !undo_.empty())
+        std::ranges::move(step_, std::back_inserter(undo_.back()));
+    else
+        undo_.push_back(std::move(step_));
     step_.clear();
 }
 
 bool MemoryTextStore::Move(Steps& from, Steps& to) {
+    joins_ = false;
     if (from.empty()) return false;
     std::vector<Patch> step = std::move(from.back());
     from.pop_back();
@@ -169,6 +174,13 @@ TableSize MemoryTextStore::SizeOf(Index table) const {
     if (found == document_.tables.end()) return {};
     const std::vector<TableRow>& rows = found->second.rows;
     return {rows.size(), rows.empty() ? 0 : rows.front().cells.size()};
+}
+
+std::optional<CellFormat> MemoryTextStore::CellAt(const CellPlace& cell) const {
+    const auto found = document_.tables.find(cell.table);
+    if (found == document_.tables.end() || cell.row >= found->second.rows.size()) return std::nullopt;
+    const std::vector<CellFormat>& cells = found->second.rows[cell.row].cells;
+    return cell.column < cells.size() ? std::optional(cells[cell.column]) : std::nullopt;
 }
 
 std::optional<Index> MemoryTextStore::InsertTable(Pos position, std::size_t rows, std::size_t columns) {

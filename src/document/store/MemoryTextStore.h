@@ -34,12 +34,14 @@ public:
     std::optional<CellPlace> TableAt(Pos position) const override;
     std::optional<std::pair<Pos, Pos>> CellRange(const CellPlace& cell) const override;
     doc::TableSize SizeOf(Index table) const override;
+    std::optional<CellFormat> CellAt(const CellPlace& cell) const override;
     std::optional<Index> InsertTable(Pos position, std::size_t rows, std::size_t columns) override;
     void FormatCells(Index table, const std::function<void(const CellPlace&, CellFormat&)>& change) override;
     Page PageSetup() const override { return document_.page; }
     void SetPageSetup(const Page& page) override;
     void BeginStep() override { ++depth_; }
     void EndStep() override;
+    void JoinNext() override { joins_ = !undo_.empty(); }
     bool Undo() override;
     bool Redo() override;
 
@@ -65,6 +67,7 @@ private:
     Text all_{};
     mutable Places places_{document_};
     int depth_ = 0;
+    bool joins_ = false;
     std::vector<Patch> step_;
     Steps undo_;
     Steps redo_;

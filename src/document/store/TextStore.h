@@ -56,6 +56,8 @@ public:
     /// Where the text of a cell begins and ends; nothing if there is no such cell.
     virtual std::optional<std::pair<Pos, Pos>> CellRange(const CellPlace& cell) const = 0;
     virtual doc::TableSize SizeOf(Index table) const = 0;
+    /// How a cell looks; nothing if there is no such cell.
+    virtual std::optional<CellFormat> CellAt(const CellPlace& cell) const = 0;
     /// The number of the new table; nothing if the position is in a table, or for a table without cells.
     virtual std::optional<Index> InsertTable(Pos position, std::size_t rows, std::size_t columns) = 0;
     /// Changes all cells of a table.
@@ -68,6 +70,8 @@ public:
     /// What is done between the two can be undone together. Steps may be in each other.
     virtual void BeginStep() = 0;
     virtual void EndStep() = 0;
+    /// The step that comes next is undone together with the one before it.
+    virtual void JoinNext() = 0;
     /// False when there is nothing to undo.
     virtual bool Undo() = 0;
     virtual bool Redo() = 0;
