@@ -30,6 +30,8 @@ enum class TextSaving : std::uint8_t {
     NotMade,
 };
 
+enum class FileUse : std::uint8_t { Reading, Writing };
+
 /// Reads and writes the files of text controls.
 class TextFiles {
 public:
@@ -37,6 +39,9 @@ public:
     /// Nothing when the file can't be read, or when there is no way to read this format.
     virtual std::optional<doc::ReadResult> Load(TextView path, int format) = 0;
     virtual TextSaving Save(TextView path, int format, const doc::Document& document) = 0;
+
+    /// The program that isn't installed but is needed to read or to write the format; empty if none is.
+    virtual Text Needed(int format, FileUse use) const = 0;
 
     // The same in memory, for the formats that need no other program.
     virtual std::optional<doc::ReadResult> Read(std::string_view bytes, int format) = 0;

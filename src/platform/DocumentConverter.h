@@ -15,6 +15,8 @@ public:
     virtual ~DocumentConverter() = default;
     /// Nothing when no program can do it, or when it failed.
     virtual std::optional<std::string> Convert(Conversion conversion, std::string_view bytes) = 0;
+    /// The name of the program that has to be installed for it; empty if one is there.
+    virtual std::string_view Missing(Conversion conversion) const = 0;
 };
 
 } // namespace korvane

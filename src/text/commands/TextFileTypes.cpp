@@ -66,12 +66,12 @@ void SetLoadSaveAttributes(TextControl& control, int format) {
     }
 }
 
-void SaveByName(TextControl& control, TextView path) {
+bool SaveByName(TextControl& control, TextView path) {
     const int format = FileTypeForSave(path);
     if (format != TextFormat::Plain) SetLoadSaveAttributes(control, format);
     for (int size = 0; HasPageSizes(format) && size < static_cast<int>(doc::Page::kSizes); ++size)
         control.SetLoadSaveAttribute(size, control.PageSize(static_cast<doc::Page::Size>(size)));
-    control.Save(path, format);
+    return control.Save(path, format);
 }
 
 } // namespace korvane

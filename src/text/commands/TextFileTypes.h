@@ -22,6 +22,6 @@ int FileTypeForSave(TextView path);
 void SetLoadSaveAttributes(TextControl& control, int format);
 
 /// Saves the text by the file's name, with the sizes of its page.
-void SaveByName(TextControl& control, TextView path);
+bool SaveByName(TextControl& control, TextView path);
 
 } // namespace korvane

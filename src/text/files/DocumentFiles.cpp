@@ -124,6 +124,13 @@ TextSaving DocumentFiles::Save(TextView path, int number, const doc::Document& d
     return files_.WriteWhole(path, *bytes) ? TextSaving::Saved : TextSaving::NotWritten;
 }
 
+Text DocumentFiles::Needed(int number, FileUse use) const {
+    const Format* const format = FormatOf(number);
+    if (format == nullptr || converter_ == nullptr) return {};
+    const auto& conversion = use == FileUse::Reading ? format->beforeReading : format->afterWriting;
+    return conversion ? FromAscii(converter_->Missing(*conversion)) : Text();
+}
+
 std::optional<doc::ReadResult> DocumentFiles::Read(std::string_view bytes, int number) {
     const Format* const format = FormatOf(number);
     if (format == nullptr || format->beforeReading) return std::nullopt;

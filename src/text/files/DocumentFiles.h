@@ -21,6 +21,7 @@ public:
 
     std::optional<doc::ReadResult> Load(TextView path, int format) override;
     TextSaving Save(TextView path, int format, const doc::Document& document) override;
+    Text Needed(int format, FileUse use) const override;
     std::optional<doc::ReadResult> Read(std::string_view bytes, int format) override;
     std::optional<std::string> Written(const doc::Document& document, int format) override;
 

@@ -309,7 +309,7 @@ void frm_RTF_HTM::LoadThisFile() {
         if (files.FileExists(ThisFileName)) {
             const int format = FileTypeForLoad(ThisFileName);
             SetLoadSaveAttributes(ThisTextCtrl, format);
-            ThisTextCtrl.Load(ThisFileName, format);
+            if (!ThisTextCtrl.Load(ThisFileName, format)) TellNeeded(format, FileUse::Reading);
         } else {
             Text missing = ThisFileName;
             ShowCannotLocate(Context(), missing);
@@ -333,7 +333,8 @@ void frm_RTF_HTM::SaveThisFile() {
     {
         const Hourglass hourglass(Context().Screen());
         Context().Screen().ProcessMessages();
-        SaveByName(ThisTextCtrl, ThisFileName);
+        if (!SaveByName(ThisTextCtrl, ThisFileName))
+            TellNeeded(FileTypeForSave(ThisFileName), FileUse::Writing);
         Context().Clock().Wait(kSavedNote);
         ShowButtons(true);
         lblFileName.Visible = false;
@@ -346,6 +347,13 @@ void frm_RTF_HTM::ThisTextCtrl_Error(const Text& reason) {
     const bool saving = reason.find(u"1d09") != Text::npos;
     Warn(Context(), saving ? u"Error saving file directly.\r\n\r\nPlease use \"Save as\" function."
                            : u"Error executing command just now.\r\n\r\nTry again in a moment.");
+}
+
+/// Tells the user what to install, where that is what the step failed for.
+void frm_RTF_HTM::TellNeeded(int format, FileUse use) {
+    const Text program = ThisTextCtrl.Files == nullptr ? Text() : ThisTextCtrl.Files->Needed(format, use);
+    if (!program.empty())
+        Warn(Context(), u"Files of this kind need the program " + program + u", which is not installed.");
 }
 
 MsgAnswer frm_RTF_HTM::AskSaveChanges() {

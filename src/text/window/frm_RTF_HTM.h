@@ -97,6 +97,7 @@ private:
     void ThisTextCtrl_Error(const Text& reason);
     void Typed(TypedText& typed);
     void TakePage();
+    void TellNeeded(int format, FileUse use);
 
     void mnuFile_New_Click();
     void mnuFile_Open_Click();

@@ -31,6 +31,7 @@ public:
         return saving;
     }
     std::optional<doc::ReadResult> Read(std::string_view, int) override { return file; }
+    Text Needed(int, FileUse) const override { return {}; }
     std::optional<std::string> Written(const doc::Document&, int) override { return "written"; }
 
     std::optional<doc::ReadResult> file;

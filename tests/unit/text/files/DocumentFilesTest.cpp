@@ -110,5 +110,15 @@ TEST_F(DocumentFilesTest, InMemoryOnlyOwnFormatsAreReadAndWritten) {
     EXPECT_FALSE(documents.Read("doc", TextFormat::Doc));
 }
 
+TEST_F(DocumentFilesTest, TellsWhichProgramAFormatNeeds) {
+    converter.missing = "Office";
+    converter.outcomes[Conversion::DocToRtf] = "{\\rtf1}";
+    EXPECT_EQ(documents.Needed(TextFormat::Doc, FileUse::Reading), u"");
+    EXPECT_EQ(documents.Needed(TextFormat::Doc, FileUse::Writing), u"Office");
+    EXPECT_EQ(documents.Needed(TextFormat::Pdf, FileUse::Reading), u"Office");
+    EXPECT_EQ(documents.Needed(TextFormat::Rtf, FileUse::Reading), u"");
+    EXPECT_EQ(documents.Needed(99, FileUse::Reading), u"");
+}
+
 } // namespace
 } // namespace korvane

@@ -375,5 +375,24 @@ TEST_F(TextWindowFiles, AZoomOfZeroInTheSettingsIsNone) {
     EXPECT_EQ(Control().ZoomFactor, 100);
 }
 
+TEST_F(TextWindowFiles, TheUserLearnsWhichProgramIsMissing) {
+    converter.missing = "LibreOffice";
+    const Message failed{u"Error executing command just now.\r\n\r\nTry again in a moment.",
+                         MessageIcon::Exclamation, MessageButtons::Ok};
+    const Message needed{u"Files of this kind need the program LibreOffice, which is not installed.",
+                         MessageIcon::Exclamation, MessageButtons::Ok};
+    t.files.AddFile(u"C:\\letter.doc", "old doc");
+    t.user.Answer(failed, Answer::Ok);
+    t.user.Answer(needed, Answer::Ok);
+    Open(u"C:\\letter.doc");
+    t.user.Answer(failed, Answer::Ok);
+    t.user.Answer(needed, Answer::Ok);
+    window->SaveThisFile();
+    // Where the program is there and fails, there is nothing to install.
+    converter.missing.clear();
+    t.user.Answer(failed, Answer::Ok);
+    window->SaveThisFile();
+}
+
 } // namespace
 } // namespace korvane
