@@ -20,6 +20,7 @@ TextControl::TextControl(Form& owner, std::string_view name)
     : Control(owner, name), TextEditing(std::make_unique<doc::MemoryTextStore>()) {}
 
 void TextControl::Edited() {
+    ++edits_;
     Notify(Aspect::Text);
     if (!spaceTyped_ && Change) Change();
 }
@@ -37,8 +38,32 @@ void TextControl::Type(TextView text) {
     const bool changed = DataChanged();
     // A space that replaces a selection changes more than a space does.
     const ScopedValue space(spaceTyped_, typed.Is(u' ') && SelLength() == 0);
+    if (GoesOnTyping(typed.text)) Store().JoinNext();
     SetSelText(typed.text);
     if (spaceTyped_) SetDataChanged(changed);
+    run_ = KeyRun{edits_, SelStart(), typed.text};
+}
+
+/// A word is undone with the spaces after it.
+bool TextControl::GoesOnTyping(TextView text) const {
+    if (!run_ || run_->edits != edits_ || run_->typed.empty() || SelLength() > 0 || SelStart() != run_->at)
+        return false;
+    const auto single = [](TextView typed) { return typed.size() <= 2 && typed.front() >= u' '; };
+    const bool newWord = run_->typed == u" " && text != u" ";
+    return !text.empty() && single(text) && single(run_->typed) && !newWord;
+}
+
+void TextControl::Erase() {
+    if (SelLength() == 0) return;
+    if (GoesOnErasing()) Store().JoinNext();
+    DeleteSelection();
+    run_ = KeyRun{edits_, SelStart()};
+}
+
+/// The character is next to the place where the last one was deleted.
+bool TextControl::GoesOnErasing() const {
+    return run_ && run_->edits == edits_ && run_->typed.empty() &&
+           (SelStart() == run_->at || SelStart() + SelLength() == run_->at);
 }
 
 void TextControl::MoveSelection(int start, int length) {

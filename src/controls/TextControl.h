@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -80,8 +81,12 @@ public:
 
     // What the user does.
 
-    /// A text, mostly of one character, is typed at the selection. Return is CR.
+    /// A text, mostly of one character, is typed at the selection. Return is CR. Characters that are typed
+    /// one after the other are undone word by word.
     void Type(TextView text);
+    /// Deletes the selection, which is the one character that a key deletes. What a row of such keys deletes
+    /// is undone as one.
+    void Erase();
     void MoveSelection(int start, int length);
     /// The mouse comes over a field, or leaves it for 0.
     void Hover(int field);
@@ -121,6 +126,8 @@ protected:
 
 private:
     void Show(TextDialog dialog);
+    bool GoesOnTyping(TextView text) const;
+    bool GoesOnErasing() const;
     void Take(doc::ReadResult read);
     bool Fail(TextView reason);
 
@@ -128,6 +135,16 @@ private:
     bool spaceTyped_ = false;
     bool movedByUser_ = false;
     int hovered_ = 0;
+    /// Counts the changes of the text.
+    int edits_ = 0;
+    /// What the user did last with single keys, which may go on.
+    struct KeyRun {
+        int edits = 0;
+        int at = 0;
+        /// The last typed text; empty after a deletion.
+        Text typed{};
+    };
+    std::optional<KeyRun> run_;
 };
 
 } // namespace korvane

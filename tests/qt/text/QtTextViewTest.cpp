@@ -152,14 +152,25 @@ TEST_F(QtTextViewTest, AnEmojiIsOneCharacterForKeys) {
     EXPECT_EQ(All(), "a");
 }
 
-TEST_F(QtTextViewTest, EveryEditIsUndoneByItself) {
+TEST_F(QtTextViewTest, TheUsualKeysForBoldItalicAndUnderlineWork) {
+    control.SetAll(u"abc");
+    control.SetSelection(0, 3);
+    Settle();
+    Key(Qt::Key_B, Qt::ControlModifier);
+    Key(Qt::Key_I, Qt::ControlModifier);
+    Key(Qt::Key_U, Qt::ControlModifier);
+    EXPECT_EQ(control.FontBold() + control.FontItalic() + control.FontUnderline(), 3);
+    Key(Qt::Key_B, Qt::ControlModifier);
+    EXPECT_EQ(control.FontBold(), 0);
+    EXPECT_EQ(All(), "abc");
+}
+
+TEST_F(QtTextViewTest, TypingAndDeletingAreUndoneInTheirSteps) {
     control.SetAll(u"abc");
     control.SetSelStart(3);
     Type("d");
     Key(Qt::Key_Backspace);
     Key(Qt::Key_Backspace);
-    Key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(All(), "abc");
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(All(), "abcd");
     Key(Qt::Key_Z, Qt::ControlModifier);

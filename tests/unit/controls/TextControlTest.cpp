@@ -222,5 +222,85 @@ TEST_F(TextControlTest, ItsBarsAreAttachedToIt) {
     EXPECT_EQ(ruler.Target, &control);
 }
 
+class KeyRunTest : public TextControlTest {
+protected:
+    void Type(TextView text) {
+        for (const char16_t character : text)
+            control.Type(TextView(&character, 1));
+    }
+    void Backspace() {
+        control.MoveSelection(control.SelStart() - 1, 1);
+        control.Erase();
+    }
+    /// The texts to which undoing comes back, down to the first.
+    std::vector<std::string> Undone() {
+        std::vector<std::string> texts;
+        while (control.Undo())
+            texts.push_back(ToUtf8(control.All()));
+        return texts;
+    }
+};
+
+TEST_F(KeyRunTest, WhatIsTypedIsUndoneWordByWord) {
+    Type(u"one two  three");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"one two  ", "one ", ""}));
+    ASSERT_TRUE(control.Redo());
+    EXPECT_EQ(control.All(), u"one ");
+    EXPECT_EQ(control.SelStart(), 4);
+}
+
+TEST_F(KeyRunTest, AParagraphAndATabAreStepsOfTheirOwn) {
+    Type(u"a\rb\tc");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"a\r\nb\t", "a\r\nb", "a\r\n", "a", ""}));
+}
+
+TEST_F(KeyRunTest, TypingElsewhereIsAnotherStep) {
+    Type(u"ab");
+    control.MoveSelection(0, 0);
+    Type(u"c");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"ab", ""}));
+}
+
+TEST_F(KeyRunTest, AnotherChangeEndsTheRun) {
+    Type(u"a");
+    control.SetAlignment(1);
+    Type(u"b");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"a", "a", ""}));
+}
+
+TEST_F(KeyRunTest, ATextThatTakesThePlaceOfASelectionIsAStep) {
+    Type(u"ab");
+    control.MoveSelection(1, 1);
+    Type(u"c");
+    Type(u"d");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"ab", ""}));
+}
+
+TEST_F(KeyRunTest, ARowOfDeletionsIsUndoneAsOne) {
+    control.SetAll(u"12345");
+    control.SetSelStart(4);
+    Backspace();
+    Backspace();
+    control.MoveSelection(2, 1);
+    control.Erase();
+    EXPECT_EQ(control.All(), u"12");
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"12345"}));
+    EXPECT_EQ(control.SelStart(), 5);
+    Type(u"x");
+    Backspace();
+    EXPECT_EQ(Undone(), (std::vector<std::string>{"12345x", "12345"}));
+}
+
+TEST_F(KeyRunTest, UndoingLeavesTheCursorAtTheChange) {
+    control.SetAll(u"one two three");
+    control.SetSelection(4, 3);
+    control.SetSelText(u"2");
+    control.SetSelStart(0);
+    ASSERT_TRUE(control.Undo());
+    EXPECT_EQ(control.SelStart(), 7);
+    ASSERT_TRUE(control.Redo());
+    EXPECT_EQ(control.SelStart(), 5);
+}
+
 } // namespace
 } // namespace korvane

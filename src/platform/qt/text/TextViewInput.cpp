@@ -43,6 +43,19 @@ constexpr Deletion kDeletions[] = {
     {QKeySequence::DeleteEndOfWord, QTextCursor::NextWord},
 };
 
+/// The keys that most programs have for these. The window has others, which it takes before.
+struct Toggle {
+    QKeySequence::StandardKey key;
+    int (doc::TextEditing::*get)() const;
+    void (doc::TextEditing::*set)(int);
+};
+
+constexpr Toggle kToggles[] = {
+    {QKeySequence::Bold, &doc::TextEditing::FontBold, &doc::TextEditing::SetFontBold},
+    {QKeySequence::Italic, &doc::TextEditing::FontItalic, &doc::TextEditing::SetFontItalic},
+    {QKeySequence::Underline, &doc::TextEditing::FontUnderline, &doc::TextEditing::SetFontUnderline},
+};
+
 bool IsRedo(const QKeyEvent& key) {
     // Qt has this key for it on Windows alone.
     return key.matches(QKeySequence::Redo) ||
@@ -86,6 +99,11 @@ bool QtTextView::EditWith(const QKeyEvent& event) {
     if (IsBackspace(event)) return DeleteTo(QTextCursor::PreviousCharacter), true;
     for (const Deletion& deletion : kDeletions) {
         if (event.matches(deletion.key)) return DeleteTo(deletion.way), true;
+    }
+    for (const Toggle& toggle : kToggles) {
+        if (!event.matches(toggle.key)) continue;
+        (control_->*toggle.set)((control_->*toggle.get)() == 1 ? 0 : 1);
+        return true;
     }
     if (event.matches(QKeySequence::InsertLineSeparator))
         return control_->Type(Text(1, doc::kLineBreak)), true;
@@ -139,6 +157,8 @@ void QtTextView::DeleteTo(QTextCursor::MoveOperation way) {
         if (mirror_->Store().TableAt(mirror_->FromQt(cursor.position())) != cell) return;
         item_->setTextCursor(cursor);
         TakeCursor(false);
+        control_->Erase();
+        return ShowText();
     }
     DeleteSelection();
 }
