@@ -57,6 +57,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
+    app_.SetPort<FrontWindow>(&frontWindow_);
     app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<ColourPicker>(&colourPicker_);
     app_.SetPort<PictureFiles>(&pictureFiles_);

@@ -13,6 +13,7 @@
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtFonts.h"
+#include "platform/qt/services/QtFrontWindow.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
@@ -57,6 +58,7 @@ private:
     QtFonts fonts_;
     QtFormHost forms_;
     QtSystemFileDialog systemFileDialog_;
+    QtFrontWindow frontWindow_;
     QtFontPicker fontPicker_;
     QtColourPicker colourPicker_;
     QtPictureFiles pictureFiles_;

@@ -11,6 +11,7 @@ struct KeyEvent;
 
 /// The commands that windows below the main window run by name.
 namespace CommandName {
+inline constexpr std::string_view mnuFile_Close = "mnuFile_Close";
 inline constexpr std::string_view mnuHelpText = "mnuHelpText";
 inline constexpr std::string_view mnuMisc_Clock = "mnuMisc_Clock";
 inline constexpr std::string_view mnuMisc_Settings = "mnuMisc_Settings";

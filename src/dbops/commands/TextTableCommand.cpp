@@ -1,6 +1,8 @@
 #include "dbops/commands/TextTableCommand.h"
 
 #include "context/App.h"
+#include "context/ports/FrontWindow.h"
+#include "context/ports/MainWindow.h"
 #include "context/ports/TextWindow.h"
 #include "dbops/rules/TextTable.h"
 #include "dbops/windows/frmChooseRange.h"
@@ -9,6 +11,8 @@
 #include "document/rtf/Rtf.h"
 #include "platform/Screen.h"
 #include "table/TableModel.h"
+
+#include <optional>
 
 namespace korvane {
 
@@ -33,13 +37,21 @@ std::vector<Text> TitlesOf(const TableModel& table) {
     return titles;
 }
 
-/// The rows as formatted text.
-std::string MakeRtf(const TabContext& tab) {
+/// The rows as formatted text; nothing without any row.
+std::optional<std::string> MakeRtf(const TabContext& tab) {
     const Hourglass hourglass(tab.app.Screen());
     const Grid& grid = tab.table.GridStore();
     const auto takes = [&](Row row) { return IsInChosenRange(tab.app, grid, row); };
-    return doc::WriteRtf(MakeTextTable(grid, TitlesOf(tab.table), takes, LookOf(tab.app.Settings)),
-                         doc::RtfExtent::Fragment);
+    const doc::Document table = MakeTextTable(grid, TitlesOf(tab.table), takes, LookOf(tab.app.Settings));
+    if (table.tables.empty()) return std::nullopt;
+    return doc::WriteRtf(table, doc::RtfExtent::Fragment);
+}
+
+/// There is no table without rows. Kept for compatibility: refused-text-table-closes.
+void Refuse(const TabContext& tab) {
+    Warn(tab.app, u"The text cursor is currently inside a table.\r\nMove it outside and try again.");
+    tab.app.Screen().SetPointer(Pointer::Default);
+    if (auto* main = tab.app.Port<MainWindow>()) main->RunCommand(CommandName::mnuFile_Close);
 }
 
 } // namespace
@@ -47,9 +59,12 @@ std::string MakeRtf(const TabContext& tab) {
 void mnuEdit_MakeTable_Clack(const TabContext& tab) {
     if (!ChooseRange(tab.app)) return;
     tab.app.Screen().ProcessMessages();
+    if (auto* front = tab.app.Port<FrontWindow>()) front->PressDown();
     frmFormatTable form(tab.app);
     if (ShowForResult(tab.app, form) == 0) return;
-    if (auto* textWindow = tab.app.Port<TextWindow>()) textWindow->TextWindowInsertRtf(MakeRtf(tab));
+    const auto rtf = MakeRtf(tab);
+    if (!rtf) return Refuse(tab);
+    if (auto* textWindow = tab.app.Port<TextWindow>()) textWindow->TextWindowInsertRtf(*rtf);
     tab.table.GridStore().GridSetFocus();
 }
 

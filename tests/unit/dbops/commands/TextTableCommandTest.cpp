@@ -1,8 +1,10 @@
 #include "dbops/commands/TextTableCommand.h"
 
+#include "context/ports/FrontWindow.h"
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmFormatTable.h"
 #include "document/rtf/Rtf.h"
+#include "support/FakeMainWindow.h"
 #include "unit/dbops/FakePorts.h"
 #include "unit/dbops/TestTab.h"
 
@@ -70,6 +72,35 @@ TEST_F(TextTableCommand, WithoutATextWindowNothingHappens) {
     t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
     mnuEdit_MakeTable_Clack(t.tab);
     EXPECT_EQ(t.watcher.focusWanted, 1);
+}
+
+TEST_F(TextTableCommand, PressesDownBeforeItAsksForTheLook) {
+    struct CountingFront final : FrontWindow {
+        void PressDown() override { ++presses; }
+        int presses = 0;
+    } front;
+    t.app.SetPort<FrontWindow>(&front);
+    Choose(false);
+    t.user.On<frmFormatTable>([&front](frmFormatTable& f) {
+        EXPECT_EQ(front.presses, 1);
+        f.cmdCancel.Press();
+    });
+    mnuEdit_MakeTable_Clack(t.tab);
+}
+
+// Kept for compatibility: refused-text-table-closes.
+TEST_F(TextTableCommand, WithoutRowsItTellsOfATableAndClosesTheTab) {
+    FakeMainWindow main(t.app);
+    Choose(true);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
+    t.user.Answer({u"The text cursor is currently inside a table.\r\nMove it outside and try again.",
+                   MessageIcon::Exclamation, MessageButtons::Ok},
+                  Answer::Ok);
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_TRUE(textWindow.insertedRtf.empty());
+    EXPECT_EQ(main.commands, std::vector<std::string>{"mnuFile_Close"});
+    EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
+    EXPECT_EQ(t.watcher.focusWanted, 0);
 }
 
 } // namespace
