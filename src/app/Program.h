@@ -5,7 +5,9 @@
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
 #include "kept/KeptTables.h"
+#include "platform/native/ChildProcess.h"
 #include "platform/native/NativeClock.h"
+#include "platform/native/NativeDocumentConverter.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/picture/QtPictureFiles.h"
@@ -14,6 +16,7 @@
 #include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtFonts.h"
 #include "platform/qt/services/QtFrontWindow.h"
+#include "platform/qt/services/QtPatience.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
@@ -67,8 +70,8 @@ private:
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
     DesktopFileViewer desktopViewer_{app_};
-    // Other programs that know more formats aren't asked yet.
-    DocumentFiles documents_{files_, app_.Page(), nullptr};
+    NativeDocumentConverter converter_{FindProgram, BeginPatience};
+    DocumentFiles documents_{files_, app_.Page(), &converter_};
     TextWindows textWindows_{app_};
     TagPairs tagPairs_{app_};
     WordListWindow wordListWindow_{app_};
