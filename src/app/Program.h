@@ -23,6 +23,7 @@
 #include "platform/qt/services/QtUserLocale.h"
 #include "shell/main/DesktopFileViewer.h"
 #include "text/ClipboardWindow.h"
+#include "text/control/TextControlWindows.h"
 #include "text/files/DocumentFiles.h"
 #include "text/markup/TagPairs.h"
 #include "text/window/TextWindows.h"
@@ -72,6 +73,7 @@ private:
     DesktopFileViewer desktopViewer_{app_};
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     DocumentFiles documents_{files_, app_.Page(), &converter_};
+    TextControlWindows textControlWindows_{app_};
     TextWindows textWindows_{app_};
     TagPairs tagPairs_{app_};
     WordListWindow wordListWindow_{app_};

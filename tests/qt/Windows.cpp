@@ -37,6 +37,13 @@
 #include "shell/tabs/frmLoadList.h"
 #include "table/frmDesignTable.h"
 #include "table/frmTxtDbInfo.h"
+#include "text/control/frmTextInsertTable.h"
+#include "text/control/frmTextList.h"
+#include "text/control/frmTextPage.h"
+#include "text/control/frmTextParagraph.h"
+#include "text/control/frmTextSearch.h"
+#include "text/control/frmTextTable.h"
+#include "text/control/frmTextTabs.h"
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
 #include "text/frmViewAndPaste.h"
@@ -55,6 +62,10 @@ namespace {
 template <class FormT>
 std::unique_ptr<Form> FromApp(Surroundings& all) {
     return std::make_unique<FormT>(all.app);
+}
+template <class FormT>
+std::unique_ptr<Form> FromText(Surroundings& all) {
+    return std::make_unique<FormT>(all.app, all.text);
 }
 
 constexpr Window kWindows[] = {
@@ -156,6 +167,16 @@ constexpr Window kWindows[] = {
     {"frmShowFieldContents", FromApp<frmShowFieldContents>},
     {"frmShowTimer", FromApp<frmShowTimer>},
     {"frmTabWidth", FromApp<frmTabWidth>},
+    {"frmTextInsertTable", FromText<frmTextInsertTable>},
+    {"frmTextList", FromText<frmTextList>},
+    {"frmTextPage", FromText<frmTextPage>},
+    {"frmTextParagraph", FromText<frmTextParagraph>},
+    {"frmTextSearch",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmTextSearch>(all.app, all.text, SearchUse::Replace, all.search);
+     }},
+    {"frmTextTable", FromText<frmTextTable>},
+    {"frmTextTabs", FromText<frmTextTabs>},
     {"frmTxtDbAddRows", FromApp<frmTxtDbAddRows>},
     {"frmTxtDbColName",
      [](Surroundings& all) -> std::unique_ptr<Form> {

@@ -10,6 +10,7 @@
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/TabStates.h"
 #include "shell/tabs/frmMDIChild.h"
+#include "text/control/TextSearch.h"
 
 #include <memory>
 #include <span>
@@ -42,6 +43,7 @@ struct Surroundings {
     frmMDIParent main{app, Text()};
     Form textOwner{app.Forms(), "textOwner", u""};
     TextControl text{textOwner, "text"};
+    TextSearch search;
 };
 
 /// A window's name and the function that makes it.
