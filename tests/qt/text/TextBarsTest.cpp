@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QVBoxLayout>
+#include <stdexcept>
 
 namespace korvane {
 namespace {
@@ -17,17 +19,19 @@ class TextBarsTest : public testing::Test {
 protected:
     TextBarsTest() {
         auto* const layout = new QVBoxLayout(&window);
-        for (QWidget* widget : std::initializer_list<QWidget*>{rulerView, view, status, line})
+        for (QWidget* widget : std::initializer_list<QWidget*>{buttons, rulerView, view, status, line})
             layout->addWidget(widget);
         view->setObjectName("control");
         window.resize(700, 400);
-        adaptors = {new TextControlAdaptor(control, *view), new TextRulerAdaptor(ruler, *rulerView),
-                    new TextStatusAdaptor(bar, *status), new HairLineAdaptor(hairLine, *line)};
+        adaptors = {new TextControlAdaptor(control, *view), new TextButtonBarAdaptor(buttonBar, *buttons),
+                    new TextRulerAdaptor(ruler, *rulerView), new TextStatusAdaptor(bar, *status),
+                    new HairLineAdaptor(hairLine, *line)};
         hairLine.Visible = false;
         for (ControlAdaptor* adaptor : adaptors)
             adaptor->WriteAll();
         ruler.Target = &control;
         bar.Target = &control;
+        buttonBar.Target = &control;
         window.show();
         Settle();
     }
@@ -48,13 +52,37 @@ protected:
         Settle();
     }
 
+    QComboBox& Box(const char* name) { return *buttons->findChild<QComboBox*>(name); }
+    QAction& Button(const QString& name) {
+        for (QAction* const action : buttons->actions()) {
+            if (action->text() == name) return *action;
+        }
+        throw std::runtime_error("there is no such button");
+    }
+    void Choose(const char* box, const QString& text) {
+        const int index = Box(box).findText(text);
+        ASSERT_GE(index, 0) << text.toStdString();
+        Box(box).setCurrentIndex(index);
+        emit Box(box).activated(index);
+        Settle();
+    }
+    void TypeInto(const char* box, const QString& text) {
+        Box(box).setFocus();
+        Box(box).lineEdit()->selectAll();
+        QTest::keyClicks(Box(box).lineEdit(), text);
+        QTest::keyClick(Box(box).lineEdit(), Qt::Key_Return);
+        Settle();
+    }
+
     ScriptedUser user;
     Form form{user, "Form", u""};
     TextControl control{form, "control"};
     TextRuler ruler{form, "ruler"};
     TextStatusBar bar{form, "bar"};
+    TextButtonBar buttonBar{form, "buttonBar"};
     HairLine hairLine{form, "hairLine"};
     QWidget window;
+    TextButtonBarView* buttons = new TextButtonBarView;
     TextRulerView* rulerView = new TextRulerView;
     QtTextView* view = new QtTextView;
     QLabel* status = new QLabel;
@@ -149,10 +177,96 @@ TEST_F(TextBarsTest, AHairLineIsOverTheText) {
     EXPECT_TRUE(line->isVisible());
 }
 
+TEST_F(TextBarsTest, TheButtonBarShowsWhatTheTextHasAtTheCursor) {
+    control.SetAll(u"one two");
+    control.SetSelection(4, 3);
+    control.SetFontName(u"Arial");
+    control.SetFontSize(13);
+    control.SetFontBold(1);
+    control.SetAlignment(2);
+    control.ZoomFactor = 82;
+    Settle();
+    EXPECT_EQ(Box("cboFont").currentText(), "Arial");
+    EXPECT_EQ(Box("cboSize").currentText(), "13");
+    EXPECT_EQ(Box("cboZoom").currentText(), "82 %");
+    EXPECT_EQ(Box("cboStyle").currentIndex(), -1);
+    EXPECT_TRUE(Button("Bold").isChecked());
+    EXPECT_FALSE(Button("Italic").isChecked());
+    EXPECT_TRUE(Button("Centre").isChecked());
+    EXPECT_FALSE(Button("Align left").isChecked());
+    control.SetSelection(0, 3);
+    Settle();
+    EXPECT_FALSE(Button("Bold").isChecked());
+}
+
+TEST_F(TextBarsTest, AButtonGivesItsLookAndTakesItAway) {
+    control.SetAll(u"one");
+    control.SetSelection(0, 3);
+    Settle();
+    Button("Italic").trigger();
+    EXPECT_EQ(control.FontItalic(), 1);
+    Button("Italic").trigger();
+    EXPECT_EQ(control.FontItalic(), 0);
+    Button("Align right").trigger();
+    EXPECT_EQ(control.Alignment(), 1);
+    Button("Numbers").trigger();
+    EXPECT_EQ(control.ParagraphFormat().list.kind, doc::ListKind::Decimal);
+    Settle();
+    EXPECT_TRUE(Button("Numbers").isChecked());
+    Button("Numbers").trigger();
+    EXPECT_EQ(control.ParagraphFormat().list.kind, doc::ListKind::None);
+}
+
+TEST_F(TextBarsTest, ABoxGivesWhatIsChosenOrTypedAndTheKeyboardGoesBack) {
+    control.SetAll(u"one");
+    control.SetSelection(0, 3);
+    Settle();
+    Choose("cboSize", "24");
+    EXPECT_EQ(control.FontSize(), 24);
+    TypeInto("cboSize", "17");
+    EXPECT_EQ(control.FontSize(), 17);
+    TypeInto("cboFont", "No Such Font");
+    EXPECT_EQ(control.FontName(), u"No Such Font");
+    TypeInto("cboZoom", "120");
+    EXPECT_EQ(control.ZoomFactor, 120);
+    TypeInto("cboZoom", "9000");
+    EXPECT_EQ(control.ZoomFactor, 500);
+    Choose("cboStyle", "Heading 1");
+    EXPECT_EQ(control.FontSize(), 18);
+    EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(TextBarsTest, AFormatAtTheCursorShowsBeforeAnythingIsTyped) {
+    control.SetAll(u"one");
+    control.SetSelStart(3);
+    Settle();
+    Button("Bold").trigger();
+    Settle();
+    EXPECT_TRUE(Button("Bold").isChecked());
+    control.Type(u"x");
+    control.SetSelection(3, 1);
+    EXPECT_EQ(control.FontBold(), 1);
+}
+
+TEST_F(TextBarsTest, TheFontsAreOnlyListedWhenTheyAreWanted) {
+    EXPECT_EQ(Box("cboFont").count(), 0);
+    Box("cboFont").setFocus();
+    EXPECT_GT(Box("cboFont").count(), 0);
+}
+
+TEST_F(TextBarsTest, TheButtonsOfALockedTextDoNothing) {
+    control.Locked = true;
+    control.SetAll(u"one");
+    Settle();
+    EXPECT_FALSE(buttons->isEnabled());
+}
+
 TEST_F(TextBarsTest, ABarThatLostItsTextShowsNothing) {
     ruler.Target = nullptr;
     bar.Target = nullptr;
+    buttonBar.Target = nullptr;
     Settle();
+    EXPECT_FALSE(buttons->isEnabled());
     EXPECT_EQ(status->text(), "");
     Drag(Lower(1440), Lower(1440));
     control.SetTabCurrent(1);

@@ -61,6 +61,7 @@ constexpr Maker kMakers[] = {
     Make<PictureBox, PictureView, PictureAdaptor>,
     Make<GridBox, GridView, GridAdaptor>,
     Make<TextControl, QtTextView, TextControlAdaptor>,
+    Make<TextButtonBar, TextButtonBarView, TextButtonBarAdaptor>,
     Make<TextRuler, TextRulerView, TextRulerAdaptor>,
     Make<TextStatusBar, QLabel, TextStatusAdaptor>,
     Make<HairLine, QFrame, HairLineAdaptor>,

@@ -13,6 +13,16 @@ QtTextView* ViewOf(const TextControl* control, const QWidget& beside) {
     return beside.window()->findChild<QtTextView*>(QString::fromStdString(control->Name()));
 }
 
+void TextButtonBarAdaptor::Write(Aspect aspect) {
+    AdaptorOf::Write(aspect);
+    if (aspect == Aspect::Value) widget_.SetView(ViewOf(control_.Target, widget_));
+}
+
+void TextButtonBarAdaptor::Deafen() {
+    AdaptorOf::Deafen();
+    widget_.SetView(nullptr);
+}
+
 TextRulerAdaptor::TextRulerAdaptor(TextRuler& ruler, TextRulerView& widget) : AdaptorOf(ruler, widget) {
     widget.Pressed = [this](int x) {
         if (control_.MouseDown) control_.MouseDown(ToTwips(x));

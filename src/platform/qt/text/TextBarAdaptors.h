@@ -2,6 +2,7 @@
 
 #include "controls/TextBars.h"
 #include "platform/qt/base/ControlAdaptor.h"
+#include "platform/qt/text/TextButtonBarView.h"
 #include "platform/qt/text/TextRulerView.h"
 
 #include <QLabel>
@@ -10,6 +11,15 @@ namespace korvane {
 
 /// The widget in the same window that shows the text control; nullptr if there is none.
 QtTextView* ViewOf(const TextControl* control, const QWidget& beside);
+
+class TextButtonBarAdaptor : public AdaptorOf<TextButtonBar, TextButtonBarView> {
+public:
+    using AdaptorOf::AdaptorOf;
+
+protected:
+    void Write(Aspect aspect) override;
+    void Deafen() override;
+};
 
 class TextRulerAdaptor : public AdaptorOf<TextRuler, TextRulerView> {
 public:
