@@ -8,6 +8,9 @@ namespace korvane {
 
 namespace {
 
+/// More options than these are only listed below the usage line.
+constexpr std::size_t kMostInLine = 4;
+
 void AddColumns(std::string_view left, std::size_t width, std::string_view right, std::string& text) {
     text += "  ";
     text += left;
@@ -34,9 +37,13 @@ void AddOptions(std::string& text, Predicate wanted) {
 
 std::string UsageLine(const Verb& verb) {
     std::string line = "tbx " + std::string(verb.name);
-    for (const OptionSpec& option : OptionSpecs()) {
-        if (verb.options.find(option.letter) == verb.options.npos) continue;
-        line += std::string(" [-") + option.letter + " " + std::string(option.value) + "]";
+    if (verb.options.size() > kMostInLine) {
+        line += " [OPTION]...";
+    } else {
+        for (const OptionSpec& option : OptionSpecs()) {
+            if (verb.options.find(option.letter) == verb.options.npos) continue;
+            line += std::string(" [-") + option.letter + " " + std::string(option.value) + "]";
+        }
     }
     return line + " " + std::string(verb.operands);
 }

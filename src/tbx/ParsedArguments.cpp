@@ -12,6 +12,13 @@ constexpr std::array kOptions{
     OptionSpec{'p', "code-page", "NUMBER", "code page of .tbx files: 874 or 1250 to 1258"},
     OptionSpec{'r', "restore", "N", "write the kept table N to OUT"},
     OptionSpec{'D', "diff", "N", "write the rows that differ from the kept table N"},
+    OptionSpec{'t', "titles", "", "begin a document's table with the column names"},
+    OptionSpec{'b', "first-back", "COLOUR", "background of the first row, as #RRGGBB"},
+    OptionSpec{'f', "first-fore", "COLOUR", "text of the first row, as #RRGGBB"},
+    OptionSpec{'a', "alternate", "COLOUR", "background of every other row, as #RRGGBB"},
+    OptionSpec{'l', "left", "TWIPS", "where the table begins: 0 to 32767, 0 unless given"},
+    OptionSpec{'w', "border", "TWIPS", "width of the lines: 0 to 128, 0 unless given"},
+    OptionSpec{'g', "gap", "TWIPS", "room beside the texts: 0 to 160, 0 unless given"},
     OptionSpec{'h', "help", "", "show help, of a command when one is named"},
     OptionSpec{'V', "version", "", "show the version"},
 };

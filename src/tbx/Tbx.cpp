@@ -1,6 +1,7 @@
 #include "tbx/Tbx.h"
 
 #include "tbx/Help.h"
+#include "tbx/LookOptions.h"
 #include "tbx/ParsedArguments.h"
 #include "tbx/Verb.h"
 
@@ -41,7 +42,7 @@ public:
         : verb_(verb),
           parsed_(parsed),
           environment_(environment),
-          call_{{parsed.words.begin() + 1, parsed.words.end()}, environment.page, ',', {}, {}} {}
+          call_{{parsed.words.begin() + 1, parsed.words.end()}, environment.page, ',', {}, {}, {}} {}
 
     ExitStatus Run() {
         std::string fault = OptionFault();
@@ -69,19 +70,27 @@ private:
 
     std::string ReadOptions() {
         for (const auto& [letter, value] : parsed_.options) {
-            if (letter == 'p') {
-                const auto page = ReadCodePage(value);
-                if (!page) return "the code page has to be 874 or 1250 to 1258, not \"" + value + "\"";
-                call_.page = *page;
-            } else if (letter == 'd') {
-                const auto delimiter = ReadDelimiter(value);
-                if (!delimiter) return "the delimiter has to be one character, not \"" + value + "\"";
-                call_.delimiter = *delimiter;
-            } else if (letter == 'r') {
-                call_.restore = value;
-            } else if (letter == 'D') {
-                call_.diff = value;
-            }
+            const std::string fault = ReadOption(letter, value);
+            if (!fault.empty()) return fault;
+        }
+        return {};
+    }
+
+    std::string ReadOption(char letter, const std::string& value) {
+        if (letter == 'p') {
+            const auto page = ReadCodePage(value);
+            if (!page) return "the code page has to be 874 or 1250 to 1258, not \"" + value + "\"";
+            call_.page = *page;
+        } else if (letter == 'd') {
+            const auto delimiter = ReadDelimiter(value);
+            if (!delimiter) return "the delimiter has to be one character, not \"" + value + "\"";
+            call_.delimiter = *delimiter;
+        } else if (letter == 'r') {
+            call_.restore = value;
+        } else if (letter == 'D') {
+            call_.diff = value;
+        } else {
+            return ReadLook(letter, value, call_.look);
         }
         return {};
     }

@@ -7,6 +7,11 @@ namespace korvane {
 
 namespace {
 
+constexpr std::string_view kDocumentDetails =
+    "The table looks as the one that the program puts into its text window. A row\n"
+    "that is marked \"---\" is empty. With titles the first row of the file is taken\n"
+    "too.\n";
+
 constexpr std::array kVerbs{
     Verb{"dump", "FILE", "p", "Write all that a load leaves as a line of JSON",
          "The line is ASCII, with its keys in a fixed order, so that dumps can be compared\n"
@@ -31,6 +36,12 @@ constexpr std::array kVerbs{
          "\"column N\" with the number of its column, and a repeated name gets the\n"
          "first free number after it, from 2 on.\n",
          RunJson},
+    Verb{"rtf", "FILE", "ptbfalwg", "Write the table as an RTF document", kDocumentDetails, RunRtf},
+    Verb{"html", "FILE", "ptbfalwg", "Write the table as an HTML document", kDocumentDetails, RunHtml},
+#ifndef _WIN32
+    // There is no library for archives on Windows.
+    Verb{"docx", "FILE", "ptbfalwg", "Write the table as a DOCX document", kDocumentDetails, RunDocx},
+#endif
     Verb{"import", "FILE.csv OUT", "dp", "Make a new table of a CSV file",
          "The first record names the columns. The file is UTF-8, or else in the code page.\n"
          "Records end in CR LF, LF or CR. Line breaks in quoted fields become CR LF, in\n"

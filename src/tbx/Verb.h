@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
+#include "dbops/rules/TextTable.h"
 #include "tbx/Environment.h"
 
 #include <cstddef>
@@ -19,6 +20,8 @@ struct Call {
     /// The kept table to restore, and the one to compare with; empty for none.
     std::string restore;
     std::string diff;
+    /// How a table looks in a document.
+    TextTableLook look{};
 };
 
 /// One command of the program.
@@ -45,6 +48,11 @@ ExitStatus RunRewrite(const Call& call, Environment& environment);
 ExitStatus RunCsv(const Call& call, Environment& environment);
 ExitStatus RunTsv(const Call& call, Environment& environment);
 ExitStatus RunJson(const Call& call, Environment& environment);
+ExitStatus RunRtf(const Call& call, Environment& environment);
+ExitStatus RunHtml(const Call& call, Environment& environment);
+#ifndef _WIN32
+ExitStatus RunDocx(const Call& call, Environment& environment);
+#endif
 ExitStatus RunImport(const Call& call, Environment& environment);
 ExitStatus RunFind(const Call& call, Environment& environment);
 ExitStatus RunInfo(const Call& call, Environment& environment);

@@ -1,0 +1,46 @@
+#include "document/html/Html.h"
+#include "document/rtf/Rtf.h"
+#include "table/TableModel.h"
+#include "tbx/LoadedTable.h"
+
+#ifndef _WIN32
+#include "document/docx/Docx.h"
+#endif
+
+namespace korvane {
+
+namespace {
+
+std::vector<Text> TitlesOf(Workbench& workbench) {
+    std::vector<Text> titles;
+    for (Col col{1}; col <= workbench.Grid().ColCount(); ++col)
+        titles.push_back(workbench.Table().ColumnNames[col]);
+    return titles;
+}
+
+template <class Write>
+ExitStatus Export(const Call& call, Environment& environment, const Write& write) {
+    const auto workbench = LoadTable(call, environment);
+    if (!workbench) return ExitStatus::Error;
+    const auto all = [](Row) { return true; };
+    environment.out.Write(write(MakeTextTable(workbench->Grid(), TitlesOf(*workbench), all, call.look)));
+    return ReportMessages(*workbench, environment);
+}
+
+} // namespace
+
+ExitStatus RunRtf(const Call& call, Environment& environment) {
+    return Export(call, environment, [](const doc::Document& document) { return doc::WriteRtf(document); });
+}
+
+ExitStatus RunHtml(const Call& call, Environment& environment) {
+    return Export(call, environment, [](const doc::Document& document) { return doc::WriteHtml(document); });
+}
+
+#ifndef _WIN32
+ExitStatus RunDocx(const Call& call, Environment& environment) {
+    return Export(call, environment, [](const doc::Document& document) { return doc::WriteDocx(document); });
+}
+#endif
+
+} // namespace korvane
