@@ -105,7 +105,6 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuHelpText", Shows("^Help text$")},
     {"mnuMisc_About", Shows("^About Korvane$")},
     {"mnuMisc_Settings", Shows("^Settings$")},
-    {"mnuMisc_Wallpaper", kSilent},
     {"mnuMisc_Websites", Shows("^Website list :")},
     {"mnuMisc_Wallpaper",
      {{{kMain, {"Return"}},
