@@ -47,6 +47,7 @@
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
 #include "text/frmViewAndPaste.h"
+#include "text/insert/frmElements.h"
 #include "text/markup/frmHTMLCodes.h"
 #include "text/paragraph/frmFramesDlg.h"
 #include "text/paragraph/frmIndent.h"
@@ -84,6 +85,10 @@ constexpr Window kWindows[] = {
     {"frmDesignTable",
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmDesignTable>(all.tab); }},
     {"frmDupFile", FromApp<frmDupFile>},
+    {"frmElements",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmElements>(all.app, nullptr);
+     }},
     {"frmEnterFileName",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmEnterFileName>(all.app, all.nameLine);
