@@ -12,6 +12,7 @@
 #include "platform/qt/lists/ComboBoxAdaptor.h"
 #include "platform/qt/lists/ListBoxAdaptor.h"
 #include "platform/qt/lists/ListViewAdaptor.h"
+#include "platform/qt/lists/TilesAdaptor.h"
 #include "platform/qt/lists/TreeViewAdaptor.h"
 #include "platform/qt/picture/PictureAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
@@ -53,6 +54,7 @@ constexpr Maker kMakers[] = {
     Make<ComboBox, QComboBox, ComboBoxAdaptor>,
     Make<ListBox, QListView, ListBoxAdaptor>,
     Make<ListView, QTreeView, ListViewAdaptor>,
+    Make<Tiles, QTableView, TilesAdaptor>,
     Make<TreeView, QTreeView, TreeViewAdaptor>,
     Make<ProgressBar, QProgressBar, ProgressAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,
