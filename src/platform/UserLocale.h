@@ -12,6 +12,8 @@ public:
     virtual Text GeneralDate(const DateTime& when) const { return korvane::GeneralDate(when); }
     /// The words of dates.
     virtual const DateNames& Names() const { return EnglishDateNames(); }
+    /// The day with which a week begins: 0 for Sunday to 6 for Saturday.
+    virtual int FirstWeekday() const { return 0; }
 };
 
 } // namespace korvane

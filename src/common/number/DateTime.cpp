@@ -94,6 +94,13 @@ int Weekday(const DateTime& when) {
     return static_cast<int>(weekday(sys_days(date)).c_encoding());
 }
 
+int DaysOfMonth(int year, int month) {
+    namespace chrono = std::chrono;
+    const chrono::year_month_day_last last{
+        chrono::year(year), chrono::month_day_last(chrono::month(static_cast<unsigned>(month)))};
+    return static_cast<int>(static_cast<unsigned>(last.day()));
+}
+
 Text GeneralDate(const DateTime& when) {
     return FormatDate(when, u"yyyy-mm-dd hh:nn:ss");
 }

@@ -34,6 +34,9 @@ const DateNames& EnglishDateNames();
 /// 0 for Sunday to 6 for Saturday.
 int Weekday(const DateTime& when);
 
+/// 28 to 31.
+int DaysOfMonth(int year, int month);
+
 /// Date and time in the general form, the same on every system: "2026-11-21 09:12:00".
 Text GeneralDate(const DateTime& when);
 

@@ -39,4 +39,8 @@ Text QtUserLocale::GeneralDate(const DateTime& when) const {
     return ToText(locale_.toString(moment, QLocale::ShortFormat));
 }
 
+int QtUserLocale::FirstWeekday() const {
+    return static_cast<int>(locale_.firstDayOfWeek()) % kSunday;
+}
+
 } // namespace korvane

@@ -13,6 +13,7 @@ public:
 
     Text GeneralDate(const DateTime& when) const override;
     const DateNames& Names() const override { return names_; }
+    int FirstWeekday() const override;
 
 private:
     QLocale locale_;

@@ -87,6 +87,14 @@ TEST(DateTime, NamesComeFromTheTableGiven) {
     EXPECT_EQ(FormatDate(kEvening, u"dddd ddd mmmm mmm AMPM", german), u"Samstag Sa Februar Feb. nachm.");
 }
 
+TEST(DateTime, MonthsHaveTheirDays) {
+    EXPECT_EQ(DaysOfMonth(2026, 1), 31);
+    EXPECT_EQ(DaysOfMonth(2026, 2), 28);
+    EXPECT_EQ(DaysOfMonth(2028, 2), 29);
+    EXPECT_EQ(DaysOfMonth(1900, 2), 28);
+    EXPECT_EQ(DaysOfMonth(9999, 12), 31);
+}
+
 TEST(DateTime, EveryMonthAndWeekdayHasItsEnglishName) {
     EXPECT_EQ(FormatDate({2026, 1, 4}, u"mmmm mmm dddd ddd"), u"January Jan Sunday Sun");
     EXPECT_EQ(FormatDate({2026, 12, 31}, u"mmmm mmm dddd ddd"), u"December Dec Thursday Thu");
