@@ -47,6 +47,7 @@
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
 #include "text/frmViewAndPaste.h"
+#include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmElements.h"
 #include "text/markup/frmHTMLCodes.h"
 #include "text/paragraph/frmFramesDlg.h"
@@ -71,6 +72,10 @@ std::unique_ptr<Form> FromText(Surroundings& all) {
 
 constexpr Window kWindows[] = {
     {"frmAbout", FromApp<frmAbout>},
+    {"frmASCIIBox",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmASCIIBox>(all.app, all.insertTarget);
+     }},
     {"frmAskCopyMove",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmAskCopyMove>(all.app, all.copyMove);

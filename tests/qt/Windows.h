@@ -10,7 +10,7 @@
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/TabStates.h"
 #include "shell/tabs/frmMDIChild.h"
-#include "text/control/TextSearch.h"
+#include "text/control/TextSearch.h" "text/insert/InsertTarget.h"
 
 #include <memory>
 #include <span>
@@ -44,6 +44,7 @@ struct Surroundings {
     Form textOwner{app.Forms(), "textOwner", u""};
     TextControl text{textOwner, "text"};
     TextSearch search;
+    ControlTarget insertTarget{text};
 };
 
 /// A window's name and the function that makes it.
