@@ -49,6 +49,7 @@
 #include "text/frmViewAndPaste.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmElements.h"
+#include "text/insert/frmSymbolTables.h"
 #include "text/markup/frmHTMLCodes.h"
 #include "text/paragraph/frmFramesDlg.h"
 #include "text/paragraph/frmIndent.h"
@@ -176,6 +177,10 @@ constexpr Window kWindows[] = {
      }},
     {"frmShowFieldContents", FromApp<frmShowFieldContents>},
     {"frmShowTimer", FromApp<frmShowTimer>},
+    {"frmSymbolTables",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmSymbolTables>(all.app, all.insertTarget);
+     }},
     {"frmTabWidth", FromApp<frmTabWidth>},
     {"frmTextInsertTable", FromText<frmTextInsertTable>},
     {"frmTextList", FromText<frmTextList>},
