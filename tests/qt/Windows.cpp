@@ -48,6 +48,7 @@
 #include "text/fields/frmViewEditField.h"
 #include "text/frmViewAndPaste.h"
 #include "text/insert/frmASCIIBox.h"
+#include "text/insert/frmDateType.h"
 #include "text/insert/frmElements.h"
 #include "text/insert/frmSymbolTables.h"
 #include "text/markup/frmHTMLCodes.h"
@@ -84,6 +85,7 @@ constexpr Window kWindows[] = {
     {"frmChooseRange", FromApp<frmChooseRange>},
     {"frmCopyMove", FromApp<frmCopyMove>},
     {"frmCtrlRet", FromApp<frmCtrlRet>},
+    {"frmDateType", FromApp<frmDateType>},
     {"frmDelimiterType",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmDelimiterType>(all.tab, all.copy);
