@@ -1,0 +1,53 @@
+#include "text/insert/InsertWindows.h"
+
+#include "context/App.h"
+#include "context/exchange/InsertChoices.h"
+#include "text/insert/InsertTarget.h"
+#include "text/insert/frmASCIIBox.h"
+#include "text/insert/frmDateType.h"
+#include "text/insert/frmElements.h"
+#include "text/insert/frmSymbolTables.h"
+
+namespace korvane {
+
+void ShowElements(App& app, TextControl& target) {
+    ControlTarget into(target);
+    frmElements(app, &into).ShowModal();
+}
+
+void ShowCharacters(App& app, TextControl& target) {
+    ControlTarget into(target);
+    frmASCIIBox(app, into).ShowModal();
+}
+
+void ShowSymbolTables(App& app, TextControl& target) {
+    ControlTarget into(target);
+    frmSymbolTables(app, into).ShowModal();
+}
+
+InsertWindows::InsertWindows(App& app) : app_(app) {
+    app_.SetPort<InsertTools>(this);
+}
+
+InsertWindows::~InsertWindows() {
+    if (app_.Port<InsertTools>() == this) app_.SetPort<InsertTools>(nullptr);
+}
+
+std::optional<Text> InsertWindows::ChooseDateTime() {
+    app_.DialogResult = 0;
+    frmDateType(app_).ShowModal();
+    if (app_.DialogResult != 1) return std::nullopt;
+    return app_.Exchange<InsertChoices>().DateResult;
+}
+
+void InsertWindows::ShowCharacters(TextBox& target) {
+    BoxTarget into(target);
+    frmASCIIBox(app_, into).ShowModal();
+}
+
+void InsertWindows::ShowElements(TextBox& target) {
+    BoxTarget into(target);
+    frmElements(app_, &into).ShowModal();
+}
+
+} // namespace korvane
