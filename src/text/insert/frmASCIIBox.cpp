@@ -19,8 +19,6 @@ constexpr StoredPlace kPlace{&Settings::AsciiLeft, &Settings::AsciiTop, &Setting
                              &Settings::AsciiHeight};
 
 constexpr int kCharacters = 256;
-constexpr char16_t kFirstSeen = 32;
-constexpr char16_t kDel = 127;
 /// From this code on, a code is typed with a leading 0.
 constexpr int kFirstWithZero = 127;
 
@@ -29,10 +27,14 @@ Text KeyStroke(int code) {
     return keys + NumberText(code) + u" ";
 }
 
+/// Some codes of a code page have a control character of the second kind, as nothing else is there.
+bool IsControl(char16_t character) {
+    return character < u' ' || (character >= u'\x7F' && character < u'\xA0');
+}
+
 /// A control character shows nothing.
 Tiles::Tile TileOf(int code, char16_t character) {
-    const bool seen = character >= kFirstSeen && character != kDel;
-    const Text text = seen ? Text(1, character) : Text();
+    const Text text = IsControl(character) ? Text() : Text(1, character);
     return {text, text + KeyStroke(code)};
 }
 

@@ -11,6 +11,7 @@
 #include "platform/Clock.h"
 
 #include <algorithm>
+#include <span>
 
 namespace korvane {
 

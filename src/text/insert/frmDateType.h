@@ -31,8 +31,8 @@ public:
     CommandButton cmdClip{*this, "cmdClip", u"&Clip", u"Put this line in Windows clipboard"};
     CommandButton cmdAccept{*this, "cmdAccept", u"&Accept"};
     CommandButton cmdExit{*this, "cmdExit", u"E&xit"};
-    CommandButton cmdPreviousMonth{*this, "cmdPreviousMonth", u"", u"Previous month in this year"};
-    CommandButton cmdNextMonth{*this, "cmdNextMonth", u"", u"Next month in this year"};
+    CommandButton cmdPreviousMonth{*this, "cmdPreviousMonth", u"<", u"Previous month in this year"};
+    CommandButton cmdNextMonth{*this, "cmdNextMonth", u">", u"Next month in this year"};
     ComboBox cmbMonth{*this, "cmbMonth"};
     ComboBox cmbYear{*this, "cmbYear"};
     Label lblMonthOne{*this, "lblMonthOne"};

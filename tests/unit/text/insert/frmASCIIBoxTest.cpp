@@ -28,6 +28,8 @@ TEST_F(ASCIIBoxTest, ShowsAllCharactersOfTheCodePage) {
     EXPECT_EQ(tiles[255].text, u"\u00FF");
     EXPECT_EQ(tiles[9].text, u"");
     EXPECT_EQ(tiles[127].text, u"");
+    EXPECT_EQ(tiles[129].text, u"");
+    EXPECT_EQ(tiles[160].text, u"\u00A0");
     EXPECT_EQ(tiles[65].spoken, u"A Alt+65 ");
 }
 
