@@ -1,0 +1,137 @@
+#include "text/formats/FontWindows.h"
+
+#include "common/number/Number.h"
+#include "common/text/CaseFold.h"
+#include "common/text/Names.h"
+#include "context/App.h"
+#include "context/exchange/FontChoice.h"
+#include "controls/TextControl.h"
+#include "text/commands/TextCommands.h"
+#include "text/formats/FontRows.h"
+#include "text/formats/frmQuickNameSize.h"
+#include "text/formats/frmSetForegroundColour.h"
+#include "text/insert/InsertWindows.h"
+
+namespace korvane {
+
+namespace {
+
+std::int16_t Flag(bool on) {
+    return on ? 1 : 0;
+}
+
+std::array<std::int16_t, FontAttr::Count> AttrsOf(const TextControl& control) {
+    return {Flag(control.FontBold() == 1),      Flag(control.FontItalic() == 1),
+            Flag(control.FontUnderline() == 1), Flag(control.FontStrikethru() == 1),
+            Flag(control.BaseLine() > 0),       Flag(control.BaseLine() < 0)};
+}
+
+/// Neither flag leaves the characters where they are. Kept for compatibility: offset-goes-by-button-alone.
+void ApplyAttrs(TextControl& control, const FontChoice& choice, int offset) {
+    control.SetFontBold(choice.FontAttrs[FontAttr::Bold]);
+    control.SetFontItalic(choice.FontAttrs[FontAttr::Italic]);
+    control.SetFontUnderline(choice.FontAttrs[FontAttr::Underline]);
+    control.SetFontStrikethru(choice.FontAttrs[FontAttr::Strikethru]);
+    if (choice.FontAttrs[FontAttr::Superscript] == 1) control.SetBaseLine(offset);
+    if (choice.FontAttrs[FontAttr::Subscript] == 1) control.SetBaseLine(-offset);
+}
+
+void Rewrite(TextControl& control, const Text& text) {
+    if (!text.empty()) control.SetSelText(text);
+}
+
+void RewriteSmartly(TextControl& control) {
+    const auto start = static_cast<std::size_t>(control.SelStart());
+    const char16_t before = start == 0 ? u'\0' : control.All()[start - 1];
+    Rewrite(control, SmartUpper(control.SelText(), before));
+}
+
+/// A row of the styles that changes the selection.
+struct Style {
+    int row;
+    void (*apply)(TextControl&);
+};
+
+constexpr Style kStyles[] = {
+    {StyleRow::kUppercase, [](TextControl& control) { Rewrite(control, ToUpper(control.SelText())); }},
+    {StyleRow::kLowercase, [](TextControl& control) { Rewrite(control, ToLower(control.SelText())); }},
+    {StyleRow::kSmartUpper, RewriteSmartly},
+    {StyleRow::kSmallCaps, [](TextControl& control) { control.SetCharAttributes(TextControl::kSmallCaps); }},
+};
+
+void ApplyChoice(TextControl& control, const FontChoice& choice, const Settings& settings) {
+    const doc::Step together(control.Store());
+    // Colours that weren't chosen stay as they are.
+    if (choice.FontColourChanged == 1) {
+        control.SetForeColor(Colour{settings.ColourChoiceA});
+        control.SetTextBkColor(Colour{settings.ColourChoiceB});
+    }
+    if (!choice.FontNameChosen.empty()) control.SetFontName(choice.FontNameChosen);
+    if (choice.FontSizeChosen > 0) control.SetFontSize(choice.FontSizeChosen);
+    if (choice.FontStyleChosen == StyleRow::kNormal) return ClearCharFormat(control);
+    if (choice.FontNoChange == 0) ApplyAttrs(control, choice, settings.MarkupOption);
+    for (const Style& style : kStyles) {
+        if (style.row == choice.FontStyleChosen) style.apply(control);
+    }
+}
+
+} // namespace
+
+FontWindows::FontWindows(App& app) : app_(app) {
+    app_.SetPort<FontPicker>(this);
+    app_.SetPort<ColourPairPicker>(this);
+    app_.SetPort<TextTools>(this);
+}
+
+FontWindows::~FontWindows() {
+    if (app_.Port<FontPicker>() == this) app_.SetPort<FontPicker>(nullptr);
+    if (app_.Port<ColourPairPicker>() == this) app_.SetPort<ColourPairPicker>(nullptr);
+    if (app_.Port<TextTools>() == this) app_.SetPort<TextTools>(nullptr);
+}
+
+std::optional<FontSpec> FontWindows::Choose(const FontSpec& present) {
+    FontChoice& choice = app_.Exchange<FontChoice>();
+    choice.FontInits = {present.name.empty() ? Text(kNoFont) : present.name, NumberText(present.size)};
+    choice.FontAttrs[FontAttr::Bold] = Flag(present.bold);
+    frmQuickNameSize(app_).ShowModal();
+    if (choice.FontAccepted != 1) return std::nullopt;
+    FontSpec chosen = present;
+    if (!choice.FontNameChosen.empty()) chosen.name = choice.FontNameChosen;
+    if (choice.FontSizeChosen > 0) chosen.size = choice.FontSizeChosen;
+    if (choice.FontNoChange == 0) chosen.bold = choice.FontAttrs[FontAttr::Bold] == 1;
+    return chosen;
+}
+
+std::optional<ColourPair> FontWindows::Choose(const ColourPair& present) {
+    Settings& settings = app_.Settings;
+    settings.ColourChoiceA = present.fore.value;
+    settings.ColourChoiceB = present.back.value;
+    frmSetForegroundColour(app_).ShowModal();
+    if (app_.DialogResult != 1) return std::nullopt;
+    return ColourPair{Colour{settings.ColourChoiceA}, Colour{settings.ColourChoiceB}};
+}
+
+bool FontWindows::ChooseFont(TextControl& target) {
+    FontChoice& choice = app_.Exchange<FontChoice>();
+    choice.FontAttrs = AttrsOf(target);
+    choice.FontInits = {target.FontName(), NumberText(target.FontSize())};
+    frmQuickNameSize(app_).ShowModal();
+    const bool accepted = choice.FontAccepted == 1;
+    if (accepted) ApplyChoice(target, choice, app_.Settings);
+    choice.FontAttrs = {};
+    return accepted;
+}
+
+void FontWindows::ShowUnicode(TextControl& target) {
+    ShowSymbolTables(app_, target);
+}
+
+void FontWindows::ShowCharacters(TextControl& target) {
+    korvane::ShowCharacters(app_, target);
+}
+
+void FontWindows::ShowElements(TextControl& target) {
+    korvane::ShowElements(app_, target);
+}
+
+} // namespace korvane

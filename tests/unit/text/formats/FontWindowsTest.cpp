@@ -1,0 +1,253 @@
+#include "text/formats/FontWindows.h"
+
+#include "text/insert/frmASCIIBox.h"
+#include "text/insert/frmElements.h"
+#include "text/insert/frmSymbolTables.h"
+#include "unit/text/formats/FormatsStage.h"
+
+namespace korvane {
+namespace {
+
+constexpr int kNormalRow = 1;
+
+class FontWindowsTest : public FormatsStage {};
+
+TEST_F(FontWindowsTest, TheDialogOpensOnTheSelectionsFont) {
+    control.SetFontBold(1);
+    control.SetBaseLine(-50);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.lstName.List(dialog.lstName.ListIndex()), u"Arial");
+        EXPECT_EQ(dialog.lstSize.List(dialog.lstSize.ListIndex()), u"12");
+        EXPECT_EQ(dialog.chkBold.Value, 1);
+        EXPECT_EQ(dialog.chkItalic.Value, 0);
+        EXPECT_EQ(dialog.chkSuperscript.Value, 0);
+        EXPECT_EQ(dialog.chkSubscript.Value, 1);
+        dialog.cmdCancel.Press();
+    });
+}
+
+TEST_F(FontWindowsTest, ACancelChangesNothing) {
+    EXPECT_FALSE(ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstName.Select(3);
+        dialog.chkBold.Press();
+        dialog.cmdCancel.Press();
+    }));
+    EXPECT_FALSE(control.DataChanged());
+    EXPECT_EQ(control.FontName(), u"Arial");
+}
+
+TEST_F(FontWindowsTest, NameSizeAndAttributesGoToTheSelection) {
+    EXPECT_TRUE(ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstName.Select(3);
+        dialog.lstSize.Select(14);
+        dialog.chkBold.Press();
+        dialog.chkUnderline.Press();
+        dialog.cmdApply.Press();
+    }));
+    EXPECT_EQ(control.FontName(), u"Courier New");
+    EXPECT_EQ(control.FontSize(), 24);
+    EXPECT_EQ(control.FontBold(), 1);
+    EXPECT_EQ(control.FontUnderline(), 1);
+    EXPECT_EQ(control.FontItalic(), 0);
+    EXPECT_EQ(Choice().FontAttrs, (std::array<std::int16_t, FontAttr::Count>{}));
+    EXPECT_TRUE(control.Undo());
+    EXPECT_EQ(control.FontName(), u"Arial");
+    EXPECT_EQ(control.FontBold(), 0);
+}
+
+TEST_F(FontWindowsTest, TheFirstRowsChangeNeitherFontNorSize) {
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstName.Select(0);
+        dialog.lstSize.Select(0);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.FontName(), u"Arial");
+    EXPECT_EQ(control.FontSize(), 12);
+}
+
+TEST_F(FontWindowsTest, NoChangeLeavesTheAttributesButNotTheStyle) {
+    control.SetFontItalic(1);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkItalic.Press();
+        dialog.chkBold.Press();
+        dialog.chkSuperscript.Press();
+        dialog.chkNoChange.Press();
+        dialog.lstAttr.Select(2);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.All(), u"one TWO");
+    control.SetSelection(4, 3);
+    EXPECT_EQ(control.FontItalic(), 1);
+    EXPECT_EQ(control.FontBold(), 0);
+    EXPECT_EQ(control.BaseLine(), 0);
+}
+
+TEST_F(FontWindowsTest, NormalClearsTheFormattingAndNothingElseIsDone) {
+    control.SetFontItalic(1);
+    control.SetBaseLine(50);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstName.Select(3);
+        dialog.chkBold.Press();
+        dialog.lstAttr.Select(kNormalRow);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.FontName(), u"Courier New");
+    EXPECT_EQ(control.FontBold(), 0);
+    EXPECT_EQ(control.FontItalic(), 0);
+    EXPECT_EQ(control.BaseLine(), 0);
+}
+
+TEST_F(FontWindowsTest, RaisedAndLoweredCharactersTakeTheOffset) {
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkSuperscript.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.BaseLine(), 72);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkSubscript.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.BaseLine(), -72);
+}
+
+// Kept for compatibility: offset-goes-by-button-alone.
+TEST_F(FontWindowsTest, UntickedCharactersStayRaised) {
+    control.SetBaseLine(72);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkSuperscript.Press();
+        EXPECT_EQ(dialog.chkSuperscript.Value, 0);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.BaseLine(), 72);
+}
+
+TEST_F(FontWindowsTest, TheStylesRewriteTheSelection) {
+    const std::pair<int, Text> kRows[] = {
+        {2, u"THE CAT, AND THE DOG"}, {3, u"the cat, and the dog"}, {4, u"The Cat, and the Dog"}};
+    for (const auto& [row, text] : kRows) {
+        control.SetAll(u" the cat, and the dog");
+        control.SetSelection(1, -1);
+        ChooseFont([row = row](frmQuickNameSize& dialog) {
+            dialog.lstAttr.Select(row);
+            dialog.cmdApply.Press();
+        });
+        EXPECT_EQ(control.All(), u" " + text);
+    }
+}
+
+TEST_F(FontWindowsTest, AtTheBeginningOfTheTextNothingIsBefore) {
+    control.SetAll(u"the cat");
+    control.SetSelection(0, -1);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstAttr.Select(4);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.All(), u"the Cat");
+}
+
+TEST_F(FontWindowsTest, SmallCapsAreAnAttribute) {
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.lstAttr.Select(5);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.CharAttributes(), TextControl::kSmallCaps);
+    EXPECT_EQ(control.All(), u"one two");
+}
+
+TEST_F(FontWindowsTest, AStyleWithoutASelectionKeepsTheFontForTyping) {
+    control.SetSelStart(3);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkBold.Press();
+        dialog.lstAttr.Select(2);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.All(), u"one two");
+    control.Type(u"x");
+    control.SetSelection(3, 1);
+    EXPECT_EQ(control.FontBold(), 1);
+}
+
+TEST_F(FontWindowsTest, ColoursStayUnlessTheyWereChosen) {
+    control.SetForeColor(Colour{255});
+    t.app.Settings.ColourChoiceA = 0xFF0000;
+    ChooseFont([](frmQuickNameSize& dialog) { dialog.cmdApply.Press(); });
+    EXPECT_EQ(control.ForeColor(), Colour{255});
+    ChooseFont([this](frmQuickNameSize& dialog) {
+        t.user.On<frmSetForegroundColour>(
+            [](frmSetForegroundColour& colours) { colours.lstColourOptions.DoubleClick(7); });
+        dialog.cmdColours.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.ForeColor(), Colour{0});
+    EXPECT_EQ(control.TextBkColor(), Colour{0x80FFFF});
+    ChooseFont([](frmQuickNameSize& dialog) { dialog.cmdApply.Press(); });
+    EXPECT_EQ(control.TextBkColor(), Colour{0x80FFFF});
+}
+
+TEST_F(FontWindowsTest, ThePickerFillsWhatTheUserLeavesOpen) {
+    OnDialog([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.lstName.ListIndex(), 2);
+        EXPECT_EQ(dialog.chkBold.Value, 1);
+        dialog.lstName.Select(0);
+        dialog.lstSize.Select(0);
+        dialog.chkBold.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(windows.Choose(FontSpec{u"Cambria", 11, true}), (FontSpec{u"Cambria", 11, false}));
+    OnDialog([](frmQuickNameSize& dialog) { dialog.cmdCancel.Press(); });
+    EXPECT_EQ(windows.Choose(FontSpec{u"Cambria", 11}), std::nullopt);
+    OnDialog([](frmQuickNameSize& dialog) {
+        dialog.chkBold.Press();
+        dialog.chkNoChange.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(windows.Choose(FontSpec{u"Cambria", 11}), (FontSpec{u"Cambria", 11}));
+}
+
+TEST_F(FontWindowsTest, ACallerWithoutAFontChangesNoneUnlessAsked) {
+    t.app.Settings.FontDialogOptionA = 2;
+    t.app.Settings.FontDialogOptionB = 5;
+    OnDialog([](frmQuickNameSize& dialog) { dialog.cmdApply.Press(); });
+    EXPECT_EQ(windows.Choose(FontSpec{}), FontSpec{});
+}
+
+TEST_F(FontWindowsTest, AFontThatIsGoneStays) {
+    OnDialog([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.lstName.ListIndex(), 0);
+        EXPECT_EQ(dialog.lstSize.ListIndex(), 0);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(windows.Choose(FontSpec{u"A Font of Nobody", 19}), (FontSpec{u"A Font of Nobody", 19}));
+}
+
+TEST_F(FontWindowsTest, ThePairOfColoursIsGivenOut) {
+    t.user.On<frmSetForegroundColour>([](frmSetForegroundColour& colours) {
+        EXPECT_EQ(colours.lblForeground.BackColor.Get(), Colour{1});
+        EXPECT_EQ(colours.lblBackground.BackColor.Get(), Colour{2});
+        colours.lstColourOptions.Select(1);
+        colours.cmdApply.Press();
+    });
+    EXPECT_EQ(windows.Choose(ColourPair{{1}, {2}}), (ColourPair{{255}, {0xFFFFFF}}));
+    t.user.On<frmSetForegroundColour>([](frmSetForegroundColour& colours) { colours.cmdCancel.Press(); });
+    EXPECT_EQ(windows.Choose(ColourPair{{1}, {2}}), std::nullopt);
+}
+
+TEST_F(FontWindowsTest, TheToolsWriteIntoTheText) {
+    control.SetSelStart(7);
+    t.user.On<frmElements>([](frmElements& tool) {
+        tool.cmdAccept2.Press();
+        tool.Close();
+    });
+    windows.ShowElements(control);
+    t.user.On<frmASCIIBox>([](frmASCIIBox& tool) {
+        tool.Grid1.DoubleClick(65);
+        tool.Close();
+    });
+    windows.ShowCharacters(control);
+    t.user.On<frmSymbolTables>([](frmSymbolTables& tool) { tool.Close(); });
+    windows.ShowUnicode(control);
+    EXPECT_EQ(control.All(), u"one two\u2013A");
+}
+
+} // namespace
+} // namespace korvane
