@@ -4,8 +4,9 @@
 #include "context/App.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/FieldInTransit.h"
+#include "context/exchange/FontChoice.h"
 #include "context/ports/ClipboardView.h"
-#include "context/ports/ColourPicker.h"
+#include "context/ports/ColourPairPicker.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/SystemFileDialog.h"
 #include "controls/KeyTable.h"
@@ -338,9 +339,17 @@ void frmViewEditField::cmdFont_Click() {
     if (RefusedForAll() || picker == nullptr) return;
     Settings& settings = app_.Settings;
     FieldInTransit& transit = app_.Exchange<FieldInTransit>();
+    auto& attrs = app_.Exchange<FontChoice>().FontAttrs;
+    attrs[FontAttr::Superscript] = settings.ViewEditFontStyle == kRaised ? 1 : 0;
+    attrs[FontAttr::Subscript] = settings.ViewEditFontStyle == kLowered ? 1 : 0;
     const auto font =
         picker->Choose({settings.ViewEditFontName, settings.ViewEditFontSize, transit.FieldFontBold == 1});
+    const int style = attrs[FontAttr::Superscript] == 1 ? kRaised
+                      : attrs[FontAttr::Subscript] == 1 ? kLowered
+                                                        : 0;
+    attrs = {};
     if (!font) return;
+    settings.ViewEditFontStyle = static_cast<std::int16_t>(style);
     settings.ViewEditFontName = font->name;
     settings.ViewEditFontSize = static_cast<std::int16_t>(font->size);
     transit.FieldFontBold = font->bold ? 1 : 0;
@@ -358,12 +367,12 @@ void frmViewEditField::cmdFontEdit_Click() {
 }
 
 void frmViewEditField::ChooseColours(std::int32_t& fore, std::int32_t& back) {
-    auto* picker = app_.Port<ColourPicker>();
+    auto* picker = app_.Port<ColourPairPicker>();
     if (picker == nullptr) return;
-    const auto text = picker->Choose({fore}, ColourPicker::Extent::Simple);
-    if (!text) return;
-    fore = text->value;
-    if (const auto ground = picker->Choose({back}, ColourPicker::Extent::Simple)) back = ground->value;
+    const auto pair = picker->Choose({Colour{fore}, Colour{back}});
+    if (!pair) return;
+    fore = pair->fore.value;
+    back = pair->back.value;
     ShowColours();
 }
 

@@ -1,6 +1,8 @@
 #include "text/fields/frmViewEditField.h"
 
+#include "context/exchange/FontChoice.h"
 #include "context/ports/ClipboardView.h"
+#include "context/ports/ColourPairPicker.h"
 #include "unit/text/fields/FieldStage.h"
 
 namespace korvane {
@@ -8,6 +10,19 @@ namespace {
 
 const Message kClosing{u"Write back changes to field?", MessageIcon::Question, MessageButtons::YesNoCancel};
 const Message kSingleOnly{u"Option only available when editing a single field.", MessageIcon::Exclamation};
+
+/// Gives out a pair of colours, unless it has none.
+class FakeColourPairPicker final : public ColourPairPicker {
+public:
+    explicit FakeColourPairPicker(App& app) { app.SetPort<ColourPairPicker>(this); }
+    ColourPair asked{};
+    std::optional<ColourPair> answer;
+
+    std::optional<ColourPair> Choose(const ColourPair& present) override {
+        asked = present;
+        return answer;
+    }
+};
 
 class ViewEditField : public FieldStage {
 protected:
@@ -234,17 +249,40 @@ TEST_F(ViewEditField, ChoosesFontsAndColours) {
     editor.cmdFontEdit.Press();
     editor.txtFieldEntry.SetSelection(0, 2);
     EXPECT_EQ(editor.txtFieldEntry.FontName(), u"Courier New");
-    t.user.ChooseColour(Colour{1});
-    t.user.ChooseColour(Colour{2});
+    FakeColourPairPicker pairs(t.app);
+    pairs.answer = ColourPair{Colour{1}, Colour{2}};
     editor.cmdHyperColour.Press();
     EXPECT_EQ(t.app.Settings.Spare106, 1);
     EXPECT_EQ(t.app.Settings.Spare107, 2);
     EXPECT_EQ(editor.lblURL.BackColor.Get(), Colour{2});
-    t.user.ChooseColour(Colour{3});
-    t.user.ChooseColour(std::nullopt);
+    pairs.answer.reset();
     editor.cmdTextColour.Press();
-    EXPECT_EQ(t.app.Settings.Spare108, 3);
+    EXPECT_EQ(t.app.Settings.Spare108, pairs.asked.fore.value);
+    EXPECT_EQ(pairs.asked.back, Colour{0xEEEEEE});
     EXPECT_EQ(t.app.Settings.Spare109, 0xEEEEEE);
+}
+
+TEST_F(ViewEditField, TheFontDialogTellsWhetherFieldsAreRaised) {
+    class Picker final : public FontPicker {
+    public:
+        explicit Picker(FontChoice& exchange) : choice(exchange) {}
+        std::optional<FontSpec> Choose(const FontSpec& present) override {
+            before = choice.FontAttrs;
+            choice.FontAttrs[FontAttr::Superscript] = 0;
+            choice.FontAttrs[FontAttr::Subscript] = 1;
+            return present;
+        }
+        FontChoice& choice;
+        std::array<std::int16_t, FontAttr::Count> before{};
+    };
+    Edit(1);
+    Picker picker(t.app.Exchange<FontChoice>());
+    t.app.SetPort<FontPicker>(&picker);
+    t.app.Settings.ViewEditFontStyle = 1;
+    editor.cmdFont.Press();
+    EXPECT_EQ(picker.before[FontAttr::Superscript], 1);
+    EXPECT_EQ(t.app.Settings.ViewEditFontStyle, 2);
+    EXPECT_EQ(picker.choice.FontAttrs[FontAttr::Subscript], 0);
 }
 
 // Kept for compatibility: help-note-on-fields.
