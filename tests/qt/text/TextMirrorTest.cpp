@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFontDatabase>
 #include <algorithm>
 #include <random>
 
@@ -35,6 +36,20 @@ TEST(TextMirror, CharactersOfQtKeepTheirPlaces) {
     TextMirror mirror(store);
     EXPECT_EQ(mirror.Shown().blockCount(), 1);
     EXPECT_EQ(mirror.Shown().characterCount(), 10);
+}
+
+TEST(TextMirror, CharactersOfAMissingFontOfPicturesShowTheirMeaning) {
+    if (QFontDatabase::hasFamily("Wingdings")) GTEST_SKIP() << "this system has the font";
+    doc::MemoryTextStore store;
+    doc::Document document = Plain(u"J\u00E0a");
+    document.fonts[0] = u"Wingdings";
+    store.Reset(document);
+    TextMirror mirror(store);
+    EXPECT_EQ(mirror.Shown().toRawText(), QStringLiteral(u"\u263A\u2192a"));
+    EXPECT_EQ(store.All(), u"J\u00E0a");
+    document.fonts[0] = u"Arial";
+    store.Reset(document);
+    EXPECT_EQ(mirror.Shown().toRawText(), QStringLiteral(u"J\u00E0a"));
 }
 
 TEST(TextMirror, AChangeIsShownWhenTheDocumentIsNeeded) {

@@ -1,9 +1,11 @@
 #include "platform/qt/text/TextMirror.h"
 
+#include "common/text/SymbolFont.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/text/ListMarks.h"
 #include "platform/qt/text/ShownDocument.h"
 
+#include <QFontDatabase>
 #include <QTextBlock>
 #include <QTextTable>
 #include <algorithm>
@@ -31,6 +33,19 @@ char16_t ShownCharacter(char16_t character) {
     default:
         return character;
     }
+}
+
+/// Where the font of pictures is missing, they are shown by characters that look alike. The text keeps its
+/// own.
+bool ShowsLikenesses(TextView font) {
+    static constexpr TextView kPictures = u"Wingdings";
+    return font == kPictures && !QFontDatabase::hasFamily(ToQString(kPictures));
+}
+
+QString WithLikenesses(QString shown) {
+    for (QChar& character : shown)
+        character = WingdingsLike(character.unicode()).value_or(character.unicode());
+    return shown;
 }
 
 /// Whether the rows have their cells at the same places.
@@ -197,10 +212,14 @@ void TextMirror::PutText(QTextCursor& cursor, const doc::Paragraph& paragraph) {
     std::size_t at = 0;
     for (const doc::Run& run : paragraph.runs) {
         const QTextCharFormat look = formats_.OfRun(run);
+        const TextView text = TextView(paragraph.text).substr(at, run.length);
         if (run.image != 0)
             cursor.insertText(QString(QChar::ObjectReplacementCharacter), look);
         else
-            cursor.insertText(ShownText(TextView(paragraph.text).substr(at, run.length)), look);
+            cursor.insertText(ShowsLikenesses(Text().fonts[Text().chars[run.format].font])
+                                  ? WithLikenesses(ShownText(text))
+                                  : ShownText(text),
+                              look);
         at += run.length;
     }
 }
