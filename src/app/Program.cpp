@@ -7,10 +7,10 @@
 #include "context/ports/FavouriteFolders.h"
 #include "context/ports/FilePicker.h"
 #include "context/ports/FileViewer.h"
-#include "context/ports/FontPicker.h"
 #include "context/ports/PageViewer.h"
 #include "context/ports/PictureFiles.h"
 #include "context/ports/SystemFileDialog.h"
+#include "context/ports/SystemFontDialog.h"
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
@@ -59,6 +59,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FrontWindow>(&frontWindow_);
     app_.SetPort<FontPicker>(&fontPicker_);
+    app_.SetPort<SystemFontDialog>(&fontDialog_);
     app_.SetPort<ColourPicker>(&colourPicker_);
     app_.SetPort<PictureFiles>(&pictureFiles_);
     app_.SetPort<FileViewer>(&fileHandling_);

@@ -25,6 +25,8 @@
 #include "text/ClipboardWindow.h"
 #include "text/control/TextControlWindows.h"
 #include "text/files/DocumentFiles.h"
+#include "text/formats/FontWindows.h"
+#include "text/insert/InsertWindows.h"
 #include "text/markup/TagPairs.h"
 #include "text/window/TextWindows.h"
 #include "text/words/WordListWindow.h"
@@ -64,6 +66,7 @@ private:
     QtSystemFileDialog systemFileDialog_;
     QtFrontWindow frontWindow_;
     QtFontPicker fontPicker_;
+    QtFontDialog fontDialog_;
     QtColourPicker colourPicker_;
     QtPictureFiles pictureFiles_;
     App app_;
@@ -75,6 +78,8 @@ private:
     DocumentFiles documents_{files_, app_.Page(), &converter_};
     TextControlWindows textControlWindows_{app_};
     TextWindows textWindows_{app_};
+    InsertWindows insertWindows_{app_};
+    FontWindows fontWindows_{app_};
     TagPairs tagPairs_{app_};
     WordListWindow wordListWindow_{app_};
     Websites websites_{app_};

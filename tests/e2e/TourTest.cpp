@@ -86,7 +86,7 @@ const std::map<std::string_view, Stop> kStops{
     {"mnuExport_Excel", Shows("^Choose range$")},
     {"mnuCalc_Add", {{{"^Choose range$", {"Return"}}, {kMain, {"alt+y"}}}}},
     {"mnuMisc_Calc", Starts("gnome-calculator ")},
-    {"mnuEdit_Font", Shows("^Select Font$")},
+    {"mnuEdit_Font", Shows("^Fonts and text styles$")},
     {"mnuFormat_BColor", Shows("^Select Color$")},
     {"mnuFormat_RowColour", Shows("^Set colour for checked items in list$")},
     {"mnuSidebarWidth", kSilent},

@@ -226,12 +226,12 @@ TEST_F(DialogsTest, TheFontDialogOpensOnThePresentFontAndTellsTheChosenOne) {
         dialog.setCurrentFont(font);
         QMetaObject::invokeMethod(&dialog, "accept");
     });
-    EXPECT_EQ(QtFontPicker().Choose({u"DejaVu Serif", 14}), (FontSpec{u"DejaVu Sans", 9, true}));
+    EXPECT_EQ(QtFontDialog().Choose({u"DejaVu Serif", 14}), (FontSpec{u"DejaVu Sans", 9, true}));
 }
 
 TEST_F(DialogsTest, ACancelledFontDialogTellsNothing) {
     When<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(QtFontPicker().Choose({}), std::nullopt);
+    EXPECT_EQ(QtFontDialog().Choose({}), std::nullopt);
 }
 
 TEST_F(DialogsTest, TheColourDialogOpensOnTheStartAndTellsTheChosenColour) {

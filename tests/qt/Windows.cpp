@@ -46,6 +46,8 @@
 #include "text/control/frmTextTabs.h"
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
+#include "text/formats/frmQuickNameSize.h"
+#include "text/formats/frmSetForegroundColour.h"
 #include "text/frmViewAndPaste.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmDateType.h"
@@ -162,6 +164,7 @@ constexpr Window kWindows[] = {
     {"frmOpenFileWith", FromApp<frmOpenFileWith>},
     {"frmParaSpacing", FromApp<frmParaSpacing>},
     {"frmProgramLocations", FromApp<frmProgramLocations>},
+    {"frmQuickNameSize", FromApp<frmQuickNameSize>},
     {"frmRenDir", FromApp<frmRenDir>},
     {"frmRenFile", FromApp<frmRenFile>},
     {"frmRowColour",
@@ -169,6 +172,7 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmRowColour>(all.tab, Colour{0xFFFFFF});
      }},
     {"frm_RTF_HTM", FromApp<frm_RTF_HTM>},
+    {"frmSetForegroundColour", FromApp<frmSetForegroundColour>},
     {"frmSetRowHeight",
      [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmSetRowHeight>(all.tab); }},
     {"frmSetYourProg", FromApp<frmSetYourProg>},

@@ -3,6 +3,7 @@
 #include "SourceTree.h"
 #include "context/exchange/CopyMoveRequest.h"
 #include "context/exchange/FileOperation.h"
+#include "context/exchange/FontChoice.h"
 #include "context/exchange/InputQuestion.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/exchange/MessageQuestion.h"
@@ -94,6 +95,8 @@ void Stage::FillRequests() {
     app_.Exchange<ListerRequest>().ListerFolder = u"C:\\data";
     app_.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
     app_.Settings.TreeFormLastPath = u"C:\\data";
+    outside_.fonts.Set({u"Carlito", u"DejaVu Sans", u"DejaVu Sans Mono", u"DejaVu Serif", u"OpenSymbol"});
+    app_.Exchange<FontChoice>().FontInits = {u"Carlito", u"14"};
     outside_.fileTypes.SetType(u".tbx", {u"Table", u"fileTable"});
     outside_.fileTypes.SetType(u".txt", {u"Text", u"fileText"});
     outside_.files.AddFile(InData(u"Notes on the garden.txt"), std::string(12345, 'x'));

@@ -41,7 +41,8 @@ private:
               nullptr,
               {},
               nullptr,
-              &outside_.fileTypes}};
+              &outside_.fileTypes,
+              &outside_.fonts}};
     Surroundings all_{app_};
 };
 

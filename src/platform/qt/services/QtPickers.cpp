@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-std::optional<FontSpec> QtFontPicker::Choose(const FontSpec& present) {
+std::optional<FontSpec> QtFontDialog::Choose(const FontSpec& present) {
     QFontDialog dialog(WithSpec(QApplication::font(), present), QApplication::activeWindow());
     const QFont first = dialog.currentFont();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "context/ports/ColourPicker.h"
-#include "context/ports/FontPicker.h"
+#include "context/ports/SystemFontDialog.h"
 
 namespace korvane {
 
 /// Qt's font dialog.
-class QtFontPicker final : public FontPicker {
+class QtFontDialog final : public SystemFontDialog {
 public:
     std::optional<FontSpec> Choose(const FontSpec& present) override;
 };
