@@ -1,0 +1,196 @@
+// The font dialog and the table of characters with 500 fonts, each until it is painted, against a dialog with
+// nothing in it. On a display of its own.
+
+#include "Times.h"
+#include "Xvfb.h"
+#include "context/App.h"
+#include "controls/Form.h"
+#include "controls/TextControl.h"
+#include "platform/qt/binder/CalmStyle.h"
+#include "platform/qt/binder/QtFormHost.h"
+#include "platform/qt/services/QtFonts.h"
+#include "platform/qt/services/QtScreen.h"
+#include "testing/MemoryClipboard.h"
+#include "testing/MemoryClock.h"
+#include "testing/MemoryFileSystem.h"
+#include "testing/MemoryInstanceChannel.h"
+#include "testing/MemoryShell.h"
+#include "testing/ScriptedMessageBoxes.h"
+#include "text/formats/frmQuickNameSize.h"
+#include "text/insert/InsertTarget.h"
+#include "text/insert/frmASCIIBox.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFontDatabase>
+#include <QListView>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace korvane::bench {
+
+namespace {
+
+constexpr int kDefaultRounds = 15;
+constexpr int kFonts = 500;
+
+[[noreturn]] void Fail(const char* what) {
+    std::fprintf(stderr, "%s\n", what);
+    std::exit(1);
+}
+
+/// A font of the system under 500 names of the same length, so that nothing else of the file changes.
+class ManyFonts {
+public:
+    ManyFonts() {
+        const QByteArray font = Source();
+        for (int number = 0; number < kFonts; ++number)
+            Add(font, number);
+        std::printf("%lld fonts are installed\n", static_cast<long long>(QFontDatabase::families().size()));
+    }
+
+private:
+    static constexpr char kFile[] = "/usr/share/fonts/truetype/dejavu/DejaVuSansMono-Oblique.ttf";
+
+    static QByteArray Utf16(const QString& text) {
+        QByteArray bytes;
+        for (const QChar character : text) {
+            bytes.append(static_cast<char>(character.unicode() >> 8));
+            bytes.append(static_cast<char>(character.unicode() & 0xFF));
+        }
+        return bytes;
+    }
+    static QByteArray Source() {
+        QFile file(kFile);
+        if (!file.open(QIODevice::ReadOnly)) Fail("the font DejaVu Sans Mono isn't installed");
+        return file.readAll();
+    }
+    void Add(QByteArray font, int number) {
+        const QString name = QStringLiteral("Bench Font %1").arg(number, 5, 10, QLatin1Char('0'));
+        font.replace(Utf16(QStringLiteral("DejaVu Sans Mono")), Utf16(name));
+        font.replace(QByteArrayLiteral("DejaVu Sans Mono"), name.toLatin1());
+        if (QFontDatabase::addApplicationFontFromData(font) < 0) Fail("a font isn't taken");
+    }
+};
+
+void Settle() {
+    // What an event leads to may ask for a paint of its own.
+    for (int turn = 0; turn < 3; ++turn) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+struct Stage {
+    QWidget& WidgetOf(Form& form) { return *forms.WidgetOf(form); }
+
+    MemoryClock clock;
+    MemoryFileSystem files{PathStyle::Windows, clock};
+    ScriptedMessageBoxes messages;
+    MemoryClipboard clipboard;
+    QtScreen screen;
+    MemoryShell shell;
+    MemoryInstanceChannel instance;
+    QtFonts fonts;
+    QtFormHost forms{KorvaneForms()};
+    App app{{files,
+             messages,
+             clipboard,
+             clock,
+             screen,
+             shell,
+             instance,
+             forms,
+             [] { return nullptr; },
+             CodePage::Windows1252(),
+             nullptr,
+             {},
+             nullptr,
+             nullptr,
+             &fonts}};
+    Form owner{forms, "owner", u""};
+    TextControl text{owner, "text"};
+    ControlTarget target{text};
+};
+
+/// Opens the window and paints it; closing it isn't measured.
+template <class Make>
+void Measure(const char* what, int rounds, Stage& stage, const Make& make) {
+    Times times;
+    for (int round = 0; round < rounds; ++round) {
+        std::unique_ptr<Form> form;
+        times.Add([&] {
+            form = make();
+            form->Show();
+            Settle();
+            stage.WidgetOf(*form).repaint();
+        });
+        form->Close();
+        Settle();
+    }
+    Print(what, times);
+}
+
+void MeasureEmptyDialog(int rounds) {
+    Times times;
+    for (int round = 0; round < rounds; ++round) {
+        std::unique_ptr<QDialog> dialog;
+        times.Add([&] {
+            dialog = std::make_unique<QDialog>();
+            dialog->resize(620, 520);
+            dialog->show();
+            Settle();
+            dialog->repaint();
+        });
+        dialog->close();
+        Settle();
+    }
+    Print("an empty dialog", times);
+}
+
+void MeasureScrolling(int rounds, Stage& stage) {
+    Times times;
+    for (int round = 0; round < rounds; ++round) {
+        frmQuickNameSize form(stage.app);
+        form.Show();
+        Settle();
+        times.Add([&] {
+            form.lstName.SetListIndex(form.lstName.ListCount() - 1);
+            Settle();
+            stage.WidgetOf(form).repaint();
+        });
+        form.Close();
+        Settle();
+    }
+    Print("the font dialog scrolled to the last font", times);
+}
+
+} // namespace
+
+} // namespace korvane::bench
+
+int main(int argc, char** argv) {
+    using namespace korvane;
+    using namespace korvane::bench;
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : kDefaultRounds;
+    if (rounds < 1) return 2;
+    const Xvfb display;
+    const QApplication application(argc, argv);
+    QApplication::setStyle(new CalmStyle);
+    const ManyFonts fonts;
+    Stage stage;
+    PrintHead();
+    Measure("the font dialog, first opening", 1, stage,
+            [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
+    MeasureEmptyDialog(rounds);
+    Measure("the font dialog", rounds, stage, [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
+    Measure("the table of characters", rounds, stage,
+            [&] { return std::make_unique<frmASCIIBox>(stage.app, stage.target); });
+    MeasureScrolling(rounds, stage);
+    return 0;
+}
