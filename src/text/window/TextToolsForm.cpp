@@ -57,6 +57,7 @@ void TextToolsForm::mnuWordList_Click() {
 
 void TextToolsForm::mnuEdit_Unicode_Click() {
     if (auto* tools = app_.Port<TextTools>()) tools->ShowUnicode(ThisTextCtrl);
+    ThisTextCtrl.SetFocus();
 }
 
 void TextToolsForm::mnuCharacters_Click() {
@@ -65,10 +66,12 @@ void TextToolsForm::mnuCharacters_Click() {
     tools->ShowCharacters(ThisTextCtrl);
     // This is so too when no character was taken. Kept for compatibility: character-table-alters.
     TextAltered = 1;
+    ThisTextCtrl.SetFocus();
 }
 
 void TextToolsForm::mnuSymbols_Click() {
     if (auto* tools = app_.Port<TextTools>()) tools->ShowElements(ThisTextCtrl);
+    ThisTextCtrl.SetFocus();
 }
 
 void TextToolsForm::mnuEdit_GetHTML_Click() {

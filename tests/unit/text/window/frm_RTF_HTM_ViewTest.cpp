@@ -302,6 +302,15 @@ TEST_F(TextWindowView, TheTableOfCharactersAlwaysAltersTheText) {
     EXPECT_EQ(window->TextAltered, 1);
 }
 
+TEST_F(TextWindowView, TheKeyboardComesBackFromTheTools) {
+    FakeTextTools tools(t.app);
+    for (const char* entry : {"mnuFonts", "mnuEdit_Unicode", "mnuCharacters", "mnuSymbols"}) {
+        window->FocusMoved(window->cmdNew);
+        Choose(entry);
+        EXPECT_EQ(window->Focused(), &Control()) << entry;
+    }
+}
+
 TEST_F(TextWindowView, AChosenFontAltersTheText) {
     FakeTextTools tools(t.app);
     tools.takesFont = true;
