@@ -46,6 +46,25 @@ TEST_F(EditingTest, TheFileInformationComesAndGoes) {
     EXPECT_EQ(program->ExitStatus(), 0);
 }
 
+TEST_F(EditingTest, TheFontOfTheTableIsChosenByTheKeyboard) {
+    const auto program = desk.Start({file.string()});
+    const std::string main = desk.GoTo(kMain);
+    ASSERT_NE(main, "");
+    desk.Press({"alt+v", "t"});
+    ASSERT_NE(desk.GoTo("^Fonts and text styles$"), "");
+    // From the fonts to the sizes, and to the last of them.
+    desk.Press({"Tab", "End", "Return"});
+    ASSERT_TRUE(desk.Gone("^Fonts and text styles$"));
+    ASSERT_EQ(desk.GoTo(kMain), main);
+    // A first save can come before the table has the font.
+    EXPECT_TRUE(desk.Until([&] {
+        desk.Press({"ctrl+s"});
+        return ReadBytes(file).find("\n!72\r") != std::string::npos;
+    })) << ReadBytes(file);
+    Exit();
+    EXPECT_EQ(program->ExitStatus(), 0);
+}
+
 TEST_F(EditingTest, ASecondStartHandsItsFileOver) {
     const std::filesystem::path other = desk.Path("other.tbx");
     WriteBytes(other, Table(other, "old"));
