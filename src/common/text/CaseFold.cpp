@@ -72,10 +72,6 @@ constexpr CaseMap MakeCaseMap(Direction direction) {
 constexpr CaseMap kToCapital = MakeCaseMap(Direction::kToCapital);
 constexpr CaseMap kToSmall = MakeCaseMap(Direction::kToSmall);
 
-bool SameLetter(char16_t a, char16_t b) {
-    return kToCapital(a) == kToCapital(b);
-}
-
 Text Mapped(TextView text, const CaseMap& map) {
     Text mapped(text);
     std::ranges::transform(mapped, mapped.begin(), map);
@@ -98,6 +94,21 @@ Text ToUpper(TextView text) {
 
 Text ToLower(TextView text) {
     return Mapped(text, kToSmall);
+}
+
+bool SameLetter(char16_t a, char16_t b) {
+    return kToCapital(a) == kToCapital(b);
+}
+
+Text LettersLike(char16_t character) {
+    const char16_t capital = kToCapital(character);
+    Text alike(1, capital);
+    for (const CaseRange& range : kCaseRanges) {
+        const int small = capital - range.toCapital;
+        const bool within = small >= range.first && small <= range.last;
+        if (within && (small - range.first) % range.step == 0) alike += static_cast<char16_t>(small);
+    }
+    return alike;
 }
 
 bool EqualIgnoringCase(TextView a, TextView b) {

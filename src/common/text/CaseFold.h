@@ -13,6 +13,11 @@ char16_t ToLower(char16_t character);
 Text ToUpper(TextView text);
 Text ToLower(TextView text);
 
+/// Whether two characters are alike apart from capital and small.
+bool SameLetter(char16_t a, char16_t b);
+/// All characters that are alike so, with this one.
+Text LettersLike(char16_t character);
+
 bool EqualIgnoringCase(TextView a, TextView b);
 bool EndsWithIgnoringCase(TextView text, TextView end);
 /// As `InStr`, with capital and small letters alike.

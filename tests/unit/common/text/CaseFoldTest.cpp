@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+
 namespace korvane {
 namespace {
 
@@ -61,6 +64,21 @@ TEST(CaseFold, EverySmallLetterComesBackToItsCapital) {
         if (capital != letter) ++small;
     }
     EXPECT_EQ(small, 473);
+}
+
+TEST(CaseFold, LettersLikeNamesEveryFormOfALetter) {
+    EXPECT_EQ(LettersLike(u'a'), u"Aa");
+    EXPECT_EQ(LettersLike(u'A'), u"Aa");
+    EXPECT_EQ(LettersLike(u'1'), u"1");
+    EXPECT_EQ(LettersLike(u'\u03C3'), u"\u03A3\u03C2\u03C3");
+    std::map<char16_t, Text> alike;
+    for (char16_t character = 0; character < 0x2000; ++character)
+        alike[ToUpper(character)] += character;
+    for (char16_t character = 0; character < 0x2000; ++character) {
+        Text named = LettersLike(character);
+        std::ranges::sort(named);
+        ASSERT_EQ(named, alike[ToUpper(character)]) << int{character};
+    }
 }
 
 TEST(CaseFold, EqualIgnoringCaseComparesLettersAndAccents) {
