@@ -87,6 +87,13 @@ TEST_F(MenuBarTest, ItsKeysWorkWhereverTheKeyboardIs) {
     EXPECT_EQ(form.chosen, (std::vector<std::string>{"mnuFile_Save", "mnuDelete"}));
 }
 
+TEST_F(MenuBarTest, TheLetterOfAnEntryOnTheBarChoosesItOnce) {
+    for (int time = 1; time <= 3; ++time) {
+        QTest::keyClick(&Field(), Qt::Key_S, Qt::AltModifier);
+        EXPECT_EQ(form.chosen, std::vector<std::string>(static_cast<std::size_t>(time), "mnuSideBar"));
+    }
+}
+
 TEST_F(MenuBarTest, AKeyOfTheMenuIsNotTheFields) {
     QTest::keyClick(&Field(), Qt::Key_U, Qt::ControlModifier);
     EXPECT_EQ(form.chosen, (std::vector<std::string>{"mnuUnTick"}));

@@ -718,5 +718,17 @@ TEST_F(QtTextViewTest, AViewThatLostItsControlShowsNothing) {
     EXPECT_EQ(Shown(), "abc");
 }
 
+TEST_F(QtTextViewTest, TypingGoesOnAfterAMenuThatAKeyOpened) {
+    Type("abc");
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+        QFocusEvent leaves(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(&view, &leaves);
+    }
+    QFocusEvent comesBack(QEvent::FocusIn, Qt::MenuBarFocusReason);
+    QCoreApplication::sendEvent(&view, &comesBack);
+    Type("def");
+    EXPECT_EQ(control.All(), u"abcdef");
+}
+
 } // namespace
 } // namespace korvane

@@ -330,6 +330,13 @@ void QtTextView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) ReadColours();
 }
 
+void QtTextView::focusInEvent(QFocusEvent* event) {
+    QGraphicsView::focusInEvent(event);
+    // A menu that is opened with a key takes the focus twice, and then Qt doesn't know any more that the text
+    // had it.
+    if (scene_.focusItem() == nullptr) scene_.setFocusItem(item_, event->reason());
+}
+
 void QtTextView::scrollContentsBy(int dx, int dy) {
     QGraphicsView::scrollContentsBy(dx, dy);
     if (dx != 0) emit Seen();
