@@ -28,7 +28,8 @@ struct TypedText {
 ///
 /// An adaptor shows it so:
 /// - `Aspect::Text` says that the text or its formats changed, `Aspect::Selection` that the program moved the
-///   selection. The view then shows `SelStart` and `SelLength` and scrolls to them.
+///   selection. The view then shows `SelStart` and `SelLength` and scrolls to them. `Aspect::Range` says that
+///   the selection is wanted in the upper part of the view.
 /// - What the user types goes to `Type`, a selection that the user makes to `MoveSelection`. A text is
 /// deleted
 ///   by `MoveSelection` and `DeleteSelection`, and pasted by `SetSelText` or `SetSelTextRtf`.
@@ -58,6 +59,8 @@ public:
     Property<bool> Locked{*this, Aspect::Enabled};
     /// While this is off, the view shows what was there when it was turned off.
     Property<bool> Redraw{*this, Aspect::Visible, true};
+    /// Shows the line where the selection begins in the upper part of the view.
+    void ShowSelectionHigh() { Notify(Aspect::Range); }
     /// What the window leaves free at the left of the control. Its other sides belong to the layout.
     Property<Twips> Left{*this, Aspect::Place};
     /// Whether pictures are written into the file (1) or beside it.

@@ -718,6 +718,27 @@ TEST_F(QtTextViewTest, AViewThatLostItsControlShowsNothing) {
     EXPECT_EQ(Shown(), "abc");
 }
 
+TEST_F(QtTextViewTest, ShowsAWantedSelectionInTheUpperPart) {
+    Text lines;
+    for (int line = 0; line < 300; ++line)
+        lines += u"one line of many\r\n";
+    control.SetAll(lines);
+    const auto shownAt = [this](int line) {
+        const int place = line * 18;
+        control.SetSelection(place, 3);
+        control.ShowSelectionHigh();
+        Settle();
+        return view.mapFromScene(view.CursorAt(static_cast<doc::Pos>(place)).topLeft()).y();
+    };
+    const int high = view.viewport()->height() / 5;
+    // Once the line was far below, once it is seen already, once it was far above.
+    for (const int line : {200, 205, 50})
+        EXPECT_NEAR(shownAt(line), high, 2) << line;
+    // Above the first line there is nothing to show.
+    EXPECT_LT(shownAt(1), high);
+    EXPECT_GE(shownAt(1), 0);
+}
+
 TEST_F(QtTextViewTest, TypingGoesOnAfterAMenuThatAKeyOpened) {
     Type("abc");
     for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {

@@ -22,6 +22,8 @@ namespace {
 
 /// Between the edge of the view and a text that flows in its width.
 constexpr double kFlowMargin = 8;
+/// Above a line that is high in the view there is this part of the view.
+constexpr int kHighPart = 5;
 constexpr double kPerCent = 100;
 /// What is seen around the cursor, in pixels.
 constexpr int kScrollMargin = 4;
@@ -205,6 +207,11 @@ void QtTextView::ShowSoon() {
     QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }
 
+void QtTextView::ShowHighSoon() {
+    askedHigh_ = true;
+    ShowSoon();
+}
+
 void QtTextView::ShowText() {
     if (control_ == nullptr || showing_) return;
     const QScopedValueRollback guard(showing_, true);
@@ -223,6 +230,7 @@ void QtTextView::ReadSelection() {
     const int to = mirror_->ToQt(end);
     const QTextCursor cursor = item_->textCursor();
     if (cursor.selectionStart() != from || cursor.selectionEnd() != to) SetCursor(from, to);
+    if (std::exchange(askedHigh_, false)) ScrollHigh();
     TellReaders();
     emit Seen();
 }
@@ -260,6 +268,15 @@ void QtTextView::ScrollTo(const QRectF& place) {
     reached_ = place.bottom();
     FitScene();
     ensureVisible(place, kScrollMargin, kScrollMargin);
+}
+
+void QtTextView::ScrollHigh() {
+    const QRectF line = CursorAt(mirror_->FromQt(item_->textCursor().selectionStart()));
+    // What comes below the line may not be laid out yet.
+    ScrollTo(CursorAt(PlaceAt(line.topLeft() + QPointF(0, viewport()->height() / Zoom()))));
+    const int wanted = viewport()->height() / kHighPart;
+    QScrollBar& bar = *verticalScrollBar();
+    bar.setValue(bar.value() + mapFromScene(line.topLeft()).y() - wanted);
 }
 
 QRectF QtTextView::CursorAt(doc::Pos position) const {

@@ -49,6 +49,8 @@ public:
     void ReadLeft();
     /// Shows text and selection when the program has done what it is at.
     void ShowSoon();
+    /// Does the same, and shows the line where the selection begins in the upper part of the view.
+    void ShowHighSoon();
 
     /// Brings the shown text up to date, as every paint does.
     void ShowText();
@@ -119,6 +121,7 @@ private:
     bool Locked() const;
     void SetCursor(int anchor, int position);
     void ScrollTo(const QRectF& place);
+    void ScrollHigh();
     void TellReaders();
     int PageCount() const;
     void DeleteTo(QTextCursor::MoveOperation way);
@@ -137,6 +140,7 @@ private:
     QTextDocument nothing_;
     PageMath pages_{doc::Page{}};
     bool asked_ = false;
+    bool askedHigh_ = false;
     /// What screen readers were told of last; it is kept only while there is one.
     QString told_;
     ReaderWatch readers_;

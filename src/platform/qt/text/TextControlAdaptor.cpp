@@ -10,6 +10,9 @@ void TextControlAdaptor::Write(Aspect aspect) {
         // A program moves the selection often before anybody can see it.
         widget_.ShowSoon();
         break;
+    case Aspect::Range:
+        widget_.ShowHighSoon();
+        break;
     case Aspect::Value:
         widget_.ReadZoom();
         break;
