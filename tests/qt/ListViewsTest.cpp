@@ -498,5 +498,17 @@ TEST_F(ListViewsTest, ATextWithLineEndsStaysOnItsLine) {
     EXPECT_EQ(At(0).data().toString(), QString::fromUtf8("two␊lines␍.txt"));
 }
 
+TEST_F(ListViewsTest, OfAVeryLongTextNoMoreIsPaintedThanCanBeSeen) {
+    const auto picture = [this](const Text& text) {
+        list.Clear();
+        list.Add({.key = u"a", .texts = {text}});
+        test::Settle();
+        return View().viewport()->grab().toImage();
+    };
+    const QImage longText = picture(Text(2000, u'x'));
+    EXPECT_NE(longText, picture(u"x"));
+    EXPECT_EQ(longText, picture(Text(1'000'000, u'x')));
+}
+
 } // namespace
 } // namespace korvane

@@ -7,6 +7,14 @@
 
 namespace korvane {
 
+namespace {
+
+/// More of a text than any window shows. The layout of a text costs time for each character, also for those
+/// that have no room.
+constexpr int kMostSeen = 2000;
+
+} // namespace
+
 void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     if (!PaintPlain(*painter, option, index)) QStyledItemDelegate::paint(painter, option, index);
@@ -18,6 +26,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
+    option->text.truncate(kMostSeen);
     // Of a name that is too long the end may matter, but of a date or a size it doesn't.
     if (index.column() > 0) option->textElideMode = Qt::ElideRight;
 }
