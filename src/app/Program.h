@@ -27,6 +27,7 @@
 #include "text/files/DocumentFiles.h"
 #include "text/formats/FontWindows.h"
 #include "text/insert/InsertWindows.h"
+#include "text/find/FindWindow.h"
 #include "text/markup/TagPairs.h"
 #include "text/window/TextWindows.h"
 #include "text/words/WordListWindow.h"
@@ -83,6 +84,7 @@ private:
     TagPairs tagPairs_{app_};
     WordListWindow wordListWindow_{app_};
     Websites websites_{app_};
+    FindWindow findWindow_{app_};
     KeptTables keptTables_;
 };
 

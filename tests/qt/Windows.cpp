@@ -48,6 +48,7 @@
 #include "text/fields/frmViewEditField.h"
 #include "text/formats/frmQuickNameSize.h"
 #include "text/formats/frmSetForegroundColour.h"
+#include "text/find/frmFindString.h"
 #include "text/frmViewAndPaste.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmDateType.h"
@@ -124,6 +125,12 @@ constexpr Window kWindows[] = {
     {"frmFindStingInList",
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmFindStingInList>(all.app, u"garden");
+     }},
+    {"frmFindString",
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         all.app.Exchange<FindState>() = {u"garden\rhouse\r", u"garden"};
+         all.app.Settings.WordDelimiters = u"'\",.;:#/()[]{} \t\f\n\r";
+         return std::make_unique<frmFindString>(all.app, all.text);
      }},
     {"frmFoldersToday",
      [](Surroundings& all) -> std::unique_ptr<Form> {
