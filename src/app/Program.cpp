@@ -58,7 +58,6 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);
     app_.SetPort<FrontWindow>(&frontWindow_);
-    app_.SetPort<FontPicker>(&fontPicker_);
     app_.SetPort<SystemFontDialog>(&fontDialog_);
     app_.SetPort<ColourPicker>(&colourPicker_);
     app_.SetPort<PictureFiles>(&pictureFiles_);

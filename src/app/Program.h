@@ -25,9 +25,9 @@
 #include "text/ClipboardWindow.h"
 #include "text/control/TextControlWindows.h"
 #include "text/files/DocumentFiles.h"
+#include "text/find/FindWindow.h"
 #include "text/formats/FontWindows.h"
 #include "text/insert/InsertWindows.h"
-#include "text/find/FindWindow.h"
 #include "text/markup/TagPairs.h"
 #include "text/window/TextWindows.h"
 #include "text/words/WordListWindow.h"
@@ -66,7 +66,6 @@ private:
     QtFormHost forms_;
     QtSystemFileDialog systemFileDialog_;
     QtFrontWindow frontWindow_;
-    QtFontPicker fontPicker_;
     QtFontDialog fontDialog_;
     QtColourPicker colourPicker_;
     QtPictureFiles pictureFiles_;

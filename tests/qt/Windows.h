@@ -10,7 +10,8 @@
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/TabStates.h"
 #include "shell/tabs/frmMDIChild.h"
-#include "text/control/TextSearch.h" "text/insert/InsertTarget.h"
+#include "text/control/TextSearch.h"
+#include "text/insert/InsertTarget.h"
 
 #include <memory>
 #include <span>
