@@ -39,8 +39,6 @@ ShownDocument::ShownDocument(const doc::Document& source) : source_(source) {
     // Undoing is the store's. Here it would only keep every change once more.
     setUndoRedoEnabled(false);
     setUseDesignMetrics(true);
-    // Without a layout the document doesn't tell of its changes.
-    documentLayout();
 }
 
 QVariant ShownDocument::loadResource(int type, const QUrl& name) {

@@ -266,6 +266,9 @@ void TextMirror::Build() {
         ++i;
     }
     cursor.endEditBlock();
+    // Without a layout the document doesn't tell of its changes. While it is filled, a layout would make each
+    // step take several times as long.
+    fresh->documentLayout();
     shown_ = std::move(fresh);
 }
 
