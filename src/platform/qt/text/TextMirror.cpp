@@ -68,6 +68,12 @@ QTextTableFormat TableLook(const doc::TableRow& row) {
     return look;
 }
 
+/// Whether Qt needs to know of the cell's look. Its lines are painted here, and its width belongs to the
+/// table.
+bool HasLook(const doc::CellFormat& cell) {
+    return cell.back != kNoColour || cell.gapLeft != 0 || cell.gapRight != 0;
+}
+
 } // namespace
 
 QString ShownText(TextView text) {
@@ -306,7 +312,7 @@ std::size_t TextMirror::PutRows(QTextCursor& cursor, std::size_t first, const do
 std::size_t TextMirror::PutCell(QTextCursor& cursor, QTextTable& table, std::size_t first,
                                 const doc::CellFormat& format) {
     const doc::Paragraph& begin = At(first);
-    if (format != doc::CellFormat{.width = format.width} || begin.emptyFormat != 0)
+    if (HasLook(format) || begin.emptyFormat != 0)
         table.cellAt(cursor).setFormat(TableCellLook(format, formats_.OfChars(begin.emptyFormat)));
     if (begin.format != 0) cursor.setBlockFormat(formats_.OfParagraph(begin.format));
     PutText(cursor, begin);
