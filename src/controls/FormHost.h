@@ -22,6 +22,9 @@ public:
     /// Brings the window to the front and gives it the keyboard.
     virtual void Raise(Form& form) = 0;
 
+    /// Whether a modal window is shown, below which no other one can be used.
+    virtual bool ShowsModal() const { return false; }
+
     /// The windows that have run their `Load` and haven't closed yet, in the order of loading.
     const std::vector<Form*>& LoadedForms() const { return loaded_; }
 

@@ -11,6 +11,7 @@
 #include "dialogs/frmMyMsgBox.h"
 #include "extras/clock/frmShowTimer.h"
 #include "extras/lock/frmWallpaper.h"
+#include "extras/web/frmBrowser.h"
 #include "extras/web/frmWebList.h"
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
@@ -85,6 +86,8 @@ constexpr Window kWindows[] = {
      [](Surroundings& all) -> std::unique_ptr<Form> {
          return std::make_unique<frmAskCopyMove>(all.app, all.copyMove);
      }},
+    {"frmBrowser",
+     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmBrowser>(all.app, u""); }},
     {"frmChooseRange", FromApp<frmChooseRange>},
     {"frmCopyMove", FromApp<frmCopyMove>},
     {"frmCtrlRet", FromApp<frmCtrlRet>},

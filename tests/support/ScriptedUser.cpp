@@ -53,7 +53,9 @@ void ScriptedUser::CancelChooser() {
 }
 
 void ScriptedUser::RunModal(Form& form) {
+    ++modal_;
     const bool played = PlayWindow(form);
+    --modal_;
     if (!form.Shown()) return;
     if (played) ADD_FAILURE() << "the window " << form.Name() << " was left open";
     form.Close();

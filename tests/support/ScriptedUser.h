@@ -97,6 +97,7 @@ public:
     void Hide(Form& form) override;
     void PopUp(Menu& menu) override;
     void Raise(Form& form) override;
+    bool ShowsModal() const override { return modal_ > 0; }
     korvane::Answer Show(const Message& message) override;
     void Choose(ListerRequest& request) override;
     std::optional<Colour> Choose(Colour start, Extent extent) override;
@@ -140,6 +141,7 @@ private:
     std::vector<std::string> popUps_;
     std::vector<std::string> raised_;
     std::vector<Form*> shown_;
+    int modal_ = 0;
 };
 
 } // namespace korvane

@@ -64,6 +64,7 @@ constexpr Maker kMakers[] = {
     Make<GridBox, GridView, GridAdaptor>,
     Make<TextControl, QtTextView, TextControlAdaptor>,
     Make<TextButtonBar, TextButtonBarView, TextButtonBarAdaptor>,
+    Make<WebView, QWidget, WebViewAdaptor>,
     Make<TextRuler, TextRulerView, TextRulerAdaptor>,
     Make<TextStatusBar, QLabel, TextStatusAdaptor>,
     Make<HairLine, QFrame, HairLineAdaptor>,

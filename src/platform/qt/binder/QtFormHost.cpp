@@ -116,6 +116,10 @@ void QtFormHost::Raise(Form& form) {
     window->activateWindow();
 }
 
+bool QtFormHost::ShowsModal() const {
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 QWidget* QtFormHost::WidgetOf(const Form& form) const {
     for (const Shown& shown : shown_) {
         if (shown.form == &form) return shown.window;

@@ -24,6 +24,7 @@ public:
     void Hide(Form& form) override;
     void PopUp(Menu& menu) override;
     void Raise(Form& form) override;
+    bool ShowsModal() const override;
 
     /// Runs the event loop until the window is closed.
     void RunUntilClosed(const Form& form);

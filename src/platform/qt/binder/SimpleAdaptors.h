@@ -6,6 +6,7 @@
 #include "controls/ProgressBar.h"
 #include "controls/Slider.h"
 #include "controls/Timer.h"
+#include "controls/WebView.h"
 #include "platform/qt/base/ControlAdaptor.h"
 
 #include <QAbstractButton>
@@ -75,6 +76,12 @@ public:
 
 protected:
     void Write(Aspect aspect) override;
+};
+
+/// The widgets in it show the page.
+class WebViewAdaptor : public AdaptorOf<WebView, QWidget> {
+public:
+    using AdaptorOf::AdaptorOf;
 };
 
 class ProgressAdaptor : public AdaptorOf<ProgressBar, QProgressBar> {
