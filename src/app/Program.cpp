@@ -64,8 +64,7 @@ Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& me
     app_.SetPort<FileViewer>(&fileHandling_);
     app_.SetPort<TableKeeper>(&keptTables_);
     app_.SetPort<TextFiles>(&documents_);
-    // As long as the program has no window of its own for them.
-    app_.SetPort<PageViewer>(&desktopViewer_);
+    app_.SetPort<Network>(&network_);
 }
 
 int Program::Run(const Text& path) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context/App.h"
+#include "extras/web/Pages.h"
 #include "extras/web/Websites.h"
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
@@ -21,7 +22,7 @@
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
 #include "platform/qt/services/QtUserLocale.h"
-#include "shell/main/DesktopFileViewer.h"
+#include "platform/qt/web/QtNetwork.h"
 #include "text/ClipboardWindow.h"
 #include "text/control/TextControlWindows.h"
 #include "text/files/DocumentFiles.h"
@@ -77,6 +78,8 @@ private:
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     DocumentFiles documents_{files_, app_.Page(), &converter_};
     TextControlWindows textControlWindows_{app_};
+    // Other programs that know more formats aren't asked yet.
+    DocumentFiles documents_{files_, app_.Page(), nullptr};
     TextWindows textWindows_{app_};
     InsertWindows insertWindows_{app_};
     FontWindows fontWindows_{app_};
@@ -84,6 +87,8 @@ private:
     WordListWindow wordListWindow_{app_};
     Websites websites_{app_};
     FindWindow findWindow_{app_};
+    QtNetwork network_;
+    Pages pages_{app_};
     KeptTables keptTables_;
 };
 
