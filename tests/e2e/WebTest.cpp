@@ -1,0 +1,89 @@
+// Tests the list of websites and the window of pages, with the keyboard alone.
+
+#include "e2e/DeskTest.h"
+
+namespace korvane::e2e {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto kWebsites = "^Website list :";
+constexpr auto kSaveList = "^Save website list to disk$";
+constexpr auto kLister = "^Directory lister$";
+constexpr auto kBrowser = "^Internet browser$";
+
+class WebTest : public DeskTest {
+protected:
+    void Start(const fs::path& folder) {
+        program = desk.Start({file.string()}, folder);
+        main = desk.GoTo(kMain);
+        ASSERT_NE(main, "");
+    }
+    /// Adds a website before the current one.
+    void Add(const std::string& name, const std::string& url) {
+        desk.Press({"Insert"});
+        desk.Type(name);
+        desk.Press({"Tab"});
+        desk.Type(url);
+        desk.Press({"Return"});
+    }
+    void Answer(const std::string& key) {
+        ASSERT_NE(desk.GoTo(kMain, main), "");
+        desk.Press({key});
+        ASSERT_TRUE(desk.Gone(kMain, main));
+    }
+    void End() {
+        ASSERT_EQ(desk.GoTo(kMain), main);
+        Exit();
+        EXPECT_EQ(program->ExitStatus(), 0);
+    }
+
+    std::unique_ptr<Process> program;
+    std::string main;
+};
+
+TEST_F(WebTest, WebsitesAreTypedLoadedAndSaved) {
+    desk.Provide("mybrowser");
+    ASSERT_NO_FATAL_FAILURE(Start(desk.Path("")));
+    desk.Press({"ctrl+F7"});
+    ASSERT_NE(desk.GoTo(kWebsites), "");
+    Add("News", "http://news.example/?a=b");
+    Add("Books", "http://books.example");
+    desk.Press({"space", "Down", "space", "Tab", "Tab"});
+    desk.Type("mybrowser --new");
+    desk.Press({"alt+l"});
+    EXPECT_TRUE(desk.Until([&] {
+        return desk.Started() == "mybrowser --new http://books.example http://news.example/?a=b\n";
+    })) << desk.Started();
+    desk.Press({"alt+c"});
+    ASSERT_NO_FATAL_FAILURE(Answer("alt+y"));
+    ASSERT_NE(desk.GoTo(kSaveList), "");
+    const fs::path list = desk.Path("sites.lst");
+    desk.Type(list.string());
+    desk.Press({"Return"});
+    EXPECT_TRUE(desk.Holds(list,
+                           "Books\r\nhttp://books.example\r\n1\r\nNews\r\nhttp://news.example/?a=b\r\n1\r\n"
+                           "***\r\n\r\n"));
+    ASSERT_TRUE(desk.Gone(kWebsites));
+    ASSERT_NO_FATAL_FAILURE(End());
+}
+
+TEST_F(WebTest, APageOpensFromTheListerAndClosesAgain) {
+    const fs::path pages = desk.Path("pages");
+    fs::create_directories(pages);
+    WriteBytes(pages / "page.htm", "<h1>A page</h1><p>with <a href='page.htm'>a link</a></p>");
+    ASSERT_NO_FATAL_FAILURE(Start(pages));
+    desk.Press({"ctrl+F5"});
+    ASSERT_NE(desk.GoTo(kLister), "");
+    desk.Press({"space"});
+    ASSERT_NE(desk.GoTo(kBrowser), "");
+    desk.Press({"shift+Tab", "shift+Tab", "Return", "Escape"});
+    ASSERT_TRUE(desk.Gone(kBrowser));
+    ASSERT_NE(desk.GoTo(kLister), "");
+    desk.Press({"Escape"});
+    ASSERT_TRUE(desk.Gone(kLister));
+    ASSERT_NO_FATAL_FAILURE(End());
+}
+
+} // namespace
+} // namespace korvane::e2e
