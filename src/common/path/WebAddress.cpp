@@ -43,6 +43,11 @@ Text WithScheme(TextView address) {
     return SchemeOf(address).empty() ? u"https://" + Text(address) : Text(address);
 }
 
+bool IsOfNet(TextView address) {
+    const Text scheme = SchemeOf(address);
+    return scheme == u"http" || scheme == u"https";
+}
+
 bool IsForBrowsers(TextView address) {
     return std::ranges::find(kSchemesForBrowsers, SchemeOf(address)) != std::end(kSchemesForBrowsers);
 }

@@ -12,6 +12,9 @@ Text SchemeOf(TextView address);
 /// The address with "https://" before it if it has no scheme.
 Text WithScheme(TextView address);
 
+/// Whether a server of the web has what is at the address.
+bool IsOfNet(TextView address);
+
 /// Whether a desktop may be asked to open the address: it is of a kind that shows something and starts no
 /// program.
 bool IsForBrowsers(TextView address);

@@ -7,6 +7,7 @@
 #include "context/App.h"
 #include "controls/TextControl.h"
 #include "platform/FileSystem.h"
+#include "platform/Screen.h"
 
 #include <algorithm>
 
@@ -14,10 +15,8 @@ namespace korvane {
 
 namespace {
 
-bool IsOfNet(TextView address) {
-    const Text scheme = SchemeOf(address);
-    return scheme == u"http" || scheme == u"https";
-}
+constexpr std::string_view kLinkOnLight = "color:#0645ad;text-decoration:underline";
+constexpr std::string_view kLinkOnDark = "color:#8ab4f8;text-decoration:underline";
 
 bool IsOfDisk(TextView address) {
     return SchemeOf(address) == u"file";
@@ -180,7 +179,7 @@ void PageEngine::TakePage(TextView type, std::string bytes) {
     if (IsPicture(bytes)) {
         ShowHtml(PageOfPicture(bytes));
     } else if (IsHtml(bare)) {
-        html_ = WithEncoding(bytes, type);
+        html_ = WithLinkLook(WithEncoding(bytes, type), app_.Screen().IsDark() ? kLinkOnDark : kLinkOnLight);
         sources_ = PicturesOf(html_);
         ShowHtml(html_);
     } else if (bare.starts_with(u"text/")) {

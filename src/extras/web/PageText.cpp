@@ -60,6 +60,7 @@ public:
         TakeValue(attribute);
         return attribute;
     }
+    std::size_t At() const { return at_; }
     /// Leaves out what is in a script or a style.
     void SkipContents(std::string_view name) {
         while ((at_ = html_.find("</", at_)) != kEnd) {
@@ -91,6 +92,25 @@ private:
     std::string_view html_;
     std::size_t at_ = 0;
 };
+
+/// Calls `take` for each tag of this name that has the attribute, with the place after its name and with the
+/// first of these attributes.
+template <class Take>
+void ForEachTag(std::string_view html, std::string_view name, std::string_view wanted, const Take& take) {
+    TagScanner tags(html);
+    while (const auto tag = tags.NextTag()) {
+        const std::size_t afterName = tags.At();
+        bool seen = false;
+        while (const auto attribute = tags.NextAttribute()) {
+            if (!SameWord(*tag, name) || seen || !SameWord(attribute->name, wanted)) continue;
+            seen = true;
+            take(afterName, *attribute);
+        }
+        for (const std::string_view raw : {"script"sv, "style"sv}) {
+            if (SameWord(*tag, raw)) tags.SkipContents(raw);
+        }
+    }
+}
 
 /// An address of a page has hardly another entity.
 Text AddressOf(std::string_view value) {
@@ -133,20 +153,23 @@ std::string Escaped(TextView text) {
 
 std::vector<PictureSource> PicturesOf(std::string_view html) {
     std::vector<PictureSource> pictures;
-    TagScanner tags(html);
-    while (const auto tag = tags.NextTag()) {
-        bool sourceSeen = false;
-        while (const auto attribute = tags.NextAttribute()) {
-            if (!SameWord(*tag, "img") || sourceSeen || !SameWord(attribute->name, "src")) continue;
-            sourceSeen = true;
-            if (attribute->value.empty() || IsPartOfPage(attribute->value)) continue;
-            pictures.push_back({attribute->at, attribute->value.size(), AddressOf(attribute->value)});
-        }
-        for (const std::string_view raw : {"script"sv, "style"sv}) {
-            if (SameWord(*tag, raw)) tags.SkipContents(raw);
-        }
-    }
+    ForEachTag(html, "img", "src", [&pictures](std::size_t, const Attribute& source) {
+        if (source.value.empty() || IsPartOfPage(source.value)) return;
+        pictures.push_back({source.at, source.value.size(), AddressOf(source.value)});
+    });
     return pictures;
+}
+
+std::string WithLinkLook(std::string_view html, std::string_view style) {
+    std::string page;
+    std::size_t done = 0;
+    ForEachTag(html, "a", "href", [&](std::size_t afterName, const Attribute&) {
+        page += html.substr(done, afterName - done);
+        ((page += " style=\"") += style) += '"';
+        done = afterName;
+    });
+    page += html.substr(done);
+    return page;
 }
 
 std::string WithPictures(std::string_view html, const std::map<std::size_t, std::string>& pictures,

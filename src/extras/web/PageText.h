@@ -26,6 +26,9 @@ std::vector<PictureSource> PicturesOf(std::string_view html);
 std::string WithPictures(std::string_view html, const std::map<std::size_t, std::string>& pictures,
                          const std::vector<PictureSource>& sources);
 
+/// The page with a look for its links, which a page mostly leaves to the browser.
+std::string WithLinkLook(std::string_view html, std::string_view style);
+
 /// Whether the bytes are a picture that a page can show.
 bool IsPicture(std::string_view bytes);
 /// A page with one picture.

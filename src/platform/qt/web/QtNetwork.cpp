@@ -126,11 +126,6 @@ private:
     std::string bytes_;
 };
 
-bool IsOfNet(TextView address) {
-    const Text scheme = SchemeOf(address);
-    return scheme == u"http" || scheme == u"https";
-}
-
 } // namespace
 
 QtNetwork::QtNetwork() = default;

@@ -25,6 +25,13 @@ TEST(WebAddressTest, AnAddressWithoutASchemeIsOnTheWeb) {
     EXPECT_EQ(WithScheme(u"about:blank"), u"about:blank");
 }
 
+TEST(WebAddressTest, ServersOfTheWebHaveTwoSchemes) {
+    for (const TextView address : {u"http://x", u"HTTPS://x"})
+        EXPECT_TRUE(IsOfNet(address));
+    for (const TextView address : {u"x.org", u"file:///x", u"ftp://x", u""})
+        EXPECT_FALSE(IsOfNet(address));
+}
+
 TEST(WebAddressTest, OnlyAddressesThatShowSomethingAreForBrowsers) {
     for (const TextView address : {u"http://x", u"HTTPS://x", u"ftp://x", u"file:///x"})
         EXPECT_TRUE(IsForBrowsers(address));

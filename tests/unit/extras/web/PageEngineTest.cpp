@@ -128,6 +128,18 @@ TEST_F(PageEngineTest, ALinkIsFollowedFromWhereTheServerSentTheProgram) {
     EXPECT_EQ(engine.Address(), u"https://x.org/two.htm");
 }
 
+TEST_F(PageEngineTest, LinksAreUnderlinedInAColourOfTheWindow) {
+    for (const auto& [dark, colour] : {std::pair{false, 0xAD4506}, {true, 0xF8B48A}}) {
+        t.screen.SetDark(dark);
+        GoTo(u"https://x.org");
+        text.MoveSelection(6, 2);
+        EXPECT_TRUE(text.FontUnderline());
+        EXPECT_EQ(text.ForeColor().value, colour);
+        text.MoveSelection(0, 5);
+        EXPECT_FALSE(text.FontUnderline());
+    }
+}
+
 TEST_F(PageEngineTest, LinksToPlacesAndToOtherProgramsLeadNowhere) {
     net.PutPage(u"https://x.org",
                 "<a href='#a'>a</a> <a href='mailto:a@x.org'>b</a> <a href='ftp://x'>c</a>");

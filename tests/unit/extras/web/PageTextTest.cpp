@@ -56,6 +56,16 @@ TEST(PageTextTest, PicturesArePutInTheirPlaces) {
     EXPECT_EQ(WithPictures(html, {}, sources), html);
 }
 
+TEST(PageTextTest, LinksGetALook) {
+    EXPECT_EQ(
+        WithLinkLook("<A HREF=x>a</A><a name=y>b</a><abbr href=z><!-- <a href=x> --><a href='q' style='r'>",
+                     "s"),
+        "<A style=\"s\" HREF=x>a</A><a name=y>b</a><abbr href=z><!-- <a href=x> -->"
+        "<a style=\"s\" href='q' style='r'>");
+    EXPECT_EQ(WithLinkLook("<a", "s"), "<a");
+    EXPECT_EQ(WithLinkLook("", "s"), "");
+}
+
 TEST(PageTextTest, APictureIsKnownByItsBytes) {
     EXPECT_TRUE(IsPicture(kPng));
     EXPECT_TRUE(IsPicture("\xFF\xD8\xFF..."));
