@@ -6,8 +6,6 @@
 #include "controls/KeyTable.h"
 #include "platform/Screen.h"
 
-#include <algorithm>
-
 namespace korvane {
 
 namespace {
@@ -71,7 +69,8 @@ void frmBrowser::Unload() {
 }
 
 void frmBrowser::Resize() {
-    if (State.Get() != FormState::Normal) return;
+    // A window that has no place yet has no size either.
+    if (State.Get() != FormState::Normal || Width.Get() <= Twips{0}) return;
     if (Width.Get() < kLeastWidth) Width = kLeastWidth;
     if (Height.Get() < kLeastHeight) Height = kLeastHeight;
 }

@@ -155,6 +155,8 @@ TEST_F(BrowserTest, TheStatusBarIsShownAndHidden) {
 
 TEST_F(BrowserTest, TheWindowKeepsItsLeastSize) {
     InWindow(u"", [](frmBrowser& f) {
+        f.Resize();
+        EXPECT_EQ(f.Width.Get(), Twips{0}) << "a window without a place gets none";
         f.Width = Twips{5000};
         f.Height = Twips{3000};
         f.Resize();
