@@ -78,8 +78,6 @@ private:
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     DocumentFiles documents_{files_, app_.Page(), &converter_};
     TextControlWindows textControlWindows_{app_};
-    // Other programs that know more formats aren't asked yet.
-    DocumentFiles documents_{files_, app_.Page(), nullptr};
     TextWindows textWindows_{app_};
     InsertWindows insertWindows_{app_};
     FontWindows fontWindows_{app_};

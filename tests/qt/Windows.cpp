@@ -87,7 +87,9 @@ constexpr Window kWindows[] = {
          return std::make_unique<frmAskCopyMove>(all.app, all.copyMove);
      }},
     {"frmBrowser",
-     [](Surroundings& all) -> std::unique_ptr<Form> { return std::make_unique<frmBrowser>(all.app, u""); }},
+     [](Surroundings& all) -> std::unique_ptr<Form> {
+         return std::make_unique<frmBrowser>(all.app, u"C:\\data\\Page.htm");
+     }},
     {"frmChooseRange", FromApp<frmChooseRange>},
     {"frmCopyMove", FromApp<frmCopyMove>},
     {"frmCtrlRet", FromApp<frmCtrlRet>},

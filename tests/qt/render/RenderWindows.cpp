@@ -3,6 +3,7 @@
 
 #include "context/StandardMessages.h"
 #include "controls/TabStyles.h"
+#include "extras/web/frmWebList.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/base/Palettes.h"
 #include "platform/qt/binder/CalmStyle.h"
@@ -61,6 +62,24 @@ void RenderDialogs(Album& album, Stage& stage) {
         form->Close();
         Stage::Settle();
     }
+}
+
+/// The groups, and the fields of a row, which a user sees only after a command.
+void RenderWebsites(Album& album, Stage& stage) {
+    frmWebList form(stage.All().app, stage.Main());
+    form.Show();
+    QWidget& window = *stage.Host().WidgetOf(form);
+    const auto put = [&](const QString& name, const char* command) {
+        form.OfficeMenu1.Choose(command);
+        Stage::Settle();
+        album.Put(name, window.grab());
+    };
+    put("frmWebList-fields", "mnuEditItem");
+    put("frmWebList-groups", "mnuGroupWin");
+    form.lstGroup.Select(0);
+    put("frmWebList-group-fields", "mnuEditItem");
+    form.Close();
+    Stage::Settle();
 }
 
 struct Box {
@@ -154,6 +173,7 @@ int Render(const QString& folder) {
     RenderStyles(album, stage);
     stage.Main().MDITabs1.Style = 13;
     RenderDialogs(album, stage);
+    RenderWebsites(album, stage);
     RenderBoxes(album);
     RenderIcons(album);
     QWidget& window = *stage.Host().WidgetOf(stage.Main());

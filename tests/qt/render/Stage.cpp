@@ -80,6 +80,21 @@ void Stage::FillLists() {
     outside_.files.AddFile(style.JoinPath(outside_.files.StateDir(), u"FavouriteLocations.lst"), kFolders);
     outside_.files.AddFile(InData(u"work.lst"), kFolders);
     app_.Settings.FoldersFile = InData(u"work.lst");
+    FillWebsites();
+}
+
+void Stage::FillWebsites() {
+    outside_.files.AddFile(InData(u"sites.lst"),
+                           "Town library\r\nhttps://library.example/catalogue\r\n1\r\n"
+                           "Weather\r\nhttps://weather.example\r\n1\r\n"
+                           ".   .   .   .   .   .   .   .   .\r\n\r\n0\r\n"
+                           "Gardening club\r\nhttp://www.gardening.example/news.html\r\n0\r\n***\r\n"
+                           "https://library.example/catalogue https://weather.example\r\n");
+    app_.Settings.WebListFile = InData(u"sites.lst");
+    app_.Settings.WebListA = u"C:\\Program Files\\Browser\\browser.exe";
+    outside_.files.AddFile(InData(u"Page.htm"),
+                           "<h1>The garden</h1><p>What grows in it, and <a href='when.htm'>when</a>.</p>"
+                           "<ul><li>Lilac</li><li>Roses</li></ul>");
 }
 
 void Stage::FillRequests() {

@@ -3,6 +3,7 @@
 #include "Windows.h"
 #include "app/Unattended.h"
 #include "platform/qt/binder/QtFormHost.h"
+#include "support/PageFiles.h"
 #include "support/TestApp.h"
 
 namespace korvane {
@@ -23,6 +24,7 @@ public:
 private:
     void FillFiles();
     void FillLists();
+    void FillWebsites();
     void FillRequests();
 
     TestApp outside_;
@@ -43,6 +45,7 @@ private:
               nullptr,
               &outside_.fileTypes,
               &outside_.fonts}};
+    PageFiles pages_{app_};
     Surroundings all_{app_};
 };
 
