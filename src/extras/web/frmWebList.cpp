@@ -382,11 +382,11 @@ void frmWebList::Reject() {
     FocusList();
 }
 
-/// While they are shown, no other row can become the current one.
+/// They take the place of the list, so that no other row can become the current one.
 void frmWebList::ShowFields(bool shown) {
     Frame1.Visible = shown;
-    ListView1.Enabled = !shown;
-    lstGroup.Enabled = !shown;
+    ListView1.Visible = !shown && !InGroups();
+    lstGroup.Visible = !shown;
 }
 
 /// Check marks stay in their places. Kept for compatibility: website-moves-leave-checks.

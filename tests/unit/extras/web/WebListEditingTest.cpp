@@ -24,12 +24,12 @@ TEST_F(WebListEditingTest, ARowIsEditedInTheFields) {
         EXPECT_EQ(f.txtName.Text.Get(), u"B");
         EXPECT_EQ(f.txtSite.Text.Get(), u"http://b");
         EXPECT_EQ(f.Focused(), &f.txtName);
-        EXPECT_FALSE(f.ListView1.Enabled);
+        EXPECT_FALSE(f.ListView1.Visible);
         f.txtName.Text = u"Bee";
         f.txtSite.Text = u"http://bee";
         f.btnAccept.Press();
         EXPECT_FALSE(f.Frame1.Visible);
-        EXPECT_TRUE(f.ListView1.Enabled);
+        EXPECT_TRUE(f.ListView1.Visible);
         EXPECT_EQ(f.Focused(), &f.ListView1);
         EXPECT_THAT(Names(f), ElementsAre(u"A", u"Bee", u"C"));
         EXPECT_EQ(f.ListView1.TextAt(2, 2), u"http://bee");
