@@ -12,6 +12,7 @@
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/picture/QtPictureFiles.h"
+#include "platform/qt/net/LoadedNetwork.h"
 #include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
@@ -22,7 +23,6 @@
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
 #include "platform/qt/services/QtUserLocale.h"
-#include "platform/qt/web/QtNetwork.h"
 #include "text/ClipboardWindow.h"
 #include "text/control/TextControlWindows.h"
 #include "text/files/DocumentFiles.h"
@@ -86,6 +86,7 @@ private:
     Websites websites_{app_};
     FindWindow findWindow_{app_};
     QtNetwork network_;
+    LoadedNetwork network_;
     Pages pages_{app_};
     KeptTables keptTables_;
 };

@@ -1,7 +1,5 @@
 #include "platform/qt/web/QtNetwork.h"
 
-#include "common/path/WebAddress.h"
-
 #include <QElapsedTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -24,6 +22,10 @@ QString ToQString(TextView text) {
 
 Text ToText(const QString& text) {
     return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
+}
+
+bool IsOfNet(const QUrl& address) {
+    return address.scheme() == QStringLiteral("http") || address.scheme() == QStringLiteral("https");
 }
 
 QNetworkRequest RequestOf(const FetchRequest& asked) {
@@ -134,7 +136,7 @@ QtNetwork::~QtNetwork() = default;
 std::unique_ptr<Fetch> QtNetwork::Get(const FetchRequest& request, std::function<void(Fetched)> then) {
     auto fetch = std::make_unique<QtFetch>(request, std::move(then));
     if (manager_ == nullptr) manager_ = std::make_unique<QNetworkAccessManager>();
-    if (IsOfNet(request.address))
+    if (IsOfNet(QUrl(ToQString(request.address))))
         fetch->Follow(*manager_->get(RequestOf(request)));
     else
         fetch->Refuse();

@@ -1,0 +1,45 @@
+#include "platform/qt/net/LoadedNetwork.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+#include <QTimer>
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+/// Tells, when messages run, that nothing can be fetched.
+class NoFetch final : public Fetch {
+public:
+    NoFetch(const Text& address, std::function<void(Fetched)> then) {
+        QTimer::singleShot(0, &context_, [address, then = std::move(then)] {
+            then({.address = address, .reason = u"The part of the program for the net isn't installed."});
+        });
+    }
+
+private:
+    QObject context_;
+};
+
+} // namespace
+
+LoadedNetwork::LoadedNetwork(QString library) : library_(std::move(library)) {}
+
+void LoadedNetwork::Load() {
+    using Make = Network* (*)();
+    if (std::exchange(tried_, true)) return;
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/korvane_net");
+    // The library stays loaded to the end, because what it made lives as long.
+    QLibrary library(library_.isEmpty() ? beside : library_);
+    if (const auto make = reinterpret_cast<Make>(library.resolve("MakeKorvaneNetwork")))
+        network_.reset(make());
+}
+
+std::unique_ptr<Fetch> LoadedNetwork::Get(const FetchRequest& request, std::function<void(Fetched)> then) {
+    Load();
+    if (network_ != nullptr) return network_->Get(request, std::move(then));
+    return std::make_unique<NoFetch>(request.address, std::move(then));
+}
+
+} // namespace korvane
