@@ -11,8 +11,8 @@
 #include "platform/native/NativeDocumentConverter.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
-#include "platform/qt/picture/QtPictureFiles.h"
 #include "platform/qt/net/LoadedNetwork.h"
+#include "platform/qt/picture/QtPictureFiles.h"
 #include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFileTypes.h"
@@ -74,7 +74,6 @@ private:
     ClipboardWindow clipboardWindow_{app_};
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
-    DesktopFileViewer desktopViewer_{app_};
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     DocumentFiles documents_{files_, app_.Page(), &converter_};
     TextControlWindows textControlWindows_{app_};
