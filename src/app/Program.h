@@ -84,7 +84,6 @@ private:
     WordListWindow wordListWindow_{app_};
     Websites websites_{app_};
     FindWindow findWindow_{app_};
-    QtNetwork network_;
     LoadedNetwork network_;
     Pages pages_{app_};
     KeptTables keptTables_;
