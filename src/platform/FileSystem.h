@@ -58,6 +58,9 @@ public:
     virtual std::optional<FileDetails> Of(TextView name) const = 0;
 };
 
+/// Who may read a file that is written whole.
+enum class Readers : std::uint8_t { AsBefore, OwnerAlone };
+
 enum class CopyOutcome : std::uint8_t { Copied, DiskFull, Failed };
 
 struct CopyOptions {
@@ -92,10 +95,13 @@ public:
     /// so that a failure leaves the file as it was, and it keeps its rights. A link is followed. Only where
     /// no other file can be made in the folder, or the file is none that can be replaced, are the bytes
     /// written into the file itself.
-    virtual bool WriteWhole(TextView path, std::string_view bytes) {
-        const auto file = OpenRaw(path);
+    virtual bool WriteWhole(TextView path, std::string_view bytes, Readers readers = Readers::AsBefore) {
+        const auto file = readers == Readers::OwnerAlone ? OpenPrivate(path) : OpenRaw(path);
         return file && file->Write(bytes) && file->Close();
     }
+    /// Whether no other user of the computer can have put the file there: it belongs to the user or to the
+    /// administrator, or it is missing.
+    virtual bool IsTrusted(TextView /*path*/) const { return true; }
     /// Whether the file is there and may be written.
     virtual bool CanWrite(TextView path) const { return FileExists(path); }
     /// Removes a file; one that can't be written is refused. For a symbolic link, the file that it names is

@@ -156,7 +156,7 @@ bool MemoryFileSystem::CanOpenToWrite(const Place& place) {
     return true;
 }
 
-bool MemoryFileSystem::WriteWhole(TextView path, std::string_view bytes) {
+bool MemoryFileSystem::WriteWhole(TextView path, std::string_view bytes, Readers readers) {
     if (Strikes(FileStep::OpenToWrite)) return false;
     const Place place = Find(path);
     if (!CanOpenToWrite(place)) return false;
@@ -166,7 +166,7 @@ bool MemoryFileSystem::WriteWhole(TextView path, std::string_view bytes) {
                        !Strikes(FileStep::Close) && !Strikes(FileStep::Rename);
     disk_.Erase(unfinished);
     if (!whole) return false;
-    if (place.node) made->isPrivate = place.node->isPrivate;
+    made->isPrivate = readers == Readers::OwnerAlone || (place.node && place.node->isPrivate);
     disk_.PutBack(place, made);
     return Succeed();
 }

@@ -27,7 +27,8 @@ public:
     /// The disk has to outlive the writer.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
-    bool WriteWhole(TextView path, std::string_view bytes) override;
+    bool WriteWhole(TextView path, std::string_view bytes, Readers readers = Readers::AsBefore) override;
+    bool IsTrusted(TextView path) const override { return FullPath(path) != foreign_; }
     bool CanWrite(TextView path) const override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
@@ -68,6 +69,8 @@ public:
     void AddLink(TextView path, TextView target);
     /// Puts there what must not be opened: a pipe, a socket. Opening it fails.
     void AddPipe(TextView path);
+    /// From now on the file at this path belongs to another user.
+    void SetForeign(TextView path) { foreign_ = FullPath(path); }
     void SetFileReadOnly(TextView path, bool readOnly = true);
     void SetModified(TextView path, const DateTime& time);
     void SetProgramDir(TextView path);
@@ -121,6 +124,7 @@ private:
     const Clock& clock_;
     FileFaults faults_;
     Text vanishing_;
+    Text foreign_;
     Text lastErrorText_;
     Text programDir_;
     Text stateDir_;

@@ -142,7 +142,7 @@ Text NativeFileSystem::FullPath(TextView path) const {
 }
 
 std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
-    return ReadFile(ToNativePath(path), lastError_);
+    return ReadFile(ToNativePath(path), specialFiles_ == SpecialFiles::Used, lastError_);
 }
 
 std::unique_ptr<FileWriter> NativeFileSystem::OpenRaw(TextView path) {
@@ -163,17 +163,27 @@ std::unique_ptr<FileWriter> NativeFileSystem::OpenWith(const std::optional<syste
         lastError_ = LastSystemError();
         return nullptr;
     }
+    std::error_code ignored;
+    // Opening a pipe to write waits for a program that reads from it.
+    if (specialFiles_ == SpecialFiles::Refused && fs::is_fifo(native, ignored)) {
+        lastError_ = std::make_error_code(std::errc::operation_not_permitted);
+        return nullptr;
+    }
     SystemFile file = SystemFile::OpenToWrite(native, rights, lastError_);
     if (!file.IsOpen()) return nullptr;
     removed_ = {};
     return std::make_unique<Writer>(std::move(file), lastError_);
 }
 
-bool NativeFileSystem::WriteWhole(TextView path, std::string_view bytes) {
-    const auto error = ReplaceBytes(ToNativePath(path), bytes);
-    if (!error) return FileSystem::WriteWhole(path, bytes);
+bool NativeFileSystem::WriteWhole(TextView path, std::string_view bytes, Readers readers) {
+    const auto error = ReplaceBytes(ToNativePath(path), bytes, readers);
+    if (!error) return FileSystem::WriteWhole(path, bytes, readers);
     lastError_ = *error;
     return !lastError_;
+}
+
+bool NativeFileSystem::IsTrusted(TextView path) const {
+    return system_calls::IsTrusted(ToNativePath(path));
 }
 
 bool NativeFileSystem::CanWrite(TextView path) const {

@@ -12,8 +12,13 @@ namespace korvane {
 /// The real disk. The current directory is the one of the process.
 class NativeFileSystem final : public FileSystem {
 public:
+    /// Whether pipes, devices and sockets are read and written, which can take for ever.
+    enum class SpecialFiles : std::uint8_t { Refused, Used };
+
     explicit NativeFileSystem(TextView programDir) : NativeFileSystem(programDir, programDir) {}
-    NativeFileSystem(TextView programDir, TextView stateDir) : programDir_(programDir), stateDir_(stateDir) {}
+    NativeFileSystem(TextView programDir, TextView stateDir,
+                     SpecialFiles specialFiles = SpecialFiles::Refused)
+        : programDir_(programDir), stateDir_(stateDir), specialFiles_(specialFiles) {}
 
     PathStyle Style() const override;
     bool FileExists(TextView path) const override;
@@ -27,7 +32,8 @@ public:
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     /// A file that exists, or that `Remove` removed last, keeps its owner's permissions and loses all others.
     std::unique_ptr<FileWriter> OpenPrivate(TextView path) override;
-    bool WriteWhole(TextView path, std::string_view bytes) override;
+    bool WriteWhole(TextView path, std::string_view bytes, Readers readers = Readers::AsBefore) override;
+    bool IsTrusted(TextView path) const override;
     bool CanWrite(TextView path) const override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
@@ -72,6 +78,7 @@ private:
 
     Text programDir_;
     Text stateDir_;
+    SpecialFiles specialFiles_;
     std::error_code lastError_;
     Removed removed_;
 };

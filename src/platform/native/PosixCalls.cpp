@@ -44,7 +44,7 @@ void GiveRights(int file, const FileRights& rights) {
     const bool groupKept =
         fchown(file, rights.user, rights.group) == 0 || fchown(file, kSameUser, rights.group) == 0;
     const mode_t mode = rights.mode & kRightsBits;
-    // If this fails only the owner has access to the file, and its contents are not affected.
+    // If this fails a new file is for its owner alone, and one that was there keeps the rights that it had.
     [[maybe_unused]] const int result = fchmod(file, groupKept ? mode : WithoutGroup(mode));
 }
 
@@ -64,6 +64,24 @@ int OpenToWrite(const fs::path& path, const std::optional<FileRights>& rights) {
         open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, rights ? kOwnersFile : kNewFile);
     if (file != kNoFile && rights && IsPlainFile(file)) GiveRights(file, *rights);
     return file;
+}
+
+int CreateNew(const fs::path& path, const std::optional<FileRights>& rights) {
+    const int file =
+        open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, rights ? kOwnersFile : kNewFile);
+    if (file != kNoFile && rights) GiveRights(file, *rights);
+    return file;
+}
+
+int OpenPlainToRead(const fs::path& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (file == kNoFile) return kNoFile;
+    struct stat status {};
+    const bool known = fstat(file, &status) == 0;
+    if (known && S_ISREG(status.st_mode)) return file;
+    close(file);
+    errno = known && S_ISDIR(status.st_mode) ? EISDIR : EPERM;
+    return kNoFile;
 }
 
 std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size) {
@@ -103,6 +121,13 @@ std::optional<FileRights> RightsOf(const fs::path& path) {
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights) {
     if (!rights) return FileRights{kOwnersFile, kSameUser, kSameGroup};
     return FileRights{rights->mode & kOwnersBits, rights->user, rights->group};
+}
+
+bool IsTrusted(const fs::path& path) {
+    constexpr uid_t kAdministrator = 0;
+    struct stat status {};
+    if (stat(path.c_str(), &status) != 0) return true;
+    return status.st_uid == geteuid() || status.st_uid == kAdministrator;
 }
 
 bool IsProgram(const fs::path& path) {

@@ -1,5 +1,6 @@
 #include "platform/native/ReplaceBytes.h"
 
+#include "platform/native/FileCopy.h"
 #include "platform/native/SystemCalls.h"
 #include "platform/native/SystemFile.h"
 
@@ -41,7 +42,7 @@ std::error_code GiveUp(const fs::path& unfinished, const std::error_code& error)
 
 } // namespace
 
-std::optional<std::error_code> ReplaceBytes(const fs::path& path, std::string_view bytes) {
+std::optional<std::error_code> ReplaceBytes(const fs::path& path, std::string_view bytes, Readers readers) {
     const fs::path target = TargetOf(path);
     std::error_code error;
     const fs::file_status status = fs::status(target, error);
@@ -49,9 +50,11 @@ std::optional<std::error_code> ReplaceBytes(const fs::path& path, std::string_vi
     if (isThere && !fs::is_regular_file(status)) return std::nullopt;
     if (isThere && !system_calls::IsWritable(target)) return LastSystemError();
     const fs::path unfinished = NameBeside(target);
-    SystemFile file =
-        SystemFile::OpenToWrite(unfinished, isThere ? system_calls::RightsOf(target) : std::nullopt, error);
-    if (!file.IsOpen()) return std::nullopt;
+    auto rights = isThere ? system_calls::RightsOf(target) : std::nullopt;
+    if (readers == Readers::OwnerAlone) rights = system_calls::OwnersAlone(rights);
+    SystemFile file = SystemFile::CreateNew(unfinished, rights, error);
+    // Writing into the file itself empties it first, and on a full disk it would stay empty.
+    if (!file.IsOpen()) return IsDiskFull(error) ? std::optional(error) : std::nullopt;
     error = WriteAll(file, bytes);
     if (!error && !system_calls::Flush(unfinished)) error = LastSystemError();
     if (!error) fs::rename(unfinished, target, error);

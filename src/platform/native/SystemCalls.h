@@ -26,6 +26,10 @@ int OpenToRead(const std::filesystem::path& path);
 /// than these. Without them a new file gets the system's default. Something that isn't a plain file, such as
 /// a device, keeps its own rights.
 int OpenToWrite(const std::filesystem::path& path, const std::optional<FileRights>& rights);
+/// Creates the file as `OpenToWrite` does, unless anything has its name already.
+int CreateNew(const std::filesystem::path& path, const std::optional<FileRights>& rights);
+/// Opens a plain file. Anything else is refused, and a pipe isn't waited for.
+int OpenPlainToRead(const std::filesystem::path& path);
 /// These two calls may handle fewer bytes than asked for. They return -1 when they fail.
 std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size);
 std::ptrdiff_t WriteSome(int file, const char* bytes, std::size_t size);
@@ -42,6 +46,8 @@ std::optional<FileRights> RightsOf(const std::filesystem::path& path);
 /// The given rights without those of the group and of others. Without `rights`, those of a new file that only
 /// its owner may read and write.
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
+/// Whether the file belongs to the user or to the administrator, or is missing.
+bool IsTrusted(const std::filesystem::path& path);
 /// Returns when the contents of the file are safe on the disk.
 bool Flush(const std::filesystem::path& path);
 /// Opens a file, which is made for its owner alone if it is missing, and locks it until it is closed. Returns

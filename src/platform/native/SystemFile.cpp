@@ -25,6 +25,15 @@ SystemFile SystemFile::OpenToWrite(const fs::path& path,
     return {system_calls::OpenToWrite(path, rights), error};
 }
 
+SystemFile SystemFile::CreateNew(const fs::path& path, const std::optional<system_calls::FileRights>& rights,
+                                 std::error_code& error) {
+    return {system_calls::CreateNew(path, rights), error};
+}
+
+SystemFile SystemFile::OpenPlainToRead(const fs::path& path, std::error_code& error) {
+    return {system_calls::OpenPlainToRead(path), error};
+}
+
 SystemFile::SystemFile(SystemFile&& other) noexcept
     : file_(std::exchange(other.file_, system_calls::kNoFile)) {}
 

@@ -21,6 +21,13 @@ public:
                                   const std::optional<system_calls::FileRights>& rights,
                                   std::error_code& error);
 
+    /// Fails when anything has the name already, so that no link leads the bytes elsewhere.
+    static SystemFile CreateNew(const std::filesystem::path& path,
+                                const std::optional<system_calls::FileRights>& rights,
+                                std::error_code& error);
+    /// Fails for a pipe, a device or a socket, without waiting for it.
+    static SystemFile OpenPlainToRead(const std::filesystem::path& path, std::error_code& error);
+
     SystemFile(SystemFile&& other) noexcept;
     SystemFile& operator=(SystemFile&& other) noexcept;
     ~SystemFile();

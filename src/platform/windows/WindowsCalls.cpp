@@ -45,6 +45,15 @@ int OpenToWrite(const fs::path& path, const std::optional<FileRights>&) {
                   _S_IREAD | _S_IWRITE);
 }
 
+int CreateNew(const fs::path& path, const std::optional<FileRights>&) {
+    return _wopen(path.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT,
+                  _S_IREAD | _S_IWRITE);
+}
+
+int OpenPlainToRead(const fs::path& path) {
+    return OpenToRead(path);
+}
+
 std::ptrdiff_t ReadSome(int file, char* buffer, std::size_t size) {
     return _read(file, buffer, AtOnce(size));
 }
@@ -87,6 +96,11 @@ std::optional<FileRights> RightsOf(const fs::path&) {
 
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>&) {
     return std::nullopt;
+}
+
+bool IsTrusted(const fs::path&) {
+    // The folders of the program and of the user are no one else's on Windows.
+    return true;
 }
 
 bool IsProgram(const fs::path&) {

@@ -4,6 +4,7 @@
 #include "unit/platform/native/NativeFiles.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <thread>
 
@@ -14,12 +15,49 @@ namespace fs = std::filesystem;
 
 constexpr fs::perms kOwnersAlone = fs::perms::owner_read | fs::perms::owner_write;
 
-TEST_F(NativeFiles, ReadsAPipeToItsEnd) {
+TEST_F(NativeFiles, ReadsAPipeToItsEndWhereThatIsWanted) {
     ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
     const std::string bytes(300000, 'p');
     std::thread writer([&] { WriteBytes(dir / "pipe", bytes); });
-    EXPECT_EQ(Read("pipe"), bytes);
+    NativeFileSystem patient({}, {}, NativeFileSystem::SpecialFiles::Used);
+    const auto read = patient.ReadAll(At("pipe"));
     writer.join();
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->View(), bytes);
+}
+
+TEST_F(NativeFiles, WaitsForNoPipeAndReadsNoDevice) {
+    ASSERT_EQ(mkfifo((dir / "pipe").c_str(), 0600), 0);
+    for (const Text& path : {At("pipe"), Text(u"/dev/zero"), Text(u"/dev/null")}) {
+        EXPECT_FALSE(files.ReadAll(path));
+        EXPECT_EQ(files.LastErrorText(), u"Operation not permitted");
+    }
+    EXPECT_FALSE(files.ReadAll(At(".")));
+    EXPECT_EQ(files.LastErrorText(), u"Is a directory");
+    EXPECT_FALSE(files.OpenRaw(At("pipe")));
+    EXPECT_FALSE(files.WriteWhole(At("pipe"), "bytes", Readers::OwnerAlone));
+    EXPECT_TRUE(fs::is_fifo(dir / "pipe"));
+}
+
+TEST_F(NativeFiles, WhatIsWrittenForItsOwnerAloneLosesTheRightsOfOthers) {
+    EXPECT_TRUE(files.WriteWhole(At("new.ini"), "new", Readers::OwnerAlone));
+    EXPECT_EQ(fs::status(dir / "new.ini").permissions(), kOwnersAlone);
+    WriteBytes(dir / "old.ini", "old");
+    fs::permissions(dir / "old.ini", static_cast<fs::perms>(0644));
+    EXPECT_TRUE(files.WriteWhole(At("old.ini"), "new", Readers::OwnerAlone));
+    EXPECT_EQ(ReadBytes(dir / "old.ini"), "new");
+    EXPECT_EQ(fs::status(dir / "old.ini").permissions(), kOwnersAlone);
+}
+
+TEST_F(NativeFiles, TrustsItsOwnFilesAndThoseOfTheAdministrator) {
+    WriteBytes(dir / "own.ini", "own");
+    EXPECT_TRUE(files.IsTrusted(At("own.ini")));
+    EXPECT_TRUE(files.IsTrusted(At("missing.ini")));
+    EXPECT_TRUE(files.IsTrusted(u"/etc/passwd"));
+    constexpr uid_t kNobody = 65534;
+    if (chown((dir / "own.ini").c_str(), kNobody, static_cast<gid_t>(-1)) == 0 && geteuid() != kNobody) {
+        EXPECT_FALSE(files.IsTrusted(At("own.ini")));
+    }
 }
 
 TEST_F(NativeFiles, ReadsWhatTellsNoSize) {
