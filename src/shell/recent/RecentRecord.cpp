@@ -6,7 +6,7 @@
 #include "common/text/CodePage.h"
 #include "common/text/Lines.h"
 #include "context/App.h"
-#include "context/StandardMessages.h"
+#include "context/WriteStateFile.h"
 #include "context/exchange/StateFiles.h"
 #include "platform/FileSystem.h"
 
@@ -31,7 +31,9 @@ TextView PathInRecord(TextView entry) {
 }
 
 void RecentRecord::Read(App& app) {
-    const auto bytes = app.Files().ReadAll(app.Exchange<StateFiles>().RecFilePath);
+    const Text& path = app.Exchange<StateFiles>().RecFilePath;
+    if (!app.Files().IsTrusted(path)) return;
+    const auto bytes = app.Files().ReadAll(path);
     if (!bytes) return;
     LineReader lines(bytes->View(), LineEnds::CrLfOrCr);
     std::string_view line;
@@ -40,19 +42,11 @@ void RecentRecord::Read(App& app) {
 }
 
 void RecentRecord::Write(App& app) const {
-    StateFiles& files = app.Exchange<StateFiles>();
-    DeleteFileQuietly(app, files.RecFilePath);
-    const auto file = app.Files().OpenPrivate(files.RecFilePath);
-    if (file == nullptr) {
-        ShowCannotAccess(app, files.RecFilePath);
-        return;
-    }
     std::string bytes;
     for (std::size_t i = 1; i <= kEntries; ++i) {
         if (!RecentEntries[i].empty()) bytes += app.Page().ToBytes(RecentEntries[i]) + "\r\n";
     }
-    file->Write(bytes);
-    file->Close();
+    WriteStateFile(app, app.Exchange<StateFiles>().RecFilePath, bytes);
 }
 
 void RecentRecord::AddToRecent(TextView path, int offset, const DateTime& now) {

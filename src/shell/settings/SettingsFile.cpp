@@ -6,6 +6,7 @@
 #include "common/text/Lines.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
+#include "context/WriteStateFile.h"
 #include "context/exchange/StateFiles.h"
 #include "platform/FileSystem.h"
 
@@ -67,8 +68,10 @@ Text SettingsToRead(const FileSystem& files, TextView own) {
 }
 
 void ReadSettings(App& app) {
-    const Text path = SettingsToRead(app.Files(), app.Exchange<StateFiles>().IniFilePath);
-    if (!app.Files().FileExists(path)) {
+    const Text& own = app.Exchange<StateFiles>().IniFilePath;
+    const Text path = SettingsToRead(app.Files(), own);
+    const bool planted = path == own && !app.Files().IsTrusted(own);
+    if (planted || !app.Files().FileExists(path)) {
         ShowCannotLoad(app, path);
         return;
     }
@@ -85,16 +88,8 @@ void ReadSettings(App& app) {
 }
 
 void WriteSettings(App& app) {
-    StateFiles& files = app.Exchange<StateFiles>();
-    DeleteFileQuietly(app, files.IniFilePath);
     TakeCurrentDir(app);
-    const auto file = app.Files().OpenPrivate(files.IniFilePath);
-    if (file == nullptr) {
-        ShowCannotAccess(app, files.IniFilePath);
-        return;
-    }
-    file->Write(AllLines(app.Settings, app.Page()));
-    file->Close();
+    WriteStateFile(app, app.Exchange<StateFiles>().IniFilePath, AllLines(app.Settings, app.Page()));
 }
 
 } // namespace korvane

@@ -206,8 +206,7 @@ TEST_F(RecentRecordTest, SaysWhenItCannotBeWritten) {
                    MessageIcon::Stop},
                   Answer::Ok);
     record.Write(t.app);
-    // The old record had been deleted before.
-    EXPECT_EQ(Written(), "(none)");
+    EXPECT_EQ(Written(), "old\r\n");
 }
 
 } // namespace

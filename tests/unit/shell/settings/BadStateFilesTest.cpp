@@ -205,21 +205,42 @@ TEST_F(BadState, ReadOnlyFilesAreToldAndStay) {
     EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
 }
 
-// Kept for compatibility: cut-files-are-silent.
-TEST_F(BadState, AFullDiskCutsTheFilesInSilenceAndTheNextStartReadsWhatThereIs) {
+TEST_F(BadState, OnAFullDiskTheEndTellsOfBothFilesAndTheOldOnesStay) {
+    const std::string before = p.FileBytes(kIni);
     p.files.SetFreeBytes(20);
     Start();
+    ExpectCannotSave(kIni, u"No space left on device");
+    ExpectCannotSave(kRec, u"No space left on device");
     Exit();
-    EXPECT_EQ(p.FileBytes(kIni).size(), 20u);
-    EXPECT_EQ(p.FileBytes(kRec), "");
-    p.EndProcess();
+    EXPECT_EQ(p.FileBytes(kIni), before);
+    EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
+}
 
-    TestProgram next;
-    next.files.AddFile(kIni, p.FileBytes(kIni));
-    next.files.AddFile(kRec, "");
-    next.Start();
-    EXPECT_EQ(next.app.Settings.CurDirAtSave, u"C:\\");
-    EXPECT_EQ(next.Main().Parts().recents.RecentNext, 1);
+class FailingStep : public BadState, public testing::WithParamInterface<FileStep> {};
+
+TEST_P(FailingStep, IsToldAndLeavesTheOldSettings) {
+    const std::string before = p.FileBytes(kIni);
+    Start();
+    p.files.Faults().FailNth(GetParam(), 1, u"Input/output error");
+    ExpectCannotSave(kIni, u"Input/output error");
+    Exit();
+    EXPECT_EQ(p.FileBytes(kIni), before);
+    EXPECT_TRUE(p.FileBytes(kRec).starts_with(kRecordOfTable));
+}
+
+INSTANTIATE_TEST_SUITE_P(OfAWrite, FailingStep,
+                         testing::Values(FileStep::OpenToWrite, FileStep::Write, FileStep::Close,
+                                         FileStep::Rename),
+                         [](const auto& step) { return std::to_string(static_cast<int>(step.param)); });
+
+TEST_F(BadState, ARecordOfAnotherUserIsNeitherReadNorWritten) {
+    p.files.SetForeign(kRec);
+    Start();
+    EXPECT_EQ(p.Main().Parts().recents.RecentNext, 2);
+    p.user.Answer(Answer::Ok);
+    Exit();
+    EXPECT_TRUE(p.user.Messages().back().text.starts_with(u"Cannot save this file :\r\n\r\n" + kRec));
+    EXPECT_EQ(p.FileBytes(kRec), "D:\\Data\\Old.tbx | 0*2025.01.02   03:04\r\n");
 }
 
 } // namespace

@@ -241,7 +241,7 @@ TEST_F(SettingsFile, IsForItsOwnersEyesOnlyAsItHoldsAPassword) {
     EXPECT_TRUE(t.files.IsPrivate(kIni));
 }
 
-TEST_F(SettingsFile, AFileThatCannotBeWrittenIsToldAndTheOldOneIsGone) {
+TEST_F(SettingsFile, AFileThatCannotBeWrittenIsToldAndTheOldOneStays) {
     t.files.AddFile(kIni, "old");
     t.files.Faults().FailNth(FileStep::OpenToWrite, 1, u"Disk full");
     t.user.Answer(
@@ -250,7 +250,30 @@ TEST_F(SettingsFile, AFileThatCannotBeWrittenIsToldAndTheOldOneIsGone) {
          MessageIcon::Stop},
         Answer::Ok);
     WriteSettings(t.app);
-    EXPECT_FALSE(t.files.FileExists(kIni));
+    EXPECT_EQ(t.files.Contents(kIni), "old");
+}
+
+class SettingsOfAnother : public SettingsFile {
+protected:
+    SettingsOfAnother() {
+        t.files.AddFile(kIni, OneLine(3, "5"));
+        t.files.SetForeign(kIni);
+    }
+};
+
+TEST_F(SettingsOfAnother, AreNotRead) {
+    t.user.Answer(Answer::Ok);
+    ReadSettings(t.app);
+    EXPECT_EQ(settings.MainLeft, 0);
+    EXPECT_TRUE(t.user.Messages().at(0).text.starts_with(u"Cannot load the following file:"));
+}
+
+TEST_F(SettingsOfAnother, DoNotGetThePassword) {
+    settings.ReturnPassword = u"secret";
+    t.user.Answer(Answer::Ok);
+    WriteSettings(t.app);
+    EXPECT_EQ(t.files.Contents(kIni), OneLine(3, "5"));
+    EXPECT_TRUE(t.user.Messages().at(0).text.starts_with(u"Cannot save this file :"));
 }
 
 TEST_F(SettingsFile, TheCurrentDirectoryIsTakenAtTheMomentOfSaving) {
