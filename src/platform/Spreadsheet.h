@@ -24,8 +24,9 @@ public:
     virtual void SetColumnWidth(TextView column, int characters) = 0;
     /// Fills the cell with a colour of the palette, numbered from 1 to 56.
     virtual void SetInteriorColorIndex(TextView cell, int index) = 0;
-    /// Writes the workbook to a file. `format` is the number of a file format.
-    virtual void SaveAs(TextView path, int format) = 0;
+    /// Writes the workbook to a file. `format` is the number of a file format. False when the file can't be
+    /// written.
+    virtual bool SaveAs(TextView path, int format) = 0;
     /// Shows the application to the user, who goes on in the workbook.
     virtual void MakeVisible() = 0;
 };

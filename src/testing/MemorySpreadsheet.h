@@ -13,7 +13,8 @@ namespace korvane {
 class MemorySpreadsheet final : public Spreadsheet {
 public:
     /// The steps outlive the application.
-    explicit MemorySpreadsheet(std::vector<std::string>& steps) : steps_(steps) {}
+    explicit MemorySpreadsheet(std::vector<std::string>& steps, bool saves = true)
+        : steps_(steps), saves_(saves) {}
 
     void AddWorkbook() override { Note(u"add workbook"); }
     bool SelectRange(TextView cell) override {
@@ -28,8 +29,9 @@ public:
     void SetInteriorColorIndex(TextView cell, int index) override {
         Note(u"colour of " + Text(cell) + u" " + NumberText(index));
     }
-    void SaveAs(TextView path, int format) override {
+    bool SaveAs(TextView path, int format) override {
         Note(u"save " + Text(path) + u" as " + NumberText(format));
+        return saves_;
     }
     void MakeVisible() override { Note(u"visible"); }
 
@@ -37,6 +39,7 @@ private:
     void Note(const Text& step) { steps_.push_back(ToUtf8(step)); }
 
     std::vector<std::string>& steps_;
+    bool saves_;
 };
 
 } // namespace korvane

@@ -48,6 +48,8 @@ public:
     std::vector<std::string> spreadsheetSteps;
     /// Whether the spreadsheet application can be started.
     bool hasSpreadsheet = true;
+    /// Whether it can write files.
+    bool spreadsheetSaves = true;
     /// Runs before a grid is made.
     std::function<void()> beforeGrid = [] {};
     App app{{files, user, clipboard, clock, screen, shell, instance, user, [this] { return MakeGrid(); },
@@ -66,7 +68,7 @@ private:
     }
     std::unique_ptr<Spreadsheet> StartSpreadsheet() {
         if (!hasSpreadsheet) return nullptr;
-        return std::make_unique<MemorySpreadsheet>(spreadsheetSteps);
+        return std::make_unique<MemorySpreadsheet>(spreadsheetSteps, spreadsheetSaves);
     }
 };
 

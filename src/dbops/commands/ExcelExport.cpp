@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/FileChooser.h"
+#include "context/StandardMessages.h"
 #include "context/ports/SystemFileDialog.h"
 #include "dbops/rules/Rows.h"
 #include "dbops/windows/frmChooseRange.h"
@@ -81,7 +82,7 @@ void Export(const TabContext& tab, const Text& path) {
     excel->AddWorkbook();
     PutHeader(*excel, tab.table.GridStore());
     PutRows(*excel, tab.app, tab.table.GridStore());
-    excel->SaveAs(path, kNormalWorkbook);
+    if (!excel->SaveAs(path, kNormalWorkbook)) ShowCannotAccess(tab.app, path);
     excel->SelectRange(u"A1");
     excel->MakeVisible();
 }

@@ -10,6 +10,21 @@ namespace {
 constexpr int kWidestColumn = 255;
 constexpr int kPaletteColours = 56;
 
+/// What a file will have.
+class BytesInMemory final : public FileWriter {
+public:
+    bool Write(std::string_view bytes) override {
+        all_ += bytes;
+        return true;
+    }
+    bool Close() override { return true; }
+
+    const std::string& All() const { return all_; }
+
+private:
+    std::string all_;
+};
+
 } // namespace
 
 void XlsSpreadsheet::AddWorkbook() {
@@ -41,19 +56,15 @@ void XlsSpreadsheet::SetInteriorColorIndex(TextView cell, int index) {
     book_->SetFill(*place, static_cast<xls::U8>(index));
 }
 
-void XlsSpreadsheet::SaveAs(TextView path, int format) {
-    if (!book_ || format != kNormalWorkbook) return;
-    if (Write(path)) savedAs_ = files_.FullPath(path);
+bool XlsSpreadsheet::SaveAs(TextView path, int format) {
+    if (!book_ || format != kNormalWorkbook || !Write(path)) return false;
+    savedAs_ = files_.FullPath(path);
+    return true;
 }
 
 bool XlsSpreadsheet::Write(TextView path) const {
-    const auto file = files_.OpenRaw(path);
-    if (!file) return false;
-    const bool written = xls::WriteXls(*book_, *file);
-    const bool closed = file->Close();
-    if (written && closed) return true;
-    files_.Remove(path);
-    return false;
+    BytesInMemory bytes;
+    return xls::WriteXls(*book_, bytes) && files_.WriteWhole(path, bytes.All());
 }
 
 void XlsSpreadsheet::MakeVisible() {

@@ -21,9 +21,10 @@ public:
     void SetActiveCellValue(TextView value) override;
     void SetColumnWidth(TextView column, int characters) override;
     void SetInteriorColorIndex(TextView cell, int index) override;
-    /// Only `kNormalWorkbook` is known. A file that can't be written completely is removed. The file opens at
-    /// "A1", whichever cell is active, because callers go there only after the save.
-    void SaveAs(TextView path, int format) override;
+    /// Only `kNormalWorkbook` is known. A file that was there stays as it was when the new one can't be
+    /// written. The file opens at "A1", whichever cell is active, because callers go there only after the
+    /// save.
+    bool SaveAs(TextView path, int format) override;
     /// Nothing happens unless the workbook was saved.
     void MakeVisible() override;
 

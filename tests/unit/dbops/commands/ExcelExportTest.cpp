@@ -250,6 +250,14 @@ TEST_F(ExcelExport, TicksColoursAndFontsDoNotGoOut) {
     EXPECT_EQ(t.spreadsheetSteps, withLooks);
 }
 
+TEST_F(ExcelExport, AFileThatCannotBeWrittenIsTold) {
+    t.spreadsheetSaves = false;
+    dialog.whileOpen = [this] { t.user.Answer(Answer::Ok); };
+    Run();
+    EXPECT_TRUE(t.user.Messages().back().text.starts_with(u"Cannot save this file :\r\n\r\n"));
+    EXPECT_EQ(t.user.Messages().back().icon, MessageIcon::Stop);
+}
+
 TEST_F(ExcelExport, TakesTheHourglassBackAlsoAfterAFailure) {
     t.screen.QueueMessage(&FailInHandler);
     EXPECT_THROW(Run(), HandlerFailure);

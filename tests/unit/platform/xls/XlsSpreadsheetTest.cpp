@@ -134,14 +134,16 @@ TEST_F(XlsSpreadsheetTest, AFileThatCannotBeOpenedIsNotShown) {
     EXPECT_THAT(shell.Opened(), IsEmpty());
 }
 
-TEST_F(XlsSpreadsheetTest, AFileThatWasNotWrittenWholeDoesNotStay) {
-    for (const FileStep step : {FileStep::Write, FileStep::Close}) {
+TEST_F(XlsSpreadsheetTest, ASaveThatFailsLeavesTheOldFile) {
+    files.AddFile(kPath, "old");
+    for (const FileStep step : {FileStep::OpenToWrite, FileStep::Write, FileStep::Close, FileStep::Rename}) {
         excel.AddWorkbook();
         files.Faults().FailNth(step, 1);
-        excel.SaveAs(kPath, kNormalWorkbook);
+        EXPECT_FALSE(excel.SaveAs(kPath, kNormalWorkbook));
         excel.MakeVisible();
-        EXPECT_FALSE(files.FileExists(kPath));
+        EXPECT_EQ(files.Contents(kPath), "old");
     }
+    EXPECT_TRUE(excel.SaveAs(kPath, kNormalWorkbook));
     EXPECT_THAT(shell.Opened(), IsEmpty());
 }
 
