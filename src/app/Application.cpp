@@ -4,6 +4,7 @@
 
 #include <QIcon>
 #include <exception>
+#include <new>
 
 namespace korvane {
 
@@ -19,6 +20,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
+    } catch (const std::bad_alloc&) {
+        qWarning("A command was given up: there isn't enough memory");
+        return false;
     } catch (const std::exception& error) {
         // The command that failed has no effect, and the program goes on.
         qWarning("A handler failed: %s", error.what());

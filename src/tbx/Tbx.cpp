@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <new>
 #include <optional>
 
 namespace korvane {
@@ -48,7 +49,12 @@ public:
         std::string fault = OptionFault();
         if (fault.empty()) fault = OperandFault();
         if (fault.empty()) fault = ReadOptions();
-        return fault.empty() ? verb_.run(call_, environment_) : Fail(environment_, fault);
+        if (!fault.empty()) return Fail(environment_, fault);
+        try {
+            return verb_.run(call_, environment_);
+        } catch (const std::bad_alloc&) {
+            return Fail(environment_, "there isn't enough memory");
+        }
     }
 
 private:

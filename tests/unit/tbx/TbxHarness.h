@@ -4,6 +4,7 @@
 #include "testing/MemoryClock.h"
 #include "testing/MemoryFileSystem.h"
 
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,6 +23,9 @@ public:
     /// The file from which the standard input is read; empty for none.
     Text inputFile;
 
+    /// Whether the memory isn't enough for the standard input.
+    bool memoryIsFull = false;
+
     /// The outputs of the last run.
     std::string out;
     std::string err;
@@ -32,7 +36,7 @@ public:
         Environment environment{files,
                                 outBytes,
                                 errBytes,
-                                [this] { return input; },
+                                [this] { return ReadInput(); },
                                 page,
                                 keptFolder,
                                 [this](TextView path) { return files.IsSame(inputFile, path); }};
@@ -42,6 +46,12 @@ public:
         out = outBytes.Bytes();
         err = errBytes.Bytes();
         return status;
+    }
+
+private:
+    std::optional<std::string> ReadInput() const {
+        if (memoryIsFull) throw std::bad_alloc();
+        return input;
     }
 };
 

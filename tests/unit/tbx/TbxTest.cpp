@@ -155,5 +155,10 @@ TEST_F(Tbx, ALoadThatStoppedIsToldAndAProblem) {
     EXPECT_EQ(run.err, "");
 }
 
+TEST_F(Tbx, SaysSoWhenTheMemoryIsNotEnough) {
+    run.memoryIsFull = true;
+    ExpectRefusal({"dump", "-"}, "there isn't enough memory");
+}
+
 } // namespace
 } // namespace korvane
