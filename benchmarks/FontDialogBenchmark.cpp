@@ -6,6 +6,7 @@
 #include "context/App.h"
 #include "controls/Form.h"
 #include "controls/TextControl.h"
+#include "grid/Grid.h"
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/services/QtFonts.h"
