@@ -1,5 +1,7 @@
 #include "platform/qt/lists/TilesAdaptor.h"
 
+#include "platform/qt/lists/TilesDelegate.h"
+
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
@@ -15,6 +17,7 @@ constexpr int kLeastSize = 8;
 TilesAdaptor::TilesAdaptor(Tiles& tiles, QTableView& widget)
     : AdaptorOf(tiles, widget), model_(*new TilesModel(tiles, &widget)) {
     widget.setModel(&model_);
+    widget.setItemDelegate(new TilesDelegate(&widget));
     LayOut();
     ListenToUser();
 }
