@@ -23,12 +23,8 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QDir>
 #include <QFile>
 #include <QFontDatabase>
-#include <QListView>
-#include <QTemporaryDir>
-#include <QVBoxLayout>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -137,22 +133,34 @@ void Measure(const char* what, int rounds, Stage& stage, const Make& make) {
     Print(what, times);
 }
 
+/// A window of the program with nothing in it, of the size of the others.
 void MeasureEmptyDialog(int rounds) {
+    static constexpr FormEntry kForms[] = {{"frmEmpty", [] {
+                                                auto dialog = std::make_unique<QDialog>();
+                                                dialog->resize(620, 520);
+                                                return std::unique_ptr<QWidget>(std::move(dialog));
+                                            }}};
+    QtFormHost forms{kForms};
     Times times;
     for (int round = 0; round < rounds; ++round) {
-        std::unique_ptr<QDialog> dialog;
+        Form form(forms, "frmEmpty", u"");
         times.Add([&] {
-            dialog = std::make_unique<QDialog>();
-            dialog->resize(620, 520);
-            dialog->show();
+            form.Show();
             Settle();
-            dialog->repaint();
+            forms.WidgetOf(form)->repaint();
         });
-        dialog->close();
+        form.Close();
         Settle();
     }
     Print("an empty dialog", times);
 }
+
+/// The window with its controls and nothing in them.
+class UnfilledTable final : public frmASCIIBox {
+public:
+    using frmASCIIBox::frmASCIIBox;
+    void Load() override {}
+};
 
 void MeasureScrolling(int rounds, Stage& stage) {
     Times times;
@@ -185,11 +193,16 @@ int main(int argc, char** argv) {
     QApplication::setStyle(new CalmStyle);
     const ManyFonts fonts;
     Stage stage;
+    // All windows have the size of the empty one.
+    stage.app.Settings.AsciiWidth = 620 * kTwipsPerPixel;
+    stage.app.Settings.AsciiHeight = 520 * kTwipsPerPixel;
     PrintHead();
     Measure("the font dialog, first opening", 1, stage,
             [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
     MeasureEmptyDialog(rounds);
     Measure("the font dialog", rounds, stage, [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
+    Measure("the table of characters before it is filled", rounds, stage,
+            [&] { return std::make_unique<UnfilledTable>(stage.app, stage.target); });
     Measure("the table of characters", rounds, stage,
             [&] { return std::make_unique<frmASCIIBox>(stage.app, stage.target); });
     MeasureScrolling(rounds, stage);
