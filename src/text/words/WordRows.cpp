@@ -32,7 +32,9 @@ void WordRows::Clear() {
 
 void WordRows::Add(TextView word) {
     index_.Add(word);
-    list_.Add({u"K_" + NumberText(list_.Count() + 1), {Text(word)}});
+    row_.key = u"K_" + NumberText(list_.Count() + 1);
+    row_.texts.front() = word;
+    list_.Add(row_);
 }
 
 void WordRows::Show(const std::vector<Text>& words) {

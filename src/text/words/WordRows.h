@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
+#include "controls/ListRow.h"
 #include "text/words/WordIndex.h"
 
 #include <vector>
@@ -38,6 +39,8 @@ private:
     void Clear();
 
     ListView& list_;
+    /// The row that is added just now; kept so that not each row asks for memory.
+    ListRow row_{.texts = {Text()}};
     WordIndex index_;
 };
 
