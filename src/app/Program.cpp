@@ -7,7 +7,6 @@
 #include "context/ports/FavouriteFolders.h"
 #include "context/ports/FilePicker.h"
 #include "context/ports/FileViewer.h"
-#include "context/ports/PageViewer.h" "context/ports/FontPicker.h"
 #include "context/ports/PictureFiles.h"
 #include "context/ports/SystemFileDialog.h"
 #include "context/ports/SystemFontDialog.h"
