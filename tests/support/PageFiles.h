@@ -19,6 +19,7 @@ public:
 
     std::optional<doc::ReadResult> Load(TextView, int) override { return std::nullopt; }
     TextSaving Save(TextView, int, const doc::Document&) override { return TextSaving::NotMade; }
+    Text Needed(int, FileUse) const override { return {}; }
     std::optional<doc::ReadResult> Read(std::string_view bytes, int format) override {
         return format == TextFormat::Html ? doc::ReadHtml(bytes)
                                           : doc::ReadPlain(bytes, CodePage::Windows1252());

@@ -43,6 +43,14 @@ int OpenToRead(const std::filesystem::path&) {
     return 7;
 }
 
+int OpenPlainToRead(const std::filesystem::path&) {
+    return 7;
+}
+
+int CreateNew(const std::filesystem::path&, const std::optional<FileRights>&) {
+    return 7;
+}
+
 int OpenToWrite(const std::filesystem::path&, const std::optional<FileRights>&) {
     return 7;
 }
