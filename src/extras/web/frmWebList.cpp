@@ -398,6 +398,7 @@ void frmWebList::MoveTextsDownFrom(int row) {
 
 void frmWebList::AddItem() {
     if (RefusedInGroups()) return;
+    Reject();
     {
         const UpdateScope update(ListView1);
         const int added = AddRow({}, {});
@@ -432,6 +433,8 @@ void frmWebList::DeleteItems() {
     const int count = InGroups() ? int{lstGroup.ListIndex() >= 0} : ListView1.SelectedCount();
     if (count == 0) return Inform(app_, u"No items checked.");
     if (!AskYesNo(app_, u"Delete " + NumberText(count) + u" items from list ? ", YesNoDefault::No)) return;
+    // What is in the fields must not be written over another entry.
+    Reject();
     ListDirty = 1;
     if (InGroups()) return DeleteGroup();
     const UpdateScope update(ListView1);
@@ -499,7 +502,9 @@ void frmWebList::ShowGroups(bool shown) {
 }
 
 void frmWebList::EmptyGroups() {
-    if (AskYesNo(app_, u"Empty list now?")) lstGroup.Clear();
+    if (!AskYesNo(app_, u"Empty list now?")) return;
+    Reject();
+    lstGroup.Clear();
 }
 
 // ---- Keys and places ------------------------------------------------------------------------------------

@@ -141,6 +141,27 @@ TEST_F(WebListEditingTest, DeletedRowsStayUntilTheNextReading) {
     InWindow([](frmWebList& f) { EXPECT_THAT(Names(f), ElementsAre(u"B")); });
 }
 
+TEST_F(WebListEditingTest, ADeletionClosesTheFieldsOfAnEntry) {
+    InWindow([this](frmWebList& f) {
+        f.OfficeMenu1.Choose("mnuEditItem");
+        t.user.Answer(Answer::Yes);
+        f.OfficeMenu1.Choose("mnuDelete");
+        EXPECT_FALSE(f.Frame1.Visible);
+        EXPECT_THAT(Names(f), ElementsAre(u"---", u"B", u"C"));
+    });
+}
+
+TEST_F(WebListEditingTest, NewFieldsTakeThePlaceOfThoseThatAreOpen) {
+    InWindow([](frmWebList& f) {
+        f.OfficeMenu1.Choose("mnuEditItem");
+        f.txtName.Text = u"x";
+        f.OfficeMenu1.Choose("mnuAddItem");
+        EXPECT_TRUE(f.Frame1.Visible);
+        EXPECT_EQ(f.txtName.Text.Get(), u"");
+        EXPECT_THAT(Names(f), ElementsAre(u"", u"A", u"B", u"C"));
+    });
+}
+
 TEST_F(WebListEditingTest, NothingIsDeletedWithoutAYes) {
     InWindow([this](frmWebList& f) {
         t.user.Answer(Answer::No);
