@@ -110,6 +110,15 @@ TEST_F(WallpaperWindowTest, AKeyAsksAndOnlyTheRightPasswordOpens) {
     EXPECT_FALSE(form.Shown());
 }
 
+TEST_F(WallpaperWindowTest, AKeyAsksAlsoWhileTheBarHasTheFocus) {
+    Open(QSize(60, 40), u"1");
+    Window().findChild<QMenuBar*>()->setFocus();
+    ASSERT_NE(Window().focusWidget(), nullptr);
+    Answer("Secret");
+    QTest::keyClick(&Window(), Qt::Key_A);
+    EXPECT_FALSE(form.Shown());
+}
+
 TEST_F(WallpaperWindowTest, AClickOnThePictureAsks) {
     Open(QSize(60, 40), u"1");
     Answer("Secret");

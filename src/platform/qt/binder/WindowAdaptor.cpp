@@ -154,7 +154,8 @@ void WindowAdaptor::TakeDrop(QEvent& event) {
 
 bool WindowAdaptor::KeyPressed(const QKeyEvent& event) {
     KeyEvent key = ToKeyEvent(event);
-    if (window_.focusWidget() == nullptr) form_->KeyDown(key);
+    // A window that keeps the keyboard for itself gets all keys, whatever part of it has the focus.
+    if (window_.focusWidget() == nullptr || QWidget::keyboardGrabber() == &window_) form_->KeyDown(key);
     if (key.consumed || form_ == nullptr) return true;
     if (key.mask == Mask::None && PressButtonFor(key.code)) return true;
     // Qt's dialog would close at Esc and search for a button at Return by itself.
