@@ -181,8 +181,17 @@ void frmHoldWordList::Load() {
 
 void frmHoldWordList::Unload() {
     RebuildBuffer();
-    if (State().WordListAutoSave == 1 && !State().fileUnread) WriteListFile();
+    if (State().WordListAutoSave == 1) SaveAtClosing();
     StorePlace(app_, *this, kPlace);
+}
+
+/// A file that couldn't be read keeps what is in it.
+void frmHoldWordList::SaveAtClosing() {
+    if (!State().fileUnread) {
+        WriteListFile();
+    } else if (lstWordList.Count() > 0) {
+        Warn(app_, u"Can't open file: " + app_.Settings.WordListFile);
+    }
 }
 
 void frmHoldWordList::FitPlace() {
@@ -211,6 +220,7 @@ void frmHoldWordList::RebuildBuffer() {
 
 void frmHoldWordList::LoadListFile() {
     const Text& file = app_.Settings.WordListFile;
+    State().fileUnread = false;
     if (file.empty() || !app_.Files().FileExists(file)) return;
     auto lines = ReadListFile(app_, file, kLargestWordList);
     State().fileUnread = !lines;

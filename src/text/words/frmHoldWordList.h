@@ -53,6 +53,7 @@ private:
     /// The list stays as it is when its file can't be read.
     void LoadListFile();
     bool WriteListFile();
+    void SaveAtClosing();
 
     void mnuInfo_Click();
     void mnuLoad_Click();

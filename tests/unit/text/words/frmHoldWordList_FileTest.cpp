@@ -65,6 +65,16 @@ TEST_F(WordListFile, ABinaryFileIsNoList) {
     EXPECT_THAT(Listed(), IsEmpty());
 }
 
+TEST_F(WordListFile, AutosaveTellsOfWordsThatItLeavesUnsaved) {
+    HaveFile("one\r\n");
+    Have({u"collected"});
+    State().WordListAutoSave = 1;
+    t.files.Faults().FailNth(FileStep::OpenToRead, 1);
+    ExpectUnread(Text(kFile));
+    Open([this](frmHoldWordList&) { ExpectUnread(Text(kFile)); });
+    EXPECT_EQ(Written(Text(kFile)), "one\r\n");
+}
+
 TEST_F(WordListFile, AutosaveLeavesAFileThatCouldNotBeRead) {
     const std::string_view program("MZ\0\1", 4);
     HaveFile(program);
