@@ -238,12 +238,20 @@ void TextEditing::SetFontName(TextView name) {
 }
 
 int TextEditing::FontSize() const {
-    return (First().format.halfPoints + 1) / kHalfPoints;
+    return (FontHalfPoints() + 1) / kHalfPoints;
 }
 
 void TextEditing::SetFontSize(int points) {
-    if (points > 0)
-        Apply({.halfPoints = static_cast<std::uint16_t>(std::min(points, kMostPoints) * kHalfPoints)});
+    SetFontHalfPoints(std::min(points, kMostPoints) * kHalfPoints);
+}
+
+int TextEditing::FontHalfPoints() const {
+    return First().format.halfPoints;
+}
+
+void TextEditing::SetFontHalfPoints(int halfPoints) {
+    if (halfPoints > 0)
+        Apply({.halfPoints = static_cast<std::uint16_t>(std::min(halfPoints, kMostPoints * kHalfPoints))});
 }
 
 int TextEditing::BaseLine() const {

@@ -72,6 +72,9 @@ public:
     void SetFontName(TextView name);
     int FontSize() const;
     void SetFontSize(int points);
+    /// The same exactly.
+    int FontHalfPoints() const;
+    void SetFontHalfPoints(int halfPoints);
     int FontBold() const { return FlagOf(&CharFormat::bold); }
     void SetFontBold(int on) { Apply({.bold = on != 0}); }
     int FontItalic() const { return FlagOf(&CharFormat::italic); }

@@ -15,10 +15,10 @@ void ControlTarget::WriteIn(TextView font, int size, TextView text) {
 void ControlTarget::WriteOnceIn(TextView font, int size, TextView text) {
     const doc::Step together(control_.Store());
     const Text nameBefore = control_.FontName();
-    const int sizeBefore = control_.FontSize();
+    const int sizeBefore = control_.FontHalfPoints();
     WriteIn(font, size, text);
     control_.SetFontName(nameBefore);
-    control_.SetFontSize(sizeBefore);
+    control_.SetFontHalfPoints(sizeBefore);
 }
 
 void BoxTarget::WriteIn(TextView font, int size, TextView text) {

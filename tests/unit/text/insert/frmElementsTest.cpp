@@ -49,6 +49,14 @@ TEST_F(ElementsTest, AShapeComesInItsFontAndLeavesTheFontOfTheCursor) {
     EXPECT_EQ(FontAt(2), (FontSpec{u"Georgia", 11}));
 }
 
+TEST_F(ElementsTest, TheSizeOfTheCursorIsKeptToTheHalfPoint) {
+    control.SetFontHalfPoints(21);
+    Open(&target);
+    window->lstShapes.Select(4);
+    window->cmdAccept1.Press();
+    EXPECT_EQ(control.FontHalfPoints(), 21);
+}
+
 TEST_F(ElementsTest, ASymbolComesInTheSizeThatIsChosen) {
     Open(&target);
     window->lstSymbols.Select(1);
