@@ -349,7 +349,8 @@ void frmViewEditField::cmdFont_Click() {
                                                         : 0;
     attrs = {};
     if (!font) return;
-    settings.ViewEditFontStyle = static_cast<std::int16_t>(style);
+    if (app_.Exchange<FontChoice>().FontNoChange == 0)
+        settings.ViewEditFontStyle = static_cast<std::int16_t>(style);
     settings.ViewEditFontName = font->name;
     settings.ViewEditFontSize = static_cast<std::int16_t>(font->size);
     transit.FieldFontBold = font->bold ? 1 : 0;

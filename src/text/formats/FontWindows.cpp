@@ -104,10 +104,16 @@ std::optional<FontSpec> FontWindows::Choose(const FontSpec& present) {
 
 std::optional<ColourPair> FontWindows::Choose(const ColourPair& present) {
     Settings& settings = app_.Settings;
+    const auto lastA = settings.ColourChoiceA;
+    const auto lastB = settings.ColourChoiceB;
     settings.ColourChoiceA = present.fore.value;
     settings.ColourChoiceB = present.back.value;
     frmSetForegroundColour(app_).ShowModal();
-    if (app_.DialogResult != 1) return std::nullopt;
+    if (app_.DialogResult != 1) {
+        settings.ColourChoiceA = lastA;
+        settings.ColourChoiceB = lastB;
+        return std::nullopt;
+    }
     return ColourPair{Colour{settings.ColourChoiceA}, Colour{settings.ColourChoiceB}};
 }
 

@@ -283,6 +283,11 @@ TEST_F(ViewEditField, TheFontDialogTellsWhetherFieldsAreRaised) {
     EXPECT_EQ(picker.before[FontAttr::Superscript], 1);
     EXPECT_EQ(t.app.Settings.ViewEditFontStyle, 2);
     EXPECT_EQ(picker.choice.FontAttrs[FontAttr::Subscript], 0);
+
+    t.app.Settings.ViewEditFontStyle = 1;
+    picker.choice.FontNoChange = 1;
+    editor.cmdFont.Press();
+    EXPECT_EQ(t.app.Settings.ViewEditFontStyle, 1);
 }
 
 // Kept for compatibility: help-note-on-fields.

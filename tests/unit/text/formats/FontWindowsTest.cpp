@@ -230,6 +230,9 @@ TEST_F(FontWindowsTest, ThePairOfColoursIsGivenOut) {
     EXPECT_EQ(windows.Choose(ColourPair{{1}, {2}}), (ColourPair{{255}, {0xFFFFFF}}));
     t.user.On<frmSetForegroundColour>([](frmSetForegroundColour& colours) { colours.cmdCancel.Press(); });
     EXPECT_EQ(windows.Choose(ColourPair{{1}, {2}}), std::nullopt);
+    // The colours that were chosen last are still those of the first time.
+    EXPECT_EQ(t.app.Settings.ColourChoiceA, 255);
+    EXPECT_EQ(t.app.Settings.ColourChoiceB, 0xFFFFFF);
 }
 
 TEST_F(FontWindowsTest, TheToolsWriteIntoTheText) {
