@@ -18,8 +18,8 @@ enum class SearchUse : std::uint8_t { Find, Replace };
 /// Finds a text in a text control, and replaces it. Modal.
 class frmTextSearch : public Form {
 public:
-    /// The App, the control and `last` outlive the window. `last` is what was looked for before, and keeps
-    /// what is looked for now.
+    /// The App, the control and `last` outlive the window. `last` is the search that the window proposes,
+    /// and keeps the one that the user makes.
     frmTextSearch(App& app, TextControl& target, SearchUse use, TextSearch& last);
 
     TextBox txtFind{*this, "txtFind"};
