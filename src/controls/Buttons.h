@@ -9,6 +9,10 @@ namespace korvane {
 /// A box that holds 1 (ticked) or 0. `Click` fires whenever the value changes, also when the program sets it.
 class CheckBox : public Control {
 public:
+    /// The value of a box for several things of which only some are ticked. A press ticks it, and no press
+    /// leads back.
+    static constexpr std::int16_t kMixed = 2;
+
     CheckBox(Form& owner, std::string_view name, TextView caption = {}, TextView toolTip = {});
 
     /// "&" marks the mnemonic.

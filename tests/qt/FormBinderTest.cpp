@@ -205,6 +205,21 @@ TEST_F(FormBinderTest, ACheckBoxFollowsAndLeads) {
     EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(FormBinderTest, ABoxOfWhichOnlySomeAreTickedIsHalfTickedUntilAClick) {
+    auto& box = Widget<QCheckBox>("chkYes");
+    form.chkYes.Value = CheckBox::kMixed;
+    EXPECT_EQ(box.checkState(), Qt::PartiallyChecked);
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&box)->state().checkStateMixed);
+    for (const int value : {1, 0, 1}) {
+        box.click();
+        EXPECT_EQ(form.chkYes.Value, value);
+        EXPECT_EQ(box.checkState(), value == 1 ? Qt::Checked : Qt::Unchecked);
+    }
+    form.chkYes.Value = CheckBox::kMixed;
+    form.chkYes.Value = 0;
+    EXPECT_EQ(box.checkState(), Qt::Unchecked);
+}
+
 TEST_F(FormBinderTest, OptionsAreRadioButtonsAmongWhichTheArrowsChoose) {
     auto& one = Widget<QRadioButton>("optOne");
     auto& two = Widget<QRadioButton>("optTwo");

@@ -193,6 +193,32 @@ TYPED_TEST_P(TextEditingContract, AMixedSelectionTellsTheFirstCharacter) {
     EXPECT_EQ(this->control.FontSize(), 20);
 }
 
+TYPED_TEST_P(TextEditingContract, ASelectionTellsWhetherItsCharactersDiffer) {
+    this->control.SetAll(u"ab\r\ncd");
+    const auto differs = [this] {
+        return std::array{this->control.FontNameDiffers(), this->control.FontSizeDiffers(),
+                          this->control.BaseLineDiffers()};
+    };
+    this->Select(0, 6);
+    EXPECT_EQ(differs(), (std::array{false, false, false}));
+    this->Select(4, 1);
+    this->control.SetFontName(u"Calibri");
+    this->Select(0, 6);
+    EXPECT_EQ(differs(), (std::array{true, false, false}));
+    this->control.SetFontName(u"Calibri");
+    this->Select(5, 1);
+    this->control.SetFontHalfPoints(21);
+    this->Select(0, 6);
+    EXPECT_EQ(differs(), (std::array{false, true, false}));
+    this->control.SetFontSize(12);
+    this->Select(0, 1);
+    this->control.SetBaseLine(72);
+    this->Select(0, 6);
+    EXPECT_EQ(differs(), (std::array{false, false, true}));
+    this->Select(3, 0);
+    EXPECT_EQ(differs(), (std::array{false, false, false}));
+}
+
 TYPED_TEST_P(TextEditingContract, AFormatAtTheCursorIsForWhatIsWrittenNext) {
     this->control.SetSelText(u"a");
     this->control.SetFontBold(1);
@@ -593,11 +619,12 @@ REGISTER_TYPED_TEST_SUITE_P(
     WritingReplacesTheSelectionAndLeavesTheCursorBehind, AnEdgeWithinALineEndMovesOutward,
     ManySmallChangesKeepTheText, AChangeIsReported, AnotherSelectionIsReported, EveryCallIsUndoneByItself,
     AStepIsUndoneAsOne, FormatsApplyToTheSelection, AMixedSelectionTellsTheFirstCharacter,
-    AFormatAtTheCursorIsForWhatIsWrittenNext, AFormatAtTheCursorGoesWhenTheCursorMoves,
-    WrittenTextLooksLikeTheOneBeforeIt, FormatsOfParagraphsApplyToAllThatAreTouched,
-    LinesAreApartByAPercentageOrExactly, FourteenTabsAreSetAndCleared, FramesKeepTheirBits,
-    ThePageHasItsSizes, FormattedTextGoesFromOneSelectionToAnother, AnEmptySelectionHasNoFormattedText,
-    AWholeDocumentComesBack, ATableIsFilledByItsCells, ATableIsRefusedWithinATable, CellsHaveAttributes,
+    ASelectionTellsWhetherItsCharactersDiffer, AFormatAtTheCursorIsForWhatIsWrittenNext,
+    AFormatAtTheCursorGoesWhenTheCursorMoves, WrittenTextLooksLikeTheOneBeforeIt,
+    FormatsOfParagraphsApplyToAllThatAreTouched, LinesAreApartByAPercentageOrExactly,
+    FourteenTabsAreSetAndCleared, FramesKeepTheirBits, ThePageHasItsSizes,
+    FormattedTextGoesFromOneSelectionToAnother, AnEmptySelectionHasNoFormattedText, AWholeDocumentComesBack,
+    ATableIsFilledByItsCells, ATableIsRefusedWithinATable, CellsHaveAttributes,
     ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater, AFieldWithoutTextGoesWhenTheCursorMoves,
     FieldsFollowEachOtherInTheText, TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
     AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField, AFieldMayHaveSeveralLines,

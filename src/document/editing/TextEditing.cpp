@@ -14,6 +14,12 @@ constexpr int kHalfPoints = 2;
 constexpr int kMostPoints = 1638;
 constexpr std::int32_t kLongest = 1'000'000;
 
+int BaseLineOf(const CharFormat& format) {
+    // Letters that a file only calls raised have no length. A third of their size is what they look like.
+    return format.script == Script::Normal ? format.baseLine
+                                           : static_cast<int>(format.script) * format.halfPoints * 10 / 3;
+}
+
 /// The delta with what the other one says over it.
 CharDelta Joined(CharDelta delta, const CharDelta& over) {
     const auto take = [](auto& target, const auto& value) {
@@ -219,6 +225,31 @@ int TextEditing::FlagOf(bool CharFormat::*flag) const {
     return on && off ? kMixed : on ? 1 : 0;
 }
 
+bool TextEditing::Differs(const std::function<bool(const Look&, const Look&)>& same) const {
+    std::optional<Look> first;
+    bool differs = false;
+    store_->Runs(start_, end_, [&](Pos, std::size_t, const Look& look) {
+        if (!first) first = look;
+        differs = differs || !same(*first, look);
+    });
+    return differs;
+}
+
+bool TextEditing::FontNameDiffers() const {
+    return Differs([](const Look& one, const Look& other) { return one.font == other.font; });
+}
+
+bool TextEditing::FontSizeDiffers() const {
+    return Differs(
+        [](const Look& one, const Look& other) { return one.format.halfPoints == other.format.halfPoints; });
+}
+
+bool TextEditing::BaseLineDiffers() const {
+    return Differs([](const Look& one, const Look& other) {
+        return BaseLineOf(one.format) == BaseLineOf(other.format);
+    });
+}
+
 void TextEditing::Apply(const CharDelta& delta) {
     if (start_ == end_) {
         pending_ = Joined(pending_, delta);
@@ -255,10 +286,7 @@ void TextEditing::SetFontHalfPoints(int halfPoints) {
 }
 
 int TextEditing::BaseLine() const {
-    const CharFormat format = First().format;
-    // Letters that a file only calls raised have no length. A third of their size is what they look like.
-    return format.script == Script::Normal ? format.baseLine
-                                           : static_cast<int>(format.script) * format.halfPoints * 10 / 3;
+    return BaseLineOf(First().format);
 }
 
 void TextEditing::ChangeParas(const std::function<void(ParaFormat&)>& change) {

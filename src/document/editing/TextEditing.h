@@ -68,6 +68,11 @@ public:
     bool Redo() { return Travel(&TextStore::Redo); }
 
     // Characters: of the selection, or of what is written next at the cursor.
+    // Whether the characters of the selection have several fonts, sizes or places above the line. The values
+    // themselves are those of the first one.
+    bool FontNameDiffers() const;
+    bool FontSizeDiffers() const;
+    bool BaseLineDiffers() const;
     Text FontName() const;
     void SetFontName(TextView name);
     int FontSize() const;
@@ -193,6 +198,8 @@ private:
     };
 
     int FlagOf(bool CharFormat::*flag) const;
+    /// Whether what this tells of a look differs within the selection.
+    bool Differs(const std::function<bool(const Look& one, const Look& other)>& same) const;
     Look First() const;
     /// The look of the first character of the stretch, or of what is written there.
     Look LookIn(Pos from, Pos to) const;

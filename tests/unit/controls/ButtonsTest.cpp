@@ -60,9 +60,13 @@ TEST_F(ButtonsTest, AnotherChangeOfACheckBoxIsNoClick) {
 }
 
 TEST_F(ButtonsTest, APressTicksABoxThatHoldsNeitherOneNorNought) {
-    box.Value = 7;
-    box.Press();
-    EXPECT_EQ(box.Value, 1);
+    for (const std::int16_t value : {std::int16_t{7}, CheckBox::kMixed}) {
+        box.Value = value;
+        box.Press();
+        EXPECT_EQ(box.Value, 1);
+        box.Press();
+        EXPECT_EQ(box.Value, 0);
+    }
 }
 
 TEST_F(ButtonsTest, ABoxOrOptionThatIsDisabledOrHiddenCannotBePressed) {

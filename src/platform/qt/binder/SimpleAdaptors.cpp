@@ -4,6 +4,7 @@
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/FinishTyping.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -79,8 +80,17 @@ CheckBoxAdaptor::CheckBoxAdaptor(CheckBox& box, QAbstractButton& widget) : Adapt
 
 void CheckBoxAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption) widget_.setText(ToQString(control_.Caption.Get()));
-    if (aspect == Aspect::Value) widget_.setChecked(control_.Value == 1);
+    if (aspect == Aspect::Value) WriteValue();
     AdaptorOf::Write(aspect);
+}
+
+void CheckBoxAdaptor::WriteValue() {
+    const bool mixed = control_.Value == CheckBox::kMixed;
+    if (auto* box = qobject_cast<QCheckBox*>(&widget_)) {
+        box->setTristate(mixed);
+        if (mixed) return box->setCheckState(Qt::PartiallyChecked);
+    }
+    widget_.setChecked(control_.Value == 1);
 }
 
 OptionAdaptor::OptionAdaptor(OptionButton& option, QAbstractButton& widget) : AdaptorOf(option, widget) {

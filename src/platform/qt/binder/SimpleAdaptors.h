@@ -41,6 +41,9 @@ public:
 
 protected:
     void Write(Aspect aspect) override;
+
+private:
+    void WriteValue();
 };
 
 /// The options of a group are beside each other in one widget. The arrow keys choose among them.
