@@ -113,6 +113,8 @@ void frmFindString::ShowOptions() {
     chkCase.Value = Flag(settings.FindOptionB == 1);
     chkWholeWord.Value = Flag(settings.FindOptionC == 1);
     txtWordDelimiters.Text = settings.WordDelimiters;
+    // No delimiters are no change of the box.
+    if (chkWholeWord.Value == 1) BuildDelimiterTable();
 }
 
 void frmFindString::TakeOptions() {

@@ -350,6 +350,15 @@ TEST_F(FindWords, OtherDelimitersCountAtOnceAndStay) {
     EXPECT_EQ(t.app.Settings.WordDelimiters, u"+");
 }
 
+TEST_F(FindWords, WithoutDelimitersThoseThatAlwaysCountAreThere) {
+    t.app.Settings.WordDelimiters.clear();
+    t.app.Exchange<WordEnds>().DelimiterTable.fill(true);
+    Open(u"", [this](frmFindString&) {
+        EXPECT_TRUE(IsDelimiter(' '));
+        EXPECT_FALSE(IsDelimiter('.'));
+    });
+}
+
 TEST_F(FindWords, CaseCountsWhenTheBoxIsTicked) {
     Open(u"a One, one.", [this](frmFindString& f) {
         EXPECT_EQ(Find(f, u"one"), (Selection{7, 3}));
