@@ -339,18 +339,14 @@ void frmViewEditField::cmdFont_Click() {
     if (RefusedForAll() || picker == nullptr) return;
     Settings& settings = app_.Settings;
     FieldInTransit& transit = app_.Exchange<FieldInTransit>();
-    auto& attrs = app_.Exchange<FontChoice>().FontAttrs;
+    FontChoice& choice = app_.Exchange<FontChoice>();
+    auto& attrs = choice.FontAttrs;
     attrs[FontAttr::Superscript] = settings.ViewEditFontStyle == kRaised ? 1 : 0;
     attrs[FontAttr::Subscript] = settings.ViewEditFontStyle == kLowered ? 1 : 0;
     const auto font =
         picker->Choose({settings.ViewEditFontName, settings.ViewEditFontSize, transit.FieldFontBold == 1});
-    const int style = attrs[FontAttr::Superscript] == 1 ? kRaised
-                      : attrs[FontAttr::Subscript] == 1 ? kLowered
-                                                        : 0;
-    attrs = {};
     if (!font) return;
-    if (app_.Exchange<FontChoice>().FontNoChange == 0)
-        settings.ViewEditFontStyle = static_cast<std::int16_t>(style);
+    if (choice.FontNoChange == 0) settings.ViewEditFontStyle = choice.FontBaseStyle;
     settings.ViewEditFontName = font->name;
     settings.ViewEditFontSize = static_cast<std::int16_t>(font->size);
     transit.FieldFontBold = font->bold ? 1 : 0;

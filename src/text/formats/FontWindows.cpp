@@ -12,6 +12,8 @@
 #include "text/formats/frmSetForegroundColour.h"
 #include "text/insert/InsertWindows.h"
 
+#include <utility>
+
 namespace korvane {
 
 namespace {
@@ -20,18 +22,36 @@ std::int16_t Flag(bool on) {
     return on ? 1 : 0;
 }
 
-std::array<std::int16_t, FontAttr::Count> AttrsOf(const TextControl& control) {
-    return {Flag(control.FontBold() == 1),      Flag(control.FontItalic() == 1),
-            Flag(control.FontUnderline() == 1), Flag(control.FontStrikethru() == 1),
-            Flag(control.BaseLine() > 0),       Flag(control.BaseLine() < 0)};
+/// An attribute of characters, and how it is read and set.
+struct Attribute {
+    std::size_t flag;
+    int (TextControl::*read)() const;
+    void (TextControl::*set)(int);
+};
+
+constexpr Attribute kAttributes[] = {
+    {FontAttr::Bold, &TextControl::FontBold, &TextControl::SetFontBold},
+    {FontAttr::Italic, &TextControl::FontItalic, &TextControl::SetFontItalic},
+    {FontAttr::Underline, &TextControl::FontUnderline, &TextControl::SetFontUnderline},
+    {FontAttr::Strikethru, &TextControl::FontStrikethru, &TextControl::SetFontStrikethru},
+};
+
+/// What differs within the selection is told as nothing, which leaves it as it is.
+void Describe(const TextControl& control, FontChoice& choice) {
+    for (const auto& [flag, read, set] : kAttributes)
+        choice.FontAttrs[flag] = static_cast<std::int16_t>((control.*read)());
+    const int offset = control.BaseLineDiffers() ? 0 : control.BaseLine();
+    choice.FontAttrs[FontAttr::Superscript] = Flag(offset > 0);
+    choice.FontAttrs[FontAttr::Subscript] = Flag(offset < 0);
+    choice.FontInits = {control.FontNameDiffers() ? Text(kNoFont) : control.FontName(),
+                        control.FontSizeDiffers() ? u"0" : NumberText(control.FontHalfPoints() / 2.0)};
 }
 
 /// Neither flag leaves the characters where they are. Kept for compatibility: offset-goes-by-button-alone.
 void ApplyAttrs(TextControl& control, const FontChoice& choice, int offset) {
-    control.SetFontBold(choice.FontAttrs[FontAttr::Bold]);
-    control.SetFontItalic(choice.FontAttrs[FontAttr::Italic]);
-    control.SetFontUnderline(choice.FontAttrs[FontAttr::Underline]);
-    control.SetFontStrikethru(choice.FontAttrs[FontAttr::Strikethru]);
+    for (const auto& [flag, read, set] : kAttributes) {
+        if (choice.FontAttrs[flag] != TextControl::kMixed) (control.*set)(choice.FontAttrs[flag]);
+    }
     if (choice.FontAttrs[FontAttr::Superscript] == 1) control.SetBaseLine(offset);
     if (choice.FontAttrs[FontAttr::Subscript] == 1) control.SetBaseLine(-offset);
 }
@@ -94,11 +114,12 @@ std::optional<FontSpec> FontWindows::Choose(const FontSpec& present) {
     choice.FontInits = {present.name.empty() ? Text(kNoFont) : present.name, NumberText(present.size)};
     choice.FontAttrs[FontAttr::Bold] = Flag(present.bold);
     frmQuickNameSize(app_).ShowModal();
+    const auto chosenAttrs = std::exchange(choice.FontAttrs, {});
     if (choice.FontAccepted != 1) return std::nullopt;
     FontSpec chosen = present;
     if (!choice.FontNameChosen.empty()) chosen.name = choice.FontNameChosen;
     if (choice.FontSizeChosen > 0) chosen.size = choice.FontSizeChosen;
-    if (choice.FontNoChange == 0) chosen.bold = choice.FontAttrs[FontAttr::Bold] == 1;
+    if (choice.FontNoChange == 0) chosen.bold = chosenAttrs[FontAttr::Bold] == 1;
     return chosen;
 }
 
@@ -119,8 +140,7 @@ std::optional<ColourPair> FontWindows::Choose(const ColourPair& present) {
 
 bool FontWindows::ChooseFont(TextControl& target) {
     FontChoice& choice = app_.Exchange<FontChoice>();
-    choice.FontAttrs = AttrsOf(target);
-    choice.FontInits = {target.FontName(), NumberText(target.FontSize())};
+    Describe(target, choice);
     frmQuickNameSize(app_).ShowModal();
     const bool accepted = choice.FontAccepted == 1;
     if (accepted) ApplyChoice(target, choice, app_.Settings);

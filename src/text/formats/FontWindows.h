@@ -17,8 +17,8 @@ public:
     FontWindows& operator=(const FontWindows&) = delete;
     ~FontWindows() override;
 
-    /// The flags of `FontChoice` for raised and lowered characters are those of the caller, before and
-    /// afterwards.
+    /// The caller can set the flags of `FontChoice` for raised and lowered characters. What was chosen of
+    /// them is its `FontBaseStyle`.
     std::optional<FontSpec> Choose(const FontSpec& present) override;
     std::optional<ColourPair> Choose(const ColourPair& present) override;
 

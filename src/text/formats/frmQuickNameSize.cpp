@@ -52,6 +52,12 @@ int RowOf(const ListBox& list, const Text& text) {
     return -1;
 }
 
+/// What the list doesn't have comes into it.
+void TakeRow(ListBox& list, const Text& text) {
+    if (RowOf(list, text) < 0) list.AddItem(text);
+    list.SetListIndex(RowOf(list, text));
+}
+
 /// The row of what the caller has, or that of the last time where he has nothing. What isn't in the list any
 /// more is not changed.
 void SelectFirst(ListBox& list, const Text& present, int last) {
@@ -142,7 +148,7 @@ void frmQuickNameSize::ShowFirst() {
     SelectFirst(lstSize, choice.FontInits[1], settings.FontDialogOptionB);
     lstAttr.SetListIndex(std::clamp<int>(choice.FontStyleIndex, 0, lstAttr.ListCount() - 1));
     for (std::size_t attr = 0; attr < FontAttr::Count; ++attr)
-        (this->*Tables::kTicks[attr]).Value = choice.FontAttrs[attr] == 1 ? 1 : 0;
+        (this->*Tables::kTicks[attr]).Value = choice.FontAttrs[attr];
     chkNoChange.Value = choice.FontNoChange;
     const auto* const offset = std::ranges::find_if(
         kOffsets, [&settings](TextView text) { return NumberOf(text) == settings.MarkupOption; });
@@ -168,6 +174,13 @@ int frmQuickNameSize::ChosenSize() const {
     return NumberOf(lstSize.List(lstSize.ListIndex()));
 }
 
+/// The size of the choice, or the present one, which may be one that the list doesn't have; 0 when there is
+/// neither.
+int frmQuickNameSize::ShownHalfPoints() const {
+    if (ChosenSize() > 0) return ChosenSize() * 2;
+    return static_cast<int>(RoundHalfEven(Val(Choice().FontInits[1]) * 2));
+}
+
 /// The font of the choice, or the present one; empty when there is neither.
 Text frmQuickNameSize::ShownName() const {
     const Text& present = Choice().FontInits[0];
@@ -176,7 +189,7 @@ Text frmQuickNameSize::ShownName() const {
 }
 
 Text frmQuickNameSize::SampleText() const {
-    const bool large = ChosenSize() >= kLarge;
+    const bool large = ShownHalfPoints() >= kLarge * 2;
     const Text text(large ? kSample.substr(0, kSample.find(u'\r')) : kSample);
     switch (lstAttr.ListIndex()) {
     case StyleRow::kUppercase:
@@ -197,7 +210,7 @@ void frmQuickNameSize::ShowSample() {
     txtSample.SetAll(SampleText());
     txtSample.SetSelection(0, -1);
     if (!ShownName().empty()) txtSample.SetFontName(ShownName());
-    if (ChosenSize() > 0) txtSample.SetFontSize(ChosenSize());
+    if (ShownHalfPoints() > 0) txtSample.SetFontHalfPoints(ShownHalfPoints());
     txtSample.SetFontBold(marked && chkBold.Value == 1);
     txtSample.SetFontItalic(marked && chkItalic.Value == 1);
     txtSample.SetFontUnderline(marked && chkUnderline.Value == 1);
@@ -238,21 +251,15 @@ void frmQuickNameSize::cmdColours_Click() {
     ShowSample();
 }
 
-/// A font or size that the lists don't have comes into them.
-void frmQuickNameSize::TakeFont(const Text& name, int size) {
-    if (RowOf(lstName, name) < 0) lstName.AddItem(name);
-    lstName.SetListIndex(RowOf(lstName, name));
-    if (RowOf(lstSize, NumberText(size)) < 0) lstSize.AddItem(NumberText(size));
-    lstSize.SetListIndex(RowOf(lstSize, NumberText(size)));
-}
-
 void frmQuickNameSize::cmdAllFonts_Click() {
     auto* dialog = app_.Port<SystemFontDialog>();
     if (dialog == nullptr) return;
-    const auto font = dialog->Choose({ShownName(), ChosenSize(), chkBold.Value == 1});
+    const FontSpec present{ShownName(), (ShownHalfPoints() + 1) / 2, chkBold.Value == 1};
+    const auto font = dialog->Choose(present);
     if (!font) return;
-    TakeFont(font->name, font->size);
-    chkBold.Value = font->bold ? 1 : 0;
+    if (font->name != present.name) TakeRow(lstName, font->name);
+    if (font->size != present.size) TakeRow(lstSize, NumberText(font->size));
+    if (font->bold != present.bold) chkBold.Value = font->bold ? 1 : 0;
 }
 
 void frmQuickNameSize::cmdApply_Click() {
@@ -263,6 +270,7 @@ void frmQuickNameSize::cmdApply_Click() {
     choice.FontStyleChosen = static_cast<std::int16_t>(lstAttr.ListIndex());
     for (std::size_t attr = 0; attr < FontAttr::Count; ++attr)
         choice.FontAttrs[attr] = (this->*Tables::kTicks[attr]).Value;
+    choice.FontBaseStyle = static_cast<std::int16_t>(chkSuperscript.Value + 2 * chkSubscript.Value);
     choice.FontNoChange = chkNoChange.Value;
     // Also a style that changes the text is chosen again. Kept for compatibility: font-style-comes-again.
     choice.FontStyleIndex = choice.FontStyleChosen;

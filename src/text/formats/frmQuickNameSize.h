@@ -55,9 +55,9 @@ private:
     void ShowFirst();
     void ShowSample();
     int ChosenSize() const;
+    int ShownHalfPoints() const;
     Text ShownName() const;
     Text SampleText() const;
-    void TakeFont(const Text& name, int size);
     void SetLine(int style, int distance, int width);
     void OnText(const std::function<void(App&, TextControl&)>& act);
     FontChoice& Choice() const;

@@ -268,8 +268,8 @@ TEST_F(ViewEditField, TheFontDialogTellsWhetherFieldsAreRaised) {
         explicit Picker(FontChoice& exchange) : choice(exchange) {}
         std::optional<FontSpec> Choose(const FontSpec& present) override {
             before = choice.FontAttrs;
-            choice.FontAttrs[FontAttr::Superscript] = 0;
-            choice.FontAttrs[FontAttr::Subscript] = 1;
+            choice.FontAttrs = {};
+            choice.FontBaseStyle = 2;
             return present;
         }
         FontChoice& choice;
@@ -282,7 +282,6 @@ TEST_F(ViewEditField, TheFontDialogTellsWhetherFieldsAreRaised) {
     editor.cmdFont.Press();
     EXPECT_EQ(picker.before[FontAttr::Superscript], 1);
     EXPECT_EQ(t.app.Settings.ViewEditFontStyle, 2);
-    EXPECT_EQ(picker.choice.FontAttrs[FontAttr::Subscript], 0);
 
     t.app.Settings.ViewEditFontStyle = 1;
     picker.choice.FontNoChange = 1;

@@ -55,6 +55,98 @@ TEST_F(FontWindowsTest, NameSizeAndAttributesGoToTheSelection) {
     EXPECT_EQ(control.FontBold(), 0);
 }
 
+TEST_F(FontWindowsTest, EachAttributeIsReadAndApplied) {
+    struct Row {
+        CheckBox frmQuickNameSize::*tick;
+        int (TextControl::*read)() const;
+        void (TextControl::*set)(int);
+    };
+    static constexpr Row kRows[] = {
+        {&frmQuickNameSize::chkBold, &TextControl::FontBold, &TextControl::SetFontBold},
+        {&frmQuickNameSize::chkItalic, &TextControl::FontItalic, &TextControl::SetFontItalic},
+        {&frmQuickNameSize::chkUnderline, &TextControl::FontUnderline, &TextControl::SetFontUnderline},
+        {&frmQuickNameSize::chkStrikethru, &TextControl::FontStrikethru, &TextControl::SetFontStrikethru},
+    };
+    for (const Row& row : kRows) {
+        (control.*row.set)(1);
+        ChooseFont([&row](frmQuickNameSize& dialog) {
+            for (const Row& other : kRows)
+                EXPECT_EQ((dialog.*other.tick).Value, &other == &row ? 1 : 0);
+            (dialog.*row.tick).Press();
+            dialog.cmdApply.Press();
+        });
+        EXPECT_EQ((control.*row.read)(), 0);
+        ChooseFont([&row](frmQuickNameSize& dialog) {
+            EXPECT_EQ((dialog.*row.tick).Value, 0);
+            (dialog.*row.tick).Press();
+            dialog.cmdApply.Press();
+        });
+        EXPECT_EQ((control.*row.read)(), 1);
+        (control.*row.set)(0);
+    }
+}
+
+TEST_F(FontWindowsTest, WhatDiffersWithinTheSelectionStaysAsItIs) {
+    control.SetFontBold(1);
+    control.SetFontStrikethru(1);
+    control.SetFontName(u"Cambria");
+    control.SetFontHalfPoints(21);
+    control.SetBaseLine(72);
+    control.SetSelection(0, -1);
+    const auto before = control.SelTextRtf();
+    ChooseFont([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.lstName.ListIndex(), 0);
+        EXPECT_EQ(dialog.lstSize.ListIndex(), 0);
+        EXPECT_EQ(dialog.chkBold.Value, CheckBox::kMixed);
+        EXPECT_EQ(dialog.chkStrikethru.Value, CheckBox::kMixed);
+        EXPECT_EQ(dialog.chkItalic.Value, 0);
+        EXPECT_EQ(dialog.chkSuperscript.Value, 0);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.SelTextRtf(), before);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        dialog.chkBold.Press();
+        dialog.chkItalic.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.FontBold(), 1);
+    EXPECT_EQ(control.FontItalic(), 1);
+    EXPECT_EQ(control.FontStrikethru(), TextControl::kMixed);
+    EXPECT_TRUE(control.FontNameDiffers());
+}
+
+TEST_F(FontWindowsTest, ASizeWithAHalfPointStays) {
+    control.SetFontHalfPoints(21);
+    ChooseFont([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.lstSize.ListIndex(), 0);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.FontHalfPoints(), 21);
+}
+
+TEST_F(FontWindowsTest, TheFlagsDontComeToTheNextCaller) {
+    const auto untouched = std::array<std::int16_t, FontAttr::Count>{};
+    control.SetFontItalic(1);
+    ChooseFont([](frmQuickNameSize& dialog) { dialog.cmdCancel.Press(); });
+    EXPECT_EQ(Choice().FontAttrs, untouched);
+    OnDialog([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.chkItalic.Value, 0);
+        dialog.chkItalic.Press();
+        dialog.chkSubscript.Press();
+        dialog.cmdApply.Press();
+    });
+    EXPECT_TRUE(windows.Choose(FontSpec{u"Cambria", 11, true}));
+    EXPECT_EQ(Choice().FontAttrs, untouched);
+    EXPECT_EQ(Choice().FontBaseStyle, 2);
+    OnDialog([](frmQuickNameSize& dialog) {
+        for (const CheckBox* box : {&dialog.chkBold, &dialog.chkItalic, &dialog.chkSubscript})
+            EXPECT_EQ(box->Value, 0);
+        dialog.cmdCancel.Press();
+    });
+    EXPECT_EQ(windows.Choose(FontSpec{u"Cambria", 11}), std::nullopt);
+    EXPECT_EQ(Choice().FontAttrs, untouched);
+}
+
 TEST_F(FontWindowsTest, TheFirstRowsChangeNeitherFontNorSize) {
     ChooseFont([](frmQuickNameSize& dialog) {
         dialog.lstName.Select(0);

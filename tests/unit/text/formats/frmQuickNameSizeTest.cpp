@@ -220,6 +220,41 @@ TEST_F(QuickNameSizeTest, AFontOfTheSystemsDialogComesIntoTheLists) {
     EXPECT_EQ(Choice().FontAttrs[FontAttr::Bold], 1);
 }
 
+TEST_F(QuickNameSizeTest, WhatTheSystemsDialogLeftAloneStaysOpen) {
+    Choice().FontInits = {u"-----", u"10.5"};
+    Choice().FontAttrs[FontAttr::Bold] = CheckBox::kMixed;
+    FakeFontDialog dialog(t.app);
+    Open();
+    dialog.answer = FontSpec{u"", 11, false};
+    window->cmdAllFonts.Press();
+    EXPECT_EQ(dialog.asked, *dialog.answer);
+    EXPECT_EQ(window->lstName.ListIndex(), 0);
+    EXPECT_EQ(window->lstSize.ListIndex(), 0);
+    EXPECT_EQ(window->chkBold.Value, CheckBox::kMixed);
+}
+
+TEST_F(QuickNameSizeTest, ASizeThatTheListDoesntHaveIsShownInTheSample) {
+    Choice().FontInits = {u"Arial", u"10.5"};
+    Open();
+    EXPECT_EQ(window->lstSize.ListIndex(), 0);
+    EXPECT_EQ(Sample().FontHalfPoints(), 21);
+    Choice().FontInits = {u"Arial", u"80"};
+    Open();
+    EXPECT_EQ(Sample().FontSize(), 80);
+    EXPECT_EQ(Sample().All(), u"AaBbCc DdEeFf GgHhIi");
+}
+
+TEST_F(QuickNameSizeTest, ABoxForWhatDiffersIsTickedByItsFirstPress) {
+    Choice().FontAttrs[FontAttr::Italic] = CheckBox::kMixed;
+    Open();
+    EXPECT_EQ(window->chkItalic.Value, CheckBox::kMixed);
+    EXPECT_EQ(Sample().FontItalic(), 0);
+    window->chkItalic.Press();
+    EXPECT_EQ(Sample().FontItalic(), 1);
+    window->chkItalic.Press();
+    EXPECT_EQ(window->chkItalic.Value, 0);
+}
+
 TEST_F(QuickNameSizeTest, AChosenColourIsSeenInTheSample) {
     Open();
     t.user.On<frmSetForegroundColour>([](frmSetForegroundColour& colours) { colours.Close(); });
