@@ -202,9 +202,9 @@ int main(int argc, char** argv) {
     MeasureEmptyDialog(rounds);
     Measure("the font dialog", rounds, stage, [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
     Measure("the table of characters before it is filled", rounds, stage,
-            [&] { return std::make_unique<UnfilledTable>(stage.app, stage.target); });
+            [&] { return std::make_unique<UnfilledTable>(stage.app, &stage.target); });
     Measure("the table of characters", rounds, stage,
-            [&] { return std::make_unique<frmASCIIBox>(stage.app, stage.target); });
+            [&] { return std::make_unique<frmASCIIBox>(stage.app, &stage.target); });
     MeasureScrolling(rounds, stage);
     return 0;
 }

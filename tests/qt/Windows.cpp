@@ -80,7 +80,7 @@ constexpr Window kWindows[] = {
     {"frmAbout", FromApp<frmAbout>},
     {"frmASCIIBox",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmASCIIBox>(all.app, all.insertTarget);
+         return std::make_unique<frmASCIIBox>(all.app, &all.insertTarget);
      }},
     {"frmAskCopyMove",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -103,7 +103,7 @@ constexpr Window kWindows[] = {
     {"frmDupFile", FromApp<frmDupFile>},
     {"frmElements",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmElements>(all.app, nullptr);
+         return std::make_unique<frmElements>(all.app, &all.insertTarget);
      }},
     {"frmEnterFileName",
      [](Surroundings& all) -> std::unique_ptr<Form> {
@@ -197,7 +197,7 @@ constexpr Window kWindows[] = {
     {"frmShowTimer", FromApp<frmShowTimer>},
     {"frmSymbolTables",
      [](Surroundings& all) -> std::unique_ptr<Form> {
-         return std::make_unique<frmSymbolTables>(all.app, all.insertTarget);
+         return std::make_unique<frmSymbolTables>(all.app, &all.insertTarget);
      }},
     {"frmTabWidth", FromApp<frmTabWidth>},
     {"frmTextInsertTable", FromText<frmTextInsertTable>},

@@ -149,15 +149,15 @@ bool FontWindows::ChooseFont(TextControl& target) {
 }
 
 void FontWindows::ShowUnicode(TextControl& target) {
-    ShowSymbolTables(app_, target);
+    ShowSymbolTables(app_, &target);
 }
 
 void FontWindows::ShowCharacters(TextControl& target) {
-    korvane::ShowCharacters(app_, target);
+    korvane::ShowCharacters(app_, &target);
 }
 
 void FontWindows::ShowElements(TextControl& target) {
-    korvane::ShowElements(app_, target);
+    korvane::ShowElements(app_, &target);
 }
 
 } // namespace korvane

@@ -118,9 +118,9 @@ void frmQuickNameSize::WireButtons() {
     for (CommandButton* button : {&cmdDrawLine, &cmdDrawDoubleLine})
         button->Click = [this] { SetLine(kLine[0], kLine[1], kLine[2]); };
     cmdNoLine.Click = [this] { SetLine(kNoLine[0], kNoLine[1], kNoLine[2]); };
-    cmdShapes.Click = [this] { OnText(ShowElements); };
-    cmdSymbols.Click = [this] { OnText(ShowCharacters); };
-    cmdAllSymbols.Click = [this] { OnText(ShowSymbolTables); };
+    cmdShapes.Click = [this] { ShowElements(app_, ParagraphTarget(app_)); };
+    cmdSymbols.Click = [this] { ShowCharacters(app_, ParagraphTarget(app_)); };
+    cmdAllSymbols.Click = [this] { ShowSymbolTables(app_, ParagraphTarget(app_)); };
     cmdAllFonts.Click = [this] { cmdAllFonts_Click(); };
     cmdApply.Click = [this] { cmdApply_Click(); };
     cmdApply.Default = true;
@@ -160,6 +160,7 @@ void frmQuickNameSize::Load() {
     Choice().FontColourChanged = 0;
     FillLists();
     ShowFirst();
+    EnableLines();
     ready_ = true;
     ShowSample();
     lstName.SetFocus();
@@ -229,12 +230,13 @@ void frmQuickNameSize::cboSubSuper_Click() {
     if (row >= 0) app_.Settings.MarkupOption = static_cast<std::int16_t>(NumberOf(kOffsets[row]));
 }
 
-void frmQuickNameSize::OnText(const std::function<void(App&, TextControl&)>& act) {
-    if (TextControl* const control = ParagraphTarget(app_)) act(app_, *control);
+void frmQuickNameSize::EnableLines() {
+    for (CommandButton* button : {&cmdZeroBaseline, &cmdDrawLine, &cmdDrawDoubleLine, &cmdNoLine})
+        button->Enabled = ParagraphTarget(app_) != nullptr;
 }
 
 void frmQuickNameSize::cmdZeroBaseline_Click() {
-    OnText([](App&, TextControl& control) { control.SetBaseLine(0); });
+    if (TextControl* const control = ParagraphTarget(app_)) control->SetBaseLine(0);
 }
 
 void frmQuickNameSize::SetLine(int style, int distance, int width) {

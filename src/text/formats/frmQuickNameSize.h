@@ -6,8 +6,6 @@
 #include "controls/ListBox.h"
 #include "controls/TextControl.h"
 
-#include <functional>
-
 namespace korvane {
 
 class App;
@@ -59,7 +57,8 @@ private:
     Text ShownName() const;
     Text SampleText() const;
     void SetLine(int style, int distance, int width);
-    void OnText(const std::function<void(App&, TextControl&)>& act);
+    /// What changes the open text can't be used while there is none.
+    void EnableLines();
     FontChoice& Choice() const;
 
     void cboSubSuper_Click();

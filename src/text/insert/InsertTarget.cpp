@@ -21,6 +21,12 @@ void ControlTarget::WriteOnceIn(TextView font, int size, TextView text) {
     control_.SetFontHalfPoints(sizeBefore);
 }
 
+void ControlTarget::WriteStretches(const std::vector<FontStretch>& stretches) {
+    const doc::Step together(control_.Store());
+    for (const auto& [font, text] : stretches)
+        WriteIn(font, 0, text);
+}
+
 void BoxTarget::WriteIn(TextView font, int size, TextView text) {
     FontSpec spec = box_.Font;
     spec.name = Text(font);

@@ -2,10 +2,18 @@
 
 #include "common/text/Text.h"
 
+#include <vector>
+
 namespace korvane {
 
 class TextBox;
 class TextControl;
+
+/// A piece of a text whose characters have one font.
+struct FontStretch {
+    Text font{};
+    Text text{};
+};
 
 /// The text into which the windows put their characters, at its selection.
 class InsertTarget {
@@ -24,6 +32,8 @@ public:
     explicit ControlTarget(TextControl& control) : control_(control) {}
     void WriteIn(TextView font, int size, TextView text) override;
     void WriteOnceIn(TextView font, int size, TextView text) override;
+    /// Writes each in its font. The last font stays.
+    void WriteStretches(const std::vector<FontStretch>& stretches);
 
 private:
     TextControl& control_;

@@ -10,19 +10,27 @@
 
 namespace korvane {
 
-void ShowElements(App& app, TextControl& target) {
-    ControlTarget into(target);
-    frmElements(app, &into).ShowModal();
+namespace {
+
+template <class Window>
+void ShowOn(App& app, TextControl* target) {
+    std::optional<ControlTarget> into;
+    if (target != nullptr) into.emplace(*target);
+    Window(app, into ? &*into : nullptr).ShowModal();
 }
 
-void ShowCharacters(App& app, TextControl& target) {
-    ControlTarget into(target);
-    frmASCIIBox(app, into).ShowModal();
+} // namespace
+
+void ShowElements(App& app, TextControl* target) {
+    ShowOn<frmElements>(app, target);
 }
 
-void ShowSymbolTables(App& app, TextControl& target) {
-    ControlTarget into(target);
-    frmSymbolTables(app, into).ShowModal();
+void ShowCharacters(App& app, TextControl* target) {
+    ShowOn<frmASCIIBox>(app, target);
+}
+
+void ShowSymbolTables(App& app, TextControl* target) {
+    ShowOn<frmSymbolTables>(app, target);
 }
 
 InsertWindows::InsertWindows(App& app) : app_(app) {
@@ -42,7 +50,7 @@ std::optional<Text> InsertWindows::ChooseDateTime() {
 
 void InsertWindows::ShowCharacters(TextBox& target) {
     BoxTarget into(target);
-    frmASCIIBox(app_, into).ShowModal();
+    frmASCIIBox(app_, &into).ShowModal();
 }
 
 void InsertWindows::ShowElements(TextBox& target) {

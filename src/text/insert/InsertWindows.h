@@ -8,10 +8,11 @@ class App;
 class TextControl;
 
 // These show a window that writes at the selection of a formatted text, and return when it has closed.
+// Without a target the window writes nothing.
 
-void ShowElements(App& app, TextControl& target);
-void ShowCharacters(App& app, TextControl& target);
-void ShowSymbolTables(App& app, TextControl& target);
+void ShowElements(App& app, TextControl* target);
+void ShowCharacters(App& app, TextControl* target);
+void ShowSymbolTables(App& app, TextControl* target);
 
 /// Shows the windows that put characters and dates into a plain text.
 class InsertWindows final : public InsertTools {

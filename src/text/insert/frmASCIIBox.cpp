@@ -46,7 +46,7 @@ struct frmASCIIBox::Tables {
     static constexpr WindowKey<Window> kGridKeys[] = {{"Return", &Window::cmdInsert}};
 };
 
-frmASCIIBox::frmASCIIBox(App& app, InsertTarget& target)
+frmASCIIBox::frmASCIIBox(App& app, InsertTarget* target)
     : Form(app.Forms(), "frmASCIIBox", u"Insert symbols / characters"), app_(app), target_(target) {
     cboFont.Click = [this] { Grid1.Font = FontSpec{cboFont.Chosen()}; };
     Grid1.Click = [this] { ShowKeyStroke(Grid1.Current()); };
@@ -54,6 +54,7 @@ frmASCIIBox::frmASCIIBox(App& app, InsertTarget& target)
     Grid1.DblClick = [this] { cmdInsert.Press(); };
     Grid1.KeyDown = KeysOf(*this, Tables::kGridKeys);
     cmdInsert.Click = [this] { cmdInsert_Click(); };
+    cmdInsert.Enabled = target != nullptr;
     cmdMakeDefault.Click = [this] { cmdMakeDefault_Click(); };
 }
 
@@ -104,9 +105,9 @@ void frmASCIIBox::ShowKeyStroke(int code) {
 
 void frmASCIIBox::cmdInsert_Click() {
     // No text can have the character 0.
-    if (Grid1.Current() <= 0) return;
+    if (target_ == nullptr || Grid1.Current() <= 0) return;
     const char16_t character = app_.Page().Decode(static_cast<unsigned char>(Grid1.Current()));
-    target_.WriteIn(cboFont.Chosen(), 0, TextView(&character, 1));
+    target_->WriteIn(cboFont.Chosen(), 0, TextView(&character, 1));
 }
 
 void frmASCIIBox::cmdMakeDefault_Click() {

@@ -14,8 +14,8 @@ class InsertTarget;
 /// The characters of the code page in a font, which are put into a text. Modal.
 class frmASCIIBox : public Form {
 public:
-    /// The App and the target outlive the window.
-    frmASCIIBox(App& app, InsertTarget& target);
+    /// The App and the target outlive the window. Without a target nothing is put in.
+    frmASCIIBox(App& app, InsertTarget* target);
 
     ComboBox cboFont{*this, "cboFont"};
     Tiles Grid1{*this, "Grid1", 16};
@@ -38,7 +38,7 @@ private:
     void cmdMakeDefault_Click();
 
     App& app_;
-    InsertTarget& target_;
+    InsertTarget* target_;
 };
 
 } // namespace korvane

@@ -72,6 +72,8 @@ frmElements::frmElements(App& app, InsertTarget* target)
       target_(target) {
     cmdAccept1.Click = [this] { cmdAccept1_Click(); };
     cmdAccept2.Click = [this] { cmdAccept2_Click(); };
+    for (CommandButton* button : {&cmdAccept1, &cmdAccept2})
+        button->Enabled = target != nullptr;
     lstShapes.DblClick = [this] { cmdAccept1.Press(); };
     lstSymbols.DblClick = [this] { cmdAccept2.Press(); };
     lstShapes.KeyDown = KeysOf(*this, Tables::kShapeKeys);

@@ -14,6 +14,8 @@
 #include "text/insert/InsertTarget.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -34,6 +36,25 @@ int FormatOf(TextView path) {
     return formatted ? FileTypeForLoad(path) : TextFormat::Plain;
 }
 
+/// The ends of paragraphs belong to the stretch before them.
+std::vector<FontStretch> Selected(const TextControl& control) {
+    const auto start = static_cast<std::size_t>(control.SelStart());
+    const std::size_t end = start + static_cast<std::size_t>(control.SelLength());
+    std::vector<std::pair<std::size_t, Text>> fonts;
+    control.Store().Runs(start, end, [&](doc::Pos at, std::size_t, const doc::Look& look) {
+        if (fonts.empty() || fonts.back().second != look.font)
+            fonts.emplace_back(fonts.empty() ? start : at, look.font);
+    });
+    if (fonts.empty()) fonts.emplace_back(start, control.FontName());
+    std::vector<FontStretch> stretches;
+    for (std::size_t i = 0; i < fonts.size(); ++i) {
+        const auto& [from, font] = fonts[i];
+        const std::size_t to = i + 1 < fonts.size() ? fonts[i + 1].first : end;
+        stretches.push_back({font, control.All().substr(from, to - from)});
+    }
+    return stretches;
+}
+
 } // namespace
 
 struct frmSymbolTables::Tables {
@@ -51,7 +72,7 @@ struct frmSymbolTables::Tables {
     static constexpr WindowKey<Window> kTextKeys[] = {{"Return", &Window::mnuInsertSymbol_Click}};
 };
 
-frmSymbolTables::frmSymbolTables(App& app, InsertTarget& target)
+frmSymbolTables::frmSymbolTables(App& app, ControlTarget* target)
     : Form(app.Forms(), "frmSymbolTables", u"Symbol tables"),
       OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app),
@@ -119,8 +140,7 @@ void frmSymbolTables::mnuZoomOut_Click() {
 }
 
 void frmSymbolTables::mnuInsertSymbol_Click() {
-    const Text symbols = ThisTextCtrl.SelText();
-    if (!symbols.empty()) target_.WriteIn(ThisTextCtrl.FontName(), 0, symbols);
+    if (target_ != nullptr && ThisTextCtrl.SelLength() > 0) target_->WriteStretches(Selected(ThisTextCtrl));
 }
 
 } // namespace korvane

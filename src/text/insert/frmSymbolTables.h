@@ -7,13 +7,13 @@
 namespace korvane {
 
 class App;
-class InsertTarget;
+class ControlTarget;
 
 /// A file with symbols, of which some are copied to another text. Modal.
 class frmSymbolTables : public Form {
 public:
-    /// The App and the target outlive the window.
-    frmSymbolTables(App& app, InsertTarget& target);
+    /// The App and the target outlive the window. Without a target nothing is copied.
+    frmSymbolTables(App& app, ControlTarget* target);
 
     Menu OfficeMenu1;
     TextControl ThisTextCtrl{*this, "ThisTextCtrl"};
@@ -35,7 +35,7 @@ private:
     void mnuInsertSymbol_Click();
 
     App& app_;
-    InsertTarget& target_;
+    ControlTarget* target_;
 };
 
 } // namespace korvane

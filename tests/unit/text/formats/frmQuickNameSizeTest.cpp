@@ -167,13 +167,36 @@ TEST_F(QuickNameSizeTest, BothLineButtonsDrawTheSameLine) {
     }
 }
 
-TEST_F(QuickNameSizeTest, ItsButtonsNeedTheTextWindow) {
+TEST_F(QuickNameSizeTest, WithoutATextTheButtonsForLinesAreDisabled) {
+    for (const bool isOpen : {true, false}) {
+        t.app.Exchange<TextWindowState>().TextWindowOpen = isOpen ? 1 : 0;
+        Open();
+        for (const CommandButton* button :
+             {&window->cmdZeroBaseline, &window->cmdDrawLine, &window->cmdDrawDoubleLine, &window->cmdNoLine})
+            EXPECT_EQ(button->Enabled, isOpen);
+    }
+    // The text can go while the window is open.
+    window->cmdDrawLine.Enabled = true;
+    window->cmdDrawLine.Press();
+    window->cmdZeroBaseline.Enabled = true;
+    window->cmdZeroBaseline.Press();
+    EXPECT_FALSE(control.DataChanged());
+}
+
+TEST_F(QuickNameSizeTest, WithoutATextTheToolsOpenAndPutNothingIn) {
     t.app.SetPort<OpenText>(nullptr);
     Open();
-    window->cmdZeroBaseline.Press();
-    window->cmdDrawLine.Press();
+    t.user.On<frmElements>([](frmElements& tool) {
+        EXPECT_FALSE(tool.cmdAccept1.Enabled);
+        tool.Close();
+    });
     window->cmdShapes.Press();
+    t.user.On<frmASCIIBox>([](frmASCIIBox& tool) {
+        EXPECT_FALSE(tool.cmdInsert.Enabled);
+        tool.Close();
+    });
     window->cmdSymbols.Press();
+    t.user.On<frmSymbolTables>([](frmSymbolTables& tool) { tool.Close(); });
     window->cmdAllSymbols.Press();
     EXPECT_FALSE(control.DataChanged());
 }

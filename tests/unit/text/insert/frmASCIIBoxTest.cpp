@@ -9,7 +9,7 @@ namespace {
 
 class ASCIIBoxTest : public InsertStage {
 protected:
-    frmASCIIBox& Open(InsertTarget& into) {
+    frmASCIIBox& Open(InsertTarget* into) {
         window = std::make_unique<frmASCIIBox>(t.app, into);
         window->EnsureLoaded();
         return *window;
@@ -19,7 +19,7 @@ protected:
 };
 
 TEST_F(ASCIIBoxTest, ShowsAllCharactersOfTheCodePage) {
-    Open(target);
+    Open(&target);
     EXPECT_EQ(window->Caption.Get(), u"Insert symbols / characters");
     const auto& tiles = window->Grid1.Items.Get();
     ASSERT_EQ(tiles.size(), 256U);
@@ -34,7 +34,7 @@ TEST_F(ASCIIBoxTest, ShowsAllCharactersOfTheCodePage) {
 }
 
 TEST_F(ASCIIBoxTest, TheLabelTellsTheKeysOfTheCellUnderTheMouse) {
-    Open(target);
+    Open(&target);
     window->Grid1.PointAt(65);
     EXPECT_EQ(window->lblKeyStroke.Caption.Get(), u" Alt+65 ");
     window->Grid1.PointAt(126);
@@ -46,12 +46,12 @@ TEST_F(ASCIIBoxTest, TheLabelTellsTheKeysOfTheCellUnderTheMouse) {
 }
 
 TEST_F(ASCIIBoxTest, TheLabelFollowsTheKeyboardToo) {
-    Open(target).Grid1.Select(66);
+    Open(&target).Grid1.Select(66);
     EXPECT_EQ(window->lblKeyStroke.Caption.Get(), u" Alt+66 ");
 }
 
 TEST_F(ASCIIBoxTest, ACharacterComesInItsFontWhichStays) {
-    Open(target);
+    Open(&target);
     window->cboFont.Select(2);
     EXPECT_EQ(window->Grid1.Font.Get().name, u"Courier New");
     window->Grid1.Select(169);
@@ -62,13 +62,13 @@ TEST_F(ASCIIBoxTest, ACharacterComesInItsFontWhichStays) {
 }
 
 TEST_F(ASCIIBoxTest, APlainBoxTakesTheFontAsAWhole) {
-    Open(boxTarget).Grid1.DoubleClick(65);
+    Open(&boxTarget).Grid1.DoubleClick(65);
     EXPECT_EQ(box.Text.Get(), u"aAb");
     EXPECT_EQ(box.Font.Get(), (FontSpec{u"Arial", 11, true}));
 }
 
 TEST_F(ASCIIBoxTest, ReturnPutsTheCharacterIn) {
-    Open(target).Grid1.Select(65);
+    Open(&target).Grid1.Select(65);
     KeyEvent enter{Key::Return};
     window->Grid1.KeyDown(enter);
     EXPECT_TRUE(enter.consumed);
@@ -76,34 +76,43 @@ TEST_F(ASCIIBoxTest, ReturnPutsTheCharacterIn) {
 }
 
 TEST_F(ASCIIBoxTest, TheCharacter0IsNotPutIn) {
-    Open(target);
+    Open(&target);
     EXPECT_EQ(window->Grid1.Current(), 0);
     window->cmdInsert.Press();
     EXPECT_EQ(control.All(), u"ab");
 }
 
+TEST_F(ASCIIBoxTest, NothingHappensWithoutATarget) {
+    Open(nullptr);
+    EXPECT_FALSE(window->cmdInsert.Enabled);
+    window->Grid1.DoubleClick(65);
+    KeyEvent enter{Key::Return};
+    window->Grid1.KeyDown(enter);
+    EXPECT_EQ(control.All(), u"ab");
+}
+
 TEST_F(ASCIIBoxTest, TheCellIsKept) {
-    Open(target).Grid1.Select(200);
+    Open(&target).Grid1.Select(200);
     window->Close();
     EXPECT_EQ(Choices().AsciiRow, 12);
     EXPECT_EQ(Choices().AsciiCol, 8);
-    EXPECT_EQ(Open(target).Grid1.Current(), 200);
+    EXPECT_EQ(Open(&target).Grid1.Current(), 200);
 }
 
 TEST_F(ASCIIBoxTest, TheDefaultFontIsAnotherOneWhenAsked) {
-    EXPECT_EQ(Open(target).cboFont.Chosen(), u"Arial");
+    EXPECT_EQ(Open(&target).cboFont.Chosen(), u"Arial");
     window->cboFont.Select(1);
     window->Close();
-    EXPECT_EQ(Open(target).cboFont.Chosen(), u"Arial");
+    EXPECT_EQ(Open(&target).cboFont.Chosen(), u"Arial");
     window->cboFont.Select(1);
     window->cmdMakeDefault.Press();
     EXPECT_EQ(Choices().AsciiFontName, u"Cambria");
-    EXPECT_EQ(Open(target).cboFont.Chosen(), u"Cambria");
+    EXPECT_EQ(Open(&target).cboFont.Chosen(), u"Cambria");
 }
 
 TEST_F(ASCIIBoxTest, AFontThatIsGoneIsStillTheDefault) {
     t.fonts.Set({u"DejaVu Sans"});
-    Open(target);
+    Open(&target);
     EXPECT_EQ(window->cboFont.Chosen(), u"Arial");
     EXPECT_EQ(window->cboFont.ListCount(), 2);
     window->Grid1.DoubleClick(65);
@@ -121,7 +130,7 @@ TEST_F(ASCIIBoxTest, KeepsItsPlaceAndClosesWithEsc) {
         KeyEvent escape{Key::Escape};
         shown.KeyDown(escape);
     });
-    frmASCIIBox(t.app, target).ShowModal();
+    frmASCIIBox(t.app, &target).ShowModal();
     EXPECT_EQ(t.app.Settings.AsciiTop, 900);
 }
 

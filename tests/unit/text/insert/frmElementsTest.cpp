@@ -104,7 +104,11 @@ TEST_F(ElementsTest, EveryShapeMeansSomething) {
 
 TEST_F(ElementsTest, NothingHappensWithoutATarget) {
     Open(nullptr);
+    EXPECT_FALSE(window->cmdAccept1.Enabled);
+    EXPECT_FALSE(window->cmdAccept2.Enabled);
     window->lstShapeSize.Select(0);
+    window->OfficeMenu1.Choose("mnuShape");
+    window->OfficeMenu1.Choose("mnuSymbol");
     window->cmdAccept1.Press();
     window->cmdAccept2.Press();
     EXPECT_EQ(Choices().ShapeSizeIndex, 4);

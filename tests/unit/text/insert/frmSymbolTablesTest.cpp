@@ -22,7 +22,7 @@ protected:
     ~SymbolTablesTest() override { t.app.SetPort<TextFiles>(nullptr); }
 
     frmSymbolTables& Open() {
-        window = std::make_unique<frmSymbolTables>(t.app, target);
+        window = std::make_unique<frmSymbolTables>(t.app, &target);
         window->EnsureLoaded();
         return *window;
     }
@@ -92,6 +92,44 @@ TEST_F(SymbolTablesTest, TheSelectionGoesToTheTargetInItsFont) {
     EXPECT_EQ(control.All(), u"twoatwob");
 }
 
+TEST_F(SymbolTablesTest, EachCharacterOfTheSelectionKeepsItsFont) {
+    t.files.AddFile(
+        Text(kRtf),
+        "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Cambria;}}\\f0 one\\f1 two\\par\\f0 three\\f1 four}");
+    t.app.Settings.SymbolListFile = Text(kRtf);
+    Open();
+    window->ThisTextCtrl.SetSelection(2, 12);
+    Choose("mnuInsertSymbol");
+    EXPECT_EQ(control.All(), u"aetwo\r\nthreefb");
+    EXPECT_EQ(FontAt(1).name, u"Arial");
+    EXPECT_EQ(FontAt(2).name, u"Cambria");
+    EXPECT_EQ(FontAt(4).name, u"Cambria");
+    EXPECT_EQ(FontAt(7).name, u"Arial");
+    EXPECT_EQ(FontAt(11).name, u"Arial");
+    EXPECT_EQ(FontAt(12).name, u"Cambria");
+    EXPECT_EQ(FontAt(13), (FontSpec{u"Georgia", 11}));
+    EXPECT_TRUE(control.Undo());
+    EXPECT_EQ(control.All(), u"ab");
+}
+
+TEST_F(SymbolTablesTest, ASelectedLineEndIsCopiedToo) {
+    t.files.AddFile(Text(kRtf), "{\\rtf1 one\\par two}");
+    t.app.Settings.SymbolListFile = Text(kRtf);
+    Open();
+    window->ThisTextCtrl.SetSelection(3, 2);
+    Choose("mnuInsertSymbol");
+    EXPECT_EQ(control.All(), u"a\r\nb");
+}
+
+TEST_F(SymbolTablesTest, NothingIsInsertedWithoutATarget) {
+    t.app.Settings.SymbolListFile = Text(kRtf);
+    frmSymbolTables untargeted(t.app, nullptr);
+    untargeted.EnsureLoaded();
+    untargeted.ThisTextCtrl.SetSelection(0, -1);
+    untargeted.OfficeMenu1.Choose("mnuInsertSymbol");
+    EXPECT_EQ(control.All(), u"ab");
+}
+
 TEST_F(SymbolTablesTest, NothingIsInsertedWithoutASelection) {
     t.app.Settings.SymbolListFile = Text(kRtf);
     Open();
@@ -141,7 +179,7 @@ TEST_F(SymbolTablesTest, TheWindowGoesToTheMiddleOfTheScreen) {
         EXPECT_EQ(shown.Top.Get() - work.top, (work.height.Number() - 2000) / 2);
         shown.OfficeMenu1.Choose("mnuExit");
     });
-    ShowSymbolTables(t.app, control);
+    ShowSymbolTables(t.app, &control);
 }
 
 TEST_F(SymbolTablesTest, KeepsItsPlaceAndClosesWithEsc) {
@@ -155,7 +193,7 @@ TEST_F(SymbolTablesTest, KeepsItsPlaceAndClosesWithEsc) {
         KeyEvent escape{Key::Escape};
         shown.KeyDown(escape);
     });
-    ShowSymbolTables(t.app, control);
+    ShowSymbolTables(t.app, &control);
     EXPECT_EQ(t.app.Settings.SymbolsLeft, 1500);
 }
 
