@@ -35,6 +35,11 @@ TEST(KeysTest, TheKeypadHasDigitsOfItsOwnAndTheSameReturn) {
     EXPECT_EQ(Pressed(Qt::Key_Left, Qt::KeypadModifier).code, Key::Left);
 }
 
+TEST(KeysTest, BothMinusKeysHaveACodeOfTheirOwn) {
+    EXPECT_EQ(Pressed(Qt::Key_Minus).code, 189);
+    EXPECT_EQ(Pressed(Qt::Key_Minus, Qt::KeypadModifier).code, Key::NumMinus);
+}
+
 TEST(KeysTest, TabBackwardsIsTabWithShift) {
     const KeyEvent key = Pressed(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_TRUE(key.Is(Key::Tab, Mask::Shift));

@@ -43,6 +43,21 @@ TEST_F(WordListWindowTest, CollectsTheFirst1024Characters) {
     list.Collect(Text(600, u'a') + u"\n" + Text(1400, u'b'));
 }
 
+TEST_F(WordListWindowTest, TheFirstReadingTakesThePlaceOfWhatIsCollected) {
+    HaveFile("one\r\n");
+    const auto collected = [this] {
+        std::vector<Text> words;
+        t.user.On<frmHoldWordList>([&words](frmHoldWordList& f) {
+            words = WordsIn(f);
+            f.Close();
+        });
+        list.Collect(u"two");
+        return words;
+    };
+    EXPECT_THAT(collected(), ElementsAre(u"one"));
+    EXPECT_THAT(collected(), ElementsAre(u"one", u"two"));
+}
+
 TEST_F(WordListWindowTest, IsThePortAsLongAsItLives) {
     {
         const WordListWindow other(t.app);

@@ -51,6 +51,13 @@ TEST_F(WordListFile, WithoutAFileWhatWasCollectedIsThere) {
     EXPECT_THAT(Listed(), ElementsAre(u"collected"));
 }
 
+TEST_F(WordListFile, AFileThatIsNamedAfterTheFirstOpeningIsNotRead) {
+    Open();
+    EXPECT_EQ(State().WordListLoaded, 1);
+    HaveFile("one\r\n");
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
 TEST_F(WordListFile, AFileThatCannotBeReadLeavesTheListAlone) {
     HaveFile("one\r\n");
     Have({u"collected"});
@@ -145,6 +152,19 @@ TEST_F(WordListFile, TheChooserLeavesTheDirectoryAsItWas) {
     EXPECT_EQ(t.files.CurrentDir(), before);
 }
 
+TEST_F(WordListFile, AListThatIsntThereLeavesTheWordsAndIsTheFileOfTheNextSave) {
+    Have({u"one"});
+    Open([this](frmHoldWordList& f) {
+        t.user.ChooseFile(u"C:\\Korvane\\gone.lst");
+        t.user.Answer(Answer::Yes);
+        f.cmdLoad.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one"));
+        f.cmdSave.Press();
+    });
+    EXPECT_EQ(t.app.Settings.WordListFile, u"C:\\Korvane\\gone.lst");
+    EXPECT_EQ(dialog.requests.back().name, u"gone.lst");
+}
+
 TEST_F(WordListFile, AnotherListThatCannotBeReadLeavesTheWords) {
     Have({u"one"});
     t.files.AddFile(u"C:\\Korvane\\other.lst", std::string_view("\0", 1));
@@ -227,15 +247,28 @@ TEST_F(WordListFile, AutosaveWritesAtEveryClosing) {
     EXPECT_EQ(Written(Text(kFile)), "one\r\ntwo\r\n");
 }
 
-TEST_F(WordListFile, AutosaveWithoutAFileTellsThatItFailed) {
-    Have({u"one"});
+TEST_F(WordListFile, AutosaveWritesAnEmptyListToo) {
+    HaveFile("one\r\n");
     State().WordListAutoSave = 1;
-    t.user.On<frmHoldWordList>([this](frmHoldWordList& f) {
-        t.user.Answer(Answer::Ok);
-        f.cmdCancel.Press();
+    Open([this](frmHoldWordList& f) {
+        t.user.Answer(Answer::Yes);
+        f.cmdClear.Press();
     });
-    EXPECT_EQ(list.Choose(), std::nullopt);
-    EXPECT_TRUE(UnwrittenTold(u"( no name specified or name is empty ! )"));
+    EXPECT_EQ(Written(Text(kFile)), "");
+}
+
+TEST_F(WordListFile, AutosaveWithoutAFileTellsThatItFailed) {
+    for (const std::vector<Text>& words : {std::vector<Text>{u"one"}, std::vector<Text>{}}) {
+        State().WordListBuffer.clear();
+        Have(words);
+        State().WordListAutoSave = 1;
+        t.user.On<frmHoldWordList>([this](frmHoldWordList& f) {
+            t.user.Answer(Answer::Ok);
+            f.cmdCancel.Press();
+        });
+        EXPECT_EQ(list.Choose(), std::nullopt);
+        EXPECT_TRUE(UnwrittenTold(u"( no name specified or name is empty ! )"));
+    }
 }
 
 // A new list.
@@ -278,6 +311,62 @@ TEST_F(WordListFile, ANewListDoesntAskWithoutAFileOrWords) {
         f.cmdNewList.Press();
         EXPECT_EQ(f.lstWordList.Count(), 0);
         f.cmdNewList.Press();
+    });
+}
+
+TEST_F(WordListFile, AutosaveWritesANewListInTheCurrentDirectory) {
+    State().WordListAutoSave = 1;
+    t.files.ChangeDir(u"C:\\Korvane");
+    Open([this](frmHoldWordList& f) {
+        f.cmdNewList.Press();
+        Type(u"two", u"Enter string to put in list.");
+        f.cmdEntry.Press();
+    });
+    EXPECT_EQ(Written(u"C:\\Korvane\\New_WordList.lst"), "two\r\n");
+}
+
+TEST_F(WordListFile, WithoutAFileTheCommandsForItsFolderTakeTheCurrentOne) {
+    const Text lorrit = u"C:\\Drive_G\\Sandrel\\Hadrell\\Lorrit\\Lorrit.exe";
+    t.files.AddFile(lorrit);
+    t.files.ChangeDir(u"C:\\Korvane");
+    Open([this](frmHoldWordList& f) {
+        t.user.Answer(
+            {u"Current \"Word List\" file:\r\nFile:  \r\nFolder:  \r\nItem total:  0\r\nSelected:  0",
+             MessageIcon::Information},
+            Answer::Ok);
+        f.cmdInfo.Press();
+        f.OfficeMenu1.Choose("mnuExplorer");
+        f.OfficeMenu1.Choose("mnuLorrit");
+    });
+    EXPECT_THAT(t.shell.Calls(), ElementsAre(ShellCall{ShellCall::Kind::Explore, u"C:\\Korvane"}));
+    EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{lorrit}));
+}
+
+TEST_F(WordListFile, ACancelLeavesTheDirectoryAsItWas) {
+    Have({u"one"});
+    t.files.AddDir(u"C:\\Else");
+    t.files.AddFile(u"C:\\Else\\other.lst", "three\r\n");
+    const Text before = t.files.CurrentDir();
+    const auto leave = [this] { t.files.ChangeDir(u"C:\\Else"); };
+    dialog.whileOpen = leave;
+    Open([&](frmHoldWordList& f) {
+        const auto cancel = [&](CommandButton frmHoldWordList::*button) {
+            (f.*button).Press();
+            EXPECT_EQ(t.files.CurrentDir(), before);
+        };
+        cancel(&frmHoldWordList::cmdSave);
+        cancel(&frmHoldWordList::cmdAppendToFile);
+        dialog.answer = u"C:\\Else\\other.lst";
+        t.user.Answer(Answer::Cancel);
+        cancel(&frmHoldWordList::cmdAppendToFile);
+        t.user.OnChooser([&](ListerRequest& request) {
+            leave();
+            request.ChosenFilePath = u"C:\\Else\\other.lst";
+        });
+        t.user.Answer(Answer::Cancel);
+        cancel(&frmHoldWordList::cmdLoad);
+        t.user.OnChooser([&](ListerRequest&) { leave(); });
+        cancel(&frmHoldWordList::cmdLoad);
     });
 }
 
@@ -358,6 +447,20 @@ TEST_F(AppendWords, AFileThatCannotBeWrittenIsTold) {
     Append(path, Answer::No);
     EXPECT_TRUE(UnwrittenTold(path));
     t.files.SetDiskReadOnly(false);
+    EXPECT_EQ(Written(path), "old\r\n");
+}
+
+TEST_F(AppendWords, WithoutASelectionNothingIsAppended) {
+    const Text path = u"C:\\Korvane\\notes.txt";
+    t.files.AddFile(path, "old\r\n");
+    dialog.answer = path;
+    Open([&](frmHoldWordList& f) {
+        Pick(f, {});
+        t.user.Answer(Answer::No);
+        t.user.Answer({u"0 items appended to end of this file: \r\n\r\n" + path, MessageIcon::Information},
+                      Answer::Ok);
+        f.cmdAppendToFile.Press();
+    });
     EXPECT_EQ(Written(path), "old\r\n");
 }
 

@@ -41,6 +41,35 @@ TEST_F(WordListWords, HasItsMenu) {
                                 {"mnuExplorer", u"&Windows Explorer"}}));
 }
 
+TEST_F(WordListWords, AMenuEntryPressesItsButton) {
+    static constexpr std::pair<const char*, CommandButton frmHoldWordList::*> kRows[] = {
+        {"mnuInfo", &frmHoldWordList::cmdInfo},
+        {"mnuLoad", &frmHoldWordList::cmdLoad},
+        {"mnuNew", &frmHoldWordList::cmdNewList},
+        {"mnuAppendToFile", &frmHoldWordList::cmdAppendToFile},
+        {"mnuSave", &frmHoldWordList::cmdSave},
+        {"mnuAutoSave", &frmHoldWordList::cmdAutoSave},
+        {"mnuCancel", &frmHoldWordList::cmdCancel},
+        {"mnuInsert", &frmHoldWordList::cmdOk},
+        {"mnuFindString", &frmHoldWordList::cmdFind},
+        {"mnuEdit", &frmHoldWordList::cmdEdit},
+        {"mnuEntry", &frmHoldWordList::cmdEntry},
+        {"mnuDelete", &frmHoldWordList::cmdClear},
+        {"mnuSelectAll", &frmHoldWordList::cmdSelectAll},
+        {"mnuClip", &frmHoldWordList::cmdClip},
+        {"mnuSort", &frmHoldWordList::cmdSort},
+    };
+    frmHoldWordList f(t.app);
+    std::string pressed;
+    for (const auto& [entry, button] : kRows)
+        (f.*button).Click = [&pressed, entry = entry] { pressed += entry; };
+    for (const auto& [entry, button] : kRows) {
+        pressed.clear();
+        f.OfficeMenu1.Choose(entry);
+        EXPECT_EQ(pressed, entry);
+    }
+}
+
 TEST_F(WordListWords, HasItsTips) {
     const frmHoldWordList f(t.app);
     const auto tip = [&f](std::string_view name) { return f.Find(name)->ToolTipText.Get(); };
@@ -62,6 +91,11 @@ TEST_F(WordListWords, HasItsTips) {
 }
 
 // Opening and closing.
+
+TEST_F(WordListWords, BeginsWithTheKeyboardInTheList) {
+    Have({u"one"});
+    Open([](frmHoldWordList& f) { EXPECT_EQ(f.Focused(), &f.lstWordList); });
+}
 
 TEST_F(WordListWords, ShowsEachWordOnceAndNoEmptyOnes) {
     Have({u"one", u"", u"  ", u"One", u"one", u" one"});
@@ -300,6 +334,16 @@ TEST_F(WordListWords, AnEntryIsEdited) {
     EXPECT_THAT(Listed(), ElementsAre(u"one"));
 }
 
+TEST_F(WordListWords, AnEntryThatIsEditedToNothingIsGoneAtTheNextOpening) {
+    Have({u"one", u"two"});
+    Open([this](frmHoldWordList& f) {
+        Type(u"", u"Edit text line as required.", u"one");
+        f.cmdEdit.Press();
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"", u"two"));
+    });
+    EXPECT_THAT(Listed(), ElementsAre(u"two"));
+}
+
 TEST_F(WordListWords, SelectedEntriesAreDeletedAfterAQuestion) {
     Have({u"one", u"two", u"three", u"four"});
     const Message question{u"Delete 2 items from list ?", MessageIcon::Question, MessageButtons::YesNo, 2};
@@ -354,6 +398,17 @@ TEST_F(WordListWords, AnEntryMovesAndTheSelectionFollows) {
         f.OfficeMenu1.Choose("mnuArrowUp");
         EXPECT_THAT(WordsIn(f), ElementsAre(u"two", u"one", u"three"));
         EXPECT_THAT(rows.SelectedRows(), ElementsAre(2));
+    });
+}
+
+TEST_F(WordListWords, OfSeveralSelectedEntriesTheCurrentOneMoves) {
+    Have({u"one", u"two", u"three"});
+    Open([](frmHoldWordList& f) {
+        f.lstWordList.SetCurrent(3);
+        f.lstWordList.SetSelected(1, true);
+        f.OfficeMenu1.Choose("mnuArrowUp");
+        EXPECT_THAT(WordsIn(f), ElementsAre(u"one", u"three", u"two"));
+        EXPECT_THAT(f.lstWordList.SelectedRows(), ElementsAre(2));
     });
 }
 
