@@ -170,6 +170,24 @@ TEST_F(FindStringTest, StoresItsPlaceWithoutAHeight) {
     EXPECT_EQ(t.app.Settings.FindStringWidth, 8000);
 }
 
+TEST_F(FindStringTest, WithoutAStoredPlaceItIsWhollyOnTheScreen) {
+    Open(u"", [](frmFindString& f) {
+        EXPECT_GE(f.Left.Get(), Twips{0});
+        EXPECT_GE(f.Top.Get(), Twips{0});
+        EXPECT_GT(f.Width.Get(), Twips{4000});
+        EXPECT_LE(f.Left.Get().Number() + f.Width.Get().Number(), 30000);
+        EXPECT_LE(f.Top.Get().Number() + f.Height.Get().Number(), 16000);
+    });
+}
+
+TEST_F(FindStringTest, TheTickForWholeWordsIsStoredTwice) {
+    for (const std::int16_t ticked : {std::int16_t{1}, std::int16_t{0}}) {
+        Open(u"", [ticked](frmFindString& f) { f.chkWholeWord.Value = ticked; });
+        EXPECT_EQ(t.app.Settings.FindOptionC, ticked);
+        EXPECT_EQ(t.app.Settings.FindOptionCopy, ticked);
+    }
+}
+
 TEST_F(FindStringTest, AStoredPlaceBesideTheScreenIsMovedBack) {
     t.app.Settings.FindStringLeft = 29000;
     t.app.Settings.FindStringTop = 15000;
@@ -205,6 +223,22 @@ TEST_F(FindStringTest, GoesUpFromTheBeginningOfTheSelection) {
         EXPECT_EQ(FindOn(f), (Selection{0, 3}));
         ExpectNothing(u"one");
         EXPECT_EQ(FindOn(f), (Selection{0, 3}));
+    });
+}
+
+TEST_F(FindStringTest, CaseIsIgnoredUpwardsToo) {
+    t.app.Settings.FindOptionB = 0;
+    Open(u"One \u00C4 one ONE", [this](frmFindString& f) {
+        f.optUp.Press();
+        text.SetSelStart(10);
+        EXPECT_EQ(Find(f, u"oNe"), (Selection{6, 3}));
+        EXPECT_EQ(FindOn(f), (Selection{0, 3}));
+        text.SetSelStart(10);
+        EXPECT_EQ(Find(f, u"\u00E4"), (Selection{4, 1}));
+        f.chkCase.Press();
+        ExpectNothing(u"\u00E4");
+        text.SetSelStart(10);
+        FindOn(f);
     });
 }
 
@@ -275,6 +309,26 @@ protected:
 
 TEST_F(FindWords, AWordStandsBetweenDelimiters) {
     Open(u"stones bone,one.", [this](frmFindString& f) { EXPECT_EQ(Find(f, u"one"), (Selection{12, 3})); });
+}
+
+/// Kept for compatibility: second-place-begins-word.
+TEST_F(FindWords, AtTheSecondPlaceOfTheTextNothingHasToBeInFront) {
+    Open(u"xone xxone.", [this](frmFindString& f) { EXPECT_EQ(Find(f, u"one"), (Selection{1, 3})); });
+    Open(u"xxone.", [this](frmFindString& f) {
+        ExpectNothing(u"one");
+        Find(f, u"one");
+    });
+}
+
+TEST_F(FindWords, TopStartsAgain) {
+    Open(u"one two one.", [this](frmFindString& f) {
+        text.SetSelection(4, 3);
+        EXPECT_EQ(Find(f, u"one"), (Selection{8, 3}));
+        f.OfficeMenu1.Choose("mnuTop");
+        EXPECT_EQ(text.SelStart(), 0);
+        EXPECT_EQ(text.SelLength(), 0);
+        EXPECT_EQ(FindOn(f), (Selection{0, 3}));
+    });
 }
 
 /// Kept for compatibility: word-search-finds-hit-again.
