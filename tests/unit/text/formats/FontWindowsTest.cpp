@@ -189,6 +189,34 @@ TEST_F(FontWindowsTest, NormalClearsTheFormattingAndNothingElseIsDone) {
     EXPECT_EQ(control.BaseLine(), 0);
 }
 
+TEST_F(FontWindowsTest, NormalLeavesTheColoursThatWereChosen) {
+    control.SetFontBold(1);
+    control.SetCharAttributes(TextControl::kSmallCaps);
+    ChooseFont([this](frmQuickNameSize& dialog) {
+        t.user.On<frmSetForegroundColour>(
+            [](frmSetForegroundColour& colours) { colours.lstColourOptions.DoubleClick(7); });
+        dialog.cmdColours.Press();
+        dialog.lstAttr.Select(kNormalRow);
+        dialog.cmdApply.Press();
+    });
+    EXPECT_EQ(control.FontBold(), 0);
+    EXPECT_EQ(control.ForeColor(), Colour{0});
+    EXPECT_EQ(control.TextBkColor(), Colour{0x80FFFF});
+}
+
+TEST_F(FontWindowsTest, ColoursOfACancelledDialogAreNotTaken) {
+    control.SetForeColor(Colour{255});
+    ChooseFont([this](frmQuickNameSize& dialog) {
+        t.user.On<frmSetForegroundColour>(
+            [](frmSetForegroundColour& colours) { colours.lstColourOptions.DoubleClick(7); });
+        dialog.cmdColours.Press();
+        dialog.cmdCancel.Press();
+    });
+    EXPECT_EQ(control.ForeColor(), Colour{255});
+    ChooseFont([](frmQuickNameSize& dialog) { dialog.cmdApply.Press(); });
+    EXPECT_EQ(control.ForeColor(), Colour{255});
+}
+
 TEST_F(FontWindowsTest, RaisedAndLoweredCharactersTakeTheOffset) {
     ChooseFont([](frmQuickNameSize& dialog) {
         dialog.chkSuperscript.Press();

@@ -1,5 +1,6 @@
 #include "text/formats/frmQuickNameSize.h"
 
+#include "common/text/Names.h"
 #include "context/ports/SystemFontDialog.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmElements.h"
@@ -86,6 +87,18 @@ TEST_F(QuickNameSizeTest, TheSampleShowsTheChoice) {
     EXPECT_TRUE(window->txtSample.Locked);
 }
 
+TEST_F(QuickNameSizeTest, TheSampleIsUnderlinedAndRaised) {
+    Open();
+    window->chkUnderline.Press();
+    window->chkSuperscript.Press();
+    EXPECT_EQ(Sample().FontUnderline(), 1);
+    EXPECT_GT(Sample().BaseLine(), 0);
+    window->chkUnderline.Press();
+    window->chkSuperscript.Press();
+    EXPECT_EQ(Sample().FontUnderline(), 0);
+    EXPECT_EQ(Sample().BaseLine(), 0);
+}
+
 TEST_F(QuickNameSizeTest, ALargeSampleHasItsFirstLineAlone) {
     Open().lstSize.Select(14);
     EXPECT_EQ(Sample().All(), u"AaBbCc DdEeFf GgHhIi\r\n ... XxYyZz");
@@ -99,6 +112,8 @@ TEST_F(QuickNameSizeTest, TheSampleShowsTheStyle) {
     EXPECT_EQ(Sample().All(), u"AABBCC DDEEFF GGHHII\r\n ... XXYYZZ");
     window->lstAttr.Select(3);
     EXPECT_EQ(Sample().All(), u"aabbcc ddeeff gghhii\r\n ... xxyyzz");
+    window->lstAttr.Select(4);
+    EXPECT_EQ(Sample().All(), SmartUpper(u"AaBbCc DdEeFf GgHhIi\r\n ... XxYyZz", 0));
     window->lstAttr.Select(5);
     EXPECT_EQ(Sample().CharAttributes(), TextControl::kSmallCaps);
     window->chkBold.Press();
@@ -209,11 +224,19 @@ TEST_F(QuickNameSizeTest, ItsButtonsOpenTheToolsOnTheText) {
         tool.Close();
     });
     window->cmdShapes.Press();
-    t.user.On<frmASCIIBox>([](frmASCIIBox& tool) { tool.Close(); });
+    t.user.On<frmASCIIBox>([](frmASCIIBox& tool) {
+        tool.Grid1.DoubleClick(65);
+        tool.Close();
+    });
     window->cmdSymbols.Press();
-    t.user.On<frmSymbolTables>([](frmSymbolTables& tool) { tool.Close(); });
+    t.user.On<frmSymbolTables>([](frmSymbolTables& tool) {
+        tool.ThisTextCtrl.SetAll(u"xyz");
+        tool.ThisTextCtrl.SetSelection(1, 1);
+        tool.OfficeMenu1.Choose("mnuInsertSymbol");
+        tool.Close();
+    });
     window->cmdAllSymbols.Press();
-    EXPECT_EQ(control.All(), u"\u2013one two");
+    EXPECT_EQ(control.All(), u"\u2013Ayone two");
 }
 
 class FakeFontDialog final : public SystemFontDialog {
@@ -295,10 +318,13 @@ TEST_F(QuickNameSizeTest, KeepsItsPlace) {
     t.app.Settings.FontDialogLeft = 1000;
     t.app.Settings.FontDialogTop = 2000;
     ChooseFont([](frmQuickNameSize& dialog) {
+        EXPECT_EQ(dialog.Left.Get(), Twips{1000});
         EXPECT_EQ(dialog.Top.Get(), Twips{2000});
+        dialog.Left = Twips{1500};
         dialog.Top = Twips{2500};
         dialog.cmdCancel.Press();
     });
+    EXPECT_EQ(t.app.Settings.FontDialogLeft, 1500);
     EXPECT_EQ(t.app.Settings.FontDialogTop, 2500);
 }
 

@@ -32,6 +32,7 @@ TEST_F(SetForegroundColourTest, EachRowIsAPairOfColours) {
         Open();
         EXPECT_EQ(window->lstColourOptions.List(row), text);
         EXPECT_EQ(window->lstColourOptions.SampleAt(row)->text, Colour{fore});
+        EXPECT_EQ(window->lstColourOptions.SampleAt(row)->back, Colour{back});
         window->lstColourOptions.Select(row);
         window->cmdApply.Press();
         EXPECT_EQ(Taken(), std::pair(fore, back)) << row;
@@ -70,6 +71,12 @@ TEST_F(SetForegroundColourTest, OtherColoursAreShownAndTakenAsTheyAre) {
     window->cmdApplyCustomValues.Press();
     EXPECT_EQ(Taken(), std::pair(0x112233, 8));
     EXPECT_EQ(t.app.DialogResult, 1);
+    Open();
+    t.user.ChooseColour(Colour{0x445566});
+    window->cmdBackground.Press();
+    EXPECT_EQ(window->lblBackground.BackColor.Get(), Colour{0x445566});
+    window->cmdApplyCustomValues.Press();
+    EXPECT_EQ(Taken(), std::pair(0x112233, 0x445566));
 }
 
 // Kept for compatibility: highlight-colours-unused.
@@ -120,11 +127,14 @@ TEST_F(SetForegroundColourTest, KeepsItsPlace) {
     t.app.Settings.ForeColourTop = 2000;
     t.user.On<frmSetForegroundColour>([](frmSetForegroundColour& colours) {
         EXPECT_EQ(colours.Left.Get(), Twips{1000});
+        EXPECT_EQ(colours.Top.Get(), Twips{2000});
         colours.Left = Twips{1700};
+        colours.Top = Twips{1800};
         colours.Close();
     });
     EXPECT_EQ(windows.Choose(ColourPair{}), std::nullopt);
     EXPECT_EQ(t.app.Settings.ForeColourLeft, 1700);
+    EXPECT_EQ(t.app.Settings.ForeColourTop, 1800);
 }
 
 } // namespace

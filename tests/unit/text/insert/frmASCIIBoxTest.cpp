@@ -110,6 +110,21 @@ TEST_F(ASCIIBoxTest, TheDefaultFontIsAnotherOneWhenAsked) {
     EXPECT_EQ(Open(&target).cboFont.Chosen(), u"Cambria");
 }
 
+TEST_F(ASCIIBoxTest, TheTableIsInTheFontThatIsChosen) {
+    Choices().AsciiFontName = u"Cambria";
+    EXPECT_EQ(Open(&target).Grid1.Font.Get(), (FontSpec{u"Cambria"}));
+    for (int row = 0; row < window->cboFont.ListCount(); ++row) {
+        window->cboFont.Select(row);
+        EXPECT_EQ(window->Grid1.Font.Get().name, window->cboFont.List(row));
+    }
+}
+
+TEST_F(ASCIIBoxTest, ACharacterTakesThePlaceOfTheSelection) {
+    control.SetSelection(0, -1);
+    Open(&target).Grid1.DoubleClick(65);
+    EXPECT_EQ(control.All(), u"A");
+}
+
 TEST_F(ASCIIBoxTest, AFontThatIsGoneIsStillTheDefault) {
     t.fonts.Set({u"DejaVu Sans"});
     Open(&target);
@@ -125,13 +140,22 @@ TEST_F(ASCIIBoxTest, KeepsItsPlaceAndClosesWithEsc) {
     t.app.Settings.AsciiWidth = 8000;
     t.app.Settings.AsciiHeight = 7000;
     t.user.On<frmASCIIBox>([](frmASCIIBox& shown) {
+        EXPECT_EQ(shown.Left.Get(), Twips{1000});
+        EXPECT_EQ(shown.Top.Get(), Twips{2000});
         EXPECT_EQ(shown.Width.Get(), Twips{8000});
+        EXPECT_EQ(shown.Height.Get(), Twips{7000});
+        shown.Left = Twips{800};
         shown.Top = Twips{900};
+        shown.Width = Twips{8100};
+        shown.Height = Twips{7100};
         KeyEvent escape{Key::Escape};
         shown.KeyDown(escape);
     });
     frmASCIIBox(t.app, &target).ShowModal();
+    EXPECT_EQ(t.app.Settings.AsciiLeft, 800);
     EXPECT_EQ(t.app.Settings.AsciiTop, 900);
+    EXPECT_EQ(t.app.Settings.AsciiWidth, 8100);
+    EXPECT_EQ(t.app.Settings.AsciiHeight, 7100);
 }
 
 } // namespace

@@ -179,11 +179,14 @@ TEST_F(DateTypeTest, KeepsItsPlace) {
     t.app.Settings.DateTypeTop = 2000;
     t.user.On<frmDateType>([](frmDateType& shown) {
         EXPECT_EQ(shown.Left.Get(), Twips{1000});
+        EXPECT_EQ(shown.Top.Get(), Twips{2000});
         shown.Left = Twips{3000};
+        shown.Top = Twips{3100};
         shown.Close();
     });
     EXPECT_EQ(tools.ChooseDateTime(), std::nullopt);
     EXPECT_EQ(t.app.Settings.DateTypeLeft, 3000);
+    EXPECT_EQ(t.app.Settings.DateTypeTop, 3100);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "text/insert/frmSymbolTables.h"
 
+#include "testing/MemoryDocumentConverter.h"
 #include "text/files/DocumentFiles.h"
 #include "text/insert/InsertWindows.h"
 #include "unit/text/insert/InsertStage.h"
@@ -29,7 +30,8 @@ protected:
     void Choose(const char* entry) { window->OfficeMenu1.Choose(entry); }
     int Zoom() const { return window->ThisTextCtrl.ZoomFactor; }
 
-    DocumentFiles documents{t.files, CodePage::Windows1252(), nullptr};
+    MemoryDocumentConverter converter;
+    DocumentFiles documents{t.files, CodePage::Windows1252(), &converter};
     std::unique_ptr<frmSymbolTables> window;
 };
 
@@ -64,6 +66,25 @@ TEST_F(SymbolTablesTest, OnlyThreeKindsOfFilesAreFormatted) {
     t.user.ChooseFile(Text(kRtf));
     Choose("mnuGetFile");
     EXPECT_EQ(window->ThisTextCtrl.FontName(), u"Georgia");
+}
+
+TEST_F(SymbolTablesTest, DocumentsOfWordProcessorsAreReadWithTheirFormats) {
+    TextControl document(form, "document");
+    document.Files = &documents;
+    document.SetAll(u"symbols");
+    document.SetSelection(0, -1);
+    document.SetFontName(u"Cambria");
+    t.files.AddFile(u"C:\\Data\\Symbols.docx", document.SaveToMemory(TextFormat::Docx));
+    t.files.AddFile(u"C:\\Data\\Symbols.DOC", "old document");
+    converter.outcomes[Conversion::DocToRtf] = document.SaveToMemory(TextFormat::Rtf);
+    for (const TextView path : {u"C:\\Data\\Symbols.docx", u"C:\\Data\\Symbols.DOC"}) {
+        Open();
+        t.user.ChooseFile(Text(path));
+        Choose("mnuGetFile");
+        EXPECT_EQ(window->ThisTextCtrl.All(), u"symbols");
+        EXPECT_EQ(window->ThisTextCtrl.FontName(), u"Cambria");
+    }
+    EXPECT_EQ(converter.got[Conversion::DocToRtf], "old document");
 }
 
 TEST_F(SymbolTablesTest, AFileThatCannotBeReadLeavesTheText) {
@@ -188,13 +209,22 @@ TEST_F(SymbolTablesTest, KeepsItsPlaceAndClosesWithEsc) {
     t.app.Settings.SymbolsWidth = 8000;
     t.app.Settings.SymbolsHeight = 7000;
     t.user.On<frmSymbolTables>([](frmSymbolTables& shown) {
+        EXPECT_EQ(shown.Left.Get(), Twips{1000});
+        EXPECT_EQ(shown.Top.Get(), Twips{2000});
+        EXPECT_EQ(shown.Width.Get(), Twips{8000});
         EXPECT_EQ(shown.Height.Get(), Twips{7000});
         shown.Left = Twips{1500};
+        shown.Top = Twips{1600};
+        shown.Width = Twips{8100};
+        shown.Height = Twips{7100};
         KeyEvent escape{Key::Escape};
         shown.KeyDown(escape);
     });
     ShowSymbolTables(t.app, &control);
     EXPECT_EQ(t.app.Settings.SymbolsLeft, 1500);
+    EXPECT_EQ(t.app.Settings.SymbolsTop, 1600);
+    EXPECT_EQ(t.app.Settings.SymbolsWidth, 8100);
+    EXPECT_EQ(t.app.Settings.SymbolsHeight, 7100);
 }
 
 } // namespace
