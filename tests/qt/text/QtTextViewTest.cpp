@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
 
 namespace korvane {
@@ -593,6 +594,23 @@ TEST_F(QtTextViewTest, AFlowingTextIsAsWideAsTheViewAtEveryZoom) {
         const double width = view.Mirror().Current().pageSize().width() * view.Zoom();
         EXPECT_NEAR(width, std::max<double>(view.viewport()->width(), 24 * view.Zoom()), 1) << zoom;
     }
+}
+
+TEST_F(QtTextViewTest, WhatIsReadStaysWhereItIsWhenTheViewBecomesNarrower) {
+    Text text;
+    for (int i = 0; i < 3000; ++i)
+        text += u"words of a paragraph that is longer than a line of the narrow view\r\n";
+    control.SetAll(text);
+    view.ShowText();
+    view.Mirror().Current().documentLayout()->documentSize();
+    view.resize(601, 400);
+    Settle();
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / 2);
+    const doc::Pos top = view.PlaceAt(view.mapToScene(0, 0));
+    EXPECT_GT(top, 1000u);
+    view.resize(300, 400);
+    Settle();
+    EXPECT_EQ(view.PlaceAt(view.mapToScene(0, 2)), top);
 }
 
 TEST_F(QtTextViewTest, NoLineIsInTheGapBetweenPages) {

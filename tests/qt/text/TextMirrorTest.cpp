@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QFontDatabase>
 #include <algorithm>
 #include <random>
@@ -95,7 +96,7 @@ TEST(TextMirror, ALargeTableIsCutWhereNobodySeesIt) {
             parts += qobject_cast<QTextTable*>(frame) != nullptr ? 1 : 0;
         return parts;
     };
-    EXPECT_EQ(tables(), 3);
+    EXPECT_EQ(tables(), 12);
     EXPECT_EQ(FaultOf(mirror), "");
     const auto cell = store.CellRange({*table, 100, 23});
     store.Replace(cell->first, cell->second, Plain(u"1\r\n2"));
@@ -103,8 +104,39 @@ TEST(TextMirror, ALargeTableIsCutWhereNobodySeesIt) {
     store.FormatCells(*table, [](const doc::CellPlace& place, doc::CellFormat& format) {
         if (place.row == 5) format.width = 900;
     });
-    EXPECT_EQ(tables(), 5);
+    EXPECT_EQ(tables(), 14);
     EXPECT_EQ(FaultOf(mirror), "");
+}
+
+TEST(TextMirror, NothingIsLaidOutBeforeThePageHasASize) {
+    doc::MemoryTextStore store;
+    store.Reset(Plain(u"one\r\ntwo"));
+    TextMirror mirror(store);
+    QTextDocument& document = mirror.Shown();
+    EXPECT_EQ(document.size(), QSizeF(0, 0));
+    EXPECT_EQ(document.firstBlock().layout()->lineCount(), 0);
+    document.setPageSize(QSizeF(600, -1));
+    EXPECT_EQ(document.firstBlock().layout()->lineCount(), 1);
+}
+
+TEST(TextMirror, ThePartsOfATableFollowEachOtherWithoutAGap) {
+    doc::MemoryTextStore store;
+    store.InsertTable(0, 120, 24);
+    TextMirror mirror(store);
+    QTextDocument& document = mirror.Shown();
+    document.setPageSize(QSizeF(600, -1));
+    const QList<QTextFrame*> parts = document.rootFrame()->childFrames();
+    ASSERT_GT(parts.size(), 2);
+    const auto rect = [&document](QTextFrame* part) {
+        return document.documentLayout()->frameBoundingRect(part);
+    };
+    for (qsizetype part = 1; part < parts.size(); ++part) {
+        const QTextBlock between = parts[part - 1]->lastCursorPosition().block().next();
+        EXPECT_EQ(mirror.ParagraphOf(between), std::nullopt);
+        EXPECT_EQ(document.documentLayout()->blockBoundingRect(between).top(),
+                  rect(parts[part - 1]).bottom());
+        EXPECT_EQ(rect(parts[part]).top(), rect(parts[part - 1]).bottom());
+    }
 }
 
 TEST(TextMirror, TablesThatTouchAreApart) {

@@ -3,6 +3,7 @@
 #include "document/store/MemoryTextStore.h"
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/text/BlockSearch.h"
 #include "platform/qt/text/TextAccessible.h"
 #include "platform/qt/text/TextItem.h"
 
@@ -72,10 +73,11 @@ void QtTextView::Attach(TextControl& control) {
     mirror_ = std::make_unique<TextMirror>(StoreOf(control));
     mirror_->Stale = [this] { ShowSoon(); };
     mirror_->Replaced = [this](QTextDocument& document) {
-        Prepare(document);
+        // The item asks for the size of its document, for which all of it is laid out that has begun to be.
         item_->setDocument(&document);
         connect(document.documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
                 &QtTextView::FitScene);
+        Prepare(document);
     };
     ReadColours();
     mirror_->Replaced(mirror_->Shown());
@@ -108,14 +110,27 @@ bool QtTextView::ShowsPages() const {
 
 void QtTextView::ReadZoom() {
     if (control_ == nullptr) return;
-    const doc::Pos top = PlaceAt(mapToScene(QPoint(0, 0)));
-    const bool atTop = verticalScrollBar()->value() == verticalScrollBar()->minimum();
-    const double scale = std::max(control_->ZoomFactor.Get(), 1) / kPerCent;
-    setTransform(QTransform::fromScale(scale, scale));
-    Fit();
-    // The text at the top of the view stays there.
-    if (!atTop) verticalScrollBar()->setValue(static_cast<int>(CursorAt(top).top() * scale));
+    KeepTop([this] {
+        const double scale = std::max(control_->ZoomFactor.Get(), 1) / kPerCent;
+        setTransform(QTransform::fromScale(scale, scale));
+        Fit();
+    });
     emit Seen();
+}
+
+/// Lays the text out in another way. What is at the top of the view stays there.
+void QtTextView::KeepTop(const std::function<void()>& layOut) {
+    const QPointF before = mapToScene(QPoint(0, 0));
+    const doc::Pos top = PlaceAt(before);
+    const double hidden = before.y() - CursorAt(top).top();
+    const bool atTop = verticalScrollBar()->value() == verticalScrollBar()->minimum();
+    layOut();
+    if (atTop) return;
+    const double wanted = CursorAt(top).top() + hidden;
+    // The text may be laid out only up to there by now.
+    reached_ = std::max(reached_, wanted + viewport()->height() / Zoom());
+    FitScene();
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(wanted * Zoom())));
 }
 
 void QtTextView::ReadMode() {
@@ -291,8 +306,7 @@ QRectF QtTextView::CursorAt(doc::Pos position) const {
 }
 
 doc::Pos QtTextView::PlaceAt(const QPointF& point) const {
-    const int place = item_->document()->documentLayout()->hitTest(point, Qt::FuzzyHit);
-    return mirror_->FromQt(std::max(place, 0));
+    return mirror_->FromQt(PositionAtPoint(*item_->document(), point));
 }
 
 CursorPlace QtTextView::Place() {
@@ -312,7 +326,7 @@ CursorPlace QtTextView::Place() {
     if (!ShowsPages()) return place;
     const int page = pages_.PageAt(cursor.center().y());
     const QPointF top = pages_.Page(page).topLeft() + QPointF(pages_.TextLeft(), pages_.Margins().top());
-    const int first = item_->document()->documentLayout()->hitTest(top, Qt::FuzzyHit);
+    const int first = PositionAtPoint(*item_->document(), top);
     const QTextBlock firstBlock = item_->document()->findBlock(first);
     place.line -= lineOf(firstBlock, first - firstBlock.position());
     place.page = page + 1;
@@ -338,7 +352,7 @@ void QtTextView::paintEvent(QPaintEvent* event) {
 
 void QtTextView::resizeEvent(QResizeEvent* event) {
     QGraphicsView::resizeEvent(event);
-    Fit();
+    if (control_ != nullptr) KeepTop([this] { Fit(); });
     emit Seen();
 }
 

@@ -117,6 +117,7 @@ protected:
 private:
     void Prepare(QTextDocument& document) const;
     void Fit();
+    void KeepTop(const std::function<void()>& layOut);
     void FitScene();
     bool Locked() const;
     void SetCursor(int anchor, int position);

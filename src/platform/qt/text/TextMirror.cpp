@@ -273,7 +273,8 @@ void TextMirror::Build() {
     }
     cursor.endEditBlock();
     // Without a layout the document doesn't tell of its changes. While it is filled, a layout would make each
-    // step take several times as long.
+    // step take several times as long. On a page of no size nothing is laid out yet.
+    fresh->setPageSize(QSizeF(0, 0));
     fresh->documentLayout();
     shown_ = std::move(fresh);
 }

@@ -21,7 +21,7 @@ namespace korvane {
 class TextMirror final : private doc::TextListener {
 public:
     /// The cells of one of Qt's tables. A larger table of ours is cut.
-    static constexpr std::size_t kMostCells = 1000;
+    static constexpr std::size_t kMostCells = 250;
 
     /// The store must live until this is destroyed.
     explicit TextMirror(doc::MemoryTextStore& store);
@@ -33,7 +33,8 @@ public:
 
     /// Runs when the document isn't up to date any more.
     std::function<void()> Stale;
-    /// Runs when another document takes the place of the one that was shown, before that one goes.
+    /// Runs when another document takes the place of the one that was shown, before that one goes. The new
+    /// one has a page of no size.
     std::function<void(QTextDocument&)> Replaced;
 
     /// The document, up to date.

@@ -1,6 +1,7 @@
 #include "platform/qt/text/TextPaint.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/text/BlockSearch.h"
 #include "platform/qt/text/ListMarks.h"
 #include "platform/qt/text/TextMirror.h"
 
@@ -27,8 +28,7 @@ public:
           colour_(colour) {}
 
     void Paint() {
-        const int first = layout_.hitTest(QPointF(0, std::max(exposed_.top(), 0.0)), Qt::FuzzyHit);
-        QTextBlock block = document_.findBlock(std::max(first, 0));
+        QTextBlock block = BlockAtHeight(document_, exposed_.top());
         // The frame of a paragraph reaches over its text.
         if (block.previous().isValid()) block = block.previous();
         for (; block.isValid(); block = block.next()) {
@@ -159,20 +159,24 @@ private:
 
     // Tables.
 
-    double TopOf(const QTextBlock& block) const {
-        return layout_.blockBoundingRect(block).top() - block.blockFormat().topMargin();
+    double BottomOf(const QTextTable& table, int row) const {
+        if (row + 1 < table.rows()) return TopOf(table.cellAt(row + 1, 0).firstCursorPosition().block());
+        const QTextBlock after = table.lastCursorPosition().block().next();
+        // A table tells where it ends only when the whole text is laid out, so within one of ours the block
+        // after a part is asked.
+        return mirror_.ParagraphOf(after)
+                   ? layout_.frameBoundingRect(const_cast<QTextTable*>(&table)).bottom()
+                   : layout_.blockBoundingRect(after).top();
     }
 
     void PaintRow(const QTextBlock& block, const doc::CellPlace& cell) {
         row_ = cell;
-        const QTextTable* const table = QTextCursor(block).currentTable();
+        const QTextTable* const table = TableOf(block);
         if (table == nullptr) return;
         const int row = table->cellAt(block.position()).row();
         const QTextBlock first = table->cellAt(row, 0).firstCursorPosition().block();
         const double top = TopOf(first);
-        const double bottom = row + 1 < table->rows()
-                                  ? TopOf(table->cellAt(row + 1, 0).firstCursorPosition().block())
-                                  : layout_.frameBoundingRect(const_cast<QTextTable*>(table)).bottom();
+        const double bottom = BottomOf(*table, row);
         const auto& cells = mirror_.Text().tables.at(cell.table).rows[cell.row].cells;
         double left =
             layout_.blockBoundingRect(first).left() - TextPixels(std::max(cells.front().gapLeft, 0));
