@@ -82,7 +82,8 @@ public:
     Text CellText(Row row, Col col) const { return CellValue(row, col); }
 
     virtual Text ColKey(Col col) const = 0;
-    virtual Text ColHeaderText(Col col) const = 0;
+    /// Valid until the next change.
+    virtual const Text& ColHeaderText(Col col) const = 0;
     virtual void SetColHeaderText(Col col, TextView header) = 0;
     /// Widths and heights are grid units: pixels at 96 dpi.
     virtual int ColWidth(Col col) const = 0;
@@ -148,6 +149,8 @@ public:
     virtual void AdoptBytes(SharedBytes bytes) = 0;
     /// Sets the cell's value to `length` of the adopted bytes from `offset` on, without copying them.
     virtual void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) = 0;
+    /// Sets the cell's value to a copy of these bytes of `Page()`.
+    virtual void SetCellBytes(Row row, Col col, std::string_view bytes) = 0;
     /// The cell's value as bytes of `Page()`, valid until the next change; nullopt when the page can't hold
     /// it.
     virtual std::optional<std::string_view> CellBytes(Row row, Col col) const = 0;

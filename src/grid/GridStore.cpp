@@ -144,8 +144,9 @@ Text GridStore::ColKey(Col col) const {
     return HasCol(col) ? cols_[Index(col)].key : Text();
 }
 
-Text GridStore::ColHeaderText(Col col) const {
-    return HasCol(col) ? cols_[Index(col)].header : Text();
+const Text& GridStore::ColHeaderText(Col col) const {
+    static const Text kNone;
+    return HasCol(col) ? cols_[Index(col)].header : kNone;
 }
 
 void GridStore::SetColHeaderText(Col col, TextView header) {
@@ -221,6 +222,12 @@ void GridStore::AdoptBytes(SharedBytes bytes) {
 void GridStore::SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) {
     if (HasCell(row, col) && texts_.HasSlice(offset, length))
         PutHandle(row, col, texts_.Slice(offset, length));
+}
+
+void GridStore::SetCellBytes(Row row, Col col, std::string_view bytes) {
+    if (!HasCell(row, col) || texts_.Bytes(HandleAt(row, col)) == bytes) return;
+    PutHandle(row, col, texts_.PutBytes(bytes));
+    PackTextsIfWorthwhile();
 }
 
 std::optional<std::string_view> GridStore::CellBytes(Row row, Col col) const {

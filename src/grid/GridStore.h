@@ -44,7 +44,7 @@ public:
     void SetCellValue(Row row, Col col, TextView value) override;
 
     Text ColKey(Col col) const override;
-    Text ColHeaderText(Col col) const override;
+    const Text& ColHeaderText(Col col) const override;
     void SetColHeaderText(Col col, TextView header) override;
     int ColWidth(Col col) const override;
     void SetColWidth(Col col, int width) override;
@@ -95,6 +95,7 @@ public:
     const CodePage& Page() const override { return texts_.Page(); }
     void AdoptBytes(SharedBytes bytes) override;
     void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) override;
+    void SetCellBytes(Row row, Col col, std::string_view bytes) override;
     std::optional<std::string_view> CellBytes(Row row, Col col) const override;
     void ShiftTextsRight(Col first) override;
     std::optional<CellPosition> FindText(TextView part, CellPosition from) const override;
@@ -161,7 +162,7 @@ private:
     template <class Field>
     bool SetRowField(Row row, Field RowState::*field, Field value);
     template <class Field, class Value>
-    void SetLook(Field& field, const Value& value);
+    void SetLook(Field& field, Value value);
     template <class Field, class Value>
     void SetColumn(Col col, Field Column::*field, const Value& value);
     template <class Change>
@@ -191,10 +192,10 @@ private:
 };
 
 template <class Field, class Value>
-void GridStore::SetLook(Field& field, const Value& value) {
+void GridStore::SetLook(Field& field, Value value) {
     if (field == value) return;
     if (noted_) NoteLook();
-    field = value;
+    field = std::move(value);
     notifier_.LookChanged();
 }
 

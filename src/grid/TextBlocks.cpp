@@ -24,6 +24,11 @@ TextHandle TextBlocks::Put(TextView text) {
     return HandleOf({TextHandle::Kind::Wide, wide_.size() - text.size(), text.size()});
 }
 
+TextHandle TextBlocks::PutBytes(std::string_view bytes) {
+    bytes_.append(bytes);
+    return HandleOf({TextHandle::Kind::Bytes, bytes_.size() - bytes.size(), bytes.size()});
+}
+
 /// False, with nothing appended, when a character has no byte.
 bool TextBlocks::AppendAsBytes(TextView text) {
     std::size_t at = bytes_.size();

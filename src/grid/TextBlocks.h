@@ -37,6 +37,8 @@ public:
         return HandleOf({TextHandle::Kind::Adopted, offset, length});
     }
     TextHandle Put(TextView text);
+    /// The same of bytes of the code page.
+    TextHandle PutBytes(std::string_view bytes);
     /// The text isn't used any more: its place is garbage until the next `Pack`.
     void GiveUp(TextHandle handle);
 

@@ -40,7 +40,7 @@ void StoreNumber(double number, std::optional<Int>& field) {
 /// The text of a cell with CR LF in place of every lone CR.
 std::string WithFullLineEnds(std::string_view slice) {
     std::string text;
-    text.reserve(slice.size());
+    text.reserve(slice.size() + static_cast<std::size_t>(std::ranges::count(slice, '\r')));
     for (std::size_t at = 0; at < slice.size(); ++at) {
         text += slice[at];
         const bool lone = slice[at] == '\r' && (at + 1 == slice.size() || slice[at + 1] != '\n');
@@ -143,7 +143,7 @@ void TbxReader::SetUpColumns() {
     grid_.SetSortOnHeaderClick(sortOnHeaderClick_);
     grid_.SetGridForeColor(kDataColour);
     grid_.SetGridBackColor(table_.TableBackColour.value_or(Colour{0}));
-    grid_.SetGridFontName(table_.TableFontName.value_or(Text()));
+    grid_.SetGridFontName(table_.TableFontName ? TextView(*table_.TableFontName) : TextView());
     grid_.SetGridFontSize(table_.TableFontSize.value_or(std::int16_t{0}));
 }
 
@@ -209,8 +209,7 @@ void TbxReader::CollectCell() {
     if (!loneCr)
         grid_.SetCellSlice(row_, col_, begin, end - begin);
     else {
-        const std::string text = WithFullLineEnds(bytes_.substr(begin, end - begin));
-        grid_.SetCellValue(row_, col_, grid_.Page().ToText(text));
+        grid_.SetCellBytes(row_, col_, WithFullLineEnds(bytes_.substr(begin, end - begin)));
     }
 }
 

@@ -68,7 +68,7 @@ void TbxWriter::PutValue(std::string_view value) {
 void TbxWriter::PutHeader() {
     const double height = table_.SetRowHeight.value_or(std::int16_t{0}) * tbx::kHeightScale;
     PutValue(Decimal(table_.TableBackColour.value_or(Colour{0}).value).View());
-    PutValue(ToBytes(table_.TableFontName.value_or(Text())));
+    PutValue(ToBytes(table_.TableFontName ? TextView(*table_.TableFontName) : TextView()));
     PutValue(Decimal(table_.TableFontSize.value_or(std::int16_t{0})).View());
     PutValue(ToBytes(NumberText(height)));
 }

@@ -8,8 +8,25 @@ namespace korvane {
 
 namespace {
 
+/// Only counts what is written.
+class SizeWriter final : public FileWriter {
+public:
+    bool Write(std::string_view bytes) override {
+        size_ += bytes.size();
+        return true;
+    }
+    bool Close() override { return true; }
+
+    std::size_t Size() const { return size_; }
+
+private:
+    std::size_t size_ = 0;
+};
+
 class StringWriter final : public FileWriter {
 public:
+    explicit StringWriter(std::size_t size) { written_.reserve(size); }
+
     bool Write(std::string_view bytes) override {
         written_ += bytes;
         return true;
@@ -35,7 +52,10 @@ void Workbench::Load(TextView path, const SharedBytes& bytes) {
 std::string Workbench::Save(TextView path) {
     table_.TxtDbFile = path;
     table_.TakeHeightOfCurrentRow();
-    StringWriter file;
+    // A string that grows would need three times the memory.
+    SizeWriter size;
+    TbxWriter(table_, size).Write();
+    StringWriter file(size.Size());
     TbxWriter(table_, file).Write();
     return file.Take();
 }

@@ -41,6 +41,16 @@ TEST_F(GridStoreTextsTest, CellBytesGivesTheBytesOfThePage) {
     EXPECT_EQ(grid.CellBytes(Row{1}, Col{1}), "5 \x80");
 }
 
+TEST_F(GridStoreTextsTest, BytesThatAreSetAreTheTextOfThePage) {
+    Resize(1, 1);
+    grid.NoteChanges(true);
+    grid.SetCellBytes(Row{1}, Col{1}, "5 \x80");
+    EXPECT_EQ(grid.CellText(Row{1}, Col{1}), u"5 €");
+    grid.SetCellBytes(Row{2}, Col{1}, "x");
+    grid.SetCellBytes(Row{1}, Col{1}, "");
+    EXPECT_EQ(grid.CellText(Row{1}, Col{1}), u"");
+}
+
 TEST_F(GridStoreTextsTest, CellBytesGivesNothingForATextThePageCannotHold) {
     Resize(1, 2);
     grid.SetCellValue(Row{1}, Col{1}, u"aЯ");
