@@ -30,10 +30,12 @@ void CheckAndRewrite(std::string_view bytes) {
     Workbench first(page);
     first.Load(u"/a.tbx", Share(bytes));
     const std::string dump = DumpOf(first);
-    const bool sound = CheckFile(bytes, page).empty() && CheckTable(first.Grid()).empty();
+    FindingStream findings([](const Finding&) {});
+    CheckFile(bytes, page, findings);
+    CheckTable(first.Grid(), findings);
     Workbench again(page);
     again.Load(u"/a.tbx", Share(first.Save(u"/a.tbx")));
-    if (sound && DumpOf(again) != dump) std::abort();
+    if (findings.IsEmpty() && DumpOf(again) != dump) std::abort();
 }
 
 } // namespace

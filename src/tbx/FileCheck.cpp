@@ -38,13 +38,14 @@ bool IsTrailer(std::string_view bytes) {
 /// writer's form.
 class FileCheck {
 public:
-    FileCheck(std::string_view bytes, const CodePage& page) : bytes_(bytes), page_(page), lines_(bytes) {}
+    FileCheck(std::string_view bytes, const CodePage& page, FindingStream& findings)
+        : bytes_(bytes), page_(page), lines_(bytes), findings_(findings) {}
 
-    std::vector<Finding> Check() {
+    void Check() {
         const bool hasCr = bytes_.find('\r') != bytes_.npos;
         if (!hasCr && bytes_.find('\n') != bytes_.npos) {
             AddForFile("the lines end in LF alone: all of the file is read as one line");
-            return std::move(findings_);
+            return;
         }
         CheckEncoding();
         while (!stopped_ && !trailerReached_ && !lines_.AtEnd()) {
@@ -54,7 +55,6 @@ public:
             CheckLine();
         }
         if (!stopped_) CheckEnd();
-        return std::move(findings_);
     }
 
 private:
@@ -65,7 +65,7 @@ private:
         const bool ascii =
             std::all_of(bytes_.begin(), bytes_.end(), [](char byte) { return (byte & 0x80) == 0; });
         if (!ascii && IsUtf8(bytes_))
-            AddForFile("the file is in UTF-8, but is read in code page " + std::to_string(page_.Number()));
+            AddForFile("the file is in UTF-8, but is read in code page " + pageNumber_);
     }
 
     void CheckLine() {
@@ -94,15 +94,14 @@ private:
             const auto code = static_cast<unsigned char>(byte);
             return code >= 0x80 && code < 0xA0 && page_.Decode(code) == code;
         });
-        if (stray != line_.end())
-            Add("holds a byte without a character in code page " + std::to_string(page_.Number()));
+        if (stray != line_.end()) Add("holds a byte without a character in code page ", pageNumber_);
     }
 
     void TakeComment() {
         if (IsTrailer(bytes_.substr(lines_.Begin())))
             trailerReached_ = true;
         else if (inData_)
-            Add("begins with \";\" and is dropped as a comment" + CutText());
+            Add("begins with \";\" and is dropped as a comment", CutText());
         else if (std::find(kComments.begin(), kComments.end(), line_) == kComments.end())
             Add("is a comment that a save leaves out");
     }
@@ -121,8 +120,8 @@ private:
     void TakeColumnLine() {
         const std::string_view value = line_.substr(1);
         if (inData_)
-            Add(std::string("begins with \"!\" and is read as a column line") +
-                (row_ > 0 ? "; the rows before it are lost" : ""));
+            Add("begins with \"!\" and is read as a column line",
+                row_ > 0 ? "; the rows before it are lost" : "");
         if (expectWidth_)
             CompareSaved(value, SavedColumnWidth(value));
         else
@@ -154,7 +153,7 @@ private:
         const std::string_view number = line_.substr(std::min<std::size_t>(5, line_.size()));
         const bool digits = !number.empty() && number.find_first_not_of("0123456789") == number.npos;
         if (!line_.starts_with("@row_") || !digits)
-            Add("begins with \"@row\" and is read as the start of a row" + CutText());
+            Add("begins with \"@row\" and is read as the start of a row", CutText());
         CheckRowEnd();
         ++row_;
         col_ = 0;
@@ -168,7 +167,7 @@ private:
 
     void TakeStateLine() {
         if (part_ != RowPart::Start)
-            Add("begins with \"?\" and is read as a row's tick and font" + CutText());
+            Add("begins with \"?\" and is read as a row's tick and font", CutText());
         else
             CompareSaved(line_, SavedRowState(columnCount_ > 0 ? line_ : std::string_view()));
         part_ = part_ == RowPart::Start ? RowPart::State : RowPart::Elsewhere;
@@ -178,7 +177,7 @@ private:
     void TakeColourLine() {
         const std::string_view value = line_.substr(1);
         if (part_ == RowPart::Elsewhere || part_ == RowPart::TextColour)
-            Add("begins with \"\xC2\xA7\" and is read as a row's colour" + CutText());
+            Add("begins with \"\xC2\xA7\" and is read as a row's colour", CutText());
         else
             CompareSaved(value, columnCount_ > 0 ? SavedRowColour(value) : SavedNoColour());
         part_ =
@@ -191,18 +190,18 @@ private:
         inCell_ = true;
         part_ = RowPart::Elsewhere;
         if (row_ == 0)
-            Add("begins a cell before the first row, which is dropped" + CutText());
+            Add("begins a cell before the first row, which is dropped", CutText());
         else if (col_ > columnCount_)
-            Add("begins a cell past the last column, which is dropped" + CutText());
+            Add("begins a cell past the last column, which is dropped", CutText());
         else if (line_ != "@col_" + std::to_string(col_))
-            Add("is read as column " + std::to_string(col_) + CutText());
+            Add("is read as column " + std::to_string(col_), CutText());
     }
 
     void TakeTextLine() {
         part_ = RowPart::Elsewhere;
         if (!inCell_) {
             // Nobody misses an empty line before the first row.
-            if (row_ > 0 || !line_.empty()) Add("is in no cell and is dropped" + CutText());
+            if (row_ > 0 || !line_.empty()) Add("is in no cell and is dropped", CutText());
             return;
         }
         if (col_ > columnCount_) return;
@@ -225,7 +224,7 @@ private:
     /// The writer never leaves cells out. The reader gives a row its height and its box with its first cell.
     void CheckRowEnd() {
         if (row_ > 0 && columnCount_ > 0 && !rowHasCell_)
-            findings_.push_back({{Row(row_), Col{0}}, 0, "the row has no cell"});
+            findings_.Add({Row(row_), Col{0}}, 0, "the row has no cell");
     }
 
     void CheckEnd() {
@@ -235,23 +234,27 @@ private:
     }
 
     void CompareSaved(std::string_view value, std::string_view saved) {
-        if (value != saved) Add("holds a value that comes back as \"" + std::string(saved) + "\"");
+        if (value == saved) return;
+        findings_.AddEach(Place(), lineNumber_,
+                          "holds a value that comes back as \"" + std::string(saved) + "\"");
     }
 
     /// What a marker in the text of a cell does to the cell.
-    std::string CutText() const { return cutCell_ ? "; the cell ends before it" : ""; }
+    std::string_view CutText() const { return cutCell_ ? "; the cell ends before it" : ""; }
 
-    void Add(std::string what) {
-        findings_.push_back({{Row(row_), Col(row_ > 0 ? col_ : 0)}, lineNumber_, std::move(what)});
+    void Add(std::string_view what, std::string_view rest = {}) {
+        findings_.Add(Place(), lineNumber_, what, rest);
     }
-    void AddForFile(std::string what) { findings_.push_back({{}, 0, std::move(what)}); }
+    CellPosition Place() const { return {Row(row_), Col(row_ > 0 ? col_ : 0)}; }
+    void AddForFile(std::string_view what) { findings_.Add({}, 0, what); }
 
     std::string_view bytes_;
     CodePage page_;
+    const std::string pageNumber_ = std::to_string(page_.Number());
     TbxLines lines_;
     std::string_view line_;
     std::size_t lineNumber_ = 0;
-    std::vector<Finding> findings_;
+    FindingStream& findings_;
 
     int headerCount_ = 0;
     int columnCount_ = 0;
@@ -271,8 +274,9 @@ private:
 
 } // namespace
 
-std::vector<Finding> CheckFile(std::string_view bytes, const CodePage& page) {
-    return FileCheck(bytes, page).Check();
+void CheckFile(std::string_view bytes, const CodePage& page, FindingStream& findings) {
+    FileCheck(bytes, page, findings).Check();
+    findings.Finish();
 }
 
 } // namespace korvane

@@ -4,7 +4,6 @@
 #include "tbx/Check.h"
 
 #include <string_view>
-#include <vector>
 
 namespace korvane {
 
@@ -12,6 +11,6 @@ namespace korvane {
 /// was written for, and what a save of the table would write differently. The findings are in the order of
 /// the lines; those about the whole file come first or last. A line in the form in which the program writes
 /// it gives no finding; the numbers of rows don't matter.
-std::vector<Finding> CheckFile(std::string_view bytes, const CodePage& page);
+void CheckFile(std::string_view bytes, const CodePage& page, FindingStream& findings);
 
 } // namespace korvane

@@ -47,10 +47,10 @@ void AddRows(const std::vector<std::vector<Text>>& rows, Grid& grid) {
 
 /// Tells which parts of the table a load of the new file won't bring back.
 ExitStatus ReportLosses(const std::string& name, const Grid& grid, Environment& environment) {
-    const auto findings = CheckTable(grid);
-    for (const Finding& finding : findings)
-        Complain(environment, Quoted(name) + ": " + FindingText(finding));
-    return findings.empty() ? ExitStatus::Success : ExitStatus::Problem;
+    FindingStream findings(
+        [&](const Finding& finding) { Complain(environment, Quoted(name) + ": " + FindingText(finding)); });
+    CheckTable(grid, findings);
+    return findings.IsEmpty() ? ExitStatus::Success : ExitStatus::Problem;
 }
 
 } // namespace

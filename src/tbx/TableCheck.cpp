@@ -4,34 +4,43 @@
 #include "grid/Grid.h"
 #include "table/TbxFormat.h"
 
+#include <array>
+#include <string>
+
 namespace korvane {
 
 namespace {
 
-/// The lines of a cell as the reader will see them.
-std::vector<TextView> LinesOf(TextView text) {
-    std::vector<TextView> lines;
-    for (;;) {
-        const std::size_t end = text.find(u'\r');
-        lines.push_back(text.substr(0, end));
-        if (end == TextView::npos) return lines;
-        const bool crLf = text.substr(end, 2) == kCrLf;
+/// Goes over the lines of a cell as the reader will see them. The cell's text may also be bytes.
+template <class Unit, class Visit>
+void ForEachLine(std::basic_string_view<Unit> text, const Visit& visit) {
+    for (std::size_t number = 1;; ++number) {
+        const std::size_t end = text.find(Unit{'\r'});
+        visit(number, text.substr(0, end));
+        if (end == text.npos) return;
+        const bool crLf = end + 1 < text.size() && text[end + 1] == Unit{'\n'};
         text.remove_prefix(end + (crLf ? 2 : 1));
     }
 }
 
-bool HasLoneCr(TextView text) {
-    for (std::size_t at = text.find(u'\r'); at != TextView::npos; at = text.find(u'\r', at + 1))
-        if (text.substr(at, 2) != kCrLf) return true;
+template <class Unit>
+bool HasLoneCr(std::basic_string_view<Unit> text) {
+    for (std::size_t at = text.find(Unit{'\r'}); at != text.npos; at = text.find(Unit{'\r'}, at + 1))
+        if (at + 1 == text.size() || text[at + 1] != Unit{'\n'}) return true;
     return false;
 }
 
-/// Collects the findings of one table.
+template <class Unit>
+bool EndsInLineBreak(std::basic_string_view<Unit> text) {
+    return text.size() >= 2 && text[text.size() - 2] == Unit{'\r'} && text.back() == Unit{'\n'};
+}
+
+/// Tells the findings of one table.
 class TableCheck {
 public:
-    explicit TableCheck(const Grid& grid) : grid_(grid) {}
+    TableCheck(const Grid& grid, FindingStream& findings) : grid_(grid), findings_(findings) {}
 
-    std::vector<Finding> Check() {
+    void Check() {
         if (grid_.RowCount() == Row{0} && grid_.ColCount() > Col{0})
             Add({}, "without rows, the columns don't come back");
         if (grid_.ColCount() > MaxColumns) Add({}, "with more than 24 columns, nothing comes back");
@@ -39,7 +48,6 @@ public:
             CheckHeader(col);
         for (Row row{1}; row <= grid_.RowCount(); ++row)
             CheckRow(row);
-        return std::move(findings_);
     }
 
 private:
@@ -49,49 +57,67 @@ private:
     }
 
     void CheckRow(Row row) {
-        if (grid_.CellText(row, Col{1}) == FromAscii(tbx::kDeleteMark))
+        if (grid_.CellBytes(row, Col{1}) == tbx::kDeleteMark)
             Add({row, Col{1}}, "the row is marked for deletion: a save leaves it out");
         for (Col col{1}; col <= grid_.ColCount(); ++col)
-            CheckCell({row, col}, grid_.CellText(row, col));
+            CheckCell({row, col});
     }
 
-    void CheckCell(CellPosition cell, TextView text) {
-        if (!grid_.Page().Holds(text)) Add(cell, "the text" + std::string(kOutsidePage));
-        if (text.ends_with(kCrLf)) {
+    /// A long text is looked at where it is and not copied.
+    void CheckCell(CellPosition cell) {
+        if (const auto bytes = grid_.CellBytes(cell.row, cell.col)) {
+            CheckText(cell, *bytes);
+            return;
+        }
+        Add(cell, "the text" + std::string(kOutsidePage));
+        const Text text = grid_.CellText(cell.row, cell.col);
+        CheckText(cell, TextView(text));
+    }
+
+    template <class Unit>
+    void CheckText(CellPosition cell, std::basic_string_view<Unit> text) {
+        if (EndsInLineBreak(text)) {
             Add(cell, "the final line break is taken off by a save");
             text.remove_suffix(kCrLf.size());
         }
         if (HasLoneCr(text)) Add(cell, "a lone CR comes back as CR LF");
-        CheckLines(cell, LinesOf(text));
+        ForEachLine(text, [&](std::size_t number, std::basic_string_view<Unit> line) {
+            if (!line.empty()) CheckLine(cell, number, CharacterOf(line.front()));
+        });
     }
 
-    void CheckLines(CellPosition cell, const std::vector<TextView>& lines) {
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            if (lines[i].empty() || !IsMarker(lines[i].front(), i == 0)) continue;
-            Add(cell, "line " + std::to_string(i + 1) + " of the cell begins with \"" +
-                          ToUtf8(lines[i].substr(0, 1)) + "\", which marks something else in a file");
-        }
+    char16_t CharacterOf(char16_t unit) const { return unit; }
+    char16_t CharacterOf(char byte) const { return grid_.Page().Decode(static_cast<unsigned char>(byte)); }
+
+    void CheckLine(CellPosition cell, std::size_t number, char16_t first) {
+        const std::size_t mark = marks_.find(first);
+        if (mark == Text::npos || (mark == kValueMark && number > 1)) return;
+        findings_.Add(cell, 0, markTexts_[mark], {}, number);
     }
 
-    bool IsMarker(char16_t first, bool firstLine) const {
-        return first == tbx::kAt || first == tbx::kTick || first == tbx::kComment || first == colourMark_ ||
-               (firstLine && first == tbx::kValue);
+    static std::string MarkText(char16_t mark) {
+        return "begins with \"" + ToUtf8({&mark, 1}) + "\", which marks something else in a file";
     }
 
-    void Add(CellPosition cell, std::string what) { findings_.push_back({cell, 0, std::move(what)}); }
+    void Add(CellPosition cell, std::string_view what) { findings_.Add(cell, 0, what); }
 
     static constexpr auto kOutsidePage = " has a character outside the code page, which becomes \"?\"";
+    static constexpr std::size_t kValueMark = 0;
 
     const Grid& grid_;
-    /// The character of the mark's byte in this page.
-    const char16_t colourMark_ = grid_.Page().Decode(static_cast<unsigned char>(tbx::kColour));
-    std::vector<Finding> findings_;
+    FindingStream& findings_;
+    /// The last one is the character of the mark's byte in this page.
+    const Text marks_{tbx::kValue, tbx::kAt, tbx::kTick, tbx::kComment,
+                      grid_.Page().Decode(static_cast<unsigned char>(tbx::kColour))};
+    const std::array<std::string, 5> markTexts_{MarkText(marks_[0]), MarkText(marks_[1]), MarkText(marks_[2]),
+                                                MarkText(marks_[3]), MarkText(marks_[4])};
 };
 
 } // namespace
 
-std::vector<Finding> CheckTable(const Grid& grid) {
-    return TableCheck(grid).Check();
+void CheckTable(const Grid& grid, FindingStream& findings) {
+    TableCheck(grid, findings).Check();
+    findings.Finish();
 }
 
 } // namespace korvane

@@ -57,8 +57,10 @@ constexpr std::array kVerbs{
     Verb{"info", "FILE", "p", "Write what the file information window shows",
          "Name, path, number of rows and columns, size, and the time of the last change.\n", RunInfo},
     Verb{"check", "FILE", "p", "Write what won't survive a load or a save",
-         "Each line begins with \"row:col:\" and \"line N:\" as far as they are known. The\n"
-         "exit status is 1 when there is any. Found are cell lines that are read as\n"
+         "Each line begins with \"row:col:\" and \"line N:\" as far as they are known. What\n"
+         "is found several times in a cell, or in a part of the file that is no cell, is\n"
+         "told once, with the line of the first time and the number of times. The exit\n"
+         "status is 1 when there is any. Found are cell lines that are read as\n"
          "markers or dropped, final line breaks, lone CRs, rows marked \"---\", more than\n"
          "24 columns, rows past 32767, characters outside the code page, comments, and\n"
          "numbers that come back as others.\n",

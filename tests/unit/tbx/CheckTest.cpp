@@ -14,11 +14,22 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-std::vector<std::string> Texts(const std::vector<Finding>& findings) {
+/// What the check tells, line by line.
+template <class Check>
+std::vector<std::string> TextsOf(const Check& check) {
     std::vector<std::string> texts;
-    for (const Finding& finding : findings)
-        texts.push_back(FindingText(finding));
+    FindingStream findings([&](const Finding& finding) { texts.push_back(FindingText(finding)); });
+    check(findings);
+    EXPECT_EQ(findings.IsEmpty(), texts.empty());
     return texts;
+}
+
+std::vector<std::string> TextsOfTable(const Grid& grid) {
+    return TextsOf([&](FindingStream& findings) { CheckTable(grid, findings); });
+}
+
+std::vector<std::string> TextsOfFile(std::string_view bytes) {
+    return TextsOf([&](FindingStream& findings) { CheckFile(bytes, CodePage::Windows1252(), findings); });
 }
 
 TEST(Finding, NamesCellAndLineAsFarAsTheyAreKnown) {
@@ -27,6 +38,32 @@ TEST(Finding, NamesCellAndLineAsFarAsTheyAreKnown) {
     EXPECT_EQ(FindingText({{Row{3}, Col{2}}, 0, "what"}), "3:2: what");
     EXPECT_EQ(FindingText({{}, 27, "what"}), "line 27: what");
     EXPECT_EQ(FindingText({{}, 0, "what"}), "what");
+    EXPECT_EQ(FindingText({{Row{3}, Col{2}}, 0, "what", 1, 5}), "3:2: line 5 of the cell what");
+    EXPECT_EQ(FindingText({{Row{3}, Col{2}}, 27, "what", 5}), "3:2: line 27: what (5 times)");
+}
+
+TEST(FindingStream, WhatIsFoundAgainInACellIsCountedAtItsFirstPlace) {
+    const CellPosition cell{Row{1}, Col{1}};
+    EXPECT_THAT(TextsOf([&](FindingStream& findings) {
+                    findings.Add(cell, 4, "a", "b");
+                    findings.Add(cell, 5, "c");
+                    findings.Add(cell, 6, "ab");
+                    findings.Add({Row{2}, Col{1}}, 7, "ab");
+                    findings.Finish();
+                }),
+                ElementsAre("1:1: line 4: ab (2 times)", "1:1: line 5: c", "2:1: line 7: ab"));
+}
+
+TEST(FindingStream, WhatWasFoundIsPassedOnAsSoonAsTheCellEnds) {
+    int passed = 0;
+    FindingStream findings([&](const Finding&) { ++passed; });
+    findings.Add({Row{1}, Col{1}}, 0, "a");
+    findings.Add({Row{1}, Col{1}}, 0, "b");
+    EXPECT_EQ(passed, 0);
+    findings.Add({Row{1}, Col{2}}, 0, "a");
+    EXPECT_EQ(passed, 2);
+    findings.Finish();
+    EXPECT_EQ(passed, 3);
 }
 
 class TableOfOneCell : public testing::Test {
@@ -37,7 +74,7 @@ protected:
         grid.AddCol(u"2no", u"Note");
         grid.SetRowCount(Row{1});
         grid.SetCellValue(Row{1}, Col{2}, text);
-        return Texts(CheckTable(grid));
+        return TextsOfTable(grid);
     }
     static std::string Marker(int line, const std::string& mark) {
         return "1:2: line " + std::to_string(line) + " of the cell begins with \"" + mark +
@@ -86,15 +123,25 @@ TEST(TableCheck, TheMarkForDeletionCountsInColumnOneAlone) {
     grid.SetRowCount(Row{2});
     grid.SetCellValue(Row{1}, Col{2}, u"---");
     grid.SetCellValue(Row{2}, Col{1}, u"---");
-    EXPECT_THAT(Texts(CheckTable(grid)),
-                ElementsAre("2:1: the row is marked for deletion: a save leaves it out"));
+    EXPECT_THAT(TextsOfTable(grid), ElementsAre("2:1: the row is marked for deletion: a save leaves it out"));
 }
 
 TEST(TableCheck, ATableWiderThanAFileIsFound) {
     GridStore grid(CodePage::Windows1252());
     grid.SetColCount(Col{25});
     grid.SetRowCount(Row{1});
-    EXPECT_THAT(Texts(CheckTable(grid)), ElementsAre("with more than 24 columns, nothing comes back"));
+    EXPECT_THAT(TextsOfTable(grid), ElementsAre("with more than 24 columns, nothing comes back"));
+}
+
+TEST_F(TableOfOneCell, LinesWithTheSameMarkAreToldOnce) {
+    EXPECT_THAT(Check(u"@\r\n;\r\n@\r\n@"), ElementsAre(Marker(1, "@") + " (3 times)", Marker(2, ";")));
+}
+
+TEST(FileCheck, AFaultInEveryLineOfACellIsOneFinding) {
+    std::string file = "!0\r\n!A\r\n!1\r\n!31\r\n!Name\r\n!80\r\n@row_1\r\n@col_1\r\n";
+    file += std::string(100'000, '\r') + "x\r\n;\r\n; End of File: a\r\n;\r\n";
+    EXPECT_THAT(TextsOfFile(file),
+                ElementsAre("1:1: line 9: ends in a lone CR, which comes back as CR LF (100000 times)"));
 }
 
 TEST(FileCheck, RowsPastTheLastAreFoundOnce) {
@@ -102,10 +149,9 @@ TEST(FileCheck, RowsPastTheLastAreFoundOnce) {
     for (int row = 1; row <= 32767; ++row)
         rows += "@row_" + std::to_string(row) + "\r\n@col_1\r\nx\r\n";
     const std::string end = ";\r\n; End of File: /a\r\n;\r\n";
-    EXPECT_THAT(CheckFile(rows + end, CodePage::Windows1252()), IsEmpty());
+    EXPECT_THAT(TextsOfFile(rows + end), IsEmpty());
     rows += "@row_32768\r\n@col_1\r\nx\r\n@row_32769\r\n@col_1\r\nx\r\n";
-    EXPECT_THAT(Texts(CheckFile(rows + end, CodePage::Windows1252())),
-                ElementsAre("rows past 32767 don't arrive"));
+    EXPECT_THAT(TextsOfFile(rows + end), ElementsAre("rows past 32767 don't arrive"));
 }
 
 /// Files in the writer's form, but with some lines doubled, dropped, exchanged or replaced.
@@ -187,8 +233,8 @@ TEST(CheckCommand, WhatASaveWritesHasNoFindingsInTheFile) {
         // The columns of a table without rows are gone with the first save.
         if (bytes.find("@row") == bytes.npos) continue;
         ++rewritten;
-        for (const Finding& finding : CheckFile(bytes, CodePage::Windows1252()))
-            ASSERT_THAT(finding.what, HasSubstr("code page")) << bytes;
+        for (const std::string& finding : TextsOfFile(bytes))
+            ASSERT_THAT(finding, HasSubstr("code page")) << bytes;
     }
     EXPECT_GT(rewritten, 500);
 }
