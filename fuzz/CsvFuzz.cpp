@@ -31,10 +31,11 @@ Outcome Read(std::string_view bytes, char delimiter) {
 
 std::string Write(const std::vector<Record>& records, char delimiter) {
     CsvRows format(delimiter);
-    std::string bytes;
+    StringOutput out;
     for (const Record& record : records)
-        format.AddRow(record, bytes);
-    return bytes;
+        format.AddRow(std::vector<CellText>(record.begin(), record.end()), out);
+    out.Flush();
+    return out.Bytes();
 }
 
 void ReadWriteRead(std::string_view bytes) {

@@ -11,13 +11,13 @@ class CsvRows final : public RowFormat {
 public:
     explicit CsvRows(char delimiter = ',') : delimiter_(delimiter) {}
 
-    void Begin(const std::vector<Text>& headers, std::string& out) override { AddRow(headers, out); }
-    void AddRow(const std::vector<Text>& cells, std::string& out) override;
-    void End(std::string&) override {}
+    void Begin(std::span<const CellText> headers, Output& out) override { AddRow(headers, out); }
+    void AddRow(std::span<const CellText> cells, Output& out) override;
+    void End(Output&) override {}
 
 private:
-    bool NeedsQuotes(std::string_view field) const;
-    void AddField(std::string_view field, std::string& out) const;
+    bool NeedsQuotes(const CellText& field) const;
+    void AddField(const CellText& field, Output& out) const;
 
     char delimiter_;
 };

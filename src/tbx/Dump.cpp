@@ -1,6 +1,7 @@
 #include "tbx/Dump.h"
 
 #include "grid/Grid.h"
+#include "tbx/CellText.h"
 #include "tbx/Json.h"
 #include "tbx/LoadedTable.h"
 
@@ -15,53 +16,61 @@ constexpr std::array<std::string_view, 5> kIconNames{"none", "information", "que
                                                      "stop"};
 constexpr std::array<std::string_view, 3> kButtonNames{"ok", "yesno", "yesnocancel"};
 
-/// Builds JSON objects and lists.
+/// Writes JSON objects and lists.
 class JsonLine {
 public:
+    explicit JsonLine(Output& out) : out_(out) {}
+
     void Open(char bracket) {
         Separate();
-        json_ += bracket;
+        Put({&bracket, 1});
     }
-    void Close(char bracket) { json_ += bracket; }
+    void Close(char bracket) { Put({&bracket, 1}); }
     void Key(std::string_view key) {
         Separate();
-        json_ += '"';
-        json_ += key;
-        json_ += "\":";
+        Put("\"");
+        Put(key);
+        Put("\":");
     }
     void Number(int number) {
         Separate();
-        json_ += std::to_string(number);
+        Put(std::to_string(number));
     }
-    void String(TextView text) {
+    void String(TextView text) { String(CellText(text)); }
+    void String(const CellText& text) {
         Separate();
-        AppendAsciiJson(text, json_);
+        Put("\"");
+        text.ForEachPiece([this](TextView piece) {
+            std::string json;
+            AppendAsciiJsonPiece(piece, json);
+            Put(json);
+        });
+        Put("\"");
     }
     void Null() {
         Separate();
-        json_ += "null";
-    }
-    void HandTo(Output& out) {
-        out.Write(json_);
-        last_ = json_.empty() ? last_ : json_.back();
-        json_.clear();
+        Put("null");
     }
 
 private:
     /// A comma comes between two values, and before a key that follows a value.
     void Separate() {
-        const char last = json_.empty() ? last_ : json_.back();
-        if (last != '{' && last != '[' && last != ':' && last != '\0') json_ += ',';
+        if (last_ != '{' && last_ != '[' && last_ != ':' && last_ != '\0') Put(",");
+    }
+    void Put(std::string_view json) {
+        out_.Write(json);
+        last_ = json.back();
     }
 
-    std::string json_;
+    Output& out_;
     char last_ = '\0';
 };
 
 /// The dump of one table.
 class Dump {
 public:
-    Dump(const TableModel& table, Output& out) : table_(table), grid_(table.GridStore()), out_(out) {}
+    Dump(const TableModel& table, Output& out)
+        : table_(table), grid_(table.GridStore()), out_(out), json_(out) {}
 
     void Write(const std::vector<Message>& messages) {
         json_.Open('{');
@@ -71,7 +80,6 @@ public:
         AddRows();
         AddMessages(messages);
         json_.Close('}');
-        json_.HandTo(out_);
         out_.Write("\n");
     }
 
@@ -124,10 +132,8 @@ private:
     void AddRows() {
         json_.Key("rows");
         json_.Open('[');
-        for (Row row{1}; row <= grid_.RowCount() && out_.Works(); ++row) {
+        for (Row row{1}; row <= grid_.RowCount() && out_.Works(); ++row)
             AddRow(row);
-            json_.HandTo(out_);
-        }
         json_.Close(']');
     }
 
@@ -142,7 +148,7 @@ private:
         AddFlags("italic", row, CellFlag::Italic);
         AddFlags("bold", row, CellFlag::Bold);
         AddFlags("strike", row, CellFlag::Strikethrough);
-        AddCells("cells", [=, this](Col col) { json_.String(grid_.CellText(row, col)); });
+        AddCells("cells", [=, this](Col col) { json_.String(CellText(grid_, row, col)); });
         json_.Close('}');
     }
 

@@ -9,23 +9,19 @@ namespace korvane {
 namespace {
 
 void WriteRows(const Grid& grid, RowFormat& format, Output& out) {
-    std::vector<Text> texts(static_cast<std::size_t>(grid.ColCount().Number()));
-    const auto textOf = [&texts](Col col) -> Text& {
-        return texts[static_cast<std::size_t>(col.Number() - 1)];
-    };
+    std::vector<CellText> headers;
     for (Col col{1}; col <= grid.ColCount(); ++col)
-        textOf(col) = grid.ColHeaderText(col);
-    std::string bytes;
-    format.Begin(texts, bytes);
+        headers.emplace_back(grid.ColHeaderText(col));
+    format.Begin(headers, out);
+    headers = {};
+    std::vector<CellText> cells;
     for (Row row{1}; row <= grid.RowCount() && out.Works(); ++row) {
+        cells.clear();
         for (Col col{1}; col <= grid.ColCount(); ++col)
-            textOf(col) = grid.CellText(row, col);
-        format.AddRow(texts, bytes);
-        out.Write(bytes);
-        bytes.clear();
+            cells.emplace_back(grid, row, col);
+        format.AddRow(cells, out);
     }
-    format.End(bytes);
-    out.Write(bytes);
+    format.End(out);
 }
 
 ExitStatus Export(const Call& call, Environment& environment, RowFormat&& format) {

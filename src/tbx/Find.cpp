@@ -1,4 +1,5 @@
 #include "grid/Grid.h"
+#include "tbx/CellText.h"
 #include "tbx/LoadedTable.h"
 
 namespace korvane {
@@ -6,9 +7,9 @@ namespace korvane {
 namespace {
 
 /// The text with line breaks as \r and \n, so that every find is one line.
-std::string OnOneLine(TextView text) {
+std::string OnOneLine(TextView piece) {
     std::string line;
-    for (const char byte : ToUtf8(text)) {
+    for (const char byte : ToUtf8(piece)) {
         if (byte == '\r')
             line += "\\r";
         else if (byte == '\n')
@@ -20,8 +21,9 @@ std::string OnOneLine(TextView text) {
 }
 
 void WriteFind(const Grid& grid, CellPosition at, Output& out) {
-    out.Write(std::to_string(at.row.Number()) + ":" + std::to_string(at.col.Number()) + ": " +
-              OnOneLine(grid.CellText(at.row, at.col)) + "\n");
+    out.Write(std::to_string(at.row.Number()) + ":" + std::to_string(at.col.Number()) + ": ");
+    CellText(grid, at.row, at.col).ForEachPiece([&](TextView piece) { out.Write(OnOneLine(piece)); });
+    out.Write("\n");
 }
 
 } // namespace

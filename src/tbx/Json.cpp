@@ -41,7 +41,12 @@ bool StandsInJson(char16_t unit) {
 
 void AppendAsciiJson(TextView text, std::string& json) {
     json += '"';
-    for (const char16_t unit : text) {
+    AppendAsciiJsonPiece(text, json);
+    json += '"';
+}
+
+void AppendAsciiJsonPiece(TextView piece, std::string& json) {
+    for (const char16_t unit : piece) {
         if (unit < 0x20 || unit > 0x7E) {
             AppendUnitEscape(unit, json);
             continue;
@@ -49,20 +54,23 @@ void AppendAsciiJson(TextView text, std::string& json) {
         if (NeedsBackslash(unit)) json += '\\';
         json += static_cast<char>(unit);
     }
-    json += '"';
 }
 
 void AppendUtf8Json(TextView text, std::string& json) {
     json += '"';
-    for (std::size_t at = 0; at < text.size();) {
+    AppendUtf8JsonPiece(text, json);
+    json += '"';
+}
+
+void AppendUtf8JsonPiece(TextView piece, std::string& json) {
+    for (std::size_t at = 0; at < piece.size();) {
         std::size_t end = at;
-        while (end < text.size() && StandsInJson(text[end]))
+        while (end < piece.size() && StandsInJson(piece[end]))
             ++end;
-        json += ToUtf8(text.substr(at, end - at));
-        if (end < text.size()) AppendUtf8JsonEscape(text[end++], json);
+        if (end > at) json += ToUtf8(piece.substr(at, end - at));
+        if (end < piece.size()) AppendUtf8JsonEscape(piece[end++], json);
         at = end;
     }
-    json += '"';
 }
 
 } // namespace korvane

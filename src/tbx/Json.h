@@ -13,4 +13,8 @@ void AppendAsciiJson(TextView text, std::string& json);
 /// The same in UTF-8, with only the control characters escaped, the usual ones by their letter.
 void AppendUtf8Json(TextView text, std::string& json);
 
+// The same without the quotes, for a text that comes in pieces.
+void AppendAsciiJsonPiece(TextView piece, std::string& json);
+void AppendUtf8JsonPiece(TextView piece, std::string& json);
+
 } // namespace korvane

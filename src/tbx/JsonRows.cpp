@@ -32,28 +32,37 @@ std::vector<Text> DistinctKeys(const std::vector<Text>& headers) {
     return keys;
 }
 
-void JsonRows::Begin(const std::vector<Text>& headers, std::string& out) {
-    for (const Text& key : DistinctKeys(headers)) {
+void JsonRows::Begin(std::span<const CellText> headers, Output& out) {
+    std::vector<Text> names;
+    for (const CellText& header : headers)
+        names.push_back(header.Whole());
+    for (const Text& key : DistinctKeys(names)) {
         std::string json;
         AppendUtf8Json(key, json);
         keys_.push_back(json + ":");
     }
-    out += '[';
+    out.Write("[");
 }
 
-void JsonRows::AddRow(const std::vector<Text>& cells, std::string& out) {
-    out += first_ ? "\n{" : ",\n{";
+void JsonRows::AddRow(std::span<const CellText> cells, Output& out) {
+    out.Write(first_ ? "\n{" : ",\n{");
     first_ = false;
     for (std::size_t i = 0; i < cells.size(); ++i) {
-        if (i > 0) out += ',';
-        out += keys_[i];
-        AppendUtf8Json(cells[i], out);
+        if (i > 0) out.Write(",");
+        out.Write(keys_[i]);
+        out.Write("\"");
+        cells[i].ForEachPiece([&](TextView piece) {
+            std::string json;
+            AppendUtf8JsonPiece(piece, json);
+            out.Write(json);
+        });
+        out.Write("\"");
     }
-    out += '}';
+    out.Write("}");
 }
 
-void JsonRows::End(std::string& out) {
-    out += first_ ? "]\n" : "\n]\n";
+void JsonRows::End(Output& out) {
+    out.Write(first_ ? "]\n" : "\n]\n");
 }
 
 } // namespace korvane

@@ -2,6 +2,9 @@
 
 #include "tbx/RowFormat.h"
 
+#include <string>
+#include <vector>
+
 namespace korvane {
 
 /// A JSON array with one object for each row, one to a line, whose keys are the headers in their order. Since
@@ -9,9 +12,9 @@ namespace korvane {
 /// and a repeated header gets the first free number from 2 on after it: "Name", "Name 2".
 class JsonRows final : public RowFormat {
 public:
-    void Begin(const std::vector<Text>& headers, std::string& out) override;
-    void AddRow(const std::vector<Text>& cells, std::string& out) override;
-    void End(std::string& out) override;
+    void Begin(std::span<const CellText> headers, Output& out) override;
+    void AddRow(std::span<const CellText> cells, Output& out) override;
+    void End(Output& out) override;
 
 private:
     /// Each key as JSON, followed by the colon.

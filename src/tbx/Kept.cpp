@@ -125,9 +125,8 @@ bool WriteMissing(const std::vector<RowTexts>& rows, const std::vector<RowTexts>
     TsvRows format;
     for (const RowTexts& row : rows) {
         if (--left[row] >= 0) continue;
-        std::string line(mark);
-        format.AddRow(row, line);
-        out.Write(line);
+        out.Write(mark);
+        format.AddRow(std::vector<CellText>(row.begin(), row.end()), out);
         any = true;
     }
     return any;

@@ -4,29 +4,27 @@ namespace korvane {
 
 namespace {
 
-void AddField(std::string_view field, std::string& out) {
+void AddPiece(TextView piece, Output& out) {
     constexpr std::string_view kEscaped = "\t\n\r\\";
     constexpr std::string_view kLetters = "tnr\\";
-    for (const char byte : field) {
+    std::string field;
+    for (const char byte : ToUtf8(piece)) {
         const std::size_t at = kEscaped.find(byte);
-        if (at == kEscaped.npos) {
-            out += byte;
-        } else {
-            out += '\\';
-            out += kLetters[at];
-        }
+        if (at != kEscaped.npos) field += '\\';
+        field += at == kEscaped.npos ? byte : kLetters[at];
     }
+    out.Write(field);
 }
 
 } // namespace
 
-void TsvRows::AddRow(const std::vector<Text>& cells, std::string& out) {
+void TsvRows::AddRow(std::span<const CellText> cells, Output& out) {
     if (cells.empty()) return;
-    for (const Text& cell : cells) {
-        AddField(ToUtf8(cell), out);
-        out += '\t';
+    for (const CellText& cell : cells) {
+        if (&cell != &cells.front()) out.Write("\t");
+        cell.ForEachPiece([&](TextView piece) { AddPiece(piece, out); });
     }
-    out.back() = '\n';
+    out.Write("\n");
 }
 
 } // namespace korvane

@@ -9,9 +9,9 @@ namespace korvane {
 /// columns gives nothing.
 class TsvRows final : public RowFormat {
 public:
-    void Begin(const std::vector<Text>& headers, std::string& out) override { AddRow(headers, out); }
-    void AddRow(const std::vector<Text>& cells, std::string& out) override;
-    void End(std::string&) override {}
+    void Begin(std::span<const CellText> headers, Output& out) override { AddRow(headers, out); }
+    void AddRow(std::span<const CellText> cells, Output& out) override;
+    void End(Output&) override {}
 };
 
 } // namespace korvane

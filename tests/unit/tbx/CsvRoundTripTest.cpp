@@ -35,12 +35,11 @@ Table RandomTable(std::mt19937& random) {
 
 std::string Write(const Table& table, char delimiter) {
     CsvRows format(delimiter);
-    std::string bytes;
-    format.Begin(table.front(), bytes);
-    for (std::size_t row = 1; row < table.size(); ++row)
-        format.AddRow(table[row], bytes);
-    format.End(bytes);
-    return bytes;
+    StringOutput out;
+    for (const std::vector<Text>& row : table)
+        format.AddRow(std::vector<CellText>(row.begin(), row.end()), out);
+    out.Flush();
+    return out.Bytes();
 }
 
 Table Read(std::string_view bytes, char delimiter) {

@@ -10,14 +10,19 @@ namespace {
 using testing::ElementsAre;
 using Texts = std::vector<Text>;
 
+std::vector<CellText> CellsOf(const Texts& texts) {
+    return {texts.begin(), texts.end()};
+}
+
 template <class Format>
 std::string Write(Format format, const Texts& headers, const std::vector<Texts>& rows) {
-    std::string out;
-    format.Begin(headers, out);
+    StringOutput out;
+    format.Begin(CellsOf(headers), out);
     for (const Texts& row : rows)
-        format.AddRow(row, out);
+        format.AddRow(CellsOf(row), out);
     format.End(out);
-    return out;
+    out.Flush();
+    return out.Bytes();
 }
 
 TEST(CsvRows, QuotesOnlyWhatNeedsIt) {
