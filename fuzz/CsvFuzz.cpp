@@ -20,9 +20,9 @@ struct Outcome {
 Outcome Read(std::string_view bytes, char delimiter) {
     CsvReader reader(bytes, delimiter);
     Outcome outcome;
-    for (std::vector<std::string> fields; reader.ReadRecord(fields);) {
+    for (CsvReader::Record fields; reader.ReadRecord(fields);) {
         Record& record = outcome.records.emplace_back();
-        for (const std::string& field : fields)
+        for (const std::string_view field : fields)
             record.push_back(FromUtf8(field));
     }
     outcome.sound = !reader.Fault();

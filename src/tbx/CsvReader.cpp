@@ -6,12 +6,16 @@ CsvReader::CsvReader(std::string_view bytes, char delimiter) : bytes_(bytes), de
     if (bytes_.starts_with(kUtf8Mark)) bytes_.remove_prefix(kUtf8Mark.size());
 }
 
-bool CsvReader::ReadRecord(std::vector<std::string>& fields) {
+bool CsvReader::ReadRecord(Record& fields, std::size_t most) {
     fields.clear();
+    unquoted_.clear();
     if (fault_ || AtEnd()) return false;
     recordLine_ = line_;
     do {
-        fields.push_back(ReadField());
+        if (fields.size() == most)
+            Stop(CsvFault::TooManyFields, recordLine_);
+        else
+            fields.push_back(ReadField());
     } while (!fault_ && Take(delimiter_));
     TakeLineEnd();
     return !fault_;
@@ -33,32 +37,34 @@ void CsvReader::TakeLineEnd() {
     if (cr || lf) ++line_;
 }
 
-std::string CsvReader::ReadField() {
+std::string_view CsvReader::ReadField() {
     if (Take('"')) return ReadQuotedField();
     const std::size_t start = at_;
     while (!AtFieldEnd())
         ++at_;
-    return std::string(bytes_.substr(start, at_ - start));
+    return bytes_.substr(start, at_ - start);
 }
 
-std::string CsvReader::ReadQuotedField() {
+/// The field is a part of the bytes unless quotes are doubled in it.
+std::string_view CsvReader::ReadQuotedField() {
     const std::size_t openLine = line_;
-    std::string field;
+    std::string_view field;
+    std::string* joined = nullptr;
     for (bool open = true; open;) {
         const std::size_t quote = bytes_.find('"', at_);
         if (quote == bytes_.npos) {
             Stop(CsvFault::UnclosedQuote, openLine);
             return {};
         }
-        const std::string_view piece = bytes_.substr(at_, quote - at_);
-        CountLines(piece);
-        field += piece;
+        field = bytes_.substr(at_, quote - at_);
+        CountLines(field);
         at_ = quote + 1;
         open = Take('"');
-        if (open) field += '"';
+        if (open && joined == nullptr) joined = &unquoted_.emplace_back();
+        if (joined != nullptr) joined->append(field).append(open ? "\"" : "");
     }
     if (!AtFieldEnd()) Stop(CsvFault::TextAfterQuote, line_);
-    return field;
+    return joined == nullptr ? field : std::string_view(*joined);
 }
 
 void CsvReader::CountLines(std::string_view piece) {

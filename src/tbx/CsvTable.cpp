@@ -1,6 +1,12 @@
 #include "tbx/CsvTable.h"
 
+#include "common/number/Number.h"
+#include "common/number/Units.h"
+#include "grid/Grid.h"
 #include "tbx/CsvReader.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace korvane {
 
@@ -10,81 +16,117 @@ std::string AtLine(std::size_t line, std::string_view what) {
     return "line " + std::to_string(line) + ": " + std::string(what);
 }
 
-std::string FaultText(const CsvReader& reader) {
-    const bool unclosed = reader.Fault() == CsvFault::UnclosedQuote;
-    return AtLine(reader.FaultLine(), unclosed ? "the quoted field that begins here doesn't end"
-                                               : "there is text after the closing quote of a field");
+template <class Number>
+std::string NoMoreThan(std::string_view what, Number most) {
+    return "there are more " + std::string(what) + " than the " + std::to_string(most) + " that there can be";
 }
 
-/// Fills the table from the records, up to the first fault.
+/// Fills the grid from the records, up to the first fault.
 class TableMaker {
 public:
-    TableMaker(std::string_view bytes, char delimiter, const CodePage& page)
-        : page_(page), utf8_(IsUtf8(bytes)), reader_(bytes, delimiter) {}
+    TableMaker(Grid& grid, std::string_view bytes, char delimiter)
+        : grid_(grid), utf8_(IsUtf8(bytes)), reader_(bytes, delimiter) {}
 
-    CsvTable Make() {
-        if (!reader_.ReadRecord(record_))
-            table_.fault = "there is no row of column names";
-        else
-            TakeHeaders();
-        while (table_.fault.empty() && reader_.ReadRecord(record_))
-            TakeRow();
-        if (reader_.Fault()) table_.fault = FaultText(reader_);
-        return std::move(table_);
+    std::string Make() {
+        if (!reader_.ReadRecord(record_, kMostColumns) && !reader_.Fault())
+            return "there is no row of column names";
+        if (reader_.Fault()) return FaultText(NoMoreThan("columns", kMostColumns));
+        width_ = record_.size();
+        for (const std::string_view field : record_)
+            AddColumn(field);
+        while (reader_.ReadRecord(record_, width_))
+            if (!IsEmptyLine() && !AddRow())
+                return AtLine(reader_.RecordLine(), "a table holds no more than 32767 rows");
+        return reader_.Fault() ? FaultText(NoMoreThan("fields", width_)) : std::string();
     }
 
 private:
-    void TakeHeaders() {
-        if (record_.size() > static_cast<std::size_t>(MaxColumns.Number())) {
-            table_.fault = Size(record_.size(), "columns", MaxColumns.Number());
-            return;
-        }
-        for (const std::string& field : record_)
-            table_.headers.push_back(WithLineBreaks(Decode(field), u" "));
-    }
+    static constexpr auto kMostColumns = static_cast<std::size_t>(MaxColumns.Number());
 
-    void TakeRow() {
-        const std::size_t width = table_.headers.size();
-        if (width > 1 && record_.size() == 1 && record_[0].empty()) return;
-        if (record_.size() > width) {
-            table_.fault = AtLine(reader_.RecordLine(), Size(record_.size(), "fields", width));
-        } else if (table_.rows.size() == static_cast<std::size_t>(kMaxRows.Number())) {
-            table_.fault = AtLine(reader_.RecordLine(), "a table holds no more than 32767 rows");
-        } else {
-            AddRow(width);
+    std::string FaultText(std::string_view tooMany) const {
+        const std::size_t line = reader_.FaultLine();
+        switch (*reader_.Fault()) {
+        case CsvFault::UnclosedQuote:
+            return AtLine(line, "the quoted field that begins here doesn't end");
+        case CsvFault::TextAfterQuote:
+            return AtLine(line, "there is text after the closing quote of a field");
+        default:
+            return AtLine(line, tooMany);
         }
     }
 
-    void AddRow(std::size_t width) {
-        std::vector<Text> cells;
-        cells.reserve(width);
-        for (const std::string& field : record_)
-            cells.push_back(WithLineBreaks(Decode(field), kCrLf));
-        cells.resize(width);
-        table_.rows.push_back(std::move(cells));
+    bool IsEmptyLine() const { return width_ > 1 && record_.size() == 1 && record_[0].empty(); }
+
+    void AddColumn(std::string_view field) {
+        const Col col = grid_.ColCount() + 1;
+        grid_.AddCol(NumberText(col.Number()) + u"no", WithLineBreaks(Decode(field), u" "));
     }
 
-    template <class Number>
-    static std::string Size(std::size_t size, std::string_view what, Number most) {
-        return std::to_string(size) + " " + std::string(what) + " where there can be no more than " +
-               std::to_string(most);
+    bool AddRow() {
+        const Row row = grid_.RowCount() + 1;
+        if (row > kMaxRows) return false;
+        grid_.SetRowCount(row);
+        Col col;
+        for (const std::string_view field : record_)
+            SetCell(row, ++col, field);
+        return true;
     }
 
-    Text Decode(const std::string& field) const { return utf8_ ? FromUtf8(field) : page_.ToText(field); }
+    void SetCell(Row row, Col col, std::string_view field) {
+        if (const auto bytes = InPage(field))
+            grid_.SetCellBytes(row, col, *bytes);
+        else
+            grid_.SetCellValue(row, col, WithLineBreaks(Decode(field), kCrLf));
+    }
 
-    CodePage page_;
+    /// The cell as bytes of the code page, made piece by piece, because a long text of characters would need
+    /// several times the memory. Nothing when the page lacks a character.
+    std::optional<std::string> InPage(std::string_view field) const {
+        std::string bytes;
+        bytes.reserve(field.size() + LineBreaks(field));
+        while (!field.empty()) {
+            const std::string_view piece = field.substr(0, PieceSize(field));
+            const Text text = WithLineBreaks(Decode(piece), kCrLf);
+            if (!grid_.Page().Holds(text)) return std::nullopt;
+            grid_.Page().AppendBytes(text, bytes);
+            field.remove_prefix(piece.size());
+        }
+        return bytes;
+    }
+
+    static std::size_t LineBreaks(std::string_view field) {
+        return static_cast<std::size_t>(
+            std::ranges::count_if(field, [](char byte) { return byte == '\r' || byte == '\n'; }));
+    }
+
+    /// A piece ends neither inside a character nor inside a line break.
+    static std::size_t PieceSize(std::string_view field) {
+        std::size_t size = std::min(field.size(), kPiece);
+        const auto parts = [field](std::size_t at) {
+            return (field[at] & 0xC0) == 0x80 || (field[at] == '\n' && field[at - 1] == '\r');
+        };
+        while (size < field.size() && size < kPiece + 4 && parts(size))
+            ++size;
+        return size;
+    }
+
+    Text Decode(std::string_view field) const { return utf8_ ? FromUtf8(field) : grid_.Page().ToText(field); }
+
+    static constexpr std::size_t kPiece = 16 * 1024;
+
+    Grid& grid_;
     bool utf8_;
     CsvReader reader_;
-    std::vector<std::string> record_;
-    CsvTable table_;
+    CsvReader::Record record_;
+    std::size_t width_ = 0;
 };
 
 } // namespace
 
-CsvTable ReadCsvTable(std::string_view bytes, char delimiter, const CodePage& page) {
+std::string FillFromCsv(Grid& grid, std::string_view bytes, char delimiter) {
     const bool utf16 = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
-    if (utf16) return {{}, {}, "it is in UTF-16: save it as UTF-8"};
-    return TableMaker(bytes, delimiter, page).Make();
+    if (utf16) return "it is in UTF-16: save it as UTF-8";
+    return TableMaker(grid, bytes, delimiter).Make();
 }
 
 Text WithLineBreaks(TextView text, TextView lineBreak) {

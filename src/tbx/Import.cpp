@@ -1,4 +1,3 @@
-#include "common/number/Number.h"
 #include "tbx/CsvTable.h"
 #include "tbx/Files.h"
 #include "tbx/TableCheck.h"
@@ -23,24 +22,12 @@ void SetLook(TableModel& table) {
     table.TableFontSize = kFontSize;
 }
 
-void AddColumns(const std::vector<Text>& headers, Grid& grid) {
-    for (const Text& header : headers) {
-        const Col col = grid.ColCount() + 1;
-        grid.AddCol(NumberText(col.Number()) + u"no", header);
+void SetSizes(Grid& grid) {
+    for (Col col{1}; col <= grid.ColCount(); ++col)
         grid.SetColWidth(col, kColWidth);
-    }
-}
-
-void AddRows(const std::vector<std::vector<Text>>& rows, Grid& grid) {
-    grid.SetRowCount(Row(static_cast<int>(rows.size())));
-    Row row;
-    for (const auto& cells : rows) {
-        ++row;
+    for (Row row{1}; row <= grid.RowCount(); ++row) {
         grid.SetRowHeight(row, kRowHeight);
         grid.SetCellCheckShown(row, true);
-        Col col;
-        for (const Text& cell : cells)
-            grid.SetCellValue(row, ++col, cell);
     }
     grid.SetCurRow(Row{1});
 }
@@ -58,15 +45,14 @@ ExitStatus ReportLosses(const std::string& name, const Grid& grid, Environment& 
 ExitStatus RunImport(const Call& call, Environment& environment) {
     const std::string& in = call.operands[0];
     const std::string& out = call.operands[1];
-    const auto bytes = ReadInput(in, environment);
+    auto bytes = ReadInput(in, environment);
     if (!bytes) return ExitStatus::Error;
-    const CsvTable csv = ReadCsvTable(bytes->View(), call.delimiter, call.page);
-    if (!csv.fault.empty()) return Fail(environment, Quoted(in) + ": " + csv.fault);
-
     Workbench workbench(call.page);
     SetLook(workbench.Table());
-    AddColumns(csv.headers, workbench.Grid());
-    AddRows(csv.rows, workbench.Grid());
+    const std::string fault = FillFromCsv(workbench.Grid(), bytes->View(), call.delimiter);
+    if (!fault.empty()) return Fail(environment, Quoted(in) + ": " + fault);
+    bytes.reset();
+    SetSizes(workbench.Grid());
     const std::string table = workbench.Save(PathOfArgument(out, environment));
     const ExitStatus status = ReportLosses(out, workbench.Grid(), environment);
     // What the table loses would be lost for good with the file from which it came.

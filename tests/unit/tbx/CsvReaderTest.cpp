@@ -20,8 +20,8 @@ struct Outcome {
 Outcome Read(std::string_view bytes, char delimiter = ',') {
     CsvReader reader(bytes, delimiter);
     Outcome outcome;
-    for (Record record; reader.ReadRecord(record);) {
-        outcome.records.push_back(record);
+    for (CsvReader::Record record; reader.ReadRecord(record);) {
+        outcome.records.emplace_back(record.begin(), record.end());
         outcome.lines.push_back(reader.RecordLine());
     }
     outcome.fault = reader.Fault();
@@ -92,9 +92,18 @@ TEST(CsvReader, TextAfterAClosingQuoteIsAFaultOfTheLineWhereItCloses) {
     EXPECT_EQ(outcome.faultLine, 2u);
 }
 
+TEST(CsvReader, ARecordWithMoreFieldsThanAllowedIsAFaultOfItsLine) {
+    CsvReader reader("a,b\nc,d,e\nf\n");
+    CsvReader::Record record;
+    EXPECT_TRUE(reader.ReadRecord(record, 2));
+    EXPECT_FALSE(reader.ReadRecord(record, 2));
+    EXPECT_EQ(reader.Fault(), CsvFault::TooManyFields);
+    EXPECT_EQ(reader.FaultLine(), 2u);
+}
+
 TEST(CsvReader, NothingIsReadAfterAFault) {
     CsvReader reader("\"a\"b\nc\n");
-    Record record;
+    CsvReader::Record record;
     EXPECT_FALSE(reader.ReadRecord(record));
     EXPECT_FALSE(reader.ReadRecord(record));
     EXPECT_THAT(record, IsEmpty());

@@ -45,9 +45,9 @@ std::string Write(const Table& table, char delimiter) {
 Table Read(std::string_view bytes, char delimiter) {
     Table table;
     CsvReader reader(bytes, delimiter);
-    for (std::vector<std::string> record; reader.ReadRecord(record);) {
+    for (CsvReader::Record record; reader.ReadRecord(record);) {
         table.emplace_back();
-        for (const std::string& field : record)
+        for (const std::string_view field : record)
             table.back().push_back(FromUtf8(field));
     }
     EXPECT_FALSE(reader.Fault());

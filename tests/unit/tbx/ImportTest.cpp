@@ -10,6 +10,13 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
+std::string Doubled(std::string_view text) {
+    std::string doubled;
+    for (const char byte : text)
+        doubled.append(byte == '"' ? 2 : 1, byte);
+    return doubled;
+}
+
 class Import : public testing::Test {
 protected:
     /// Imports the bytes and gives the new table back as CSV.
@@ -91,6 +98,28 @@ TEST_F(Import, TakesADelimiter) {
     EXPECT_EQ(ImportAndRead("a\tb\n1\t2\n", {"-d", "tab"}), "a,b\r\n1,2\r\n");
 }
 
+TEST_F(Import, ALongCellComesInPiecesThatPartNothing) {
+    // Line breaks, characters of two bytes and doubled quotes are at every place of a piece.
+    for (std::size_t shift = 0; shift < 4; ++shift) {
+        const std::string begin = std::string(16 * 1024 - 2 + shift, 'a') + "\r\né";
+        std::string expected = begin;
+        std::string quoted = begin;
+        for (int i = 0; i < 20'000; ++i) {
+            expected += "é\r\n\"";
+            quoted += i % 2 == 0 ? "é\r\n\"\"" : "é\n\"\"";
+        }
+        EXPECT_EQ(ImportAndRead("x\n\"" + quoted + "b\"\n"), "x\r\n\"" + Doubled(expected) + "b\"\r\n");
+    }
+}
+
+TEST_F(Import, NothingIsReadAfterTheFirstFieldTooMany) {
+    std::string names = "a";
+    for (int i = 2; i <= 25; ++i)
+        names += ",a";
+    ExpectRefusal(names + "\n\"not closed", "line 1: there are more columns than the 24 that there can be");
+    ExpectRefusal("a,b\n1,2,\"not closed", "line 2: there are more fields than the 2 that there can be");
+}
+
 TEST_F(Import, ReadsAndWritesTheStandardStreams) {
     run.input = "a\n1\n";
     EXPECT_EQ(run.Run({"import", "-", "-"}), ExitStatus::Success);
@@ -99,7 +128,7 @@ TEST_F(Import, ReadsAndWritesTheStandardStreams) {
 
 TEST_F(Import, WhatIsNoTableIsRefused) {
     ExpectRefusal("", "there is no row of column names");
-    ExpectRefusal("a,b\n1,2\n1,2,3\n", "line 3: 3 fields where there can be no more than 2");
+    ExpectRefusal("a,b\n1,2\n1,2,3\n", "line 3: there are more fields than the 2 that there can be");
     ExpectRefusal("a,b\n1,\"2\n", "line 2: the quoted field that begins here doesn't end");
     ExpectRefusal("a,b\n\"1\n\"x,2\n", "line 3: there is text after the closing quote of a field");
     ExpectRefusal("\"a\n", "line 1: the quoted field that begins here doesn't end");
@@ -114,7 +143,7 @@ TEST_F(Import, ATableThatNoFileCanHoldIsRefused) {
         names += ",a";
     EXPECT_THAT(ImportAndRead(names + "\n1\n"), HasSubstr("\r\n1,,"));
     run.files.Erase(u"/data/out.tbx");
-    ExpectRefusal(names + ",a\n1\n", "25 columns where there can be no more than 24");
+    ExpectRefusal(names + ",a\n1\n", "line 1: there are more columns than the 24 that there can be");
 
     std::string rows = "a\n";
     for (int i = 1; i <= 32767; ++i)
