@@ -3,6 +3,7 @@
 #include "common/text/ScopedValue.h"
 #include "document/store/MemoryTextStore.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace korvane {
@@ -13,6 +14,25 @@ namespace {
 constexpr TextView kNotWritten = u"1d09";
 constexpr TextView kNotMade = u"1d0a";
 constexpr TextView kNotLoaded = u"1d08";
+
+/// Where the first characters of a text end in one that has more in it.
+int EndIn(TextView now, TextView first) {
+    std::size_t at = 0;
+    for (const char16_t c : first) {
+        const std::size_t found = now.find(c, at);
+        if (found == TextView::npos) break;
+        at = found + 1;
+    }
+    return static_cast<int>(at);
+}
+
+/// Where the character at a place is then. The beginning stays the beginning.
+int PlaceIn(TextView now, TextView before, int place) {
+    if (place == 0) return 0;
+    const std::size_t next = static_cast<std::size_t>(place) + 1;
+    const int end = EndIn(now, before.substr(0, next));
+    return next > before.size() ? end : std::max(end - 1, 0);
+}
 
 } // namespace
 
@@ -123,6 +143,23 @@ bool TextControl::LoadFromMemory(std::string_view bytes, int format) {
     if (!read) return Fail(kNotLoaded);
     Take(std::move(*read));
     return true;
+}
+
+bool TextControl::LoadMoreFromMemory(std::string_view bytes, int format) {
+    const Text before = All();
+    const TextTop top = Scroll == nullptr ? TextTop() : Scroll->Top();
+    const int start = SelStart();
+    const int end = start + SelLength();
+    if (!LoadFromMemory(bytes, format)) return false;
+    const int from = PlaceIn(All(), before, start);
+    const int to = EndIn(All(), TextView(before).substr(0, static_cast<std::size_t>(end)));
+    SetSelection(from, std::max(to - from, 0));
+    if (Scroll != nullptr) Scroll->SetTop({PlaceIn(All(), before, top.place), top.above});
+    return true;
+}
+
+void TextControl::ShowTop() {
+    if (Scroll != nullptr) Scroll->SetTop({});
 }
 
 std::string TextControl::SaveToMemory(int format) const {

@@ -3,6 +3,7 @@
 #include "controls/Control.h"
 #include "controls/TextDialogs.h"
 #include "controls/TextFiles.h"
+#include "controls/TextScroll.h"
 #include "document/editing/TextEditing.h"
 
 #include <functional>
@@ -103,6 +104,9 @@ public:
     bool Load(TextView path, int format);
     bool Save(TextView path, int format);
     bool LoadFromMemory(std::string_view bytes, int format);
+    /// The same for a text that only has more in it than the present one, such as pictures that came later.
+    /// The selection and the seen part of the text stay.
+    bool LoadMoreFromMemory(std::string_view bytes, int format);
     /// Empty when there is no such format in memory.
     std::string SaveToMemory(int format) const;
     /// The attributes 0 to 5 are the sizes of the page in the order of `Page::Size`. After a load they are
@@ -110,6 +114,11 @@ public:
     int LoadSaveAttribute(int index) const;
     void SetLoadSaveAttribute(int index, int value) { attributes_[index] = value; }
     void SetLoadSaveAttribute(int index, TextView value) { attributes_[index] = Text(value); }
+
+    /// Shows the beginning of the text.
+    void ShowTop();
+    /// Outlives the control, or is taken away. Without a view there is none.
+    TextScroll* Scroll = nullptr;
 
     // Dialogs. Without `Dialogs`, none is shown.
 

@@ -30,11 +30,14 @@ public:
 
     /// Answers what waits, and what is asked meanwhile.
     void AnswerAll() {
-        while (!waiting_.empty()) {
-            const Waiting next = std::move(waiting_.front());
-            waiting_.erase(waiting_.begin());
-            next.then(AnswerTo(next.address));
-        }
+        while (!waiting_.empty())
+            AnswerNext();
+    }
+    /// Answers what waits longest.
+    void AnswerNext() {
+        const Waiting next = std::move(waiting_.front());
+        waiting_.erase(waiting_.begin());
+        next.then(AnswerTo(next.address));
     }
 
     /// All requests so far, in order.

@@ -183,7 +183,7 @@ void PageEngine::TakePage(TextView type, std::string bytes) {
         sources_ = PicturesOf(html_);
         ShowHtml(html_);
     } else if (bare.starts_with(u"text/")) {
-        text_.LoadFromMemory(bytes, TextFormat::Plain);
+        Show(bytes, TextFormat::Plain);
     } else {
         ShowNote(u"Files of this kind can't be shown here.", Address() + u"\n\n" + bare);
     }
@@ -234,14 +234,20 @@ void PageEngine::TakePicture(const PictureSource& source, const Fetched& fetched
 }
 
 void PageEngine::PicturesDone() {
-    if (!pictures_.empty()) ShowHtml(WithPictures(html_, pictures_, sources_));
+    if (!pictures_.empty())
+        text_.LoadMoreFromMemory(WithPictures(html_, pictures_, sources_), TextFormat::Html);
     Complete();
 }
 
 // ---- Showing --------------------------------------------------------------------------------------------
 
-void PageEngine::ShowHtml(const std::string& html) {
-    text_.LoadFromMemory(html, TextFormat::Html);
+void PageEngine::Show(std::string_view page, int format) {
+    text_.LoadFromMemory(page, format);
+    text_.ShowTop();
+}
+
+void PageEngine::ShowHtml(std::string_view html) {
+    Show(html, TextFormat::Html);
 }
 
 void PageEngine::ShowNote(TextView title, TextView text) {

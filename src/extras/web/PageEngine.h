@@ -58,7 +58,8 @@ private:
     void ReadPicture(const PictureSource& source);
     void PicturesDone();
 
-    void ShowHtml(const std::string& html);
+    void Show(std::string_view page, int format);
+    void ShowHtml(std::string_view html);
     void ShowNote(TextView title, TextView text);
 
     App& app_;

@@ -3,6 +3,7 @@
 #include "MirrorCheck.h"
 #include "QtSupport.h"
 #include "controls/Form.h"
+#include "document/html/Html.h"
 #include "platform/qt/text/TextClipboard.h"
 #include "platform/qt/text/TextControlAdaptor.h"
 #include "platform/qt/text/TextItem.h"
@@ -755,6 +756,82 @@ TEST_F(QtTextViewTest, ShowsAWantedSelectionInTheUpperPart) {
     // Above the first line there is nothing to show.
     EXPECT_LT(shownAt(1), high);
     EXPECT_GE(shownAt(1), 0);
+}
+
+/// Reads pages.
+class HtmlFiles final : public TextFiles {
+public:
+    std::optional<doc::ReadResult> Load(TextView, int) override { return std::nullopt; }
+    TextSaving Save(TextView, int, const doc::Document&) override { return TextSaving::NotMade; }
+    Text Needed(int, FileUse) const override { return {}; }
+    std::optional<doc::ReadResult> Read(std::string_view bytes, int) override { return doc::ReadHtml(bytes); }
+    std::optional<std::string> Written(const doc::Document&, int) override { return std::nullopt; }
+};
+
+class LoadedTextViewTest : public QtTextViewTest {
+protected:
+    LoadedTextViewTest() { control.Files = &files; }
+    static std::string Page(const std::string& picture) {
+        std::string page = picture;
+        for (int line = 0; line < 300; ++line)
+            page += "<p>line " + std::to_string(line) + " of many</p>" + (line == 50 ? picture : "");
+        return page;
+    }
+    /// What the upper edge of the view shows, and where its line begins.
+    std::pair<Text, int> Seen() {
+        Settle();
+        const doc::Pos place = view.PlaceAt(view.mapToScene(QPoint(0, 0)));
+        return {control.All().substr(place, 12), view.mapFromScene(view.CursorAt(place).topLeft()).y()};
+    }
+
+    const std::string picture =
+        "<img width=90 height=700 src='data:image/png;base64,"
+        "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5ErkJggg=='>";
+    HtmlFiles files;
+};
+
+TEST_F(LoadedTextViewTest, APictureThatComesLaterLeavesWhatIsSeen) {
+    control.LoadFromMemory(Page(""), TextFormat::Html);
+    Settle();
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / 2 + 3);
+    const auto before = Seen();
+    ASSERT_NE(before.first, control.All().substr(0, 12));
+    control.LoadMoreFromMemory(Page(picture), TextFormat::Html);
+    EXPECT_EQ(Seen(), before);
+    control.LoadMoreFromMemory(Page(picture + picture), TextFormat::Html);
+    EXPECT_EQ(Seen(), before);
+}
+
+TEST_F(LoadedTextViewTest, AShortTextCanBeScrolledToItsEndAtOnce) {
+    std::string page;
+    for (int line = 0; line < 60; ++line)
+        page += "<p>line</p>";
+    control.LoadFromMemory(page, TextFormat::Html);
+    Settle();
+    const int most = view.verticalScrollBar()->maximum();
+    EXPECT_GT(most, 0);
+    control.LoadFromMemory("<p>one line</p>", TextFormat::Html);
+    control.ShowTop();
+    Settle();
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(LoadedTextViewTest, APictureAtTheTopIsSeen) {
+    control.LoadFromMemory(Page(""), TextFormat::Html);
+    Settle();
+    control.LoadMoreFromMemory(Page(picture), TextFormat::Html);
+    Settle();
+    EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->minimum());
+}
+
+TEST_F(LoadedTextViewTest, AnotherTextIsShownFromItsBeginning) {
+    control.LoadFromMemory(Page(""), TextFormat::Html);
+    Settle();
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    control.LoadFromMemory(Page("other"), TextFormat::Html);
+    control.ShowTop();
+    Settle();
+    EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->minimum());
 }
 
 TEST_F(QtTextViewTest, TypingGoesOnAfterAMenuThatAKeyOpened) {

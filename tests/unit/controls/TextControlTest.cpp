@@ -191,6 +191,26 @@ TEST_F(TextControlTest, OnlyTheReasonOfAFileThatCantBeWrittenHasItsCode) {
     EXPECT_EQ(errors[2].find(u"1d09"), Text::npos);
 }
 
+TEST_F(TextControlTest, ATextWithMoreInItKeepsTheSelection) {
+    control.SetAll(u"one two\r\nthree");
+    files.file = doc::ReadResult{doc::FromPlainText(u"\uFFFCone \uFFFCtwo\r\n\uFFFC\r\nthree")};
+    control.SetSelection(4, 3);
+    ASSERT_TRUE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(control.SelText(), u"two");
+    EXPECT_EQ(control.SelStart(), 6);
+    control.SetAll(u"one two\r\nthree");
+    ASSERT_TRUE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(control.SelStart(), 0);
+    control.SetSelection(0, -1);
+    files.file = doc::ReadResult{doc::FromPlainText(u"other")};
+    ASSERT_TRUE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(control.All(), u"other");
+    files.file.reset();
+    control.SetSelection(2, 2);
+    EXPECT_FALSE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(control.SelText(), u"he");
+}
+
 TEST_F(TextControlTest, AttributesAreNumbersAndTexts) {
     EXPECT_EQ(control.LoadSaveAttribute(37), 0);
     control.SetLoadSaveAttribute(37, 1);

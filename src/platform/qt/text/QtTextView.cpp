@@ -70,6 +70,7 @@ QtTextView::~QtTextView() {
 
 void QtTextView::Attach(TextControl& control) {
     control_ = &control;
+    control.Scroll = this;
     mirror_ = std::make_unique<TextMirror>(StoreOf(control));
     mirror_->Stale = [this] { ShowSoon(); };
     mirror_->Replaced = [this](QTextDocument& document) {
@@ -78,6 +79,8 @@ void QtTextView::Attach(TextControl& control) {
         connect(document.documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
                 &QtTextView::FitScene);
         Prepare(document);
+        // A short text is laid out by now, and doesn't tell its size any more.
+        FitScene();
     };
     ReadColours();
     mirror_->Replaced(mirror_->Shown());
@@ -89,15 +92,20 @@ void QtTextView::Attach(TextControl& control) {
 
 void QtTextView::Detach() {
     if (control_ == nullptr) return;
-    item_->setDocument(&nothing_);
-    mirror_.reset();
-    control_ = nullptr;
+    control_->Scroll = nullptr;
+    ShowNothing();
 }
 
 void QtTextView::Forget() {
     if (control_ == nullptr) return;
     mirror_->Abandon();
-    Detach();
+    ShowNothing();
+}
+
+void QtTextView::ShowNothing() {
+    item_->setDocument(&nothing_);
+    mirror_.reset();
+    control_ = nullptr;
 }
 
 bool QtTextView::Locked() const {
@@ -286,12 +294,35 @@ void QtTextView::ScrollTo(const QRectF& place) {
 }
 
 void QtTextView::ScrollHigh() {
-    const QRectF line = CursorAt(mirror_->FromQt(item_->textCursor().selectionStart()));
+    ShowLineAt(CursorAt(mirror_->FromQt(item_->textCursor().selectionStart())),
+               viewport()->height() / kHighPart);
+}
+
+void QtTextView::ShowLineAt(const QRectF& line, int y) {
     // What comes below the line may not be laid out yet.
     ScrollTo(CursorAt(PlaceAt(line.topLeft() + QPointF(0, viewport()->height() / Zoom()))));
-    const int wanted = viewport()->height() / kHighPart;
     QScrollBar& bar = *verticalScrollBar();
-    bar.setValue(bar.value() + mapFromScene(line.topLeft()).y() - wanted);
+    bar.setValue(bar.value() + mapFromScene(line.topLeft()).y() - y);
+}
+
+TextTop QtTextView::Top() {
+    ShowText();
+    const QPoint corner(0, 0);
+    const doc::Pos place = PlaceAt(mapToScene(corner));
+    const int line = mapFromScene(CursorAt(place).topLeft()).y();
+    // Nothing is above the first line, and what comes there later is to be seen.
+    if (verticalScrollBar()->value() == verticalScrollBar()->minimum()) return {};
+    return {static_cast<int>(place), -line};
+}
+
+void QtTextView::SetTop(const TextTop& top) {
+    ShowText();
+    if (top.place == 0) {
+        reached_ = 0;
+        FitScene();
+        return verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+    }
+    ShowLineAt(CursorAt(static_cast<doc::Pos>(top.place)), -top.above);
 }
 
 QRectF QtTextView::CursorAt(doc::Pos position) const {

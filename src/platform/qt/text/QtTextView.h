@@ -24,7 +24,7 @@ struct CursorPlace {
 
 /// Shows the text of a control, and lets the user edit it. The control has the text: the view asks it for
 /// every change and shows what came of it.
-class QtTextView final : public QGraphicsView {
+class QtTextView final : public QGraphicsView, private TextScroll {
     Q_OBJECT
 
 public:
@@ -115,6 +115,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    TextTop Top() override;
+    void SetTop(const TextTop& top) override;
     void Prepare(QTextDocument& document) const;
     void Fit();
     void KeepTop(const std::function<void()>& layOut);
@@ -123,6 +125,9 @@ private:
     void SetCursor(int anchor, int position);
     void ScrollTo(const QRectF& place);
     void ScrollHigh();
+    /// So many pixels below the upper edge of the view.
+    void ShowLineAt(const QRectF& line, int y);
+    void ShowNothing();
     void TellReaders();
     int PageCount() const;
     void DeleteTo(QTextCursor::MoveOperation way);

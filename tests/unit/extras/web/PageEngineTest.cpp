@@ -289,6 +289,19 @@ TEST_F(PageEngineTest, PicturesOfTheSameServerAreShown) {
     EXPECT_EQ(Pictures(), 1U);
 }
 
+TEST_F(PageEngineTest, APictureThatComesLaterLeavesTheSelection) {
+    net.PutPage(u"https://x.org/p", "<img src='i.png'><p>a <img src='i.png'>word here</p>");
+    net.Put(u"https://x.org/i.png", {.outcome = Outcome::Done, .type = u"image/png", .bytes = kPng});
+    engine.Navigate(u"x.org/p");
+    net.AnswerNext();
+    ASSERT_EQ(Pictures(), 0U);
+    const std::size_t word = text.All().find(u"word");
+    text.MoveSelection(static_cast<int>(word), 4);
+    net.AnswerAll();
+    ASSERT_EQ(Pictures(), 2U);
+    EXPECT_EQ(text.SelText(), u"word");
+}
+
 TEST_F(PageEngineTest, NoPictureIsFetchedFromElsewhere) {
     net.PutPage(u"https://x.org/p",
                 "<img src='https://y.org/a.png'><img src='http://x.org/b.png'><img src='//z.org/c.png'>"
