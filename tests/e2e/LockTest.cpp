@@ -77,6 +77,32 @@ TEST_F(LockTest, CoversTheDeskUntilThePasswordIsGiven) {
     EXPECT_EQ(program->ExitStatus(), 0);
 }
 
+TEST_F(LockTest, ASecondStartLeavesTheLockAboveAndItsFileIsOpenAfterwards) {
+    const std::filesystem::path other = desk.Path("other.tbx");
+    WriteBytes(other, Table(other, "old"));
+    WriteBytes(desk.Path("sea.bmp"), Bmp());
+    Set(kWallpaperFile, desk.Path("sea.bmp").string());
+    Set(kReturnPassword, "sesame");
+    ASSERT_NO_FATAL_FAILURE(Start());
+    desk.Press({"F7"});
+    lock = desk.GoTo(kLock);
+    ASSERT_NE(lock, "");
+    EXPECT_EQ(desk.Start({})->ExitStatus(), 0);
+    EXPECT_TRUE(desk.Until([this] { return desk.Screen().Topmost() == lock; }));
+    EXPECT_EQ(desk.Start({other.string()})->ExitStatus(), 0);
+    EXPECT_TRUE(desk.Until([this] { return desk.Screen().Topmost() == lock; }));
+    ASSERT_EQ(desk.GoTo(kLock), lock);
+    ASSERT_NO_FATAL_FAILURE(Answer("wrong"));
+    ASSERT_NO_FATAL_FAILURE(ExpectWrong());
+    ASSERT_NO_FATAL_FAILURE(Answer("sesame"));
+    ASSERT_TRUE(desk.Gone(kLock));
+    ASSERT_EQ(desk.GoTo(kMain), main);
+    Edit(" and new");
+    EXPECT_TRUE(SavedAs(other, "old and new")) << ReadBytes(other);
+    Exit();
+    EXPECT_EQ(program->ExitStatus(), 0);
+}
+
 TEST_F(LockTest, ALostPictureIsReportedAndTheDeskIsCoveredAllTheSame) {
     Set(kWallpaperFile, desk.Path("lost.png").string());
     Set(kReturnPassword, "sesame");

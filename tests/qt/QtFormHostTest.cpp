@@ -220,6 +220,29 @@ TEST_F(QtFormHostTest, RaisingBringsAWindowBack) {
     EXPECT_TRUE(Window().isVisible());
 }
 
+TEST_F(QtFormHostTest, ARaisedWindowStaysBelowWhatBlocksIt) {
+    frmAsk main(host, "frmMain");
+    main.Show();
+    test::Settle();
+    Then([&] {
+        QDialog box(&Window());
+        box.setModal(true);
+        box.show();
+        test::Settle();
+        host.Raise(main);
+        test::Settle();
+        EXPECT_EQ(QApplication::activeWindow(), &box);
+        box.close();
+        test::Settle();
+        host.Raise(main);
+        test::Settle();
+        EXPECT_EQ(QApplication::activeWindow(), &Window());
+        form.Close();
+        main.Close();
+    });
+    form.ShowModal();
+}
+
 TEST_F(QtFormHostTest, AnEntryOfAPopUpIsChosen) {
     constexpr MenuEntry entries[] = {
         {0, "mnuFirst", u"First", ""}, {0, "", u"", ""}, {0, "mnuSecond", u"Second", ""}};

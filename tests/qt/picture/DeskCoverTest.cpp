@@ -22,6 +22,18 @@ protected:
     }
 };
 
+/// Counts how often a window is raised.
+class Raises : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ZOrderChange) ++count;
+        return false;
+    }
+};
+
 class DeskCoverTest : public testing::Test {
 protected:
     DeskCoverTest() { window.setWindowModality(Qt::ApplicationModal); }
@@ -72,6 +84,15 @@ TEST_F(DeskCoverTest, TheCoversGoWithTheWindow) {
     cover.Cover({QRect(2000, 0, 500, 400)});
     window.hide();
     EXPECT_TRUE(Covers().isEmpty());
+}
+
+TEST_F(DeskCoverTest, TheCoversAreRaisedWithTheWindow) {
+    Show();
+    cover.Cover({QRect(2000, 0, 500, 400)});
+    Raises raises;
+    Covers().constFirst()->installEventFilter(&raises);
+    window.raise();
+    EXPECT_EQ(raises.count, 1);
 }
 
 TEST_F(DeskCoverTest, TheWindowKeepsTheKeyboardWhileItIsShown) {

@@ -92,6 +92,10 @@ void DeskCover::OfWindow(const QEvent& event) {
     case QEvent::WindowUnblocked:
         if (window_.isVisible()) window_.grabKeyboard();
         break;
+    case QEvent::ZOrderChange:
+        for (const auto& cover : covers_)
+            cover->raise();
+        break;
     case QEvent::WindowDeactivate:
         QMetaObject::invokeMethod(this, &DeskCover::StayAbove, Qt::QueuedConnection);
         break;

@@ -112,8 +112,22 @@ void QtFormHost::Raise(Form& form) {
     if (window == nullptr) return;
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
-    window->raise();
-    window->activateWindow();
+    // What blocks the window stays above it and keeps the keyboard, such as a lock of the screen.
+    const QWidgetList above = BlockersOf(form);
+    for (QWidget* raised : QWidgetList{window} + above)
+        raised->raise();
+    (above.isEmpty() ? window : above.last())->activateWindow();
+}
+
+QWidgetList QtFormHost::BlockersOf(const Form& form) const {
+    QWidgetList blockers;
+    const auto own = std::ranges::find(shown_, &form, &Shown::form);
+    for (auto shown = own; shown != shown_.end(); ++shown) {
+        if (shown != own && shown->window != nullptr && shown->window->isModal()) blockers << shown->window;
+    }
+    QWidget* const box = QApplication::activeModalWidget();
+    if (box != nullptr && box != own->window && !blockers.contains(box)) blockers << box;
+    return blockers;
 }
 
 bool QtFormHost::ShowsModal() const {

@@ -47,6 +47,8 @@ private:
     std::unique_ptr<QWidget> MakeLook(const Form& form) const;
     void Bring(Form& form, QWidget& window);
     Shown* Find(const Form& form);
+    /// The modal windows and the box above the window of a form that is shown, the highest last.
+    QWidgetList BlockersOf(const Form& form) const;
     /// The window over which a new dialog opens, or nullptr when there is none.
     QWidget* Opener() const;
 
