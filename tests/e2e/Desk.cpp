@@ -52,6 +52,7 @@ Desk::Desk()
     fs::permissions(folder_ / "run", fs::perms::owner_all);
     // The program keeps its state in its own folder, so each desk gets its own copy.
     fs::copy_file(KORVANE_PROGRAM, folder_ / "korvane");
+    fs::create_symlink(KORVANE_NET, folder_ / fs::path(KORVANE_NET).filename());
     for (const auto* const name : {"Korvane.ini", "Korvane_Help.rtf"})
         fs::copy_file(fs::path(KORVANE_SOURCE_DIR "/packaging") / name, folder_ / name);
     StartDisplay();

@@ -1,6 +1,7 @@
 // Tests the list of websites and the window of pages, with the keyboard alone.
 
 #include "e2e/DeskTest.h"
+#include "e2e/LoopbackServer.h"
 
 namespace korvane::e2e {
 namespace {
@@ -78,6 +79,36 @@ TEST_F(WebTest, APageOpensFromTheListerAndClosesAgain) {
     desk.Press({"space"});
     ASSERT_NE(desk.GoTo(kBrowser), "");
     desk.Press({"shift+Tab", "shift+Tab", "Return", "Escape"});
+    ASSERT_TRUE(desk.Gone(kBrowser));
+    ASSERT_NE(desk.GoTo(kLister), "");
+    desk.Press({"Escape"});
+    ASSERT_TRUE(desk.Gone(kLister));
+    ASSERT_NO_FATAL_FAILURE(End());
+}
+
+TEST_F(WebTest, APageOfAServerIsShownWithItsPictureAndItsLink) {
+    LoopbackServer server;
+    server.Put("/page.htm", "text/html", "<a href='next.htm'>A link</a><p>and <img src='picture.png'></p>");
+    server.Put("/picture.png", "image/png", "\x89PNG\r\n\x1A\n...");
+    server.Put("/next.htm", "text/html", "<p>The next page</p>");
+    const auto asked = [&](const std::vector<std::string>& paths) {
+        return Until([&] { return server.Paths() == paths; }, {&server, &desk.Screen()});
+    };
+    const fs::path pages = desk.Path("pages");
+    fs::create_directories(pages);
+    WriteBytes(pages / "start.htm", "<p>A page of the disk</p>");
+    ASSERT_NO_FATAL_FAILURE(Start(pages));
+    desk.Press({"ctrl+F5"});
+    ASSERT_NE(desk.GoTo(kLister), "");
+    desk.Press({"space"});
+    ASSERT_NE(desk.GoTo(kBrowser), "");
+    desk.Press({"shift+Tab", "shift+Tab", "ctrl+a"});
+    desk.Type(server.Address("/page.htm"));
+    desk.Press({"Return"});
+    EXPECT_TRUE(asked({"/page.htm", "/picture.png"}));
+    desk.Press({"Tab", "Tab", "ctrl+Home", "Return"});
+    EXPECT_TRUE(asked({"/page.htm", "/picture.png", "/next.htm"}));
+    desk.Press({"Escape"});
     ASSERT_TRUE(desk.Gone(kBrowser));
     ASSERT_NE(desk.GoTo(kLister), "");
     desk.Press({"Escape"});
