@@ -20,4 +20,13 @@ inline Entries EntriesOf(const Menu& menu) {
     return entries;
 }
 
+/// The captions of the menus themselves.
+inline std::vector<Text> TitlesOf(const Menu& menu) {
+    std::vector<Text> titles;
+    for (const MenuEntry& entry : menu.Entries()) {
+        if (entry.level == 0) titles.emplace_back(entry.caption);
+    }
+    return titles;
+}
+
 } // namespace korvane

@@ -38,7 +38,8 @@ void frmShowTimer::Load() {
 
 void frmShowTimer::KeyDown(KeyEvent& key) {
     key.consumed = true;
-    // Alt alone must not close the window, because the rest of Alt+F4 would then reach the one below.
+    // Alt alone must not close the window, because the rest of Alt+F4 would then reach the one below. Kept
+    // for compatibility: modifiers-alone-are-no-keys.
     if (!key.IsModifier()) Close();
 }
 

@@ -114,7 +114,8 @@ void frmWallpaper::mnuImage_Click() {
 
 void frmWallpaper::KeyDown(KeyEvent& key) {
     key.consumed = true;
-    // The letters of the bar are typed while Alt is held.
+    // The letters of the bar are typed while Alt is held. Kept for compatibility:
+    // modifiers-alone-are-no-keys.
     if (!key.IsModifier()) Close();
 }
 

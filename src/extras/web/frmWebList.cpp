@@ -310,6 +310,8 @@ frmWebList::Choice frmWebList::Chosen() const {
     }
     const std::vector<int> checked = CheckedWebsites();
     const int current = ListView1.Current();
+    // A separator that is current leaves the checked websites to be loaded, also by Return. Kept for
+    // compatibility: separator-loads-checked-websites.
     const bool currentAlone = current != 0 && !IsSeparator(ListView1.TextAt(current, kName)) &&
                               (checked.empty() || LoadByEnter == 1);
     // The number is that of the checked websites, also where the current one alone is loaded. Kept for

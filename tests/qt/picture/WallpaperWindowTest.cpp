@@ -29,12 +29,18 @@ protected:
         app.Settings.ReturnPassword = u"Secret";
     }
     void Open(const QSize& picture, TextView stretch) {
-        const Text path = ToText(folder.Add("picture.png", picture, "PNG"));
+        OpenFile(folder.Add("picture.png", picture, "PNG"), stretch);
+        AwaitPicture();
+    }
+    void OpenFile(const QString& file, TextView stretch) {
+        const Text path = ToText(file);
         program.files.AddFile(path);
         app.Settings.WallpaperFile = path;
         app.Settings.WallpaperNumber = stretch;
         form.Show();
         test::Settle();
+    }
+    void AwaitPicture() {
         QSignalSpy ready(&View(), &PictureView::Ready);
         ASSERT_TRUE(View().IsReady() || ready.wait());
     }
@@ -58,6 +64,7 @@ protected:
             {u"Wrong password!\r\n\r\n\"" + Text(answer) + u"\"", MessageIcon::Stop}, korvane::Answer::Ok);
     }
 
+    std::size_t asked = 0;
     test::PictureFolder folder;
     TestApp program;
     QtPictureFiles pictures;
@@ -81,6 +88,43 @@ TEST_F(WallpaperWindowTest, ShowsASmallPictureInTheMiddle) {
     EXPECT_EQ(At(middle.x() + 20, middle.y()), QColor(Qt::blue));
     EXPECT_EQ(At(middle.x() - 40, middle.y()), QColor(Qt::black));
     EXPECT_FALSE(Bar("HScroll1").isVisible());
+}
+
+TEST_F(WallpaperWindowTest, FillsAWorkAreaThatBeginsElsewhere) {
+    program.screen.SetWorkArea({ToTwips(40), ToTwips(25), ToTwips(600), ToTwips(400)});
+    Open(QSize(60, 40), u"1");
+    EXPECT_EQ(Window().geometry(), QRect(40, 25, 600, 400));
+}
+
+TEST_F(WallpaperWindowTest, APictureOfItsSizeFillsItWithoutBars) {
+    Open(QSize(60, 40), u"0");
+    const QString exact = folder.Add("exact.png", View().size(), "PNG");
+    program.files.AddFile(ToText(exact));
+    for (const TextView stretch : {u"0", u"1"}) {
+        app.Settings.WallpaperNumber = stretch;
+        app.Settings.WallpaperFile = ToText(exact);
+        Answer("Secret");
+        EXPECT_TRUE(form.Close());
+        form.Show();
+        test::Settle();
+        AwaitPicture();
+        EXPECT_FALSE(Bar("HScroll1").isVisible());
+        EXPECT_FALSE(Bar("VScroll1").isVisible());
+        EXPECT_EQ(At(0, 0), QColor(Qt::red));
+        EXPECT_EQ(At(View().width() - 1, View().height() - 1), QColor(Qt::blue));
+    }
+}
+
+TEST_F(WallpaperWindowTest, AFileThatIsNoPictureLeavesItBlackAndLocked) {
+    OpenFile(folder.AddBytes("text.png", "This is no picture."), u"1");
+    EXPECT_EQ(At(View().width() / 2, View().height() / 2), QColor(Qt::black));
+    Answer("wrong");
+    ExpectWrong(u"wrong");
+    QTest::keyClick(&Window(), Qt::Key_A);
+    EXPECT_TRUE(form.Shown());
+    Answer("Secret");
+    QTest::keyClick(&Window(), Qt::Key_A);
+    EXPECT_FALSE(form.Shown());
 }
 
 TEST_F(WallpaperWindowTest, ScrollsALargePictureToItsLastPixel) {
@@ -124,6 +168,22 @@ TEST_F(WallpaperWindowTest, AClickOnThePictureAsks) {
     Answer("Secret");
     QTest::mouseClick(&View(), Qt::LeftButton);
     EXPECT_FALSE(form.Shown());
+}
+
+TEST_F(WallpaperWindowTest, AClickBesideThePictureAsks) {
+    Open(QSize(60, 40), u"0");
+    const QRect bar = Window().findChild<QMenuBar*>()->geometry();
+    for (const auto& [clicked, place] : {std::pair<QWidget*, QPoint>{&View(), {2, 2}},
+                                         {&View(), {View().width() - 2, View().height() - 2}},
+                                         {&Window(), {bar.right() - 2, bar.center().y()}}}) {
+        form.Show();
+        test::Settle();
+        Answer("wrong");
+        ExpectWrong(u"wrong");
+        QTest::mouseClick(clicked, Qt::LeftButton, {}, place);
+        EXPECT_EQ(program.user.Messages().size(), ++asked) << place.x();
+        EXPECT_TRUE(form.Shown());
+    }
 }
 
 TEST_F(WallpaperWindowTest, TheWindowManagersCloseAsks) {

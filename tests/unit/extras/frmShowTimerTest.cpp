@@ -119,6 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, AnyKeyTest,
                                          KeyEvent{0}),
                          [](const auto& key) { return "Code" + std::to_string(key.param.code); });
 
+// Kept for compatibility: modifiers-alone-are-no-keys.
 TEST_F(ShowTimerTest, StaysWhileOnlyAModifierIsHeld) {
     InClock([](frmShowTimer& f) {
         for (const int code : {Key::Shift, Key::Control, Key::Alt}) {

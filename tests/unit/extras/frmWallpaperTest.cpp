@@ -164,6 +164,29 @@ TEST_F(WallpaperTest, StretchTogglesTheSettingAndTwiceGivesTheFirstViewAgain) {
     });
 }
 
+TEST_F(WallpaperTest, StretchTurnsAnyOtherSettingOn) {
+    for (const TextView number : {u"", u"2", u"-1", u"yes", u" 1"}) {
+        t.app.Settings.WallpaperNumber = number;
+        InLock([this](frmWallpaper& f) {
+            f.OfficeMenu1.Choose("mnuStretch");
+            EXPECT_EQ(t.app.Settings.WallpaperNumber, u"1");
+            EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 10000, 8000));
+        });
+    }
+}
+
+TEST_F(WallpaperTest, APictureOfTheWindowsSizeFillsItWithAndWithoutStretching) {
+    pictures.sizes[Text(kSea)] = {Twips(10000), Twips(8000)};
+    for (const TextView number : {u"0", u"1"}) {
+        t.app.Settings.WallpaperNumber = number;
+        InLock([](frmWallpaper& f) {
+            EXPECT_EQ(f.Image1.Place.Get(), Place(0, 0, 10000, 8000));
+            EXPECT_FALSE(f.HScroll1.Visible);
+            EXPECT_FALSE(f.VScroll1.Visible);
+        });
+    }
+}
+
 class LargePictureTest : public WallpaperTest {
 protected:
     LargePictureTest() { pictures.sizes[Text(kSea)] = {Twips(15000), Twips(9000)}; }
@@ -234,6 +257,29 @@ TEST_F(WallpaperTest, ACancelOrALostFileChangesNothing) {
     });
 }
 
+TEST_F(WallpaperTest, AChosenFileThatIsNoPictureLeavesTheImageEmpty) {
+    t.files.AddFile(u"C:\\text.png");
+    chooser.answer = u"C:\\text.png";
+    InLock([this](frmWallpaper& f) {
+        f.OfficeMenu1.Choose("mnuImage");
+        EXPECT_EQ(t.app.Settings.WallpaperFile, u"C:\\text.png");
+        EXPECT_EQ(f.Image1.File.Get(), u"");
+        EXPECT_EQ(f.Image1.Place.Get(), kNoPlace);
+        EXPECT_TRUE(f.Shown());
+    });
+    EXPECT_TRUE(t.user.Messages().empty());
+}
+
+TEST_F(WallpaperTest, AnUnreadablePictureIsNoWayOut) {
+    pictures.sizes.clear();
+    InLock([this](frmWallpaper& f) {
+        Answer(u"wrong");
+        ExpectWrong(u"wrong");
+        EXPECT_FALSE(f.Close());
+        EXPECT_TRUE(f.Shown());
+    });
+}
+
 // The way out.
 
 TEST_F(WallpaperTest, AsksForThePasswordWithAnEmptyField) {
@@ -292,6 +338,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Road{"F7", [](frmWallpaper& f) { Press(f, KeyEvent{Key::F(7)}); }}),
     [](const auto& road) { return road.param.name; });
 
+// Kept for compatibility: modifiers-alone-are-no-keys.
 TEST_F(WallpaperTest, AModifierAloneAsksNothing) {
     InLock([](frmWallpaper& f) {
         for (const int code : {Key::Shift, Key::Control, Key::Alt})

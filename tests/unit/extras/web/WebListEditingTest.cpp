@@ -93,6 +93,16 @@ TEST_F(WebListEditingTest, AnAddedRowMovesTheTextsDownAndLeavesTheChecks) {
     });
 }
 
+TEST_F(WebListEditingTest, AnAddedRowIsShown) {
+    InWindow([](frmWebList& f) {
+        f.ListView1.Select(2);
+        while (f.ListView1.TakeWantedRow()) {
+        }
+        f.cmdAddItem.Press();
+        EXPECT_EQ(f.ListView1.TakeWantedRow(), 1);
+    });
+}
+
 TEST_F(WebListEditingTest, ARowIsAddedToAnEmptyList) {
     t.app.Settings.WebListFile.clear();
     InWindow([](frmWebList& f) {
@@ -328,6 +338,14 @@ TEST_F(WebListEditingTest, InformsAboutTheFile) {
         EXPECT_EQ(t.user.Messages().back(),
                   (Message{u"sites.lst\r\nC:\\Data\r\n" + date + u"\r\n82\r\n    ( 3 items )",
                            MessageIcon::Information}));
+    });
+}
+
+TEST_F(WebListEditingTest, TheSizeHasCommas) {
+    With("A\r\nhttp://a/" + std::string(1'234'567 - 17, 'x') + "\r\n0\r\n", [this](frmWebList& f) {
+        t.user.Answer(Answer::Ok);
+        f.cmdInfo.Press();
+        EXPECT_NE(t.user.Messages().back().text.find(u"\r\n1,234,567\r\n"), Text::npos);
     });
 }
 

@@ -43,6 +43,13 @@ TEST(WebsiteFileTest, ARowWithTheMarkerInItsAddressIsNeverChecked) {
     EXPECT_THAT(LinesOfWebsites({{{u"A", url, true}}, {}}), ElementsAre(u"A", url, u"0", u"***", u""));
 }
 
+TEST(WebsiteFileTest, ASeparatorKeepsItsCheck) {
+    const WebsiteLists lists{{{kMarker, {}, true}, {u"A", u"http://a", true}}, {}};
+    const Lines written = LinesOfWebsites(lists);
+    EXPECT_THAT(written, ElementsAre(kMarker, u"", u"1", u"A", u"http://a", u"1", u"***", u""));
+    EXPECT_EQ(WebsitesOfLines(written).websites, lists.websites);
+}
+
 TEST(WebsiteFileTest, ARowThatIsCutShortKeepsWhatItHas) {
     EXPECT_THAT(WebsitesOfLines({u"A"}).websites, ElementsAre(Website{u"A", {}, false}));
     EXPECT_THAT(WebsitesOfLines({u"A", u"http://a"}).websites,

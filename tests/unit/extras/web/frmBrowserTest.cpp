@@ -3,6 +3,7 @@
 #include "context/exchange/ListerRequest.h"
 #include "extras/web/Pages.h"
 #include "support/DesignerFile.h"
+#include "support/MenuEntries.h"
 #include "support/PageFiles.h"
 #include "support/TestApp.h"
 #include "testing/MemoryNetwork.h"
@@ -67,6 +68,19 @@ TEST_F(BrowserTest, WithoutAnAddressTheKeyboardIsInTheAddressLine) {
         EXPECT_FALSE(f.WebBrowser1.Visible);
         EXPECT_THAT(net.Requests(), IsEmpty());
         EXPECT_EQ(f.StatusBar1.Caption.Get(), u"");
+    });
+}
+
+TEST_F(BrowserTest, TheButtonOfTheStartGoesNowhereWithoutOne) {
+    InWindow(u"", [this](frmBrowser& f) {
+        f.txtAddress.Type(u"x.org");
+        f.cmdLoad.Press();
+        net.AnswerAll();
+        f.cmdHome.Press();
+        net.AnswerAll();
+        EXPECT_EQ(f.txtAddress.Text.Get(), u"");
+        EXPECT_TRUE(Shows(f, u"Start on"));
+        EXPECT_EQ(net.Requests().size(), 1U);
     });
 }
 
@@ -176,10 +190,19 @@ TEST_F(BrowserTest, ClosingStopsWhatIsLoaded) {
     });
 }
 
-TEST_F(BrowserTest, HasItsLook) {
+TEST_F(BrowserTest, HasItsTipsAndItsMenu) {
     InWindow(u"", [](frmBrowser& f) {
-        EXPECT_EQ(f.cmdHome.ToolTipText.Get(), u"Back to outset address");
-        EXPECT_EQ(f.cmdLoad.ToolTipText.Get(), u"Proceed with operation");
+        for (const auto& [button, tip] :
+             std::vector<std::pair<CommandButton*, Text>>{{&f.cmdExit, u"Exit this level"},
+                                                          {&f.cmdGetFile, u"Load file from disk"},
+                                                          {&f.cmdHome, u"Back to outset address"},
+                                                          {&f.cmdBack, u"Move back a page"},
+                                                          {&f.cmdforward, u"Move forward a page"},
+                                                          {&f.cmdRefresh, u"Refresh current page"},
+                                                          {&f.cmdStop, u"Stop loading current page"},
+                                                          {&f.cmdLoad, u"Proceed with operation"}})
+            EXPECT_EQ(button->ToolTipText.Get(), tip) << button->Name();
+        EXPECT_THAT(TitlesOf(f.OfficeMenu1), ElementsAre(u"E&xit", u"&Open", u"&Load"));
         ExpectLook(f, "extras/web", {});
     });
 }

@@ -63,10 +63,14 @@ TEST_F(WebListTest, TheBrowsersAreThoseOfTheSettings) {
         EXPECT_EQ(f.prgText2.Text.Get(), u"two");
         EXPECT_EQ(f.prgText3.Text.Get(), u"three");
         EXPECT_TRUE(f.Option3.Value);
+        f.prgText1.Type(u"1");
         f.prgText2.Type(u"2");
+        f.prgText3.Type(u"3");
         f.Option2.Press();
     });
+    EXPECT_EQ(t.app.Settings.WebListA, u"1");
     EXPECT_EQ(t.app.Settings.WebListB, u"2");
+    EXPECT_EQ(t.app.Settings.WebListC, u"3");
     EXPECT_EQ(t.app.Settings.WebListD, 2);
 }
 
@@ -91,15 +95,19 @@ TEST_F(WebListTest, ItsPlaceIsKept) {
         EXPECT_EQ(f.Width.Get(), Twips{9000});
         EXPECT_EQ(f.ListView1.ColumnWidth(1), Twips{2800});
         f.Top = Twips{900};
+        f.Left = Twips{1000};
+        f.Height = Twips{6100};
         f.Width = Twips{6600};
         f.Resize();
         EXPECT_EQ(f.ListView1.ColumnWidth(2), Twips{3600});
     });
     EXPECT_EQ(settings.WebListGeo1, 900);
+    EXPECT_EQ(settings.WebListGeo2, 1000);
+    EXPECT_EQ(settings.WebListGeo3, 6100);
     EXPECT_EQ(settings.WebListGeo4, 6600);
 }
 
-TEST_F(WebListTest, HasItsMenusAndTips) {
+TEST_F(WebListTest, HasItsMenus) {
     InWindow([](frmWebList& f) {
         EXPECT_EQ(EntriesOf(f.OfficeMenu1), (Entries{{"mnuLoad", u"&Load checked items"},
                                                      {"mnuFileLine1", u""},
@@ -121,12 +129,44 @@ TEST_F(WebListTest, HasItsMenusAndTips) {
                                                      {"mnuAddToGroup", u"&Add to group"},
                                                      {"mnuGroupWin", u"&Open group window"},
                                                      {"mnuCustomBrowser", u"Specify custom browser"}}));
-        EXPECT_EQ(f.cmdLoadItem.ToolTipText.Get(), u"Load checked item(s) in list");
-        EXPECT_EQ(f.cmdCloseWindow.ToolTipText.Get(), u"Exit this level");
-        EXPECT_EQ(f.frameGroup.Caption.Get(), u" Lists of websites for group loading ");
-        EXPECT_EQ(f.Frame2.Caption.Get(), u" Select browser to use ");
-        EXPECT_EQ(f.ListView1.Columns.Get()[1].header, u"Website URL");
+        EXPECT_THAT(TitlesOf(f.OfficeMenu1), ElementsAre(u"&File", u"&Edit", u"&Group", u"&Misc"));
         ExpectLook(f, "extras/web", {});
+    });
+}
+
+TEST_F(WebListTest, HasItsTips) {
+    InWindow([](frmWebList& f) {
+        for (const auto& [button, tip] :
+             std::vector<std::pair<CommandButton*, Text>>{{&f.cmdCloseWindow, u"Exit this level"},
+                                                          {&f.cmdOpenList, u"Open list of websites"},
+                                                          {&f.cmdSaveList, u"Save list to disk"},
+                                                          {&f.cmdInfo, u"Info on list"},
+                                                          {&f.cmdAddItem, u"Add item to list"},
+                                                          {&f.cmdDuplicate, u"Duplicate item in list"},
+                                                          {&f.cmdDelete, u"Delete item in list"},
+                                                          {&f.cmdAddToGroup, u"Add to group"},
+                                                          {&f.cmdGroupWin, u"Open group window"},
+                                                          {&f.cmdArrowUp, u"Move item up in list"},
+                                                          {&f.cmdArrowDown, u"Move item down in list"},
+                                                          {&f.cmdLoadItem, u"Load checked item(s) in list"}})
+            EXPECT_EQ(button->ToolTipText.Get(), tip) << button->Name();
+    });
+}
+
+TEST_F(WebListTest, HasItsCaptions) {
+    InWindow([](frmWebList& f) {
+        EXPECT_EQ(f.frameGroup.Caption.Get(), u" Lists of websites for group loading ");
+        EXPECT_EQ(f.btnEmptyList.Caption.Get(), u"&Empty");
+        EXPECT_EQ(f.btnCloseGroup.Caption.Get(), u"Cl&ose");
+        EXPECT_EQ(f.Frame2.Caption.Get(), u" Select browser to use ");
+        EXPECT_EQ(f.btnLoad.Caption.Get(), u"&Load");
+        EXPECT_EQ(f.btnCancel.Caption.Get(), u"&Cancel");
+        EXPECT_EQ(f.Label1.Caption.Get(), u"Name of website");
+        EXPECT_EQ(f.Label2.Caption.Get(), u"URL of website");
+        EXPECT_EQ(f.btnAccept.Caption.Get(), u"&Accept");
+        EXPECT_EQ(f.btnReject.Caption.Get(), u"&Reject");
+        EXPECT_EQ(f.ListView1.Columns.Get()[0].header, u"Name");
+        EXPECT_EQ(f.ListView1.Columns.Get()[1].header, u"Website URL");
     });
 }
 
@@ -201,6 +241,17 @@ TEST_F(WebListTest, SeparatorsAreNotLoaded) {
     EXPECT_THAT(t.shell.Browsed(), IsEmpty());
 }
 
+// Kept for compatibility: separator-loads-checked-websites.
+TEST_F(WebListTest, ReturnOnASeparatorLoadsTheCheckedWebsites) {
+    InWindow([](frmWebList& f) {
+        Check(f, {1, 3});
+        f.OfficeMenu1.Choose("mnuInsertSeparator");
+        Press(f, f.ListView1, Key::Return);
+        EXPECT_EQ(f.LoadByEnter, 0);
+    });
+    EXPECT_THAT(t.shell.Starts(), ElementsAre(Browser({u"http://a", u"http://c"})));
+}
+
 TEST_F(WebListTest, ARowWithoutAnAddressStartsNothing) {
     With("A\r\n\r\n0\r\n", [](frmWebList& f) { Press(f, f.ListView1, Key::Return); });
     EXPECT_THAT(t.shell.Starts(), IsEmpty());
@@ -248,17 +299,26 @@ TEST_F(WebListTest, WithoutABrowserTheDesktopsOwnTakesEachAddress) {
 }
 
 TEST_F(WebListTest, ABrowserIsPickedFromTheDisk) {
-    InWindow([this](frmWebList& f) {
-        t.user.ChooseFile(u"C:\\Web\\new.exe");
-        t.user.CancelChooser();
-        f.imgSet_2.Press();
-        EXPECT_EQ(f.prgText2.Text.Get(), u"C:\\Web\\new.exe");
-        EXPECT_EQ(t.app.Settings.WebListB, u"C:\\Web\\new.exe");
-        f.imgSet_1.Press();
-        EXPECT_EQ(f.prgText1.Text.Get(), kBrowser);
-    });
-    EXPECT_EQ(t.user.Requests().front().FileDialogFilter, u"*.exe");
-    EXPECT_EQ(t.user.Requests().front().FileDialogCaption, u"Specify custom browser");
+    struct Row {
+        CommandButton frmWebList::*pick;
+        TextBox frmWebList::*path;
+        Text Settings::*setting;
+    };
+    for (const Row& row : {Row{&frmWebList::imgSet_1, &frmWebList::prgText1, &Settings::WebListA},
+                           Row{&frmWebList::imgSet_2, &frmWebList::prgText2, &Settings::WebListB},
+                           Row{&frmWebList::imgSet_3, &frmWebList::prgText3, &Settings::WebListC}}) {
+        InWindow([this, &row](frmWebList& f) {
+            t.user.ChooseFile(u"C:\\Web\\new.exe");
+            (f.*row.pick).Press();
+            EXPECT_EQ((f.*row.path).Text.Get(), u"C:\\Web\\new.exe");
+            EXPECT_EQ(t.app.Settings.*row.setting, u"C:\\Web\\new.exe");
+            t.user.CancelChooser();
+            (f.*row.pick).Press();
+            EXPECT_EQ((f.*row.path).Text.Get(), u"C:\\Web\\new.exe");
+        });
+        EXPECT_EQ(t.user.Requests().back().FileDialogFilter, u"*.exe");
+        EXPECT_EQ(t.user.Requests().back().FileDialogCaption, u"Specify custom browser");
+    }
 }
 
 TEST_F(WebListTest, TheChosenBrowserCanBecomeTheOneOfLinks) {
@@ -316,6 +376,26 @@ TEST_F(WebListTest, ACancelledSaveAsksAgain) {
     EXPECT_NE(Written(), kThree);
 }
 
+TEST_F(WebListTest, AFailedSaveAsksAgain) {
+    InWindow([this](frmWebList& f) {
+        f.cmdDuplicate.Press();
+        dialog.answer = kList;
+        t.files.Faults().FailNth(FileStep::OpenToWrite, 1);
+        t.user.Answer(Answer::Yes);
+        t.user.Answer(Answer::Ok);
+        t.user.Answer(Answer::Cancel);
+        f.btnCancel.Press();
+        EXPECT_TRUE(f.Shown());
+        EXPECT_EQ(f.ListDirty, 1);
+        EXPECT_EQ(Written(), kThree);
+        t.user.Answer(Answer::Yes);
+        f.btnCancel.Press();
+        EXPECT_FALSE(f.Shown());
+        EXPECT_NE(Written(), kThree);
+    });
+    EXPECT_EQ(t.user.Messages().size(), 4U);
+}
+
 // ---- Keys ----------------------------------------------------------------------------------------------
 
 TEST_F(WebListTest, DocksBesideTheMainWindow) {
@@ -328,6 +408,11 @@ TEST_F(WebListTest, DocksBesideTheMainWindow) {
             f.Top = Twips{0};
             EXPECT_TRUE(Press(f, f.ListView1, 'L', mask));
             EXPECT_EQ(f.Top.Get(), Twips{100});
+        }
+        for (const int mask : {Mask::Ctrl, Mask::Ctrl | Mask::Alt, Mask::Ctrl | Mask::Shift}) {
+            f.Left = Twips{0};
+            EXPECT_TRUE(Press(f, f.ListView1, 'R', mask));
+            EXPECT_EQ(f.Left.Get(), Twips{10000});
         }
         EXPECT_TRUE(Press(f, f.ListView1, Key::F(2), Mask::Ctrl | Mask::Shift));
         EXPECT_EQ(f.Width.Get(), Twips{3600});
