@@ -1,14 +1,11 @@
 // The real program, except that it ends when the table has been painted for the first time.
 
 #include "FirstPaint.h"
-#include "app/Application.h"
-#include "app/Program.h"
-#include "app/StartArguments.h"
-#include "app/SystemParts.h"
-#include "platform/qt/base/Palettes.h"
+#include "app/Start.h"
 #include "platform/qt/grid/GridView.h"
 #include "platform/qt/grid/SideBarView.h"
-#include "platform/qt/services/QtMessageBoxes.h"
+
+#include <optional>
 
 namespace {
 
@@ -22,13 +19,6 @@ bool IsTable(const QWidget& widget) {
 } // namespace
 
 int main(int argc, char** argv) {
-    using namespace korvane;
-    const StartArguments start = ReadStartArguments(Arguments(argc, argv));
-    int own = 1;
-    const Application application(own, argv);
-    const bench::EndAtFirstPaint end(&IsTable);
-    FollowDesktopPalette();
-    const auto system = OwnSystemParts();
-    QtMessageBoxes messages;
-    return Program(*system, system->Channel(), messages).Run(start.path);
+    std::optional<korvane::bench::EndAtFirstPaint> end;
+    return korvane::Start(argc, argv, [&end] { end.emplace(&IsTable); });
 }

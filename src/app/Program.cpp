@@ -21,6 +21,7 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <utility>
 
 namespace korvane {
 
@@ -44,9 +45,10 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
 
 } // namespace
 
-Program::Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages)
+Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& channel,
+                 MessageBoxes& messages)
     : system_(system),
-      files_(OwnFiles()),
+      files_(std::move(files)),
       backgroundFiles_(OwnFiles()),
       forms_(KorvaneForms()),
       app_(Complete(

@@ -42,8 +42,8 @@ class SystemParts;
 /// The whole program, made of its real parts.
 class Program {
 public:
-    /// All arguments must outlive the program.
-    Program(SystemParts& system, InstanceChannel& channel, MessageBoxes& messages);
+    /// All arguments but the files must outlive the program.
+    Program(SystemParts& system, NativeFileSystem files, InstanceChannel& channel, MessageBoxes& messages);
 
     /// Runs until the main window is closed, or, in a second start, until its file is handed over. Returns
     /// the exit status.
