@@ -11,6 +11,7 @@ inline constexpr auto kMain = "^Korvane$";
 inline constexpr auto kFileInfo = "^File information$";
 
 // These are lines of Korvane.ini.
+inline constexpr int kSymbolListFile = 63;
 inline constexpr int kWallpaperFile = 126;
 inline constexpr int kReturnPassword = 128;
 

@@ -1,4 +1,4 @@
-// Opens the windows for fonts, characters and dates from the text window with the keyboard alone.
+// Opens the tools of the text window with the keyboard alone, and uses each of them.
 
 #include "e2e/DeskTest.h"
 
@@ -11,8 +11,11 @@ class TextToolsTest : public DeskTest {
 protected:
     void SetUp() override {
         ASSERT_NO_FATAL_FAILURE(DeskTest::SetUp());
+        WriteBytes(symbols, "sigma");
+        Set(kSymbolListFile, symbols.string());
         program = desk.Start({file.string()}, desk.Path("."));
-        ASSERT_NE(desk.GoTo(kMain), "");
+        main = desk.GoTo(kMain);
+        ASSERT_NE(main, "");
         desk.Press({"ctrl+e"});
         ASSERT_NE(desk.GoTo(kText), "");
     }
@@ -39,7 +42,51 @@ protected:
         });
     }
 
+    /// Adds a word to the list and takes it.
+    void TakeWord(const std::string& word) {
+        const std::string list = "^File: .not yet saved!.  . Items: ";
+        ASSERT_NO_FATAL_FAILURE(Open({"alt+e", "w"}, list));
+        desk.Press({"Insert"});
+        ASSERT_NE(desk.GoTo(kMain, main), "");
+        desk.Type(word);
+        desk.Press({"Return"});
+        ASSERT_TRUE(desk.Gone(kMain, main));
+        ASSERT_NE(desk.GoTo(list), "");
+        ASSERT_NO_FATAL_FAILURE(Leave("Return", list));
+    }
+    /// Uses a window that stays open until Esc.
+    void Use(const std::vector<std::string>& way, const std::string& title,
+             const std::vector<std::string>& keys) {
+        ASSERT_NO_FATAL_FAILURE(Open(way, title));
+        desk.Press(keys);
+        ASSERT_NO_FATAL_FAILURE(Leave("Escape", title));
+    }
+    /// Makes the whole text bold and red.
+    void MakeBoldAndRed() {
+        const std::string fonts = "^Fonts and text styles$";
+        const std::string colours = "^Colours for selected text$";
+        desk.Press({"ctrl+a"});
+        ASSERT_NO_FATAL_FAILURE(Open({"ctrl+1"}, fonts));
+        desk.Press({"alt+b", "alt+o"});
+        ASSERT_NE(desk.GoTo(colours), "");
+        desk.Press({"Down", "Return"});
+        ASSERT_TRUE(desk.Gone(colours));
+        ASSERT_NE(desk.GoTo(fonts), "");
+        ASSERT_NO_FATAL_FAILURE(Leave("alt+a", fonts));
+    }
+    /// Selects the word in the text by the search.
+    void Find(const std::string& word) {
+        const std::string find = "^Find string$";
+        desk.Press({"ctrl+Home"});
+        ASSERT_NO_FATAL_FAILURE(Open({"alt+e", "f"}, find));
+        desk.Type(word);
+        desk.Press({"Return"});
+        ASSERT_NO_FATAL_FAILURE(Leave("Escape", find));
+    }
+
     std::filesystem::path document = desk.Path("Untitled.rtf");
+    std::filesystem::path symbols = desk.Path("symbols.lst");
+    std::string main;
     std::unique_ptr<Process> program;
 };
 
@@ -62,6 +109,24 @@ TEST_F(TextToolsTest, ACharacterOfTheTableComesIntoTheText) {
     desk.Press({"Down", "Down", "Down", "Down", "Right", "Return", "Right", "Return"});
     ASSERT_NO_FATAL_FAILURE(Leave("Escape", table));
     EXPECT_TRUE(Saved("typedAB")) << ReadBytes(document);
+}
+
+TEST_F(TextToolsTest, ATourOfAllToolsLeavesWhatEachOfThemDoes) {
+    ASSERT_NO_FATAL_FAILURE(TakeWord("garden"));
+    ASSERT_NO_FATAL_FAILURE(Use({"alt+e", "b"}, "^Shapes & Symbols$", {"Return"}));
+    ASSERT_NO_FATAL_FAILURE(Use({"alt+e", "c"}, "^Insert symbols / characters$",
+                                {"Down", "Down", "Down", "Down", "Right", "Right", "Return"}));
+    ASSERT_NO_FATAL_FAILURE(Use({"alt+e", "u"}, "^Symbol tables$", {"ctrl+a", "Return"}));
+    ASSERT_NO_FATAL_FAILURE(Open({"alt+m", "d"}, "^Date and time$"));
+    ASSERT_NO_FATAL_FAILURE(Leave("alt+a", "^Date and time$"));
+    ASSERT_NO_FATAL_FAILURE(MakeBoldAndRed());
+    ASSERT_NO_FATAL_FAILURE(Find("garden"));
+    desk.Type("meadow");
+    ASSERT_TRUE(Saved("meadow")) << ReadBytes(document);
+    const std::string written = ReadBytes(document);
+    for (const char* const piece : {"Wingdings", "sigma", "\\b", "\\red255\\green0\\blue0"})
+        EXPECT_NE(written.find(piece), std::string::npos) << piece << " in " << written;
+    EXPECT_EQ(written.find("garden"), std::string::npos) << written;
 }
 
 TEST_F(TextToolsTest, TheDateComesIntoTheText) {
