@@ -27,6 +27,7 @@
 #include <QFontDatabase>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 
 namespace korvane::bench {
@@ -115,45 +116,33 @@ struct Stage {
     ControlTarget target{text};
 };
 
-/// Opens the window and paints it; closing it isn't measured.
-template <class Make>
-void Measure(const char* what, int rounds, Stage& stage, const Make& make) {
-    Times times;
-    for (int round = 0; round < rounds; ++round) {
+/// A window, and how long its openings took.
+struct Contender {
+    const char* what;
+    QtFormHost& forms;
+    std::function<std::unique_ptr<Form>()> make;
+    Times times{};
+
+    /// Opens the window and paints it; closing it isn't measured.
+    void Open() {
         std::unique_ptr<Form> form;
         times.Add([&] {
             form = make();
             form->Show();
             Settle();
-            stage.WidgetOf(*form).repaint();
+            forms.WidgetOf(*form)->repaint();
         });
         form->Close();
         Settle();
     }
-    Print(what, times);
-}
+};
 
-/// A window of the program with nothing in it, of the size of the others.
-void MeasureEmptyDialog(int rounds) {
-    static constexpr FormEntry kForms[] = {{"frmEmpty", [] {
-                                                auto dialog = std::make_unique<QDialog>();
-                                                dialog->resize(620, 520);
-                                                return std::unique_ptr<QWidget>(std::move(dialog));
-                                            }}};
-    QtFormHost forms{kForms};
-    Times times;
-    for (int round = 0; round < rounds; ++round) {
-        Form form(forms, "frmEmpty", u"");
-        times.Add([&] {
-            form.Show();
-            Settle();
-            forms.WidgetOf(form)->repaint();
-        });
-        form.Close();
-        Settle();
-    }
-    Print("an empty dialog", times);
-}
+/// A dialog with nothing in it, of the size of the others.
+constexpr FormEntry kEmptyForms[] = {{"frmEmpty", [] {
+                                          auto dialog = std::make_unique<QDialog>();
+                                          dialog->resize(620, 520);
+                                          return std::unique_ptr<QWidget>(std::move(dialog));
+                                      }}};
 
 /// The window with its controls and nothing in them.
 class UnfilledTable final : public frmASCIIBox {
@@ -196,15 +185,26 @@ int main(int argc, char** argv) {
     // All windows have the size of the empty one.
     stage.app.Settings.AsciiWidth = 620 * kTwipsPerPixel;
     stage.app.Settings.AsciiHeight = 520 * kTwipsPerPixel;
+    QtFormHost emptyForms{kEmptyForms};
+    Contender contenders[] = {
+        {"an empty dialog", emptyForms, [&] { return std::make_unique<Form>(emptyForms, "frmEmpty", u""); }},
+        {"the font dialog", stage.forms, [&] { return std::make_unique<frmQuickNameSize>(stage.app); }},
+        {"the table of characters before it is filled", stage.forms,
+         [&] { return std::make_unique<UnfilledTable>(stage.app, &stage.target); }},
+        {"the table of characters", stage.forms,
+         [&] { return std::make_unique<frmASCIIBox>(stage.app, &stage.target); }},
+    };
+    Contender first{"the font dialog, first opening", stage.forms, contenders[1].make};
     PrintHead();
-    Measure("the font dialog, first opening", 1, stage,
-            [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
-    MeasureEmptyDialog(rounds);
-    Measure("the font dialog", rounds, stage, [&] { return std::make_unique<frmQuickNameSize>(stage.app); });
-    Measure("the table of characters before it is filled", rounds, stage,
-            [&] { return std::make_unique<UnfilledTable>(stage.app, &stage.target); });
-    Measure("the table of characters", rounds, stage,
-            [&] { return std::make_unique<frmASCIIBox>(stage.app, &stage.target); });
+    first.Open();
+    Print(first.what, first.times);
+    // By turns, so that all of them feel the same load of the machine.
+    for (int round = 0; round < rounds; ++round) {
+        for (Contender& contender : contenders)
+            contender.Open();
+    }
+    for (const Contender& contender : contenders)
+        Print(contender.what, contender.times);
     MeasureScrolling(rounds, stage);
     return 0;
 }
