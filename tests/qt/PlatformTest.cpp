@@ -17,6 +17,8 @@
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
+#include <QFontDatabase>
 #include <QFontDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -259,6 +261,34 @@ TEST(QtFontsTest, KnowsTheInstalledFontsByName) {
     EXPECT_EQ(std::ranges::count(names, Text(u"DejaVu Sans")), 1);
     EXPECT_TRUE(QtFonts().Has(u"dejavu sans"));
     EXPECT_FALSE(QtFonts().Has(u"A Font of Nobody"));
+}
+
+/// A font of the system under another name of the same length.
+QByteArray RenamedFont() {
+    QFile file("/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf");
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray font = file.readAll();
+    for (const int step : {1, 2}) {
+        const auto spread = [step](const char* name) {
+            QByteArray bytes;
+            for (const char letter : QByteArray(name))
+                bytes += step == 2 ? QByteArray(1, '\0') + letter : QByteArray(1, letter);
+            return bytes;
+        };
+        font.replace(spread("DejaVu Sans Mono"), spread("Font Of A Moment"));
+    }
+    return font;
+}
+
+TEST(QtFontsTest, KnowsAFontAsLongAsItIsInstalled) {
+    const QtFonts fonts;
+    const Text name = u"Font Of A Moment";
+    EXPECT_EQ(std::ranges::count(fonts.Names(), name), 0);
+    const int font = QFontDatabase::addApplicationFontFromData(RenamedFont());
+    if (font < 0) GTEST_SKIP() << "the font isn't installed";
+    EXPECT_EQ(std::ranges::count(fonts.Names(), name), 1);
+    QFontDatabase::removeApplicationFont(font);
+    EXPECT_EQ(std::ranges::count(fonts.Names(), name), 0);
 }
 
 // ---- The order of texts -------------------------------------------------------------------------------

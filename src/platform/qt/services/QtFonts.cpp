@@ -3,10 +3,13 @@
 #include "platform/qt/base/Convert.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 
 namespace korvane {
 
-std::vector<Text> QtFonts::Names() const {
+namespace {
+
+std::vector<Text> InstalledNames() {
     std::vector<Text> names;
     for (const QString& family : QFontDatabase::families()) {
         if (QFontDatabase::isPrivateFamily(family)) continue;
@@ -16,6 +19,17 @@ std::vector<Text> QtFonts::Names() const {
         if (names.empty() || names.back() != name) names.push_back(std::move(name));
     }
     return names;
+}
+
+} // namespace
+
+QtFonts::QtFonts() {
+    QObject::connect(qApp, &QGuiApplication::fontDatabaseChanged, &change_, [this] { names_.clear(); });
+}
+
+std::vector<Text> QtFonts::Names() const {
+    if (names_.empty()) names_ = InstalledNames();
+    return names_;
 }
 
 bool QtFonts::Has(TextView name) const {
