@@ -25,6 +25,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QFontDatabase>
+#include <QWindow>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -129,8 +130,11 @@ struct Contender {
         times.Add([&] {
             form = make();
             form->Show();
+            const QWindow& window = *forms.WidgetOf(*form)->windowHandle();
+            // The window system asks for the paint when the window is there.
+            while (!window.isExposed())
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             Settle();
-            forms.WidgetOf(*form)->repaint();
         });
         form->Close();
         Settle();
