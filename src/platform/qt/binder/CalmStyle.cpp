@@ -3,6 +3,7 @@
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/base/Palettes.h"
+#include "platform/qt/lists/TilesView.h"
 #include "platform/qt/tabs/TabBar.h"
 
 #include <QAbstractScrollArea>
@@ -78,6 +79,7 @@ QRect RingPlace(const QStyleOption& option, const QWidget* widget) {
 /// be walked with the keyboard.
 bool IsRinged(const QWidget* widget) {
     return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr ||
+           qobject_cast<const TilesView*>(widget) != nullptr ||
            qobject_cast<const QLabel*>(widget) != nullptr;
 }
 

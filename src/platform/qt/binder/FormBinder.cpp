@@ -54,7 +54,7 @@ constexpr Maker kMakers[] = {
     Make<ComboBox, QComboBox, ComboBoxAdaptor>,
     Make<ListBox, QListView, ListBoxAdaptor>,
     Make<ListView, QTreeView, ListViewAdaptor>,
-    Make<Tiles, QTableView, TilesAdaptor>,
+    Make<Tiles, TilesView, TilesAdaptor>,
     Make<TreeView, QTreeView, TreeViewAdaptor>,
     Make<ProgressBar, QProgressBar, ProgressAdaptor>,
     Make<Slider, QAbstractSlider, SliderAdaptor>,

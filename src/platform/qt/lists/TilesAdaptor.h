@@ -2,29 +2,17 @@
 
 #include "controls/Tiles.h"
 #include "platform/qt/base/ControlAdaptor.h"
-#include "platform/qt/lists/TilesModel.h"
-
-#include <QTableView>
+#include "platform/qt/lists/TilesView.h"
 
 namespace korvane {
 
-/// Tiles in a table whose rows and columns share its size.
-class TilesAdaptor : public AdaptorOf<Tiles, QTableView> {
+class TilesAdaptor : public AdaptorOf<Tiles, TilesView> {
 public:
-    TilesAdaptor(Tiles& tiles, QTableView& widget);
+    TilesAdaptor(Tiles& tiles, TilesView& widget);
 
 protected:
     void Write(Aspect aspect) override;
     void Deafen() override;
-
-private:
-    void LayOut();
-    void ListenToUser();
-    void ShowCurrent();
-    void TakeCurrent(const QModelIndex& index);
-
-    TilesModel& model_;
-    bool writing_ = false;
 };
 
 } // namespace korvane

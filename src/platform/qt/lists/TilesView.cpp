@@ -3,6 +3,7 @@
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/lists/GlyphTexts.h"
+#include "platform/qt/lists/TilesAccess.h"
 
 #include <QAccessible>
 #include <QMouseEvent>
@@ -25,6 +26,7 @@ constexpr double kLines = 0.25;
 } // namespace
 
 TilesView::TilesView(QWidget* parent) : QFrame(parent) {
+    TilesAccess::Install();
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
