@@ -7,6 +7,7 @@
 #include "app/SystemParts.h"
 #include "app/Unattended.h"
 #include "platform/qt/base/Palettes.h"
+#include "platform/qt/desktop/FontsAhead.h"
 #include "platform/qt/services/QtMessageBoxes.h"
 #include "shell/main/HandOver.h"
 
@@ -42,6 +43,7 @@ int Start(int argc, char** argv, const std::function<void()>& begun) {
     const auto system = OwnSystemParts();
     NativeFileSystem files = OwnFiles();
     if (IsHandedOver(start, *system, files)) return 0;
+    const FontsAhead fonts;
     // Qt doesn't get the arguments, because it could take the name of the file for one of its own options.
     int own = 1;
     const Application application(own, argv);
