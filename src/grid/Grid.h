@@ -120,7 +120,7 @@ public:
     virtual void SetGridBackColor(Colour colour) = 0;
     virtual Colour GridForeColor() const = 0;
     virtual void SetGridForeColor(Colour colour) = 0;
-    virtual Text GridFontName() const = 0;
+    virtual const Text& GridFontName() const = 0;
     virtual void SetGridFontName(TextView name) = 0;
     virtual int GridFontSize() const = 0;
     virtual void SetGridFontSize(int points) = 0;

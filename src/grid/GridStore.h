@@ -75,7 +75,7 @@ public:
     void SetGridBackColor(Colour colour) override { SetLook(look_.back, colour); }
     Colour GridForeColor() const override { return look_.fore; }
     void SetGridForeColor(Colour colour) override { SetLook(look_.fore, colour); }
-    Text GridFontName() const override { return look_.fontName; }
+    const Text& GridFontName() const override { return look_.fontName; }
     void SetGridFontName(TextView name) override { SetLook(look_.fontName, Text(name)); }
     int GridFontSize() const override { return look_.fontSize; }
     void SetGridFontSize(int points) override { SetLook(look_.fontSize, points); }

@@ -5,6 +5,7 @@
 #include "table/TableModel.h"
 #include "table/TbxFormat.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -65,17 +66,26 @@ void TbxWriter::PutValue(std::string_view value) {
     output_.Put(tbx::kLineEnd);
 }
 
+/// A long text is converted in pieces, because it is in memory several times already.
+void TbxWriter::PutText(TextView value) {
+    constexpr std::size_t kPiece = 16 * 1024;
+    output_.Put({&tbx::kValue, 1});
+    for (; !value.empty(); value.remove_prefix(std::min(value.size(), kPiece)))
+        output_.Put(ToBytes(value.substr(0, kPiece)));
+    output_.Put(tbx::kLineEnd);
+}
+
 void TbxWriter::PutHeader() {
     const double height = table_.SetRowHeight.value_or(std::int16_t{0}) * tbx::kHeightScale;
     PutValue(Decimal(table_.TableBackColour.value_or(Colour{0}).value).View());
-    PutValue(ToBytes(table_.TableFontName ? TextView(*table_.TableFontName) : TextView()));
+    PutText(table_.TableFontName ? TextView(*table_.TableFontName) : TextView());
     PutValue(Decimal(table_.TableFontSize.value_or(std::int16_t{0})).View());
     PutValue(ToBytes(NumberText(height)));
 }
 
 void TbxWriter::PutColumns() {
     for (Col col{1}; col <= grid_.ColCount(); ++col) {
-        PutValue(ToBytes(grid_.ColHeaderText(col)));
+        PutText(grid_.ColHeaderText(col));
         PutValue(Decimal(std::int64_t{grid_.ColWidth(col)} * tbx::kWidthScale).View());
     }
 }

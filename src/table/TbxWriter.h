@@ -41,6 +41,7 @@ private:
     void PutAttributes(Row row);
     void PutCells(Row row);
     void PutValue(std::string_view value);
+    void PutText(TextView value);
     std::string_view CellBytes(Row row, Col col);
     std::string ToBytes(TextView text) const { return grid_.Page().ToBytes(text); }
 

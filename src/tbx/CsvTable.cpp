@@ -59,7 +59,8 @@ private:
 
     void AddColumn(std::string_view field) {
         const Col col = grid_.ColCount() + 1;
-        grid_.AddCol(NumberText(col.Number()) + u"no", WithLineBreaks(Decode(field), u" "));
+        const Text header = WithLineBreaks(Decode(field), u" ");
+        grid_.AddCol(NumberText(col.Number()) + u"no", header);
     }
 
     bool AddRow() {

@@ -42,5 +42,9 @@ TEST(ConvertTest, FifteenTwipsAreAPixel) {
     EXPECT_EQ(ToPixels(Twips{8}), 1);
 }
 
+TEST(Convert, OnlyTheBeginningOfALongFontNameIsLookedFor) {
+    EXPECT_EQ(WithSpec({}, {Text(1'000'000, u'f'), 12}).family(), QString(1000, 'f'));
+}
+
 } // namespace
 } // namespace korvane

@@ -30,6 +30,13 @@ protected:
     GridModel model{box};
 };
 
+TEST_F(GridModelTest, OnlyTheBeginningOfALongCaptionIsLaidOut) {
+    const Text name(1'000'000, u'n');
+    Store().SetColHeaderText(Col{1}, name);
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), QString(1000, 'n'));
+    EXPECT_EQ(Store().ColHeaderText(Col{1}), name) << "the name stays whole";
+}
+
 TEST_F(GridModelTest, KeepsTheRulesOfItsKind) {
     Store().SetCellCheckShown(Row{2}, true);
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);

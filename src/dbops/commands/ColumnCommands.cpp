@@ -1,6 +1,7 @@
 #include "dbops/commands/ColumnCommands.h"
 
 #include "common/number/Number.h"
+#include "common/text/Shown.h"
 #include "context/App.h"
 #include "context/ports/FontPicker.h"
 #include "dbops/windows/frmTxtDbColName.h"
@@ -87,7 +88,8 @@ void mnuEdit_InsertColumn_Clack(const TabContext& tab) {
 
 void mnuEdit_DeleteColumn_Clack(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
-    const Text question = u"Remove this column: \r\n\"" + grid.ColHeaderText(grid.CurCol()) + u"\"\t";
+    const Text question =
+        u"Remove this column: \r\n\"" + Text(Shown(grid.ColHeaderText(grid.CurCol()))) + u"\"\t";
     if (!AskYesNo(tab.app, question, YesNoDefault::No)) return;
     grid.RemoveCol(grid.CurCol());
     grid.GridSetFocus();

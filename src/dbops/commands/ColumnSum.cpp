@@ -2,6 +2,7 @@
 
 #include "common/number/Number.h"
 #include "common/number/RoundedNumber.h"
+#include "common/text/Shown.h"
 #include "context/App.h"
 #include "dbops/rules/DeleteMark.h"
 #include "dbops/rules/Rows.h"
@@ -55,7 +56,7 @@ void mnuCalc_Add_Clack(const TabContext& tab) {
     // The question shows the name as it was read or designed, which may be another column's once columns came
     // or went. Kept for compatibility: sum-asks-by-old-name.
     const Text question = u"Is this the column with values to use for calculating the total?\r\n\r\n\"" +
-                          tab.table.ColumnNames[col] + u"\"";
+                          Text(Shown(tab.table.ColumnNames[col])) + u"\"";
     if (AskYesNo(tab.app, question)) AppendTotal(grid, col, SumOfColumn(tab, col));
     grid.GridSetFocus();
 }

@@ -1,5 +1,7 @@
 #include "platform/qt/base/Convert.h"
 
+#include "common/text/Shown.h"
+
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
@@ -91,7 +93,7 @@ Colour ToColour(const QColor& colour) {
 }
 
 QFont WithSpec(QFont font, const FontSpec& spec) {
-    if (!spec.name.empty()) font.setFamily(ToQString(spec.name));
+    if (!spec.name.empty()) font.setFamily(ToQString(Shown(spec.name)));
     if (spec.size > 0) font.setPointSize(spec.size);
     if (spec.bold) font.setBold(true);
     return font;

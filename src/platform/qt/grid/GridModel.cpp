@@ -1,5 +1,6 @@
 #include "platform/qt/grid/GridModel.h"
 
+#include "common/text/Shown.h"
 #include "platform/qt/base/Convert.h"
 
 #include <algorithm>
@@ -87,7 +88,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (role != Qt::DisplayRole) return {};
     if (orientation == Qt::Vertical) return RowOf(section).Number();
-    return ToLines(Store().ColHeaderText(ColOf(section)));
+    return ToLines(Shown(Store().ColHeaderText(ColOf(section))));
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {

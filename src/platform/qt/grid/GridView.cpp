@@ -1,5 +1,6 @@
 #include "platform/qt/grid/GridView.h"
 
+#include "common/text/Shown.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/grid/CellLook.h"
 #include "platform/qt/grid/GridAccess.h"
@@ -200,7 +201,7 @@ void GridView::ReadLook() {
     const Grid& store = box_->Store();
     horizontalHeader()->setFont(QApplication::font());
     FitHeader();
-    const FontSpec own{store.GridFontName(), store.GridFontSize(), false};
+    const FontSpec own{Text(Shown(store.GridFontName())), store.GridFontSize(), false};
     setFont(WithSpec(WithSpec(QApplication::font(), box_->Font), own));
 
     // The view's own palette is the base, because a window around it may have changed its colours.

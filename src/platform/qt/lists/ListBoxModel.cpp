@@ -1,5 +1,6 @@
 #include "platform/qt/lists/ListBoxModel.h"
 
+#include "common/text/Shown.h"
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
 
@@ -58,7 +59,7 @@ int ListBoxModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ListBoxModel::data(const QModelIndex& index, int role) const {
     if (!Holds(index)) return {};
-    if (role == Qt::DisplayRole) return ToLines(list_.List(index.row()));
+    if (role == Qt::DisplayRole) return ToLines(Shown(list_.List(index.row())));
     if (role == Qt::FontRole) return FaceOf(index.row());
     if (role == Qt::DecorationRole) return SamplePicture(list_.SampleAt(index.row()));
     if (role == Qt::SizeHintRole && rowHeight_ > 0) return QSize(0, rowHeight_);

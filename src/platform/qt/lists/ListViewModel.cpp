@@ -1,5 +1,6 @@
 #include "platform/qt/lists/ListViewModel.h"
 
+#include "common/text/Shown.h"
 #include "platform/qt/base/Convert.h"
 
 #include <QDir>
@@ -42,7 +43,7 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     if (!Holds(index)) return {};
     const int row = index.row() + 1;
     const int column = index.column();
-    if (role == Qt::DisplayRole) return ToOneLine(list_.TextAt(row, column + 1));
+    if (role == Qt::DisplayRole) return ToOneLine(Shown(list_.TextAt(row, column + 1)));
     if (role == Qt::EditRole) return ToQString(list_.TextAt(row, column + 1));
     if (role == Qt::TextAlignmentRole) {
         return ToAlignment(list_.Columns.Get()[static_cast<std::size_t>(column)].align);

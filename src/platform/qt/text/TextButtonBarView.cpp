@@ -1,5 +1,6 @@
 #include "platform/qt/text/TextButtonBarView.h"
 
+#include "common/text/Shown.h"
 #include "controls/TextStyles.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/Icons.h"
@@ -207,7 +208,7 @@ void TextButtonBarView::Show() {
     if (control == nullptr) return;
     const TextStyle* const style = StyleOf(*control);
     ShowIn(*style_, style == nullptr ? QString() : ToQString(style->name));
-    ShowIn(*font_, ToQString(control->FontName()));
+    ShowIn(*font_, ToQString(Shown(control->FontName())));
     ShowIn(*size_, QString::number(control->FontSize()));
     ShowIn(*zoom_, tr("%1 %").arg(control->ZoomFactor.Get()));
     auto action = buttons_.begin();
