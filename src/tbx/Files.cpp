@@ -36,8 +36,11 @@ std::optional<SharedBytes> ReadStandardInput(Environment& environment) {
 
 std::optional<SharedBytes> ReadNamed(TextView path, const std::string& name, Environment& environment) {
     auto bytes = environment.files.ReadAll(path);
-    if (!bytes) ComplainOfFile("read", name, environment);
-    return bytes;
+    if (bytes) return bytes;
+    // A pipe or a terminal can't be read by its name, but the standard input can.
+    if (environment.isInput && environment.isInput(path)) return ReadStandardInput(environment);
+    ComplainOfFile("read", name, environment);
+    return std::nullopt;
 }
 
 } // namespace

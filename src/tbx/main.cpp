@@ -40,7 +40,7 @@ ExitStatus Finish(ExitStatus status, StreamOutput& out, Environment& environment
 ExitStatus Run(const std::vector<std::string>& arguments) {
     StreamOutput out(stdout);
     StreamOutput err(stderr);
-    NativeFileSystem files({}, {}, NativeFileSystem::SpecialFiles::Used);
+    NativeFileSystem files({}, {}, NativeFileSystem::SpecialFiles::Written);
     Environment environment{files,
                             out,
                             err,

@@ -170,7 +170,7 @@ std::optional<std::string> Made(const Helper& helper, const fs::path& file) {
     std::error_code error;
     if (!fs::is_regular_file(fs::symlink_status(file, error)) || fs::file_size(file, error) > kMostBytes)
         return std::nullopt;
-    const auto bytes = ReadFile(file, false, error);
+    const auto bytes = ReadFile(file, error);
     if (!bytes || !bytes->View().starts_with(helper.begin)) return std::nullopt;
     return helper.finish(std::string(bytes->View()));
 }

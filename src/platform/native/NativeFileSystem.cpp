@@ -142,7 +142,7 @@ Text NativeFileSystem::FullPath(TextView path) const {
 }
 
 std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
-    return ReadFile(ToNativePath(path), specialFiles_ == SpecialFiles::Used, lastError_);
+    return ReadFile(ToNativePath(path), lastError_);
 }
 
 std::unique_ptr<FileWriter> NativeFileSystem::OpenRaw(TextView path) {

@@ -12,8 +12,8 @@ namespace korvane {
 /// The real disk. The current directory is the one of the process.
 class NativeFileSystem final : public FileSystem {
 public:
-    /// Whether pipes, devices and sockets are read and written, which can take for ever.
-    enum class SpecialFiles : std::uint8_t { Refused, Used };
+    /// Whether pipes are written to, which can take for ever. Pipes, devices and sockets are never read.
+    enum class SpecialFiles : std::uint8_t { Refused, Written };
 
     explicit NativeFileSystem(TextView programDir) : NativeFileSystem(programDir, programDir) {}
     NativeFileSystem(TextView programDir, TextView stateDir,

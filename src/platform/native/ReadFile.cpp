@@ -63,9 +63,8 @@ std::error_code ReadToEnd(SystemFile& file, Reading& reading) {
 
 } // namespace
 
-std::optional<SharedBytes> ReadFile(const std::filesystem::path& path, bool special, std::error_code& error) {
-    SystemFile file =
-        special ? SystemFile::OpenToRead(path, error) : SystemFile::OpenPlainToRead(path, error);
+std::optional<SharedBytes> ReadFile(const std::filesystem::path& path, std::error_code& error) {
+    SystemFile file = SystemFile::OpenPlainToRead(path, error);
     if (error) return std::nullopt;
     const std::size_t size = file.Size();
     // There is room for one byte more than the file has, so that the first read shows that the end is

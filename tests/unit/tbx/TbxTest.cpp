@@ -160,5 +160,17 @@ TEST_F(Tbx, SaysSoWhenTheMemoryIsNotEnough) {
     ExpectRefusal({"dump", "-"}, "there isn't enough memory");
 }
 
+TEST(TbxInput, APipeIsUnreadableUnlessItIsTheStandardInput) {
+    TbxHarness run;
+    run.files.AddPipe(u"/dev/stdin");
+    run.files.AddPipe(u"/tmp/pipe");
+    run.inputFile = u"/dev/stdin";
+    run.input = TbxFile(RowLines(1, {"Anna", "x"}));
+    EXPECT_EQ(run.Run({"csv", "/dev/stdin"}), ExitStatus::Success);
+    EXPECT_EQ(run.out, "Name,Note\r\nAnna,x\r\n");
+    EXPECT_EQ(run.Run({"csv", "/tmp/pipe"}), ExitStatus::Error);
+    EXPECT_EQ(run.out, "");
+}
+
 } // namespace
 } // namespace korvane
