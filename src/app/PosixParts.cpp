@@ -1,8 +1,10 @@
 #include "app/SystemParts.h"
+#include "platform/native/EndSignals.h"
 #include "platform/qt/desktop/QtShell.h"
 #include "platform/qt/instance/LocalSocketChannel.h"
 #include "platform/qt/services/QtSystemFolders.h"
 
+#include <QSocketNotifier>
 #include <optional>
 
 namespace korvane {
@@ -18,8 +20,19 @@ public:
     }
     Shell& Desktop() override { return shell_; }
     const SystemFolders& Folders() const override { return folders_; }
+    void WatchEnd(const std::function<void()>& end) override {
+        signals_.emplace();
+        if (signals_->File() < 0) return;
+        notifier_ = std::make_unique<QSocketNotifier>(signals_->File(), QSocketNotifier::Read);
+        QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this, end] {
+            notifier_->setEnabled(false);
+            end();
+        });
+    }
 
 private:
+    std::optional<EndSignals> signals_;
+    std::unique_ptr<QSocketNotifier> notifier_;
     std::optional<LocalSocketChannel> channel_;
     QtShell shell_;
     QtSystemFolders folders_;

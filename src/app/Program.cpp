@@ -14,6 +14,7 @@
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
 #include "platform/native/UserCodePage.h"
+#include "platform/qt/base/FinishTyping.h"
 #include "platform/qt/services/LogOut.h"
 #include "platform/qt/services/QtTextOrder.h"
 #include "platform/xls/XlsSpreadsheet.h"
@@ -21,6 +22,7 @@
 
 #include <QApplication>
 #include <QPixmap>
+#include <cstdlib>
 #include <utility>
 
 namespace korvane {
@@ -76,9 +78,27 @@ int Program::Run(const Text& path) {
     main.Show();
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
     QObject whileItRuns;
-    CloseAtLogOut(main, whileItRuns);
+    CloseAtLogOut(
+        main, [&] { CloseUnasked(main); }, whileItRuns);
+    system_.WatchEnd([&] {
+        if (!CloseUnasked(main)) std::_Exit(0);
+    });
     forms_.RunUntilClosed(main);
     return 0;
+}
+
+/// The program ends and nobody can be asked: what a question would be about is kept for the next start. False
+/// when the window stays open.
+bool Program::CloseUnasked(frmMDIParent& main) {
+    FinishTyping();
+    if (main.HasChanges()) {
+        keptTables_.KeepNow();
+        return false;
+    }
+    // A window that waits for an answer can't be taken away from the command that asks.
+    if (QApplication::activeModalWidget() == nullptr) return main.Close();
+    main.WriteState();
+    return false;
 }
 
 int Program::Render(const Text& path, const QString& picture) {

@@ -38,6 +38,7 @@
 namespace korvane {
 
 class SystemParts;
+class frmMDIParent;
 
 /// The whole program, made of its real parts.
 class Program {
@@ -53,6 +54,8 @@ public:
     int Render(const Text& path, const QString& picture);
 
 private:
+    bool CloseUnasked(frmMDIParent& main);
+
     SystemParts& system_;
     NativeFileSystem files_;
     /// For the background alone.

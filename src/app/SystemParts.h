@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace korvane {
@@ -20,6 +21,8 @@ public:
     virtual const SystemFolders& Folders() const = 0;
     /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
+    /// Calls `end` when the system asks this program alone to end.
+    virtual void WatchEnd(const std::function<void()>& /*end*/) {}
 };
 
 /// The parts for the system that the program is built for.

@@ -62,6 +62,8 @@ public:
 
     /// Once, before the window is shown first.
     virtual void Load() {}
+    /// Whether something would be lost if the window went away without a question.
+    virtual bool HasChanges() const { return false; }
     /// False keeps the window open.
     virtual bool QueryUnload() { return true; }
     virtual void Unload() {}

@@ -342,6 +342,17 @@ void KeptTables::WriteDraft(OpenTable& open) {
         });
 }
 
+void KeptTables::KeepNow() {
+    if (!PrepareRun()) return;
+    for (const auto& [table, open] : open_) {
+        if (!open->Altered()) continue;
+        if (open->folder.empty()) open->folder = NewFolder();
+        TableFolder place(app_.Files(), root_, open->folder);
+        if (place.Prepare(open->Name()))
+            place.WriteDraft(++open->lastDraft, app_.Clock().Now(), DraftOf(open->table, open->host));
+    }
+}
+
 void KeptTables::DraftWritten(const TableModel& table, const Draft& draft) {
     OpenTable* open = Find(table);
     if (open == nullptr) return;

@@ -26,6 +26,8 @@ public:
     KeptTables& operator=(const KeptTables&) = delete;
     ~KeptTables() override;
 
+    /// Keeps all changes that aren't in a file at once. The program ends without asking about them.
+    void KeepNow();
     /// Looks for what runs of the program left that didn't end as they should.
     void LookForUnsaved();
 

@@ -69,6 +69,10 @@ bool Process::Running() {
     return !ended_;
 }
 
+void Process::Signal(int signal) const {
+    kill(id_, signal);
+}
+
 std::optional<int> Process::ExitStatus() {
     AwaitEnd();
     if (Running() || !WIFEXITED(status_)) return std::nullopt;

@@ -23,6 +23,7 @@ public:
     ~Process();
 
     bool Running();
+    void Signal(int signal) const;
     /// Waits for the end of the process. The result is nothing when it doesn't end in time, or when a signal
     /// ended it.
     std::optional<int> ExitStatus();

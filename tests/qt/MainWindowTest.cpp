@@ -396,11 +396,15 @@ struct Session {
     bool cancelled = false;
 };
 
+void Unexpected() {
+    FAIL() << "The user can be asked";
+}
+
 TEST_F(MainWindowTest, ALogOutAsksAboutChangesAndACancelKeepsTheSession) {
     main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Cancel);
     Session session;
-    AnswerLogOut(session, main);
+    AnswerLogOut(session, main, Unexpected);
     EXPECT_TRUE(session.cancelled);
     EXPECT_EQ(session.released, 1);
     EXPECT_TRUE(main.Shown());
@@ -410,16 +414,18 @@ TEST_F(MainWindowTest, ALogOutClosesTheProgramAsItsUserWould) {
     main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Yes);
     Session session;
-    AnswerLogOut(session, main);
+    AnswerLogOut(session, main, Unexpected);
     EXPECT_FALSE(session.cancelled);
     EXPECT_EQ(session.released, 1);
     EXPECT_FALSE(main.Shown());
 }
 
-TEST_F(MainWindowTest, ALogOutThatLetsNobodyBeAskedLeavesTheWindow) {
+TEST_F(MainWindowTest, ALogOutThatLetsNobodyBeAskedIsNotCancelled) {
     Session session;
     session.interactive = false;
-    AnswerLogOut(session, main);
+    int unasked = 0;
+    AnswerLogOut(session, main, [&] { ++unasked; });
+    EXPECT_EQ(unasked, 1);
     EXPECT_FALSE(session.cancelled);
     EXPECT_TRUE(main.Shown());
 }

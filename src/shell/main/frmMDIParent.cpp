@@ -129,6 +129,11 @@ void frmMDIParent::txtCommand_Change() {
     txtCommand.Text = Text();
 }
 
+bool frmMDIParent::HasChanges() const {
+    return std::ranges::any_of(Host().LoadedForms(),
+                               [this](const Form* form) { return form != this && form->HasChanges(); });
+}
+
 bool frmMDIParent::QueryUnload() {
     if (app_.Exchange<StartState>().SecondInstance != 1) {
         MDITabs1.On = false;
@@ -149,12 +154,16 @@ void frmMDIParent::StorePlace() {
 
 void frmMDIParent::Unload() {
     MDITabs1.On = false;
-    if (app_.Exchange<StartState>().SecondInstance == 0) {
-        WriteSettings(app_);
-        recents_.Write(app_);
-    }
+    WriteState();
     CloseOtherWindows();
     app_.SetPort<MainWindow>(nullptr);
+}
+
+void frmMDIParent::WriteState() {
+    if (app_.Exchange<StartState>().SecondInstance != 0) return;
+    StorePlace();
+    WriteSettings(app_);
+    recents_.Write(app_);
 }
 
 void frmMDIParent::CloseOtherWindows() {

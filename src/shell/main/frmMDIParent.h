@@ -56,6 +56,10 @@ public:
     void Activate() override;
     void Resize() override;
     void FilesDropped(const std::vector<Text>& paths) override;
+    /// Those of all windows.
+    bool HasChanges() const override;
+    /// Writes what a close writes of the program's state.
+    void WriteState();
     bool QueryUnload() override;
     void Unload() override;
 

@@ -57,6 +57,7 @@ public:
     int Slot() const;
 
     void Load() override;
+    bool HasChanges() const override { return table_.TableAltered == 1; }
     bool QueryUnload() override;
     void Activate() override;
 

@@ -57,6 +57,7 @@ public:
     TextControl rtfTempText{*this, "rtfTempText"};
 
     void Load() override;
+    bool HasChanges() const override { return Altered(); }
     bool QueryUnload() override;
     void Unload() override;
     void Activate() override;

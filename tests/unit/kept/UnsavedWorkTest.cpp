@@ -51,6 +51,24 @@ TEST_F(UnsavedWork, IsKeptTwoSecondsAfterTheLastKey) {
     EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("third")));
 }
 
+TEST_F(UnsavedWork, IsKeptAtOnceWhenTheProgramEndsUnasked) {
+    tab->Type(u"second");
+    tab->TypeIntoField(u"third");
+    run->keeper->KeepNow();
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("third")));
+    Kill();
+    Start();
+    EXPECT_THAT(run->Unsaved(), ElementsAre("/home/me/books.tbx"));
+}
+
+TEST_F(UnsavedWork, NothingIsKeptOfATableWithoutChangesWhenTheProgramEndsUnasked) {
+    run->keeper->KeepNow();
+    EXPECT_THAT(Drafts(), IsEmpty());
+    Kill();
+    Start();
+    EXPECT_THAT(run->Unsaved(), IsEmpty());
+}
+
 TEST_F(UnsavedWork, OfOneWhoNeverPausesIsKeptAfterFiveSeconds) {
     for (int second = 0; second < 20; ++second) {
         tab->Type(FromAscii("change " + std::to_string(second)));

@@ -7,13 +7,13 @@
 
 namespace korvane {
 
-void CloseAtLogOut(Form& main, QObject& context) {
+void CloseAtLogOut(Form& main, const std::function<void()>& unasked, QObject& context) {
     // The connection is direct, because the session expects the answer before the signal's handler returns.
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, &context,
-        [&main](QSessionManager& session) {
+        [&main, unasked](QSessionManager& session) {
             FinishTyping();
-            AnswerLogOut(session, main);
+            AnswerLogOut(session, main, unasked);
         },
         Qt::DirectConnection);
 }
