@@ -13,6 +13,7 @@
 #include "grid/GridStore.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/StateFolder.h"
+#include "platform/native/SystemCalls.h"
 #include "platform/native/UserCodePage.h"
 #include "platform/qt/base/FinishTyping.h"
 #include "platform/qt/services/LogOut.h"
@@ -47,6 +48,14 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
 
 } // namespace
 
+Program::MemoryLock::~MemoryLock() {
+    system_calls::AllowMemoryDump(true);
+}
+
+void Program::MemoryLock::Hold() {
+    system_calls::AllowMemoryDump(false);
+}
+
 Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& channel,
                  MessageBoxes& messages)
     : system_(system),
@@ -57,6 +66,7 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
           system.Folders(), locale_, fileTypes_, fonts_)),
       keptTables_(app_, background_, FromNativePath(FindKeptFolder(OwnSurroundings()))) {
+    app_.SetPort<SecretHolder>(&memoryLock_);
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);

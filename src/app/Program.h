@@ -1,6 +1,7 @@
 #pragma once
 
 #include "context/App.h"
+#include "context/ports/SecretHolder.h"
 #include "extras/web/Pages.h"
 #include "extras/web/Websites.h"
 #include "files/lister/Lister.h"
@@ -56,7 +57,15 @@ public:
 private:
     bool CloseUnasked(frmMDIParent& main);
 
+    /// Keeps the memory from others until it is gone, which is later than the settings with the password.
+    class MemoryLock final : public SecretHolder {
+    public:
+        ~MemoryLock() override;
+        void Hold() override;
+    };
+
     SystemParts& system_;
+    MemoryLock memoryLock_;
     NativeFileSystem files_;
     /// For the background alone.
     NativeFileSystem backgroundFiles_;

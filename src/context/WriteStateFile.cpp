@@ -12,4 +12,13 @@ void WriteStateFile(App& app, TextView path, std::string_view bytes) {
     if (!written) ShowCannotAccess(app, path);
 }
 
+void WriteSecretFile(App& app, TextView path, std::string_view bytes, std::string_view withoutSecret) {
+    FileSystem& files = app.Files();
+    const auto write = [&] {
+        return files.IsTrusted(path) && files.WriteWhole(path, bytes, Readers::OwnerAloneOrNone);
+    };
+    // A failure that passes must not cost the secret.
+    if (!write() && !write()) WriteStateFile(app, path, withoutSecret);
+}
+
 } // namespace korvane

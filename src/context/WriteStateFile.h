@@ -13,4 +13,7 @@ class App;
 /// what is in it.
 void WriteStateFile(App& app, TextView path, std::string_view bytes);
 
+/// The same of bytes with a secret. Where others could read the file, `withoutSecret` is written instead.
+void WriteSecretFile(App& app, TextView path, std::string_view bytes, std::string_view withoutSecret);
+
 } // namespace korvane

@@ -58,8 +58,9 @@ public:
     virtual std::optional<FileDetails> Of(TextView name) const = 0;
 };
 
-/// Who may read a file that is written whole.
-enum class Readers : std::uint8_t { AsBefore, OwnerAlone };
+/// Who may read a file that is written whole. A disk that doesn't know owners can't keep others from it. Then
+/// `OwnerAloneOrNone` fails, and `OwnerAlone` doesn't.
+enum class Readers : std::uint8_t { AsBefore, OwnerAlone, OwnerAloneOrNone };
 
 enum class CopyOutcome : std::uint8_t { Copied, DiskFull, Failed };
 
@@ -96,7 +97,7 @@ public:
     /// no other file can be made in the folder, or the file is none that can be replaced, are the bytes
     /// written into the file itself.
     virtual bool WriteWhole(TextView path, std::string_view bytes, Readers readers = Readers::AsBefore) {
-        const auto file = readers == Readers::OwnerAlone ? OpenPrivate(path) : OpenRaw(path);
+        const auto file = readers == Readers::AsBefore ? OpenRaw(path) : OpenPrivate(path);
         return file && file->Write(bytes) && file->Close();
     }
     /// Whether no other user of the computer can have put the file there: it belongs to the user or to the

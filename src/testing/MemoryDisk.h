@@ -47,6 +47,8 @@ struct MemoryVolume {
     std::vector<Text> currentDir;
     VolumeInfo info{.type = DriveType::Fixed};
     bool readOnly = false;
+    /// Whether it keeps who may read a file.
+    bool knowsOwners = true;
     /// How many more bytes the volume takes; nothing for no limit.
     std::optional<std::int64_t> freeBytes;
     /// How many bytes its files may hold together; without limit when nothing is given.

@@ -160,13 +160,15 @@ bool MemoryFileSystem::WriteWhole(TextView path, std::string_view bytes, Readers
     if (Strikes(FileStep::OpenToWrite)) return false;
     const Place place = Find(path);
     if (!CanOpenToWrite(place)) return false;
+    if (readers == Readers::OwnerAloneOrNone && !place.volume->knowsOwners) return Fail(kNotPermitted);
     Place unfinished{place.volume, place.folder, Text(kUnfinishedCopy), nullptr};
     const auto made = unfinished.node = disk_.Put(unfinished, MemoryNode::Kind::File);
     const bool whole = !Strikes(FileStep::Write) && Append(*made, *place.volume, bytes) &&
                        !Strikes(FileStep::Close) && !Strikes(FileStep::Rename);
     disk_.Erase(unfinished);
     if (!whole) return false;
-    made->isPrivate = readers == Readers::OwnerAlone || (place.node && place.node->isPrivate);
+    made->isPrivate =
+        place.volume->knowsOwners && (readers != Readers::AsBefore || (place.node && place.node->isPrivate));
     disk_.PutBack(place, made);
     return Succeed();
 }
@@ -457,6 +459,10 @@ void MemoryFileSystem::SetFreeBytes(std::int64_t bytes, TextView path) {
 
 void MemoryFileSystem::SetQuota(std::int64_t bytes, TextView path) {
     if (MemoryVolume* volume = disk_.VolumeOf(path)) volume->quota = bytes;
+}
+
+void MemoryFileSystem::ForgetOwners(TextView path) {
+    if (MemoryVolume* volume = disk_.VolumeOf(path)) volume->knowsOwners = false;
 }
 
 void MemoryFileSystem::SetDiskReadOnly(bool readOnly, TextView path) {

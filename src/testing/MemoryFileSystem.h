@@ -71,6 +71,8 @@ public:
     void AddPipe(TextView path);
     /// From now on the file at this path belongs to another user.
     void SetForeign(TextView path) { foreign_ = FullPath(path); }
+    /// From now on everybody may read all files of the disk of the path (the current one when it is empty).
+    void ForgetOwners(TextView path = {});
     void SetFileReadOnly(TextView path, bool readOnly = true);
     void SetModified(TextView path, const DateTime& time);
     void SetProgramDir(TextView path);

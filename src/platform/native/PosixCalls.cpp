@@ -4,6 +4,9 @@
 #include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 #include <unistd.h>
 
 #include <cerrno>
@@ -44,7 +47,7 @@ void GiveRights(int file, const FileRights& rights) {
     const bool groupKept =
         fchown(file, rights.user, rights.group) == 0 || fchown(file, kSameUser, rights.group) == 0;
     const mode_t mode = rights.mode & kRightsBits;
-    // If this fails a new file is for its owner alone, and one that was there keeps the rights that it had.
+    // Some disks keep no rights, and then others can read the file. `IsForOwnerAlone` tells.
     [[maybe_unused]] const int result = fchmod(file, groupKept ? mode : WithoutGroup(mode));
 }
 
@@ -121,6 +124,17 @@ std::optional<FileRights> RightsOf(const fs::path& path) {
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights) {
     if (!rights) return FileRights{kOwnersFile, kSameUser, kSameGroup};
     return FileRights{rights->mode & kOwnersBits, rights->user, rights->group};
+}
+
+bool IsForOwnerAlone(int file) {
+    struct stat status {};
+    return fstat(file, &status) == 0 && (status.st_mode & (kGroupBits | kOthersBits)) == 0;
+}
+
+void AllowMemoryDump([[maybe_unused]] bool allow) {
+#ifdef PR_SET_DUMPABLE
+    prctl(PR_SET_DUMPABLE, allow ? 1 : 0, 0, 0, 0);
+#endif
 }
 
 bool IsTrusted(const fs::path& path) {

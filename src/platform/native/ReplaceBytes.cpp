@@ -51,10 +51,13 @@ std::optional<std::error_code> ReplaceBytes(const fs::path& path, std::string_vi
     if (isThere && !system_calls::IsWritable(target)) return LastSystemError();
     const fs::path unfinished = NameBeside(target);
     auto rights = isThere ? system_calls::RightsOf(target) : std::nullopt;
-    if (readers == Readers::OwnerAlone) rights = system_calls::OwnersAlone(rights);
+    if (readers != Readers::AsBefore) rights = system_calls::OwnersAlone(rights);
     SystemFile file = SystemFile::CreateNew(unfinished, rights, error);
     // Writing into the file itself empties it first, and on a full disk it would stay empty.
-    if (!file.IsOpen()) return IsDiskFull(error) ? std::optional(error) : std::nullopt;
+    const bool ownerAlone = readers == Readers::OwnerAloneOrNone;
+    if (!file.IsOpen()) return ownerAlone || IsDiskFull(error) ? std::optional(error) : std::nullopt;
+    if (ownerAlone && !system_calls::IsForOwnerAlone(file.Number()))
+        return GiveUp(unfinished, std::make_error_code(std::errc::operation_not_permitted));
     error = WriteAll(file, bytes);
     if (!error && !system_calls::Flush(unfinished)) error = LastSystemError();
     if (!error) fs::rename(unfinished, target, error);

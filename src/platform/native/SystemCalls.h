@@ -46,6 +46,11 @@ std::optional<FileRights> RightsOf(const std::filesystem::path& path);
 /// The given rights without those of the group and of others. Without `rights`, those of a new file that only
 /// its owner may read and write.
 std::optional<FileRights> OwnersAlone(const std::optional<FileRights>& rights);
+/// Whether nobody but its owner may read or write the open file, as far as the system knows owners.
+bool IsForOwnerAlone(int file);
+/// Allows or forbids that the system writes the memory of this program to a file when it crashes, and that
+/// the user's other programs look into it.
+void AllowMemoryDump(bool allow);
 /// Whether the file belongs to the user or to the administrator, or is missing.
 bool IsTrusted(const std::filesystem::path& path);
 /// Returns when the contents of the file are safe on the disk.

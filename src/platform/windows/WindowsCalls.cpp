@@ -98,6 +98,15 @@ std::optional<FileRights> OwnersAlone(const std::optional<FileRights>&) {
     return std::nullopt;
 }
 
+bool IsForOwnerAlone(int) {
+    // The user's folders are closed to others on Windows, and files are as their folder.
+    return true;
+}
+
+void AllowMemoryDump(bool) {
+    // A dump is written only where the administrator asks for it.
+}
+
 bool IsTrusted(const fs::path&) {
     // The folders of the program and of the user are no one else's on Windows.
     return true;

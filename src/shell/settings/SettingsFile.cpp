@@ -8,6 +8,7 @@
 #include "context/StandardMessages.h"
 #include "context/WriteStateFile.h"
 #include "context/exchange/StateFiles.h"
+#include "context/ports/SecretHolder.h"
 #include "platform/FileSystem.h"
 
 #include <cmath>
@@ -67,6 +68,21 @@ Text SettingsToRead(const FileSystem& files, TextView own) {
     return !files.FileExists(own) && files.FileExists(shipped) ? shipped : Text(own);
 }
 
+namespace {
+
+void ReadLines(App& app, std::string_view bytes) {
+    // Only CR LF ends a line, because the line that holds the word delimiters has a lone CR at its end.
+    LineReader lines(bytes, LineEnds::CrLf);
+    std::string_view line;
+    for (const SettingLine& setting : SettingsTable()) {
+        if (!lines.Next(line)) return;
+        std::visit([&](auto member) { StoreLine(setting, line, app.Page(), app.Settings.*member); },
+                   setting.read);
+    }
+}
+
+} // namespace
+
 void ReadSettings(App& app) {
     const Text& own = app.Exchange<StateFiles>().IniFilePath;
     const Text path = SettingsToRead(app.Files(), own);
@@ -76,20 +92,23 @@ void ReadSettings(App& app) {
         return;
     }
     const auto bytes = app.Files().ReadAll(path);
-    if (!bytes) return;
-    // Only CR LF ends a line, because the line that holds the word delimiters has a lone CR at its end.
-    LineReader lines(bytes->View(), LineEnds::CrLf);
-    std::string_view line;
-    for (const SettingLine& setting : SettingsTable()) {
-        if (!lines.Next(line)) return;
-        std::visit([&](auto member) { StoreLine(setting, line, app.Page(), app.Settings.*member); },
-                   setting.read);
-    }
+    if (bytes) ReadLines(app, bytes->View());
+    HoldPassword(app);
 }
 
 void WriteSettings(App& app) {
     TakeCurrentDir(app);
-    WriteStateFile(app, app.Exchange<StateFiles>().IniFilePath, AllLines(app.Settings, app.Page()));
+    const Text& path = app.Exchange<StateFiles>().IniFilePath;
+    const std::string all = AllLines(app.Settings, app.Page());
+    if (app.Settings.ReturnPassword.empty()) return WriteStateFile(app, path, all);
+    Settings open = app.Settings;
+    open.ReturnPassword.clear();
+    WriteSecretFile(app, path, all, AllLines(open, app.Page()));
+}
+
+void HoldPassword(const App& app) {
+    auto* holder = app.Port<SecretHolder>();
+    if (holder != nullptr && !app.Settings.ReturnPassword.empty()) holder->Hold();
 }
 
 } // namespace korvane

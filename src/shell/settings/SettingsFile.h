@@ -19,7 +19,11 @@ Text SettingsToRead(const FileSystem& files, TextView own);
 void ReadSettings(App& app);
 
 /// Writes all lines of the settings to `IniFilePath`, in place of the old file. Only its owner may read it,
-/// because one line is a password. Shows a message when it can't be written.
+/// because one line is a password. Where others could read it, that line is empty. Shows a message when it
+/// can't be written.
 void WriteSettings(App& app);
+
+/// Protects the password, if there is one, from those who look into the program's memory.
+void HoldPassword(const App& app);
 
 } // namespace korvane

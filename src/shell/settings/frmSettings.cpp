@@ -6,6 +6,7 @@
 #include "context/ports/FontPicker.h"
 #include "context/ports/SystemFileDialog.h"
 #include "platform/FileSystem.h"
+#include "shell/settings/SettingsFile.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"
 #include "shell/tabs/Tabs.h"
@@ -91,7 +92,10 @@ void frmSettings::WireFields() {
         box.Click = [this, &box, field = option.field] { app_.Settings.*field = box.Value; };
     }
     chkYesShowFullPath.Click = [this] { chkYesShowFullPath_Click(); };
-    txtReturnPassword.Change = [this] { app_.Settings.ReturnPassword = txtReturnPassword.Text; };
+    txtReturnPassword.Change = [this] {
+        app_.Settings.ReturnPassword = txtReturnPassword.Text;
+        HoldPassword(app_);
+    };
 }
 
 void frmSettings::Unload() {

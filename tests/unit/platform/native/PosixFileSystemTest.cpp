@@ -1,8 +1,10 @@
 // Tests what only POSIX systems have: pipes, devices, links and permissions of owners.
 
+#include "platform/native/SystemFile.h"
 #include "support/SmallDisk.h"
 #include "unit/platform/native/NativeFiles.h"
 
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,6 +26,23 @@ TEST_F(NativeFiles, WritesToAPipeButReadsNoneWhereThatIsWanted) {
     EXPECT_TRUE(patient.WriteWhole(At("pipe"), "bytes"));
     reader.join();
     EXPECT_EQ(read, "bytes");
+}
+
+TEST_F(NativeFiles, NoDumpIsWrittenOfASecret) {
+    system_calls::AllowMemoryDump(false);
+    EXPECT_EQ(prctl(PR_GET_DUMPABLE), 0);
+    system_calls::AllowMemoryDump(true);
+    EXPECT_EQ(prctl(PR_GET_DUMPABLE), 1);
+}
+
+TEST_F(NativeFiles, TellsWhetherAFileIsForItsOwnerAlone) {
+    WriteBytes(dir / "a", "");
+    for (const auto& [mode, alone] : {std::pair(0600, true), {0400, true}, {0640, false}, {0602, false}}) {
+        ASSERT_EQ(chmod((dir / "a").c_str(), static_cast<mode_t>(mode)), 0);
+        std::error_code error;
+        const SystemFile file = SystemFile::OpenToRead(dir / "a", error);
+        EXPECT_EQ(system_calls::IsForOwnerAlone(file.Number()), alone) << mode;
+    }
 }
 
 TEST_F(NativeFiles, WaitsForNoPipeAndReadsNoDevice) {

@@ -1,6 +1,7 @@
 #include "shell/settings/SettingsFile.h"
 
 #include "context/exchange/StateFiles.h"
+#include "context/ports/SecretHolder.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -239,6 +240,39 @@ TEST_F(SettingsFile, IsForItsOwnersEyesOnlyAsItHoldsAPassword) {
     EXPECT_FALSE(t.files.IsPrivate(kIni));
     WriteSettings(t.app);
     EXPECT_TRUE(t.files.IsPrivate(kIni));
+}
+
+TEST_F(SettingsFile, ThePasswordIsNotWrittenWhereOthersCouldReadIt) {
+    t.app.Settings.ReturnPassword = u"secret";
+    t.app.Settings.LastDbFindText = u"words";
+    t.files.ForgetOwners(kIni);
+    const std::string all = Joined(WrittenLines());
+    EXPECT_EQ(all.find("secret"), std::string::npos);
+    EXPECT_NE(all.find("words"), std::string::npos) << "the other settings are";
+    EXPECT_EQ(t.app.Settings.ReturnPassword, u"secret") << "it holds as long as the program runs";
+}
+
+TEST_F(SettingsFile, AFailureThatPassesDoesNotCostThePassword) {
+    t.app.Settings.ReturnPassword = u"secret";
+    t.files.Faults().FailNth(FileStep::Write, 1);
+    EXPECT_NE(Joined(WrittenLines()).find("secret"), std::string::npos);
+}
+
+/// Counts how often a secret is held.
+struct CountingHolder final : SecretHolder {
+    void Hold() override { ++times; }
+    int times = 0;
+};
+
+TEST_F(SettingsFile, APasswordIsHeldAsSoonAsItIsRead) {
+    CountingHolder holder;
+    t.app.SetPort<SecretHolder>(&holder);
+    Read(Joined(std::vector<std::string>(127, "")));
+    EXPECT_EQ(holder.times, 0);
+    std::vector<std::string> lines(128, "");
+    lines.back() = "secret";
+    Read(Joined(lines));
+    EXPECT_EQ(holder.times, 1);
 }
 
 TEST_F(SettingsFile, AFileThatCannotBeWrittenIsToldAndTheOldOneStays) {
