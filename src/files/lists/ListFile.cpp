@@ -19,19 +19,6 @@ std::string BytesOf(const std::vector<Text>& lines, const CodePage& page) {
     return bytes;
 }
 
-bool PutBytes(FileSystem& files, TextView path, std::string_view bytes) {
-    const auto file = files.OpenRaw(path);
-    if (file == nullptr) return false;
-    const bool written = file->Write(bytes);
-    return file->Close() && written;
-}
-
-/// A copy, which outlives the file.
-std::optional<std::string> Contents(FileSystem& files, TextView path) {
-    const auto bytes = files.ReadAll(path);
-    return bytes ? std::optional(std::string(bytes->View())) : std::nullopt;
-}
-
 bool CanBeList(std::string_view bytes) {
     return bytes.find('\0') == std::string_view::npos;
 }
@@ -55,12 +42,8 @@ std::optional<std::vector<Text>> ReadListFile(App& app, TextView path, std::int6
 }
 
 bool WriteListFile(App& app, TextView path, const std::vector<Text>& lines) {
-    FileSystem& files = app.Files();
-    const auto old = files.FileExists(path) ? Contents(files, path) : std::nullopt;
-    const bool removed = files.FileExists(path) && files.Remove(path);
-    if (PutBytes(files, path, BytesOf(lines, app.Page()))) return true;
+    if (app.Files().WriteWhole(path, BytesOf(lines, app.Page()))) return true;
     ShowCannotAccess(app, path);
-    if (removed && old) PutBytes(files, path, *old);
     return false;
 }
 

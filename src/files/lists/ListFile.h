@@ -22,8 +22,8 @@ inline constexpr std::int64_t kLargestList = 1'000'000;
 /// it holds a zero byte or is larger than any list.
 std::optional<std::vector<Text>> ReadListFile(App& app, TextView path, std::int64_t largest = kLargestList);
 
-/// Puts the lines in place of what the file holds. When it can't be written, a box tells so, and what a full
-/// disk cut short is as it was.
+/// Puts the lines in place of what the file holds. When it can't be written, a box tells so, and the file is
+/// as it was.
 bool WriteListFile(App& app, TextView path, const std::vector<Text>& lines);
 
 } // namespace korvane
