@@ -2,6 +2,7 @@
 
 #include "common/text/Names.h"
 #include "context/ports/SystemFontDialog.h"
+#include "support/DesignerFile.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmElements.h"
 #include "text/insert/frmSymbolTables.h"
@@ -47,6 +48,30 @@ TEST_F(QuickNameSizeTest, TheListsHaveTheirRows) {
                                                          u"Smart Upper", u"Small CAPS"}));
     EXPECT_EQ(Lines(window->cboSubSuper),
               (std::vector<Text>{u"00", u"36", u"48", u"64", u"72", u"84", u"96", u"108", u"120"}));
+}
+
+TEST_F(QuickNameSizeTest, HasItsCaptions) {
+    static constexpr std::pair<std::string_view, TextView> kCaptions[] = {
+        {"chkNoChange", u"&No change"},
+        {"cmdZeroBaseline", u"Set to &zero"},
+        {"cmdDrawLine", u"Single line"},
+        {"cmdDrawDoubleLine", u"Doubleline"},
+        {"cmdNoLine", u"No line"},
+        {"cmdShapes", u"Shapes and symbols"},
+        {"cmdSymbols", u"ASCII characters table"},
+        {"cmdAllSymbols", u"All symbols"},
+        {"cmdAllFonts", u"All fonts"},
+        {"cmdApply", u"&Apply"},
+    };
+    const frmQuickNameSize f(t.app);
+    const auto caption = [&f](std::string_view name) {
+        const Control* control = f.Find(name);
+        if (const auto* box = dynamic_cast<const CheckBox*>(control)) return box->Caption.Get();
+        return dynamic_cast<const CommandButton&>(*control).Caption.Get();
+    };
+    for (const auto& [name, text] : kCaptions)
+        EXPECT_EQ(caption(name), text) << name;
+    ExpectLook(f, "text/formats", {"Superscript offset"});
 }
 
 TEST_F(QuickNameSizeTest, WithoutFontsThereIsOnlyTheFirstRow) {

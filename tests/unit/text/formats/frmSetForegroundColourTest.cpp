@@ -1,5 +1,6 @@
 #include "text/formats/frmSetForegroundColour.h"
 
+#include "support/DesignerFile.h"
 #include "unit/text/formats/FormatsStage.h"
 
 #include <memory>
@@ -40,6 +41,30 @@ TEST_F(SetForegroundColourTest, EachRowIsAPairOfColours) {
         ++row;
     }
     EXPECT_EQ(Open().lstColourOptions.ListCount(), row);
+}
+
+TEST_F(SetForegroundColourTest, HasItsCaptions) {
+    static constexpr std::pair<std::string_view, TextView> kCaptions[] = {
+        {"cmdApply", u"&Apply"},
+        {"cmdMoreColours", u"&Foreground"},
+        {"cmdBackground", u"Backgroun&d"},
+        {"cmdApplyCustomValues", u"Apply custom &values"},
+        {"cmdCancel", u"&Close"},
+        {"chkPrintViewBackColour", u"Dark background for page view"},
+        {"chkAltY_Strikethru", u"Use strikethrough"},
+    };
+    const frmSetForegroundColour f(t.app);
+    EXPECT_EQ(f.Caption.Get(), u"Colours for selected text");
+    const auto caption = [&f](std::string_view name) {
+        const Control* control = f.Find(name);
+        if (const auto* box = dynamic_cast<const CheckBox*>(control)) return box->Caption.Get();
+        return dynamic_cast<const CommandButton&>(*control).Caption.Get();
+    };
+    for (const auto& [name, text] : kCaptions)
+        EXPECT_EQ(caption(name), text) << name;
+    ExpectLook(f, "text/formats",
+               {"Determine colour for Alt-G", "this colour marking, &lt;Alt-Y&gt;",
+                "N.B.: Alt-Z clears highlighting from text", "Symbol(s) put before + after"});
 }
 
 TEST_F(SetForegroundColourTest, ADoubleClickAppliesARow) {

@@ -33,6 +33,12 @@ TEST_F(ASCIIBoxTest, ShowsAllCharactersOfTheCodePage) {
     EXPECT_EQ(tiles[65].spoken, u"A Alt+65 ");
 }
 
+TEST_F(ASCIIBoxTest, HasItsCaptions) {
+    const frmASCIIBox f(t.app, &target);
+    EXPECT_EQ(f.cmdInsert.Caption.Get(), u"&Insert");
+    EXPECT_EQ(f.cmdMakeDefault.Caption.Get(), u"&Make default");
+}
+
 TEST_F(ASCIIBoxTest, TheLabelTellsTheKeysOfTheCellUnderTheMouse) {
     Open(&target);
     window->Grid1.PointAt(65);

@@ -41,6 +41,30 @@ protected:
     std::unique_ptr<frmDateType> window;
 };
 
+TEST_F(DateTypeTest, HasItsCaptionsAndTips) {
+    struct Row {
+        CommandButton frmDateType::*button;
+        Text caption;
+        Text tip{};
+    };
+    static const Row kRows[] = {
+        {&frmDateType::cmdDate, u"&Date"},
+        {&frmDateType::cmdTime, u"&Time"},
+        {&frmDateType::cmdDateTime, u"Date+Ti&me"},
+        {&frmDateType::cmdClip, u"&Clip", u"Put this line in Windows clipboard"},
+        {&frmDateType::cmdAccept, u"&Accept"},
+        {&frmDateType::cmdExit, u"E&xit"},
+        {&frmDateType::cmdPreviousMonth, u"<", u"Previous month in this year"},
+        {&frmDateType::cmdNextMonth, u">", u"Next month in this year"},
+        {&frmDateType::cmdClock, u"Cloc&k", u"Show clock"},
+    };
+    const frmDateType f(t.app);
+    for (const Row& row : kRows) {
+        EXPECT_EQ((f.*row.button).Caption.Get(), row.caption);
+        EXPECT_EQ((f.*row.button).ToolTipText.Get(), row.tip);
+    }
+}
+
 TEST_F(DateTypeTest, TheListsHaveTodayAndNowInAllForms) {
     Open();
     EXPECT_EQ(Lines(window->lstDate),

@@ -162,6 +162,12 @@ TEST_F(ElementsTest, EveryShapeMeansSomething) {
         EXPECT_GT(window->lstShapes.List(row)[0], u'\u2000') << row;
 }
 
+TEST_F(ElementsTest, HasItsCaptions) {
+    const frmElements f(t.app, &target);
+    EXPECT_EQ(f.cmdAccept1.Caption.Get(), u"Insert shape (left window)");
+    EXPECT_EQ(f.cmdAccept2.Caption.Get(), u"Insert symbol (right window)");
+}
+
 TEST_F(ElementsTest, NothingHappensWithoutATarget) {
     Open(nullptr);
     EXPECT_FALSE(window->cmdAccept1.Enabled);

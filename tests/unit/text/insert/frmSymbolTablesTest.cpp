@@ -6,6 +6,7 @@
 #include "unit/text/insert/InsertStage.h"
 
 #include <memory>
+#include <vector>
 
 namespace korvane {
 namespace {
@@ -34,6 +35,14 @@ protected:
     DocumentFiles documents{t.files, CodePage::Windows1252(), &converter};
     std::unique_ptr<frmSymbolTables> window;
 };
+
+TEST_F(SymbolTablesTest, HasItsMenu) {
+    std::vector<Text> captions;
+    for (const MenuEntry& entry : Open().OfficeMenu1.Entries())
+        captions.emplace_back(entry.caption);
+    EXPECT_EQ(captions, (std::vector<Text>{u"E&xit", u"Centre scree&n", u"In&fo", u"&Get file", u"Zoom &in",
+                                           u"Zoom &out", u"Insert &symbol"}));
+}
 
 TEST_F(SymbolTablesTest, OpensWithTheFileOfLastTime) {
     EXPECT_EQ(Open().ThisTextCtrl.All(), u"");

@@ -96,6 +96,25 @@ TEST_F(WordListFile, AutosaveLeavesAFileThatCouldNotBeRead) {
     EXPECT_EQ(Written(Text(kFile)), "one\r\n");
 }
 
+TEST_F(WordListFile, ReadsManyLinesAndOnesOfAMegabyte) {
+    std::string bytes;
+    for (int line = 0; line < 20'000; ++line)
+        bytes += "entry " + std::to_string(line) + "\r\n";
+    const std::string large(1'000'000, 'x');
+    bytes += large + "\r\n" + large;
+    HaveFile(bytes);
+    const auto words = Listed();
+    ASSERT_THAT(words, testing::SizeIs(20'002));
+    EXPECT_EQ(words[19'999], u"entry 19999");
+    EXPECT_EQ(words[20'001].size(), large.size());
+}
+
+TEST_F(WordListFile, AFileThatIsFarTooLargeIsNotRead) {
+    HaveFile(std::string(64'000'001, 'x'));
+    ExpectUnread(Text(kFile));
+    EXPECT_THAT(Listed(), IsEmpty());
+}
+
 TEST_F(WordListFile, AnEmptyFileIsAnEmptyList) {
     HaveFile("");
     Have({u"collected"});
