@@ -1,6 +1,7 @@
 #include "platform/qt/lists/GlyphTexts.h"
 
 #include <QPainter>
+#include <QVarLengthArray>
 #include <algorithm>
 #include <numeric>
 
@@ -13,6 +14,9 @@ constexpr char16_t kFirstMark = 0x300;
 constexpr char16_t kPunctuation = 0x2010;
 constexpr char16_t kAfterPunctuation = 0x2027;
 
+/// Most texts have no more characters.
+constexpr qsizetype kShort = 8;
+
 bool IsByItself(QChar character) {
     const char16_t code = character.unicode();
     return code < kFirstMark || (code >= kPunctuation && code < kAfterPunctuation);
@@ -24,11 +28,15 @@ GlyphTexts::GlyphTexts(const QFont& font) : font_(QRawFont::fromFont(font)) {}
 
 bool GlyphTexts::Add(const QString& text, const QRect& place) {
     if (!std::all_of(text.begin(), text.end(), IsByItself)) return false;
-    const QVector<quint32> glyphs = font_.glyphIndexesForString(text);
-    if (glyphs.size() != text.size() || glyphs.contains(0)) return false;
-    const QVector<QPointF> advances = font_.advancesForGlyphIndexes(glyphs);
+    QVarLengthArray<quint32, kShort> glyphs(text.size());
+    QVarLengthArray<QPointF, kShort> advances(text.size());
+    int count = static_cast<int>(text.size());
+    const bool known = font_.glyphIndexesForChars(text.constData(), count, glyphs.data(), &count) &&
+                       count == text.size() && !glyphs.contains(0) &&
+                       font_.advancesForGlyphIndexes(glyphs.constData(), advances.data(), count);
+    if (!known) return false;
     const qreal width = std::accumulate(advances.begin(), advances.end(), 0.0,
-                                        [](qreal sum, const QPointF& advance) { return sum + advance.x(); });
+                                        [](qreal sum, QPointF advance) { return sum + advance.x(); });
     const qreal height = font_.ascent() + font_.descent();
     // Whole pixels, at which glyphs are kept ready.
     qreal x = qRound(place.x() + (place.width() - width) / 2);
