@@ -137,7 +137,10 @@ struct Contender {
             Settle();
         });
         form->Close();
+        form.reset();
         Settle();
+        // Without an event loop nothing else deletes what was closed.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 };
 
