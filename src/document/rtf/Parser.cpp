@@ -225,7 +225,7 @@ bool Parser::TakesFallback() {
 void Parser::Prepare() {
     if (para_.inTable) builder_.OpenCell();
     if (!lookChanged_) return;
-    builder_.SetFormat(state_.look);
+    builder_.SetFormat(LookAtHand());
     builder_.SetField(state_.field);
     lookChanged_ = false;
 }

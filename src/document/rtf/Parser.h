@@ -43,9 +43,22 @@ struct FontEntry {
     std::optional<CodePage> page = CodePage::Windows1252();
 };
 
+/// The scripts whose characters have words for some of their looks of their own.
+enum class ScriptKind : std::uint8_t { Main, RightToLeft, EastAsian };
+inline constexpr std::size_t kScriptKinds = 3;
+
+/// What the words of a script say; the rest is as in the main one.
+struct ScriptLook {
+    std::optional<std::uint16_t> halfPoints{};
+    std::optional<bool> bold{};
+    std::optional<bool> italic{};
+};
+
 /// What a group gives back at its end.
 struct GroupState {
     CharFormat look{};
+    ScriptKind script = ScriptKind::Main;
+    std::array<ScriptLook, kScriptKinds> scripts{};
     Index field = 0;
     std::int32_t fallbackLength = 1;
     Target target = Target::Body;
@@ -129,6 +142,10 @@ private:
     void PageSize(const Value& value, std::int32_t size);
     void PlainText(const Value&, std::int32_t);
     void CharFlag(const Value& value, std::int32_t flag);
+    void SetScriptKind(const Value& value, std::int32_t kind);
+    void ScriptFlag(const Value& value, std::int32_t flag);
+    void ScriptSize(const Value& value, std::int32_t argument);
+    CharFormat LookAtHand() const;
     void NoUnderline(const Value&, std::int32_t);
     void Font(const Value& value, std::int32_t);
     void FontSize(const Value& value, std::int32_t);

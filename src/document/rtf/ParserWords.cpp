@@ -7,6 +7,10 @@ namespace korvane::doc::rtf {
 
 namespace {
 
+std::uint16_t HalfPoints(const Value& value) {
+    return static_cast<std::uint16_t>(std::clamp(value.Or(24), 1, 3276));
+}
+
 constexpr std::int32_t kTwipsPerHalfPoint = 10;
 /// A line spacing that is a multiple is counted in 240ths of a line.
 constexpr double kLineParts = 240;
@@ -103,6 +107,8 @@ void Parser::PageSize(const Value& value, std::int32_t size) {
 
 void Parser::PlainText(const Value&, std::int32_t) {
     state_.look = {};
+    state_.script = ScriptKind::Main;
+    state_.scripts = {};
     state_.hidden = false;
     Font({true, defaultFont_}, 0);
 }
@@ -137,8 +143,34 @@ void Parser::Charset(const Value& value, std::int32_t) {
 }
 
 void Parser::FontSize(const Value& value, std::int32_t) {
-    state_.look.halfPoints = static_cast<std::uint16_t>(std::clamp(value.Or(24), 1, 3276));
+    state_.look.halfPoints = HalfPoints(value);
     lookChanged_ = true;
+}
+
+void Parser::SetScriptKind(const Value&, std::int32_t kind) {
+    state_.script = static_cast<ScriptKind>(kind);
+    lookChanged_ = true;
+}
+
+void Parser::ScriptFlag(const Value& value, std::int32_t flag) {
+    constexpr std::optional<bool> ScriptLook::*kScriptFlags[] = {&ScriptLook::bold, &ScriptLook::italic};
+    state_.scripts[static_cast<std::size_t>(state_.script)].*kScriptFlags[flag] = value.On();
+    lookChanged_ = true;
+}
+
+void Parser::ScriptSize(const Value& value, std::int32_t) {
+    state_.scripts[static_cast<std::size_t>(state_.script)].halfPoints = HalfPoints(value);
+    lookChanged_ = true;
+}
+
+CharFormat Parser::LookAtHand() const {
+    CharFormat look = state_.look;
+    if (state_.script == ScriptKind::Main) return look;
+    const ScriptLook& own = state_.scripts[static_cast<std::size_t>(state_.script)];
+    look.halfPoints = own.halfPoints.value_or(look.halfPoints);
+    look.bold = own.bold.value_or(look.bold);
+    look.italic = own.italic.value_or(look.italic);
+    return look;
 }
 
 Colour Parser::ColourOf(const Value& value) const {

@@ -56,6 +56,19 @@ TEST(RtfReader, APairOfBytesIsOneUnknownCharacter) {
     EXPECT_EQ(TextOf("\\f2\\'88\\'9fA\\'88Bz"), "\uFFFDA\uFFFDz");
 }
 
+TEST(RtfReader, TextOfAnotherScriptHasTheLooksOfItsScript) {
+    const std::string east = "{\\rtlch\\af1 \\ltrch\\loch\\i\\dbch\\afs48\\ab\\dbch \\u26085?}";
+    EXPECT_EQ(LookOf(east).halfPoints, 48);
+    EXPECT_TRUE(LookOf(east).bold);
+    EXPECT_TRUE(LookOf(east).italic);
+    EXPECT_EQ(LookOf("{\\fs30\\ltrch\\loch \\rtlch\\afs40\\ai0\\i \\u1513?}").halfPoints, 40);
+    EXPECT_FALSE(LookOf("{\\fs30\\ltrch\\loch \\rtlch\\afs40\\ai0\\i \\u1513?}").italic);
+    // What is said of other scripts doesn't count for this one.
+    EXPECT_EQ(LookOf("{\\rtlch\\af1\\afs40\\ab \\ltrch\\fs30 x}").halfPoints, 30);
+    EXPECT_FALSE(LookOf("{\\rtlch\\afs40\\ab \\ltrch\\fs30 x}").bold);
+    EXPECT_EQ(LookOf("{\\rtlch\\afs40\\plain\\fs22 x}").halfPoints, 22);
+}
+
 TEST(RtfReader, LooksEndWithTheirGroup) {
     EXPECT_TRUE(LookOf("{\\b bold}plain", 0).bold);
     EXPECT_FALSE(LookOf("{\\b bold}plain", 1).bold);
