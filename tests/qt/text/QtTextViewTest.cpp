@@ -712,6 +712,30 @@ TEST_F(QtTextViewTest, LinesOfTablesAreDrawn) {
     EXPECT_GT(Painted(view, Qt::black) - before, 1000);
 }
 
+TEST_F(QtTextViewTest, TheLinesOfATableEndAtTheEndOfAPage) {
+    control.BackColor = Colour{0xFFFFFF};
+    control.ViewMode = TextControl::kPages;
+    const int table = control.InsertTable(100, 1);
+    control.FormatCells(table, [](int, int, doc::CellFormat& cell) { cell.border.fill(30); });
+    view.ShowText();
+    view.Mirror().Current().documentLayout()->documentSize();
+    Settle();
+    const double x = view.CursorAt(0).left() - 1;
+    const double gap = view.Pages().Page(0).bottom() + PageMath::kGap / 2;
+    view.centerOn(0, gap);
+    Settle();
+    const QImage image = view.viewport()->grab().toImage();
+    const auto black = [&](double y) {
+        const QPoint at = view.mapFromScene(x, y);
+        bool found = false;
+        for (int beside = -2; beside <= 2; ++beside)
+            found = found || image.pixelColor(at.x() + beside, at.y()) == Qt::black;
+        return found;
+    };
+    EXPECT_FALSE(black(gap));
+    EXPECT_TRUE(black(gap - PageMath::kGap - view.Pages().Margins().bottom()));
+}
+
 TEST_F(QtTextViewTest, EverythingThatADocumentHoldsCanBeDrawn) {
     for (unsigned seed = 1; seed < 12; ++seed) {
         control.SetWhole(doc::RandomDocument(seed));

@@ -160,6 +160,15 @@ private:
     // Tables.
 
     double BottomOf(const QTextTable& table, int row) const {
+        const double next = TopAfter(table, row);
+        const double top = TopOf(table.cellAt(row, 0).firstCursorPosition().block());
+        const double page = document_.pageSize().height();
+        return page > 0 && std::floor(next / page) > std::floor(top / page) ? BottomOfTexts(table, row)
+                                                                            : next;
+    }
+
+    /// Where what comes after the row begins, which may be on the next page.
+    double TopAfter(const QTextTable& table, int row) const {
         if (row + 1 < table.rows()) return TopOf(table.cellAt(row + 1, 0).firstCursorPosition().block());
         const QTextBlock after = table.lastCursorPosition().block().next();
         // A table tells where it ends only when the whole text is laid out, so within one of ours the block
@@ -167,6 +176,15 @@ private:
         return mirror_.ParagraphOf(after)
                    ? layout_.frameBoundingRect(const_cast<QTextTable*>(&table)).bottom()
                    : layout_.blockBoundingRect(after).top();
+    }
+
+    double BottomOfTexts(const QTextTable& table, int row) const {
+        double bottom = 0;
+        for (int column = 0; column < table.columns(); ++column) {
+            const QTextBlock last = table.cellAt(row, column).lastCursorPosition().block();
+            bottom = std::max(bottom, layout_.blockBoundingRect(last).bottom());
+        }
+        return bottom;
     }
 
     void PaintRow(const QTextBlock& block, const doc::CellPlace& cell) {
