@@ -369,9 +369,9 @@ TEST_P(FaultWalk, LosesNothing) {
 INSTANTIATE_TEST_SUITE_P(Roads, FaultWalk,
                          testing::Combine(testing::ValuesIn(kRoads),
                                           testing::Values(Lasting::Once, Lasting::EverAfter)),
-                         [](const auto& info) {
-                             const bool once = std::get<Lasting>(info.param) == Lasting::Once;
-                             return std::get<Road>(info.param).name + (once ? "Once" : "EverAfter");
+                         [](const auto& walk) {
+                             const bool once = std::get<Lasting>(walk.param) == Lasting::Once;
+                             return std::get<Road>(walk.param).name + (once ? "Once" : "EverAfter");
                          });
 
 } // namespace
