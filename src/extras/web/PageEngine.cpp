@@ -6,6 +6,7 @@
 #include "common/path/WebAddress.h"
 #include "context/App.h"
 #include "controls/TextControl.h"
+#include "extras/web/TypedAddress.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"
 
@@ -54,7 +55,6 @@ PageEngine::PageEngine(App& app, WebView& view, TextControl& text) : PageEngine(
 
 PageEngine::PageEngine(App& app, WebView& view, TextControl& text, const Limits& limits)
     : app_(app), view_(view), text_(text), limits_(limits) {
-    view_.Engine = this;
     text_.Locked = true;
     text_.Files = app_.Port<TextFiles>();
     text_.HyperlinkClicked = [this](int, int, const Text& link) { FollowLink(link); };
@@ -67,10 +67,8 @@ Text PageEngine::Address() const {
 // ---- Where to go ----------------------------------------------------------------------------------------
 
 void PageEngine::Navigate(TextView address) {
-    const FileSystem& files = app_.Files();
-    const TextView typed = Trim(address);
-    if (typed.empty()) return;
-    Enter(files.FileExists(typed) ? AddressOfFile(files.FullPath(typed)) : WithScheme(typed));
+    const Text whole = AddressOfTyped(app_.Files(), address);
+    if (!whole.empty()) Enter(whole);
 }
 
 /// What was visited after the shown page is forgotten.

@@ -65,7 +65,7 @@ void frmBrowser::Load() {
 }
 
 void frmBrowser::Unload() {
-    engine_.Stop();
+    engine_.Close();
 }
 
 void frmBrowser::Resize() {
@@ -79,7 +79,7 @@ void frmBrowser::ShowStart() {
     const Hourglass hourglass(app_.Screen());
     txtAddress.Text = BrowserStartFile;
     Navigate(BrowserStartFile);
-    pageText.SetFocus();
+    engine_.TakeKeyboard();
 }
 
 void frmBrowser::Open(TextView startFile) {

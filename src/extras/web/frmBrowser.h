@@ -7,7 +7,7 @@
 #include "controls/TextBox.h"
 #include "controls/TextControl.h"
 #include "controls/WebView.h"
-#include "extras/web/PageEngine.h"
+#include "extras/web/BrowserEngine.h"
 
 namespace korvane {
 
@@ -36,7 +36,7 @@ public:
     TextBox txtAddress{*this, "txtAddress"};
     CommandButton cmdLoad{*this, "cmdLoad", u"", u"Proceed with operation"};
     WebView WebBrowser1{*this, "WebBrowser1"};
-    /// What the view shows its pages with.
+    /// What the program's own page view shows its pages with.
     TextControl pageText{*this, "pageText"};
     Label StatusBar1{*this, "StatusBar1"};
 
@@ -64,7 +64,7 @@ private:
     void FollowLinkAtCursor();
 
     App& app_;
-    PageEngine engine_;
+    BrowserEngine engine_;
 };
 
 } // namespace korvane

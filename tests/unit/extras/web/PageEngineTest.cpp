@@ -57,7 +57,7 @@ protected:
 // ---- Addresses -----------------------------------------------------------------------------------------
 
 TEST_F(PageEngineTest, ShowsAPageAndTellsOfIt) {
-    view.Navigate(u"https://x.org");
+    engine.Navigate(u"https://x.org");
     EXPECT_EQ(events, "B");
     EXPECT_EQ(text.All(), u"");
     net.AnswerAll();
