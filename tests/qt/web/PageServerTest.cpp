@@ -1,7 +1,7 @@
 // Pages of a real server in the program's own view.
 
-#include "PageServer.h"
-
+#include "PagesContract.h"
+#include "common/path/ResolveAddress.h"
 #include "controls/Form.h"
 #include "controls/TextControl.h"
 #include "extras/web/PageEngine.h"
@@ -21,6 +21,39 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 const std::string kPng = "\x89PNG\r\n\x1A\n...";
+
+/// The program's own page view.
+class PageViewStage {
+public:
+    PageViewStage() {
+        t_.app.SetPort<Network>(&network_);
+        view_.DownloadBegin = [this] { begins(); };
+        view_.DownloadComplete = [this] { completes(); };
+        Renew();
+    }
+    WebEngine& Engine() { return *engine_; }
+    void Renew() { engine_ = std::make_unique<PageEngine>(t_.app, view_, text_); }
+    Text Shown() { return text_.All(); }
+    Text AddFile(const std::string& name, const std::string& bytes) {
+        const Text path = u"C:\\" + FromUtf8(name);
+        t_.files.AddFile(path, bytes);
+        return AddressOfFile(path);
+    }
+
+    std::function<void()> begins = [] {};
+    std::function<void()> completes = [] {};
+
+private:
+    TestApp t_;
+    PageFiles files_{t_.app};
+    QtNetwork network_;
+    Form form_{t_.user, "frmBrowser", u""};
+    WebView view_{form_, "WebBrowser1"};
+    TextControl text_{form_, "pageText"};
+    std::unique_ptr<PageEngine> engine_;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(PageView, PagesContract, PageViewStage);
 
 class PageServerTest : public testing::Test {
 protected:
@@ -99,14 +132,6 @@ TEST_F(PageServerTest, EndlessPagesAndCirclesEndInANote) {
     EXPECT_TRUE(Shows(u"can't be reached"));
 }
 
-TEST_F(PageServerTest, AHangingServerIsLeftWithAStop) {
-    server.Put("/a", "<p>Before</p>");
-    GoTo(server.Address("/a"));
-    server.On("/hang", [this](QTcpSocket&) { engine.Stop(); });
-    GoTo(server.Address("/hang"));
-    EXPECT_TRUE(Shows(u"Before"));
-}
-
 TEST_F(PageServerTest, AHangingServerEndsInANote) {
     PageEngine hasty(t.app, view, text,
                      {.bytes = 1000, .time = std::chrono::milliseconds(50), .pictures = 1});
@@ -116,8 +141,9 @@ TEST_F(PageServerTest, AHangingServerEndsInANote) {
 }
 
 TEST_F(PageServerTest, APictureThatHangsLeavesThePage) {
+    // The page itself comes in time on the busiest machine.
     PageEngine hasty(t.app, view, text,
-                     {.bytes = 1000, .time = std::chrono::milliseconds(50), .pictures = 1});
+                     {.bytes = 1000, .time = std::chrono::milliseconds(2000), .pictures = 1});
     server.Put("/p", "<p>Text</p><img src=hang.png>");
     server.Hang("/hang.png");
     After([&] { hasty.Navigate(server.Address("/p")); });
