@@ -46,6 +46,12 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
     return platform;
 }
 
+/// Where a window shows its pages; nullptr while it isn't on the screen.
+QWidget* PlaceOf(const WebView& view, const QtFormHost& forms) {
+    const QWidget* window = forms.WidgetOf(view.Owner());
+    return window == nullptr ? nullptr : window->findChild<QWidget*>(QString::fromStdString(view.Name()));
+}
+
 } // namespace
 
 Program::MemoryLock::~MemoryLock() {
@@ -65,6 +71,8 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
       app_(Complete(
           {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
           system.Folders(), locale_, fileTypes_, fonts_)),
+      webEngines_([this](const WebView& view) { return PlaceOf(view, forms_); },
+                  !system_calls::IsAdministrator()),
       keptTables_(app_, background_, FromNativePath(FindKeptFolder(OwnSurroundings()))) {
     app_.SetPort<SecretHolder>(&memoryLock_);
     app_.SetPort<FilePicker>(&lister_);
@@ -78,6 +86,7 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
     app_.SetPort<TableKeeper>(&keptTables_);
     app_.SetPort<TextFiles>(&documents_);
     app_.SetPort<Network>(&network_);
+    app_.SetPort<WebEngines>(&webEngines_);
 }
 
 int Program::Run(const Text& path) {

@@ -13,6 +13,7 @@
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/net/LoadedNetwork.h"
+#include "platform/qt/net/LoadedWebEngines.h"
 #include "platform/qt/picture/QtPictureFiles.h"
 #include "platform/qt/services/QtBackground.h"
 #include "platform/qt/services/QtClipboard.h"
@@ -97,6 +98,7 @@ private:
     Websites websites_{app_};
     FindWindow findWindow_{app_};
     LoadedNetwork network_;
+    LoadedWebEngines webEngines_;
     Pages pages_{app_};
     KeptTables keptTables_;
 };

@@ -17,6 +17,8 @@ namespace korvane::system_calls {
 
 namespace {
 
+constexpr uid_t kAdministrator = 0;
+
 namespace fs = std::filesystem;
 
 constexpr mode_t kRightsBits = 0777;
@@ -137,8 +139,11 @@ void AllowMemoryDump([[maybe_unused]] bool allow) {
 #endif
 }
 
+bool IsAdministrator() {
+    return geteuid() == kAdministrator;
+}
+
 bool IsTrusted(const fs::path& path) {
-    constexpr uid_t kAdministrator = 0;
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) return true;
     return status.st_uid == geteuid() || status.st_uid == kAdministrator;

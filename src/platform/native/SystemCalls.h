@@ -37,6 +37,8 @@ bool Close(int file);
 /// The size of a file, or 0 for something without a size, such as a pipe.
 std::size_t SizeOf(int file);
 
+/// Whether the user may do everything, also what a sandbox is to prevent.
+bool IsAdministrator();
 /// Whether the user may write to the file or folder. A file that nobody may write to isn't writable for the
 /// administrator either, although the system would let him.
 bool IsWritable(const std::filesystem::path& path);

@@ -107,6 +107,10 @@ void AllowMemoryDump(bool) {
     // A dump is written only where the administrator asks for it.
 }
 
+bool IsAdministrator() {
+    return false;
+}
+
 bool IsTrusted(const fs::path&) {
     // The folders of the program and of the user are no one else's on Windows.
     return true;
