@@ -59,7 +59,8 @@ void RenderDialogs(Album& album, Stage& stage) {
         form->Show();
         form->Activate();
         PutWindow(album, QString::fromStdString(form->Name()), *stage.Host().WidgetOf(*form));
-        form->Close();
+        // It isn't closed, because the lock would wait for its password.
+        stage.Host().Hide(*form);
         Stage::Settle();
     }
 }

@@ -3,9 +3,12 @@
 #include "platform/qt/webengine/QuietPage.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QOpenGLContext>
 #include <QQuickWindow>
+#include <QShortcut>
 #include <QThread>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWebEngineDownloadRequest>
@@ -99,7 +102,8 @@ void QtWebEngine::TakeSeat() {
     if (view_ != nullptr) return;
     QWidget* place = seat_.place();
     if (place == nullptr) {
-        QMetaObject::invokeMethod(this, &QtWebEngine::TakeSeat, Qt::QueuedConnection);
+        // A queued call would be made again in the same round of events, before the window can come.
+        QTimer::singleShot(1, this, &QtWebEngine::TakeSeat);
         return;
     }
     QWidget* const before = place->findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
@@ -110,6 +114,13 @@ void QtWebEngine::TakeSeat() {
     place->layout()->addWidget(view_);
     place->setFocusProxy(view_);
     view_->show();
+    // A page would keep the key with which the user leaves the window.
+    auto* leave = new QShortcut(Qt::Key_Escape, view_);
+    leave->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(leave, &QShortcut::activated, place, [place] {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(place, &key);
+    });
 }
 
 void QtWebEngine::Ask() {

@@ -53,7 +53,6 @@ void QuietPage::ShowNote(const QString& title, const QString& text) {
 }
 
 bool QuietPage::acceptNavigationRequest(const QUrl& to, NavigationType type, bool isMainFrame) {
-    if (IsOfNet(to)) return true;
     const bool fromDisk = url().isLocalFile();
     // A frame of a page has what the page has, except for files.
     if (!isMainFrame) return !to.isLocalFile() || fromDisk;
@@ -61,10 +60,11 @@ bool QuietPage::acceptNavigationRequest(const QUrl& to, NavigationType type, boo
     // What the user types and what was visited before is no page's wish.
     const bool ofUser =
         type == NavigationTypeTyped || type == NavigationTypeBackForward || type == NavigationTypeReload;
-    if (to.isLocalFile() && ofUser) return true;
-    // A link of a page of the disk is followed as if the user typed it, because the page itself can't read
-    // other files.
-    if (to.isLocalFile() && fromDisk) {
+    const bool shown = IsOfNet(to) || to.isLocalFile();
+    if (shown && (ofUser || !(fromDisk || to.isLocalFile()))) return true;
+    // A link of a page of the disk is followed as if the user typed it, because the page itself reaches
+    // neither other files nor the net.
+    if (shown && fromDisk) {
         QMetaObject::invokeMethod(
             this, [this, to] { load(to); }, Qt::QueuedConnection);
     } else {
