@@ -6,6 +6,7 @@ namespace korvane::e2e {
 namespace {
 
 constexpr auto kText = "^Untitled.rtf$";
+constexpr auto kFonts = "^Fonts and text styles$";
 
 class TextToolsTest : public DeskTest {
 protected:
@@ -18,6 +19,9 @@ protected:
         ASSERT_NE(main, "");
         desk.Press({"ctrl+e"});
         ASSERT_NE(desk.GoTo(kText), "");
+        // What its keys open shows that the text has the keyboard.
+        ASSERT_NO_FATAL_FAILURE(Open({"ctrl+1"}, kFonts));
+        ASSERT_NO_FATAL_FAILURE(Leave("Escape", kFonts));
     }
 
     /// Opens a window by keys of the text window.
@@ -63,16 +67,15 @@ protected:
     }
     /// Makes the whole text bold and red.
     void MakeBoldAndRed() {
-        const std::string fonts = "^Fonts and text styles$";
         const std::string colours = "^Colours for selected text$";
         desk.Press({"ctrl+a"});
-        ASSERT_NO_FATAL_FAILURE(Open({"ctrl+1"}, fonts));
+        ASSERT_NO_FATAL_FAILURE(Open({"ctrl+1"}, kFonts));
         desk.Press({"alt+b", "alt+o"});
         ASSERT_NE(desk.GoTo(colours), "");
         desk.Press({"Down", "Return"});
         ASSERT_TRUE(desk.Gone(colours));
-        ASSERT_NE(desk.GoTo(fonts), "");
-        ASSERT_NO_FATAL_FAILURE(Leave("alt+a", fonts));
+        ASSERT_NE(desk.GoTo(kFonts), "");
+        ASSERT_NO_FATAL_FAILURE(Leave("alt+a", kFonts));
     }
     /// Selects the word in the text by the search.
     void Find(const std::string& word) {
@@ -92,9 +95,12 @@ protected:
 
 TEST_F(TextToolsTest, EveryWindowOpensAndCloses) {
     const std::pair<std::vector<std::string>, std::string> kWindows[] = {
-        {{"ctrl+1"}, "^Fonts and text styles$"}, {{"alt+e", "o"}, "^Fonts and text styles$"},
-        {{"alt+e", "u"}, "^Symbol tables$"},     {{"alt+e", "c"}, "^Insert symbols / characters$"},
-        {{"alt+e", "b"}, "^Shapes & Symbols$"},  {{"alt+m", "d"}, "^Date and time$"},
+        {{"ctrl+1"}, kFonts},
+        {{"alt+e", "o"}, kFonts},
+        {{"alt+e", "u"}, "^Symbol tables$"},
+        {{"alt+e", "c"}, "^Insert symbols / characters$"},
+        {{"alt+e", "b"}, "^Shapes & Symbols$"},
+        {{"alt+m", "d"}, "^Date and time$"},
     };
     for (const auto& [keys, title] : kWindows) {
         ASSERT_NO_FATAL_FAILURE(Open(keys, title));
