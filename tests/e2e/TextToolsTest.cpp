@@ -19,16 +19,10 @@ protected:
         ASSERT_NE(main, "");
         desk.Press({"ctrl+e"});
         ASSERT_NE(desk.GoTo(kText), "");
-        // What its keys open shows that the text has the keyboard.
-        ASSERT_NO_FATAL_FAILURE(Open({"ctrl+1"}, kFonts));
-        ASSERT_NO_FATAL_FAILURE(Leave("Escape", kFonts));
     }
 
     /// Opens a window by keys of the text window.
     void Open(const std::vector<std::string>& keys, const std::string& title) {
-        desk.Press(keys);
-        // The text window can have the keyboard before its text has it.
-        if (desk.GoTo(title) != "") return;
         desk.Press(keys);
         ASSERT_NE(desk.GoTo(title), "") << title;
     }

@@ -191,6 +191,34 @@ TEST_F(QtFormHostTest, AnActivatedWindowHasTheKeyboardByThen) {
     EXPECT_EQ(form.activations, 1);
 }
 
+TEST_F(QtFormHostTest, KeysThatComeBeforeTheHandlerOfTheActivationGoWhereItPutsTheKeyboard) {
+    form.onActivate = [this] { form.txtName.SetFocus(); };
+    form.Show();
+    test::Settle();
+    form.cmdOther.SetFocus();
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activated);
+    for (const char16_t letter : {u'a', u'b'}) {
+        QKeyEvent key(QEvent::KeyPress, letter, Qt::NoModifier, QString(QChar(letter)));
+        QCoreApplication::sendEvent(Window().windowHandle(), &key);
+    }
+    EXPECT_EQ(form.txtName.Text.Get(), u"");
+    test::Settle();
+    EXPECT_EQ(form.txtName.Text.Get(), u"ab");
+}
+
+TEST_F(QtFormHostTest, AWindowThatClosesWhenItIsActivatedTakesItsKeysAlong) {
+    form.onActivate = [this] { form.Close(); };
+    form.Show();
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activated);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+    QCoreApplication::sendEvent(Window().windowHandle(), &key);
+    test::Settle();
+    EXPECT_FALSE(form.Shown());
+    EXPECT_EQ(form.answer, "");
+}
+
 TEST_F(QtFormHostTest, AWindowWithoutAPlaceHasTheSizeOfItsLook) {
     form.Show();
     test::Settle();

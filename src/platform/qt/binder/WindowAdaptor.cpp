@@ -12,7 +12,9 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <algorithm>
 
 namespace korvane {
@@ -124,12 +126,18 @@ void WindowAdaptor::TellActivated() {
     if (!StandsAlone(window_)) return;
     // The handler runs later. It may run an event loop, and then keys would arrive before the window has
     // given the keyboard to one of its widgets.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (form_ != nullptr) form_->Activate();
-        },
-        Qt::QueuedConnection);
+    hold_.Begin();
+    QMetaObject::invokeMethod(this, &WindowAdaptor::Activate, Qt::QueuedConnection);
+}
+
+/// The handler may give the keyboard to another control, so only then the keys that were typed meanwhile go
+/// on.
+void WindowAdaptor::Activate() {
+    const QPointer<WindowAdaptor> alive(this);
+    const auto giveKeys = qScopeGuard([&alive] {
+        if (alive) alive->hold_.End();
+    });
+    if (form_ != nullptr) form_->Activate();
 }
 
 bool WindowAdaptor::CloseWanted(QEvent& event) {

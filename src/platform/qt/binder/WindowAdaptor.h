@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
+#include "platform/qt/binder/KeyHold.h"
 
 #include <QObject>
 #include <QWidget>
@@ -29,6 +30,7 @@ protected:
 
 private:
     void TellActivated();
+    void Activate();
     bool CloseWanted(QEvent& event);
     void TakeDrop(QEvent& event);
     bool KeyPressed(const QKeyEvent& event);
@@ -41,6 +43,7 @@ private:
 
     Form* form_;
     QWidget& window_;
+    KeyHold hold_{window_};
 };
 
 } // namespace korvane

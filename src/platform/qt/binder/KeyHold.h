@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <memory>
+#include <vector>
+
+class QWidget;
+
+namespace korvane {
+
+/// Keeps the keys that come to a window while it isn't ready for them, so that none goes to the wrong
+/// control.
+class KeyHold final : public QObject {
+public:
+    /// The window must outlive this object.
+    explicit KeyHold(QWidget& window) : window_(window) {}
+
+    /// From now on keys are kept. Only once the window has been shown.
+    void Begin();
+    /// Gives the keys that were kept to the window, in their order, when the program is idle.
+    void End();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QWidget& window_;
+    bool holds_ = false;
+    std::vector<std::unique_ptr<QKeyEvent>> kept_;
+};
+
+} // namespace korvane
