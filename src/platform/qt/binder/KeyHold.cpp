@@ -1,11 +1,22 @@
 #include "platform/qt/binder/KeyHold.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QWidget>
 #include <QWindow>
 #include <utility>
 
 namespace korvane {
+
+namespace {
+
+/// A key that starts a command may have opened a menu by now, and its own press or release would close that
+/// again.
+bool Types(const QKeyEvent& key) {
+    return !key.text().isEmpty() && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0 &&
+           QApplication::activePopupWidget() == nullptr;
+}
+
+} // namespace
 
 void KeyHold::Begin() {
     holds_ = true;
@@ -22,9 +33,10 @@ void KeyHold::End() {
 }
 
 bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {
-    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
-    if (!holds_ || !isKey) return false;
-    kept_.emplace_back(static_cast<QKeyEvent*>(event)->clone());
+    if (!holds_ || event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (!Types(key)) return false;
+    kept_.emplace_back(key.clone());
     return true;
 }
 
