@@ -3,6 +3,7 @@
 #include "dbops/windows/frmChooseRange.h"
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmFindReplace.h"
+#include "dbops/windows/frmFormatTable.h"
 #include "dbops/windows/frmRowColour.h"
 #include "dbops/windows/frmSetRowHeight.h"
 #include "dbops/windows/frmTxtDbAddRows.h"
@@ -73,6 +74,16 @@ TEST_F(Looks, ColName) {
     Check(frmTxtDbColName(t.app, u""),
           {"txtNewColumnName", "lblOldColumnName", "cmdColAccept", "cmdColReject"},
           {" Alter name of current column ", "Old name", "New name"});
+}
+
+TEST_F(Looks, FormatTable) {
+    Check(frmFormatTable(t.app),
+          {"chkColumnToFirstRow", "chkTDB_FirstLineDark", "cmdGetFirstLineBackColour",
+           "cmdGetFirstLineForeColour", "chkTDB_AlternateLinesGrey", "cmdGetAlternateLinesColour",
+           "TableLeftMarginText", "cboCellBorderWidth", "cboCellTextGap", "cmdProceed", "cmdCancel"},
+          {"Left margin", "Cell border width", "Cell text offset",
+           "Note: The most flexible means of making a table is to create\n"
+           "or edit a text database and then convert it to a table."});
 }
 
 TEST_F(Looks, RowColour) {
