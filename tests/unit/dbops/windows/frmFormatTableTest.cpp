@@ -1,5 +1,6 @@
 #include "dbops/windows/frmFormatTable.h"
 
+#include "support/Captions.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -35,6 +36,26 @@ TEST_F(FormatTable, ComesUpWithTheSettings) {
     EXPECT_EQ(window.cboCellBorderWidth.ListCount(), 128);
     EXPECT_EQ(window.cboCellTextGap.Chosen(), u"70");
     EXPECT_EQ(window.cboCellTextGap.ListCount(), 160);
+}
+
+TEST_F(FormatTable, HasItsCaptions) {
+    EXPECT_EQ(window.Caption.Get(), u"Format parameters");
+    EXPECT_EQ(
+        CaptionsOf(window),
+        (std::vector<Text>{u"&Use column titles for first row of table",
+                           u"&Display first line in a different background colour", u"Get &back colour",
+                           u"Get &fore colour", u"D&isplay alternate lines with different background colour",
+                           u"&Get colour", u"&Proceed", u"&Cancel"}));
+}
+
+TEST_F(FormatTable, TheMarginIsTheNumberAtTheBeginningOfItsText) {
+    const std::pair<TextView, std::int16_t> kTexts[] = {{u"300 twips", 300}, {u"none", 0}, {u"40000", 0}};
+    for (const auto& [text, margin] : kTexts) {
+        window.EnsureLoaded();
+        window.TableLeftMarginText.Type(Text(text));
+        window.cmdProceed.Press();
+        EXPECT_EQ(settings.TableOptionD, margin);
+    }
 }
 
 TEST_F(FormatTable, ProceedKeepsTheChoices) {

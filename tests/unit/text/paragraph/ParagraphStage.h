@@ -5,6 +5,7 @@
 #include "context/ports/OpenText.h"
 #include "controls/Form.h"
 #include "controls/TextControl.h"
+#include "support/Captions.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

@@ -10,6 +10,13 @@ protected:
     frmFramesDlg window{t.app};
 };
 
+TEST_F(FramesDlgTest, HasItsCaptions) {
+    EXPECT_EQ(window.Caption.Get(), u"Paragraph frames");
+    EXPECT_EQ(CaptionsOf(window),
+              (std::vector<Text>{u"&Left", u"&Right", u"&Top", u"&Bottom", u"T&ab Lines", u"&Double Lines",
+                                 u"Connected &Frames", u"&OK", u"&Mark all", u"&Text frame"}));
+}
+
 TEST_F(FramesDlgTest, ShowsTheFrameOfTheParagraph) {
     control.SetFrameStyle(1 + 8 + 16 + 64 + 128);
     control.SetFrameLineWidth(40);
@@ -49,6 +56,12 @@ TEST_F(FramesDlgTest, LengthsAreFromOneToTwelvePoints) {
     window.cmdOK.Press();
     EXPECT_EQ(control.FrameLineWidth(), 20);
     EXPECT_EQ(control.FrameDistance(), 240);
+    window.EnsureLoaded();
+    window.cboLineWidth.Type(u"20");
+    window.cboDistance.Type(u"0");
+    window.cmdOK.Press();
+    EXPECT_EQ(control.FrameLineWidth(), 240);
+    EXPECT_EQ(control.FrameDistance(), 20);
     window.EnsureLoaded();
     window.cboLineWidth.Choose(4);
     window.cmdOK.Press();

@@ -19,6 +19,31 @@ protected:
     frmIndent window{t.app};
 };
 
+TEST_F(IndentTest, HasItsCaptions) {
+    EXPECT_EQ(window.Caption.Get(), u"Align and indent");
+    EXPECT_EQ(CaptionsOf(window), (std::vector<Text>{u"&Align",
+                                                     u"No left indentation",
+                                                     u"1 tab",
+                                                     u"2 tabs",
+                                                     u"3 tabs",
+                                                     u"4 tabs",
+                                                     u"5 tabs",
+                                                     u"6 tabs",
+                                                     u"No right indent",
+                                                     u"1 tab",
+                                                     u"2 tabs",
+                                                     u"3 tabs",
+                                                     u"Left hanging indent",
+                                                     u"&Indent",
+                                                     u"&Delete indent",
+                                                     u"Delete right indent",
+                                                     u"&Paragraph settings",
+                                                     u"&Bullets",
+                                                     u"Fra&mes",
+                                                     u"&Paragraph spacing",
+                                                     u"&Tabs"}));
+}
+
 TEST_F(IndentTest, ListsAlignmentsAndSpacings) {
     std::vector<Text> rows;
     for (int row = 0; row < window.lstClient.ListCount(); ++row)

@@ -12,6 +12,12 @@ protected:
     frmParaSpacing window{t.app};
 };
 
+TEST_F(ParaSpacingTest, HasItsCaptions) {
+    EXPECT_EQ(window.Caption.Get(), u"Paragraph spacing");
+    EXPECT_EQ(CaptionsOf(window),
+              (std::vector<Text>{u"&Single line spacing", u"&Accept", u"&Remove all spacing"}));
+}
+
 TEST_F(ParaSpacingTest, ListsTheSpacings) {
     std::vector<Text> rows;
     for (int row = 0; row < window.lstSpacingTop.ListCount(); ++row)

@@ -42,6 +42,32 @@ TEST_F(TabWidthTest, TheListOfTheUnitsGivesTheWidth) {
     EXPECT_EQ(window.lstTabType.List(2), u" 3  Centered tab");
 }
 
+TEST_F(TabWidthTest, HasItsCaptions) {
+    EXPECT_EQ(window.Caption.Get(), u"Set tab width");
+    EXPECT_EQ(CaptionsOf(window),
+              (std::vector<Text>{u"Delete tabs before re-setting?", u"Undo indents on reset?",
+                                 u"Use this value as default", u"&Apply", u"&Units", u"&Show"}));
+}
+
+TEST_F(TabWidthTest, TheTextIsHiddenWhileItsTabsAreSet) {
+    std::vector<bool> seen;
+    control.Change = [&] { seen.push_back(control.Visible); };
+    Open().cmdApply.Press();
+    ASSERT_FALSE(seen.empty());
+    EXPECT_FALSE(seen.front());
+    EXPECT_TRUE(control.Visible);
+}
+
+TEST_F(TabWidthTest, TheWidthIsTheNumberAtTheBeginningOfItsText) {
+    Open();
+    window.txtTabWidth.Type(u"567 twips");
+    window.cmdApply.Press();
+    EXPECT_EQ(Tabs(), Multiples(567));
+    window.txtTabWidth.Type(u"none");
+    window.cmdApply.Press();
+    EXPECT_EQ(t.app.Settings.TabUnitTwips, 0);
+}
+
 TEST_F(TabWidthTest, ApplySetsAllTabsOfTheKind) {
     Open();
     window.txtTabWidth.Type(u"400");

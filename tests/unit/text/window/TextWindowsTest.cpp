@@ -78,6 +78,15 @@ TEST_F(TextWindowsTest, WriteIntoAClosedWindowUntilThatCloses) {
     windows.TextWindowInsert(u"row");
 }
 
+TEST_F(TextWindowsTest, WriteFormattedTextIntoAClosedWindowUntilThatCloses) {
+    OnWindow([](frm_RTF_HTM& opened) {
+        EXPECT_EQ(opened.ThisTextCtrl.All(), u"row");
+        EXPECT_TRUE(opened.Altered());
+    });
+    windows.TextWindowInsertRtf("{\\rtf1 {\\b row}}");
+    EXPECT_EQ(windows.Open(), nullptr);
+}
+
 TEST_F(TextWindowsTest, WriteAtTheCursorOfTheOpenWindow) {
     ExpectWindow();
     windows.TextWindowShow();

@@ -232,6 +232,14 @@ TEST_F(TextWindowView, TheFlagIsWhatTheViewOfTheClipboardLeaves) {
     EXPECT_EQ(window->TextAltered, 1);
 }
 
+TEST_F(TextWindowView, AKeyShowsTheClipboardAndTheTextHasTheKeyboardAfterThat) {
+    const FakeClipboardView retrieved(t.app, 1);
+    window->FocusMoved(window->cmdNew);
+    EXPECT_TRUE(Press('V', Mask::Ctrl | Mask::Alt));
+    EXPECT_EQ(window->TextAltered, 1);
+    EXPECT_EQ(window->Focused(), &Control());
+}
+
 TEST_F(TextWindowView, TheListAndTheDateAreWrittenAtTheCursor) {
     class List final : public WordList {
     public:
