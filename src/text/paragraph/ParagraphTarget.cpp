@@ -41,4 +41,12 @@ void SetTabs(TextControl& control, int step) {
     }
 }
 
+bool IsMetric(const App& app) {
+    return app.Settings.TabUnitKind == 1;
+}
+
+void ApplyUnits(const App& app, TextControl& control) {
+    control.ScaleUnits = IsMetric(app) ? TextControl::kMillimetres : TextControl::kInches;
+}
+
 } // namespace korvane

@@ -20,4 +20,9 @@ void ClearTabs(TextControl& control);
 /// Sets all tabs at the same distance.
 void SetTabs(TextControl& control, int step);
 
+/// True when lengths are in metric units.
+bool IsMetric(const App& app);
+/// Gives the ruler and the windows of the text the units of the settings.
+void ApplyUnits(const App& app, TextControl& control);
+
 } // namespace korvane

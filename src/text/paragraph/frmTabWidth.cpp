@@ -52,13 +52,9 @@ frmTabWidth::frmTabWidth(App& app) : Form(app.Forms(), "frmTabWidth", u"Set tab 
     cmdShow.Click = [this] { cmdShow_Click(); };
 }
 
-bool frmTabWidth::Metric() const {
-    return app_.Settings.TabUnitKind == 1;
-}
-
 void frmTabWidth::ShowUnits() {
-    lstTabsCm.Visible = Metric();
-    lstTabsIns.Visible = !Metric();
+    lstTabsCm.Visible = IsMetric(app_);
+    lstTabsIns.Visible = !IsMetric(app_);
 }
 
 void frmTabWidth::Load() {
@@ -70,7 +66,7 @@ void frmTabWidth::Load() {
         lstTabType.AddItem(type);
     lstTabType.SetListIndex(0);
     ShowUnits();
-    (Metric() ? lstTabsCm : lstTabsIns).SetListIndex(settings.TabWidthValue);
+    (IsMetric(app_) ? lstTabsCm : lstTabsIns).SetListIndex(settings.TabWidthValue);
     txtTabWidth.Text =
         NumberText(settings.TabWidthCustom > 0 ? settings.TabWidthCustom : settings.TabUnitTwips);
     chkUndoIndents.Value = settings.TabWidthOptionA == 1 ? 1 : 0;
@@ -82,7 +78,7 @@ void frmTabWidth::StoreChoices() {
     Settings& settings = app_.Settings;
     settings.TabWidthOptionA = chkUndoIndents.Value;
     settings.TabWidthOptionB = chkDefault.Value;
-    const int index = (Metric() ? lstTabsCm : lstTabsIns).ListIndex();
+    const int index = (IsMetric(app_) ? lstTabsCm : lstTabsIns).ListIndex();
     settings.TabWidthValue = static_cast<std::int16_t>(std::max(index, 0));
     ReadNumber(TextView(txtTabWidth.Text.Get()), settings.TabWidthCustom);
 }
@@ -117,11 +113,10 @@ void frmTabWidth::cmdApply_Click() {
 
 void frmTabWidth::cmdUnits_Click() {
     Text question = u"Use metric units of measurement?\r\n(\"No\" = Imperial system)\r\nCurrent value = ";
-    question += Metric() ? u"YES" : u"NO";
+    question += IsMetric(app_) ? u"YES" : u"NO";
     app_.Settings.TabUnitKind = AskYesNo(app_, question) ? 1 : 2;
     ShowUnits();
-    if (TextControl* control = ParagraphTarget(app_))
-        control->ScaleUnits = Metric() ? TextControl::kMillimetres : TextControl::kInches;
+    if (TextControl* control = ParagraphTarget(app_)) ApplyUnits(app_, *control);
 }
 
 void frmTabWidth::cmdShow_Click() {

@@ -35,7 +35,6 @@ public:
 private:
     struct Tables;
 
-    bool Metric() const;
     void ShowUnits();
     void StoreChoices();
     void cmdApply_Click();

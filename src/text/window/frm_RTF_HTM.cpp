@@ -20,6 +20,7 @@
 #include "text/commands/TextCommands.h"
 #include "text/commands/TextFileTypes.h"
 #include "text/fields/FieldEvents.h"
+#include "text/paragraph/ParagraphTarget.h"
 
 #include <chrono>
 
@@ -229,6 +230,7 @@ void frm_RTF_HTM::Load() {
     TXRuler1.Target = &ThisTextCtrl;
     TXButtonBar1.Target = &ThisTextCtrl;
     TXStatusBar1.Target = &ThisTextCtrl;
+    ApplyUnits(Context(), ThisTextCtrl);
     ThisTextCtrl.Left = kLeftOfText;
     LoadThisFile();
     state.TextWindowOpen = 1;

@@ -370,6 +370,16 @@ TEST_F(TextWindowFiles, ThePlaceAndTheZoomAreKept) {
     EXPECT_EQ(t.app.Settings.RtfZoom, 200);
 }
 
+TEST_F(TextWindowFiles, TheRulerHasTheUnitsOfTheSettings) {
+    t.app.Settings.TabUnitKind = 1;
+    Open();
+    EXPECT_EQ(Control().ScaleUnits, TextControl::kMillimetres);
+    window->Close();
+    t.app.Settings.TabUnitKind = 2;
+    window->EnsureLoaded();
+    EXPECT_EQ(Control().ScaleUnits, TextControl::kInches);
+}
+
 TEST_F(TextWindowFiles, AZoomOfZeroInTheSettingsIsNone) {
     Open();
     EXPECT_EQ(Control().ZoomFactor, 100);
