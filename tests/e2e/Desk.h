@@ -28,6 +28,8 @@ public:
     /// Waits until `holds` returns true, and asks it again whenever something happens on the display or to a
     /// file of the desk. Returns false when the time is up.
     bool Until(const std::function<bool()>& holds);
+    /// Lets `Until` know of the files of this folder too.
+    void Watch(const std::filesystem::path& folder) { files_.Watch(folder); }
     /// Waits until the file contains exactly these bytes.
     bool Holds(const std::filesystem::path& file, const std::string& bytes);
 
