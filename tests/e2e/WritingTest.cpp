@@ -26,13 +26,6 @@ protected:
     void OpenText() {
         desk.Press({"ctrl+e"});
         ASSERT_NE(desk.GoTo(kUntitled), "");
-        // The window can have the keyboard before its text has it. When the text opens a window, it has it.
-        const std::vector<std::string> several(3, "ctrl+2");
-        desk.Press(several);
-        if (desk.GoTo(kParagraph).empty()) desk.Press(several);
-        ASSERT_NE(desk.GoTo(kParagraph), "");
-        ASSERT_NO_FATAL_FAILURE(Finish({"Escape"}, kParagraph));
-        ASSERT_NE(desk.GoTo(kUntitled), "");
     }
     void CloseText(const std::string& title) {
         desk.Press({"alt+f", "x"});
