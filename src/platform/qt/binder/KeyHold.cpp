@@ -1,6 +1,7 @@
 #include "platform/qt/binder/KeyHold.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QWidget>
 #include <QWindow>
 #include <utility>
@@ -27,9 +28,11 @@ void KeyHold::Begin() {
 
 void KeyHold::End() {
     holds_ = false;
-    for (auto& key : std::exchange(kept_, {}))
-        if (QWindow* const handle = window_.windowHandle())
-            QCoreApplication::postEvent(handle, key.release());
+    // A key may close the window, and this object with it.
+    const QPointer<QWidget> window(&window_);
+    for (const auto& key : std::exchange(kept_, {}))
+        if (window && window->windowHandle() != nullptr)
+            QCoreApplication::sendEvent(window->windowHandle(), key.get());
 }
 
 bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {

@@ -18,7 +18,7 @@ public:
 
     /// From now on keys are kept. Only once the window has been shown.
     void Begin();
-    /// Gives the keys that were kept to the window, in their order, when the program is idle.
+    /// Gives the keys that were kept to the window, in their order, before any other key comes.
     void End();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
