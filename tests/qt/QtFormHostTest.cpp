@@ -207,6 +207,18 @@ TEST_F(QtFormHostTest, KeysThatComeBeforeTheHandlerOfTheActivationGoWhereItPutsT
     EXPECT_EQ(form.txtName.Text.Get(), u"ab");
 }
 
+TEST_F(QtFormHostTest, AKeyOfACommandIsNotKeptForAWindowThatIsNotActivatedYet) {
+    int keys = 0;
+    form.txtName.KeyDown = [&keys](KeyEvent&) { ++keys; };
+    form.Show();
+    test::Settle();
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activated);
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, "\x13");
+    QCoreApplication::sendEvent(Window().windowHandle(), &key);
+    EXPECT_EQ(keys, 1);
+}
+
 TEST_F(QtFormHostTest, AWindowThatClosesWhenItIsActivatedTakesItsKeysAlong) {
     form.onActivate = [this] { form.Close(); };
     form.Show();
