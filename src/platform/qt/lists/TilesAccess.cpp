@@ -70,23 +70,13 @@ void TilesAccess::Install() {
 
 TilesAccess::TilesAccess(TilesView& view) : QAccessibleWidget(&view, QAccessible::List), view_(view) {}
 
-TilesAccess::~TilesAccess() {
-    for (const QAccessible::Id id : std::as_const(tiles_))
-        QAccessible::deleteAccessibleInterface(id);
-}
-
 int TilesAccess::childCount() const {
     return view_.Count();
 }
 
 QAccessibleInterface* TilesAccess::child(int index) const {
     if (index < 0 || index >= childCount()) return nullptr;
-    const auto known = tiles_.constFind(index);
-    if (known != tiles_.constEnd()) return QAccessible::accessibleInterface(*known);
-    auto* tile = new TileAccess(view_, index);
-    // The cache of Qt owns it from now on.
-    tiles_.insert(index, QAccessible::registerAccessibleInterface(tile));
-    return tile;
+    return tiles_.At(index, [this, index] { return new TileAccess(view_, index); });
 }
 
 int TilesAccess::indexOfChild(const QAccessibleInterface* part) const {

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/qt/base/SpokenParts.h"
+
 #include <QAccessibleWidget>
-#include <QHash>
 
 namespace korvane {
 
@@ -11,7 +12,6 @@ class TilesView;
 class TilesAccess : public QAccessibleWidget {
 public:
     explicit TilesAccess(TilesView& view);
-    ~TilesAccess() override;
 
     /// Lets Qt find this class for tiles.
     static void Install();
@@ -24,7 +24,7 @@ public:
 
 private:
     TilesView& view_;
-    mutable QHash<int, QAccessible::Id> tiles_;
+    mutable SpokenParts tiles_;
 };
 
 } // namespace korvane

@@ -72,11 +72,6 @@ void TabBarAccess::Install() {
 
 TabBarAccess::TabBarAccess(TabBar& bar) : QAccessibleWidget(&bar, QAccessible::PageTabList), bar_(bar) {}
 
-TabBarAccess::~TabBarAccess() {
-    for (const QAccessible::Id id : std::as_const(tabs_))
-        QAccessible::deleteAccessibleInterface(id);
-}
-
 int TabBarAccess::childCount() const {
     return 2 * bar_.count();
 }
@@ -86,12 +81,7 @@ QAccessibleInterface* TabBarAccess::child(int index) const {
     if (index >= bar_.count())
         return QAccessible::queryAccessibleInterface(
             bar_.tabButton(index - bar_.count(), QTabBar::RightSide));
-    const auto known = tabs_.constFind(index);
-    if (known != tabs_.constEnd()) return QAccessible::accessibleInterface(*known);
-    auto* tab = new TabAccess(bar_, index);
-    // The cache of Qt owns it from now on.
-    tabs_.insert(index, QAccessible::registerAccessibleInterface(tab));
-    return tab;
+    return tabs_.At(index, [this, index] { return new TabAccess(bar_, index); });
 }
 
 int TabBarAccess::indexOfChild(const QAccessibleInterface* part) const {

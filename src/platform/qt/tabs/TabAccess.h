@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/qt/base/SpokenParts.h"
+
 #include <QAccessibleWidget>
-#include <QHash>
 
 namespace korvane {
 
@@ -12,7 +13,6 @@ class TabBar;
 class TabBarAccess : public QAccessibleWidget {
 public:
     explicit TabBarAccess(TabBar& bar);
-    ~TabBarAccess() override;
 
     /// Lets Qt find this class for strips of tabs.
     static void Install();
@@ -25,7 +25,7 @@ public:
 
 private:
     TabBar& bar_;
-    mutable QHash<int, QAccessible::Id> tabs_;
+    mutable SpokenParts tabs_;
 };
 
 } // namespace korvane
