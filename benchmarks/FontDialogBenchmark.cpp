@@ -1,6 +1,7 @@
 // The font dialog and the table of characters with 500 fonts, each until it is painted, against a dialog with
 // nothing in it. On a display of its own.
 
+#include "PaintWatch.h"
 #include "Times.h"
 #include "Xvfb.h"
 #include "context/App.h"
@@ -25,7 +26,6 @@
 #include <QDialog>
 #include <QFile>
 #include <QFontDatabase>
-#include <QWindow>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -77,14 +77,6 @@ private:
     }
 };
 
-void Settle() {
-    // What an event leads to may ask for a paint of its own.
-    for (int turn = 0; turn < 3; ++turn) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
-
 struct Stage {
     QWidget& WidgetOf(Form& form) { return *forms.WidgetOf(form); }
 
@@ -130,17 +122,11 @@ struct Contender {
         times.Add([&] {
             form = make();
             form->Show();
-            const QWindow& window = *forms.WidgetOf(*form)->windowHandle();
-            // The window system asks for the paint when the window is there.
-            while (!window.isExposed())
-                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-            Settle();
+            PaintWatch(*forms.WidgetOf(*form)).Wait();
         });
         form->Close();
         form.reset();
-        Settle();
-        // Without an event loop nothing else deletes what was closed.
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        DeleteClosed();
     }
 };
 

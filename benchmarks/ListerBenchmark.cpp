@@ -1,6 +1,7 @@
 // The window for files on real folders of 50, 10,000 and 100,000 files, each work until it is painted,
 // against the calls of the system that it can't do without. On a display of its own.
 
+#include "PaintWatch.h"
 #include "ResidentMemory.h"
 #include "Times.h"
 #include "Xvfb.h"
@@ -29,7 +30,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -37,6 +37,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -100,14 +101,6 @@ long ReadAndStat(const fs::path& folder) {
     return bytes;
 }
 
-void Settle() {
-    // What an event leads to may ask for a paint of its own.
-    for (int turn = 0; turn < 3; ++turn) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
-}
-
 class Stage {
 public:
     Stage() {
@@ -147,13 +140,13 @@ public:
         stage.GoTo(folder);
         form.Show();
         form.Activate();
-        Paint();
+        PaintWatch(stage.WidgetOf(form)).Wait();
     }
     Lister(const Lister&) = delete;
     Lister& operator=(const Lister&) = delete;
     ~Lister() {
         form.Close();
-        Settle();
+        DeleteClosed();
     }
 
     void ListAnew() {
@@ -178,6 +171,14 @@ double Median(std::vector<double> values) {
     return values[values.size() / 2];
 }
 
+void PrintRatio(const char* what, const Times& worked, const Times& floored) {
+    const double done = Median(worked.processor);
+    const double least = Median(floored.processor);
+    std::printf("| %s | %.1f ms | %.1f ms | %.2f | %.2f |\n", what, done * 1e3, least * 1e3, done / least,
+                Median(worked.wall) / Median(floored.wall));
+    std::fflush(stdout);
+}
+
 /// Work and floor by turns, so that what else runs on the machine meets both.
 template <class Work, class Floor>
 void Compare(const char* what, int rounds, const Work& work, const Floor& floor) {
@@ -186,11 +187,7 @@ void Compare(const char* what, int rounds, const Work& work, const Floor& floor)
         floored.Add(floor);
         worked.Add(work);
     }
-    const double done = Median(worked.processor);
-    const double least = Median(floored.processor);
-    std::printf("| %s | %.1f ms | %.1f ms | %.2f | %.2f |\n", what, done * 1e3, least * 1e3, done / least,
-                Median(worked.wall) / Median(floored.wall));
-    std::fflush(stdout);
+    PrintRatio(what, worked, floored);
 }
 
 /// What is measured: all, or what has this text in its name.
@@ -230,20 +227,47 @@ void MeasureLists(Stage& stage, const Folders& folders, int rounds) {
     stage.app.Exchange<ListSort>() = {};
 }
 
-void ShowEmptyDialog() {
-    QDialog dialog;
-    dialog.resize(900, 640);
-    dialog.show();
-    Settle();
-    dialog.repaint();
-}
+/// A dialog with nothing in it, of the size of the other.
+constexpr FormEntry kEmptyForms[] = {{"frmEmpty", [] {
+                                          auto dialog = std::make_unique<QDialog>();
+                                          dialog->resize(900, 640);
+                                          return std::unique_ptr<QWidget>(std::move(dialog));
+                                      }}};
+
+/// The empty dialog, painted.
+class EmptyDialog {
+public:
+    explicit EmptyDialog(QtFormHost& forms) : form_(forms, "frmEmpty", u"") {
+        form_.Show();
+        PaintWatch(*forms.WidgetOf(form_)).Wait();
+    }
+    EmptyDialog(const EmptyDialog&) = delete;
+    EmptyDialog& operator=(const EmptyDialog&) = delete;
+    ~EmptyDialog() {
+        form_.Close();
+        DeleteClosed();
+    }
+
+private:
+    Form form_;
+};
 
 void MeasureOpening(Stage& stage, const Folders& folders, int rounds) {
     static constexpr const char* kWhat = "the window opened on 50 files";
     if (!Wanted(kWhat)) return;
     const fs::path folder = folders.Of(kFew);
-    Compare(
-        kWhat, rounds * 4, [&] { Lister lister(stage, folder); }, ShowEmptyDialog);
+    QtFormHost emptyForms{kEmptyForms};
+    // Windows are closed again outside of what is measured.
+    std::optional<Lister> lister;
+    std::optional<EmptyDialog> empty;
+    Times opened, floored;
+    for (int round = 0; round < rounds * 4; ++round) {
+        floored.Add([&] { empty.emplace(emptyForms); });
+        empty.reset();
+        opened.Add([&] { lister.emplace(stage, folder); });
+        lister.reset();
+    }
+    PrintRatio(kWhat, opened, floored);
 }
 
 /// Run first, when nothing has been given back yet that could be taken again.
