@@ -62,7 +62,7 @@ frmCopyMove::frmCopyMove(App& app)
     : Form(app.Forms(), "frmCopyMove", u" Target for: "),
       OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       app_(app),
-      folders_(app.Files(), TreeView1) {
+      folders_(app.Files(), TreeView1, FolderTimer) {
     txtFullPath.Locked = true;
     Wire();
 }

@@ -7,6 +7,7 @@
 #include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
+#include "controls/Timer.h"
 #include "controls/TreeView.h"
 #include "files/jobs/CopyMoveRun.h"
 #include "files/tree/FolderTree.h"
@@ -29,6 +30,7 @@ public:
     CommandButton cmdGetFromTarget{*this, "cmdGetFromTarget", u"", u"Get target folder from list"};
     TextBox txtFullPath{*this, "txtFullPath"};
     TreeView TreeView1{*this, "TreeView1"};
+    Timer FolderTimer{*this, "FolderTimer", FolderTree::kBetween};
     ListBox lstMarkedFiles{*this, "lstMarkedFiles"};
     Label lblNewName{*this, "lblNewName", u"New name for file to copy"};
     TextBox txtTargetName{*this, "txtTargetName"};

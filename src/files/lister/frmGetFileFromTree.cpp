@@ -146,7 +146,7 @@ frmGetFileFromTree::frmGetFileFromTree(App& app)
       OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       ListView1(*this, "ListView1", {{u"Name", {}}, {u"Size", {}, ColumnAlign::Right}, {u"mm/dd/yyyy", {}}}),
       app_(app),
-      tree_(app.Files(), TreeView1),
+      tree_(app.Files(), TreeView1, FolderTimer),
       rows_(app, {ListView1, ProgressBar1, cmdEscape}),
       folder_(app, {txtFullPath, txtSearchSpec, tree_, rows_}),
       fileCommands_(app, folder_, rows_),

@@ -9,6 +9,7 @@
 #include "controls/ProgressBar.h"
 #include "controls/Splitter.h"
 #include "controls/TextBox.h"
+#include "controls/Timer.h"
 #include "controls/TreeView.h"
 #include "files/lister/FileCommands.h"
 #include "files/lister/FileRows.h"
@@ -57,6 +58,7 @@ public:
     CommandButton cmdEscape{*this, "cmdEscape", u"Stop"};
     Splitter imgSplitV{*this, "imgSplitV"};
     TreeView TreeView1{*this, "TreeView1"};
+    Timer FolderTimer{*this, "FolderTimer", FolderTree::kBetween};
     ListView ListView1;
     TextBox txtFileName{*this, "txtFileName"};
 

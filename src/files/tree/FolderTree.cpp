@@ -1,6 +1,7 @@
 #include "files/tree/FolderTree.h"
 
 #include "common/text/CaseFold.h"
+#include "controls/Timer.h"
 #include "controls/TreeView.h"
 #include "controls/UpdateScope.h"
 #include "platform/FileSystem.h"
@@ -25,7 +26,10 @@ TextView DriveIcon(DriveType type) {
 
 } // namespace
 
-FolderTree::FolderTree(const FileSystem& files, TreeView& tree) : files_(files), tree_(tree) {
+FolderTree::FolderTree(const FileSystem& files, TreeView& tree, Timer& timer)
+    : files_(files), tree_(tree), timer_(timer) {
+    timer_.Enabled = false;
+    timer_.Tick = [this] { AskSome(); };
     tree_.NodeClick = [this] { GoTo(tree_.Selected()); };
     tree_.Expand = [this](TextView key) { Expand(Text(key)); };
 }
@@ -33,11 +37,13 @@ FolderTree::FolderTree(const FileSystem& files, TreeView& tree) : files_(files),
 FolderTree::~FolderTree() {
     tree_.NodeClick = nullptr;
     tree_.Expand = nullptr;
+    timer_.Tick = nullptr;
 }
 
 void FolderTree::Fill() {
     const UpdateScope update(tree_);
     tree_.Clear();
+    unasked_.clear();
     for (const Drive& drive : files_.Drives()) {
         tree_.Add({}, drive.root, files_.Style().HasDrives() ? DriveText(drive) : drive.entry);
         tree_.SetNodeIcon(drive.root, DriveIcon(drive.type));
@@ -68,8 +74,25 @@ void FolderTree::ReadFolders(const Text& folder) {
 Text FolderTree::AddFolder(const Text& parent, const Text& name) {
     const Text path = files_.Style().JoinPath(parent, name);
     tree_.Add(parent, path, name);
-    tree_.SetExpandable(path, files_.MayHaveFolders(path));
+    unasked_.push_back(path);
+    timer_.Enabled = true;
     return path;
+}
+
+void FolderTree::AskSome() {
+    const UpdateScope update(tree_);
+    for (std::size_t asked = 0; asked < kAskedAtOnce && !unasked_.empty(); ++asked) {
+        Ask(unasked_.front());
+        unasked_.pop_front();
+    }
+    timer_.Enabled = !unasked_.empty();
+}
+
+void FolderTree::Ask(const Text& folder) {
+    const TreeNode* node = tree_.Node(folder);
+    // One that was opened meanwhile has been read.
+    if (node == nullptr || node->expanded || !node->children.empty()) return;
+    tree_.SetExpandable(folder, files_.MayHaveFolders(folder));
 }
 
 bool FolderTree::SetTreePath(TextView path) {

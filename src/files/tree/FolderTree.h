@@ -2,20 +2,24 @@
 
 #include "common/text/Text.h"
 
+#include <chrono>
+#include <deque>
 #include <functional>
 #include <vector>
 
 namespace korvane {
 
 class FileSystem;
+class Timer;
 class TreeView;
 
 /// The folders of the disk in a tree. A folder's key is its full path. What is below it is read when it is
-/// opened.
+/// opened. Whether there is anything below it is asked a little later, some folders at a time, so that a tree
+/// of many folders on a slow disk is seen at once.
 class FolderTree {
 public:
-    /// Both outlive the object, which answers the tree's events from now on.
-    FolderTree(const FileSystem& files, TreeView& tree);
+    /// All outlive the object, which answers the events of the tree and the timer from now on.
+    FolderTree(const FileSystem& files, TreeView& tree, Timer& timer);
     FolderTree(const FolderTree&) = delete;
     FolderTree& operator=(const FolderTree&) = delete;
     ~FolderTree();
@@ -35,11 +39,17 @@ public:
 
     /// The root counts as one. Kept for compatibility: tree-of-21-levels.
     static constexpr std::size_t kMostLevels = 21;
+    /// How many folders the disk is asked about at each tick, and the time between two ticks, in which the
+    /// window is painted and the user gets his turn.
+    static constexpr std::size_t kAskedAtOnce = 64;
+    static constexpr std::chrono::milliseconds kBetween{50};
 
 private:
     void GoTo(const Text& folder);
     void Expand(const Text& key);
     void ReadFolders(const Text& folder);
+    void AskSome();
+    void Ask(const Text& folder);
     /// The key of the new node.
     Text AddFolder(const Text& parent, const Text& name);
     Text Root(TextView fullPath) const;
@@ -48,6 +58,9 @@ private:
 
     const FileSystem& files_;
     TreeView& tree_;
+    Timer& timer_;
+    /// The folders of which nobody has asked yet whether there are folders in them.
+    std::deque<Text> unasked_;
     Text folder_;
     /// While the program moves in the tree, the steps in between aren't told.
     bool moving_ = false;

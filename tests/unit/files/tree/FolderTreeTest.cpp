@@ -1,9 +1,13 @@
 #include "files/tree/FolderTree.h"
 
+#include "common/number/Number.h"
+#include "controls/Timer.h"
 #include "controls/TreeView.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace korvane {
 namespace {
@@ -15,6 +19,7 @@ class TreeWindow : public Form {
 public:
     explicit TreeWindow(App& app) : Form(app.Forms(), "TreeWindow", u"") {}
     TreeView TreeView1{*this, "TreeView1"};
+    Timer FolderTimer{*this, "FolderTimer", FolderTree::kBetween};
 };
 
 struct FolderTreeTest : testing::Test {
@@ -32,7 +37,8 @@ struct FolderTreeTest : testing::Test {
     TestApp t;
     TreeWindow window{t.app};
     TreeView& tree = window.TreeView1;
-    FolderTree folders{t.files, tree};
+    Timer& timer = window.FolderTimer;
+    FolderTree folders{t.files, tree, timer};
     std::vector<Text> visited;
 };
 
@@ -103,6 +109,7 @@ TEST_F(FolderTreeTest, ANodeIsReadWhenItIsOpened) {
     folders.Fill();
     tree.SetExpanded(u"C:\\", true);
     EXPECT_THAT(TextsBelow(u"C:\\"), ElementsAre(u"Alone", u"Data", u"Korvane"));
+    timer.Elapse();
     EXPECT_FALSE(tree.Node(u"C:\\Alone")->expandable);
     EXPECT_TRUE(tree.Node(u"C:\\Data")->expandable);
     EXPECT_THAT(TextsBelow(u"C:\\Data"), IsEmpty());
@@ -110,6 +117,41 @@ TEST_F(FolderTreeTest, ANodeIsReadWhenItIsOpened) {
     EXPECT_THAT(TextsBelow(u"C:\\Data"), ElementsAre(u"sub"));
     EXPECT_NE(tree.Node(u"C:\\Data\\sub"), nullptr);
     EXPECT_THAT(visited, ElementsAre(u"C:\\", u"C:\\Data"));
+}
+
+TEST_F(FolderTreeTest, WhetherFoldersCanBeOpenedIsAskedLaterAFewAtATime) {
+    for (std::size_t number = 0; number < FolderTree::kAskedAtOnce; ++number)
+        t.files.AddDir(u"C:\\D" + NumberText(1000 + number) + u"\\sub");
+    const auto expandable = [&] {
+        return std::ranges::count_if(tree.Children(u"C:\\"),
+                                     [](const auto* node) { return node->expandable; });
+    };
+    folders.Fill();
+    EXPECT_FALSE(timer.Enabled);
+    tree.SetExpanded(u"C:\\", true);
+    EXPECT_TRUE(timer.Enabled);
+    EXPECT_EQ(expandable(), 0);
+    timer.Elapse();
+    EXPECT_EQ(expandable(), static_cast<int>(FolderTree::kAskedAtOnce));
+    EXPECT_TRUE(timer.Enabled);
+    timer.Elapse();
+    EXPECT_FALSE(timer.Enabled);
+}
+
+TEST_F(FolderTreeTest, AFolderThatWasOpenedOrHasGoneMeanwhileIsNotAskedAbout) {
+    t.files.AddDir(u"C:\\Data\\sub");
+    t.files.AddDir(u"C:\\Gone\\sub");
+    folders.Fill();
+    tree.SetExpanded(u"C:\\", true);
+    tree.SetExpanded(u"C:\\Data", true);
+    folders.Remove(u"C:\\Gone");
+    timer.Elapse();
+    EXPECT_FALSE(tree.Node(u"C:\\Data")->expandable);
+    EXPECT_EQ(tree.Node(u"C:\\Gone"), nullptr);
+    folders.Fill();
+    EXPECT_TRUE(tree.Node(u"C:\\")->expandable);
+    timer.Elapse();
+    EXPECT_THAT(TextsBelow(u"C:\\"), IsEmpty());
 }
 
 TEST_F(FolderTreeTest, ANodeOpenedAgainIsAsItWas) {
