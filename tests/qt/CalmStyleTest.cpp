@@ -13,7 +13,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleOptionButton>
+#include <QTest>
 #include <QTreeView>
 
 namespace korvane {
@@ -60,6 +62,40 @@ TEST_F(CalmStyleTest, HollowsHaveAnEdgeOnADarkWindow) {
     EXPECT_GT(EdgeOf(box, {hollow.center().x(), hollow.top()}), 2);
     QLineEdit line;
     EXPECT_GT(EdgeOf(line, {60, 0}), 2);
+}
+
+TEST_F(CalmStyleTest, TheHandleOfAScrollBarCanBeSeenAndTellsThatItIsHeld) {
+    for (const QPalette& palette : {style.standardPalette(), DarkPalette()}) {
+        for (const auto way : {Qt::Vertical, Qt::Horizontal}) {
+            const test::UnderPalette under(palette);
+            QScrollBar bar(way);
+            bar.setStyle(&style);
+            bar.setRange(0, 100);
+            bar.setPageStep(100);
+            bar.resize(way == Qt::Vertical ? QSize(16, 200) : QSize(200, 16));
+            QStyleOptionSlider option;
+            option.initFrom(&bar);
+            option.orientation = way;
+            option.maximum = 100;
+            option.pageStep = 100;
+            const QRect groove =
+                style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarGroove, &bar);
+            const QImage picture = bar.grab().toImage();
+            EXPECT_GE(test::ContrastWithin(picture, groove), kReadable);
+            const QRect handle =
+                style.subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
+            QTest::mousePress(&bar, Qt::LeftButton, {}, handle.center());
+            EXPECT_NE(bar.grab().toImage(), picture);
+            bar.setRange(0, 0);
+            EXPECT_LT(test::ContrastWithin(bar.grab().toImage(), groove), kReadable);
+        }
+    }
+}
+
+TEST_F(CalmStyleTest, AFieldHasAnEdgeOnALightWindowToo) {
+    QLineEdit line;
+    EXPECT_GT(EdgeOf(line, {60, 0}), 1.3);
+    EXPECT_GT(EdgeOf(line, {0, 12}), 1.3);
 }
 
 TEST_F(CalmStyleTest, ChosenLinesOfListsAndMenusAreEasyToRead) {

@@ -3,6 +3,7 @@
 #include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/base/Palettes.h"
+#include "platform/qt/binder/ScrollBarLook.h"
 #include "platform/qt/lists/TilesView.h"
 #include "platform/qt/tabs/TabBar.h"
 
@@ -20,6 +21,26 @@ namespace {
 constexpr int kHeaderMargin = 5;
 constexpr int kAirInList = 4;
 constexpr int kRing = 2;
+/// In percent, as `QColor::darker` takes it.
+constexpr int kFieldEdge = 140;
+
+/// The colour of an edge that can be seen on a dark window.
+QColor EdgeOnDark(const QPalette& palette) {
+    return Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.35);
+}
+
+/// The edge of a field for texts, without its corners. A rounded line takes ten times as long, and a window
+/// may have many fields.
+void DrawField(const QStyleOption& option, QPainter& painter) {
+    const QPalette& palette = option.palette;
+    const QColor colour =
+        IsDark(palette) ? EdgeOnDark(palette) : palette.color(QPalette::Window).darker(kFieldEdge);
+    const QRect& all = option.rect;
+    for (const int y : {all.top(), all.bottom()})
+        painter.fillRect(all.left() + 1, y, all.width() - 2, 1, colour);
+    for (const int x : {all.left(), all.right()})
+        painter.fillRect(x, all.top() + 1, 1, all.height() - 2, colour);
+}
 
 /// Whether the element is drawn as a hollow in its window. On a dark window it could not be seen without an
 /// edge.
@@ -29,11 +50,10 @@ bool IsHollow(QStyle::PrimitiveElement element) {
 }
 
 void DrawEdge(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
-    const QPalette& palette = option.palette;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.35));
+    painter.setPen(EdgeOnDark(option.palette));
     const QRectF edge = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     if (element == QStyle::PE_IndicatorRadioButton) {
         painter.drawEllipse(edge);
@@ -122,8 +142,9 @@ void CalmStyle::polish(QPalette& palette) {
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     if (element == PE_FrameFocusRect) return DrawRing(*painter, RingPlace(*option, widget), RingOf(*option));
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
     const bool focused = option->state.testFlag(State_HasFocus);
+    if (element == PE_FrameLineEdit && !focused) return DrawField(*option, *painter);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit && focused) {
         DrawRing(*painter, option->rect, RingOn(option->palette));
     } else if (IsHollow(element) && IsDark(option->palette)) {
@@ -141,6 +162,8 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
 
 void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const {
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && slider != nullptr) return DrawScrollBar(*slider, *painter, *this, widget);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     const bool ringed = control == CC_ComboBox || control == CC_Slider;
     if (ringed && option->state.testFlag(State_HasFocus))

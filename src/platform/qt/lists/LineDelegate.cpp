@@ -2,6 +2,13 @@
 
 namespace korvane {
 
+void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
+    QStyleOptionViewItem item = option;
+    initStyleOption(&item, index);
+    if (!cells_.Paint(*painter, item)) QStyledItemDelegate::paint(painter, option, index);
+}
+
 QSize LineDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
     // All lines of a tree have a picture of the same size and no look of their own.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/lists/PlainCells.h"
+
 #include <QFont>
 #include <QStyledItemDelegate>
 
@@ -11,12 +13,15 @@ class LineDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
     /// What a line takes besides its text, with this font.
     mutable QFont font_;
     mutable QSize frame_;
+    mutable PlainCells cells_;
 };
 
 } // namespace korvane

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/lists/AsciiWidths.h"
+#include "platform/qt/lists/PlainCells.h"
 
 #include <QStyledItemDelegate>
 
@@ -31,14 +31,10 @@ protected:
     bool eventFilter(QObject* editor, QEvent* event) override;
 
 private:
-    /// Draws a cell that has nothing but a picture and a short plain text, which takes half the time of the
-    /// general way. False for any other cell.
-    bool PaintPlain(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const;
-
     void Finish(QWidget& editor, int row, const QString& text, int step) const;
 
     bool lined_ = false;
-    mutable AsciiWidths widths_;
+    mutable PlainCells cells_;
 };
 
 } // namespace korvane
