@@ -19,6 +19,15 @@ private:
 
 } // namespace
 
+std::vector<Text> FileSystem::FileNamesInSteps(TextView folder, TextView patterns,
+                                               const ReadsOn& readsOn) const {
+    std::vector<Text> names = FileNames(folder, patterns);
+    for (std::size_t found = kEntriesInStep; found <= names.size(); found += kEntriesInStep) {
+        if (!readsOn(found)) names.resize(found);
+    }
+    return names;
+}
+
 std::unique_ptr<FolderDetails> FileSystem::DetailsIn(TextView folder) const {
     return std::make_unique<DetailsByPath>(*this, folder);
 }

@@ -115,7 +115,14 @@ public:
     /// for programs, also where the right to start a file makes one. Names that start with a point are left
     /// out where that hides them. None for a folder that can't be read.
     virtual std::vector<Text> FileNames(TextView /*folder*/, TextView /*patterns*/) const { return {}; }
-    /// The same of its folders and of links to folders.
+    /// How many entries of a folder are read in one step, and what is asked after each step: whether the
+    /// reading goes on, with so many names found.
+    static constexpr std::size_t kEntriesInStep = 1000;
+    using ReadsOn = std::function<bool(std::size_t found)>;
+    /// The same of a folder of any number of files. Where the reading doesn't go on, those that were found.
+    virtual std::vector<Text> FileNamesInSteps(TextView folder, TextView patterns,
+                                               const ReadsOn& readsOn) const;
+    /// The names of its folders and of links to folders.
     virtual std::vector<Text> FolderNames(TextView /*folder*/) const { return {}; }
     /// Whether there are any: the disk is asked for the first only.
     virtual bool HasFolders(TextView /*folder*/) const { return false; }

@@ -44,9 +44,8 @@ bool FileRows::Fill(const Text& folder, const Text& patterns) {
     }
     const Hourglass hourglass(app_.Screen());
     chosenByUser_ = false;
-    const std::vector<Text> names = app_.Files().FileNames(folder, patterns);
-    ShowReading(names);
-    if (!Read(folder, names)) return false;
+    const std::vector<Text> names = FindNames(folder, patterns);
+    if (mine != fill_ || !Read(folder, names)) return false;
     parts_.list.Visible = true;
     parts_.list.SetFocus();
     const auto read = static_cast<std::size_t>(parts_.list.Count());
@@ -63,14 +62,28 @@ bool FileRows::Fill(const Text& folder, const Text& patterns) {
     return true;
 }
 
-void FileRows::ShowReading(const std::vector<Text>& names) {
-    const bool shown = names.size() > kMostReadAtOnce;
+std::vector<Text> FileRows::FindNames(const Text& folder, const Text& patterns) {
+    const int mine = fill_;
     stopRequested_ = false;
+    ShowReading(false);
+    std::vector<Text> names = app_.Files().FileNamesInSteps(folder, patterns, [&](std::size_t found) {
+        if (found <= kMostReadAtOnce) return true;
+        ShowReading(true);
+        app_.Screen().Yield();
+        return mine == fill_ && !stopRequested_;
+    });
+    if (mine != fill_ || names.size() <= kMostReadAtOnce) return names;
+    ShowReading(true);
+    parts_.bar.Max = static_cast<int>(names.size()) - 1;
+    return names;
+}
+
+void FileRows::ShowReading(bool shown) {
+    const bool begins = shown && !parts_.stop.Visible;
     parts_.bar.Visible = shown;
     parts_.stop.Visible = shown;
     parts_.list.Visible = !shown;
-    if (!shown) return;
-    parts_.bar.Max = static_cast<int>(names.size()) - 1;
+    if (!begins) return;
     parts_.bar.Value = 0;
     parts_.stop.SetFocus();
 }

@@ -63,7 +63,9 @@ private:
     /// Of more files than these the reading is shown, and it can be stopped.
     static constexpr std::size_t kMostReadAtOnce = 1000;
 
-    void ShowReading(const std::vector<Text>& names);
+    /// Ends early when the user stops it or the reading was overtaken.
+    std::vector<Text> FindNames(const Text& folder, const Text& patterns);
+    void ShowReading(bool shown);
     bool Read(const Text& folder, const std::vector<Text>& names);
     void WriteRow(ListRow& row, const Text& folder, const Text& name,
                   const std::optional<FileDetails>& details);

@@ -41,12 +41,14 @@ fs::path WithoutDetours(const fs::path& path) {
 
 /// Those that are wanted, in their order.
 template <class WantedT>
-std::vector<Text> SortedNames(TextView folder, WantedT wanted) {
+std::vector<Text> SortedNames(
+    TextView folder, WantedT wanted, const FileSystem::ReadsOn& readsOn = [](std::size_t) { return true; }) {
     std::vector<Text> names;
     FolderReader entries(ToNativePath(folder));
-    while (entries.Next()) {
+    for (std::size_t read = 1; entries.Next(); ++read) {
         Text name = entries.Name();
         if (wanted(entries, name)) names.push_back(std::move(name));
+        if (read % FileSystem::kEntriesInStep == 0 && !readsOn(names.size())) break;
     }
     SortNames(names);
     return names;
@@ -226,10 +228,18 @@ std::optional<system_calls::FileRights> NativeFileSystem::RightsToRestore(const 
 }
 
 std::vector<Text> NativeFileSystem::FileNames(TextView folder, TextView patterns) const {
+    return FileNamesInSteps(folder, patterns, [](std::size_t) { return true; });
+}
+
+std::vector<Text> NativeFileSystem::FileNamesInSteps(TextView folder, TextView patterns,
+                                                     const ReadsOn& readsOn) const {
     const bool programs = AskForPrograms(patterns);
-    return SortedNames(folder, [patterns, programs](const FolderReader& entry, const Text& name) {
-        return (MatchesPatterns(name, patterns) || (programs && entry.IsProgram())) && !entry.IsFolder();
-    });
+    return SortedNames(
+        folder,
+        [patterns, programs](const FolderReader& entry, const Text& name) {
+            return (MatchesPatterns(name, patterns) || (programs && entry.IsProgram())) && !entry.IsFolder();
+        },
+        readsOn);
 }
 
 std::vector<Text> NativeFileSystem::FolderNames(TextView folder) const {

@@ -37,6 +37,8 @@ public:
     bool CanWrite(TextView path) const override;
     bool Remove(TextView path) override;
     std::vector<Text> FileNames(TextView folder, TextView patterns) const override;
+    std::vector<Text> FileNamesInSteps(TextView folder, TextView patterns,
+                                       const ReadsOn& readsOn) const override;
     std::vector<Text> FolderNames(TextView folder) const override;
     bool HasFolders(TextView folder) const override;
     /// A folder without any among its first thousand entries isn't read to its end.

@@ -156,6 +156,46 @@ TEST_P(FileRowsTest, AStopKeepsWhatIsReadAndTellsHowMuch) {
     }
 }
 
+TEST_P(FileRowsTest, TheReadingOfTheNamesIsSeenAndCanBeStoppedToo) {
+    AddFiles(3500);
+    Await(Warning(u"Only 1 of the 2,000 files in this directory were read."), Answer::Ok);
+    OpenOnly([this](frmGetFileFromTree& f) {
+        t.screen.QueueMessage([&f] {
+            EXPECT_TRUE(f.ProgressBar1.Visible);
+            EXPECT_FALSE(f.ListView1.Visible);
+            EXPECT_EQ(f.Focused(), &f.cmdEscape);
+            f.cmdEscape.Press();
+        });
+        f.Activate();
+        EXPECT_THAT(Names(f), ElementsAre("10001.txt"));
+        EXPECT_TRUE(f.ListView1.Visible);
+        EXPECT_FALSE(f.cmdEscape.Visible);
+        f.cmdCancel.Press();
+    });
+}
+
+TEST_P(FileRowsTest, AWindowThatClosesEndsTheReadingOfTheNamesToo) {
+    AddFiles(3500);
+    OpenOnly([this](frmGetFileFromTree& f) {
+        t.screen.QueueMessage([&f] { f.cmdCancel.Press(); });
+        t.screen.QueueMessage([] { ADD_FAILURE() << "the reading went on"; });
+        f.Activate();
+        EXPECT_FALSE(f.Shown());
+    });
+}
+
+TEST_P(FileRowsTest, AnotherFolderTakesOverTheReadingOfTheNames) {
+    AddFiles(3500);
+    OpenOnly([this](frmGetFileFromTree& f) {
+        t.screen.QueueMessage([&] { f.TreeView1.Select(At(u"Data")); });
+        f.Activate();
+        EXPECT_THAT(Names(f), ElementsAre("a.txt", "b.tbx"));
+        EXPECT_TRUE(f.ListView1.Visible);
+        EXPECT_FALSE(f.cmdEscape.Visible);
+        f.cmdCancel.Press();
+    });
+}
+
 TEST_P(FileRowsTest, AWindowThatClosesEndsTheReadingWithoutAWord) {
     AddFiles(kMany);
     OpenOnly([this](frmGetFileFromTree& f) {
@@ -255,24 +295,33 @@ public:
     mutable int asked = 0;
 };
 
-TEST(FileRowsOfAMillion, AStopLeavesTheOthersUntouched) {
+/// The lister on them, with the stop pressed after so many turns of the messages.
+void StopAmongAMillion(int turns, const Text& told, int listed) {
     TestApp t;
     MillionFiles files;
     App app{
         {files, t.user, t.clipboard, t.clock, t.screen, t.shell, t.instance, t.user, [] { return nullptr; }}};
     app.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
     t.user.On<frmGetFileFromTree>([&](frmGetFileFromTree& f) {
-        t.user.Answer(
-            {u"Only 2 of the 1,000,000 files in this directory were read.", MessageIcon::Exclamation},
-            Answer::Ok);
-        t.screen.QueueMessage([] {});
+        t.user.Answer({told, MessageIcon::Exclamation}, Answer::Ok);
+        for (int turn = 1; turn < turns; ++turn)
+            t.screen.QueueMessage([] {});
         t.screen.QueueMessage([&f] { f.cmdEscape.Press(); });
         f.Activate();
-        EXPECT_EQ(f.ListView1.Count(), 2);
-        EXPECT_EQ(files.asked, 2);
+        EXPECT_EQ(f.ListView1.Count(), listed);
+        EXPECT_EQ(files.asked, listed);
         f.cmdCancel.Press();
     });
     frmGetFileFromTree(app).ShowModal();
+}
+
+TEST(FileRowsOfAMillion, AStopWhileTheNamesAreReadLeavesTheOthersUnread) {
+    StopAmongAMillion(2, u"Only 1 of the 3,000 files in this directory were read.", 1);
+}
+
+TEST(FileRowsOfAMillion, AStopLeavesTheOthersUntouched) {
+    constexpr int kTurnsOfNames = 999;
+    StopAmongAMillion(kTurnsOfNames + 2, u"Only 2 of the 1,000,000 files in this directory were read.", 2);
 }
 
 } // namespace

@@ -316,6 +316,23 @@ TEST_F(NativeFiles, OfAVeryLargeFolderOnlyTheFirstEntriesAreRead) {
     EXPECT_FALSE(files.HasFolders(At("")));
 }
 
+TEST_F(NativeFiles, NamesAreReadInStepsThatCanBeEnded) {
+    for (int number = 0; number < 2500; ++number)
+        WriteBytes(dir / (std::to_string(number) + (number % 2 == 0 ? ".txt" : ".rtf")), "");
+    std::vector<std::size_t> told;
+    const auto readsOn = [&](std::size_t found) {
+        told.push_back(found);
+        return true;
+    };
+    EXPECT_EQ(files.FileNamesInSteps(At(""), u"*.*", readsOn), files.FileNames(At(""), u"*.*"));
+    EXPECT_EQ(told, (std::vector<std::size_t>{1000, 2000}));
+    told.clear();
+    EXPECT_EQ(files.FileNamesInSteps(At(""), u"*.txt", readsOn).size(), 1250u);
+    EXPECT_EQ(told.size(), 2u);
+    const auto stops = [](std::size_t) { return false; };
+    EXPECT_EQ(files.FileNamesInSteps(At(""), u"*.*", stops).size(), 1000u);
+}
+
 TEST(NativeFolders, OfAnotherVolumeAreNotLookedForUntilItIsOpened) {
     const bool mounted = RunOnSmallDisk(1 << 20, [](const fs::path& disk) {
         const NativeFileSystem files(u"/opt/korvane");
