@@ -58,6 +58,32 @@ TEST_P(FileCommandsTest, SpaceViewsWithAnyModifier) {
     EXPECT_EQ(texts.viewed.size(), 4U);
 }
 
+/// The parts of the lister on which the commands work.
+struct ListParts : Form {
+    explicit ListParts(App& app) : Form(app.Forms(), "ListParts", u"") {}
+
+    TextBox path{*this, "path"};
+    DropDown pattern{*this, "pattern"};
+    TreeView nodes{*this, "nodes"};
+    Timer timer{*this, "timer", FolderTree::kBetween};
+    ListView list{*this, "list", {{u"Name", {}}, {u"Size", {}}, {u"Date", {}}}};
+    ProgressBar bar{*this, "bar"};
+    CommandButton stop{*this, "stop", u""};
+};
+
+TEST_P(FileCommandsTest, AsATextAFileIsViewedWhateverItsTypeAndSize) {
+    t.files.AddFile(At(u"Data/c.png"), std::string(1'000'001, 'c'));
+    ListParts parts(app);
+    parts.pattern.Text = u"*.png";
+    FolderTree tree(t.files, parts.nodes, parts.timer);
+    FileRows rows(app, {parts.list, parts.bar, parts.stop});
+    ShownFolder folder(app, {parts.path, parts.pattern, tree, rows});
+    folder.GoTo(At(u"Data"));
+    FileCommands(app, folder, rows).View(FileCommands::Viewing::AsText);
+    EXPECT_THAT(texts.viewed, ElementsAre(At(u"Data/c.png")));
+    EXPECT_THAT(t.shell.Starts(), IsEmpty());
+}
+
 TEST_P(FileCommandsTest, ATypeGoesToItsProgram) {
     t.files.AddFile(At(u"Data/c.png"), "picture");
     Open([](frmGetFileFromTree& f) {
