@@ -7,6 +7,8 @@
 #include "document/docx/Docx.h"
 #endif
 
+#include <limits>
+
 namespace korvane {
 
 namespace {
@@ -18,12 +20,19 @@ std::vector<Text> TitlesOf(Workbench& workbench) {
     return titles;
 }
 
+/// A table in memory is none too large for a file.
+doc::Limits NoLimits() {
+    constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
+    return {.characters = kAny, .cells = kAny, .columns = kAny, .formats = kAny};
+}
+
 template <class Write>
 ExitStatus Export(const Call& call, Environment& environment, const Write& write) {
     const auto workbench = LoadTable(call, environment);
     if (!workbench) return ExitStatus::Error;
     const auto all = [](Row) { return true; };
-    environment.out.Write(write(MakeTextTable(workbench->Grid(), TitlesOf(*workbench), all, call.look)));
+    const auto document = MakeTextTable(workbench->Grid(), TitlesOf(*workbench), all, call.look, NoLimits());
+    if (document) environment.out.Write(write(*document));
     return ReportMessages(*workbench, environment);
 }
 

@@ -387,6 +387,22 @@ TYPED_TEST_P(TextEditingContract, ATableIsRefusedWithinATable) {
     EXPECT_EQ(this->control.InsertTable(0, 1), 0);
 }
 
+TYPED_TEST_P(TextEditingContract, ATableWithoutRowsOrColumnsIsTakenAndIsNothing) {
+    this->control.SetAll(u"ab");
+    this->control.SetDataChanged(false);
+    for (const auto& [rows, columns] : {std::pair{0, 3}, {3, 0}, {-1, 1}}) {
+        const int table = this->control.InsertTable(rows, columns);
+        EXPECT_LT(table, 0);
+        EXPECT_EQ(this->control.TableRows(table), 0);
+        this->control.SetCellText(table, 1, 1, u"nowhere");
+        this->control.SetCellAttribute(table, 1, 1, 1, 900);
+        EXPECT_EQ(this->control.CellStart(table, 1, 1), 0);
+    }
+    EXPECT_EQ(this->All(), "ab");
+    EXPECT_TRUE(this->control.Whole().tables.empty());
+    EXPECT_FALSE(this->control.DataChanged());
+}
+
 TYPED_TEST_P(TextEditingContract, CellsHaveAttributes) {
     const int table = this->control.InsertTable(1, 2);
     for (const auto& [attribute, value] : {std::pair{0, 30}, {1, 900}, {2, 15}, {4, 255}, {9, 5}, {11, 6}})
@@ -624,9 +640,10 @@ REGISTER_TYPED_TEST_SUITE_P(
     FormatsOfParagraphsApplyToAllThatAreTouched, LinesAreApartByAPercentageOrExactly,
     FourteenTabsAreSetAndCleared, FramesKeepTheirBits, ThePageHasItsSizes,
     FormattedTextGoesFromOneSelectionToAnother, AnEmptySelectionHasNoFormattedText, AWholeDocumentComesBack,
-    ATableIsFilledByItsCells, ATableIsRefusedWithinATable, CellsHaveAttributes,
-    ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater, AFieldWithoutTextGoesWhenTheCursorMoves,
-    FieldsFollowEachOtherInTheText, TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
+    ATableIsFilledByItsCells, ATableIsRefusedWithinATable, ATableWithoutRowsOrColumnsIsTakenAndIsNothing,
+    CellsHaveAttributes, ATableIsSelectedFromItsFirstCell, AFieldGetsItsTextLater,
+    AFieldWithoutTextGoesWhenTheCursorMoves, FieldsFollowEachOtherInTheText,
+    TheCursorIsInAFieldFromItsStartToItsEnd, TextBelongsToAFieldOnlyWithinIt,
     AFieldComesBackWhenItsDeletionIsUndone, ACopyOfAFieldIsAnotherField, AFieldMayHaveSeveralLines,
     AStepCanJoinTheOneBeforeIt, UndoingLeavesTheCursorAtTheChange, ACellTellsItsFormat,
     ParagraphsBecomeALevelOfAList, AListIsFoundBeforeTheCursor);

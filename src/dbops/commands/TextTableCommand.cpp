@@ -37,17 +37,20 @@ std::vector<Text> TitlesOf(const TableModel& table) {
     return titles;
 }
 
-/// The rows as formatted text; nothing without any row.
+/// The rows as formatted text; nothing if they are more than a text can hold.
 std::optional<std::string> MakeRtf(const TabContext& tab) {
     const Hourglass hourglass(tab.app.Screen());
     const Grid& grid = tab.table.GridStore();
     const auto takes = [&](Row row) { return IsInChosenRange(tab.app, grid, row); };
-    const doc::Document table = MakeTextTable(grid, TitlesOf(tab.table), takes, LookOf(tab.app.Settings));
-    if (table.tables.empty()) return std::nullopt;
-    return doc::WriteRtf(table, doc::RtfExtent::Fragment);
+    const doc::Limits limits;
+    const auto table = MakeTextTable(grid, TitlesOf(tab.table), takes, LookOf(tab.app.Settings), limits);
+    if (!table) return std::nullopt;
+    std::string rtf = doc::WriteRtf(*table, doc::RtfExtent::Fragment);
+    return rtf.size() <= limits.bytes ? std::optional(std::move(rtf)) : std::nullopt;
 }
 
-/// There is no table without rows. Kept for compatibility: refused-text-table-closes.
+/// The message is that of any table that a text doesn't take. Kept for compatibility:
+/// refused-text-table-closes.
 void Refuse(const TabContext& tab) {
     Warn(tab.app, u"The text cursor is currently inside a table.\r\nMove it outside and try again.");
     tab.app.Screen().SetPointer(Pointer::Default);

@@ -17,7 +17,8 @@ constexpr int kWidthOfNone = 1800;
 
 class TextTable {
 public:
-    TextTable(const Grid& grid, const TextTableLook& look) : grid_(grid), look_(look) {
+    TextTable(const Grid& grid, const TextTableLook& look, const doc::Limits& limits)
+        : grid_(grid), look_(look), builder_(limits) {
         text_.halfPoints = kFontSize * kHalfPoints;
     }
 
@@ -33,7 +34,9 @@ public:
         builder_.EndRow(std::move(cells));
     }
 
-    doc::Document Finish() { return builder_.Finish({}); }
+    std::optional<doc::Document> Finish() {
+        return builder_.Full() ? std::nullopt : std::optional(builder_.Finish({}));
+    }
 
 private:
     bool First() const { return row_ == 1 && look_.firstRowColoured; }
@@ -77,7 +80,7 @@ private:
 
     const Grid& grid_;
     const TextTableLook& look_;
-    doc::Builder builder_{doc::Limits{}};
+    doc::Builder builder_;
     doc::CharFormat text_{};
     int row_ = 0;
 };
@@ -91,9 +94,10 @@ TextView WithoutLineEnd(TextView text) {
 
 } // namespace
 
-doc::Document MakeTextTable(const Grid& grid, const std::vector<Text>& titles,
-                            const std::function<bool(Row)>& takes, const TextTableLook& look) {
-    TextTable table(grid, look);
+std::optional<doc::Document> MakeTextTable(const Grid& grid, const std::vector<Text>& titles,
+                                           const std::function<bool(Row)>& takes, const TextTableLook& look,
+                                           const doc::Limits& limits) {
+    TextTable table(grid, look, limits);
     if (look.titles) {
         table.AddRow([&titles](Col col) {
             const auto place = static_cast<std::size_t>(col.Number()) - 1;

@@ -39,7 +39,8 @@ CellPlace TextEditing::PlaceOf(int table, int row, int column) {
 }
 
 int TextEditing::InsertTable(int rows, int columns) {
-    if (rows < 1 || columns < 1) return 0;
+    if (TableAtInputPos() != 0) return 0;
+    if (rows < 1 || columns < 1) return kTableOfNone;
     const std::optional<Index> table =
         store_->InsertTable(start_, static_cast<std::size_t>(rows), static_cast<std::size_t>(columns));
     if (!table) return 0;

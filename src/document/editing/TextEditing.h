@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -145,6 +146,8 @@ public:
     void SetPageSize(Page::Size size, int twips);
 
     // Tables. Rows and columns count from 1.
+    /// The number of a table without rows or columns, of which the text has nothing.
+    static constexpr int kTableOfNone = std::numeric_limits<int>::min() + 1;
     /// The negative number of the new table, or 0 if it can't be there.
     int InsertTable(int rows, int columns);
     /// The number of the table at the cursor; 0 outside of tables.

@@ -88,10 +88,21 @@ TEST_F(TextTableCommand, PressesDownBeforeItAsksForTheLook) {
     mnuEdit_MakeTable_Clack(t.tab);
 }
 
-// Kept for compatibility: refused-text-table-closes.
-TEST_F(TextTableCommand, WithoutRowsItTellsOfATableAndClosesTheTab) {
+TEST_F(TextTableCommand, WithoutRowsTheTextWindowGetsNothingAndTheTabStays) {
     FakeMainWindow main(t.app);
     Choose(true);
+    t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
+    mnuEdit_MakeTable_Clack(t.tab);
+    EXPECT_EQ(Inserted(), u"");
+    EXPECT_TRUE(main.commands.empty());
+    EXPECT_EQ(t.watcher.focusWanted, 1);
+}
+
+// Kept for compatibility: refused-text-table-closes.
+TEST_F(TextTableCommand, ATableTooLargeForATextIsRefusedAndTheTabCloses) {
+    t.grid.SetCellValue(Row{2}, Col{1}, Text(doc::Limits{}.characters, u'x'));
+    FakeMainWindow main(t.app);
+    Choose(false);
     t.user.On<frmFormatTable>([](frmFormatTable& f) { f.cmdProceed.Press(); });
     t.user.Answer({u"The text cursor is currently inside a table.\r\nMove it outside and try again.",
                    MessageIcon::Exclamation, MessageButtons::Ok},

@@ -17,8 +17,16 @@ protected:
         t.grid.SetColWidth(Col{1}, 100);
         t.grid.SetColWidth(Col{2}, 0);
     }
-    doc::Document Make(const std::function<bool(Row)>& takes = [](Row) { return true; }) {
-        return MakeTextTable(t.grid, {u"Name", u"Town"}, takes, look);
+    doc::Document Make(
+        const std::function<bool(Row)>& takes = [](Row) { return true; },
+        const std::vector<Text>& titles = {u"Name", u"Town"}) {
+        return MakeTextTable(t.grid, titles, takes, look, {}).value_or(doc::Document{});
+    }
+    /// Whether all rows fit into these limits.
+    bool Fits(const doc::Limits& limits) {
+        return MakeTextTable(
+                   t.grid, {}, [](Row) { return true; }, look, limits)
+            .has_value();
     }
     /// The rows with a bar between cells.
     static std::string Cells(const doc::Document& document) {
@@ -59,9 +67,15 @@ TEST_F(TextTableTest, HasTheTakenRows) {
 TEST_F(TextTableTest, TitlesComeFirstAndTakeTheFirstRowWithThem) {
     look.titles = true;
     EXPECT_EQ(Cells(Make([](Row row) { return row == Row{3}; })), "Name|Town/a1|b1/a3|b3");
-    EXPECT_EQ(Cells(MakeTextTable(
-                  t.grid, {}, [](Row) { return true; }, look)),
-              "|/a1|b1/a2|b2/a3|b3");
+    EXPECT_EQ(Cells(Make([](Row) { return true; }, {})), "|/a1|b1/a2|b2/a3|b3");
+}
+
+TEST_F(TextTableTest, AWholeTableFitsOrNoneOfIt) {
+    EXPECT_TRUE(Fits({.cells = 6}));
+    EXPECT_FALSE(Fits({.cells = 5}));
+    const std::size_t kLength = 6 * (2 + kCrLf.size());
+    EXPECT_TRUE(Fits({.characters = kLength}));
+    EXPECT_FALSE(Fits({.characters = kLength - 1}));
 }
 
 TEST_F(TextTableTest, WithoutRowsThereIsNoTable) {
