@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QSignalSpy>
+#include <QTest>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWebEngineView>
@@ -46,6 +47,7 @@ public:
             .toString(QUrl::FullyEncoded)
             .toStdU16String();
     }
+    QWidget& Window() { return window_; }
     QWebEngineView& Page() { return *window_.findChildren<QWebEngineView*>().last(); }
     /// What a script of the page gives.
     QVariant Run(const QString& script) {
@@ -177,6 +179,52 @@ TEST_F(WebEnginePagesTest, ThePageFillsItsPlaceAndTakesTheKeyboard) {
     EXPECT_EQ(stage.Page().parentWidget()->focusProxy(), &stage.Page());
     EXPECT_GT(stage.Page().width(), 300);
     EXPECT_EQ(stage.Page().accessibleName(), "Page");
+}
+
+/// Counts how often a window gets the key with which its user leaves it.
+class EscapeEar final : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        if (static_cast<const QKeyEvent&>(*event).key() != Qt::Key_Escape) return false;
+        ++heard;
+        act();
+        return true;
+    }
+
+    int heard = 0;
+    std::function<void()> act = [] {};
+};
+
+class WebEngineEscapeTest : public WebEnginePagesTest {
+protected:
+    void SetUp() override {
+        stage.Window().installEventFilter(&ear);
+        // A page that keeps the key for itself, as menus and boxes of pages do.
+        GoToScript("addEventListener('keydown', key => key.preventDefault())");
+        stage.Window().activateWindow();
+        stage.Page().setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&stage.Window()));
+    }
+    void Press() { QTest::keyClick(stage.Window().windowHandle(), Qt::Key_Escape); }
+
+    EscapeEar ear;
+};
+
+TEST_F(WebEngineEscapeTest, TheKeyLeavesThePageEachTimeOnce) {
+    Press();
+    EXPECT_EQ(ear.heard, 1);
+    Press();
+    EXPECT_EQ(ear.heard, 2);
+}
+
+TEST_F(WebEngineEscapeTest, TheEngineMayGoWithTheKey) {
+    ear.act = [this] { stage.Renew(); };
+    Press();
+    EXPECT_EQ(ear.heard, 1);
+    server.Put("/next", "<p>Next</p>");
+    GoTo(server.Address("/next"));
+    EXPECT_TRUE(Shows(u"Next"));
 }
 
 } // namespace

@@ -117,9 +117,12 @@ void QtWebEngine::TakeSeat() {
     // A page would keep the key with which the user leaves the window.
     auto* leave = new QShortcut(Qt::Key_Escape, view_);
     leave->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(leave, &QShortcut::activated, place, [place] {
+    connect(leave, &QShortcut::activated, place, [leave = QPointer<QShortcut>(leave), place] {
         QKeyEvent key(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        // Qt looks for a shortcut before it gives a key to a widget, and would find this one again.
+        leave->setEnabled(false);
         QCoreApplication::sendEvent(place, &key);
+        if (leave != nullptr) leave->setEnabled(true);
     });
 }
 
