@@ -3,8 +3,10 @@
 #include "SourceTree.h"
 
 #include <fcntl.h>
+#include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <sstream>
@@ -52,7 +54,7 @@ Desk::Desk()
     fs::permissions(folder_ / "run", fs::perms::owner_all);
     // The program keeps its state in its own folder, so each desk gets its own copy.
     fs::copy_file(KORVANE_PROGRAM, folder_ / "korvane");
-    fs::create_symlink(KORVANE_NET, folder_ / fs::path(KORVANE_NET).filename());
+    fs::copy_file(KORVANE_NET, folder_ / fs::path(KORVANE_NET).filename());
     for (const auto* const name : {"Korvane.ini", "Korvane_Help.rtf"})
         fs::copy_file(fs::path(KORVANE_SOURCE_DIR "/packaging") / name, folder_ / name);
     StartDisplay();
@@ -81,6 +83,18 @@ bool Desk::ProvideBus() {
     return !address.empty();
 }
 
+bool Desk::GiveRightsAway() {
+    if (geteuid() != 0) return true;
+    const passwd* nobody = getpwnam("nobody");
+    if (nobody == nullptr) return false;
+    const auto give = [nobody](const fs::path& path) {
+        return lchown(path.c_str(), nobody->pw_uid, nobody->pw_gid) == 0;
+    };
+    const fs::recursive_directory_iterator entries(folder_.Path());
+    starter_ = {"setpriv", "--reuid", "nobody", "--regid", std::to_string(nobody->pw_gid), "--clear-groups"};
+    return give(folder_.Path()) && std::all_of(begin(entries), end(entries), give);
+}
+
 bool Desk::Until(const std::function<bool()>& holds) {
     return e2e::Until(holds, {display_.get(), &files_});
 }
@@ -97,7 +111,8 @@ bool Desk::Holds(const fs::path& file, const std::string& bytes) {
 
 std::unique_ptr<Process> Desk::Start(const std::vector<std::string>& arguments,
                                      const fs::path& folder) const {
-    std::vector<std::string> command{(folder_ / "korvane").string()};
+    std::vector<std::string> command = starter_;
+    command.push_back((folder_ / "korvane").string());
     command.insert(command.end(), arguments.begin(), arguments.end());
     return std::make_unique<Process>(command, environment_, -1, folder.string());
 }

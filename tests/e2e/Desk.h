@@ -22,6 +22,9 @@ public:
     bool Stands() const { return display_ && display_->Works(); }
     /// Provides the bus on which programs talk to screen readers. Returns false where it isn't installed.
     bool ProvideBus();
+    /// Lets the program run as the user that owns nothing when the tests run as the administrator. Returns
+    /// false where there is no such user.
+    bool GiveRightsAway();
     const Process::Environment& Environment() const { return environment_; }
     std::filesystem::path Path(const std::string& name) const { return folder_ / name; }
 
@@ -64,6 +67,8 @@ private:
 
     TempDir folder_;
     Process::Environment environment_;
+    /// What starts the program as another user, or nothing.
+    std::vector<std::string> starter_;
     FolderEvents files_{folder_.Path()};
     std::unique_ptr<Process> server_;
     std::unique_ptr<Process> bus_;

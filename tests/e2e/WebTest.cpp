@@ -5,6 +5,8 @@
 
 #include <unistd.h>
 
+#include <csignal>
+
 namespace korvane::e2e {
 namespace {
 
@@ -127,31 +129,84 @@ constexpr bool kSanitized = __has_feature(address_sanitizer);
 constexpr bool kSanitized = false;
 #endif
 
-TEST_F(WebTest, PagesRunTheirScriptsExceptForTheAdministrator) {
-    if (kSanitized && geteuid() != 0)
-        GTEST_SKIP()
-            << "the sanitizer takes widgets of Qt WebEngine, which have no type information, for lost";
-    fs::create_symlink(KORVANE_WEB, desk.Path(fs::path(KORVANE_WEB).filename().string()));
+class ScriptTest : public WebTest {
+protected:
+    void SetUp() override {
+        ASSERT_NO_FATAL_FAILURE(WebTest::SetUp());
+        fs::copy_file(KORVANE_WEB, desk.Path(fs::path(KORVANE_WEB).filename().string()));
+        fs::create_directories(pages);
+        server.Put("/page.htm", "text/html", "<script>location = 'next.htm'</script>");
+        server.Put("/next.htm", "text/html", "<p>The last page</p>");
+        WriteBytes(pages / "start.htm", "<script>location = '" + server.Address("/page.htm") + "'</script>");
+    }
+    void GoToLister() {
+        ASSERT_NO_FATAL_FAILURE(Start(pages));
+        desk.Press({"ctrl+F5"});
+        ASSERT_NE(desk.GoTo(kLister), "");
+    }
+    void OpenPage() {
+        desk.Press({"space"});
+        ASSERT_NE(desk.GoTo(kBrowser), "");
+    }
+    void LeavePage() {
+        desk.Press({"Escape"});
+        ASSERT_TRUE(desk.Gone(kBrowser));
+        ASSERT_NE(desk.GoTo(kLister), "");
+    }
+    void LeaveLister() {
+        desk.Press({"Escape"});
+        ASSERT_TRUE(desk.Gone(kLister));
+        ASSERT_NO_FATAL_FAILURE(End());
+    }
+    /// The requests of a page that comes so many times.
+    bool Asks(int times) {
+        std::vector<std::string> paths;
+        for (int i = 0; i < times; ++i)
+            paths.insert(paths.end(), {"/page.htm", "/next.htm"});
+        return Until([&] { return server.Paths() == paths; }, {&server, &desk.Screen()});
+    }
+
     LoopbackServer server;
-    server.Put("/page.htm", "text/html", "<script>location = 'next.htm'</script>");
-    const fs::path pages = desk.Path("pages");
-    fs::create_directories(pages);
-    WriteBytes(pages / "start.htm", "<script>location = '" + server.Address("/page.htm") + "'</script>");
-    ASSERT_NO_FATAL_FAILURE(Start(pages));
-    desk.Press({"ctrl+F5"});
-    ASSERT_NE(desk.GoTo(kLister), "");
-    desk.Press({"space"});
-    ASSERT_NE(desk.GoTo(kBrowser), "");
-    const std::vector<std::string> both{"/page.htm", "/next.htm"};
-    const bool administrator = geteuid() == 0;
-    EXPECT_TRUE(administrator || Until([&] { return server.Paths() == both; }, {&server}));
-    desk.Press({"Escape"});
-    ASSERT_TRUE(desk.Gone(kBrowser));
-    EXPECT_EQ(server.Paths().empty(), administrator);
-    ASSERT_NE(desk.GoTo(kLister), "");
-    desk.Press({"Escape"});
-    ASSERT_TRUE(desk.Gone(kLister));
-    ASSERT_NO_FATAL_FAILURE(End());
+    fs::path pages = desk.Path("pages");
+};
+
+TEST_F(ScriptTest, TheAdministratorGetsPagesWithoutScripts) {
+    if (geteuid() != 0) GTEST_SKIP() << "only the administrator sees this";
+    ASSERT_NO_FATAL_FAILURE(GoToLister());
+    ASSERT_NO_FATAL_FAILURE(OpenPage());
+    ASSERT_NO_FATAL_FAILURE(LeavePage());
+    server.Drain();
+    EXPECT_TRUE(server.Paths().empty());
+    ASSERT_NO_FATAL_FAILURE(LeaveLister());
+}
+
+class UserScriptTest : public ScriptTest {
+protected:
+    void SetUp() override {
+        if (kSanitized)
+            GTEST_SKIP()
+                << "the sanitizer takes widgets of Qt WebEngine, which have no type information, for lost";
+        ASSERT_NO_FATAL_FAILURE(ScriptTest::SetUp());
+        ASSERT_TRUE(desk.GiveRightsAway()) << "there is no user without rights";
+    }
+};
+
+TEST_F(UserScriptTest, PagesRunTheirScriptsEachTimeThatTheyAreOpened) {
+    ASSERT_NO_FATAL_FAILURE(GoToLister());
+    for (int times = 1; times <= 2; ++times) {
+        ASSERT_NO_FATAL_FAILURE(OpenPage());
+        EXPECT_TRUE(Asks(times));
+        ASSERT_NO_FATAL_FAILURE(LeavePage());
+    }
+    ASSERT_NO_FATAL_FAILURE(LeaveLister());
+}
+
+TEST_F(UserScriptTest, TheProgramEndsInOrderWhileAPageIsShown) {
+    ASSERT_NO_FATAL_FAILURE(GoToLister());
+    ASSERT_NO_FATAL_FAILURE(OpenPage());
+    EXPECT_TRUE(Asks(1));
+    program->Signal(SIGTERM);
+    EXPECT_EQ(program->ExitStatus(), 0);
 }
 #endif
 
