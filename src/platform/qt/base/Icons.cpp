@@ -1,13 +1,12 @@
 #include "platform/qt/base/Icons.h"
 
+#include "platform/qt/base/DrawSvg.h"
 #include "platform/qt/base/Palettes.h"
 
 #include <QAction>
-#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QIconEngine>
-#include <QImageReader>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmapCache>
@@ -42,11 +41,7 @@ Tints PaletteTints(QIcon::Mode mode) {
 }
 
 QPixmap Draw(QByteArray svg, const QSize& size, const Tints& tints) {
-    svg.replace(kStroke, tints.stroke).replace(kAccent, tints.accent);
-    QBuffer buffer(&svg);
-    QImageReader reader(&buffer, "svg");
-    reader.setScaledSize(size);
-    return QPixmap::fromImageReader(&reader);
+    return DrawSvg(svg.replace(kStroke, tints.stroke).replace(kAccent, tints.accent), size);
 }
 
 class TintedEngine : public QIconEngine {
