@@ -1,0 +1,33 @@
+#include "platform/qt/base/DesktopPrefersDark.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+
+namespace korvane {
+
+namespace {
+
+/// The value with which the desktop answers "prefer dark".
+constexpr uint kPrefersDark = 1;
+
+} // namespace
+
+bool DesktopPrefersDark() {
+    constexpr int kPatience = 250;
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) return false;
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
+    question << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
+    const QDBusMessage reply = bus.call(question, QDBus::Block, kPatience);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return false;
+    // The value is wrapped in two variants.
+    QVariant value = reply.arguments().constFirst();
+    while (value.canConvert<QDBusVariant>())
+        value = value.value<QDBusVariant>().variant();
+    return value.toUInt() == kPrefersDark;
+}
+
+} // namespace korvane
