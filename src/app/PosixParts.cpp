@@ -1,7 +1,10 @@
 #include "app/SystemParts.h"
+#include "platform/native/ChildProcess.h"
 #include "platform/native/EndSignals.h"
+#include "platform/native/NativeDocumentConverter.h"
 #include "platform/qt/desktop/QtShell.h"
 #include "platform/qt/instance/LocalSocketChannel.h"
+#include "platform/qt/services/QtPatience.h"
 #include "platform/qt/services/QtSystemFolders.h"
 
 #include <QSocketNotifier>
@@ -20,6 +23,7 @@ public:
     }
     Shell& Desktop() override { return shell_; }
     const SystemFolders& Folders() const override { return folders_; }
+    DocumentConverter* Converter() override { return &converter_; }
     void WatchEnd(const std::function<void()>& end) override {
         signals_.emplace();
         if (signals_->File() < 0) return;
@@ -36,6 +40,7 @@ private:
     std::optional<LocalSocketChannel> channel_;
     QtShell shell_;
     QtSystemFolders folders_;
+    NativeDocumentConverter converter_{FindProgram, BeginPatience};
 };
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "app/Program.h"
 
 #include "app/OwnFiles.h"
-#include "app/SystemParts.h"
 #include "context/exchange/StartState.h"
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FavouriteFolders.h"

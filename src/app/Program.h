@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SystemParts.h"
 #include "context/App.h"
 #include "context/ports/SecretHolder.h"
 #include "extras/web/Pages.h"
@@ -7,9 +8,7 @@
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
 #include "kept/KeptTables.h"
-#include "platform/native/ChildProcess.h"
 #include "platform/native/NativeClock.h"
-#include "platform/native/NativeDocumentConverter.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/net/LoadedNetwork.h"
@@ -20,7 +19,6 @@
 #include "platform/qt/services/QtFileTypes.h"
 #include "platform/qt/services/QtFonts.h"
 #include "platform/qt/services/QtFrontWindow.h"
-#include "platform/qt/services/QtPatience.h"
 #include "platform/qt/services/QtPickers.h"
 #include "platform/qt/services/QtScreen.h"
 #include "platform/qt/services/QtSystemFileDialog.h"
@@ -39,7 +37,6 @@
 
 namespace korvane {
 
-class SystemParts;
 class frmMDIParent;
 
 /// The whole program, made of its real parts.
@@ -87,8 +84,7 @@ private:
     ClipboardWindow clipboardWindow_{app_};
     Lister lister_{app_};
     FileHandling fileHandling_{app_};
-    NativeDocumentConverter converter_{FindProgram, BeginPatience};
-    DocumentFiles documents_{files_, app_.Page(), &converter_};
+    DocumentFiles documents_{files_, app_.Page(), system_.Converter()};
     TextControlWindows textControlWindows_{app_};
     TextWindows textWindows_{app_};
     InsertWindows insertWindows_{app_};

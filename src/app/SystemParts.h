@@ -6,6 +6,7 @@
 
 namespace korvane {
 
+class DocumentConverter;
 class InstanceChannel;
 class Shell;
 class SystemFolders;
@@ -19,6 +20,8 @@ public:
     virtual InstanceChannel& Channel() = 0;
     virtual Shell& Desktop() = 0;
     virtual const SystemFolders& Folders() const = 0;
+    /// What has documents converted by other programs; nullptr if none can be run.
+    virtual DocumentConverter* Converter() { return nullptr; }
     /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
     /// Calls `end` when the system asks this program alone to end.

@@ -1,7 +1,8 @@
 #include "platform/qt/net/LoadedNetwork.h"
 
+#include "platform/qt/net/NetworkPart.h"
+
 #include <QCoreApplication>
-#include <QLibrary>
 #include <QTimer>
 #include <utility>
 
@@ -27,12 +28,9 @@ private:
 LoadedNetwork::LoadedNetwork(QString library) : library_(std::move(library)) {}
 
 void LoadedNetwork::Load() {
-    using Make = Network* (*)();
     if (std::exchange(tried_, true)) return;
     const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/korvane_net");
-    // The library stays loaded to the end, because what it made lives as long.
-    QLibrary library(library_.isEmpty() ? beside : library_);
-    if (const auto make = reinterpret_cast<Make>(library.resolve("MakeKorvaneNetwork")))
+    if (const MakeNetwork make = FindNetworkPart(library_.isEmpty() ? beside : library_))
         network_.reset(make());
 }
 
