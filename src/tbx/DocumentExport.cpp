@@ -1,11 +1,8 @@
+#include "document/docx/Docx.h"
 #include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
 #include "table/TableModel.h"
 #include "tbx/LoadedTable.h"
-
-#ifndef _WIN32
-#include "document/docx/Docx.h"
-#endif
 
 #include <limits>
 
@@ -46,10 +43,8 @@ ExitStatus RunHtml(const Call& call, Environment& environment) {
     return Export(call, environment, [](const doc::Document& document) { return doc::WriteHtml(document); });
 }
 
-#ifndef _WIN32
 ExitStatus RunDocx(const Call& call, Environment& environment) {
     return Export(call, environment, [](const doc::Document& document) { return doc::WriteDocx(document); });
 }
-#endif
 
 } // namespace korvane

@@ -38,10 +38,7 @@ constexpr std::array kVerbs{
          RunJson},
     Verb{"rtf", "FILE", "ptbfalwg", "Write the table as an RTF document", kDocumentDetails, RunRtf},
     Verb{"html", "FILE", "ptbfalwg", "Write the table as an HTML document", kDocumentDetails, RunHtml},
-#ifndef _WIN32
-    // There is no library for archives on Windows.
     Verb{"docx", "FILE", "ptbfalwg", "Write the table as a DOCX document", kDocumentDetails, RunDocx},
-#endif
     Verb{"import", "FILE.csv OUT", "dp", "Make a new table of a CSV file",
          "The first record names the columns. The file is UTF-8, or else in the code page.\n"
          "Records end in CR LF, LF or CR. Line breaks in quoted fields become CR LF, in\n"

@@ -50,9 +50,7 @@ ExitStatus RunTsv(const Call& call, Environment& environment);
 ExitStatus RunJson(const Call& call, Environment& environment);
 ExitStatus RunRtf(const Call& call, Environment& environment);
 ExitStatus RunHtml(const Call& call, Environment& environment);
-#ifndef _WIN32
 ExitStatus RunDocx(const Call& call, Environment& environment);
-#endif
 ExitStatus RunImport(const Call& call, Environment& environment);
 ExitStatus RunFind(const Call& call, Environment& environment);
 ExitStatus RunInfo(const Call& call, Environment& environment);

@@ -1,17 +1,14 @@
 #include "text/files/DocumentFiles.h"
 
+#include "document/docx/Docx.h"
 #include "document/html/Html.h"
 #include "document/model/Reading.h"
+#include "document/pdf/Pdf.h"
 #include "document/plain/Plain.h"
 #include "document/rtf/Rtf.h"
+#include "document/xlsx/Xlsx.h"
 #include "platform/DocumentConverter.h"
 #include "platform/FileSystem.h"
-
-#ifndef _WIN32
-#include "document/docx/Docx.h"
-#include "document/pdf/Pdf.h"
-#include "document/xlsx/Xlsx.h"
-#endif
 
 #include <algorithm>
 #include <utility>
@@ -41,7 +38,6 @@ doc::ReadResult FromHtml(std::string_view bytes, const CodePage&) {
 std::string ToHtml(const doc::Document& document, const CodePage&) {
     return doc::WriteHtml(document);
 }
-#ifndef _WIN32
 doc::ReadResult FromDocx(std::string_view bytes, const CodePage&) {
     return doc::ReadDocx(bytes);
 }
@@ -54,7 +50,6 @@ doc::ReadResult FromPdfXml(std::string_view bytes, const CodePage&) {
 doc::ReadResult FromXlsx(std::string_view bytes, const CodePage&) {
     return doc::ReadXlsx(bytes);
 }
-#endif
 
 /// How a format is read and written. Where it needs a conversion, the reader gets its outcome, and the
 /// writer's text is converted.
@@ -73,12 +68,9 @@ constexpr Format kFormats[] = {
     {TextFormat::Doc, FromRtf, ToRtf, Conversion::DocToRtf, Conversion::RtfToDoc},
     {TextFormat::Xml, FromPlain, ToPlain},
     {TextFormat::Css, FromPlain, ToPlain},
-#ifndef _WIN32
-    // There are no libraries for archives and XML on Windows.
     {TextFormat::Pdf, FromPdfXml, nullptr, Conversion::PdfToXml},
     {TextFormat::Docx, FromDocx, ToDocx},
     {TextFormat::Xlsx, FromXlsx, nullptr},
-#endif
 };
 
 const Format* FormatOf(int number) {

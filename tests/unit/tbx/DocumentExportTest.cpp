@@ -1,12 +1,9 @@
+#include "document/docx/Docx.h"
 #include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
 #include "unit/tbx/TbxHarness.h"
 
 #include <gtest/gtest.h>
-
-#ifndef _WIN32
-#include "document/docx/Docx.h"
-#endif
 
 namespace korvane {
 namespace {
@@ -45,12 +42,10 @@ TEST_F(DocumentExport, EachFormatHasTheRowsAsATable) {
     EXPECT_EQ(doc::ReadHtml(run.out).document.tables.size(), 1U);
 }
 
-#ifndef _WIN32
 TEST_F(DocumentExport, DocxHasTheRowsAsATable) {
     ASSERT_EQ(run.Run({"docx", "/data/people.tbx"}), ExitStatus::Success);
     EXPECT_EQ(doc::ReadDocx(run.out).document.tables.size(), 1U);
 }
-#endif
 
 TEST_F(DocumentExport, WithoutOptionsTheTableIsPlain) {
     const doc::Document document = Rtf({});
