@@ -12,7 +12,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("korvane"));
     // No display name is set, because Qt would add it to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
-    setWindowIcon(QIcon(QStringLiteral(":/korvane.svg")));
+    setWindowIcon(QIcon(QStringLiteral(KORVANE_ICON)));
     setStyle(new CalmStyle);
     setQuitOnLastWindowClosed(false);
 }

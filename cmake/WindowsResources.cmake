@@ -1,0 +1,21 @@
+# windows_resources(<program> TITLE <name> DESCRIPTION <what it is>)
+#
+# Gives a program for Windows its icon, its version and its manifest. On other systems it does nothing.
+function(windows_resources program)
+    if(NOT WIN32)
+        return()
+    endif()
+    cmake_parse_arguments(PROGRAM "" "TITLE;DESCRIPTION" "" ${ARGN})
+    get_target_property(name ${program} OUTPUT_NAME)
+    if(NOT name)
+        set(name ${program})
+    endif()
+    set(PROGRAM_FILE ${name}.exe)
+    set(PROGRAM_MANIFEST ${CMAKE_CURRENT_BINARY_DIR}/${name}.manifest)
+    set(from ${PROJECT_SOURCE_DIR}/packaging/windows)
+    configure_file(${from}/program.manifest.in ${PROGRAM_MANIFEST} @ONLY)
+    configure_file(${from}/program.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc @ONLY)
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}.rc PROPERTIES
+        OBJECT_DEPENDS "${PROGRAM_MANIFEST};${PROJECT_SOURCE_DIR}/packaging/korvane.ico")
+    target_sources(${program} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
+endfunction()
