@@ -11,10 +11,6 @@ constexpr std::size_t kLongest = 2048;
 
 } // namespace
 
-int PlaceOrder::Size() const {
-    return blocks_.empty() ? 0 : starts_.back() + static_cast<int>(blocks_.back().size());
-}
-
 bool PlaceOrder::Holds(std::size_t block, int at) const {
     if (block >= blocks_.size() || at < starts_[block]) return false;
     return static_cast<std::size_t>(at - starts_[block]) < blocks_[block].size();
@@ -37,6 +33,7 @@ void PlaceOrder::Insert(int at, std::uint32_t place) {
     const std::size_t block = BlockOf(at);
     Block& places = blocks_[block];
     places.insert(places.begin() + (at - starts_[block]), place);
+    ++size_;
     SplitLongBlock(block);
     CountFrom(block);
 }
@@ -47,6 +44,7 @@ std::uint32_t PlaceOrder::Take(int at) {
     const auto taken = places.begin() + (at - starts_[block]);
     const std::uint32_t place = *taken;
     places.erase(taken);
+    --size_;
     if (places.empty()) {
         blocks_.erase(blocks_.begin() + static_cast<std::ptrdiff_t>(block));
         starts_.pop_back();
@@ -58,6 +56,7 @@ std::uint32_t PlaceOrder::Take(int at) {
 void PlaceOrder::Assign(const std::vector<std::uint32_t>& places) {
     blocks_.clear();
     starts_.clear();
+    size_ = static_cast<int>(places.size());
     for (std::size_t first = 0; first < places.size(); first += kLongest / 2) {
         const std::size_t last = std::min(first + kLongest / 2, places.size());
         blocks_.emplace_back(places.begin() + static_cast<std::ptrdiff_t>(first),

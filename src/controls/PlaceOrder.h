@@ -10,7 +10,7 @@ namespace korvane {
 /// goes moves only the others of its block. Places count from 0.
 class PlaceOrder {
 public:
-    int Size() const;
+    int Size() const { return size_; }
     std::uint32_t operator[](int at) const;
     /// `at` may be one past the last.
     void Insert(int at, std::uint32_t place);
@@ -31,6 +31,7 @@ private:
     std::vector<Block> blocks_;
     /// Where each block begins.
     std::vector<int> starts_;
+    int size_ = 0;
     /// The block that was asked for last. Most often the next question is about the same.
     mutable std::size_t recent_ = 0;
 };

@@ -44,7 +44,7 @@ void ListViewAdaptor::Write(Aspect aspect) {
 
 void ListViewAdaptor::WriteShape() {
     const auto guard = Writing();
-    model_.ReadColumns();
+    model_.ReadShape();
     const auto& columns = list_.Columns.Get();
     const bool sized =
         std::ranges::any_of(columns, [](const auto& column) { return column.width > Twips{}; });

@@ -24,7 +24,11 @@ QVariant ToAlignment(ColumnAlign align) {
 
 ListViewModel::ListViewModel(ListView& list, QObject* parent) : RowsModel(parent), list_(list) {}
 
-void ListViewModel::ReadColumns() {
+void ListViewModel::ReadShape() {
+    rowFlags_ = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    rowFlags_.setFlag(Qt::ItemIsUserCheckable, list_.CheckBoxes);
+    rowFlags_.setFlag(Qt::ItemIsDragEnabled, list_.FilesToDrag != nullptr);
+    editColumn_ = list_.EditColumn - 1;
     const auto columns = static_cast<int>(list_.Columns.Get().size());
     if (columns != columns_) {
         beginResetModel();
@@ -71,12 +75,8 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
 }
 
 Qt::ItemFlags ListViewModel::flags(const QModelIndex& index) const {
-    if (!Holds(index)) return Qt::NoItemFlags;
-    Qt::ItemFlags row = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    row.setFlag(Qt::ItemIsUserCheckable, list_.CheckBoxes);
-    row.setFlag(Qt::ItemIsDragEnabled, list_.FilesToDrag != nullptr);
-    row.setFlag(Qt::ItemIsEditable, index.column() + 1 == list_.EditColumn);
-    return row;
+    if (!Attached() || !index.isValid()) return Qt::NoItemFlags;
+    return index.column() == editColumn_ ? rowFlags_ | Qt::ItemIsEditable : rowFlags_;
 }
 
 bool ListViewModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -11,12 +11,13 @@ public:
     /// The list outlives the model, or `Forget` is called before it goes.
     ListViewModel(ListView& list, QObject* parent);
 
-    /// Reads again which columns there are.
-    void ReadColumns();
+    /// Reads again which columns there are, and what the user can do with the rows.
+    void ReadShape();
 
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// A view calls it for each row when it lays its rows out, so it does as little as it can.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// Takes a check mark that the user set or took away.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
@@ -38,6 +39,8 @@ private:
 
     ListView& list_;
     int columns_ = 0;
+    Qt::ItemFlags rowFlags_;
+    int editColumn_ = -1;
     mutable RowIcons icons_;
 };
 
