@@ -6,6 +6,12 @@
 
 namespace korvane {
 
+namespace {
+
+constexpr int kAttempts = 2;
+
+} // namespace
+
 void WriteStateFile(App& app, TextView path, std::string_view bytes) {
     FileSystem& files = app.Files();
     const bool written = files.IsTrusted(path) && files.WriteWhole(path, bytes, Readers::OwnerAlone);
@@ -14,11 +20,11 @@ void WriteStateFile(App& app, TextView path, std::string_view bytes) {
 
 void WriteSecretFile(App& app, TextView path, std::string_view bytes, std::string_view withoutSecret) {
     FileSystem& files = app.Files();
-    const auto write = [&] {
-        return files.IsTrusted(path) && files.WriteWhole(path, bytes, Readers::OwnerAloneOrNone);
-    };
     // A failure that passes must not cost the secret.
-    if (!write() && !write()) WriteStateFile(app, path, withoutSecret);
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (files.IsTrusted(path) && files.WriteWhole(path, bytes, Readers::OwnerAloneOrNone)) return;
+    }
+    WriteStateFile(app, path, withoutSecret);
 }
 
 } // namespace korvane

@@ -15,7 +15,8 @@ constexpr TextView kNotWritten = u"1d09";
 constexpr TextView kNotMade = u"1d0a";
 constexpr TextView kNotLoaded = u"1d08";
 
-/// Where the first characters of a text end in one that has more in it.
+/// `now` has the characters of `first` in their order, with others between them. This is the place after the
+/// last of them.
 int EndIn(TextView now, TextView first) {
     std::size_t at = 0;
     for (const char16_t c : first) {
@@ -26,7 +27,7 @@ int EndIn(TextView now, TextView first) {
     return static_cast<int>(at);
 }
 
-/// Where the character at a place is then. The beginning stays the beginning.
+/// Where the character at a place of `before` is in `now`. The beginning stays the beginning.
 int PlaceIn(TextView now, TextView before, int place) {
     if (place == 0) return 0;
     const std::size_t next = static_cast<std::size_t>(place) + 1;

@@ -35,7 +35,7 @@ std::string Scientific(double number, int significantDigits) {
     return text;
 }
 
-/// Of "d.ddde+dd".
+/// Splits a number that is written as "d.ddde+dd".
 DigitsAndPower Split(const std::string& scientific) {
     const std::size_t exponent = scientific.find('e');
     std::string digits = scientific.substr(0, exponent);

@@ -22,19 +22,8 @@ int BaseLineOf(const CharFormat& format) {
 
 /// The delta with what the other one says over it.
 CharDelta Joined(CharDelta delta, const CharDelta& over) {
-    const auto take = [](auto& target, const auto& value) {
-        if (value) target = value;
-    };
-    take(delta.font, over.font);
-    take(delta.halfPoints, over.halfPoints);
-    take(delta.bold, over.bold);
-    take(delta.italic, over.italic);
-    take(delta.underline, over.underline);
-    take(delta.strike, over.strike);
-    take(delta.smallCaps, over.smallCaps);
-    take(delta.baseLine, over.baseLine);
-    take(delta.fore, over.fore);
-    take(delta.back, over.back);
+    if (over.font) delta.font = over.font;
+    TakeLooks(delta, over);
     return delta;
 }
 
@@ -183,7 +172,7 @@ Document TextEditing::LineLike(TextView text, const Look& look, Index field, con
     return piece;
 }
 
-void TextEditing::Insert(Document piece) {
+void TextEditing::Insert(const Document& piece) {
     const Pos end = store_->Replace(start_, end_, piece);
     start_ = end_ = end;
     DropPending();

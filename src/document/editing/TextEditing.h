@@ -213,7 +213,7 @@ private:
     void SetLength(std::int32_t ParaFormat::*length, int twips);
     void ChangeTab(const std::function<void(std::vector<TabStop>&, std::size_t)>& change);
     void Select(Pos start, Pos end);
-    void Insert(Document piece);
+    void Insert(const Document& piece);
     Document LineLike(TextView text, const Look& look, Index field, const ParaFormat& shape) const;
     Document LineHere(TextView text, Index field) const { return LineLike(text, First(), field, Para()); }
     bool NearField(Pos from, Pos to) const;

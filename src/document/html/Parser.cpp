@@ -276,8 +276,7 @@ void Parser::PutPreserved(std::string_view text) {
 
 void Parser::PutDecoded(std::string_view text) {
     while (!text.empty()) {
-        const std::size_t plain =
-            State().pre ? std::min(text.find_first_of("&"), text.size()) : PlainLength(text);
+        const std::size_t plain = State().pre ? std::min(text.find('&'), text.size()) : PlainLength(text);
         const std::string_view ascii = text.substr(0, plain);
         if (plain > 0 && std::ranges::all_of(ascii, [](char c) { return c >= ' ' && c < 0x7F; })) {
             BeforeContent();

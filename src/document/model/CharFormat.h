@@ -59,4 +59,21 @@ struct CharDelta {
     bool operator==(const CharDelta&) const = default;
 };
 
+/// Sets the looks that the delta names, except the font, in another delta or in a format.
+template <class Looks>
+void TakeLooks(Looks& looks, const CharDelta& delta) {
+    const auto take = [](auto& look, const auto& named) {
+        if (named) look = *named;
+    };
+    take(looks.halfPoints, delta.halfPoints);
+    take(looks.bold, delta.bold);
+    take(looks.italic, delta.italic);
+    take(looks.underline, delta.underline);
+    take(looks.strike, delta.strike);
+    take(looks.smallCaps, delta.smallCaps);
+    take(looks.baseLine, delta.baseLine);
+    take(looks.fore, delta.fore);
+    take(looks.back, delta.back);
+}
+
 } // namespace korvane::doc

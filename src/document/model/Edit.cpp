@@ -170,19 +170,8 @@ std::optional<std::pair<Patch, Index>> InsertTablePatch(const Document& document
 }
 
 CharFormat Changed(Document& document, CharFormat format, const CharDelta& delta) {
-    const auto set = [](const auto& value, auto& target) {
-        if (value) target = *value;
-    };
     if (delta.font) format.font = document.FontNumber(*delta.font);
-    set(delta.halfPoints, format.halfPoints);
-    set(delta.bold, format.bold);
-    set(delta.italic, format.italic);
-    set(delta.underline, format.underline);
-    set(delta.strike, format.strike);
-    set(delta.smallCaps, format.smallCaps);
-    set(delta.baseLine, format.baseLine);
-    set(delta.fore, format.fore);
-    set(delta.back, format.back);
+    TakeLooks(format, delta);
     if (delta.baseLine) format.script = Script::Normal;
     return format;
 }

@@ -112,7 +112,7 @@ void ForEachTag(std::string_view html, std::string_view name, std::string_view w
     }
 }
 
-/// An address of a page has hardly another entity.
+/// The address in the value of an attribute. The only entity that is common in addresses is that of "&".
 Text AddressOf(std::string_view value) {
     std::string address(value);
     constexpr std::string_view kAnd = "&amp;";

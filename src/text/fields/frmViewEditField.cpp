@@ -34,8 +34,8 @@ constexpr int kHyperlink = 1;
 constexpr int kRaised = 1;
 constexpr int kLowered = 2;
 
-/// Goes through the fields in their order, each of which is the current one for `visit`. Afterwards the one
-/// of before is it again.
+/// Goes through the fields in their order and makes each the current one for `visit`. Afterwards the field
+/// that was the current one before is it again.
 template <class Visit>
 void ForEachField(TextControl& control, const Visit& visit) {
     const int current = control.FieldCurrent();

@@ -70,8 +70,8 @@ bool WordSearch::Begins(std::size_t place) const {
     return true;
 }
 
-/// The place that a scan from `start` reaches which goes on after the place of each mismatch: the hit, or a
-/// place after it when the scan passed over it. There is no other hit before.
+/// Where a scan from `start` arrives if it goes on after each character that doesn't match: at the hit, or at
+/// a place after it if the scan has passed over it. There is no other hit before.
 std::size_t WordSearch::ReachedFrom(std::size_t start, std::size_t hit) const {
     // Nothing that the pattern doesn't contain is within a part of it, so a scan can't pass over what is
     // after it.

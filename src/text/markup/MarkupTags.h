@@ -13,7 +13,7 @@ enum class TagLook : std::uint8_t { Italic, Bold, Underline, Strikethru, Raised,
 struct MarkupTag {
     TextView opening;
     TextView closing;
-    /// In the list of tags.
+    /// The entry in the list of tags.
     TextView label;
     TagLook look;
     /// What a heading adds to the size of its characters.

@@ -130,8 +130,7 @@ void WindowAdaptor::TellActivated() {
     QMetaObject::invokeMethod(this, &WindowAdaptor::Activate, Qt::QueuedConnection);
 }
 
-/// The handler may give the keyboard to another control, so only then the keys that were typed meanwhile go
-/// on.
+/// The handler may give the keyboard to another control. Keys that were typed meanwhile wait until it has.
 void WindowAdaptor::Activate() {
     const QPointer<WindowAdaptor> alive(this);
     const auto giveKeys = qScopeGuard([&alive] {
