@@ -171,7 +171,7 @@ void PageEngine::Take(const Fetched& fetched) {
     Complete();
 }
 
-void PageEngine::TakePage(TextView type, std::string bytes) {
+void PageEngine::TakePage(TextView type, const std::string& bytes) {
     const Text bare = BareType(type);
     bytesLeft_ -= static_cast<std::int64_t>(bytes.size());
     if (IsPicture(bytes)) {

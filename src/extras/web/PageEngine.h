@@ -52,7 +52,7 @@ private:
     void FollowLink(const Text& link);
 
     void Take(const Fetched& fetched);
-    void TakePage(TextView type, std::string bytes);
+    void TakePage(TextView type, const std::string& bytes);
     void FetchPictures(std::chrono::milliseconds took);
     void TakePicture(const PictureSource& source, const Fetched& fetched);
     void ReadPicture(const PictureSource& source);

@@ -24,6 +24,7 @@ void SwapCurrentWith(ListBox& list, int neighbour) {
 
 std::vector<Text> EntriesOf(const ListBox& list) {
     std::vector<Text> entries;
+    entries.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int index = 0; index < list.ListCount(); ++index)
         entries.push_back(list.List(index));
     return entries;

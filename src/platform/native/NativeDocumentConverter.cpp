@@ -114,12 +114,12 @@ std::vector<std::string> PdfToXml(const fs::path& folder) {
             (folder / "out" / "in.xml").string()};
 }
 
-std::string Same(std::string bytes) {
-    return bytes;
+std::string Same(std::string_view bytes) {
+    return std::string(bytes);
 }
 
 /// The lines as paragraphs.
-std::string RtfOfLines(std::string utf8) {
+std::string RtfOfLines(std::string_view utf8) {
     std::string rtf = "{\\rtf1\\ansi\\uc0 ";
     for (const char16_t character : FromUtf8(utf8)) {
         if (character == u'\n')
@@ -144,7 +144,7 @@ struct Helper {
     bool prints;
     /// What is made begins with this.
     std::string_view begin;
-    std::string (*finish)(std::string bytes);
+    std::string (*finish)(std::string_view bytes);
 };
 
 bool PrepareNothing(const fs::path&) {
@@ -172,7 +172,7 @@ std::optional<std::string> Made(const Helper& helper, const fs::path& file) {
         return std::nullopt;
     const auto bytes = ReadFile(file, error);
     if (!bytes || !bytes->View().starts_with(helper.begin)) return std::nullopt;
-    return helper.finish(std::string(bytes->View()));
+    return helper.finish(bytes->View());
 }
 
 std::optional<std::string> Run(const Helper& helper, const fs::path& program, std::string_view bytes,

@@ -10,7 +10,7 @@ public:
     ReaderWatch() : listening_(QAccessible::isActive()) { QAccessible::installActivationObserver(this); }
     ReaderWatch(const ReaderWatch&) = delete;
     ReaderWatch& operator=(const ReaderWatch&) = delete;
-    ~ReaderWatch() { QAccessible::removeActivationObserver(this); }
+    ~ReaderWatch() override { QAccessible::removeActivationObserver(this); }
 
     bool Listening() const { return listening_; }
 
