@@ -6,6 +6,8 @@
 
 namespace korvane {
 
+struct UnsavedText;
+
 /// The rich-text window, for callers that open it or write into it.
 class TextWindow {
 public:
@@ -18,6 +20,8 @@ public:
     virtual void TextWindowInsertRtf(std::string_view rtf) = 0;
     /// Shows the window, an empty one if it was closed, and returns at once.
     virtual void TextWindowShow() = 0;
+    /// Shows a text that was kept as an altered one of its name. An open window asks for its own text before.
+    virtual void TextWindowShowUnsaved(const UnsavedText& text) = 0;
 };
 
 } // namespace korvane

@@ -35,6 +35,20 @@ void TextWindows::TextWindowShow() {
     window_->Show();
 }
 
+void TextWindows::TextWindowShowUnsaved(const UnsavedText& text) {
+    if (frm_RTF_HTM* const open = Open()) {
+        open->ViewUnsaved(text);
+        return app_.Forms().Raise(*open);
+    }
+    OpenAnew({});
+    window_->ViewUnsaved(text);
+    window_->Show();
+}
+
+void TextWindows::KeepNow() {
+    if (frm_RTF_HTM* const open = Open()) open->KeepUnsaved();
+}
+
 void TextWindows::View(TextView path) {
     if (frm_RTF_HTM* const open = Open()) {
         open->View(path);

@@ -23,9 +23,12 @@ public:
     void TextWindowInsert(TextView text) override;
     void TextWindowInsertRtf(std::string_view rtf) override;
     void TextWindowShow() override;
+    void TextWindowShowUnsaved(const UnsavedText& text) override;
     /// A window that is open asks for its altered text, shows the file and comes to the front.
     void View(TextView path) override;
 
+    /// Keeps an altered text for the next run, because nobody can be asked about it.
+    void KeepNow();
     /// nullptr while the window is closed.
     frm_RTF_HTM* Open() const;
 

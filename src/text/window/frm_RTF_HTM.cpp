@@ -10,6 +10,7 @@
 #include "context/exchange/MessageQuestion.h"
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/ColourPicker.h"
+#include "context/ports/TextKeeper.h"
 #include "controls/KeyTable.h"
 #include "dialogs/Questions.h"
 #include "dialogs/frmMyMsgBox.h"
@@ -23,6 +24,7 @@
 #include "text/paragraph/ParagraphTarget.h"
 
 #include <chrono>
+#include <utility>
 
 namespace korvane {
 
@@ -217,6 +219,12 @@ void frm_RTF_HTM::WireButtons() {
 void frm_RTF_HTM::ClearAltered() {
     TextAltered = 0;
     ThisTextCtrl.SetDataChanged(false);
+    ForgetKept();
+}
+
+void frm_RTF_HTM::ForgetKept() {
+    auto* const keeper = Context().Port<TextKeeper>();
+    if (keeper != nullptr) keeper->Forget(std::exchange(keptIn_, {}));
 }
 
 // Opening and closing.
@@ -267,6 +275,7 @@ void frm_RTF_HTM::Unload() {
     Context().Settings.RtfZoom = static_cast<std::int16_t>(ThisTextCtrl.ZoomFactor.Get());
     Context().Exchange<TextWindowState>().TextWindowOpen = 0;
     Context().SetPort<OpenText>(nullptr);
+    ForgetKept();
     StorePlace(Context(), *this, kPlace);
 }
 
@@ -286,6 +295,27 @@ void frm_RTF_HTM::View(TextView path) {
     Context().Exchange<TextWindowState>().TextWindowUntitled = 0;
     LoadThisFile();
     ClearAltered();
+}
+
+void frm_RTF_HTM::ViewUnsaved(const UnsavedText& text) {
+    if (!MayClose()) return;
+    if (!ThisTextCtrl.Load(text.file, TextFormat::Rtf)) return;
+    TakePage();
+    ThisFileName = text.name;
+    Caption = ThisFileName;
+    const bool hasFile = Context().Files().Style().IsFullPath(text.name);
+    Context().Exchange<TextWindowState>().TextWindowUntitled = hasFile ? 0 : 1;
+    ClearAltered();
+    TextAltered = 1;
+    keptIn_ = text.file;
+    // The list has the text that is given here.
+    if (auto* const keeper = Context().Port<TextKeeper>()) keeper->Adopt(Text(keptIn_));
+}
+
+void frm_RTF_HTM::KeepUnsaved() {
+    auto* const keeper = Context().Port<TextKeeper>();
+    if (keeper != nullptr && Altered())
+        keptIn_ = keeper->Keep(keptIn_, ThisFileName, ThisTextCtrl.SaveToMemory(TextFormat::Rtf));
 }
 
 // Files.
@@ -335,8 +365,11 @@ void frm_RTF_HTM::SaveThisFile() {
     {
         const Hourglass hourglass(Context().Screen());
         Context().Screen().ProcessMessages();
-        if (!SaveByName(ThisTextCtrl, ThisFileName))
+        if (!SaveByName(ThisTextCtrl, ThisFileName)) {
             TellNeeded(FileTypeForSave(ThisFileName), FileUse::Writing);
+            // What is kept is all there is of the text then.
+            keptIn_.clear();
+        }
         Context().Clock().Wait(kSavedNote);
         ShowButtons(true);
         lblFileName.Visible = false;

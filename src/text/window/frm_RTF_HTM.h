@@ -12,6 +12,7 @@
 namespace korvane {
 
 enum class MsgAnswer : std::int16_t;
+struct UnsavedText;
 
 /// The rich-text window, in which one document is edited. It opens with the file `TextWindowFile`, or without
 /// one.
@@ -71,6 +72,10 @@ public:
     /// Opens a file in place of the text, after the question that closing asks. Nothing happens when the user
     /// cancels.
     void View(TextView path);
+    /// The same with a text that was kept, which stays altered.
+    void ViewUnsaved(const UnsavedText& text);
+    /// Keeps an altered text for the next run of the program.
+    void KeepUnsaved();
     bool Altered() const { return ThisTextCtrl.DataChanged() || TextAltered == 1; }
 
     // Nothing in the window starts these six. Kept for compatibility: text-operations-without-key.
@@ -92,6 +97,7 @@ private:
     void Wire();
     void WireButtons();
     void ClearAltered();
+    void ForgetKept();
     void SetZoom(int percent);
     bool MayClose();
     void ShowButtons(bool visible);
@@ -127,6 +133,8 @@ private:
     void Yellow();
     void NoteFind();
 
+    /// Where the text is kept; empty when it isn't.
+    Text keptIn_;
     OpenText openText_{ThisTextCtrl, rtfTempText};
 };
 

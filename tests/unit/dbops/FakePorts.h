@@ -5,6 +5,7 @@
 #include "context/ports/FontPicker.h"
 #include "context/ports/InsertTools.h"
 #include "context/ports/MarkupPicker.h"
+#include "context/ports/TextKeeper.h"
 #include "context/ports/TextWindow.h"
 #include "context/ports/WordList.h"
 #include "controls/TextBox.h"
@@ -20,11 +21,13 @@ public:
     explicit FakeTextWindow(App& app) { app.SetPort<TextWindow>(this); }
     std::vector<Text> inserted;
     std::vector<std::string> insertedRtf;
+    std::vector<Text> unsaved;
     int shown = 0;
 
     void TextWindowInsert(TextView text) override { inserted.emplace_back(text); }
     void TextWindowInsertRtf(std::string_view rtf) override { insertedRtf.emplace_back(rtf); }
     void TextWindowShow() override { ++shown; }
+    void TextWindowShowUnsaved(const UnsavedText& text) override { unsaved.push_back(text.name); }
 };
 
 /// Counts its openings, and retrieves the contents when told.
