@@ -72,7 +72,9 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
           system.Folders(), locale_, fileTypes_, fonts_)),
       webEngines_([this](const WebView& view) { return PlaceOf(view, forms_); },
                   !system_calls::IsAdministrator()),
-      keptTables_(app_, background_, FromNativePath(FindKeptFolder(OwnSurroundings()))) {
+      keptFolder_(FromNativePath(FindKeptFolder(OwnSurroundings()))),
+      keptTables_(app_, background_, keptFolder_),
+      keptTexts_(files_, keptFolder_) {
     app_.SetPort<SecretHolder>(&memoryLock_);
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);
@@ -83,6 +85,7 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
     app_.SetPort<PictureFiles>(&pictureFiles_);
     app_.SetPort<FileViewer>(&fileHandling_);
     app_.SetPort<TableKeeper>(&keptTables_);
+    app_.SetPort<TextKeeper>(&keptTexts_);
     app_.SetPort<TextFiles>(&documents_);
     app_.SetPort<Network>(&network_);
     app_.SetPort<WebEngines>(&webEngines_);
@@ -92,6 +95,7 @@ int Program::Run(const Text& path) {
     frmMDIParent main(app_, path);
     main.EnsureLoaded();
     if (app_.Exchange<StartState>().SecondInstance == 1) return 0;
+    keptTexts_.LookForUnsaved();
     keptTables_.LookForUnsaved();
     main.Show();
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
@@ -111,6 +115,7 @@ bool Program::CloseUnasked(frmMDIParent& main) {
     FinishTyping();
     if (main.HasChanges()) {
         keptTables_.KeepNow();
+        textWindows_.KeepNow();
         return false;
     }
     // A window that waits for an answer can't be taken away from the command that asks.

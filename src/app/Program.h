@@ -8,6 +8,8 @@
 #include "files/lister/Lister.h"
 #include "files/lists/FileHandling.h"
 #include "kept/KeptTables.h"
+#include "kept/KeptTexts.h"
+#include "platform/native/ChildProcess.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/qt/binder/QtFormHost.h"
@@ -96,7 +98,9 @@ private:
     LoadedNetwork network_;
     LoadedWebEngines webEngines_;
     Pages pages_{app_};
+    Text keptFolder_;
     KeptTables keptTables_;
+    KeptTexts keptTexts_;
 };
 
 } // namespace korvane

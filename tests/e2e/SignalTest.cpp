@@ -21,7 +21,7 @@ protected:
         desk.Press({"shift+F9"});
         ASSERT_NE(desk.GoTo(kFileInfo), "");
     }
-    /// Whether the program has kept a table with this text for its next start.
+    /// Whether the program has kept a table or a text with these words for its next start.
     bool KeepsUnsaved(const std::string& text) const {
         if (!fs::exists(desk.Path("state"))) return false;
         const fs::recursive_directory_iterator entries(desk.Path("state"));
@@ -54,6 +54,19 @@ TEST_P(SignalTest, KeepsTheChangesThatAreNotSavedAndEnds) {
     EXPECT_EQ(program->ExitStatus(), 0);
     EXPECT_EQ(ReadBytes(file), Table(file, "old")) << "nobody has agreed to a save";
     EXPECT_TRUE(KeepsUnsaved("older"));
+}
+
+TEST_P(SignalTest, KeepsATextThatIsNotSaved) {
+    Start();
+    desk.Press({"ctrl+e"});
+    ASSERT_NE(desk.GoTo("^Untitled.rtf$"), "");
+    desk.Type("unsaved words");
+    // The program takes keys in their order, so it has the words when this window shows.
+    desk.Press({"alt+f", "i"});
+    ASSERT_NE(desk.GoTo(kFileInfo), "");
+    program->Signal(GetParam());
+    EXPECT_EQ(program->ExitStatus(), 0);
+    EXPECT_TRUE(KeepsUnsaved("unsaved words"));
 }
 
 TEST_P(SignalTest, EndsTheProgramWhileAWindowWaitsForAnAnswer) {

@@ -2,6 +2,7 @@
 
 #include "context/App.h"
 #include "context/exchange/StartState.h"
+#include "context/ports/TextKeeper.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -45,6 +46,7 @@ frmMDIParent::frmMDIParent(App& app, Text commandLine)
 frmMDIParent::~frmMDIParent() {
     if (app_.Port<MainWindow>() == this) app_.SetPort<MainWindow>(nullptr);
     if (auto* keeper = app_.Port<TableKeeper>()) keeper->UnsavedChanged = nullptr;
+    if (auto* keeper = app_.Port<TextKeeper>()) keeper->UnsavedChanged = nullptr;
 }
 
 void frmMDIParent::MakeToolBar() {
@@ -61,7 +63,9 @@ void frmMDIParent::Wire() {
     txtCommand.Visible = false;
     txtCommand.Change = [this] { txtCommand_Change(); };
     tabs_.CountChanged = [this] { unsavedPage_.Fill(); };
-    if (auto* keeper = app_.Port<TableKeeper>()) keeper->UnsavedChanged = [this] { unsavedPage_.Fill(); };
+    const auto unsavedChanged = [this] { unsavedPage_.Fill(); };
+    if (auto* keeper = app_.Port<TableKeeper>()) keeper->UnsavedChanged = unsavedChanged;
+    if (auto* keeper = app_.Port<TextKeeper>()) keeper->UnsavedChanged = unsavedChanged;
     MDITabs1.TabContextClick = [this] { runner_.Run(&mnuFile_FileInfo_Clack); };
     MDITabs1.ContextMenu = [this] { Host().PopUp(mnuWindow); };
     MDITabs1.Emptied = [this] { startPage_.Fill(recents_); };

@@ -1,8 +1,10 @@
 #include "shell/main/UnsavedPage.h"
 
 #include "kept/KeptTables.h"
+#include "kept/KeptTexts.h"
 #include "support/TestProgram.h"
 #include "testing/MemoryBackground.h"
+#include "unit/dbops/FakePorts.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +16,15 @@ using namespace std::chrono_literals;
 struct UnsavedPageTest : testing::Test {
     struct Kept {
         explicit Kept(TestProgram& program)
-            : background(program.files, program.clock), keeper(program.app, background, u"C:\\state\\kept") {
+            : background(program.files, program.clock),
+              keeper(program.app, background, u"C:\\state\\kept"),
+              texts(program.files, u"C:\\state\\kept") {
             program.app.SetPort<TableKeeper>(&keeper);
+            program.app.SetPort<TextKeeper>(&texts);
         }
         MemoryBackground background;
         KeptTables keeper;
+        KeptTexts texts;
     };
 
     UnsavedPageTest() {
@@ -30,6 +36,7 @@ struct UnsavedPageTest : testing::Test {
     void Start() {
         kept = std::make_unique<Kept>(program);
         program.StartWith({});
+        kept->texts.LookForUnsaved();
         kept->keeper.LookForUnsaved();
         kept->background.DoAll();
     }
@@ -37,6 +44,7 @@ struct UnsavedPageTest : testing::Test {
         program.EndProcess();
         kept.reset();
         program.app.SetPort<TableKeeper>(nullptr);
+        program.app.SetPort<TextKeeper>(nullptr);
     }
     void TypeAndKill() {
         program.Open(kPath);
@@ -136,6 +144,30 @@ TEST_F(UnsavedPageTest, ATableWhoseSaveIsNotWholeIsMarkedAsAlteredWithoutAMessag
     // Undoing leads to a table that isn't in the file either.
     EXPECT_TRUE(tab.Context().history->Undo());
     EXPECT_TRUE(tab.Note().altered);
+}
+
+TEST_F(UnsavedPageTest, ListsTextsWithTheTablesTheNewestFirst) {
+    TypeAndKill();
+    program.clock.Set({2026, 11, 21, 11, 0, 0});
+    KeptTexts(program.files, u"C:\\state\\kept").Keep({}, u"C:\\data\\letter.rtf", "{\\rtf1 words}");
+    Start();
+    EXPECT_EQ(Button(1).Caption.Get(), u"letter.rtf, changed 11:00");
+    EXPECT_EQ(Button(1).ToolTipText.Get(), u"C:\\data\\letter.rtf");
+    EXPECT_EQ(Button(2).Caption.Get(), u"people && co.tbx, changed 10:30");
+}
+
+TEST_F(UnsavedPageTest, AClickShowsATextInTheTextWindow) {
+    FakeTextWindow window(program.app);
+    KeptTexts(program.files, u"C:\\state\\kept").Keep({}, u"letter.rtf", "{\\rtf1 words}");
+    Kill();
+    Start();
+    ASSERT_TRUE(Shows());
+    Button(1).Press();
+    EXPECT_EQ(window.unsaved, std::vector<Text>{u"letter.rtf"});
+    EXPECT_TRUE(Shows()) << "the window hasn't taken the text";
+    kept->texts.Adopt(Text(kept->texts.Unsaved().front().file));
+    EXPECT_FALSE(Shows());
+    program.app.SetPort<TextWindow>(nullptr);
 }
 
 } // namespace
