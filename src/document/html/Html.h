@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/model/Document.h"
+#include "document/model/Pieces.h"
 #include "document/model/Reading.h"
 
 #include <string>
@@ -14,5 +15,7 @@ ReadResult ReadHtml(std::string_view bytes, const Limits& limits = {});
 
 /// The document as HTML in UTF-8 with its pictures in it.
 std::string WriteHtml(const Document& document);
+/// The same without ever having all of it in memory.
+void WriteHtml(const Document& document, const PieceTaker& take);
 
 } // namespace korvane::doc

@@ -122,18 +122,20 @@ struct Tags {
 
 class Writer {
 public:
-    explicit Writer(const Document& document)
-        : document_(document), looks_(document.chars.Size()), shapes_(document.paras.Size()) {}
+    Writer(const Document& document, const PieceTaker& take)
+        : document_(document), take_(take), looks_(document.chars.Size()), shapes_(document.paras.Size()) {}
 
-    std::string Write() {
+    void Write() {
         WriteHead();
         const std::vector<Paragraph>& paragraphs = document_.paragraphs;
         for (std::size_t i = 0; i < paragraphs.size(); ++i) {
             const CellPlace before = i > 0 ? paragraphs[i - 1].cell : CellPlace{};
             MoveTo(before, paragraphs[i].cell);
             WriteParagraph(paragraphs[i]);
+            PassOn(out_, take_);
         }
-        return std::move(out_) + "</body>\n</html>\n";
+        out_ += "</body>\n</html>\n";
+        take_(out_);
     }
 
 private:
@@ -242,11 +244,18 @@ private:
             if (run.image != 0)
                 WriteImage(document_.images[run.image - 1]);
             else
-                PutText(out_, TextView(paragraph.text).substr(at, run.length));
+                WriteText(TextView(paragraph.text).substr(at, run.length));
             out_ += tags.close;
             at += run.length;
         }
         ChangeLink(field, 0);
+    }
+
+    void WriteText(TextView text) {
+        ForEachPiece(text, [this](TextView piece) {
+            PassOn(out_, take_);
+            PutText(out_, piece);
+        });
     }
 
     const Field* LinkOf(Index field) const {
@@ -392,6 +401,7 @@ private:
     }
 
     const Document& document_;
+    const PieceTaker& take_;
     /// The tags of the formats that were used so far.
     std::vector<std::optional<Tags>> looks_;
     std::vector<std::string> shapes_;
@@ -400,8 +410,12 @@ private:
 
 } // namespace
 
+void WriteHtml(const Document& document, const PieceTaker& take) {
+    Writer(document, take).Write();
+}
+
 std::string WriteHtml(const Document& document) {
-    return Writer(document).Write();
+    return Joined([&](const PieceTaker& take) { WriteHtml(document, take); });
 }
 
 } // namespace korvane::doc

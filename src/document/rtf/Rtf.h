@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/model/Document.h"
+#include "document/model/Pieces.h"
 #include "document/model/Reading.h"
 
 #include <cstdint>
@@ -16,5 +17,7 @@ ReadResult ReadRtf(std::string_view bytes, const Limits& limits = {});
 enum class RtfExtent : std::uint8_t { File, Fragment };
 
 std::string WriteRtf(const Document& document, RtfExtent extent = RtfExtent::File);
+/// Writes a whole file without ever having all of it in memory.
+void WriteRtf(const Document& document, const PieceTaker& take);
 
 } // namespace korvane::doc

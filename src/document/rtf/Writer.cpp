@@ -1,5 +1,6 @@
 #include "document/model/Instruction.h"
 #include "document/model/ListTable.h"
+#include "document/model/Pieces.h"
 #include "document/rtf/Rtf.h"
 
 #include <algorithm>
@@ -123,23 +124,26 @@ private:
 
 class Writer {
 public:
-    Writer(const Document& document, RtfExtent extent)
+    Writer(const Document& document, RtfExtent extent, const PieceTaker& take)
         : document_(document),
           extent_(extent),
+          take_(take),
           lists_(document),
           looks_(document.chars.Size()),
           shapes_(document.paras.Size()) {}
 
-    std::string Write() {
+    void Write() {
+        NumberColours();
+        out_ = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n";
+        WriteFonts(out_);
+        colours_.Write(out_);
+        WriteLists(out_);
+        if (extent_ == RtfExtent::File) WritePage(out_);
+        PutWord(out_, "\\deftab", document_.defaultTab);
+        out_ += '\n';
         WriteBody();
-        std::string file = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n";
-        WriteFonts(file);
-        colours_.Write(file);
-        WriteLists(file);
-        if (extent_ == RtfExtent::File) WritePage(file);
-        PutWord(file, "\\deftab", document_.defaultTab);
-        file += '\n';
-        return file + out_ + "}\n";
+        out_ += "}\n";
+        take_(out_);
     }
 
 private:
@@ -203,15 +207,43 @@ private:
             PutWord(file, kWords[i], document_.page.sizes[i]);
     }
 
+    /// Whether a row begins with the paragraph.
+    bool BeginsRow(std::size_t paragraph) const {
+        const CellPlace& cell = document_.paragraphs[paragraph].cell;
+        const CellPlace before = paragraph > 0 ? document_.paragraphs[paragraph - 1].cell : CellPlace{};
+        return cell.table != 0 && (cell.table != before.table || cell.row != before.row);
+    }
+
+    /// Gives the colours their numbers, in the order in which the body has them. The table of colours comes
+    /// before the body.
+    void NumberColours() {
+        std::vector<bool> seen(document_.chars.Size());
+        const auto see = [&](Index look) {
+            if (seen[look]) return;
+            seen[look] = true;
+            colours_.NumberOf(document_.chars[look].fore);
+            colours_.NumberOf(document_.chars[look].back);
+        };
+        for (std::size_t i = 0; i < document_.paragraphs.size(); ++i) {
+            const Paragraph& paragraph = document_.paragraphs[i];
+            if (BeginsRow(i)) {
+                for (const CellFormat& cell : RowOf(paragraph.cell).cells)
+                    colours_.NumberOf(cell.back);
+            }
+            for (const Run& run : paragraph.runs)
+                see(run.format);
+            if (paragraph.text.empty()) see(paragraph.emptyFormat);
+        }
+    }
+
     void WriteBody() {
         const std::vector<Paragraph>& paragraphs = document_.paragraphs;
         for (std::size_t i = 0; i < paragraphs.size(); ++i) {
-            const CellPlace& cell = paragraphs[i].cell;
-            const CellPlace before = i > 0 ? paragraphs[i - 1].cell : CellPlace{};
             const CellPlace after = i + 1 < paragraphs.size() ? paragraphs[i + 1].cell : CellPlace{};
-            if (cell.table != 0 && (cell.table != before.table || cell.row != before.row)) BeginRow(cell);
+            if (BeginsRow(i)) BeginRow(paragraphs[i].cell);
             WriteParagraph(paragraphs[i]);
             EndParagraph(paragraphs[i], after);
+            PassOn(out_, take_);
         }
     }
 
@@ -224,10 +256,17 @@ private:
             if (run.image != 0)
                 WriteImage(document_.images[run.image - 1]);
             else
-                PutText(out_, TextView(paragraph.text).substr(at, run.length));
+                WriteText(TextView(paragraph.text).substr(at, run.length));
             at += run.length;
         }
         if (paragraph.text.empty()) EnsureLook(paragraph.emptyFormat);
+    }
+
+    void WriteText(TextView text) {
+        ForEachPiece(text, [this](TextView piece) {
+            PassOn(out_, take_);
+            PutText(out_, piece);
+        });
     }
 
     void EndParagraph(const Paragraph& paragraph, const CellPlace& after) {
@@ -389,8 +428,12 @@ private:
         out_ += "}}";
     }
 
+    const TableRow& RowOf(const CellPlace& cell) const {
+        return document_.tables.at(cell.table).rows[cell.row];
+    }
+
     void BeginRow(const CellPlace& cell) {
-        const TableRow& row = document_.tables.at(cell.table).rows[cell.row];
+        const TableRow& row = RowOf(cell);
         const std::optional<std::int32_t> left = row.cells.empty() ? std::nullopt : row.cells[0].left;
         out_ += "\\trowd";
         if (left) PutWord(out_, "\\trleft", *left);
@@ -422,6 +465,7 @@ private:
 
     const Document& document_;
     RtfExtent extent_;
+    const PieceTaker& take_;
     ListTable lists_;
     Colours colours_;
     /// The words of the formats that were used so far.
@@ -435,8 +479,12 @@ private:
 
 } // namespace
 
+void WriteRtf(const Document& document, const PieceTaker& take) {
+    Writer(document, RtfExtent::File, take).Write();
+}
+
 std::string WriteRtf(const Document& document, RtfExtent extent) {
-    return Writer(document, extent).Write();
+    return Joined([&](const PieceTaker& take) { Writer(document, extent, take).Write(); });
 }
 
 } // namespace korvane::doc

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace korvane::doc {
 namespace {
 
@@ -45,6 +47,22 @@ TEST(HtmlRoundTrip, BreaksAtTheEndComeBack) {
         const Document document = FromPlainText(text);
         EXPECT_EQ(PlainText(ReadHtml(WriteHtml(document)).document), text) << text.size();
     }
+}
+
+TEST(HtmlRoundTrip, AFileInPiecesIsTheSame) {
+    Text text(3 * kPieceOfText, u'x');
+    // A character of two units is where the text is cut.
+    text.replace(kPieceOfText - 1, 2, u"\xD83D\xDE00");
+    const Document document = FromPlainText(text + u"\r\n" + text);
+    std::string joined;
+    std::size_t longest = 0;
+    WriteHtml(document, [&](std::string_view piece) {
+        joined += piece;
+        longest = std::max(longest, piece.size());
+    });
+    EXPECT_EQ(joined, WriteHtml(document));
+    EXPECT_EQ(PlainText(ReadHtml(joined).document), PlainText(document));
+    EXPECT_LT(longest, 2 * kPieceOfText);
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace korvane::doc {
 namespace {
 
@@ -40,6 +42,27 @@ TEST(RtfWriter, AFixedColourIsAMarkerToo) {
 
 TEST(RtfWriter, ControlCharactersAreLeftOut) {
     EXPECT_TRUE(Writes(FromPlainText(Text(u"a\u0001\u0007b")), "ab\\par"));
+}
+
+TEST(RtfWriter, AFileInPiecesIsTheSame) {
+    const Document document = FromPlainText(Text(3 * kPieceOfText, u'x') + u"\r\nend");
+    std::string joined;
+    std::size_t longest = 0;
+    WriteRtf(document, [&](std::string_view piece) {
+        joined += piece;
+        longest = std::max(longest, piece.size());
+    });
+    EXPECT_EQ(joined, WriteRtf(document));
+    EXPECT_LT(longest, 2 * kPieceOfText);
+}
+
+TEST(RtfWriter, ColoursHaveTheirNumbersInTheOrderOfTheText) {
+    Document document = FromPlainText(u"ab");
+    const Index second = document.chars.Add(CharFormat{.fore = Colour{0x0000FF}});
+    const Index first = document.chars.Add(CharFormat{.fore = Colour{0x00FF00}, .back = Colour{0xFF0000}});
+    document.paragraphs[0].runs = {{1, first}, {1, second}};
+    EXPECT_TRUE(Writes(
+        document, "{\\colortbl;\\red0\\green255\\blue0;\\red0\\green0\\blue255;\\red255\\green0\\blue0;}"));
 }
 
 } // namespace
