@@ -29,22 +29,28 @@ ExitStatus Export(const Call& call, Environment& environment, const Write& write
     if (!workbench) return ExitStatus::Error;
     const auto all = [](Row) { return true; };
     const auto document = MakeTextTable(workbench->Grid(), TitlesOf(*workbench), all, call.look, NoLimits());
-    if (document) environment.out.Write(write(*document));
+    if (document) write(*document, [&environment](std::string_view piece) { environment.out.Write(piece); });
     return ReportMessages(*workbench, environment);
 }
 
 } // namespace
 
 ExitStatus RunRtf(const Call& call, Environment& environment) {
-    return Export(call, environment, [](const doc::Document& document) { return doc::WriteRtf(document); });
+    return Export(call, environment, [](const doc::Document& document, const doc::PieceTaker& take) {
+        doc::WriteRtf(document, take);
+    });
 }
 
 ExitStatus RunHtml(const Call& call, Environment& environment) {
-    return Export(call, environment, [](const doc::Document& document) { return doc::WriteHtml(document); });
+    return Export(call, environment, [](const doc::Document& document, const doc::PieceTaker& take) {
+        doc::WriteHtml(document, take);
+    });
 }
 
 ExitStatus RunDocx(const Call& call, Environment& environment) {
-    return Export(call, environment, [](const doc::Document& document) { return doc::WriteDocx(document); });
+    return Export(call, environment, [](const doc::Document& document, const doc::PieceTaker& take) {
+        take(doc::WriteDocx(document));
+    });
 }
 
 } // namespace korvane

@@ -14,6 +14,9 @@ constexpr int kHalfPoints = 2;
 /// A column's width in the grid becomes so many twips for each of its units.
 constexpr int kWidthFactor = 6;
 constexpr int kWidthOfNone = 1800;
+/// A cell has so many paragraphs. The lines after them are parts of the last one, because a paragraph takes
+/// much memory.
+constexpr std::size_t kParagraphsInCell = 1000;
 
 class TextTable {
 public:
@@ -46,12 +49,22 @@ private:
         if (First()) format.fore = look_.firstRowText;
         builder_.SetFormat(format);
         builder_.OpenCell();
-        const doc::Document lines = doc::FromPlainText(text);
-        for (std::size_t line = 0; line < lines.paragraphs.size(); ++line) {
-            if (line > 0) builder_.EndParagraph({});
-            builder_.Add(lines.paragraphs[line].text);
-        }
+        AddLines(text);
         builder_.EndCell({});
+    }
+
+    void AddLines(TextView text) {
+        std::size_t paragraphs = 1;
+        while (true) {
+            const std::size_t end = text.find_first_of(kCrLf);
+            builder_.Add(text.substr(0, end));
+            if (end == TextView::npos) return;
+            if (paragraphs++ < kParagraphsInCell)
+                builder_.EndParagraph({});
+            else
+                builder_.Add(doc::kLineBreak);
+            text.remove_prefix(end + (text.substr(end).starts_with(kCrLf) ? 2 : 1));
+        }
     }
 
     doc::CellFormat Format(Col col) const {
@@ -108,8 +121,11 @@ std::optional<doc::Document> MakeTextTable(const Grid& grid, const std::vector<T
         const bool first = row == Row{1} && look.titles;
         if (!first && !takes(row)) continue;
         const bool marked = IsMarkedForDeletion(grid, row);
-        table.AddRow(
-            [&](Col col) { return marked ? Text() : Text(WithoutLineEnd(grid.CellValue(row, col))); });
+        Text value;
+        table.AddRow([&](Col col) {
+            value = marked ? Text() : grid.CellValue(row, col);
+            return WithoutLineEnd(value);
+        });
     }
     return table.Finish();
 }

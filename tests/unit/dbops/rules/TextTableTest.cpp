@@ -1,5 +1,6 @@
 #include "dbops/rules/TextTable.h"
 
+#include "document/model/Reading.h"
 #include "document/store/MemoryTextStore.h"
 #include "unit/dbops/TestTab.h"
 
@@ -76,6 +77,28 @@ TEST_F(TextTableTest, AWholeTableFitsOrNoneOfIt) {
     const std::size_t kLength = 6 * (2 + kCrLf.size());
     EXPECT_TRUE(Fits({.characters = kLength}));
     EXPECT_FALSE(Fits({.characters = kLength - 1}));
+}
+
+TEST_F(TextTableTest, EachLineOfACellIsAParagraphUntilThereAreVeryMany) {
+    Text lines = u"line";
+    for (int line = 1; line < 1002; ++line)
+        lines += line % 2 == 0 ? u"\rline" : u"\r\nline";
+    t.grid.SetCellValue(Row{1}, Col{1}, lines);
+    const doc::Document document = Make([](Row row) { return row == Row{1}; });
+    ASSERT_EQ(document.paragraphs.size(), 1002u) << "1000, the second cell, and the end of the text";
+    EXPECT_EQ(document.paragraphs[998].text, u"line");
+    EXPECT_EQ(document.paragraphs[999].text, u"line\vline\vline");
+    EXPECT_EQ(document.paragraphs[1000].text, u"b1");
+    EXPECT_TRUE(doc::IsSound(document));
+}
+
+TEST_F(TextTableTest, NothingIsLeftOutOfALargeTable) {
+    const Text large(doc::Limits{}.characters + 1, u'x');
+    t.grid.SetCellValue(Row{1}, Col{1}, large);
+    const doc::Document document = Make();
+    ASSERT_EQ(document.paragraphs.size(), 7u);
+    EXPECT_EQ(document.paragraphs[0].text.size(), large.size());
+    EXPECT_EQ(document.paragraphs[5].text, u"b3");
 }
 
 TEST_F(TextTableTest, WithoutRowsThereIsNoTable) {
