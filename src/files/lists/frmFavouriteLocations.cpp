@@ -146,6 +146,8 @@ void frmFavouriteLocations::WriteList() {
     const Text file = ListFile();
     const bool nothingToKeep = unreadable_ || !app_.Files().FileExists(file);
     if (List1.ListCount() == 0 && nothingToKeep) return;
+    // What couldn't be read may be a long list.
+    if (unreadable_) return ShowCannotAccess(app_, file);
     WriteListFile(app_, file, EntriesOf(List1));
 }
 

@@ -122,9 +122,9 @@ void frmFoldersToday::Activate() {
 
 void frmFoldersToday::Unload() {
     const Text& file = app_.Settings.FoldersFile;
-    const bool lost = unreadable_ && lstFoldersToday.ListCount() == 0;
-    // A window that was never seen has read nothing that it could write.
-    if (WindowActivated == 1 && !file.empty() && !lost) WriteListFile(app_, file, Folders());
+    // A window that was never seen has read nothing that it could write. What couldn't be read may be a long
+    // list.
+    if (WindowActivated == 1 && !file.empty() && !unreadable_) WriteListFile(app_, file, Folders());
     app_.Exchange<FolderPick>().FoldersListIndex = static_cast<std::int16_t>(lstFoldersToday.ListIndex());
     StorePlace(app_, *this, kPlace);
     app_.DialogResult = outcome_;

@@ -2,19 +2,29 @@
 // once, and together with all calls after it. Whatever fails, what the user wrote is somewhere, the pointer
 // is as before, and nothing is said but what the road may say.
 
+#include "context/exchange/FolderPick.h"
 #include "context/exchange/StateFiles.h"
+#include "extras/web/frmWebList.h"
 #include "files/jobs/CopyJob.h"
 #include "files/lists/ListFile.h"
+#include "files/lists/frmFavouriteLocations.h"
+#include "files/lists/frmFoldersToday.h"
+#include "files/lists/frmOpenFileWith.h"
 #include "kept/KeptTables.h"
+#include "kept/KeptTexts.h"
 #include "kept/KeptVersions.h"
 #include "platform/xls/XlsSpreadsheet.h"
 #include "shell/recent/RecentRecord.h"
 #include "shell/settings/SettingsFile.h"
+#include "support/FakeMainWindow.h"
+#include "support/FakeSystemFileDialog.h"
 #include "support/TableBytes.h"
 #include "support/TestApp.h"
 #include "table/SaveCommands.h"
 #include "table/TableFile.h"
 #include "text/files/DocumentFiles.h"
+#include "text/words/WordListState.h"
+#include "text/words/frmHoldWordList.h"
 #include "unit/kept/KeptRun.h"
 
 #include <gmock/gmock.h>
@@ -38,7 +48,7 @@ constexpr auto kNew = "newest words";
 class EasyUser final : public FormHost, public MessageBoxes, public FilePicker {
 public:
     void RunModal(Form& form) override { form.Close(); }
-    void Show(Form&) override {}
+    void Show(Form& form) override { form.Activate(); }
     void Hide(Form&) override {}
     void PopUp(Menu&) override {}
     void Raise(Form&) override {}
@@ -46,8 +56,12 @@ public:
         seen.push_back(ToUtf8(message.text));
         return EscAnswer(message.buttons);
     }
-    void Choose(ListerRequest& request) override { request.ChosenFilePath = kOther; }
+    void Choose(ListerRequest& request) override {
+        request.ChosenFilePath = chosen;
+        request.ChosenFileCount = 1;
+    }
 
+    Text chosen = kOther;
     std::vector<std::string> seen;
 };
 
@@ -72,7 +86,8 @@ public:
     MemoryShell shell;
     MemoryInstanceChannel instance;
     EasyUser user;
-    App app{{files, user, clipboard, clock, screen, shell, instance, user, [] { return nullptr; }}};
+    App app{{files, user, clipboard, clock, screen, shell, instance, user,
+             [] { return std::make_unique<GridStore>(CodePage::Windows1252()); }}};
 
 private:
     bool Holds(const Text& folder, std::string_view words) const {
@@ -179,6 +194,31 @@ private:
     bool inMemory_ = false;
 };
 
+/// The program has to end and keeps a text for the second time.
+class KeepTextWork final : public Work {
+public:
+    explicit KeepTextWork(Stage& stage) : texts_(stage.files, kRoot) {
+        file_ = texts_.Keep({}, kOther, kOld);
+    }
+
+    void Do(Stage&) override { file_ = texts_.Keep(file_, kTable, kNew); }
+    void Check(Stage& stage, bool failed) override {
+        texts_.LookForUnsaved();
+        ASSERT_EQ(texts_.Unsaved().size(), 1u);
+        EXPECT_EQ(texts_.Unsaved().front().file, file_);
+        const std::string bytes = stage.files.Contents(file_).value_or("");
+        EXPECT_TRUE(bytes == kOld || bytes == kNew) << '"' << bytes << '"';
+        if (!failed) {
+            EXPECT_EQ(bytes, kNew);
+            EXPECT_EQ(texts_.Unsaved().front().name, kTable);
+        }
+    }
+
+private:
+    KeptTexts texts_;
+    Text file_;
+};
+
 // Files that are replaced as a whole.
 
 /// Puts bytes with the new words in the place of a file with the old ones.
@@ -226,6 +266,114 @@ class ListWork final : public ReplaceWork {
 public:
     explicit ListWork(Stage& stage) : ReplaceWork(stage, u"/home/me/words.lst") {}
     void Do(Stage& stage) override { WriteListFile(stage.app, path_, {FromAscii(kNew)}); }
+};
+
+// The windows of lists, which read the file when they open.
+
+struct ListWindow {
+    virtual ~ListWindow() = default;
+    /// One entry of the list in its file.
+    virtual std::string Lines(const std::string& entry) const { return entry + "\r\n"; }
+    virtual void Prepare(Stage&, const Text& /*path*/) {}
+    /// Opens the window, adds an entry unless the list is missing, and saves as the window does it.
+    virtual void Use(Stage& stage, const Text& entry) = 0;
+};
+
+template <class Window>
+void InWindow(Window& window, const std::function<void()>& act) {
+    window.EnsureLoaded();
+    window.Activate();
+    act();
+    window.Close();
+}
+
+struct ProgramList final : ListWindow {
+    std::string Lines(const std::string& entry) const override { return entry + "\r\n/usr/bin/\r\n"; }
+    void Prepare(Stage& stage, const Text& path) override { stage.app.Settings.OpenWithListFile = path; }
+    void Use(Stage& stage, const Text& entry) override {
+        frmOpenFileWith window(stage.app);
+        InWindow(window, [&] {
+            if (window.ListView1.Count() == 0) return;
+            stage.user.chosen = u"/usr/bin/" + entry;
+            window.cmdAddProgram.Press();
+        });
+    }
+};
+
+struct FavouriteList final : ListWindow {
+    void Prepare(Stage& stage, const Text& path) override { stage.app.Settings.FavCurrentFile = path; }
+    void Use(Stage& stage, const Text& entry) override {
+        FakeMainWindow main(stage.app);
+        frmFavouriteLocations window(stage.app, main.window, kFolder);
+        InWindow(window, [&] { window.List1.AddItem(entry); });
+        stage.app.SetPort<MainWindow>(nullptr);
+    }
+};
+
+struct FolderList final : ListWindow {
+    std::string Lines(const std::string& entry) const override { return "/home/me/" + entry + "\r\n"; }
+    void Prepare(Stage& stage, const Text& path) override {
+        stage.app.Settings.FoldersFile = path;
+        stage.files.AddDir(kFolder + u"/" + FromAscii(kOld));
+        stage.files.AddDir(kFolder + u"/" + FromAscii(kNew));
+    }
+    void Use(Stage& stage, const Text& entry) override {
+        stage.app.Exchange<FolderPick>().TodaysFolders = {kFolder + u"/" + entry};
+        frmFoldersToday window(stage.app, u"");
+        InWindow(window, [] {});
+    }
+};
+
+struct WordList final : ListWindow {
+    void Prepare(Stage& stage, const Text& path) override {
+        stage.app.Settings.WordListFile = path;
+        stage.app.Exchange<WordListState>().WordListAutoSave = 1;
+    }
+    void Use(Stage& stage, const Text& entry) override {
+        frmHoldWordList window(stage.app);
+        InWindow(window, [&] { window.lstWordList.Add({.texts = {entry}}); });
+    }
+};
+
+struct WebsiteList final : ListWindow {
+    std::string Lines(const std::string& entry) const override { return entry + "\r\nhttp://a\r\n0\r\n"; }
+    void Prepare(Stage& stage, const Text& path) override { stage.app.Settings.WebListFile = path; }
+    void Use(Stage& stage, const Text& entry) override {
+        FakeMainWindow main(stage.app);
+        FakeSystemFileDialog dialog(stage.app);
+        dialog.answer = stage.app.Settings.WebListFile;
+        frmWebList window(stage.app, main.window);
+        InWindow(window, [&] {
+            if (window.ListView1.Count() == 0) return;
+            window.ListView1.Add({.texts = {entry, u"http://b"}});
+            window.cmdSaveList.Press();
+        });
+        stage.app.SetPort<MainWindow>(nullptr);
+        stage.app.SetPort<SystemFileDialog>(nullptr);
+    }
+};
+
+/// A list that can't be read is told and left as it is. What the user adds to one that could be read is in
+/// the file afterwards, or he is told that it isn't.
+template <class Window>
+class ListWindowWork final : public Work {
+public:
+    explicit ListWindowWork(Stage& stage) {
+        stage.files.AddFile(kPath, window_.Lines(kOld));
+        window_.Prepare(stage, kPath);
+    }
+    void Do(Stage& stage) override { window_.Use(stage, FromAscii(kNew)); }
+    void Check(Stage& stage, bool failed) override {
+        const std::string bytes = stage.files.Contents(kPath).value_or("");
+        EXPECT_NE(bytes.find(kOld), std::string::npos) << '"' << bytes << '"';
+        const bool written = bytes.find(kNew) != std::string::npos;
+        EXPECT_TRUE(written || !stage.user.seen.empty()) << "nobody was told";
+        EXPECT_TRUE(written || failed);
+    }
+
+private:
+    const Text kPath = u"/home/me/list.lst";
+    Window window_;
 };
 
 class DocumentWork final : public ReplaceWork {
@@ -316,14 +464,22 @@ std::unique_ptr<Work> Begin(Stage& stage) {
 }
 
 constexpr auto kCannotSave = "Cannot save this file";
+const std::vector<std::string> kListBoxes{kCannotSave, "Cannot load the following file",
+                                          "Can't open file: ", "Cannot locate the following"};
 
 const std::vector<Road> kRoads{
     {"Save", Begin<SaveWork>, {kCannotSave}},
     {"SaveAs", Begin<SaveAsWork>, {kCannotSave}},
     {"KeepUnsaved", Begin<KeepWork>, {}},
+    {"KeepText", Begin<KeepTextWork>, {}},
     {"Settings", Begin<SettingsWork>, {kCannotSave}},
     {"Record", Begin<RecordWork>, {kCannotSave}},
     {"List", Begin<ListWork>, {kCannotSave}},
+    {"Programs", Begin<ListWindowWork<ProgramList>>, kListBoxes},
+    {"Favourites", Begin<ListWindowWork<FavouriteList>>, kListBoxes},
+    {"Folders", Begin<ListWindowWork<FolderList>>, kListBoxes},
+    {"Words", Begin<ListWindowWork<WordList>>, kListBoxes},
+    {"Websites", Begin<ListWindowWork<WebsiteList>>, kListBoxes},
     {"Document", Begin<DocumentWork>, {}},
     {"Export", Begin<ExportWork>, {}},
     {"Copy", Begin<JobWork<false, true>>, {kCannotSave}},

@@ -129,6 +129,20 @@ TEST_F(FavouriteLocationsTest, AListThatCannotBeReadIsReportedAndLeftAlone) {
     EXPECT_EQ(Written(), bytes);
 }
 
+TEST_F(FavouriteLocationsTest, AListThatCannotBeReadIsNotReplacedByWhatIsAddedToIt) {
+    const std::string bytes("PK\0\1", 4);
+    t.files.AddFile(kList, bytes);
+    t.user.Answer(Answer::Ok);
+    t.user.On<frmFavouriteLocations>([](frmFavouriteLocations& f) {
+        f.List1.AddItem(u"C:\\Data");
+        f.cmdExit.Press();
+    });
+    t.user.Answer(Answer::Ok);
+    frmFavouriteLocations(t.app, owner, u"C:\\Data").ShowModal();
+    EXPECT_TRUE(t.user.Messages().back().text.starts_with(u"Cannot save this file :\r\n\r\n" + kList));
+    EXPECT_EQ(Written(), bytes);
+}
+
 TEST_F(FavouriteLocationsTest, TheTitleCountsWhatIsNoSeparator) {
     InWindow("C:\\a\r\n\r\n---\r\n   -x\r\n   \r\n  C:\\b\r\n\x97\x97\r\n", [](frmFavouriteLocations& f) {
         EXPECT_EQ(f.Caption.Get(), u"Favourite locations; items in list: 3");

@@ -150,6 +150,20 @@ TEST_F(FoldersTodayTest, AFileThatCannotBeReadIsReportedAndLeftAlone) {
     EXPECT_EQ(Written(), bytes);
 }
 
+TEST_F(FoldersTodayTest, AFileThatCannotBeReadIsNotReplacedByTheFoldersOfTheSession) {
+    const std::string bytes("PK\0\1", 4);
+    t.files.AddFile(kList, bytes);
+    t.app.Exchange<FolderPick>().TodaysFolders = {u"C:\\a"};
+    t.user.On<frmFoldersToday>([](frmFoldersToday& f) {
+        f.Activate();
+        EXPECT_EQ(f.lstFoldersToday.ListCount(), 1);
+        f.cmdExit.Press();
+    });
+    t.user.Answer(Answer::Ok);
+    frmFoldersToday(t.app, u"").ShowModal();
+    EXPECT_EQ(Written(), bytes);
+}
+
 TEST_F(FoldersTodayTest, AWindowThatNeverCameUpWritesNothing) {
     frmFoldersToday f(t.app, u"");
     f.EnsureLoaded();
