@@ -151,7 +151,7 @@ void TextEditing::SetSelTextRtf(std::string_view rtf) {
         for (Run& run : paragraph.runs)
             run.field = run.field == 0 ? 0 : numbers[run.field];
     }
-    Insert(std::move(read.document));
+    Insert(read.document);
 }
 
 /// A piece of the text with the look and the format of its paragraphs.
