@@ -92,13 +92,15 @@ TEST_F(TextTableTest, EachLineOfACellIsAParagraphUntilThereAreVeryMany) {
     EXPECT_TRUE(doc::IsSound(document));
 }
 
-TEST_F(TextTableTest, NothingIsLeftOutOfALargeTable) {
+TEST_F(TextTableTest, NothingIsLeftOutOfALargeTableWithinTheLimits) {
     const Text large(doc::Limits{}.characters + 1, u'x');
     t.grid.SetCellValue(Row{1}, Col{1}, large);
-    const doc::Document document = Make();
-    ASSERT_EQ(document.paragraphs.size(), 7u);
-    EXPECT_EQ(document.paragraphs[0].text.size(), large.size());
-    EXPECT_EQ(document.paragraphs[5].text, u"b3");
+    const auto document =
+        MakeTextTable(t.grid, {}, [](Row) { return true; }, look, {.characters = 2 * large.size()});
+    ASSERT_TRUE(document);
+    ASSERT_EQ(document->paragraphs.size(), 7u);
+    EXPECT_EQ(document->paragraphs[0].text.size(), large.size());
+    EXPECT_EQ(document->paragraphs[5].text, u"b3");
 }
 
 TEST_F(TextTableTest, WithoutRowsThereIsNoTable) {
