@@ -20,6 +20,7 @@
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -107,6 +108,29 @@ TEST_F(QtMessageBoxesTest, AClickAnswers) {
     const Answer answer = Show(
         message, [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton); });
     EXPECT_EQ(answer, Answer::No);
+}
+
+TEST_F(QtMessageBoxesTest, BelongsToTheWindowAndNotToAMenuThatCloses) {
+    QWidget window;
+    window.show();
+    auto* const menu = new QMenu(&window);
+    menu->show();
+    QApplication::setActiveWindow(menu);
+    Show({u"text"}, [&window, menu](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), &window);
+        delete menu;
+        box.close();
+    });
+}
+
+TEST_F(QtMessageBoxesTest, BelongsToNothingWhenAMenuOfItsOwnCloses) {
+    QMenu menu;
+    menu.show();
+    QApplication::setActiveWindow(&menu);
+    Show({u"text"}, [](QMessageBox& box) {
+        EXPECT_EQ(box.parentWidget(), nullptr);
+        box.close();
+    });
 }
 
 // ---- Clipboard ----------------------------------------------------------------------------------------

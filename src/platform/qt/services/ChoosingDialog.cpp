@@ -1,14 +1,14 @@
 #include "platform/qt/services/ChoosingDialog.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/DialogParent.h"
 
-#include <QApplication>
 #include <QLineEdit>
 
 namespace korvane {
 
 ChoosingDialog::ChoosingDialog(TextView title, AcceptMode acceptMode, FileMode fileMode)
-    : QFileDialog(QApplication::activeWindow(), ToQString(title)) {
+    : QFileDialog(DialogParent(), ToQString(title)) {
     // Without this option the key Delete and a "y" delete a whole folder for good.
     setOption(ReadOnly);
     setAcceptMode(acceptMode);

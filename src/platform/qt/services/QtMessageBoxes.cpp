@@ -1,8 +1,8 @@
 #include "platform/qt/services/QtMessageBoxes.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/DialogParent.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <array>
 #include <span>
@@ -36,7 +36,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
 } // namespace
 
 Answer QtMessageBoxes::Show(const Message& message) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(DialogParent());
     box.setWindowTitle(QStringLiteral("Korvane"));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToLines(message.text));

@@ -1,5 +1,7 @@
 #include "platform/qt/services/QtPatience.h"
 
+#include "platform/qt/base/DialogParent.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QProgressDialog>
@@ -31,7 +33,7 @@ public:
 
 private:
     QProgressDialog dialog_{QObject::tr("Another program converts the document..."), QObject::tr("Cancel"), 0,
-                            0, QApplication::activeWindow()};
+                            0, DialogParent()};
     QElapsedTimer started_;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/qt/services/QtPickers.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/DialogParent.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -9,7 +10,7 @@
 namespace korvane {
 
 std::optional<FontSpec> QtFontDialog::Choose(const FontSpec& present) {
-    QFontDialog dialog(WithSpec(QApplication::font(), present), QApplication::activeWindow());
+    QFontDialog dialog(WithSpec(QApplication::font(), present), DialogParent());
     const QFont first = dialog.currentFont();
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     const QFont chosen = dialog.selectedFont();
@@ -20,7 +21,7 @@ std::optional<FontSpec> QtFontDialog::Choose(const FontSpec& present) {
 
 std::optional<Colour> QtColourPicker::Choose(Colour start, Extent) {
     const QColor first = start == kNoColour ? QColor(Qt::white) : ToQColor(start);
-    QColorDialog dialog(first, QApplication::activeWindow());
+    QColorDialog dialog(first, DialogParent());
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return ToColour(dialog.selectedColor());
 }
