@@ -141,6 +141,20 @@ TEST_F(GridViewTest, WhatIsTypedIsToldBeforeItIsCommitted) {
     EXPECT_FALSE(form.iGrid1.ReadField());
 }
 
+TEST_F(GridViewTest, AFieldThatIsDeletedIsNoLongerRead) {
+    Type("xy");
+    std::vector<bool> open;
+    const QObject untilTheEnd;
+    form.iGrid1.Typing = [&] { open.push_back(form.iGrid1.ReadField().has_value()); };
+    QObject::connect(qApp, &QGuiApplication::focusObjectChanged, &untilTheEnd,
+                     [this] { form.iGrid1.Typing(); });
+    delete Editor();
+    EXPECT_FALSE(open.empty());
+    EXPECT_TRUE(std::ranges::none_of(open, std::identity()));
+    EXPECT_FALSE(form.iGrid1.FieldAltered);
+    form.iGrid1.Typing = nullptr;
+}
+
 TEST_F(GridViewTest, ACellTakesNothingFromAnEmptyClipboard) {
     QGuiApplication::clipboard()->setMimeData(new QMimeData);
     Key(Qt::Key_F2);

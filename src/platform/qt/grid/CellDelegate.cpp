@@ -167,7 +167,10 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     connect(editor, &QPlainTextEdit::textChanged, this, &CellDelegate::Typing);
     // This one comes after the text was set with which the field opens.
     connect(editor->document(), &QTextDocument::modificationChanged, this, &CellDelegate::Typing);
-    connect(editor, &QObject::destroyed, this, &CellDelegate::Typing);
+    // A field without its text would still be found later, while it loses the keyboard.
+    connect(editor, &CellEditor::Leaving, this, [this, editor] {
+        if (field_ == editor) ForgetField();
+    });
     field_ = editor;
     fieldCell_ = index;
     return editor;
@@ -191,6 +194,11 @@ bool CellDelegate::FieldAltered() const {
     return !field_.isNull() && field_->document()->isModified();
 }
 
+void CellDelegate::ForgetField() const {
+    field_ = nullptr;
+    emit Typing();
+}
+
 std::optional<FieldText> CellDelegate::ReadField() const {
     if (field_.isNull() || !fieldCell_.isValid()) return std::nullopt;
     const CellPosition cell{model_.RowOf(fieldCell_.row()), GridModel::ColOf(fieldCell_.column())};
@@ -201,8 +209,7 @@ void CellDelegate::Finish(QWidget& editor, bool commit, int cellStep) const {
     auto& self = const_cast<CellDelegate&>(*this); // NOLINT: Qt makes editors in a const function
     if (commit) emit self.commitData(&editor);
     emit self.closeEditor(&editor, NoHint);
-    field_ = nullptr;
-    emit Typing();
+    ForgetField();
     if (cellStep != 0) emit Moved(cellStep);
 }
 

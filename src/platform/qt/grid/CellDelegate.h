@@ -57,6 +57,7 @@ protected:
 private:
     const Grid& Store() const { return box_.Store(); }
     const QFont& CellFont(const QFont& base, Row row, Col col) const;
+    void ForgetField() const;
     void Finish(QWidget& editor, bool commit, int cellStep) const;
     void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
                    const QColor& back) const;

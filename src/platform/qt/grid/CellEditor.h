@@ -15,6 +15,7 @@ public:
     /// The field is a child of `viewport`, where the grid's cells are drawn. It covers at least the cell that
     /// `SetCell` is given.
     CellEditor(QWidget& viewport, const QFont& font);
+    ~CellEditor() override { emit Leaving(); }
 
     void SetCell(const QRect& cell);
     /// Sets the text, with LF as line ends. With `selected` the text is selected, so that typing replaces it.
@@ -24,6 +25,8 @@ public:
 
 signals:
     void Finished(bool commit, int cellStep);
+    /// The field is being deleted, and is still whole.
+    void Leaving();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
