@@ -219,6 +219,30 @@ TEST_F(QtFormHostTest, AKeyOfACommandIsNotKeptForAWindowThatIsNotActivatedYet) {
     EXPECT_EQ(keys, 1);
 }
 
+TEST_F(QtFormHostTest, NoKeyOvertakesOneThatIsKept) {
+    std::vector<int> keys;
+    form.txtName.KeyDown = [&keys](KeyEvent& key) { keys.push_back(key.code); };
+    form.Show();
+    test::Settle();
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activated);
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* text;
+    } typed[] = {{Qt::Key_Home, {}, ""},
+                 {Qt::Key_A, {}, "a"},
+                 {Qt::Key_F5, {}, ""},
+                 {Qt::Key_S, Qt::ControlModifier, "\x13"}};
+    for (const auto& [code, modifiers, text] : typed) {
+        QKeyEvent key(QEvent::KeyPress, code, modifiers, text);
+        QCoreApplication::sendEvent(Window().windowHandle(), &key);
+    }
+    EXPECT_EQ(keys, std::vector<int>());
+    test::Settle();
+    EXPECT_EQ(keys, (std::vector<int>{36, 65, 116, 83}));
+}
+
 TEST_F(QtFormHostTest, AWindowThatClosesWhenItIsActivatedTakesItsKeysAlong) {
     form.onActivate = [this] { form.Close(); };
     form.Show();

@@ -10,11 +10,11 @@ namespace korvane {
 
 namespace {
 
-/// A key that starts a command may have opened a menu by now, and its own press or release would close that
-/// again.
+/// Whether the key types something or moves to another place.
 bool Types(const QKeyEvent& key) {
-    return !key.text().isEmpty() && (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0 &&
-           QApplication::activePopupWidget() == nullptr;
+    const bool moves = key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;
+    return (moves || !key.text().isEmpty()) &&
+           (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
 }
 
 } // namespace
@@ -37,8 +37,12 @@ void KeyHold::End() {
 
 bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (!holds_ || event->type() != QEvent::KeyPress) return false;
+    // A key that starts a command may have opened a menu by now, and its own press or release would close
+    // that again.
+    if (QApplication::activePopupWidget() != nullptr) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (!Types(key)) return false;
+    // A key that overtook a kept one could go to another cell before the text is typed.
+    if (!Types(key) && kept_.empty()) return false;
     kept_.emplace_back(key.clone());
     return true;
 }
