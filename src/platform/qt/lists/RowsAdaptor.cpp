@@ -1,5 +1,7 @@
 #include "platform/qt/lists/RowsAdaptor.h"
 
+#include "platform/qt/lists/TickVoice.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -8,6 +10,7 @@ namespace korvane {
 RowsAdaptor::RowsAdaptor(RowsControl& control, QAbstractItemView& view, RowsModel& model)
     : ItemsAdaptor(control, view), rows_(control), view_(view), model_(model) {
     view.setModel(&model);
+    new TickVoice(view);
     control.SetRowListener(this);
     const QItemSelectionModel* const shown = view.selectionModel();
     connect(shown, &QItemSelectionModel::currentChanged, this, [this](const QModelIndex& current) {
