@@ -154,6 +154,7 @@ private:
     void BackColour(const Value& value, std::int32_t);
     void Raise(const Value& value, std::int32_t direction);
     void ExactRaise(const Value& value, std::int32_t);
+    void RaisedMark(const Value&, std::int32_t);
     void SetScript(const Value&, std::int32_t script);
     void Hide(const Value& value, std::int32_t);
     void ParaDefault(const Value&, std::int32_t);

@@ -199,6 +199,10 @@ void Parser::ExactRaise(const Value& value, std::int32_t) {
     if (!groups_.empty()) groups_.back().look.baseLine = Bounded(value.number);
 }
 
+void Parser::RaisedMark(const Value&, std::int32_t) {
+    if (!groups_.empty()) groups_.back().look.script = Script::Raised;
+}
+
 void Parser::SetScript(const Value&, std::int32_t script) {
     state_.look.script = static_cast<Script>(script);
     if (script == 0) state_.look.baseLine = 0;

@@ -145,6 +145,7 @@ struct WordTable {
         {"v", &P::Hide},
         {"deleted", &P::Hide},
         {"kvbase", &P::ExactRaise},
+        {"kvsuper", &P::RaisedMark},
         // Paragraphs' looks.
         {"pard", &P::ParaDefault},
         {"ql", &P::ParaAlignment, Number(Alignment::Left)},

@@ -84,10 +84,23 @@ void PutCharacter(std::string& out, char16_t c) {
     out += '?';
 }
 
+/// Writes plain characters. LibreOffice reads blanks that come one right after another as wider characters,
+/// so an empty group parts them.
+void PutPlain(std::string& out, TextView text) {
+    while (true) {
+        const std::size_t blanks = text.find(u"  ");
+        const TextView piece = text.substr(0, blanks == TextView::npos ? blanks : blanks + 1);
+        out.append(piece.begin(), piece.end());
+        if (blanks == TextView::npos) return;
+        out += "{}";
+        text.remove_prefix(piece.size());
+    }
+}
+
 void PutText(std::string& out, TextView text) {
     while (!text.empty()) {
         const auto end = std::ranges::find_if_not(text, IsPlain);
-        out.append(text.begin(), end);
+        PutPlain(out, {text.begin(), end});
         if (end == text.end()) return;
         PutCharacter(out, *end);
         text.remove_prefix(static_cast<std::size_t>(end - text.begin()) + 1);
@@ -252,14 +265,17 @@ private:
         std::size_t at = 0;
         for (const Run& run : paragraph.runs) {
             if (run.field != field_) ChangeField(run.field);
-            EnsureLook(run.format);
-            if (run.image != 0)
+            if (run.image != 0) {
+                EnsureLookOfNoText(run.format);
                 WriteImage(document_.images[run.image - 1]);
-            else
+            } else {
+                EnsureLook(run.format);
                 WriteText(TextView(paragraph.text).substr(at, run.length));
+                EndRaised(run.format);
+            }
             at += run.length;
         }
-        if (paragraph.text.empty()) EnsureLook(paragraph.emptyFormat);
+        if (paragraph.text.empty()) EnsureLookOfNoText(paragraph.emptyFormat);
     }
 
     void WriteText(TextView text) {
@@ -272,7 +288,6 @@ private:
     void EndParagraph(const Paragraph& paragraph, const CellPlace& after) {
         const CellPlace& cell = paragraph.cell;
         if (cell != after || (field_ != 0 && !Continues(&paragraph + 1))) ChangeField(0);
-        // The end of a field takes back what it changed.
         EnsureShape(paragraph);
         if (cell.table == 0 || cell == after)
             out_ += "\\par\n";
@@ -303,6 +318,26 @@ private:
         std::string& words = looks_[look];
         if (words.empty()) words = LookWords(document_.chars[look]);
         out_ += words;
+    }
+
+    bool IsRaised(Index look) const { return document_.chars[look].script == Script::Raised; }
+
+    /// LibreOffice takes raised text for the mark of a note that is still to come, and loses the paragraph
+    /// when that paragraph ends before the raised text does.
+    void EndRaised(Index look) {
+        if (!IsRaised(look)) return;
+        out_ += "\\nosupersub";
+        look_.reset();
+    }
+
+    /// Where there is no text that could end, a word of this program tells that it is raised.
+    void EnsureLookOfNoText(Index look) {
+        if (!IsRaised(look)) return EnsureLook(look);
+        CharFormat notRaised = document_.chars[look];
+        notRaised.script = Script::Normal;
+        out_ += LookWords(notRaised);
+        out_ += "{\\*\\kvsuper}";
+        look_.reset();
     }
 
     std::string LookWords(const CharFormat& look) {
@@ -400,11 +435,13 @@ private:
     void ChangeField(Index field) {
         if (field_ != 0) {
             out_ += "}}";
-            look_.reset();
-            shape_.reset();
+            look_ = lookBeforeField_;
+            shape_ = shapeBeforeField_;
         }
         field_ = field;
         if (field == 0) return;
+        lookBeforeField_ = look_;
+        shapeBeforeField_ = shape_;
         const auto found = document_.fields.find(field);
         out_ += "{\\field{\\*\\fldinst ";
         PutText(out_, WriteInstruction(found == document_.fields.end() ? Field{} : found->second));
@@ -475,6 +512,9 @@ private:
     std::optional<Index> look_;
     std::optional<std::pair<Index, bool>> shape_;
     Index field_ = 0;
+    /// What holds after the field again, since its end takes back what it changed.
+    std::optional<Index> lookBeforeField_;
+    std::optional<std::pair<Index, bool>> shapeBeforeField_;
 };
 
 } // namespace

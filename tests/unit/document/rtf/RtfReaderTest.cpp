@@ -84,6 +84,7 @@ TEST(RtfReader, LooksOfCharacters) {
     EXPECT_EQ(look.back, Colour{0x800000});
     EXPECT_EQ(look.baseLine, 60);
     EXPECT_EQ(LookOf("\\super x").script, Script::Raised);
+    EXPECT_EQ(LookOf("{\\*\\kvsuper}x").script, Script::Raised);
     EXPECT_EQ(LookOf("\\dn x").baseLine, -60);
     EXPECT_EQ(LookOf("\\up4{\\*\\kvbase37}x").baseLine, 37);
     EXPECT_EQ(LookOf("\\cf0 x").fore, kNoColour);

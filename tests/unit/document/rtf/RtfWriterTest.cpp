@@ -40,6 +40,21 @@ TEST(RtfWriter, AFixedColourIsAMarkerToo) {
     EXPECT_FALSE(Writes(document, "\\highlight"));
 }
 
+TEST(RtfWriter, BlanksInARowAreParted) {
+    EXPECT_TRUE(Writes(FromPlainText(u"a  b c   d "), "a {} b c {} {} d \\par"));
+    EXPECT_TRUE(Writes(FromPlainText(u"  "), " {} \\par"));
+}
+
+TEST(RtfWriter, RaisedTextEndsBeforeItsParagraph) {
+    Document document = FromPlainText(u"ab");
+    const Index raised = document.chars.Add(CharFormat{.script = Script::Raised});
+    document.paragraphs[0].runs = {{1}, {1, raised}};
+    EXPECT_TRUE(Writes(document, "\\super b\\nosupersub\\par"));
+    document.paragraphs[0] = {.emptyFormat = raised};
+    EXPECT_TRUE(Writes(document, "\\fs24 {\\*\\kvsuper}\\par"));
+    EXPECT_FALSE(Writes(document, "\\super"));
+}
+
 TEST(RtfWriter, ControlCharactersAreLeftOut) {
     EXPECT_TRUE(Writes(FromPlainText(Text(u"a\u0001\u0007b")), "ab\\par"));
 }
