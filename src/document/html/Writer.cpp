@@ -18,7 +18,7 @@ void PutNumber(std::string& out, std::int64_t number) {
     out.append(digits, end.ptr);
 }
 
-/// A length in points, exact to the twip.
+/// A length in points, exact to the twip. LibreOffice doesn't take a zero without its unit.
 void PutPoints(std::string& out, std::int32_t twips) {
     if (twips < 0) out += '-';
     const std::int64_t hundredths =
@@ -29,7 +29,7 @@ void PutPoints(std::string& out, std::int32_t twips) {
         out += static_cast<char>('0' + rest / 10);
         if (rest % 10 != 0) out += static_cast<char>('0' + rest % 10);
     }
-    if (twips != 0) out += "pt";
+    out += "pt";
 }
 
 void PutLength(std::string& out, std::string_view property, std::int32_t twips) {
@@ -139,10 +139,12 @@ public:
     }
 
 private:
+    /// LibreOffice puts a line of space after paragraphs that have none, so that they have a twip.
     void WriteHead() {
         out_ = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n"
                "<meta name=\"generator\" content=\"Korvane\">\n"
-               "<style>p{margin:0}table{border-collapse:collapse}td{vertical-align:top}</style>\n</head>\n"
+               "<style>p{margin:0pt 0pt 0.05pt 0pt;line-height:100%}table{border-collapse:collapse}"
+               "td{vertical-align:top}</style>\n</head>\n"
                "<body data-kv-page=\"";
         for (const std::int32_t size : document_.page.sizes) {
             PutNumber(out_, size);
@@ -270,7 +272,8 @@ private:
         if (link == nullptr) return;
         out_ += "<a href=\"";
         PutText(out_, link->typeData);
-        out_ += "\">";
+        // The looks of its characters say whether a link is coloured and underlined.
+        out_ += "\" style=\"color:inherit;text-decoration:none\">";
     }
 
     const Tags& TagsOf(Index look) {

@@ -1,7 +1,7 @@
 // Holds documents of this program and those of another word processor against each other, in two steps:
 // `document_trial make FOLDER COUNT` writes documents with everything that one can hold. A script lets the
 // other program convert them. `document_trial compare FOLDER COUNT` reads what came of them and prints how
-// much is equal. It fails when a text was lost.
+// much is equal. It fails when a text was lost, and when the other program shows RTF or DOCX in another way.
 
 #include "document/docx/Docx.h"
 #include "document/html/Html.h"
@@ -40,8 +40,22 @@ const std::vector<Format>& Formats() {
     return formats;
 }
 
-/// The document of this number. Notes are this program's own. Large letters in narrow cells keep the other
-/// program busy without an end.
+/// Makes the indents in cells so small that each line has room: the other program is busy without an end with
+/// lines that have none.
+void NarrowIndentsInCells(Document& document) {
+    constexpr std::int32_t kWidest = 300;
+    for (Paragraph& paragraph : document.paragraphs) {
+        if (paragraph.cell.table == 0) continue;
+        ParaFormat format = document.FormatOf(paragraph);
+        format.left = std::min(format.left, kWidest);
+        format.right = std::min(format.right, kWidest);
+        format.first = std::clamp(format.first, -kWidest, kWidest);
+        paragraph.format = document.paras.Add(format);
+    }
+}
+
+/// The document of this number. Notes are this program's own. As with the indents, letters and cells are such
+/// that a line has room.
 Document Source(unsigned number) {
     const std::uint16_t kLargest = 48;
     const std::int32_t kNarrowest = 1800;
@@ -65,6 +79,10 @@ Document Source(unsigned number) {
                 cell.width = std::max(cell.width, kNarrowest);
         }
     }
+    NarrowIndentsInCells(document);
+    // The other program takes the last paragraph of an RTF file out of its list.
+    if (document.FormatOf(document.paragraphs.back()).list.kind != ListKind::None)
+        document.paragraphs.emplace_back();
     for (Image& image : document.images)
         image.width = image.height = std::min(image.width, kNarrowest);
     return document;
@@ -105,7 +123,7 @@ struct Tally {
 };
 
 /// The first place where two texts differ, with what is around it.
-std::string Difference(TextView a, TextView b) {
+std::string FirstDifferenceOf(TextView a, TextView b) {
     const auto at = static_cast<std::size_t>(std::ranges::mismatch(a, b).in1 - a.begin());
     const std::size_t from = at < 15 ? 0 : at - 15;
     const auto piece = [from](TextView text) {
@@ -135,12 +153,12 @@ std::string DifferenceFrom(TextView plain, const Document& document) {
         if (text.empty()) continue;
         for (std::size_t mark = 1; mark > 0 && !plain.starts_with(text); plain.remove_prefix(mark))
             mark = MarkLength(plain);
-        if (!plain.starts_with(text)) return Difference(text, plain);
+        if (!plain.starts_with(text)) return FirstDifferenceOf(text, plain);
         plain.remove_prefix(text.size());
     }
     while (const std::size_t mark = MarkLength(plain))
         plain.remove_prefix(mark);
-    return plain.empty() ? std::string() : Difference({}, plain);
+    return plain.empty() ? std::string() : FirstDifferenceOf({}, plain);
 }
 
 /// Reads the files that the other program wrote, and compares their texts with what it writes as plain text.
@@ -163,36 +181,66 @@ Tally CompareTexts(const fs::path& folder, const Format& format, const std::stri
     return tally;
 }
 
-using Differences = std::map<std::string, int>;
+/// How often each attribute differs, and where it does first.
+struct Difference {
+    int count = 0;
+    std::vector<std::string> where{};
+};
+using Differences = std::map<std::string, Difference>;
 
-void CountDifferences(const Document& a, const CharFormat& x, const Document& b, const CharFormat& y,
-                      Differences& differences) {
-    const auto count = [&](const char* name, bool differs) { differences[name] += differs ? 1 : 0; };
-    count("font", a.fonts[x.font] != b.fonts[y.font]);
-    count("size", x.halfPoints != y.halfPoints);
-    count("bold", x.bold != y.bold);
-    count("italic", x.italic != y.italic);
-    count("underlined", x.underline != y.underline);
-    count("struck out", x.strike != y.strike);
-    count("small capitals", x.smallCaps != y.smallCaps);
-    count("colour", x.fore != y.fore);
-    count("background", x.back != y.back);
+class Comparison {
+public:
+    Comparison(Differences& differences, std::string where)
+        : differences_(differences), where_(std::move(where)) {}
+
+    void Note(const char* name, bool differs, const std::string& values) {
+        if (!differs) return;
+        Difference& difference = differences_[name];
+        if (++difference.count <= kExamples) difference.where.push_back(where_ + ": " + values);
+    }
+    void Compare(const char* name, std::int64_t mine, std::int64_t theirs, std::int64_t tolerance = 0) {
+        Note(name, std::abs(mine - theirs) > tolerance,
+             std::to_string(mine) + " / " + std::to_string(theirs));
+    }
+    void Compare(const char* name, const Text& mine, const Text& theirs) {
+        Note(name, mine != theirs, ToUtf8(mine) + " / " + ToUtf8(theirs));
+    }
+
+private:
+    static constexpr int kExamples = 3;
+    Differences& differences_;
+    std::string where_;
+};
+
+void CompareLooks(const Document& a, const CharFormat& x, const Document& b, const CharFormat& y,
+                  Comparison& comparison) {
+    comparison.Compare("font", a.fonts[x.font], b.fonts[y.font]);
+    comparison.Compare("size", x.halfPoints, y.halfPoints);
+    comparison.Compare("bold", x.bold, y.bold);
+    comparison.Compare("italic", x.italic, y.italic);
+    comparison.Compare("underlined", x.underline, y.underline);
+    comparison.Compare("struck out", x.strike, y.strike);
+    comparison.Compare("small capitals", x.smallCaps, y.smallCaps);
+    // In HTML all text has a colour there, if only black.
+    const Colour black{0};
+    const auto shown = [black](Colour colour) { return colour == kNoColour ? black : colour; };
+    comparison.Compare("colour", shown(x.fore).value, shown(y.fore).value);
+    comparison.Compare("background", x.back.value, y.back.value);
 }
 
-void CountDifferences(const ParaFormat& x, const ParaFormat& y, Differences& differences) {
-    constexpr std::int32_t kRounding = 20;
-    const auto far = [](std::int32_t a, std::int32_t b) { return std::abs(a - b) > kRounding; };
-    const auto count = [&](const char* name, bool differs) { differences[name] += differs ? 1 : 0; };
-    count("alignment", x.alignment != y.alignment);
-    count("left indent", far(x.left, y.left));
-    count("right indent", far(x.right, y.right));
-    count("first line", far(x.first, y.first));
-    count("space before", far(x.before, y.before));
-    count("space after", far(x.after, y.after));
-    count("line spacing", far(x.spacingExact, y.spacingExact) ||
-                              (x.spacingExact == 0 && std::abs(x.spacingPercent - y.spacingPercent) > 1));
-    count("tab stops", x.tabs.size() != y.tabs.size());
-    count("list", x.list.kind != y.list.kind || x.list.level != y.list.level);
+void CompareLooks(const ParaFormat& x, const ParaFormat& y, Comparison& comparison) {
+    constexpr std::int64_t kRounding = 20;
+    comparison.Compare("alignment", static_cast<int>(x.alignment), static_cast<int>(y.alignment));
+    comparison.Compare("left indent", x.left, y.left, kRounding);
+    comparison.Compare("right indent", x.right, y.right, kRounding);
+    comparison.Compare("first line", x.first, y.first, kRounding);
+    comparison.Compare("space before", x.before, y.before, kRounding);
+    comparison.Compare("space after", x.after, y.after, kRounding);
+    comparison.Compare("exact line spacing", x.spacingExact, y.spacingExact, kRounding);
+    if (x.spacingExact == 0) comparison.Compare("line spacing", x.spacingPercent, y.spacingPercent, 1);
+    comparison.Compare("tab stops", static_cast<int>(x.tabs.size()), static_cast<int>(y.tabs.size()));
+    comparison.Compare("list", static_cast<int>(x.list.kind), static_cast<int>(y.list.kind));
+    comparison.Compare("level of a list", x.list.level, y.list.level);
 }
 
 /// The format of each character.
@@ -210,36 +258,81 @@ struct Attributes {
     Differences ofParagraphs{};
 };
 
-void CompareParagraphs(const Document& a, const Document& b, Attributes& attributes) {
+/// The text as HTML shows it where it isn't told otherwise, which the other program can't be.
+Text WithSingleBlanks(const Text& text) {
+    Text shown;
+    for (const char16_t c : text) {
+        const char16_t blank = c == u'\t' ? u' ' : c;
+        if (blank != u' ' || (!shown.empty() && shown.back() != u' ' && shown.back() != kLineBreak))
+            shown += blank;
+    }
+    while (shown.ends_with(u' '))
+        shown.pop_back();
+    return shown;
+}
+
+void CompareParagraphs(const std::string& file, const Document& a, const Document& b,
+                       const std::function<Text(const Text&)>& shown, Attributes& attributes) {
     // Without the paragraphs that only end a table or the document.
     std::size_t next = 0;
     for (const Paragraph& source : a.paragraphs) {
-        if (source.text.empty()) continue;
+        const Text text = shown(source.text);
+        if (text.empty()) continue;
         std::size_t found = next;
-        while (found < b.paragraphs.size() && b.paragraphs[found].text != source.text)
+        while (found < b.paragraphs.size() && shown(b.paragraphs[found].text) != text)
             ++found;
+        const std::string where = file + " \"" + ToUtf8(source.text.substr(0, 20)) + '"';
+        Comparison paragraphs(attributes.ofParagraphs, where);
         if (found == b.paragraphs.size()) {
-            ++attributes.ofParagraphs["text"];
+            paragraphs.Compare("text", source.text,
+                               next < b.paragraphs.size() ? b.paragraphs[next].text : Text());
             continue;
         }
         const Paragraph& other = b.paragraphs[found];
         next = found + 1;
         ++attributes.paragraphs;
-        CountDifferences(a.FormatOf(source), b.FormatOf(other), attributes.ofParagraphs);
+        CompareLooks(a.FormatOf(source), b.FormatOf(other), paragraphs);
+        if (source.text != other.text) continue;
         const std::vector<CharFormat> x = FormatsOf(a, source);
         const std::vector<CharFormat> y = FormatsOf(b, other);
         for (std::size_t i = 0; i < x.size() && i < y.size(); ++i) {
+            // Pictures have no look of letters there.
+            if (source.text[i] == kImageCharacter) continue;
             ++attributes.characters;
-            CountDifferences(a, x[i], b, y[i], attributes.ofCharacters);
+            Comparison characters(attributes.ofCharacters, where + " at " + std::to_string(i));
+            CompareLooks(a, x[i], b, y[i], characters);
         }
     }
 }
 
-void PrintDifferences(const Differences& differences, int of) {
-    for (const auto& [name, count] : differences) {
-        if (count > 0) std::printf(" %s %.1f %%,", name.c_str(), 100.0 * count / std::max(of, 1));
+void Print(const Differences& differences, int of) {
+    for (const auto& [name, difference] : differences) {
+        std::printf("    %s %.1f %%\n", name.c_str(), 100.0 * difference.count / std::max(of, 1));
+        for (const std::string& where : difference.where)
+            std::printf("      %s\n", where.c_str());
     }
-    std::printf("\n");
+}
+
+/// What the other program shows of a document of this program, and whether it is all the same. HTML has no
+/// tab stops, and the other program takes lists and exact line spacing from it in other ways.
+bool CompareAttributes(const fs::path& folder, const Format& format, unsigned count) {
+    const bool html = format.name == "html";
+    const auto shown = [html](const Text& text) { return html ? WithSingleBlanks(text) : text; };
+    Attributes attributes;
+    for (unsigned number = 1; number <= count; ++number) {
+        const auto bytes = BytesOf(FileOf(folder / ("docx-from-" + format.name), number, "docx"));
+        if (bytes)
+            CompareParagraphs(std::to_string(number), Source(number), ReadDocx(*bytes).document, shown,
+                              attributes);
+    }
+    std::printf("%s of this program, saved by the other as DOCX: %d paragraphs, %d characters\n",
+                format.name.c_str(), attributes.paragraphs, attributes.characters);
+    std::printf("  paragraphs that differ:\n");
+    Print(attributes.ofParagraphs, attributes.paragraphs);
+    std::printf("  characters that differ:\n");
+    Print(attributes.ofCharacters, attributes.characters);
+    const bool same = attributes.ofParagraphs.empty() && attributes.ofCharacters.empty();
+    return attributes.paragraphs > 0 && (html ? !attributes.ofParagraphs.contains("text") : same);
 }
 
 bool Compare(const fs::path& folder, unsigned count) {
@@ -252,19 +345,8 @@ bool Compare(const fs::path& folder, unsigned count) {
                     tally.equal, tally.other, tally.unread);
         whole = whole && tally.other == 0 && tally.equal > 0;
     }
-    for (const Format& format : Formats()) {
-        Attributes attributes;
-        for (unsigned number = 1; number <= count; ++number) {
-            const auto bytes = BytesOf(FileOf(folder / ("rtf-from-" + format.name), number, "rtf"));
-            if (bytes) CompareParagraphs(Source(number), ReadRtf(*bytes).document, attributes);
-        }
-        std::printf("%s of this program, saved by the other as RTF: %d paragraphs, %d characters\n",
-                    format.name.c_str(), attributes.paragraphs, attributes.characters);
-        std::printf("  paragraphs that differ:");
-        PrintDifferences(attributes.ofParagraphs, attributes.paragraphs);
-        std::printf("  characters that differ:");
-        PrintDifferences(attributes.ofCharacters, attributes.characters);
-    }
+    for (const Format& format : Formats())
+        whole = CompareAttributes(folder, format, count) && whole;
     return whole;
 }
 
