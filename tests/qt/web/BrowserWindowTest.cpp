@@ -60,21 +60,20 @@ TEST_F(BrowserWindowTest, HasItsLeastSizeFromTheBeginning) {
     EXPECT_GE(window.height(), kLeast.height());
 }
 
-TEST_F(BrowserWindowTest, ThePageTakesTheRoomOfTheStatusBarWhileThatIsHidden) {
+TEST_F(BrowserWindowTest, ThePageEndsFortyTwipsAboveTheWindowsEdgeOrTheStatusBar) {
     QWidget& window = Open(u"x.org");
     auto& bar = Find<QLabel>("StatusBar1");
-    const int shown = BelowPage();
-    EXPECT_GT(shown, bar.height());
+    const int gap = ToPixels(Twips{40});
+    EXPECT_EQ(BelowPage(), bar.height() + gap);
     Find<QToolButton>("cmdStatusBar").click();
     EXPECT_FALSE(bar.isVisible());
-    EXPECT_LE(BelowPage(), shown - bar.height());
-    const int hidden = BelowPage();
+    EXPECT_EQ(BelowPage(), gap);
     window.resize(window.width() + 100, window.height() + 100);
-    EXPECT_EQ(BelowPage(), hidden);
+    EXPECT_EQ(BelowPage(), gap);
     Find<QToolButton>("cmdStatusBar").click();
-    EXPECT_EQ(BelowPage(), shown);
+    EXPECT_EQ(BelowPage(), bar.height() + gap);
     window.resize(window.width(), window.height() - 60);
-    EXPECT_EQ(BelowPage(), shown);
+    EXPECT_EQ(BelowPage(), bar.height() + gap);
 }
 
 TEST_F(BrowserWindowTest, APictureThatComesLaterLeavesThePageWhereItIs) {
