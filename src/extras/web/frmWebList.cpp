@@ -432,22 +432,23 @@ void frmWebList::AddAtEnd(TextView name, TextView url) {
 }
 
 void frmWebList::DeleteItems() {
-    const int count = InGroups() ? int{lstGroup.ListIndex() >= 0} : ListView1.SelectedCount();
+    const std::vector<int> groups = SelectedGroups();
+    const int count = InGroups() ? static_cast<int>(groups.size()) : ListView1.SelectedCount();
     if (count == 0) return Inform(app_, u"No items checked.");
     if (!AskYesNo(app_, u"Delete " + NumberText(count) + u" items from list ? ", YesNoDefault::No)) return;
     // What is in the fields must not be written over another entry.
     Reject();
     ListDirty = 1;
-    if (InGroups()) return DeleteGroup();
+    if (InGroups()) return DeleteGroups(groups);
     const UpdateScope update(ListView1);
     for (const int row : ListView1.SelectedRows())
         SetTexts(row, kDeletedWebsite, kDeletedWebsite);
 }
 
-void frmWebList::DeleteGroup() {
-    const int index = lstGroup.ListIndex();
-    lstGroup.RemoveItem(index);
-    lstGroup.SetListIndex(std::min(index, lstGroup.ListCount() - 1));
+void frmWebList::DeleteGroups(const std::vector<int>& groups) {
+    const UpdateScope update(lstGroup);
+    std::for_each(groups.rbegin(), groups.rend(), [this](int index) { lstGroup.RemoveItem(index); });
+    SelectGroup(std::min(groups.front(), lstGroup.ListCount() - 1));
 }
 
 /// Check marks stay in their places. Kept for compatibility: website-moves-leave-checks.
@@ -466,6 +467,7 @@ void frmWebList::MoveUp() {
     if (!InGroups()) return SwapCurrentWith(ListView1.Current() - 1);
     if (lstGroup.ListIndex() <= 0) return;
     MoveEntryUp(lstGroup);
+    SelectGroup(lstGroup.ListIndex());
     ListDirty = 1;
 }
 
@@ -473,10 +475,24 @@ void frmWebList::MoveDown() {
     if (!InGroups()) return SwapCurrentWith(ListView1.Current() + 1);
     if (lstGroup.ListIndex() < 0 || lstGroup.ListIndex() >= lstGroup.ListCount() - 1) return;
     MoveEntryDown(lstGroup);
+    SelectGroup(lstGroup.ListIndex());
     ListDirty = 1;
 }
 
 // ---- Groups ---------------------------------------------------------------------------------------------
+
+std::vector<int> frmWebList::SelectedGroups() const {
+    std::vector<int> groups;
+    for (int index = 0; index < lstGroup.ListCount(); ++index)
+        if (lstGroup.Selected(index)) groups.push_back(index);
+    return groups;
+}
+
+void frmWebList::SelectGroup(int index) {
+    for (int each = 0; each < lstGroup.ListCount(); ++each)
+        lstGroup.SetSelected(each, each == index);
+    lstGroup.SetListIndex(index);
+}
 
 void frmWebList::AddToGroup() {
     const std::vector<int> rows = CheckedWebsites();
@@ -484,7 +500,7 @@ void frmWebList::AddToGroup() {
         return Warn(app_, u"You must select at least two items for a group list entry!");
     ListDirty = 1;
     lstGroup.AddItem(AddressesOf(rows));
-    lstGroup.SetListIndex(lstGroup.ListCount() - 1);
+    SelectGroup(lstGroup.ListCount() - 1);
     OpenGroups();
 }
 

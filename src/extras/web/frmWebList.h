@@ -12,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace korvane {
 
@@ -117,6 +118,10 @@ private:
     std::vector<int> CheckedWebsites() const;
     Text AddressesOf(const std::vector<int>& rows) const;
     Choice Chosen() const;
+    /// The groups that the user has selected, in their order.
+    std::vector<int> SelectedGroups() const;
+    /// Makes the group the current one, and selects it alone.
+    void SelectGroup(int index);
     bool InGroups() const { return frameGroup.Visible; }
     /// Whether the group window is open, in which a message refuses the command.
     bool RefusedInGroups();
@@ -130,7 +135,7 @@ private:
     void AddItem();
     void Duplicate();
     void DeleteItems();
-    void DeleteGroup();
+    void DeleteGroups(const std::vector<int>& groups);
     void InsertSeparator();
     void MoveUp();
     void MoveDown();

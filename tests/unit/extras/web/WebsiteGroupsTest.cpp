@@ -28,6 +28,7 @@ TEST_F(WebsiteGroupsTest, TheCheckedWebsitesBecomeAGroup) {
         f.cmdAddToGroup.Press();
         EXPECT_THAT(Groups(f), ElementsAre(u"http://a http://b", u"http://c", u"http://a http://c "));
         EXPECT_EQ(f.lstGroup.ListIndex(), 2);
+        EXPECT_TRUE(f.lstGroup.Selected(2));
         EXPECT_TRUE(f.frameGroup.Visible);
         EXPECT_EQ(f.Focused(), &f.lstGroup);
         EXPECT_EQ(f.ListDirty, 1);
@@ -183,7 +184,7 @@ TEST_F(WebsiteGroupsTest, AGroupIsDeletedAtOnce) {
     InGroups([this](frmWebList& f) {
         t.user.Answer({u"No items checked.", MessageIcon::Information}, Answer::Ok);
         f.cmdDelete.Press();
-        f.lstGroup.Select(1);
+        f.lstGroup.SetSelected(1, true);
         t.user.Answer(Answer::No);
         f.cmdDelete.Press();
         EXPECT_EQ(f.ListDirty, 0);
@@ -197,6 +198,20 @@ TEST_F(WebsiteGroupsTest, AGroupIsDeletedAtOnce) {
     });
 }
 
+TEST_F(WebsiteGroupsTest, AllSelectedGroupsAreDeleted) {
+    With("***\r\na\r\nb\r\nc\r\nd\r\n", [this](frmWebList& f) {
+        f.cmdGroupWin.Press();
+        f.lstGroup.SetSelected(1, true);
+        f.lstGroup.SetSelected(3, true);
+        t.user.Answer(Question(u"Delete 2 items from list ? ", MessageButtons::YesNo, 2), Answer::Yes);
+        f.cmdDelete.Press();
+        EXPECT_THAT(Groups(f), ElementsAre(u"a", u"c"));
+        EXPECT_EQ(f.lstGroup.ListIndex(), 1);
+        EXPECT_TRUE(f.lstGroup.Selected(1));
+        EXPECT_FALSE(f.lstGroup.Selected(0));
+    });
+}
+
 TEST_F(WebsiteGroupsTest, AGroupMovesWithinTheGroups) {
     InGroups([](frmWebList& f) {
         f.cmdArrowDown.Press();
@@ -206,6 +221,8 @@ TEST_F(WebsiteGroupsTest, AGroupMovesWithinTheGroups) {
         f.cmdArrowDown.Press();
         EXPECT_THAT(Groups(f), ElementsAre(u"http://c", u"http://a http://b"));
         EXPECT_EQ(f.lstGroup.ListIndex(), 1);
+        EXPECT_TRUE(f.lstGroup.Selected(1));
+        EXPECT_FALSE(f.lstGroup.Selected(0));
         EXPECT_EQ(f.ListDirty, 1);
         f.ListDirty = 0;
         f.cmdArrowDown.Press();
