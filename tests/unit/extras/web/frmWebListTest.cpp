@@ -24,6 +24,7 @@ TEST_F(WebListTest, ShowsTheRowsAndGroupsOfTheFile) {
         EXPECT_THAT(Groups(f), ElementsAre(u"http://a http://b", u"http://c"));
         EXPECT_EQ(f.ListView1.KeyAt(2), u"K_ 2");
         EXPECT_EQ(f.ListView1.Current(), 1);
+        EXPECT_THAT(f.ListView1.SelectedRows(), ElementsAre(1));
         EXPECT_EQ(f.Caption.Get(), u"Website list :  " + kList + u"  ( 3 entries )");
         EXPECT_EQ(f.Focused(), &f.ListView1);
         EXPECT_EQ(f.ListDirty, 0);
@@ -287,6 +288,33 @@ TEST_F(WebListTest, TheChosenBrowserIsStartedAndKept) {
         EXPECT_EQ(t.app.Settings.WebListD, 3);
     });
     EXPECT_THAT(t.shell.Starts(), ElementsAre(ProgramStart{u"C:\\Web\\c.exe", {u"http://b"}}));
+}
+
+TEST_F(WebListTest, OnlyALoadStoresTheBrowsersBeforeTheWindowCloses) {
+    With("A\r\na\r\n1\r\nB\r\nb\r\n1\r\nC\r\nc\r\n1\r\nD\r\nd\r\n1\r\n", [this](frmWebList& f) {
+        f.prgText1.Type(u"mybrowser");
+        f.Option2.Press();
+        t.user.Answer(Answer::No);
+        f.cmdLoadItem.Press();
+        EXPECT_EQ(t.app.Settings.WebListA, kBrowser);
+        f.OfficeMenu1.Choose("mnuInsertSeparator");
+        Check(f, {});
+        f.cmdLoadItem.Press();
+        EXPECT_EQ(t.app.Settings.WebListA, kBrowser);
+        EXPECT_NE(t.app.Settings.WebListD, 2);
+    });
+    EXPECT_EQ(t.app.Settings.WebListA, u"mybrowser");
+    EXPECT_EQ(t.app.Settings.WebListD, 2);
+    EXPECT_THAT(t.shell.Starts(), IsEmpty());
+}
+
+TEST_F(WebListTest, ALoadLeavesTheCurrentDirectoryAlone) {
+    t.files.AddDir(u"C:\\Elsewhere");
+    t.files.ChangeDir(u"C:\\Elsewhere");
+    InWindow([](frmWebList& f) { f.cmdLoadItem.Press(); });
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\Elsewhere");
+    ASSERT_EQ(t.shell.Starts().size(), 1U);
+    EXPECT_EQ(t.shell.Starts().front().window, WindowState::Normal);
 }
 
 TEST_F(WebListTest, WithoutABrowserTheDesktopsOwnTakesEachAddress) {
