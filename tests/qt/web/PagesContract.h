@@ -183,6 +183,7 @@ TYPED_TEST_P(PagesContract, AServerWithoutAGoodCertificateGetsNoRequest) {
     this->GoTo(untrusted.Address("/a", "https"));
     EXPECT_THAT(untrusted.Paths(), testing::IsEmpty());
     EXPECT_FALSE(this->Shows(u"secret"));
+    EXPECT_NE(Trim(this->stage.Shown()), u"");
 }
 
 TYPED_TEST_P(PagesContract, CanGoWhileItLoads) {

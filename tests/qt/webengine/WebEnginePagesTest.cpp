@@ -6,6 +6,8 @@
 #include "support/ScriptedUser.h"
 #include "support/TempDir.h"
 
+#include <signal.h>
+
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -179,6 +181,17 @@ TEST_F(WebEnginePagesTest, ThePageFillsItsPlaceAndTakesTheKeyboard) {
     EXPECT_EQ(stage.Page().parentWidget()->focusProxy(), &stage.Page());
     EXPECT_GT(stage.Page().width(), 300);
     EXPECT_EQ(stage.Page().accessibleName(), "Page");
+}
+
+TEST_F(WebEnginePagesTest, APageWhoseProcessEndsIsTold) {
+    server.Put("/p", "<p>Public</p>");
+    GoTo(server.Address("/p"));
+    After([this] { kill(static_cast<pid_t>(stage.Page().page()->renderProcessPid()), SIGKILL); });
+    EXPECT_TRUE(Shows(u"stopped working"));
+    EXPECT_TRUE(Shows(server.Address("/p")));
+    server.Put("/q", "<p>Next</p>");
+    GoTo(server.Address("/q"));
+    EXPECT_TRUE(Shows(u"Next"));
 }
 
 /// Counts how often a window gets the key with which its user leaves it.

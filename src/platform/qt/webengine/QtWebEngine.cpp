@@ -80,6 +80,8 @@ QtWebEngine::QtWebEngine(const WebEngineSeat& seat)
             [](QWebEngineDownloadRequest* download) { download->cancel(); });
     connect(page_, &QWebEnginePage::loadStarted, this, &QtWebEngine::Started);
     connect(page_, &QWebEnginePage::loadFinished, this, &QtWebEngine::Finished);
+    connect(page_, &QWebEnginePage::renderProcessTerminated, this, &QtWebEngine::TellOfTheEnd,
+            Qt::QueuedConnection);
     connect(page_, &QuietPage::Refused, this, &QtWebEngine::Complete, Qt::QueuedConnection);
 }
 
@@ -138,6 +140,11 @@ void QtWebEngine::Started() {
 
 void QtWebEngine::Finished() {
     if (!asked_) Complete();
+}
+
+/// A page may take all memory that there is for its process, or more than its engine can bear.
+void QtWebEngine::TellOfTheEnd() {
+    page_->ShowNote(QStringLiteral("This page has stopped working."), page_->url().toDisplayString());
 }
 
 void QtWebEngine::Begin() {

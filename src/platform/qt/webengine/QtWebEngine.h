@@ -37,6 +37,8 @@ private:
     void Ask();
     void Started();
     void Finished();
+    /// After the process of the page has ended.
+    void TellOfTheEnd();
     void Begin();
     void Complete();
 
