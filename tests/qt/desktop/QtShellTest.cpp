@@ -124,6 +124,16 @@ TEST(QtShell, HandsEachArgumentOverAsItStands) {
     EXPECT_EQ(ReadBytes(pipe), "payload");
 }
 
+TEST(QtShell, HandsTenThousandAddressesOver) {
+    const TempDir dir;
+    const std::filesystem::path pipe = dir / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    std::vector<Text> words{u"-c", u"echo $# \"$1\" > " + FromUtf8(pipe.native()), u"sh"};
+    words.resize(words.size() + 10'000, u"https://www.example.org/a/page?of=many&with=a+long+address");
+    ASSERT_EQ(QtShell().Run(u"/bin/sh", words, WindowState::Normal), 1);
+    EXPECT_EQ(ReadBytes(pipe), "10000 https://www.example.org/a/page?of=many&with=a+long+address\n");
+}
+
 } // namespace
 } // namespace korvane
 
