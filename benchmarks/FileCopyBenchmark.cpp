@@ -18,6 +18,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -139,22 +140,32 @@ void Print(const char* name, const std::vector<Seconds>& rounds, const std::vect
                 processor / median(floor, &Seconds::processor));
 }
 
+struct Contender {
+    const char* name;
+    int (*copy)(const Stage& stage);
+    std::vector<Seconds> rounds{};
+};
+
 void Measure(const char* what, const Stage& stage, int rounds) {
-    std::vector<Seconds> plain;
-    std::vector<Seconds> keeping;
-    std::vector<Seconds> jobs;
-    for (int round = 0; round < rounds; ++round) {
+    std::array<Contender, 3> contenders{{
+        {"cp", [](const Stage& each) { return RunCp(each, "--no-preserve=all"); }},
+        {"cp -p", [](const Stage& each) { return RunCp(each, "--preserve=mode,timestamps"); }},
+        {"the job", RunJob},
+    }};
+    const auto measure = [&stage](Contender& contender) {
         Clean(stage);
-        plain.push_back(TimeOf([&stage] { return RunCp(stage, "--no-preserve=all"); }));
-        Clean(stage);
-        keeping.push_back(TimeOf([&stage] { return RunCp(stage, "--preserve=mode,timestamps"); }));
-        Clean(stage);
-        jobs.push_back(TimeOf([&stage] { return RunJob(stage); }));
+        contender.rounds.push_back(TimeOf([&] { return contender.copy(stage); }));
+    };
+    // Each begins a round in its turn, because the first copy after a rest of the disk differs from the
+    // others.
+    const std::size_t count = contenders.size();
+    for (std::size_t round = 0; round < static_cast<std::size_t>(rounds); ++round) {
+        for (std::size_t turn = 0; turn < count; ++turn)
+            measure(contenders[(round + turn) % count]);
     }
     std::printf("%s\n", what);
-    Print("cp", plain, plain);
-    Print("cp -p", keeping, plain);
-    Print("the job", jobs, plain);
+    for (const Contender& contender : contenders)
+        Print(contender.name, contender.rounds, contenders.front().rounds);
 }
 
 void MakeFile(const fs::path& path, std::size_t size) {

@@ -45,6 +45,9 @@ struct KeyEvent {
     int code = 0;
     int mask = Mask::None;
     bool consumed = false;
+    /// The character that it types; 0 when it types none, and with Ctrl or Alt. Which key types a sign
+    /// differs between keyboards.
+    char16_t typed = 0;
 
     bool Is(int wantedCode, int wantedMask) const { return code == wantedCode && mask == wantedMask; }
     /// Whether the key only changes what others mean.

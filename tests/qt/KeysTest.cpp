@@ -40,6 +40,19 @@ TEST(KeysTest, BothMinusKeysHaveACodeOfTheirOwn) {
     EXPECT_EQ(Pressed(Qt::Key_Minus, Qt::KeypadModifier).code, Key::NumMinus);
 }
 
+TEST(KeysTest, ASignIsToldWhateverKeyTypesIt) {
+    const auto typed = [](int key, Qt::KeyboardModifiers modifiers, const char* text) {
+        return ToKeyEvent(QKeyEvent(QEvent::KeyPress, key, modifiers, QString::fromLatin1(text))).typed;
+    };
+    EXPECT_EQ(typed(Qt::Key_Minus, Qt::NoModifier, "-"), u'-');
+    EXPECT_EQ(typed(Qt::Key_6, Qt::NoModifier, "-"), u'-');
+    EXPECT_EQ(typed(Qt::Key_Minus, Qt::KeypadModifier, "-"), u'-');
+    EXPECT_EQ(typed(Qt::Key_6, Qt::ShiftModifier, "6"), u'6');
+    EXPECT_EQ(typed(Qt::Key_Minus, Qt::AltModifier, "-"), u'\0');
+    EXPECT_EQ(typed(Qt::Key_Return, Qt::NoModifier, "\r"), u'\0');
+    EXPECT_EQ(typed(Qt::Key_F1, Qt::NoModifier, ""), u'\0');
+}
+
 TEST(KeysTest, TabBackwardsIsTabWithShift) {
     const KeyEvent key = Pressed(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_TRUE(key.Is(Key::Tab, Mask::Shift));

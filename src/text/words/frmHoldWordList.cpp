@@ -47,8 +47,6 @@ constexpr TextView kListFilter = u"List files (*.lst)|*.lst|All files (*.*)|*.*"
 /// Far more than a person collects.
 constexpr std::int64_t kLargestWordList = 64'000'000;
 
-/// The key of the minus sign, apart from that on the keypad.
-constexpr int kMinusKey = 189;
 /// From this shift mask on, U and D move a row.
 constexpr int kLeastMoveMask = 3;
 
@@ -111,7 +109,6 @@ struct frmHoldWordList::Tables {
     static constexpr WindowKey<Window> kKeys[] = {
         {"Esc", &Window::cmdCancel},
         {"Return", &Window::cmdOk},
-        {"NumMinus", &Window::cmdOk},
         {"Ctrl+Shift+F2", &Window::CentreInMainWindow},
         {"Any+U", &Window::UpKey},
         // It takes Ctrl+Alt+D too, which shows the desktop elsewhere. Kept for compatibility:
@@ -430,7 +427,10 @@ void frmHoldWordList::mnuExplorer_Click() {
 // Keys.
 
 void frmHoldWordList::lstWordList_KeyDown(KeyEvent& key) {
-    if (key.Is(kMinusKey, Mask::None)) key.code = Key::NumMinus;
+    if (key.typed == u'-') {
+        key.consumed = true;
+        return cmdOk.Press();
+    }
     const Form* main = MainForm();
     if (main == nullptr || !DockByKey(app_, *main, *this, key)) RunKey(Tables::kKeys, *this, key);
 }

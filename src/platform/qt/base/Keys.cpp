@@ -102,10 +102,16 @@ int MaskOf(Qt::KeyboardModifiers modifiers) {
            (modifiers.testFlag(Qt::AltModifier) ? Mask::Alt : Mask::None);
 }
 
+char16_t Typed(const QKeyEvent& event) {
+    const QString text = event.text();
+    const bool plain = !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    return plain && text.size() == 1 && text[0].isPrint() ? text[0].unicode() : u'\0';
+}
+
 } // namespace
 
 KeyEvent ToKeyEvent(const QKeyEvent& event) {
-    return {Code(event), MaskOf(event.modifiers()), false};
+    return {Code(event), MaskOf(event.modifiers()), false, Typed(event)};
 }
 
 } // namespace korvane

@@ -17,10 +17,21 @@ TEST_F(WordListKeys, EscClosesAndReturnOrMinusTakes) {
                   EXPECT_FALSE(f.Shown());
               }),
               std::nullopt);
+    EXPECT_EQ(Open([](frmHoldWordList& f) { EXPECT_TRUE(Press(f, Key::Return)); }), u"one");
+    // The sign is on other keys too: on some keyboards on that of a digit.
     constexpr int kMinus = 189;
-    for (const int code : {Key::Return, kMinus, Key::NumMinus}) {
-        EXPECT_EQ(Open([code](frmHoldWordList& f) { EXPECT_TRUE(Press(f, code)); }), u"one");
+    for (const int code : {kMinus, Key::NumMinus, int{'6'}}) {
+        EXPECT_EQ(Open([code](frmHoldWordList& f) {
+                      KeyEvent key{.code = code, .typed = u'-'};
+                      f.lstWordList.KeyDown(key);
+                      EXPECT_TRUE(key.consumed);
+                  }),
+                  u"one");
     }
+    Open([](frmHoldWordList& f) {
+        EXPECT_FALSE(Press(f, '6'));
+        f.Close();
+    });
 }
 
 TEST_F(WordListKeys, DocksBesideTheMainWindow) {
