@@ -40,14 +40,17 @@ Tints PaletteTints(QIcon::Mode mode) {
     return IsDark(palette) ? Tints{text, kAccentOnDark} : Tints{kStroke, kAccent};
 }
 
-QPixmap Draw(QByteArray svg, const QSize& size, const Tints& tints) {
+QPixmap Draw(const QString& path, const QSize& size, const Tints& tints) {
+    QFile file(path);
+    QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     return DrawSvg(svg.replace(kStroke, tints.stroke).replace(kAccent, tints.accent), size);
 }
 
+/// It reads its file when it is drawn for the first time, and most windows find it drawn already.
 class TintedEngine : public QIconEngine {
 public:
     /// With an invalid colour the icon takes its colours from the palette.
-    TintedEngine(QByteArray svg, const QColor& colour) : svg_(std::move(svg)), colour_(colour) {}
+    TintedEngine(QString path, const QColor& colour) : path_(std::move(path)), colour_(colour) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
         const qreal ratio = painter->device()->devicePixelRatioF();
@@ -55,26 +58,43 @@ public:
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+        // A list asks for the same again in each row.
+        const qint64 colours = QGuiApplication::palette().cacheKey();
+        if (last_.pixmap.isNull() || last_.size != size || last_.mode != mode || last_.colours != colours)
+            last_ = {size, mode, colours, Drawn(size, mode)};
+        return last_.pixmap;
+    }
+
+    QIconEngine* clone() const override { return new TintedEngine(path_, colour_); }
+    // It is only made for a file that is there.
+    bool isNull() override { return false; }
+
+private:
+    struct Last {
+        QSize size;
+        QIcon::Mode mode = QIcon::Normal;
+        qint64 colours = 0;
+        QPixmap pixmap;
+    };
+
+    QPixmap Drawn(const QSize& size, QIcon::Mode mode) const {
         const QByteArray own = colour_.name().toLatin1();
         const Tints tints = colour_.isValid() ? Tints{own, own} : PaletteTints(mode);
         const QString key = QStringLiteral("tinted/%1/%2x%3/%4/%5")
-                                .arg(qHash(svg_))
+                                .arg(path_)
                                 .arg(size.width())
                                 .arg(size.height())
                                 .arg(QLatin1String(tints.stroke), QLatin1String(tints.accent));
         QPixmap pixmap;
         if (QPixmapCache::find(key, &pixmap)) return pixmap;
-        pixmap = Draw(svg_, size, tints);
+        pixmap = Draw(path_, size, tints);
         QPixmapCache::insert(key, pixmap);
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new TintedEngine(svg_, colour_); }
-    bool isNull() override { return svg_.isEmpty(); }
-
-private:
-    QByteArray svg_;
+    QString path_;
     QColor colour_;
+    Last last_;
 };
 
 /// The icon has the name of the part unless the window's look names another one.
@@ -98,9 +118,8 @@ QIcon TintedIcon(const QString& name) {
 }
 
 QIcon TintedIcon(const QString& name, const QColor& colour) {
-    QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
-    if (name.isEmpty() || !file.open(QIODevice::ReadOnly)) return {};
-    return QIcon(new TintedEngine(file.readAll(), colour));
+    const QString path = QStringLiteral(":/icons/%1.svg").arg(name);
+    return name.isEmpty() || !QFile::exists(path) ? QIcon() : QIcon(new TintedEngine(path, colour));
 }
 
 QIcon IconFromFile(const QString& path, const QString& otherwise) {

@@ -1,0 +1,11 @@
+#include "platform/qt/lists/TypedComboBox.h"
+
+#include <QLineEdit>
+
+namespace korvane {
+
+TypedComboBox::TypedComboBox(QWidget* parent) : QComboBox(parent) {
+    setLineEdit(new QLineEdit(this));
+}
+
+} // namespace korvane
