@@ -99,6 +99,8 @@ int Program::Run(const Text& path) {
     keptTables_.LookForUnsaved();
     main.Show();
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
+    // Most users open a file next.
+    forms_.MakeAheadSoon("frmGetFileFromTree");
     QObject whileItRuns;
     CloseAtLogOut(
         main, [&] { CloseUnasked(main); }, whileItRuns);

@@ -73,7 +73,14 @@ std::unique_ptr<QWidget> MakeAsk() {
     return window;
 }
 
-constexpr FormEntry kForms[] = {{"frmAsk", MakeAsk<QDialog>}, {"frmMain", MakeAsk<QMainWindow>}};
+std::unique_ptr<QWidget> MakeFrequent() {
+    auto window = MakeAsk<QDialog>();
+    window->setProperty("madeAhead", true);
+    return window;
+}
+
+constexpr FormEntry kForms[] = {
+    {"frmAsk", MakeAsk<QDialog>}, {"frmMain", MakeAsk<QMainWindow>}, {"frmFrequent", MakeFrequent}};
 
 class QtFormHostTest : public testing::Test {
 protected:
@@ -96,6 +103,34 @@ TEST_F(QtFormHostTest, AModalWindowReturnsWhenItHasClosed) {
     EXPECT_EQ(form.answer, "other");
     EXPECT_FALSE(form.Shown());
     EXPECT_EQ(host.WidgetOf(form), nullptr);
+}
+
+TEST_F(QtFormHostTest, ALookThatWasMadeAheadIsThatOfTheNextOpeningAlone) {
+    host.MakeAhead("frmAsk");
+    host.MakeAhead("noSuchForm");
+    EXPECT_TRUE(host.IsMadeAhead("frmAsk"));
+    EXPECT_FALSE(host.IsMadeAhead("noSuchForm"));
+    for (int opening = 0; opening < 2; ++opening) {
+        Then([this] {
+            EXPECT_FALSE(host.IsMadeAhead("frmAsk"));
+            QTest::mouseClick(&Widget("cmdOther"), Qt::LeftButton);
+        });
+        form.answer.clear();
+        form.ShowModal();
+        EXPECT_EQ(form.answer, "other");
+    }
+}
+
+TEST_F(QtFormHostTest, AWindowThatOpensOftenIsMadeAgainSoonAfterItHasClosed) {
+    frmAsk frequent(host, "frmFrequent");
+    frequent.Show();
+    EXPECT_FALSE(host.IsMadeAhead("frmFrequent"));
+    frequent.Close();
+    EXPECT_FALSE(host.IsMadeAhead("frmFrequent"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return host.IsMadeAhead("frmFrequent"); }));
+    form.Show();
+    form.Close();
+    EXPECT_FALSE(host.IsMadeAhead("frmAsk"));
 }
 
 TEST_F(QtFormHostTest, TheWishForTheKeyboardOfALoadingWindowIsKept) {

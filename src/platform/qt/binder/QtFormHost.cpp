@@ -7,10 +7,19 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QTimer>
 #include <algorithm>
+#include <chrono>
+#include <string>
 #include <utility>
 
 namespace korvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds kSoon{500};
+
+} // namespace
 
 QtFormHost::QtFormHost(std::span<const FormEntry> forms) : forms_(forms) {}
 
@@ -21,11 +30,28 @@ QtFormHost::~QtFormHost() {
     }
 }
 
-std::unique_ptr<QWidget> QtFormHost::MakeLook(const Form& form) const {
-    const auto entry = std::find_if(forms_.begin(), forms_.end(), [&form](const FormEntry& candidate) {
-        return candidate.name == form.Name();
-    });
-    return entry == forms_.end() ? nullptr : entry->make();
+const FormEntry* QtFormHost::EntryOf(std::string_view name) const {
+    const auto entry = std::ranges::find(forms_, name, &FormEntry::name);
+    return entry == forms_.end() ? nullptr : &*entry;
+}
+
+void QtFormHost::MakeAhead(std::string_view name) {
+    const FormEntry* entry = EntryOf(name);
+    if (entry == nullptr || IsMadeAhead(name)) return;
+    auto look = entry->make();
+    for (QWidget* part : look->findChildren<QWidget*>())
+        part->ensurePolished();
+    ahead_.emplace(entry->name, std::move(look));
+}
+
+void QtFormHost::MakeAheadSoon(std::string_view name) {
+    QTimer::singleShot(kSoon, &soon_, [this, name = std::string(name)] { MakeAhead(name); });
+}
+
+std::unique_ptr<QWidget> QtFormHost::TakeLook(const Form& form) {
+    if (auto made = ahead_.extract(form.Name()); !made.empty()) return std::move(made.mapped());
+    const FormEntry* entry = EntryOf(form.Name());
+    return entry == nullptr ? nullptr : entry->make();
 }
 
 QtFormHost::Shown* QtFormHost::Find(const Form& form) {
@@ -46,7 +72,7 @@ QWidget* QtFormHost::Opener() const {
 
 QWidget* QtFormHost::Bind(Form& form) {
     if (const Shown* found = Find(form)) return found->window;
-    auto look = MakeLook(form);
+    auto look = TakeLook(form);
     if (look == nullptr) return nullptr;
     QWidget* window = look.release();
     if (QWidget* opener = Opener(); opener != nullptr && qobject_cast<QDialog*>(window) != nullptr) {
@@ -97,6 +123,7 @@ void QtFormHost::Hide(Form& form) {
     if (gone.loop != nullptr) gone.loop->quit();
     if (gone.window.isNull()) return;
     gone.window->hide();
+    if (gone.window->property("madeAhead").toBool()) MakeAheadSoon(form.Name());
     // The widget is deleted later, because a click on one of its own buttons may be closing it now.
     gone.window->deleteLater();
 }

@@ -6,6 +6,8 @@
 #include "platform/qt/binder/FormEntry.h"
 
 #include <QEventLoop>
+#include <QObject>
+#include <map>
 #include <memory>
 #include <span>
 #include <vector>
@@ -13,6 +15,8 @@
 namespace korvane {
 
 /// Shows windows as widgets. The look of a window is made when it is first shown and deleted when it closes.
+/// A look with the property "madeAhead" is made again a moment after it was deleted, since such a window
+/// opens often.
 class QtFormHost : public FormHost, private PageSource {
 public:
     /// `forms` are the windows that can be shown. They must outlive the host.
@@ -25,6 +29,13 @@ public:
     void PopUp(Menu& menu) override;
     void Raise(Form& form) override;
     bool ShowsModal() const override;
+
+    /// Makes the look of a window now, for its next opening.
+    void MakeAhead(std::string_view name);
+    /// The same once the user has had a moment without waiting for anything.
+    void MakeAheadSoon(std::string_view name);
+    /// Whether a look is there for the next opening.
+    bool IsMadeAhead(std::string_view name) const { return ahead_.contains(name); }
 
     /// Runs the event loop until the window is closed.
     void RunUntilClosed(const Form& form);
@@ -44,7 +55,8 @@ private:
     void Release(Form& form) override { Hide(form); }
     /// Makes and connects the widget if the window isn't shown yet. nullptr when the window has no look.
     QWidget* Bind(Form& form);
-    std::unique_ptr<QWidget> MakeLook(const Form& form) const;
+    const FormEntry* EntryOf(std::string_view name) const;
+    std::unique_ptr<QWidget> TakeLook(const Form& form);
     void Bring(Form& form, QWidget& window);
     Shown* Find(const Form& form);
     /// The modal windows and the box above the window of a form that is shown, the highest last.
@@ -55,6 +67,10 @@ private:
     std::span<const FormEntry> forms_;
     /// Sorted by when they were shown, the oldest first.
     std::vector<Shown> shown_;
+    /// The looks that nobody has shown yet. The names are those of the entries.
+    std::map<std::string_view, std::unique_ptr<QWidget>> ahead_;
+    /// What is to be done soon goes with it.
+    QObject soon_;
 };
 
 } // namespace korvane
