@@ -7,10 +7,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
-#include <QTimer>
 #include <algorithm>
 #include <chrono>
-#include <string>
 #include <utility>
 
 namespace korvane {
@@ -21,7 +19,13 @@ constexpr std::chrono::milliseconds kSoon{500};
 
 } // namespace
 
-QtFormHost::QtFormHost(std::span<const FormEntry> forms) : forms_(forms) {}
+QtFormHost::QtFormHost(std::span<const FormEntry> forms) : forms_(forms) {
+    soon_.setSingleShot(true);
+    QObject::connect(&soon_, &QTimer::timeout, &soon_, [this] {
+        for (const std::string& name : std::exchange(wantedSoon_, {}))
+            MakeAhead(name);
+    });
+}
 
 QtFormHost::~QtFormHost() {
     for (const Shown& shown : shown_) {
@@ -45,7 +49,9 @@ void QtFormHost::MakeAhead(std::string_view name) {
 }
 
 void QtFormHost::MakeAheadSoon(std::string_view name) {
-    QTimer::singleShot(kSoon, &soon_, [this, name = std::string(name)] { MakeAhead(name); });
+    wantedSoon_.emplace(name);
+    // What comes one after the other quickly isn't held up in between.
+    soon_.start(kSoon);
 }
 
 std::unique_ptr<QWidget> QtFormHost::TakeLook(const Form& form) {

@@ -6,10 +6,12 @@
 #include "platform/qt/binder/FormEntry.h"
 
 #include <QEventLoop>
-#include <QObject>
+#include <QTimer>
 #include <map>
 #include <memory>
+#include <set>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace korvane {
@@ -69,8 +71,8 @@ private:
     std::vector<Shown> shown_;
     /// The looks that nobody has shown yet. The names are those of the entries.
     std::map<std::string_view, std::unique_ptr<QWidget>> ahead_;
-    /// What is to be done soon goes with it.
-    QObject soon_;
+    std::set<std::string> wantedSoon_;
+    QTimer soon_;
 };
 
 } // namespace korvane
