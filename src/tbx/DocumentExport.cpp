@@ -28,7 +28,8 @@ ExitStatus Export(const Call& call, Environment& environment, const Write& write
     const auto workbench = LoadTable(call, environment);
     if (!workbench) return ExitStatus::Error;
     const auto all = [](Row) { return true; };
-    const auto document = MakeTextTable(workbench->Grid(), TitlesOf(*workbench), all, call.look, NoLimits());
+    const std::vector<Text> titles = call.look.titles ? TitlesOf(*workbench) : std::vector<Text>();
+    const auto document = MakeTextTable(workbench->Grid(), titles, all, call.look, NoLimits());
     if (document) write(*document, [&environment](std::string_view piece) { environment.out.Write(piece); });
     return ReportMessages(*workbench, environment);
 }

@@ -1,9 +1,12 @@
 #include "dbops/rules/TextTable.h"
 
+#include "common/text/CodePage.h"
 #include "dbops/rules/DeleteMark.h"
 #include "document/model/Builder.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace korvane {
 
@@ -17,6 +20,15 @@ constexpr int kWidthOfNone = 1800;
 /// A cell has so many paragraphs. The lines after them are parts of the last one, because a paragraph takes
 /// much memory.
 constexpr std::size_t kParagraphsInCell = 1000;
+constexpr std::size_t kPieceOfCell = std::size_t{16} << 10;
+
+/// The text without one line end at its end.
+template <class Char>
+std::basic_string_view<Char> WithoutLineEnd(std::basic_string_view<Char> text) {
+    for (const char lineEnd : {'\n', '\r'})
+        if (text.ends_with(static_cast<Char>(lineEnd))) text.remove_suffix(1);
+    return text;
+}
 
 class TextTable {
 public:
@@ -25,16 +37,43 @@ public:
         text_.halfPoints = kFontSize * kHalfPoints;
     }
 
-    /// Adds a row of the texts that `textOf(Col)` gives.
-    template <class TextOf>
-    void AddRow(const TextOf& textOf) {
+    /// Adds a row. `putCell(Col)` puts the text of a cell, by as many calls of `Put` as it likes.
+    template <class PutCell>
+    void AddRow(const PutCell& putCell) {
         ++row_;
         std::vector<doc::CellFormat> cells;
         for (Col col{1}; col <= grid_.ColCount(); ++col) {
-            AddCell(textOf(col));
+            BeginCell();
+            putCell(col);
+            builder_.EndCell({});
             cells.push_back(Format(col));
         }
         builder_.EndRow(std::move(cells));
+    }
+
+    void Put(TextView piece) {
+        if (std::exchange(afterCr_, false) && piece.starts_with(u'\n')) piece.remove_prefix(1);
+        while (true) {
+            const std::size_t end = piece.find_first_of(kCrLf);
+            builder_.Add(piece.substr(0, end));
+            if (end == TextView::npos) return;
+            EndLine();
+            const bool both = piece.substr(end).starts_with(kCrLf);
+            afterCr_ = piece[end] == u'\r' && end + 1 == piece.size();
+            piece.remove_prefix(end + (both ? 2 : 1));
+        }
+    }
+
+    /// Puts what a cell of the grid has, without one line end at its end. A long text is never copied as a
+    /// whole.
+    void PutCellOfGrid(Row row, Col col) {
+        const auto bytes = grid_.CellBytes(row, col);
+        if (!bytes) return Put(WithoutLineEnd(TextView(grid_.CellValue(row, col))));
+        const CodePage& page = grid_.Page();
+        for (std::string_view rest = WithoutLineEnd(*bytes); !rest.empty();) {
+            Put(page.ToText(rest.substr(0, kPieceOfCell)));
+            rest.remove_prefix(std::min(kPieceOfCell, rest.size()));
+        }
     }
 
     std::optional<doc::Document> Finish() {
@@ -44,27 +83,20 @@ public:
 private:
     bool First() const { return row_ == 1 && look_.firstRowColoured; }
 
-    void AddCell(TextView text) {
+    void BeginCell() {
         doc::CharFormat format = text_;
         if (First()) format.fore = look_.firstRowText;
         builder_.SetFormat(format);
         builder_.OpenCell();
-        AddLines(text);
-        builder_.EndCell({});
+        paragraphs_ = 1;
+        afterCr_ = false;
     }
 
-    void AddLines(TextView text) {
-        std::size_t paragraphs = 1;
-        while (true) {
-            const std::size_t end = text.find_first_of(kCrLf);
-            builder_.Add(text.substr(0, end));
-            if (end == TextView::npos) return;
-            if (paragraphs++ < kParagraphsInCell)
-                builder_.EndParagraph({});
-            else
-                builder_.Add(doc::kLineBreak);
-            text.remove_prefix(end + (text.substr(end).starts_with(kCrLf) ? 2 : 1));
-        }
+    void EndLine() {
+        if (paragraphs_++ < kParagraphsInCell)
+            builder_.EndParagraph({});
+        else
+            builder_.Add(doc::kLineBreak);
     }
 
     doc::CellFormat Format(Col col) const {
@@ -96,14 +128,10 @@ private:
     doc::Builder builder_;
     doc::CharFormat text_{};
     int row_ = 0;
+    // Of the cell at hand.
+    std::size_t paragraphs_ = 0;
+    bool afterCr_ = false;
 };
-
-/// The text without one line end at its end.
-TextView WithoutLineEnd(TextView text) {
-    if (text.ends_with(u'\n')) text.remove_suffix(1);
-    if (text.ends_with(u'\r')) text.remove_suffix(1);
-    return text;
-}
 
 } // namespace
 
@@ -112,19 +140,17 @@ std::optional<doc::Document> MakeTextTable(const Grid& grid, const std::vector<T
                                            const doc::Limits& limits) {
     TextTable table(grid, look, limits);
     if (look.titles) {
-        table.AddRow([&titles](Col col) {
+        table.AddRow([&](Col col) {
             const auto place = static_cast<std::size_t>(col.Number()) - 1;
-            return place < titles.size() ? TextView(titles[place]) : TextView();
+            if (place < titles.size()) table.Put(titles[place]);
         });
     }
     for (Row row{1}; row <= grid.RowCount(); ++row) {
         const bool first = row == Row{1} && look.titles;
         if (!first && !takes(row)) continue;
         const bool marked = IsMarkedForDeletion(grid, row);
-        Text value;
         table.AddRow([&](Col col) {
-            value = marked ? Text() : grid.CellValue(row, col);
-            return WithoutLineEnd(value);
+            if (!marked) table.PutCellOfGrid(row, col);
         });
     }
     return table.Finish();

@@ -103,6 +103,23 @@ TEST_F(TextTableTest, NothingIsLeftOutOfALargeTableWithinTheLimits) {
     EXPECT_EQ(document->paragraphs[5].text, u"b3");
 }
 
+TEST_F(TextTableTest, ALineEndIsOneWhereverALongTextIsCut) {
+    for (const std::size_t before : {std::size_t{16383}, std::size_t{16384}, std::size_t{32767}}) {
+        t.grid.SetCellValue(Row{1}, Col{1}, Text(before, u'a') + u"\r\nb\r\r\n");
+        const doc::Document document = Make([](Row row) { return row == Row{1}; });
+        ASSERT_EQ(document.paragraphs.size(), 5u) << before;
+        EXPECT_EQ(document.paragraphs[0].text.size(), before);
+        EXPECT_EQ(document.paragraphs[1].text, u"b");
+        EXPECT_EQ(document.paragraphs[2].text, u"") << "one line end at the end doesn't count";
+        EXPECT_EQ(document.paragraphs[3].text, u"b1");
+    }
+}
+
+TEST_F(TextTableTest, CellsThatTheCodePageCannotHoldAreWholeToo) {
+    t.grid.SetCellValue(Row{1}, Col{1}, u"\u4E2D\r\nb\r\n");
+    EXPECT_EQ(Cells(Make([](Row row) { return row == Row{1}; })), "\u4E2D^b|b1");
+}
+
 TEST_F(TextTableTest, WithoutRowsThereIsNoTable) {
     const doc::Document document = Make([](Row) { return false; });
     EXPECT_TRUE(document.tables.empty());
