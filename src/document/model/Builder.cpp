@@ -5,6 +5,12 @@
 
 namespace korvane::doc {
 
+namespace {
+
+constexpr std::size_t kHuge = std::size_t{1} << 20;
+
+} // namespace
+
 void Builder::SetFormat(const CharFormat& format) {
     if (format == Format()) return;
     if (document_.chars.Size() >= limits_.formats) return Tell(Trouble::OverLimit);
@@ -76,10 +82,14 @@ Index Builder::Number(const ParaFormat& format) {
 
 void Builder::CloseParagraph(const ParaFormat& format) {
     Paragraph& paragraph = document_.paragraphs.emplace_back();
-    paragraph.text.assign(text_);
+    // Mostly the next paragraph needs the same memory again. A huge text must not be there twice.
+    if (text_.size() < kHuge)
+        paragraph.text.assign(text_);
+    else
+        paragraph.text = std::move(text_);
     paragraph.runs.assign(runs_.begin(), runs_.end());
     paragraph.format = Number(format);
-    if (text_.empty()) paragraph.emptyFormat = look_.format;
+    if (paragraph.text.empty()) paragraph.emptyFormat = look_.format;
     text_.clear();
     runs_.clear();
 }
