@@ -1,6 +1,7 @@
 #include "document/docx/Parser.h"
 
 #include "document/docx/Docx.h"
+#include "document/docx/DocxParts.h"
 #include "document/model/Instruction.h"
 
 #include <algorithm>
@@ -483,6 +484,10 @@ namespace korvane::doc {
 
 ReadResult ReadDocx(std::string_view bytes, const Limits& limits) {
     return docx::Parser(bytes, limits).Read();
+}
+
+ReadResult ReadDocxParts(const PackageParts& parts, const Limits& limits) {
+    return docx::Parser(parts, limits).Read();
 }
 
 } // namespace korvane::doc

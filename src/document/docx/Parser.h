@@ -32,8 +32,10 @@ enum class Context : std::uint8_t {
 /// Reads the parts of a DOCX file.
 class Parser {
 public:
-    Parser(std::string_view bytes, const Limits& limits)
-        : package_(bytes, limits), limits_(limits), builder_(limits) {}
+    /// The bytes of a file, or its parts.
+    template <class Source>
+    Parser(const Source& source, const Limits& limits)
+        : package_(source, limits), limits_(limits), builder_(limits) {}
 
     ReadResult Read();
 

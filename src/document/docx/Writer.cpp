@@ -1,6 +1,6 @@
 #include "document/docx/Docx.h"
+#include "document/docx/DocxParts.h"
 #include "document/model/ListTable.h"
-#include "document/package/Package.h"
 #include "document/package/Xml.h"
 
 #include <algorithm>
@@ -77,7 +77,7 @@ public:
           looks_(document.chars.Size()),
           shapes_(document.paras.Size()) {}
 
-    std::string Write() {
+    PackageWriter Write() {
         WriteBody();
         PackageWriter package;
         package.Add("[Content_Types].xml", ContentTypes());
@@ -90,7 +90,7 @@ public:
         if (!lists_.Lists().empty()) package.Add("word/numbering.xml", NumberingPart());
         for (auto& [name, bytes] : media_)
             package.Add(name, std::move(bytes));
-        return package.Write();
+        return package;
     }
 
 private:
@@ -506,6 +506,10 @@ private:
 } // namespace
 
 std::string WriteDocx(const Document& document) {
+    return MakeDocxParts(document).Write();
+}
+
+PackageWriter MakeDocxParts(const Document& document) {
     return Writer(document).Write();
 }
 

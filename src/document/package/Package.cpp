@@ -67,11 +67,20 @@ Package::Package(std::string_view bytes, const Limits& limits) : left_(limits.by
     zip_error_fini(&error);
 }
 
+Package::Package(const PackageParts& parts, const Limits& limits)
+    : parts_(&parts), left_(limits.bytes * kUnpackedFiles) {}
+
 Package::~Package() {
     if (archive_ != nullptr) zip_discard(archive_);
 }
 
 std::optional<std::string> Package::Part(const std::string& name) {
+    if (parts_ == nullptr) return Unpacked(name);
+    const auto found = std::ranges::find(*parts_, name, &PackagePart::name);
+    return found == parts_->end() ? std::nullopt : std::optional(found->bytes);
+}
+
+std::optional<std::string> Package::Unpacked(const std::string& name) {
     if (archive_ == nullptr) return std::nullopt;
     const zip_int64_t index = zip_name_locate(archive_, name.c_str(), ZIP_FL_NOCASE);
     if (index < 0) return std::nullopt;
@@ -129,7 +138,7 @@ std::string PackageWriter::Write() const {
     zip_source_keep(target);
     zip_t* const archive = zip_open_from_source(target, ZIP_TRUNCATE, nullptr);
     bool whole = archive != nullptr;
-    for (const Part& part : parts_) {
+    for (const PackagePart& part : parts_) {
         if (!whole) break;
         zip_source_t* const source = zip_source_buffer(archive, part.bytes.data(), part.bytes.size(), 0);
         const zip_int64_t index =

@@ -13,6 +13,14 @@ struct zip;
 
 namespace korvane::doc {
 
+struct PackagePart {
+    std::string name;
+    std::string bytes;
+
+    bool operator==(const PackagePart&) const = default;
+};
+using PackageParts = std::vector<PackagePart>;
+
 /// A file of the Open Packaging Conventions: a ZIP archive of parts that refer to each other.
 class Package {
 public:
@@ -27,12 +35,14 @@ public:
 
     /// The bytes outlive the package. A part that unpacks to more than the limit is left out.
     Package(std::string_view bytes, const Limits& limits);
+    /// Parts that are unpacked already. They outlive the package.
+    Package(const PackageParts& parts, const Limits& limits);
     ~Package();
     Package(const Package&) = delete;
     Package& operator=(const Package&) = delete;
 
     /// Whether the bytes are an archive.
-    bool IsOpen() const { return archive_ != nullptr; }
+    bool IsOpen() const { return archive_ != nullptr || parts_ != nullptr; }
     /// The bytes of the part; nothing if it isn't there, is damaged or is too large.
     std::optional<std::string> Part(const std::string& name);
     /// What the part refers to; the package itself for an empty name.
@@ -42,7 +52,10 @@ public:
     bool OverLimit() const { return overLimit_; }
 
 private:
+    std::optional<std::string> Unpacked(const std::string& name);
+
     zip* archive_ = nullptr;
+    const PackageParts* parts_ = nullptr;
     std::size_t left_;
     bool overLimit_ = false;
 };
@@ -54,13 +67,10 @@ public:
     /// The bytes of the whole file, which are the same for the same parts. Empty when the archive can't be
     /// made.
     std::string Write() const;
+    const PackageParts& Parts() const { return parts_; }
 
 private:
-    struct Part {
-        std::string name;
-        std::string bytes;
-    };
-    std::vector<Part> parts_;
+    PackageParts parts_;
 };
 
 } // namespace korvane::doc

@@ -20,6 +20,15 @@ TEST(Package, PartsComeBack) {
     EXPECT_EQ(package.Part("none"), std::nullopt);
 }
 
+TEST(Package, PartsNeedntBePacked) {
+    PackageWriter writer;
+    writer.Add("a/b.txt", "bytes");
+    Package package(writer.Parts(), {});
+    EXPECT_TRUE(package.IsOpen());
+    EXPECT_EQ(package.Part("a/b.txt"), "bytes");
+    EXPECT_EQ(package.Part("none"), std::nullopt);
+}
+
 TEST(Package, TargetsAreRelativeToTheirPart) {
     PackageWriter writer;
     writer.Add("word/_rels/document.xml.rels",
