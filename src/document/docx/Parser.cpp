@@ -331,7 +331,8 @@ void Parser::Close(std::string_view name) {
         --skipped_;
         return;
     }
-    if (contexts_.back().second == name) {
+    // The body has no name of its own, and an element of a damaged file may have none either.
+    if (contexts_.size() > 1 && contexts_.back().second == name) {
         contexts_.pop_back();
         return;
     }

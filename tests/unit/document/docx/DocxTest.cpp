@@ -139,6 +139,10 @@ TEST(Docx, ACutFileGivesADocument) {
     EXPECT_EQ(ReadDocx(File("<w:p><w:r><w:t>a</w:t></w:r></w:p><w:p><w:r")).trouble, Trouble::Damaged);
 }
 
+TEST(Docx, ElementsWithoutANameAreNothing) {
+    EXPECT_EQ(TextOf("<w: a=\"b\"/><w:p><w: /><w:r><w:t>a</w:t></w:r></w:p>"), "a");
+}
+
 TEST(Docx, ADocumentTypeIsRefused) {
     PackageWriter package;
     package.Add("_rels/.rels", "<Relationships><Relationship Id=\"r1\" Type=\"x/officeDocument\" "
