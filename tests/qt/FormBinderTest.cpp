@@ -195,6 +195,19 @@ TEST_F(FormBinderTest, ButtonsPress) {
     EXPECT_EQ(presses, 11);
 }
 
+TEST_F(FormBinderTest, AltAndALetterClickAtOnce) {
+    int presses = 0;
+    form.cmdGo.Click = [&presses] { ++presses; };
+    QWidget& window = *host.WidgetOf(form);
+    window.activateWindow();
+    test::Settle();
+    QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
+    EXPECT_EQ(presses, 1);
+    QTest::keyClick(&window, Qt::Key_Y, Qt::AltModifier);
+    EXPECT_EQ(form.chkYes.Value, 1);
+    EXPECT_TRUE(Widget<QCheckBox>("chkYes").hasFocus());
+}
+
 TEST_F(FormBinderTest, ACheckBoxFollowsAndLeads) {
     int clicks = 0;
     form.chkYes.Click = [&clicks] { ++clicks; };

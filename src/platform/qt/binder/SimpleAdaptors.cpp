@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcutEvent>
 #include <algorithm>
 #include <functional>
 
@@ -15,11 +16,33 @@ namespace korvane {
 
 namespace {
 
+/// Clicks a button at once when Alt and its letter are pressed. Qt shows it pressed for a while first, and
+/// keys that follow would act before it does.
+class ClickAtOnce : public QObject {
+public:
+    explicit ClickAtOnce(QAbstractButton& button) : QObject(&button), button_(button) {
+        button.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+            return false;
+        if (button_.isCheckable()) button_.setFocus(Qt::ShortcutFocusReason);
+        button_.click();
+        return true;
+    }
+
+private:
+    QAbstractButton& button_;
+};
+
 /// Connects a button that can be on or off. Qt toggles the widget when it is clicked, but only the control
 /// decides whether it is on, so `press` writes the control's value back to the widget.
 void FollowClicks(QAbstractButton& widget, ControlAdaptor& adaptor, const std::function<void()>& press) {
     widget.setCheckable(true);
     widget.setAutoExclusive(false);
+    new ClickAtOnce(widget);
     QObject::connect(&widget, &QAbstractButton::clicked, &adaptor, press);
 }
 
@@ -31,6 +54,7 @@ ButtonAdaptor::ButtonAdaptor(CommandButton& button, QAbstractButton& widget) : A
         pushButton->setAutoDefault(false);
         pushButton->setDefault(button.Default);
     }
+    new ClickAtOnce(widget);
     connect(&widget, &QAbstractButton::clicked, this, [this] {
         FinishTyping();
         control_.Press();
