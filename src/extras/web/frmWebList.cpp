@@ -384,11 +384,11 @@ void frmWebList::Reject() {
     FocusList();
 }
 
-/// They take the place of the list, so that no other row can become the current one.
+/// They take the place of the list or the groups, so that no other row can become the current one.
 void frmWebList::ShowFields(bool shown) {
     Frame1.Visible = shown;
     ListView1.Visible = !shown && !InGroups();
-    lstGroup.Visible = !shown;
+    frameGroup.Visible = !shown && InGroups();
 }
 
 /// Check marks stay in their places. Kept for compatibility: website-moves-leave-checks.
@@ -513,9 +513,8 @@ void frmWebList::CloseGroups() {
 }
 
 void frmWebList::ShowGroups(bool shown) {
-    Reject();
-    frameGroup.Visible = shown;
-    ListView1.Visible = !shown;
+    inGroups_ = shown;
+    ShowFields(false);
     FocusList();
 }
 

@@ -122,7 +122,7 @@ private:
     std::vector<int> SelectedGroups() const;
     /// Makes the group the current one, and selects it alone.
     void SelectGroup(int index);
-    bool InGroups() const { return frameGroup.Visible; }
+    bool InGroups() const { return inGroups_; }
     /// Whether the group window is open, in which a message refuses the command.
     bool RefusedInGroups();
 
@@ -156,6 +156,8 @@ private:
 
     App& app_;
     const Form& owner_;
+    /// Whether the group window is open.
+    bool inGroups_ = false;
 };
 
 } // namespace korvane

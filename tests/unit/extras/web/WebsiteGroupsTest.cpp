@@ -151,12 +151,13 @@ TEST_F(WebsiteGroupsTest, AGroupIsEditedAsOneText) {
         EXPECT_EQ(f.Frame1.Caption.Get(), u" Edit group of websites ");
         EXPECT_FALSE(f.txtName.Visible);
         EXPECT_FALSE(f.Label1.Visible);
-        EXPECT_FALSE(f.lstGroup.Visible);
+        EXPECT_FALSE(f.frameGroup.Visible);
         EXPECT_FALSE(f.ListView1.Visible);
         EXPECT_EQ(f.txtSite.Text.Get(), u"http://a http://b");
         EXPECT_EQ(f.Focused(), &f.txtSite);
         f.txtSite.Text = u"http://z";
         f.btnAccept.Press();
+        EXPECT_TRUE(f.frameGroup.Visible);
         EXPECT_THAT(Groups(f), ElementsAre(u"http://z", u"http://c"));
         EXPECT_THAT(Names(f), ElementsAre(u"A", u"B", u"C"));
         EXPECT_EQ(f.ListDirty, 1);
@@ -176,7 +177,7 @@ TEST_F(WebsiteGroupsTest, ClosingThemLeavesTheFieldsToo) {
         f.OfficeMenu1.Choose("mnuEditItem");
         f.cmdGroupWin.Press();
         EXPECT_FALSE(f.Frame1.Visible);
-        EXPECT_TRUE(f.lstGroup.Visible);
+        EXPECT_TRUE(f.frameGroup.Visible);
     });
 }
 
