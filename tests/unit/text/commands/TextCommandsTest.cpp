@@ -129,7 +129,7 @@ TEST_F(TextCommands, ThePairOfQuotesIsPlainWithTheCursorWithin) {
 
 TEST_F(TextCommands, ADoubleQuoteOpensAtTheStartAndAfterCertainCharacters) {
     EXPECT_EQ(QuoteAfter(u"", u"\""), u"\u201C");
-    for (const char16_t before : TextView(u" (['\u2018\t"))
+    for (const char16_t before : TextView(u" (['\u2018\t\f\r\n"))
         EXPECT_EQ(QuoteAfter(Text(1, before), u"\""), u"\u201C") << static_cast<int>(before);
     EXPECT_EQ(QuoteAfter(u"x\r\n", u"\""), u"\u201C");
     for (const char16_t before : TextView(u"x.)]\"\u201C\u2019"))
@@ -138,7 +138,7 @@ TEST_F(TextCommands, ADoubleQuoteOpensAtTheStartAndAfterCertainCharacters) {
 
 TEST_F(TextCommands, AnApostropheOpensAtTheStartAndAfterCertainCharacters) {
     EXPECT_EQ(QuoteAfter(u"", u"'"), u"\u2018");
-    for (const char16_t before : TextView(u" ([\"\u201C\t"))
+    for (const char16_t before : TextView(u" ([\"\u201C\t\f\r\n"))
         EXPECT_EQ(QuoteAfter(Text(1, before), u"'"), u"\u2018") << static_cast<int>(before);
     EXPECT_EQ(QuoteAfter(u"x\r\n", u"'"), u"\u2018");
     for (const char16_t before : TextView(u"x.)]'\u2018"))
@@ -157,6 +157,10 @@ TEST_F(TextCommands, AnAddressEndsAtTheFirstCharacterThatCantBeInIt) {
     EXPECT_EQ(FindUrl(u"www.a.b\r\nwww.c"), u"www.a.b");
     EXPECT_EQ(FindUrl(u"www.a.b\u201D"), u"www.a.b");
     EXPECT_EQ(FindUrl(u"www.a.b'x"), u"www.a.b");
+    for (const char16_t end : TextView(u"\n\r\t \"'\u201C\u201D>"))
+        EXPECT_EQ(FindUrl(u"www.a.b" + Text(1, end) + u"c"), u"www.a.b") << static_cast<int>(end);
+    for (const char16_t inside : TextView(u".,;)]<|\u2019"))
+        EXPECT_EQ(FindUrl(u"www.a.b" + Text(1, inside) + u"c"), u"www.a.b" + Text(1, inside) + u"c");
     EXPECT_EQ(FindUrl(u"at www.a.b."), u"www.a.b.");
     EXPECT_EQ(FindUrl(u"www.a https://b"), u"https://b");
     EXPECT_EQ(FindUrl(u"WWW.a HTTPS://b"), std::nullopt);

@@ -3,6 +3,7 @@
 #include "unit/text/FakeTextPorts.h"
 #include "unit/text/window/TextWindowStage.h"
 
+#include <set>
 #include <tuple>
 
 namespace korvane {
@@ -204,8 +205,11 @@ TEST_F(TextWindowKeys, KeysOpenTheDesktopTheExplorerTheBrowserAndLorrit) {
                                                        {ShellCall::Kind::Explore, u"C:\\data"}}));
     EXPECT_TRUE(Press('B', Mask::Alt));
     ASSERT_EQ(t.shell.Starts().size(), 1U);
-    EXPECT_EQ(t.shell.Starts()[0].program, u"C:\\browser.exe");
+    EXPECT_EQ(t.shell.Starts()[0], ProgramStart{u"C:\\browser.exe"});
     EXPECT_TRUE(Press(Key::F(1), kCtrlShift));
+    ASSERT_EQ(t.shell.Starts().size(), 2U);
+    EXPECT_NE(t.shell.Starts()[1].program.find(u"Lorrit"), Text::npos);
+    EXPECT_EQ(t.shell.Starts()[1].arguments, std::vector<Text>{u"C:\\data"});
 }
 
 TEST_F(TextWindowKeys, F11WithAModifierShowsTheClock) {
@@ -255,7 +259,126 @@ TEST_F(TextWindowKeys, OtherKeysPass) {
     EXPECT_FALSE(window->Altered());
 }
 
+/// The keys that the window acts on, each with its modifiers.
+const std::set<std::pair<int, int>>& OwnKeys() {
+    static const std::set<std::pair<int, int>> keys = [] {
+        std::set<std::pair<int, int>> own{
+            {Key::NumMinus, Mask::Ctrl},
+            {Key::NumPlus, Mask::Ctrl},
+            {'S', Mask::Ctrl},
+            {Key::F(12), Mask::Ctrl},
+            {Key::Return, kCtrlShift},
+            {'L', kCtrlAlt},
+            {Key::Return, Mask::Alt},
+            {'S', Mask::Alt},
+            {Key::F(3), Mask::Alt},
+            {'7', Mask::Ctrl},
+            {'8', Mask::Ctrl},
+            {'T', Mask::Ctrl},
+            {'0', Mask::Ctrl},
+            {'Y', kCtrlAlt},
+            {'1', Mask::Ctrl},
+            {'2', Mask::Ctrl},
+            {'4', Mask::Ctrl},
+            {'X', Mask::Ctrl},
+            {'V', Mask::Ctrl},
+            {'A', Mask::Ctrl},
+            {'B', kCtrlShift},
+            {'U', kCtrlShift},
+            {'I', kCtrlShift},
+            {Key::Home, kCtrlShift},
+            {'V', kCtrlAlt},
+            {'Y', Mask::Alt},
+            {'L', kCtrlShift},
+            {'R', kCtrlShift},
+            {'R', kCtrlAlt},
+            {Key::F(2), kCtrlShift},
+            {Key::F(5), kCtrlAlt},
+            {'D', kCtrlAlt},
+            {'X', kCtrlAlt},
+            {'B', Mask::Alt},
+            {Key::F(1), kCtrlShift},
+            {'U', Mask::Alt},
+            {'F', Mask::Ctrl},
+            {Key::Escape, Mask::None},
+        };
+        for (int mask = Mask::None; mask <= (kCtrlAlt | kCtrlShift); ++mask) {
+            own.insert({Key::Tab, mask});
+            if (mask != Mask::None) own.insert({Key::F(11), mask});
+        }
+        return own;
+    }();
+    return keys;
+}
+
+TEST_F(TextWindowKeys, EveryOtherKeyWithAnyModifiersPassesAndDoesNothing) {
+    std::vector<int> codes{Key::Tab,    Key::Return, Key::Escape,  Key::Home,    Key::Space,
+                           Key::Delete, Key::Insert, Key::NumPlus, Key::NumMinus};
+    for (int code = '0'; code <= '9'; ++code)
+        codes.push_back(code);
+    for (int code = 'A'; code <= 'Z'; ++code)
+        codes.push_back(code);
+    for (int number = 1; number <= 12; ++number)
+        codes.push_back(Key::F(number));
+    SelectAll(u"abc");
+    window->TextAltered = 0;
+    Control().SetDataChanged(false);
+    for (const int code : codes)
+        for (int mask = Mask::None; mask <= (kCtrlAlt | kCtrlShift); ++mask)
+            if (!OwnKeys().contains({code, mask}))
+                EXPECT_FALSE(Press(code, mask)) << "key " << code << " with " << mask;
+    EXPECT_EQ(Control().All(), u"abc");
+    EXPECT_EQ(Control().SelLength(), 3);
+    EXPECT_FALSE(window->Altered());
+    EXPECT_TRUE(dialogs.shown.empty());
+    EXPECT_TRUE(main.commands.empty());
+    EXPECT_TRUE(t.shell.Starts().empty());
+}
+
+TEST_F(TextWindowKeys, ATabWithAnyModifiersIsTaken) {
+    for (int mask = Mask::None; mask <= (kCtrlAlt | kCtrlShift); ++mask) {
+        SelectAll(u"x");
+        EXPECT_TRUE(Press(Key::Tab, mask));
+        EXPECT_EQ(Control().All(), u"\t") << mask;
+        SelectAll(u"xy");
+        EXPECT_TRUE(Press(Key::Tab, mask));
+        EXPECT_EQ(Control().All(), u"xy") << mask;
+    }
+}
+
+TEST_F(TextWindowKeys, ATabWithCtrlAndAltTakesTheIndentsAway) {
+    SelectAll(u"xy");
+    Control().SetIndentL(500);
+    Control().SetIndentR(400);
+    Control().SetIndentFL(-300);
+    EXPECT_TRUE(Press(Key::Tab, kCtrlAlt));
+    EXPECT_EQ(Control().IndentL(), 0);
+    EXPECT_EQ(Control().IndentR(), 0);
+    EXPECT_EQ(Control().IndentFL(), 0);
+}
+
 // Typing.
+
+TEST_F(TextWindowKeys, OnlyFiveCharactersDoNotAlterTheTextWhenTheyAreTyped) {
+    for (char16_t character = 1; character <= 255; ++character) {
+        window->TextAltered = 0;
+        TypedText typed{Text(1, character)};
+        Control().KeyPress(typed);
+        const bool alters = TextView(u"\x03\x13\x19\x1B ").find(character) == TextView::npos;
+        EXPECT_EQ(window->TextAltered, alters ? 1 : 0) << static_cast<int>(character);
+        EXPECT_FALSE(typed.consumed) << static_cast<int>(character);
+    }
+    EXPECT_EQ(Control().All(), u"");
+}
+
+TEST_F(TextWindowKeys, ATabOverASelectionAltersNothing) {
+    SelectAll(u"a");
+    window->TextAltered = 0;
+    TypedText typed{u"\t"};
+    Control().KeyPress(typed);
+    EXPECT_TRUE(typed.consumed);
+    EXPECT_EQ(window->TextAltered, 0);
+}
 
 TEST_F(TextWindowKeys, ATypedSpaceLeavesTheTextUnalteredAndALetterDoesNot) {
     Type(u" ");
