@@ -39,6 +39,12 @@ fs::path WithoutDetours(const fs::path& path) {
     return plain.make_preferred();
 }
 
+/// The path without a separator at its end. The standard library compares no folders with one on Windows.
+fs::path WithoutLastSeparator(TextView path) {
+    const fs::path native = ToNativePath(path);
+    return native.has_filename() ? native : native.parent_path();
+}
+
 /// Those that are wanted, in their order.
 template <class WantedT>
 std::vector<Text> SortedNames(
@@ -330,7 +336,7 @@ std::unique_ptr<FileLock> NativeFileSystem::Lock(TextView path) {
 
 bool NativeFileSystem::IsSame(TextView a, TextView b) const {
     std::error_code error;
-    return fs::equivalent(ToNativePath(a), ToNativePath(b), error) && !error;
+    return fs::equivalent(WithoutLastSeparator(a), WithoutLastSeparator(b), error) && !error;
 }
 
 bool NativeFileSystem::IsLink(TextView path) const {

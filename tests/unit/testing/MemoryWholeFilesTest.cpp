@@ -8,6 +8,7 @@ namespace {
 class Stage {
 public:
     static constexpr std::size_t kLongFile = 2 * MemoryFileSystem::kBytesInStep + 1;
+    static bool CopiesInSteps() { return true; }
 
     Stage(const PathStyle& style, TextView folder) : files_(style, clock_), folder_(folder) {
         files_.AddDir(folder);

@@ -3,6 +3,7 @@
 #include "platform/native/NativeFileSystem.h"
 #include "platform/native/NativePath.h"
 #include "support/TempDir.h"
+#include "support/UnderWine.h"
 
 #include <chrono>
 #include <ctime>
@@ -13,6 +14,7 @@ namespace korvane {
 class NativeStage {
 public:
     static constexpr std::size_t kLongFile = std::size_t{12} << 20;
+    static bool CopiesInSteps() { return !UnderWine(); }
 
     FileSystem& Files() { return files_; }
     Text At(TextView name) const { return FromNativePath(Path(name)); }

@@ -1,11 +1,15 @@
 // Tests what only Windows has: drives, and file names of 16-bit code units that ignore the case.
 
+#include "support/WholeFilesContract.h"
 #include "unit/platform/native/NativeFiles.h"
 
 namespace korvane {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The links that those tests make are of other systems.
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(LinksContract);
 
 TEST_F(NativeFiles, PathsAreInTheStyleOfWindows) {
     EXPECT_EQ(files.Style(), PathStyle::Windows);

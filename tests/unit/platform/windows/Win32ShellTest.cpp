@@ -1,5 +1,6 @@
 #include "platform/windows/Win32Shell.h"
 
+#include "support/UnderWine.h"
 #include "unit/platform/windows/Probe.h"
 
 #include <gtest/gtest.h>
@@ -59,12 +60,22 @@ TEST_F(Win32ShellTest, WhatIsNoProgramDoesNotStart) {
 TEST_F(Win32ShellTest, ABatchFileFindsEachArgumentAsItStandsAndStartsNothingElse) {
     const std::filesystem::path batch = probe.Dir() / "a & b.bat";
     WriteBytes(batch, "@\"" + ToUtf8(Probe::Program()) + "\" arguments \"" + ToUtf8(probe.File()) + "\" " +
-                          ToUtf8(probe.Event()) + " %1 %2 %3 %4\r\n");
-    const std::vector<Text> arguments{u"b & echo more > more.txt", u"%PATH%", u"^(c)!PATH!|",
-                                      u"C:\\my data\\"};
+                          ToUtf8(probe.Event()) + " %1 %2 %3\r\n");
+    const std::vector<Text> arguments{u"b & echo more > more.txt", u"^(c)!PATH!|", u"C:\\my data\\"};
     EXPECT_NE(shell.Run(FromWide(batch.wstring()), arguments, WindowState::Normal), 0);
     ASSERT_TRUE(probe.Ready());
-    EXPECT_EQ(probe.Told(), "normal\n<b & echo more > more.txt>\n<%PATH%>\n<^(c)!PATH!|>\n<C:\\my data\\>\n");
+    EXPECT_EQ(probe.Told(), "normal\n<b & echo more > more.txt>\n<^(c)!PATH!|>\n<C:\\my data\\>\n");
+}
+
+TEST_F(Win32ShellTest, ABatchFileFindsTheNameOfAVariableAndNotItsValue) {
+    if (UnderWine())
+        GTEST_SKIP() << "Wine's interpreter looks for variables in the arguments that it has put in";
+    const std::filesystem::path batch = probe.Dir() / "a.bat";
+    WriteBytes(batch, "@\"" + ToUtf8(Probe::Program()) + "\" arguments \"" + ToUtf8(probe.File()) + "\" " +
+                          ToUtf8(probe.Event()) + " %1\r\n");
+    EXPECT_NE(shell.Run(FromWide(batch.wstring()), {u"%PATH%"}, WindowState::Normal), 0);
+    ASSERT_TRUE(probe.Ready());
+    EXPECT_EQ(probe.Told(), "normal\n<%PATH%>\n");
 }
 
 TEST_F(Win32ShellTest, ABatchFileIsNotStartedWithWhatNoQuotesHold) {
