@@ -22,6 +22,7 @@
 #include <QFontDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
@@ -147,6 +148,18 @@ TEST(QtClipboardTest, HoldsTheTextExactly) {
 }
 
 #ifdef Q_OS_WIN
+TEST(QtClipboardTest, RtfIsFoundByEachOfItsNames) {
+    for (const char* const name : {"text/rtf", "application/rtf", "text/richtext",
+                                   "application/x-qt-windows-mime;value=\"Rich Text Format\""}) {
+        auto* const data = new QMimeData;
+        data->setData(name, "{\\rtf1 x}");
+        QGuiApplication::clipboard()->setMimeData(data);
+        EXPECT_EQ(QtClipboard().GetRtf(), "{\\rtf1 x}") << name;
+    }
+    QGuiApplication::clipboard()->setText("plain");
+    EXPECT_FALSE(QtClipboard().GetRtf());
+}
+
 TEST(QtClipboardTest, LinesOfOtherProgramsEndInCrLf) {
     QApplication::clipboard()->setText("a\tb\nc\r\nd\n");
     EXPECT_EQ(QtClipboard().GetText(), u"a\tb\r\nc\r\nd\r\n");

@@ -2,6 +2,7 @@
 
 #include "common/text/LineEnds.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/RtfNames.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -43,8 +44,7 @@ void QtClipboard::Clear() {
 std::optional<std::string> QtClipboard::GetRtf() const {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
     if (data == nullptr) return std::nullopt;
-    // Programs call it by several names.
-    for (const char* const format : {"text/rtf", "application/rtf", "text/richtext"}) {
+    for (const char* const format : kRtfNames) {
         if (data->hasFormat(QString::fromLatin1(format)))
             return data->data(QString::fromLatin1(format)).toStdString();
     }

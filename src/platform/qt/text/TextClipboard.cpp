@@ -3,6 +3,7 @@
 #include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/base/RtfNames.h"
 
 #include <algorithm>
 
@@ -10,9 +11,6 @@ namespace korvane {
 
 namespace {
 
-/// The names under which programs put RTF on the clipboard; the last one is that of Windows.
-constexpr const char* kRtfNames[] = {"text/rtf", "application/rtf", "text/richtext",
-                                     "application/x-qt-windows-mime;value=\"Rich Text Format\""};
 constexpr QLatin1String kHtml("text/html");
 constexpr QLatin1String kPlain("text/plain");
 
