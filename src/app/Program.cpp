@@ -29,9 +29,9 @@ namespace korvane {
 
 namespace {
 
-App::Platform Complete(App::Platform platform, const SystemFolders& folders, const UserLocale& locale,
+App::Platform Complete(App::Platform platform, SystemParts& system, const UserLocale& locale,
                        FileTypes& fileTypes, const InstalledFonts& fonts) {
-    platform.folders = &folders;
+    platform.folders = &system.Folders();
     platform.locale = &locale;
     platform.fileTypes = &fileTypes;
     platform.fonts = &fonts;
@@ -39,8 +39,10 @@ App::Platform Complete(App::Platform platform, const SystemFolders& folders, con
     platform.makeGrid = [page = platform.codePage, order = std::make_shared<QtTextOrder>()] {
         return std::make_unique<GridStore>(page, order);
     };
-    platform.makeSpreadsheet = [&files = platform.files, &shell = platform.shell] {
-        return std::make_unique<XlsSpreadsheet>(files, shell);
+    platform.makeSpreadsheet = [&system, &files = platform.files,
+                                &shell = platform.shell]() -> std::unique_ptr<Spreadsheet> {
+        auto application = system.SpreadsheetApplication();
+        return application ? std::move(application) : std::make_unique<XlsSpreadsheet>(files, shell);
     };
     return platform;
 }
@@ -68,8 +70,8 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
       backgroundFiles_(OwnFiles()),
       forms_(KorvaneForms()),
       app_(Complete(
-          {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr},
-          system.Folders(), locale_, fileTypes_, fonts_)),
+          {files_, messages, clipboard_, clock_, screen_, system.Desktop(), channel, forms_, nullptr}, system,
+          locale_, fileTypes_, fonts_)),
       webEngines_([this](const WebView& view) { return PlaceOf(view, forms_); },
                   !system_calls::IsAdministrator()),
       keptFolder_(FromNativePath(FindKeptFolder(OwnSurroundings()))),

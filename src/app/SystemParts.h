@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Spreadsheet.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -22,6 +24,8 @@ public:
     virtual const SystemFolders& Folders() const = 0;
     /// What has documents converted by other programs; nullptr if none can be run.
     virtual DocumentConverter* Converter() { return nullptr; }
+    /// A spreadsheet application that runs beside the program; nullptr when there is none.
+    virtual std::unique_ptr<Spreadsheet> SpreadsheetApplication() { return nullptr; }
     /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
     /// Calls `end` when the system asks this program alone to end.

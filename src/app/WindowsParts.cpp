@@ -1,4 +1,5 @@
 #include "app/SystemParts.h"
+#include "platform/windows/ExcelAutomation.h"
 #include "platform/windows/Win32CommandBox.h"
 #include "platform/windows/Win32Shell.h"
 #include "platform/windows/Win32SystemFolders.h"
@@ -14,6 +15,7 @@ public:
     InstanceChannel& Channel() override { return channel_; }
     Shell& Desktop() override { return shell_; }
     const SystemFolders& Folders() const override { return folders_; }
+    std::unique_ptr<Spreadsheet> SpreadsheetApplication() override { return StartExcel(); }
     void MainWindowShown(std::uintptr_t window) override { box_.MoveTo(window); }
 
 private:
