@@ -74,7 +74,7 @@ private:
     NativeClock clock_;
     QtScreen screen_;
     QtUserLocale locale_;
-    QtFileTypes fileTypes_;
+    QtFileTypes fileTypes_{[this](TextView extension) { return system_.FileTypeName(extension); }};
     QtFonts fonts_;
     QtFormHost forms_;
     QtSystemFileDialog systemFileDialog_;

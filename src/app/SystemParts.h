@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/text/Text.h"
 #include "platform/Spreadsheet.h"
 
 #include <cstdint>
@@ -26,6 +27,8 @@ public:
     virtual DocumentConverter* Converter() { return nullptr; }
     /// A spreadsheet application that runs beside the program; nullptr when there is none.
     virtual std::unique_ptr<Spreadsheet> SpreadsheetApplication() { return nullptr; }
+    /// What the system calls files with this extension; empty where other sources of names are better.
+    virtual Text FileTypeName(TextView /*extension*/) const { return {}; }
     /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
     /// Calls `end` when the system asks this program alone to end.

@@ -1,5 +1,6 @@
 #include "app/SystemParts.h"
 #include "platform/windows/ExcelAutomation.h"
+#include "platform/windows/FileTypeName.h"
 #include "platform/windows/Win32CommandBox.h"
 #include "platform/windows/Win32Shell.h"
 #include "platform/windows/Win32SystemFolders.h"
@@ -16,6 +17,7 @@ public:
     Shell& Desktop() override { return shell_; }
     const SystemFolders& Folders() const override { return folders_; }
     std::unique_ptr<Spreadsheet> SpreadsheetApplication() override { return StartExcel(); }
+    Text FileTypeName(TextView extension) const override { return korvane::FileTypeName(extension); }
     void MainWindowShown(std::uintptr_t window) override { box_.MoveTo(window); }
 
 private:

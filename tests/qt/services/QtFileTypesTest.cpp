@@ -77,6 +77,16 @@ TEST_F(QtFileTypesTest, NamesATypeAsTheDesktopDoes) {
     EXPECT_EQ(NameOf(u"C:\\data.dra\\b.TXT"), u"plain text");
 }
 
+TEST_F(QtFileTypesTest, TheSystemsOwnNameTakesThePlaceOfThatOfTheData) {
+    QtFileTypes ofSystem([](TextView extension) {
+        return extension == u"txt" || extension == u"tbx" ? Text(u"Text Document") : Text();
+    });
+    EXPECT_EQ(ofSystem.TypeOf(u"a.txt"), (FileType{u"Text Document", types.TypeOf(u"a.txt").image}));
+    EXPECT_EQ(&ofSystem.TypeOf(u"a.txt"), &ofSystem.TypeOf(u"b.txt"));
+    EXPECT_EQ(ofSystem.TypeOf(u"a.dra").name, u"drawing");
+    EXPECT_EQ(ofSystem.TypeOf(u"a.tbx").name, u"Korvane text database");
+}
+
 TEST_F(QtFileTypesTest, AFileNeedNotBeThere) {
     EXPECT_EQ(NameOf(u"/no such folder/a.txt"), u"plain text");
 }

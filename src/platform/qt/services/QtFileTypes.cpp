@@ -120,8 +120,14 @@ const FileType& QtFileTypes::TypeOfMime(const QString& extension, const QMimeTyp
     if (isDatabase && (!mime.isValid() || mime.isDefault())) {
         return types_[kDatabaseExtension.toString()] = {Text(kDatabaseName), Text(kDatabasePicture)};
     }
-    const auto [at, isNew] = types_.try_emplace(mime.name());
-    if (isNew) at->second = {ToText(mime.comment()), PictureOf(mime)};
+    const Text own = systemName_ ? systemName_(ToText(extension)) : Text();
+    if (!own.empty()) return Named(ToQString(own), own, mime);
+    return Named(mime.name(), ToText(mime.comment()), mime);
+}
+
+const FileType& QtFileTypes::Named(const QString& key, const Text& name, const QMimeType& mime) {
+    const auto [at, isNew] = types_.try_emplace(key);
+    if (isNew) at->second = {name, PictureOf(mime)};
     return at->second;
 }
 
