@@ -8,11 +8,23 @@
 
 namespace korvane {
 
+namespace {
+
+/// Ready pictures: a drawing in SVG would have to be read and drawn in each size before the first window comes.
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int width : {16, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/korvane-%1.png").arg(width));
+    return icon;
+}
+
+} // namespace
+
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("korvane"));
     // No display name is set, because Qt would add it to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
-    setWindowIcon(QIcon(QStringLiteral(KORVANE_ICON)));
+    setWindowIcon(ProgramIcon());
     setStyle(new CalmStyle);
     setQuitOnLastWindowClosed(false);
 }
