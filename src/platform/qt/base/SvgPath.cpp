@@ -1,11 +1,14 @@
 #include "platform/qt/base/SvgPath.h"
 
+#include <QByteArray>
 #include <QPointF>
-#include <QRegularExpression>
 #include <QtMath>
 #include <algorithm>
+#include <cctype>
+#include <charconv>
 #include <cmath>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 namespace korvane {
@@ -62,7 +65,7 @@ void AddArc(QPainterPath& path, const ArcPlace& arc, const QPointF& to) {
 
 class Reader {
 public:
-    explicit Reader(const QString& steps) : rest_(steps) {}
+    explicit Reader(std::string_view steps) : rest_(steps) {}
 
     QPainterPath Read() {
         while (const auto letter = NextLetter())
@@ -73,10 +76,10 @@ public:
 private:
     std::optional<char> NextLetter() {
         SkipBlanks();
-        if (rest_.isEmpty()) return std::nullopt;
-        if (!rest_.front().isLetter()) return Following(last_);
-        last_ = rest_.front().toLatin1();
-        rest_ = rest_.mid(1);
+        if (rest_.empty()) return std::nullopt;
+        if (std::isalpha(static_cast<unsigned char>(rest_.front())) == 0) return Following(last_);
+        last_ = rest_.front();
+        rest_.remove_prefix(1);
         return last_;
     }
     /// The step that further numbers after a step mean.
@@ -144,29 +147,26 @@ private:
     }
 
     double Number() {
-        static const QRegularExpression kNumber(QStringLiteral("^[+-]?(\\d+\\.?\\d*|\\.\\d+)"));
         SkipBlanks();
-        const QString text = kNumber.match(rest_).captured();
-        failed_ = failed_ || text.isEmpty();
-        rest_ = rest_.mid(text.size());
-        return text.toDouble();
+        double number = 0;
+        const auto [end, fault] = std::from_chars(rest_.data(), rest_.data() + rest_.size(), number);
+        failed_ = failed_ || fault != std::errc();
+        rest_.remove_prefix(static_cast<std::size_t>(end - rest_.data()));
+        return number;
     }
 
     /// A flag is one digit, and no blank has to follow it.
     bool Flag() {
         SkipBlanks();
-        failed_ = failed_ || rest_.isEmpty();
-        const bool set = rest_.startsWith(u'1');
-        rest_ = rest_.mid(1);
+        failed_ = failed_ || rest_.empty();
+        const bool set = rest_.starts_with('1');
+        rest_.remove_prefix(std::min<std::size_t>(rest_.size(), 1));
         return set;
     }
 
-    void SkipBlanks() {
-        while (!rest_.isEmpty() && (rest_.front().isSpace() || rest_.front() == u','))
-            rest_ = rest_.mid(1);
-    }
+    void SkipBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(" ,\t\r\n"), rest_.size())); }
 
-    QStringView rest_;
+    std::string_view rest_;
     QPainterPath path_;
     char last_ = 0;
     /// The point towards which the last curve came in.
@@ -177,7 +177,8 @@ private:
 } // namespace
 
 QPainterPath SvgPath(const QString& steps) {
-    return Reader(steps).Read();
+    const QByteArray bytes = steps.toLatin1();
+    return Reader({bytes.data(), static_cast<std::size_t>(bytes.size())}).Read();
 }
 
 } // namespace korvane
