@@ -18,7 +18,9 @@ namespace {
 constexpr int kPaddingX = 5;
 constexpr int kPaddingTop = 3;
 constexpr int kFrameWidth = 2;
-constexpr unsigned kFontCount = 8;
+constexpr unsigned kFontCount = 16;
+/// A longer text isn't looked at, so that painting a cell never takes long.
+constexpr std::size_t kMostLookedAt = 4096;
 /// How much accent colour is mixed into the current row and the current cell.
 constexpr double kRowTint = 0.07;
 constexpr double kCellTint = 0.12;
@@ -45,7 +47,20 @@ QFont FlaggedFont(const QFont& base, unsigned flags) {
     if ((flags & 1) != 0) font.setItalic(true);
     if ((flags & 2) != 0) font.setBold(true);
     if ((flags & 4) != 0) font.setStrikeOut(true);
+    if ((flags & 8) != 0) font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
+}
+
+/// Latin letters without marks of their own, digits and the like. The soft hyphen is not seen.
+bool IsPlain(char16_t unit) {
+    return (unit >= u' ' && unit <= u'~') || (unit >= u'\u00A0' && unit < u'\u0250' && unit != u'\u00AD');
+}
+
+/// Whether each letter has one glyph, side by side with the others. To find the glyphs of another text takes
+/// several times as long.
+bool IsPlain(TextView text) {
+    return text.size() <= kMostLookedAt &&
+           std::ranges::all_of(text, [](char16_t unit) { return IsPlain(unit); });
 }
 
 } // namespace
@@ -63,7 +78,7 @@ QRect CellDelegate::CheckRect(const QRect& cell, const QWidget& view) {
     return QRect(cell.topLeft() + QPoint(kPaddingX, top), size);
 }
 
-const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col) const {
+const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col, bool plain) const {
     if (fonts_.empty() || fonts_.front() != base) {
         fonts_.clear();
         for (unsigned flags = 0; flags < kFontCount; ++flags)
@@ -72,7 +87,7 @@ const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col) const {
     const bool italic = Store().CellFontFlag(row, col, CellFlag::Italic);
     const bool bold = Store().CellFontFlag(row, col, CellFlag::Bold);
     const bool strike = Store().CellFontFlag(row, col, CellFlag::Strikethrough);
-    return fonts_[(italic ? 1u : 0u) | (bold ? 2u : 0u) | (strike ? 4u : 0u)];
+    return fonts_[(italic ? 1u : 0u) | (bold ? 2u : 0u) | (strike ? 4u : 0u) | (plain ? 8u : 0u)];
 }
 
 void CellDelegate::PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
@@ -134,7 +149,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     }
     const Text text = Store().CellText(cell.row, cell.col);
     if (!text.empty()) {
-        const QFont& font = CellFont(option.font, cell.row, cell.col);
+        const QFont& font = CellFont(option.font, cell.row, cell.col, IsPlain(text));
         painter->save();
         painter->setClipRect(option.rect, Qt::IntersectClip);
         painter->setFont(font);
@@ -156,7 +171,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
                                     const QModelIndex& index) const {
     const Row row = model_.RowOf(index.row());
     const Col col = GridModel::ColOf(index.column());
-    auto* editor = new CellEditor(*parent, CellFont(option.font, row, col));
+    auto* editor = new CellEditor(*parent, CellFont(option.font, row, col, false));
     const CellColours colours = ColoursOf(Store(), row, col, option.palette);
     QPalette palette = option.palette;
     palette.setColor(QPalette::Base, colours.back);

@@ -56,7 +56,8 @@ protected:
 
 private:
     const Grid& Store() const { return box_.Store(); }
-    const QFont& CellFont(const QFont& base, Row row, Col col) const;
+    /// `plain` says that the text needs no shaping.
+    const QFont& CellFont(const QFont& base, Row row, Col col, bool plain) const;
     void ForgetField() const;
     void Finish(QWidget& editor, bool commit, int cellStep) const;
     void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
