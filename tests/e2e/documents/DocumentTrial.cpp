@@ -58,7 +58,8 @@ void NarrowIndentsInCells(Document& document) {
 /// that a line has room.
 Document Source(unsigned number) {
     const std::uint16_t kLargest = 48;
-    const std::int32_t kNarrowest = 1800;
+    const std::int32_t kNarrowest = 3600;
+    const std::int32_t kLargestImage = 1800;
     Holdings holdings;
     holdings.notes = false;
     holdings.page = false;
@@ -84,7 +85,7 @@ Document Source(unsigned number) {
     if (document.FormatOf(document.paragraphs.back()).list.kind != ListKind::None)
         document.paragraphs.emplace_back();
     for (Image& image : document.images)
-        image.width = image.height = std::min(image.width, kNarrowest);
+        image.width = image.height = std::min(image.width, kLargestImage);
     return document;
 }
 
