@@ -10,7 +10,8 @@ namespace korvane {
 
 namespace {
 
-/// Ready pictures: a drawing in SVG would have to be read and drawn in each size before the first window comes.
+/// Ready pictures: a drawing in SVG would have to be read and drawn in each size before the first window
+/// comes.
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int width : {16, 32, 48, 64, 128})
