@@ -3,6 +3,7 @@
 #include "platform/qt/binder/CalmStyle.h"
 
 #include <QIcon>
+#include <QResource>
 #include <exception>
 #include <new>
 
@@ -10,12 +11,16 @@ namespace korvane {
 
 namespace {
 
-/// Ready pictures: a drawing in SVG would have to be read and drawn in each size before the first window
-/// comes.
+/// The pictures are ready pixels. To draw them from SVG, or to look for a reader of PNG, holds up the first
+/// window.
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int width : {16, 32, 48, 64, 128})
-        icon.addFile(QStringLiteral(":/korvane-%1.png").arg(width));
+    for (const int width : {16, 32, 48, 64, 128}) {
+        const QByteArray pixels =
+            QResource(QStringLiteral(":/korvane-%1.bgra").arg(width)).uncompressedData();
+        const auto* bytes = reinterpret_cast<const uchar*>(pixels.constData());
+        icon.addPixmap(QPixmap::fromImage(QImage(bytes, width, width, QImage::Format_ARGB32)));
+    }
     return icon;
 }
 

@@ -34,6 +34,22 @@ int Difference(const QImage& one, const QImage& other) {
     return largest;
 }
 
+/// The same on average.
+double MeanDifference(const QImage& one, const QImage& other) {
+    EXPECT_EQ(one.sizeInBytes(), other.sizeInBytes());
+    double sum = 0;
+    const qsizetype bytes = std::min(one.sizeInBytes(), other.sizeInBytes());
+    for (qsizetype i = 0; i < bytes; ++i)
+        sum += std::abs(one.constBits()[i] - other.constBits()[i]);
+    return sum / static_cast<double>(bytes);
+}
+
+QByteArray Bytes(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
 QImage DrawnByPlugin(QByteArray svg, int width) {
     QBuffer buffer(&svg);
     QImageReader reader(&buffer, "svg");
@@ -53,6 +69,20 @@ TEST(DrawSvgTest, TheProgramsIconsLookAsQtsOwnReaderDrawsThem) {
         const QByteArray svg = file.readAll();
         for (const int width : {16, 24, 48})
             EXPECT_LE(Difference(Drawn(svg, width), DrawnByPlugin(svg, width)), 64) << name.toStdString();
+    }
+}
+
+TEST(ProgramIconTest, TheReadyPicturesAreThatOfTheDrawing) {
+    const QString path = QStringLiteral(KORVANE_SOURCE_DIR) + "/packaging/korvane";
+    const bool canCompare = QImageReader::supportedImageFormats().contains("svg");
+    for (const int width : {16, 32, 48, 64, 128}) {
+        const QByteArray pixels = Bytes(path + QStringLiteral("-%1.bgra").arg(width));
+        ASSERT_EQ(pixels.size(), width * width * 4);
+        if (!canCompare) continue;
+        const QImage ready(reinterpret_cast<const uchar*>(pixels.constData()), width, width,
+                           QImage::Format_ARGB32);
+        const QImage drawn = DrawnByPlugin(Bytes(path + ".svg"), width);
+        EXPECT_LT(MeanDifference(ready.convertToFormat(drawn.format()), drawn), 6) << width;
     }
 }
 

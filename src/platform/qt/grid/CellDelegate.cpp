@@ -47,7 +47,7 @@ QFont FlaggedFont(const QFont& base, unsigned flags) {
     if ((flags & 1) != 0) font.setItalic(true);
     if ((flags & 2) != 0) font.setBold(true);
     if ((flags & 4) != 0) font.setStrikeOut(true);
-    if ((flags & 8) != 0) font.setStyleStrategy(QFont::PreferNoShaping);
+    if ((flags & 8) != 0) font.setStyleStrategy(QFont::PreferDefault);
     return font;
 }
 
@@ -78,7 +78,7 @@ QRect CellDelegate::CheckRect(const QRect& cell, const QWidget& view) {
     return QRect(cell.topLeft() + QPoint(kPaddingX, top), size);
 }
 
-const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col, bool plain) const {
+const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col, bool shaped) const {
     if (fonts_.empty() || fonts_.front() != base) {
         fonts_.clear();
         for (unsigned flags = 0; flags < kFontCount; ++flags)
@@ -87,7 +87,7 @@ const QFont& CellDelegate::CellFont(const QFont& base, Row row, Col col, bool pl
     const bool italic = Store().CellFontFlag(row, col, CellFlag::Italic);
     const bool bold = Store().CellFontFlag(row, col, CellFlag::Bold);
     const bool strike = Store().CellFontFlag(row, col, CellFlag::Strikethrough);
-    return fonts_[(italic ? 1u : 0u) | (bold ? 2u : 0u) | (strike ? 4u : 0u) | (plain ? 8u : 0u)];
+    return fonts_[(italic ? 1u : 0u) | (bold ? 2u : 0u) | (strike ? 4u : 0u) | (shaped ? 8u : 0u)];
 }
 
 void CellDelegate::PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
@@ -149,7 +149,7 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     }
     const Text text = Store().CellText(cell.row, cell.col);
     if (!text.empty()) {
-        const QFont& font = CellFont(option.font, cell.row, cell.col, IsPlain(text));
+        const QFont& font = CellFont(option.font, cell.row, cell.col, !IsPlain(text));
         painter->save();
         painter->setClipRect(option.rect, Qt::IntersectClip);
         painter->setFont(font);
@@ -171,7 +171,7 @@ QWidget* CellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
                                     const QModelIndex& index) const {
     const Row row = model_.RowOf(index.row());
     const Col col = GridModel::ColOf(index.column());
-    auto* editor = new CellEditor(*parent, CellFont(option.font, row, col, false));
+    auto* editor = new CellEditor(*parent, CellFont(option.font, row, col, true));
     const CellColours colours = ColoursOf(Store(), row, col, option.palette);
     QPalette palette = option.palette;
     palette.setColor(QPalette::Base, colours.back);

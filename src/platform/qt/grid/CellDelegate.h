@@ -56,8 +56,8 @@ protected:
 
 private:
     const Grid& Store() const { return box_.Store(); }
-    /// `plain` says that the text needs no shaping.
-    const QFont& CellFont(const QFont& base, Row row, Col col, bool plain) const;
+    /// `base` shapes no text. `shaped` says that the cell's text needs it.
+    const QFont& CellFont(const QFont& base, Row row, Col col, bool shaped) const;
     void ForgetField() const;
     void Finish(QWidget& editor, bool commit, int cellStep) const;
     void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,

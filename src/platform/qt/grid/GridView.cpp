@@ -202,7 +202,10 @@ void GridView::ReadLook() {
     horizontalHeader()->setFont(QApplication::font());
     FitHeader();
     const FontSpec own{Text(Shown(store.GridFontName())), store.GridFontSize(), false};
-    setFont(WithSpec(WithSpec(QApplication::font(), box_->Font), own));
+    QFont font = WithSpec(WithSpec(QApplication::font(), box_->Font), own);
+    // Few cells need shaping, and each of the two ways has glyphs of its own.
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    setFont(font);
 
     // The view's own palette is the base, because a window around it may have changed its colours.
     QPalette palette = this->palette();
