@@ -6,7 +6,7 @@
 
 namespace korvane {
 
-/// Whether Wine stands for Windows. It doesn't do all that Windows does.
+/// Whether the program runs under Wine, which lacks some things that Windows has.
 inline bool UnderWine() {
 #ifdef _WIN32
     return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;

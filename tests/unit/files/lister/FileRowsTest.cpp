@@ -14,6 +14,17 @@ protected:
     static constexpr int kMany = 1001;
 
     static Message Warning(const Text& text) { return {text, MessageIcon::Exclamation}; }
+    /// The user goes to another folder as soon as the reading lets him.
+    void ExpectAnotherFolderTakesOver() {
+        OpenOnly([this](frmGetFileFromTree& f) {
+            t.screen.QueueMessage([&] { f.TreeView1.Select(At(u"Data")); });
+            f.Activate();
+            EXPECT_THAT(Names(f), ElementsAre("a.txt", "b.tbx"));
+            EXPECT_TRUE(f.ListView1.Visible);
+            EXPECT_FALSE(f.cmdEscape.Visible);
+            f.cmdCancel.Press();
+        });
+    }
 };
 KORVANE_IN_BOTH_STYLES(FileRowsTest);
 
@@ -186,14 +197,7 @@ TEST_P(FileRowsTest, AWindowThatClosesEndsTheReadingOfTheNamesToo) {
 
 TEST_P(FileRowsTest, AnotherFolderTakesOverTheReadingOfTheNames) {
     AddFiles(3500);
-    OpenOnly([this](frmGetFileFromTree& f) {
-        t.screen.QueueMessage([&] { f.TreeView1.Select(At(u"Data")); });
-        f.Activate();
-        EXPECT_THAT(Names(f), ElementsAre("a.txt", "b.tbx"));
-        EXPECT_TRUE(f.ListView1.Visible);
-        EXPECT_FALSE(f.cmdEscape.Visible);
-        f.cmdCancel.Press();
-    });
+    ExpectAnotherFolderTakesOver();
 }
 
 TEST_P(FileRowsTest, AWindowThatClosesEndsTheReadingWithoutAWord) {
@@ -208,14 +212,7 @@ TEST_P(FileRowsTest, AWindowThatClosesEndsTheReadingWithoutAWord) {
 
 TEST_P(FileRowsTest, AnotherFolderTakesOverARunningReading) {
     AddFiles(kMany);
-    OpenOnly([this](frmGetFileFromTree& f) {
-        t.screen.QueueMessage([&] { f.TreeView1.Select(At(u"Data")); });
-        f.Activate();
-        EXPECT_THAT(Names(f), ElementsAre("a.txt", "b.tbx"));
-        EXPECT_TRUE(f.ListView1.Visible);
-        EXPECT_FALSE(f.cmdEscape.Visible);
-        f.cmdCancel.Press();
-    });
+    ExpectAnotherFolderTakesOver();
 }
 
 TEST_P(FileRowsTest, ThePointerIsAnHourglassWhileTheyAreRead) {
