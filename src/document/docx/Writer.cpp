@@ -1,73 +1,22 @@
 #include "document/docx/Docx.h"
 #include "document/docx/DocxParts.h"
+#include "document/docx/Elements.h"
 #include "document/model/ListTable.h"
 #include "document/package/Xml.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <optional>
 
 namespace korvane::doc {
 
+using namespace docx;
+
 namespace {
 
 constexpr std::int32_t kTwipsPerHalfPoint = 10;
-constexpr std::int32_t kTwipsPerPoint = 20;
-constexpr double kTwipsPerEighth = 2.5;
 constexpr double kLineParts = 240;
 constexpr std::int64_t kEmuPerTwip = 635;
-
-constexpr std::string_view kHead = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
-constexpr std::string_view kMain = "xmlns:w=\"http://schemas.openxmlformats.org/wordprocessingml/2006/main\"";
-constexpr std::string_view kOffice = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
-
-void PutNumber(std::string& out, std::int64_t number) {
-    char digits[24];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
-    out.append(digits, end.ptr);
-}
-
-/// Writes ` name="number"`.
-void PutAttribute(std::string& out, std::string_view name, std::int64_t number) {
-    out += ' ';
-    out += name;
-    out += "=\"";
-    PutNumber(out, number);
-    out += '"';
-}
-
-/// Writes an element with a number as its value.
-void PutValue(std::string& out, std::string_view element, std::int64_t number) {
-    out += '<';
-    out += element;
-    PutAttribute(out, "w:val", number);
-    out += "/>";
-}
-
-void PutColour(std::string& out, Colour colour) {
-    static constexpr char kDigits[] = "0123456789ABCDEF";
-    for (const int shift : {4, 0, 12, 8, 20, 16})
-        out += kDigits[colour.value >> shift & 15];
-}
-
-void PutShading(std::string& out, Colour colour) {
-    out += "<w:shd w:val=\"clear\" w:color=\"auto\" w:fill=\"";
-    PutColour(out, colour);
-    out += "\"/>";
-}
-
-void PutLine(std::string& out, std::string_view element, std::string_view kind, std::int32_t width,
-             std::int32_t distance) {
-    out += '<';
-    out += element;
-    out += " w:val=\"";
-    out += kind;
-    out += '"';
-    PutAttribute(out, "w:sz", std::lround(width / kTwipsPerEighth));
-    PutAttribute(out, "w:space", distance / kTwipsPerPoint);
-    out += " w:color=\"auto\"/>";
-}
 
 class Writer {
 public:
@@ -128,7 +77,7 @@ private:
         out += "<w:styles ";
         out += kMain;
         out += "><w:docDefaults><w:rPrDefault><w:rPr>";
-        PutFont(out, document_.chars[0].font);
+        PutFont(out, document_.fonts[document_.chars[0].font]);
         PutValue(out, "w:sz", document_.chars[0].halfPoints);
         return out + "</w:rPr></w:rPrDefault><w:pPrDefault/></w:docDefaults>"
                      "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\"><w:name "
@@ -358,20 +307,10 @@ private:
         return *words;
     }
 
-    void PutFont(std::string& out, std::uint16_t font) const {
-        out += "<w:rFonts";
-        for (const std::string_view attribute : {" w:ascii=\"", " w:hAnsi=\"", " w:cs=\""}) {
-            out += attribute;
-            PutXml(out, document_.fonts[font]);
-            out += '"';
-        }
-        out += "/>";
-    }
-
     std::string MakeLook(const CharFormat& look) const {
         const CharFormat& usual = document_.chars[0];
         std::string out;
-        if (look.font != usual.font) PutFont(out, look.font);
+        if (look.font != usual.font) PutFont(out, document_.fonts[look.font]);
         if (look.bold) out += "<w:b/>";
         if (look.italic) out += "<w:i/>";
         if (look.smallCaps) out += "<w:smallCaps/>";
