@@ -1,6 +1,7 @@
 #include "document/docx/Docx.h"
 #include "document/docx/DocxParts.h"
 #include "document/docx/Elements.h"
+#include "document/docx/SmallParts.h"
 #include "document/model/ListTable.h"
 #include "document/package/Xml.h"
 
@@ -29,115 +30,20 @@ public:
     PackageWriter Write() {
         WriteBody();
         PackageWriter package;
-        package.Add("[Content_Types].xml", ContentTypes());
-        package.Add("_rels/.rels", Relations("<Relationship Id=\"rId1\" Type=\"" + std::string(kOffice) +
-                                             "/officeDocument\" Target=\"word/document.xml\"/>"));
+        package.Add("[Content_Types].xml", ContentTypesPart(!lists_.Lists().empty()));
+        package.Add("_rels/.rels", RelationsPart("<Relationship Id=\"rId1\" Type=\"" + std::string(kOffice) +
+                                                 "/officeDocument\" Target=\"word/document.xml\"/>"));
         package.Add("word/document.xml", std::move(body_));
-        package.Add("word/_rels/document.xml.rels", Relations(relations_));
-        package.Add("word/styles.xml", StylesPart());
-        package.Add("word/settings.xml", SettingsPart());
-        if (!lists_.Lists().empty()) package.Add("word/numbering.xml", NumberingPart());
+        package.Add("word/_rels/document.xml.rels", RelationsPart(relations_));
+        package.Add("word/styles.xml", StylesPart(document_));
+        package.Add("word/settings.xml", SettingsPart(document_));
+        if (!lists_.Lists().empty()) package.Add("word/numbering.xml", NumberingPart(lists_));
         for (auto& [name, bytes] : media_)
             package.Add(name, std::move(bytes));
         return package;
     }
 
 private:
-    static std::string Relations(const std::string& relations) {
-        return std::string(kHead) +
-               "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">" +
-               relations + "</Relationships>";
-    }
-
-    std::string ContentTypes() const {
-        static constexpr std::string_view kPart = "<Override PartName=\"/word/";
-        static constexpr std::string_view kType =
-            " ContentType=\"application/vnd.openxmlformats-officedocument.wordprocessingml.";
-        std::string out(kHead);
-        out += "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">"
-               "<Default Extension=\"rels\" "
-               "ContentType=\"application/vnd.openxmlformats-package.relationships+xml\"/>"
-               "<Default Extension=\"xml\" ContentType=\"application/xml\"/>"
-               "<Default Extension=\"png\" ContentType=\"image/png\"/><Default Extension=\"jpeg\" "
-               "ContentType=\"image/jpeg\"/>";
-        for (const std::string_view part : {"document", "styles", "settings", "numbering"}) {
-            if (part == "numbering" && lists_.Lists().empty()) continue;
-            out += kPart;
-            out += part;
-            out += ".xml\"";
-            out += kType;
-            out += part == "document" ? std::string_view("document.main") : part;
-            out += "+xml\"/>";
-        }
-        return out + "</Types>";
-    }
-
-    std::string StylesPart() {
-        std::string out(kHead);
-        out += "<w:styles ";
-        out += kMain;
-        out += "><w:docDefaults><w:rPrDefault><w:rPr>";
-        PutFont(out, document_.fonts[document_.chars[0].font]);
-        PutValue(out, "w:sz", document_.chars[0].halfPoints);
-        return out + "</w:rPr></w:rPrDefault><w:pPrDefault/></w:docDefaults>"
-                     "<w:style w:type=\"paragraph\" w:default=\"1\" w:styleId=\"Normal\"><w:name "
-                     "w:val=\"Normal\"/></w:style>"
-                     "</w:styles>";
-    }
-
-    std::string SettingsPart() const {
-        std::string out(kHead);
-        out += "<w:settings ";
-        out += kMain;
-        out += '>';
-        PutValue(out, "w:defaultTabStop", document_.defaultTab);
-        return out + "</w:settings>";
-    }
-
-    std::string NumberingPart() const {
-        std::string out(kHead);
-        out += "<w:numbering ";
-        out += kMain;
-        out += '>';
-        for (const auto& [number, levels] : lists_.Lists())
-            PutList(out, number, levels);
-        for (const auto& [number, levels] : lists_.Lists()) {
-            out += "<w:num";
-            PutAttribute(out, "w:numId", number);
-            out += '>';
-            PutValue(out, "w:abstractNumId", number);
-            out += "</w:num>";
-        }
-        return out + "</w:numbering>";
-    }
-
-    static void PutList(std::string& out, std::uint32_t number, const ListTable::Levels& levels) {
-        static constexpr std::string_view kFormats[] = {
-            "none", "bullet", "decimal", "lowerLetter", "upperLetter", "lowerRoman", "upperRoman"};
-        out += "<w:abstractNum";
-        PutAttribute(out, "w:abstractNumId", number);
-        out += '>';
-        for (std::size_t level = 0; level < levels.size(); ++level) {
-            const ListMark mark = levels[level].value_or(ListMark{ListKind::Decimal});
-            out += "<w:lvl";
-            PutAttribute(out, "w:ilvl", static_cast<std::int64_t>(level));
-            out += '>';
-            PutValue(out, "w:start", mark.start);
-            out += "<w:numFmt w:val=\"";
-            out += kFormats[static_cast<std::size_t>(mark.kind)];
-            out += "\"/><w:lvlText w:val=\"";
-            if (mark.kind == ListKind::Bullet)
-                out += "\xE2\x80\xA2";
-            else {
-                out += '%';
-                PutNumber(out, static_cast<std::int64_t>(level) + 1);
-                out += '.';
-            }
-            out += "\"/></w:lvl>";
-        }
-        out += "</w:abstractNum>";
-    }
-
     void WriteBody() {
         AddRelation("styles", "styles.xml", false);
         AddRelation("settings", "settings.xml", false);
