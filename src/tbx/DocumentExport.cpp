@@ -50,7 +50,7 @@ ExitStatus RunHtml(const Call& call, Environment& environment) {
 
 ExitStatus RunDocx(const Call& call, Environment& environment) {
     return Export(call, environment, [](const doc::Document& document, const doc::PieceTaker& take) {
-        take(doc::WriteDocx(document));
+        doc::WriteDocx(document, take);
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/model/Document.h"
+#include "document/model/Pieces.h"
 #include "document/model/Reading.h"
 
 #include <string>
@@ -12,5 +13,7 @@ namespace korvane::doc {
 ReadResult ReadDocx(std::string_view bytes, const Limits& limits = {});
 
 std::string WriteDocx(const Document& document);
+/// The same piece by piece. False when the file can't be made.
+bool WriteDocx(const Document& document, const PieceTaker& take);
 
 } // namespace korvane::doc

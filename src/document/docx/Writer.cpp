@@ -3,11 +3,15 @@
 #include "document/docx/Elements.h"
 #include "document/docx/SmallParts.h"
 #include "document/model/ListTable.h"
+#include "document/model/Pieces.h"
 #include "document/package/Xml.h"
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace korvane::doc {
 
@@ -19,32 +23,38 @@ constexpr std::int32_t kTwipsPerHalfPoint = 10;
 constexpr double kLineParts = 240;
 constexpr std::int64_t kEmuPerTwip = 635;
 
-class Writer {
+/// Makes the part with the text piece by piece, so that a long text is never there as XML in one piece.
+class Body {
 public:
-    explicit Writer(const Document& document)
-        : document_(document),
-          lists_(document),
-          looks_(document.chars.Size()),
-          shapes_(document.paras.Size()) {}
+    Body(const Document& document, const ListTable& lists)
+        : document_(document), lists_(lists), looks_(document.chars.Size()), shapes_(document.paras.Size()) {}
 
-    PackageWriter Write() {
-        WriteBody();
-        PackageWriter package;
-        package.Add("[Content_Types].xml", ContentTypesPart(!lists_.Lists().empty()));
-        package.Add("_rels/.rels", RelationsPart("<Relationship Id=\"rId1\" Type=\"" + std::string(kOffice) +
-                                                 "/officeDocument\" Target=\"word/document.xml\"/>"));
-        package.Add("word/document.xml", std::move(body_));
-        package.Add("word/_rels/document.xml.rels", RelationsPart(relations_));
-        package.Add("word/styles.xml", StylesPart(document_));
-        package.Add("word/settings.xml", SettingsPart(document_));
-        if (!lists_.Lists().empty()) package.Add("word/numbering.xml", NumberingPart(lists_));
-        for (auto& [name, bytes] : media_)
-            package.Add(name, std::move(bytes));
-        return package;
+    /// The next piece; an empty one after the last.
+    std::string_view Next() {
+        body_.clear();
+        while (body_.size() < kPieceOfText && !ended_)
+            Continue();
+        return body_;
     }
+    /// What the pieces so far refer to.
+    const std::string& Relations() const { return relations_; }
+    /// The pictures of the pieces so far by the names of their parts.
+    const std::vector<std::pair<std::string, SharedBytes>>& Media() const { return media_; }
 
 private:
-    void WriteBody() {
+    void Continue() {
+        if (!std::exchange(begun_, true)) return Begin();
+        if (paragraph_ == document_.paragraphs.size()) return End();
+        const Paragraph& paragraph = document_.paragraphs[paragraph_];
+        if (!std::exchange(inParagraph_, true))
+            BeginParagraph(paragraph);
+        else if (run_ < paragraph.runs.size())
+            ContinueRun(paragraph, paragraph.runs[run_]);
+        else
+            EndParagraph();
+    }
+
+    void Begin() {
         AddRelation("styles", "styles.xml", false);
         AddRelation("settings", "settings.xml", false);
         if (!lists_.Lists().empty()) AddRelation("numbering", "numbering.xml", false);
@@ -56,14 +66,12 @@ private:
         body_ += "\" xmlns:wp=\"http://schemas.openxmlformats.org/drawingml/2006/wordprocessingDrawing\""
                  " xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\""
                  " xmlns:pic=\"http://schemas.openxmlformats.org/drawingml/2006/picture\"><w:body>";
-        CellPlace before;
-        for (const Paragraph& paragraph : document_.paragraphs) {
-            MoveTo(before, paragraph.cell);
-            WriteParagraph(paragraph);
-            before = paragraph.cell;
-        }
+    }
+
+    void End() {
         WriteSection();
         body_ += "</w:body></w:document>";
+        ended_ = true;
     }
 
     /// Adds what the document refers to, and gives the number by which it does.
@@ -143,41 +151,48 @@ private:
         body_ += " w:type=\"dxa\"/></w:tcMar></w:tcPr>";
     }
 
-    void WriteParagraph(const Paragraph& paragraph) {
+    void BeginParagraph(const Paragraph& paragraph) {
+        MoveTo(place_, paragraph.cell);
+        place_ = paragraph.cell;
         std::optional<std::string>& shape = shapes_[paragraph.format];
         if (!shape) shape = ShapeOf(document_.FormatOf(paragraph));
         const std::string& mark = paragraph.text.empty() ? LookOf(paragraph.emptyFormat) : kNothing_;
         body_ += "<w:p>";
         if (!shape->empty() || !mark.empty()) body_ += "<w:pPr>" + *shape + mark + "</w:pPr>";
-        std::size_t at = 0;
-        Index field = 0;
-        for (const Run& run : paragraph.runs) {
-            if (run.field != field) ChangeLink(field, run.field);
-            field = run.field;
-            WriteRun(run, TextView(paragraph.text).substr(at, run.length));
-            at += run.length;
-        }
-        ChangeLink(field, 0);
-        body_ += "</w:p>";
+        run_ = at_ = atInRun_ = 0;
     }
 
-    void WriteRun(const Run& run, TextView text) {
+    void EndParagraph() {
+        ChangeLink(0);
+        body_ += "</w:p>";
+        ++paragraph_;
+        inParagraph_ = false;
+    }
+
+    void ContinueRun(const Paragraph& paragraph, const Run& run) {
+        if (atInRun_ == 0) BeginRun(run);
+        const std::size_t length = LengthOfPiece(TextView(paragraph.text).substr(at_, run.length - atInRun_));
+        if (run.image == 0) WriteText(TextView(paragraph.text).substr(at_, length));
+        at_ += length;
+        atInRun_ += length;
+        if (atInRun_ < run.length) return;
+        body_ += "</w:r>";
+        ++run_;
+        atInRun_ = 0;
+    }
+
+    void BeginRun(const Run& run) {
+        ChangeLink(run.field);
         body_ += "<w:r>";
         body_ += LookOf(run.format);
-        if (run.image != 0)
-            WriteImage(document_.images[run.image - 1], run.image);
-        else
-            WriteText(text);
-        body_ += "</w:r>";
+        if (run.image != 0) WriteImage(document_.images[run.image - 1], run.image);
     }
 
     void WriteText(TextView text) {
         while (!text.empty()) {
             const std::size_t end = std::min(text.find_first_of(u"\t\v"), text.size());
             if (end > 0) {
-                body_ += "<w:t xml:space=\"preserve\">";
-                PutXml(body_, text.substr(0, end));
-                body_ += "</w:t>";
+                WriteWords(text.substr(0, end));
             }
             text.remove_prefix(end);
             if (text.empty()) return;
@@ -186,13 +201,22 @@ private:
         }
     }
 
+    void WriteWords(TextView text) {
+        const bool blanks = text.front() == u' ' || text.back() == u' ';
+        body_ += blanks ? "<w:t xml:space=\"preserve\">" : "<w:t>";
+        PutXml(body_, text);
+        body_ += "</w:t>";
+    }
+
     const Field* LinkOf(Index field) const {
         const auto found = document_.fields.find(field);
         const bool link = found != document_.fields.end() && found->second.kind == FieldKind::Hyperlink;
         return link ? &found->second : nullptr;
     }
 
-    void ChangeLink(Index from, Index to) {
+    void ChangeLink(Index to) {
+        const Index from = std::exchange(field_, to);
+        if (from == to) return;
         if (LinkOf(from) != nullptr) body_ += "</w:hyperlink>";
         const Field* const link = LinkOf(to);
         if (link == nullptr) return;
@@ -313,7 +337,7 @@ private:
         if (image.kind == ImageKind::Other) return;
         const std::string name =
             "media/image" + std::to_string(number) + (image.kind == ImageKind::Png ? ".png" : ".jpeg");
-        media_.emplace_back("word/" + name, std::string(image.bytes.View()));
+        media_.emplace_back("word/" + name, image.bytes);
         const std::string id = AddRelation("image", name, false);
         std::string size;
         PutAttribute(size, "cx", image.width * kEmuPerTwip);
@@ -337,25 +361,60 @@ private:
     }
 
     const Document& document_;
-    ListTable lists_;
+    const ListTable& lists_;
     /// The properties of the formats that were used so far.
     std::vector<std::optional<std::string>> looks_;
     std::vector<std::optional<std::string>> shapes_;
     std::string body_;
     std::string relations_;
     int relationCount_ = 0;
-    std::vector<std::pair<std::string, std::string>> media_;
+    std::vector<std::pair<std::string, SharedBytes>> media_;
     const std::string kNothing_{};
+
+    // How far the text is written.
+    bool begun_ = false;
+    bool ended_ = false;
+    bool inParagraph_ = false;
+    std::size_t paragraph_ = 0;
+    std::size_t run_ = 0;
+    std::size_t at_ = 0;
+    std::size_t atInRun_ = 0;
+    CellPlace place_{};
+    Index field_ = 0;
 };
 
 } // namespace
 
-std::string WriteDocx(const Document& document) {
-    return MakeDocxParts(document).Write();
+PackageWriter MakeDocxParts(const Document& document) {
+    const auto lists = std::make_shared<const ListTable>(document);
+    const bool withLists = !lists->Lists().empty();
+    // The size of the text's part, and what it refers to, are known when it was made once.
+    Body measured(document, *lists);
+    std::size_t size = 0;
+    for (std::string_view piece = measured.Next(); !piece.empty(); piece = measured.Next())
+        size += piece.size();
+    PackageWriter package;
+    package.Add("[Content_Types].xml", ContentTypesPart(withLists));
+    package.Add("_rels/.rels", RelationsPart("<Relationship Id=\"rId1\" Type=\"" + std::string(kOffice) +
+                                             "/officeDocument\" Target=\"word/document.xml\"/>"));
+    package.AddMade("word/document.xml", size, [&document, lists] {
+        return [lists, body = std::make_shared<Body>(document, *lists)] { return body->Next(); };
+    });
+    package.Add("word/_rels/document.xml.rels", RelationsPart(measured.Relations()));
+    package.Add("word/styles.xml", StylesPart(document));
+    package.Add("word/settings.xml", SettingsPart(document));
+    if (withLists) package.Add("word/numbering.xml", NumberingPart(*lists));
+    for (const auto& [name, bytes] : measured.Media())
+        package.Add(name, std::string(bytes.View()));
+    return package;
 }
 
-PackageWriter MakeDocxParts(const Document& document) {
-    return Writer(document).Write();
+std::string WriteDocx(const Document& document) {
+    return Joined([&document](const PieceTaker& take) { WriteDocx(document, take); });
+}
+
+bool WriteDocx(const Document& document, const PieceTaker& take) {
+    return MakeDocxParts(document).Write(take);
 }
 
 } // namespace korvane::doc

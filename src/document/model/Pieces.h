@@ -22,12 +22,18 @@ inline void PassOn(std::string& collected, const PieceTaker& take) {
     collected.clear();
 }
 
-/// Calls `put` for the parts of a text. A character of two units isn't cut.
+/// How much of the text is its first piece. A character of two units isn't cut.
+inline std::size_t LengthOfPiece(TextView text) {
+    if (text.size() <= kPieceOfText) return text.size();
+    const char16_t last = text[kPieceOfText - 1];
+    return last >= 0xD800 && last < 0xDC00 ? kPieceOfText - 1 : kPieceOfText;
+}
+
+/// Calls `put` for the parts of a text.
 template <class Put>
 void ForEachPiece(TextView text, const Put& put) {
     while (text.size() > kPieceOfText) {
-        const char16_t last = text[kPieceOfText - 1];
-        const std::size_t length = last >= 0xD800 && last < 0xDC00 ? kPieceOfText - 1 : kPieceOfText;
+        const std::size_t length = LengthOfPiece(text);
         put(text.substr(0, length));
         text.remove_prefix(length);
     }

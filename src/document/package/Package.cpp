@@ -13,8 +13,6 @@ namespace {
 constexpr char kRelationsFolder[] = "_rels/";
 /// All parts together may unpack to so many times the most bytes of a file.
 constexpr std::size_t kUnpackedFiles = 4;
-/// The first of January 1980, the first day that an archive can tell.
-constexpr zip_uint16_t kFixedDate = 1 << 5 | 1;
 
 std::string FolderOf(const std::string& part) {
     const std::size_t slash = part.rfind('/');
@@ -126,41 +124,6 @@ std::string Package::MainPart() {
     const std::vector<Relation> relations = Relations("");
     const auto found = std::ranges::find(relations, "officeDocument", &Relation::type);
     return found == relations.end() ? std::string() : found->target;
-}
-
-std::string PackageWriter::Write() const {
-    zip_error_t error;
-    zip_error_init(&error);
-    zip_source_t* const target = zip_source_buffer_create(nullptr, 0, 0, &error);
-    zip_error_fini(&error);
-    if (target == nullptr) return {};
-    // The archive gives its hold of the target up when it closes, and the bytes are read after that.
-    zip_source_keep(target);
-    zip_t* const archive = zip_open_from_source(target, ZIP_TRUNCATE, nullptr);
-    bool whole = archive != nullptr;
-    for (const PackagePart& part : parts_) {
-        if (!whole) break;
-        zip_source_t* const source = zip_source_buffer(archive, part.bytes.data(), part.bytes.size(), 0);
-        const zip_int64_t index =
-            source == nullptr ? -1 : zip_file_add(archive, part.name.c_str(), source, ZIP_FL_ENC_UTF_8);
-        if (index < 0 && source != nullptr) zip_source_free(source);
-        whole = index >= 0 &&
-                zip_file_set_dostime(archive, static_cast<zip_uint64_t>(index), 0, kFixedDate, 0) == 0;
-    }
-    if (archive != nullptr && (!whole || zip_close(archive) != 0)) {
-        zip_discard(archive);
-        whole = false;
-    }
-    std::string bytes;
-    zip_stat_t stat;
-    if (whole && zip_source_stat(target, &stat) == 0 && zip_source_open(target) == 0) {
-        bytes.resize(stat.size);
-        const zip_int64_t read = zip_source_read(target, bytes.data(), bytes.size());
-        bytes.resize(read < 0 ? 0 : static_cast<std::size_t>(read));
-        zip_source_close(target);
-    }
-    zip_source_free(target);
-    return bytes;
 }
 
 } // namespace korvane::doc

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "document/model/Pieces.h"
 #include "document/model/Reading.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -60,17 +62,31 @@ private:
     bool overLimit_ = false;
 };
 
+/// Gives the next piece of a part; an empty one at its end.
+using NextPiece = std::function<std::string_view()>;
+
 /// Makes a package part by part.
 class PackageWriter {
 public:
-    void Add(std::string name, std::string bytes) { parts_.push_back({std::move(name), std::move(bytes)}); }
-    /// The bytes of the whole file, which are the same for the same parts. Empty when the archive can't be
-    /// made.
+    void Add(std::string name, std::string bytes);
+    /// A part of this size that is made while the package is written. `begin` begins it, as often as it is
+    /// needed.
+    void AddMade(std::string name, std::size_t size, std::function<NextPiece()> begin);
+    /// Gives the bytes of the whole file, which are the same for the same parts. False when the archive can't
+    /// be made.
+    bool Write(const PieceTaker& take) const;
+    /// All of them; none when the archive can't be made.
     std::string Write() const;
-    const PackageParts& Parts() const { return parts_; }
+    PackageParts Parts() const;
 
 private:
-    PackageParts parts_;
+    struct MadePart {
+        std::string name;
+        std::size_t size;
+        std::function<NextPiece()> begin;
+    };
+
+    std::vector<MadePart> parts_;
 };
 
 } // namespace korvane::doc

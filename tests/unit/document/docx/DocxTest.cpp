@@ -1,12 +1,16 @@
 #include "document/docx/Docx.h"
 
+#include "document/docx/DocxParts.h"
+#include "document/model/Builder.h"
 #include "document/package/Package.h"
 #include "support/RandomDocument.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace korvane::doc {
 namespace {
+
+using testing::HasSubstr;
 
 constexpr Holdings kHeld{.notes = false, .coarseBaseLine = true};
 
@@ -51,6 +55,31 @@ Document Read(const std::string& body, const std::vector<std::pair<std::string, 
 
 std::string TextOf(const std::string& body) {
     return ToUtf8(PlainText(Read(body)));
+}
+
+Document WithText(const Text& text) {
+    Builder builder({});
+    builder.Add(text);
+    return builder.Finish({});
+}
+
+TEST(Docx, ALongTextIsWrittenInPiecesAndComesBack) {
+    // A piece may end between two blanks, at a tab, and not within a character of two units.
+    for (const TextView unit : {u"\xD83D\xDE00", u" ", u"\v", u"a\t", u"word "}) {
+        Text text = u"a";
+        while (text.size() < 3 * kPieceOfText)
+            text += unit;
+        const ReadResult read = ReadDocx(WriteDocx(WithText(text)));
+        ASSERT_EQ(read.document.paragraphs.size(), 1u);
+        EXPECT_TRUE(read.document.paragraphs[0].text == text) << ToUtf8(unit);
+    }
+}
+
+TEST(Docx, OnlyBlanksAtTheEndsOfATextAreMarked) {
+    const auto body = [](const Text& text) { return MakeDocxParts(WithText(text)).Parts().at(2).bytes; };
+    EXPECT_THAT(body(u"a b"), HasSubstr("<w:t>a b</w:t>"));
+    EXPECT_THAT(body(u" a\tb "), HasSubstr("<w:t xml:space=\"preserve\"> a</w:t><w:tab/>"
+                                           "<w:t xml:space=\"preserve\">b </w:t>"));
 }
 
 TEST(Docx, TextComesInRuns) {

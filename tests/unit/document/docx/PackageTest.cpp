@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 namespace korvane::doc {
 namespace {
 
@@ -20,10 +22,45 @@ TEST(Package, PartsComeBack) {
     EXPECT_EQ(package.Part("none"), std::nullopt);
 }
 
+NextPiece Numbers(int last) {
+    return [last, number = 0, piece = std::string()]() mutable -> std::string_view {
+        piece = number < last ? std::to_string(number++) + '\n' : "";
+        return piece;
+    };
+}
+
+TEST(Package, APartIsMadeWhileItIsPacked) {
+    PackageWriter writer;
+    writer.AddMade("numbers", 588'890, [] { return Numbers(100'000); });
+    const PackageParts parts = writer.Parts();
+    EXPECT_EQ(parts.at(0).bytes.size(), 588'890u);
+    const std::string packed = writer.Write();
+    EXPECT_LT(packed.size(), 300'000u);
+    EXPECT_EQ(packed, writer.Write()) << "the part is begun again";
+    EXPECT_EQ(Package(packed, {}).Part("numbers"), parts.at(0).bytes);
+}
+
+TEST(Package, WhatGoesWrongInAPartIsToldAfterwards) {
+    PackageWriter writer;
+    writer.AddMade("bad", 5,
+                   []() -> NextPiece { return []() -> std::string_view { throw std::bad_alloc(); }; });
+    bool given = false;
+    EXPECT_THROW(writer.Write([&given](std::string_view) { given = true; }), std::bad_alloc);
+    EXPECT_FALSE(given);
+}
+
+TEST(Package, TwoPartsOfANameAreNoPackage) {
+    PackageWriter writer;
+    writer.Add("a", "1");
+    writer.Add("a", "2");
+    EXPECT_EQ(writer.Write(), "");
+}
+
 TEST(Package, PartsNeedntBePacked) {
     PackageWriter writer;
     writer.Add("a/b.txt", "bytes");
-    Package package(writer.Parts(), {});
+    const PackageParts parts = writer.Parts();
+    Package package(parts, {});
     EXPECT_TRUE(package.IsOpen());
     EXPECT_EQ(package.Part("a/b.txt"), "bytes");
     EXPECT_EQ(package.Part("none"), std::nullopt);
