@@ -2,6 +2,8 @@
 
 #include "tbx/RowFormat.h"
 
+#include <vector>
+
 namespace korvane {
 
 /// CSV (RFC 4180). The headers are the first record, and every record ends in CR LF. A field is put in quotes
@@ -11,7 +13,9 @@ class CsvRows final : public RowFormat {
 public:
     explicit CsvRows(char delimiter = ',') : delimiter_(delimiter) {}
 
-    void Begin(std::span<const CellText> headers, Output& out) override { AddRow(headers, out); }
+    void Begin(std::span<const TextView> headers, Output& out) override {
+        AddRow(std::vector<CellText>(headers.begin(), headers.end()), out);
+    }
     void AddRow(std::span<const CellText> cells, Output& out) override;
     void End(Output&) override {}
 

@@ -9,11 +9,10 @@ namespace korvane {
 namespace {
 
 void WriteRows(const Grid& grid, RowFormat& format, Output& out) {
-    std::vector<CellText> headers;
+    std::vector<TextView> headers;
     for (Col col{1}; col <= grid.ColCount(); ++col)
         headers.emplace_back(grid.ColHeaderText(col));
     format.Begin(headers, out);
-    headers = {};
     std::vector<CellText> cells;
     for (Row row{1}; row <= grid.RowCount() && out.Works(); ++row) {
         cells.clear();

@@ -12,7 +12,8 @@ namespace korvane {
 class RowFormat {
 public:
     virtual ~RowFormat() = default;
-    virtual void Begin(std::span<const CellText> headers, Output& out) = 0;
+    /// The headers stay as they are until the end, so that a long one needn't be copied.
+    virtual void Begin(std::span<const TextView> headers, Output& out) = 0;
     virtual void AddRow(std::span<const CellText> cells, Output& out) = 0;
     virtual void End(Output& out) = 0;
 };

@@ -2,6 +2,8 @@
 
 #include "tbx/RowFormat.h"
 
+#include <vector>
+
 namespace korvane {
 
 /// Tab-separated values. The headers are the first line, and every line ends in LF. Inside a field a tab is
@@ -9,7 +11,9 @@ namespace korvane {
 /// columns gives nothing.
 class TsvRows final : public RowFormat {
 public:
-    void Begin(std::span<const CellText> headers, Output& out) override { AddRow(headers, out); }
+    void Begin(std::span<const TextView> headers, Output& out) override {
+        AddRow(std::vector<CellText>(headers.begin(), headers.end()), out);
+    }
     void AddRow(std::span<const CellText> cells, Output& out) override;
     void End(Output&) override {}
 };

@@ -17,12 +17,19 @@ std::vector<CellText> CellsOf(const Texts& texts) {
 template <class Format>
 std::string Write(Format format, const Texts& headers, const std::vector<Texts>& rows) {
     StringOutput out;
-    format.Begin(CellsOf(headers), out);
+    format.Begin(std::vector<TextView>(headers.begin(), headers.end()), out);
     for (const Texts& row : rows)
         format.AddRow(CellsOf(row), out);
     format.End(out);
     out.Flush();
     return out.Bytes();
+}
+
+Texts Keys(const Texts& headers) {
+    Texts keys;
+    for (const JsonKey& key : DistinctKeys(std::vector<TextView>(headers.begin(), headers.end())))
+        keys.push_back(Text(key.header) + key.addition);
+    return keys;
 }
 
 TEST(CsvRows, QuotesOnlyWhatNeedsIt) {
@@ -57,14 +64,21 @@ TEST(JsonRows, ATableWithoutRowsIsAnEmptyArray) {
 }
 
 TEST(JsonRows, AKeyIsNumberedWhereItsHeaderStoodBefore) {
-    EXPECT_THAT(DistinctKeys({u"a", u"b", u"a", u"a"}), ElementsAre(u"a", u"b", u"a 2", u"a 3"));
-    EXPECT_THAT(DistinctKeys({u"a", u"a", u"a 2"}), ElementsAre(u"a", u"a 3", u"a 2"));
-    EXPECT_THAT(DistinctKeys({u"a", u"a 2", u"a 2"}), ElementsAre(u"a", u"a 2", u"a 2 2"));
+    EXPECT_THAT(Keys({u"a", u"b", u"a", u"a"}), ElementsAre(u"a", u"b", u"a 2", u"a 3"));
+    EXPECT_THAT(Keys({u"a", u"a", u"a 2"}), ElementsAre(u"a", u"a 3", u"a 2"));
+    EXPECT_THAT(Keys({u"a", u"a 2", u"a 2"}), ElementsAre(u"a", u"a 2", u"a 2 2"));
 }
 
 TEST(JsonRows, AnEmptyHeaderGetsTheNumberOfItsColumn) {
-    EXPECT_THAT(DistinctKeys({u"", u"x", u""}), ElementsAre(u"column 1", u"x", u"column 3"));
-    EXPECT_THAT(DistinctKeys({u"", u"column 1"}), ElementsAre(u"column 1 2", u"column 1"));
+    EXPECT_THAT(Keys({u"", u"x", u""}), ElementsAre(u"column 1", u"x", u"column 3"));
+    EXPECT_THAT(Keys({u"", u"column 1"}), ElementsAre(u"column 1 2", u"column 1"));
+}
+
+TEST(JsonRows, ALongHeaderIsAKeyToo) {
+    const Text name = Text(20'000, u'n') + u"\"";
+    const std::string json = std::string(20'000, 'n') + "\\\"";
+    EXPECT_EQ(Write(JsonRows(), {name, name}, {{u"a", u"b"}}),
+              "[\n{\"" + json + "\":\"a\",\"" + json + " 2\":\"b\"}\n]\n");
 }
 
 TEST(RowFormats, ATableWithoutColumnsGivesNoLines) {
