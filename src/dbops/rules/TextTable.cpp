@@ -71,6 +71,7 @@ public:
         if (!bytes) return Put(WithoutLineEnd(TextView(grid_.CellValue(row, col))));
         const CodePage& page = grid_.Page();
         for (std::string_view rest = WithoutLineEnd(*bytes); !rest.empty();) {
+            rest_ = rest.size();
             Put(page.ToText(rest.substr(0, kPieceOfCell)));
             rest.remove_prefix(std::min(kPieceOfCell, rest.size()));
         }
@@ -89,14 +90,15 @@ private:
         builder_.SetFormat(format);
         builder_.OpenCell();
         paragraphs_ = 1;
+        rest_ = 0;
         afterCr_ = false;
     }
 
     void EndLine() {
-        if (paragraphs_++ < kParagraphsInCell)
-            builder_.EndParagraph({});
-        else
-            builder_.Add(doc::kLineBreak);
+        ++paragraphs_;
+        if (paragraphs_ <= kParagraphsInCell) return builder_.EndParagraph({});
+        if (paragraphs_ == kParagraphsInCell + 1) builder_.Expect(rest_);
+        builder_.Add(doc::kLineBreak);
     }
 
     doc::CellFormat Format(Col col) const {
@@ -130,6 +132,8 @@ private:
     int row_ = 0;
     // Of the cell at hand.
     std::size_t paragraphs_ = 0;
+    /// How many bytes aren't put yet, at most.
+    std::size_t rest_ = 0;
     bool afterCr_ = false;
 };
 

@@ -22,6 +22,9 @@ public:
 
     void Add(char16_t character) { Add(TextView(&character, 1)); }
     void Add(TextView text);
+    /// The paragraph gets so many characters more, or fewer. So a huge text isn't moved each time that it has
+    /// filled its place.
+    void Expect(std::size_t length) { text_.reserve(text_.size() + length); }
     /// Adds characters of ASCII.
     void AddAscii(std::string_view text);
     void AddImage(Image image);
