@@ -20,7 +20,8 @@ public:
     void Next();
 
     std::string_view Line() const { return {bytes_.data() + begin_, end_ - begin_}; }
-    bool StartsWith(char mark) const { return begin_ < end_ && bytes_[begin_] == mark; }
+    /// The first byte of the line that was read, which is the CR of its end when it is empty.
+    char First() const { return bytes_[begin_]; }
     /// Where the line begins and ends in the file. The line end isn't part of it.
     std::size_t Begin() const { return begin_; }
     std::size_t End() const { return end_; }

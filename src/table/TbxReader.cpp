@@ -8,7 +8,9 @@
 #include "table/TbxFormat.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <utility>
@@ -21,6 +23,21 @@ constexpr int kHeaderLines = 4;
 constexpr Colour kDataColour{0xC00000};
 /// This number in a colour line leaves the colour alone.
 constexpr Colour kKeepColour{-999};
+
+/// What the first byte of a line does to the cell before it.
+enum class Mark : std::uint8_t { None, EndsNothing, EndsCell };
+
+constexpr auto kMarks = [] {
+    std::array<Mark, 256> marks{};
+    for (const char mark : {tbx::kAt, tbx::kTick, tbx::kComment, tbx::kColour})
+        marks[static_cast<unsigned char>(mark)] = Mark::EndsCell;
+    marks[static_cast<unsigned char>(tbx::kValue)] = Mark::EndsNothing;
+    return marks;
+}();
+
+Mark MarkOf(char first) {
+    return kMarks[static_cast<unsigned char>(first)];
+}
 
 struct FlagLetter {
     std::size_t at;
@@ -64,9 +81,31 @@ TbxReader::TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick,
 TbxReader::Outcome TbxReader::Read() {
     while (!lines_.AtEnd()) {
         if (!std::exchange(pushedBack_, false)) lines_.Next();
+        if (TakePlainCells()) continue;
         if (!TakeLine()) return Outcome::TooManyColumns;
     }
     return Outcome::Done;
+}
+
+inline bool TbxReader::CellEndsHere() const {
+    return lines_.AtEnd() || MarkOf(lines_.First()) == Mark::EndsCell;
+}
+
+/// Nearly all of a file is cells of a row that has been begun, each a mark and a text. These are taken
+/// without the questions that other lines are asked. True when nothing is left to be done with the current
+/// line.
+bool TbxReader::TakePlainCells() {
+    while (rowDressed_ && row_ != Row{0} && !lines_.AtEnd() && tbx::Begins(lines_.Line(), tbx::kCol)) {
+        ++col_;
+        inCell_ = true;
+        lines_.Next();
+        if (col_ > columnCount_ || MarkOf(lines_.First()) != Mark::None) return false;
+        CollectCell();
+        inCell_ = false;
+        if (lines_.AtEnd()) return true;
+        pushedBack_ = false;
+    }
+    return false;
 }
 
 /// False when the table can't hold what the line asks for.
@@ -211,11 +250,6 @@ void TbxReader::CollectCell() {
     else {
         grid_.SetCellBytes(row_, col_, WithFullLineEnds(bytes_.substr(begin, end - begin)));
     }
-}
-
-bool TbxReader::CellEndsHere() const {
-    return lines_.AtEnd() || lines_.StartsWith(tbx::kAt) || lines_.StartsWith(tbx::kTick) ||
-           lines_.StartsWith(tbx::kComment) || lines_.StartsWith(tbx::kColour);
 }
 
 /// Every cell calls this, but only the first call in a row has an effect.

@@ -29,6 +29,7 @@ private:
     bool TakeLine();
     void TakeHeaderLine(std::string_view value);
     bool TakeColumnLine(std::string_view value);
+    bool TakePlainCells();
     void TakeDataLine(std::string_view line);
     void SetUpColumns();
     void SetUpColumn(Col col);

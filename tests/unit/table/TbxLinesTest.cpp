@@ -62,14 +62,14 @@ TEST(TbxLines, TellsALoneCrFromCrLf) {
     EXPECT_FALSE(lines.EndsInLoneCr());
 }
 
-TEST(TbxLines, StartsWithLooksAtTheFirstByteOnly) {
+TEST(TbxLines, TheFirstByteOfAnEmptyLineIsItsCr) {
     TbxLines lines("\r\n@\r\n\xA7x");
     lines.Next();
-    EXPECT_FALSE(lines.StartsWith('@'));
+    EXPECT_EQ(lines.First(), '\r');
     lines.Next();
-    EXPECT_TRUE(lines.StartsWith('@'));
+    EXPECT_EQ(lines.First(), '@');
     lines.Next();
-    EXPECT_TRUE(lines.StartsWith('\xA7'));
+    EXPECT_EQ(lines.First(), '\xA7');
 }
 
 } // namespace
