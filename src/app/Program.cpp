@@ -96,6 +96,7 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
 int Program::Run(const Text& path) {
     frmMDIParent main(app_, path);
     main.EnsureLoaded();
+    files_.DropAhead();
     if (app_.Exchange<StartState>().SecondInstance == 1) return 0;
     keptTexts_.LookForUnsaved();
     keptTables_.LookForUnsaved();

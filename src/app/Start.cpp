@@ -44,6 +44,8 @@ int Start(int argc, char** argv, const std::function<void()>& begun) {
     NativeFileSystem files = OwnFiles();
     if (IsHandedOver(start, *system, files)) return 0;
     const FontsAhead fonts;
+    // The file is read while Qt starts.
+    if (!start.path.empty()) files.ReadAhead(start.path);
     // Qt doesn't get the arguments, because it could take the name of the file for one of its own options.
     int own = 1;
     const Application application(own, argv);

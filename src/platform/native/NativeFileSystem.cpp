@@ -150,7 +150,12 @@ Text NativeFileSystem::FullPath(TextView path) const {
 }
 
 std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
-    return ReadFile(ToNativePath(path), lastError_);
+    auto bytes = ahead_ ? ahead_->Take(ToNativePath(FullPath(path))) : std::nullopt;
+    return bytes ? bytes : ReadFile(ToNativePath(path), lastError_);
+}
+
+void NativeFileSystem::ReadAhead(TextView path) {
+    ahead_ = std::make_unique<FileAhead>(ToNativePath(FullPath(path)));
 }
 
 std::unique_ptr<FileWriter> NativeFileSystem::OpenRaw(TextView path) {

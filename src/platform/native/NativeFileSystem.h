@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileSystem.h"
+#include "platform/native/FileAhead.h"
 #include "platform/native/SystemCalls.h"
 
 #include <filesystem>
@@ -28,6 +29,10 @@ public:
     /// Links are not followed, because the user knows the path with the links.
     Text FullPath(TextView path) const override;
     std::optional<SharedBytes> ReadAll(TextView path) override;
+    /// Begins to read a large file in a thread, because `ReadAll` will soon be asked for it. What was read is
+    /// kept until then, or until `DropAhead`.
+    void ReadAhead(TextView path);
+    void DropAhead() { ahead_.reset(); }
     /// Creating the file that `Remove` removed last gives it its permissions again.
     std::unique_ptr<FileWriter> OpenRaw(TextView path) override;
     /// A file that exists, or that `Remove` removed last, keeps its owner's permissions and loses all others.
@@ -83,6 +88,7 @@ private:
     SpecialFiles specialFiles_;
     std::error_code lastError_;
     Removed removed_;
+    std::unique_ptr<FileAhead> ahead_;
 };
 
 } // namespace korvane
