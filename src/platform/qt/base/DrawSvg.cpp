@@ -108,8 +108,8 @@ QPixmap DrawSvg(const QByteArray& svg, const QSize& size) {
         looks.push_back(With(looks.back(), attributes));
         if (reader.name() == u"svg")
             FitInto(painter, size, attributes.value(QLatin1String("viewBox")).toString());
-        else
-            Draw(painter, ShapeOf(reader.name(), attributes), looks.back());
+        else if (const QPainterPath shape = ShapeOf(reader.name(), attributes); !shape.isEmpty())
+            Draw(painter, shape, looks.back());
     }
     return picture;
 }

@@ -102,26 +102,6 @@ void CellDelegate::PaintBack(QPainter& painter, const QStyleOptionViewItem& opti
     painter.fillRect(QRect(area.right(), area.top(), 1, area.height()), line);
 }
 
-void CellDelegate::PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
-                              const CellColours& colours) const {
-    const CheckColours own = CheckColoursOn(colours.back);
-    const QRectF box = QRectF(CheckRect(option.rect, *option.widget)).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(own.edge);
-    painter.setBrush(own.fill);
-    painter.drawRoundedRect(box, 2, 2);
-    if (Store().CellCheck(row) == 1) {
-        painter.setPen(
-            QPen(own.tick, std::max(1.5, box.width() / 7), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const auto at = [&box](double x, double y) {
-            return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
-        };
-        painter.drawPolyline(QPolygonF{at(0.22, 0.52), at(0.42, 0.74), at(0.8, 0.26)});
-    }
-    painter.restore();
-}
-
 CellColours CellDelegate::ColoursIn(CellPosition cell, const QPalette& palette) const {
     const CellColours colours = ColoursOf(Store(), cell.row, cell.col, palette);
     const Text& mark = box_.FadedMark.Get();
@@ -144,7 +124,8 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
     QRect area = option.rect.adjusted(kPaddingX, kPaddingTop, -kPaddingX, -1);
     if (cell.col == Col{1} && Store().CellCheckShown(cell.row)) {
-        PaintCheck(*painter, option, cell.row, colours);
+        checks_.Paint(*painter, CheckRect(option.rect, *option.widget), CheckColoursOn(colours.back),
+                      Store().CellCheck(cell.row) == 1);
         area.setLeft(CheckRect(option.rect, *option.widget).right() + kPaddingX);
     }
     const Text text = Store().CellText(cell.row, cell.col);

@@ -3,6 +3,7 @@
 #include "controls/GridBox.h"
 #include "platform/qt/grid/CellLook.h"
 #include "platform/qt/grid/CellText.h"
+#include "platform/qt/grid/CheckPictures.h"
 #include "platform/qt/grid/GridModel.h"
 
 #include <QAbstractItemDelegate>
@@ -62,8 +63,6 @@ private:
     void Finish(QWidget& editor, bool commit, int cellStep) const;
     void PaintBack(QPainter& painter, const QStyleOptionViewItem& option, CellPosition cell,
                    const QColor& back) const;
-    void PaintCheck(QPainter& painter, const QStyleOptionViewItem& option, Row row,
-                    const CellColours& colours) const;
     CellColours ColoursIn(CellPosition cell, const QPalette& palette) const;
     TextMarks MarksIn(CellPosition cell, const CellColours& colours) const;
     bool IsCurrent(CellPosition cell) const {
@@ -78,6 +77,7 @@ private:
     /// The fonts that the style flags of cells ask for, all made from the first font. Empty until a cell is
     /// painted.
     mutable std::vector<QFont> fonts_;
+    mutable CheckPictures checks_;
 };
 
 } // namespace korvane

@@ -37,6 +37,7 @@ struct CheckColours {
     QColor fill;
     QColor edge;
     QColor tick;
+    bool operator==(const CheckColours&) const = default;
 };
 CheckColours CheckColoursOn(const QColor& back);
 
