@@ -11,6 +11,7 @@
 #include <QGraphicsView>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
 namespace korvane {
@@ -39,7 +40,12 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     QStyleOptionGraphicsItem plain(*option);
     // Qt draws a dashed line around an item that has the keyboard.
     plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
-    QGraphicsTextItem::paint(painter, &plain, widget);
+    if (view_.Zoom() > 1) {
+        letters_.Draw(*painter,
+                      [&](QPainter& letters) { QGraphicsTextItem::paint(&letters, &plain, widget); });
+    } else {
+        QGraphicsTextItem::paint(painter, &plain, widget);
+    }
     if (view_.Shown() != nullptr)
         PaintMarks(*painter, view_.Mirror(), option->exposedRect, defaultTextColor());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/text/LargeLetters.h"
+
 #include <QGraphicsTextItem>
 
 namespace korvane {
@@ -46,6 +48,7 @@ private:
     bool mayDrag_ = false;
     bool dragged_ = false;
     QRectF least_;
+    LargeLetters letters_;
 };
 
 } // namespace korvane
