@@ -221,7 +221,6 @@ void frmWebList::ReadList() {
     const Text& path = app_.Settings.WebListFile;
     const auto lines = ReadListFile(app_, path, kLargestFile);
     ShowLists(WebsitesOfLines(lines.value_or(std::vector<Text>())));
-    ListDirty = 0;
     if (!lines) Warn(app_, u"Can't open file: " + path);
 }
 
@@ -258,6 +257,7 @@ void frmWebList::OpenList() {
     const Text chosen = app_.Exchange<ListerRequest>().ChosenFilePath;
     if (chosen.empty()) return;
     app_.Settings.WebListFile = chosen;
+    // Only a save ends the question about changes. Kept for compatibility: opened-websites-stay-changed.
     ReadList();
 }
 
@@ -310,10 +310,10 @@ frmWebList::Choice frmWebList::Chosen() const {
     }
     const std::vector<int> checked = CheckedWebsites();
     const int current = ListView1.Current();
-    // A separator that is current leaves the checked websites to be loaded, also by Return. Kept for
-    // compatibility: separator-loads-checked-websites.
-    const bool currentAlone = current != 0 && !IsSeparator(ListView1.TextAt(current, kName)) &&
-                              (checked.empty() || LoadByEnter == 1);
+    const bool onWebsite = current != 0 && !IsSeparator(ListView1.TextAt(current, kName));
+    // Return is for the current row, and a separator has nothing to load.
+    if (LoadByEnter == 1 && current != 0 && !onWebsite) return {};
+    const bool currentAlone = onWebsite && (checked.empty() || LoadByEnter == 1);
     // The number is that of the checked websites, also where the current one alone is loaded. Kept for
     // compatibility: question-counts-checked-websites.
     return {currentAlone ? Text(ListView1.TextAt(current, kUrl)) : AddressesOf(checked),

@@ -141,6 +141,20 @@ TEST_F(WallpaperWindowTest, ScrollsALargePictureToItsLastPixel) {
     EXPECT_EQ(At(last.x(), last.y() + 1), QColor(Qt::black));
 }
 
+TEST_F(WallpaperWindowTest, ABarThatIsAloneReachesFromEdgeToEdge) {
+    Open(QSize(1500, 40), u"0");
+    EXPECT_EQ(Bar("HScroll1").width(), View().width());
+    EXPECT_EQ(Bar("HScroll1").geometry().bottom(), View().geometry().bottom());
+    const QString high = folder.Add("high.png", QSize(40, 900), "PNG");
+    program.files.AddFile(ToText(high));
+    Answer("Secret");
+    EXPECT_TRUE(form.Close());
+    OpenFile(high, u"0");
+    AwaitPicture();
+    EXPECT_EQ(Bar("VScroll1").height(), View().height());
+    EXPECT_EQ(Bar("VScroll1").geometry().right(), View().geometry().right());
+}
+
 TEST_F(WallpaperWindowTest, AKeyAsksAndOnlyTheRightPasswordOpens) {
     Open(QSize(60, 40), u"1");
     EXPECT_EQ(QWidget::keyboardGrabber(), &Window());

@@ -242,13 +242,22 @@ TEST_F(WebListTest, SeparatorsAreNotLoaded) {
     EXPECT_THAT(t.shell.Browsed(), IsEmpty());
 }
 
-// Kept for compatibility: separator-loads-checked-websites.
-TEST_F(WebListTest, ReturnOnASeparatorLoadsTheCheckedWebsites) {
-    InWindow([](frmWebList& f) {
-        Check(f, {1, 3});
+TEST_F(WebListTest, ReturnAndADoubleClickOnASeparatorLoadNothingAndAskNothing) {
+    With("A\r\na\r\n1\r\nB\r\nb\r\n1\r\nC\r\nc\r\n1\r\nD\r\nd\r\n1\r\n", [](frmWebList& f) {
         f.OfficeMenu1.Choose("mnuInsertSeparator");
         Press(f, f.ListView1, Key::Return);
         EXPECT_EQ(f.LoadByEnter, 0);
+        f.ListView1.DoubleClick(5);
+    });
+    EXPECT_THAT(t.shell.Starts(), IsEmpty());
+    EXPECT_THAT(t.user.Messages(), IsEmpty());
+}
+
+TEST_F(WebListTest, TheButtonOnASeparatorLoadsTheCheckedWebsites) {
+    InWindow([](frmWebList& f) {
+        Check(f, {1, 3});
+        f.OfficeMenu1.Choose("mnuInsertSeparator");
+        f.cmdLoadItem.Press();
     });
     EXPECT_THAT(t.shell.Starts(), ElementsAre(Browser({u"http://a", u"http://c"})));
 }
