@@ -9,6 +9,7 @@
 
 #include <QEventLoop>
 #include <QSslSocket>
+#include <algorithm>
 
 namespace korvane {
 namespace {
@@ -102,7 +103,10 @@ TEST_F(QtNetworkTest, LeavesACircleOfRedirects) {
     server.Redirect("/b", server.Address("/a"));
     const Fetched page = Get(server.Address("/a"));
     EXPECT_EQ(page.outcome, Outcome::Failed);
-    EXPECT_THAT(server.Paths(), SizeIs(11));
+    // Qt asks once more when the server has closed a connection that it was just going to use.
+    auto asked = server.Paths();
+    asked.erase(std::unique(asked.begin(), asked.end()), asked.end());
+    EXPECT_THAT(asked, SizeIs(11));
 }
 
 TEST_F(QtNetworkTest, StopsWhereAPageIsTooLarge) {
