@@ -107,9 +107,11 @@ int Program::Run(const Text& path) {
     QObject whileItRuns;
     CloseAtLogOut(
         main, [&] { CloseUnasked(main); }, whileItRuns);
-    system_.WatchEnd([&] {
+    const auto end = [&] {
         if (!CloseUnasked(main)) std::_Exit(0);
-    });
+    };
+    system_.WatchEnd(end);
+    EndWithSession(end, whileItRuns);
     forms_.RunUntilClosed(main);
     return 0;
 }

@@ -430,6 +430,23 @@ TEST_F(MainWindowTest, ALogOutThatLetsNobodyBeAskedIsNotCancelled) {
     EXPECT_TRUE(main.Shown());
 }
 
+TEST_F(MainWindowTest, TheEndOfTheSessionClosesNothingByItself) {
+    main.Parts().tabs.Active()->Table().TableAltered = 1;
+    int ended = 0;
+    QEvent end(QEvent::Quit);
+    {
+        QObject whileItRuns;
+        EndWithSession([&] { ++ended; }, whileItRuns);
+        QApplication::sendEvent(qApp, &end);
+        EXPECT_TRUE(main.Shown()) << "nobody is asked";
+    }
+    EXPECT_EQ(ended, 1);
+    outside.user.Answer(Answer::Cancel);
+    QApplication::sendEvent(qApp, &end);
+    EXPECT_EQ(ended, 1) << "what it called is gone";
+    EXPECT_TRUE(main.Shown()) << "the user has cancelled";
+}
+
 TEST_F(MainWindowTest, TheCloseBoxAsksAboutChanges) {
     main.Parts().tabs.Active()->Table().TableAltered = 1;
     outside.user.Answer(Answer::Cancel);

@@ -24,4 +24,8 @@ void AnswerLogOut(Session& session, Form& main, const Unasked& unasked) {
 /// Calls `AnswerLogOut` at each log-out while `context` lives. `main` must outlive it.
 void CloseAtLogOut(Form& main, const std::function<void()>& unasked, QObject& context);
 
+/// Calls `end` when the session ends the program after all have answered, while `context` lives. Then nobody
+/// is left who could be asked.
+void EndWithSession(const std::function<void()>& end, QObject& context);
+
 } // namespace korvane
