@@ -124,5 +124,20 @@ TEST_F(ButtonsTest, AnotherChangeOfAnOptionThatIsOnIsNoClick) {
     EXPECT_EQ(log, "");
 }
 
+TEST_F(ButtonsTest, WithoutAListenerTheyChangeAllTheSame) {
+    box.Click = nullptr;
+    left.Click = nullptr;
+    right.Click = nullptr;
+    box.Press();
+    left.Press();
+    right.Press();
+    EXPECT_EQ(box.Value, 1);
+    EXPECT_FALSE(left.Value);
+    EXPECT_TRUE(right.Value);
+    CommandButton button(window, "cmdOk", u"&Ok");
+    button.Press();
+    EXPECT_EQ(log, "");
+}
+
 } // namespace
 } // namespace korvane

@@ -158,5 +158,34 @@ TEST_F(GridBoxTest, AStepPastTheLastCellIsTold) {
     EXPECT_EQ(log, "end ");
 }
 
+TEST_F(GridBoxTest, WhatIsNoCellIsNeitherWrittenNorTold) {
+    box.CommitEdit(Row{3}, Col{1}, u"x");
+    box.CommitEdit(Row{1}, Col{3}, u"x");
+    box.ClickCell(Row{3}, Col{1});
+    box.ClickCell(Row{1}, Col{3});
+    box.ClickCheck(Row{3});
+    box.ClickHeader(Col{3});
+    EXPECT_EQ(log, "");
+    EXPECT_EQ(First(), u"pear");
+    EXPECT_EQ(box.Store().RowCount(), Row{2});
+}
+
+TEST_F(GridBoxTest, WithoutAListenerTheGridIsChangedAllTheSame) {
+    box.AfterEdit = nullptr;
+    box.HeaderClick = nullptr;
+    box.CellClick = nullptr;
+    box.CommitEdit(Row{1}, Col{1}, u"zebra");
+    EXPECT_EQ(First(), u"zebra");
+    box.Store().SetCellCheckShown(Row{1}, true);
+    box.ClickCheck(Row{1});
+    EXPECT_EQ(box.Store().CellCheck(Row{1}), 1);
+    box.ClickCell(Row{2}, Col{2});
+    EXPECT_EQ(box.Store().CurRow(), Row{2});
+    EXPECT_EQ(box.Store().CurCol(), Col{2});
+    box.Store().SetSortOnHeaderClick(true);
+    box.ClickHeader(Col{1});
+    EXPECT_EQ(First(), u"apple");
+}
+
 } // namespace
 } // namespace korvane

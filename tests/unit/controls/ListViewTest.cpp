@@ -357,5 +357,50 @@ TEST_F(ListViewTest, TellsWhichHeaderWasClicked) {
     EXPECT_EQ(log, "column2 ");
 }
 
+TEST_F(ListViewTest, ATypedTextGoesToTheWindowAndThenAnotherRowIsCurrent) {
+    std::vector<Text> typed;
+    list.TextTyped = [&](int index, TextView text) {
+        typed.push_back(NumberText(index) + u":" + Text(text));
+        EXPECT_NE(list.Current(), index + 1) << "the row is left afterwards";
+    };
+    list.SetCurrent(1);
+    list.TypeText(1, u"x", 1);
+    EXPECT_TRUE(typed.empty()) << "no column can be edited";
+    list.EditColumn = 2;
+    list.TypeText(1, u"y", 1);
+    EXPECT_EQ(list.Current(), 2);
+    list.TypeText(2, u"z");
+    EXPECT_EQ(list.Current(), 2);
+    list.TypeText(3, u"end", 1);
+    EXPECT_EQ(list.Current(), 2) << "there is no row after the last";
+    list.TypeText(4, u"none", -1);
+    EXPECT_EQ(typed, (std::vector<Text>{u"1:y", u"2:z", u"3:end"}));
+    list.TextTyped = nullptr;
+    list.TypeText(1, u"unheard", 1);
+    EXPECT_EQ(list.Current(), 2);
+}
+
+TEST_F(ListViewTest, AllRowsArePickedAtOnceAndLetGo) {
+    list.SetAllSelected(true);
+    EXPECT_EQ(Picks(), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(list.SelectedRows(), (std::vector<int>{1, 2, 3}));
+    list.SetSelected(2, false);
+    list.SetSelected(4, true);
+    EXPECT_EQ(list.SelectedRows(), (std::vector<int>{1, 3}));
+    list.SetAllSelected(false);
+    EXPECT_EQ(Picks(), std::vector<int>{});
+    EXPECT_EQ(list.SelectedCount(), 0);
+}
+
+TEST_F(ListViewTest, AWindowThatListensToNothingIsNotTold) {
+    list.ItemClick = nullptr;
+    list.DblClick = nullptr;
+    list.ColumnClick = nullptr;
+    list.DoubleClick(2);
+    list.ClickColumn(1);
+    EXPECT_EQ(list.Current(), 2);
+    EXPECT_EQ(log, "");
+}
+
 } // namespace
 } // namespace korvane

@@ -63,5 +63,15 @@ TEST_F(SliderTest, CannotBeMovedWhileItIsDisabledOrHidden) {
     EXPECT_EQ(scrolls + releases + changes, 0);
 }
 
+TEST_F(SliderTest, WithoutAListenerItsValueChangesAllTheSame) {
+    slider.Change = nullptr;
+    slider.Scroll = nullptr;
+    slider.Released = nullptr;
+    slider.MoveTo(100);
+    slider.Release();
+    EXPECT_EQ(slider.Value, 100);
+    EXPECT_EQ(changes + scrolls + releases, 0);
+}
+
 } // namespace
 } // namespace korvane

@@ -66,5 +66,17 @@ TEST_F(TextBoxTest, AWriteAtTheSelectionIsAChange) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(TextBoxTest, NothingIsTypedWhereTheUserMayNot) {
+    box.Locked = true;
+    box.Type(u"x");
+    box.Locked = false;
+    box.Enabled = false;
+    box.Type(u"x");
+    EXPECT_EQ(box.Text.Get(), u"one two");
+    box.Enabled = true;
+    box.Type(u"x");
+    EXPECT_EQ(box.Text.Get(), u"x");
+}
+
 } // namespace
 } // namespace korvane

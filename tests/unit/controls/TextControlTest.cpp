@@ -167,6 +167,55 @@ TEST_F(TextControlTest, ALoadTakesTheTextAndTellsTheSizesThatTheFileHas) {
     EXPECT_EQ(control.PageSize(doc::Page::Width), width);
 }
 
+/// Has one place at the upper edge.
+class FakeScroll final : public TextScroll {
+public:
+    TextTop Top() override { return top; }
+    void SetTop(const TextTop& wanted) override { top = wanted; }
+    TextTop top;
+};
+
+TEST_F(TextControlTest, ATextWithMoreInItKeepsWhatIsSeen) {
+    FakeScroll scroll;
+    control.Scroll = &scroll;
+    control.SetAll(u"one two");
+    scroll.top = {4, 3};
+    files.file = doc::ReadResult{doc::FromPlainText(u"\uFFFCone \uFFFCtwo")};
+    ASSERT_TRUE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(scroll.top.place, 6);
+    EXPECT_EQ(scroll.top.above, 3);
+    control.ShowTop();
+    EXPECT_EQ(scroll.top.place, 0);
+    EXPECT_EQ(scroll.top.above, 0);
+}
+
+TEST_F(TextControlTest, WhatCantBeReadInMemoryLeavesTheText) {
+    control.SetAll(u"abc");
+    control.SetSelection(1, 1);
+    EXPECT_FALSE(control.LoadMoreFromMemory("x", TextFormat::Html));
+    EXPECT_FALSE(control.LoadFromMemory("x", TextFormat::Html));
+    control.Files = nullptr;
+    EXPECT_FALSE(control.Load(u"C:\\a.rtf", TextFormat::Rtf));
+    EXPECT_FALSE(control.LoadFromMemory("x", TextFormat::Html));
+    EXPECT_EQ(control.SaveToMemory(TextFormat::Rtf), "");
+    EXPECT_EQ(errors.size(), 4U);
+    EXPECT_EQ(control.All(), u"abc");
+    EXPECT_EQ(control.SelText(), u"b");
+}
+
+TEST_F(TextControlTest, AWindowThatListensToNothingIsNotTold) {
+    control.SetAll(u"abc");
+    control.Hover(1);
+    control.Hover(0);
+    control.Click(0);
+    control.Error = nullptr;
+    control.Files = nullptr;
+    EXPECT_FALSE(control.Load(u"C:\\a.rtf", TextFormat::Rtf));
+    control.Change = nullptr;
+    control.Type(u"x");
+    EXPECT_EQ(control.All(), u"xabc");
+}
+
 TEST_F(TextControlTest, AFailedLoadLeavesTheTextAndTellsAReason) {
     control.SetAll(u"abc");
     EXPECT_FALSE(control.Load(u"C:\\a.rtf", TextFormat::Rtf));

@@ -282,5 +282,17 @@ TEST_F(TreeViewTest, ADoubleClickGoesToItsNodeFirst) {
     EXPECT_EQ(log, "click double ");
 }
 
+TEST_F(TreeViewTest, WithoutAListenerNodesAreChosenAndOpenedAllTheSame) {
+    tree.NodeClick = nullptr;
+    tree.DblClick = nullptr;
+    tree.Expand = nullptr;
+    tree.DoubleClick(u"a1");
+    EXPECT_EQ(tree.Selected(), u"a1");
+    tree.SetExpanded(u"b", true);
+    EXPECT_TRUE(KeysBelow(u"none").empty());
+    tree.EndUpdate();
+    EXPECT_EQ(log, "");
+}
+
 } // namespace
 } // namespace korvane
