@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace korvane {
@@ -195,7 +196,8 @@ template <class Field, class Value>
 void GridStore::SetLook(Field& field, Value value) {
     if (field == value) return;
     if (noted_) NoteLook();
-    field = std::move(value);
+    // A name keeps the room of a longer one that it takes the place of, and strange files have huge names.
+    static_cast<void>(std::exchange(field, std::move(value)));
     notifier_.LookChanged();
 }
 

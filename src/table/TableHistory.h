@@ -57,7 +57,7 @@ private:
     };
     using AttributeNote =
         std::variant<FieldNote<std::optional<std::int16_t>>, FieldNote<std::optional<Colour>>,
-                     FieldNote<std::optional<Text>>, FieldNote<ColumnTexts>>;
+                     FieldNote<std::optional<SharedText>>, FieldNote<ColumnTexts>>;
     struct Step {
         std::unique_ptr<GridChanges> grid; // none when only attributes changed
         std::vector<AttributeNote> attributes;

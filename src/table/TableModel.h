@@ -2,6 +2,7 @@
 
 #include "common/number/DateTime.h"
 #include "common/number/Units.h"
+#include "common/text/SharedText.h"
 #include "common/text/Text.h"
 #include "grid/Grid.h"
 #include "table/AlteredFlag.h"
@@ -19,7 +20,7 @@ namespace korvane {
 /// and can't be set.
 class ColumnTexts {
 public:
-    const Text& operator[](Col col) const { return Holds(col) ? texts_[Index(col)] : empty_; }
+    const Text& operator[](Col col) const { return Holds(col) ? texts_[Index(col)].Whole() : empty_; }
     void Set(Col col, Text text) {
         if (Holds(col)) texts_[Index(col)] = std::move(text);
     }
@@ -30,7 +31,7 @@ private:
     static bool Holds(Col col) { return col >= Col{1} && col <= MaxColumns; }
     static std::size_t Index(Col col) { return static_cast<std::size_t>(col.Number() - 1); }
 
-    std::array<Text, MaxColumns.Number()> texts_{};
+    std::array<SharedText, MaxColumns.Number()> texts_{};
     Text empty_;
 };
 
@@ -39,7 +40,7 @@ struct TableAttributes {
     // These are unset until a load, a design or the user sets them. Unset ones count as 0 or empty.
     std::optional<std::int16_t> SetRowHeight{};
     std::optional<Colour> TableBackColour{};
-    std::optional<Text> TableFontName{};
+    std::optional<SharedText> TableFontName{};
     std::optional<std::int16_t> TableFontSize{};
     /// The names as they were read or designed. They don't follow the grid's headers.
     ColumnTexts ColumnNames{};

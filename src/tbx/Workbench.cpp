@@ -52,6 +52,9 @@ void Workbench::Load(TextView path, const SharedBytes& bytes) {
 std::string Workbench::Save(TextView path) {
     table_.TxtDbFile = path;
     table_.TakeHeightOfCurrentRow();
+    // The file is made in memory, and isn't made of these, which are very long in a strange table.
+    table_.ColumnNames.Clear();
+    table_.GridStore().SetGridFontName({});
     // A string that grows would need three times the memory.
     SizeWriter size;
     TbxWriter(table_, size).Write();

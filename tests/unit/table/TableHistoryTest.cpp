@@ -98,6 +98,17 @@ TEST_F(TableHistoryTest, TheModelsFieldsComeBackWithTheStepThatChangedThem) {
     EXPECT_EQ(table.model.ColumnNames[Col{2}], u"Kind");
 }
 
+TEST_F(TableHistoryTest, NamesOfAnyLengthAreOnlyThereOnce) {
+    {
+        const TableStep step(history);
+        table.model.TableFontName = Text(1000, u'f');
+        table.model.ColumnNames.Set(Col{1}, Text(1000, u'n'));
+    }
+    const TableAttributes copy = table.model;
+    EXPECT_EQ(&copy.TableFontName->Whole(), &table.model.TableFontName->Whole());
+    EXPECT_EQ(&copy.ColumnNames[Col{1}], &table.model.ColumnNames[Col{1}]);
+}
+
 TEST_F(TableHistoryTest, AStepWithinAStepIsUndoneByItself) {
     {
         const TableStep outer(history);
@@ -127,6 +138,32 @@ TEST_F(TableHistoryTest, TheOldestStepsAreForgottenWhereMemoryRunsOut) {
         ++undone;
     EXPECT_GT(undone, 2);
     EXPECT_LT(undone, 20);
+}
+
+TEST_F(TableHistoryTest, WhereTheSavedStateIsForgottenTheTableStaysAltered) {
+    TableHistory tiny(table.model, table.host, 1);
+    tiny.NoteSaved();
+    table.grid.SetCellValue(Row{1}, Col{1}, u"a");
+    tiny.EndStep();
+    table.grid.SetCellValue(Row{1}, Col{1}, u"b");
+    tiny.EndStep();
+    ASSERT_TRUE(tiny.Undo());
+    ASSERT_FALSE(tiny.Undo());
+    EXPECT_EQ(Cell(1), u"a") << "what was saved is the state before";
+    EXPECT_EQ(table.model.TableAltered, 1);
+}
+
+TEST_F(TableHistoryTest, StepsWithoutCellsTakeMemoryToo) {
+    TableHistory small(table.model, table.host, 2000);
+    for (std::int16_t height = 1; height <= 100; ++height) {
+        const TableStep step(small);
+        table.model.SetRowHeight = height;
+    }
+    int undone = 0;
+    while (small.Undo())
+        ++undone;
+    EXPECT_GT(undone, 2);
+    EXPECT_LT(undone, 50);
 }
 
 TEST_F(TableHistoryTest, UndoingAndRedoingOverAndOverForgetsNothing) {
