@@ -31,15 +31,16 @@ TextHandle TextBlocks::PutBytes(std::string_view bytes) {
 
 /// False, with nothing appended, when a character has no byte.
 bool TextBlocks::AppendAsBytes(TextView text) {
-    std::size_t at = bytes_.size();
-    bytes_.resize(at + text.size());
+    const std::size_t before = bytes_.size();
+    bytes_.resize(before + text.size());
+    char* to = bytes_.data() + before;
     for (const char16_t unit : text) {
         const std::optional<unsigned char> byte = page_.Encode(unit);
         if (!byte) {
-            bytes_.resize(bytes_.size() - text.size());
+            bytes_.resize(before);
             return false;
         }
-        bytes_[at++] = static_cast<char>(*byte);
+        *to++ = static_cast<char>(*byte);
     }
     return true;
 }
