@@ -78,6 +78,7 @@ Program::Program(SystemParts& system, NativeFileSystem files, InstanceChannel& c
       keptTables_(app_, background_, keptFolder_),
       keptTexts_(files_, keptFolder_) {
     app_.SetPort<SecretHolder>(&memoryLock_);
+    app_.SetPort<PatientDisk>(&patientDisk_);
     app_.SetPort<FilePicker>(&lister_);
     app_.SetPort<FavouriteFolders>(&lister_);
     app_.SetPort<SystemFileDialog>(&systemFileDialog_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/OwnFiles.h"
 #include "app/SystemParts.h"
 #include "context/App.h"
 #include "context/ports/SecretHolder.h"
@@ -12,6 +13,7 @@
 #include "platform/native/ChildProcess.h"
 #include "platform/native/NativeClock.h"
 #include "platform/native/NativeFileSystem.h"
+#include "platform/native/NativePatientDisk.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/net/LoadedNetwork.h"
 #include "platform/qt/net/LoadedWebEngines.h"
@@ -70,6 +72,7 @@ private:
     /// For the background alone.
     NativeFileSystem backgroundFiles_;
     QtBackground background_{backgroundFiles_};
+    NativePatientDisk patientDisk_{[] { return std::make_unique<NativeFileSystem>(OwnFiles()); }};
     QtClipboard clipboard_;
     NativeClock clock_;
     QtScreen screen_;

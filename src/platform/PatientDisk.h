@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace korvane {
+
+class FileSystem;
+
+/// Whether an answer is still waited for.
+using StillWaits = std::function<bool()>;
+/// A question to the disk. After each of its steps it asks whether it is still waited for, and ends if it
+/// isn't.
+using DiskQuestion = std::function<void(const FileSystem&, const StillWaits&)>;
+
+/// Asks a disk that may take long to answer or never do so, as one on a network that has gone.
+class PatientDisk {
+public:
+    virtual ~PatientDisk() = default;
+    /// Asks beside the program, on a disk of its own. Until the answer is there, `stillWaits` is called again
+    /// and again; false when it gave the answer up. The question may be at work later than this returns, so
+    /// it owns all that it uses.
+    virtual bool Ask(DiskQuestion question, const StillWaits& stillWaits) = 0;
+};
+
+/// Who asks a question: whether it was answered.
+using DiskAsker = std::function<bool(const DiskQuestion&)>;
+
+/// The answer to a question; nothing when it was given up.
+template <class AnswerT, class QuestionT>
+std::optional<AnswerT> AnswerTo(const DiskAsker& ask, QuestionT question) {
+    const auto answer = std::make_shared<std::optional<AnswerT>>();
+    const bool answered =
+        ask([answer, question = std::move(question)](const FileSystem& files, const StillWaits& stillWaits) {
+            *answer = question(files, stillWaits);
+        });
+    if (!answered) return std::nullopt;
+    return std::move(*answer);
+}
+
+} // namespace korvane
