@@ -15,6 +15,7 @@
 #include "platform/Screen.h"
 
 #include <algorithm>
+#include <atomic>
 #include <unordered_set>
 #include <utility>
 
@@ -26,6 +27,8 @@ constexpr int kNameColumn = 1;
 constexpr int kSizeColumn = 2;
 constexpr int kDateColumn = 3;
 constexpr std::size_t kColumns = 3;
+/// Of so many files the disk is asked for size and date at a time.
+constexpr std::size_t kDetailsInStep = 256;
 
 SortOrder OrderOf(const ListSort& sort) {
     return sort.ListSortOrder == 0 ? SortOrder::Ascending : SortOrder::Descending;
@@ -33,7 +36,8 @@ SortOrder OrderOf(const ListSort& sort) {
 
 } // namespace
 
-FileRows::FileRows(App& app, Parts parts) : app_(app), parts_(parts), images_(app) {}
+FileRows::FileRows(App& app, Parts parts, DiskWait& wait)
+    : app_(app), parts_(parts), wait_(wait), images_(app) {}
 
 bool FileRows::Fill(const Text& folder, const Text& patterns) {
     const int mine = ++fill_;
@@ -44,48 +48,58 @@ bool FileRows::Fill(const Text& folder, const Text& patterns) {
     }
     const Hourglass hourglass(app_.Screen());
     chosenByUser_ = false;
-    const std::vector<Text> names = FindNames(folder, patterns);
-    if (mine != fill_ || !Read(folder, names)) return false;
+    const auto names = FindNames(folder, patterns);
+    if (mine != fill_) return false;
+    // A folder that has answered can be entered without a wait.
+    if (names) app_.Files().ChangeDir(folder);
+    if (names && !Read(folder, *names)) return false;
     parts_.list.Visible = true;
     parts_.list.SetFocus();
+    const bool answered = names && (names->empty() || parts_.list.Count() > 0);
+    if (answered && !TellHowMany(*names)) return false;
+    Choose(1);
+    End();
+    return answered;
+}
+
+/// False when the reading was overtaken.
+bool FileRows::TellHowMany(const std::vector<Text>& names) {
+    const int mine = fill_;
     const auto read = static_cast<std::size_t>(parts_.list.Count());
     if (read < names.size()) {
         Warn(app_, u"Only " + FormatGrouped(read) + u" of the " + FormatGrouped(names.size()) +
                        u" files in this directory were read.");
-        if (mine != fill_) return false;
     } else {
         parts_.bar.Value = parts_.bar.Max;
     }
-    Choose(1);
+    return mine == fill_;
+}
+
+void FileRows::End() {
     parts_.bar.Visible = false;
     parts_.stop.Visible = false;
-    return true;
 }
 
-std::vector<Text> FileRows::FindNames(const Text& folder, const Text& patterns) {
+std::optional<std::vector<Text>> FileRows::FindNames(const Text& folder, const Text& patterns) {
     const int mine = fill_;
-    stopRequested_ = false;
-    ShowReading(false);
-    std::vector<Text> names = app_.Files().FileNamesInSteps(folder, patterns, [&](std::size_t found) {
-        if (found <= kMostReadAtOnce) return true;
-        ShowReading(true);
-        app_.Screen().Yield();
-        return mine == fill_ && !stopRequested_;
-    });
-    if (mine != fill_ || names.size() <= kMostReadAtOnce) return names;
-    ShowReading(true);
-    parts_.bar.Max = static_cast<int>(names.size()) - 1;
+    wait_.BeginAnew();
+    wait_.Show(false);
+    const auto found = std::make_shared<std::atomic<std::size_t>>(0);
+    auto names = AnswerTo<std::vector<Text>>(
+        [&](const DiskQuestion& question) {
+            return wait_.Ask(
+                question, [&] { return mine == fill_; }, [&] { return *found > kMostReadAtOnce; });
+        },
+        [folder, patterns, found](const FileSystem& files, const StillWaits& stillWaits) {
+            return files.FileNamesInSteps(folder, patterns, [&](std::size_t count) {
+                *found = count;
+                return stillWaits();
+            });
+        });
+    if (mine != fill_ || !names || names->size() <= kMostReadAtOnce) return names;
+    wait_.Show(true);
+    parts_.bar.Max = static_cast<int>(names->size()) - 1;
     return names;
-}
-
-void FileRows::ShowReading(bool shown) {
-    const bool begins = shown && !parts_.stop.Visible;
-    parts_.bar.Visible = shown;
-    parts_.stop.Visible = shown;
-    parts_.list.Visible = !shown;
-    if (!begins) return;
-    parts_.bar.Value = 0;
-    parts_.stop.SetFocus();
 }
 
 /// False when the reading was overtaken.
@@ -93,23 +107,44 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
     const UpdateScope update(parts_.list);
     const int mine = fill_;
     const bool shown = names.size() > kMostReadAtOnce;
-    const std::unique_ptr<FolderDetails> details = app_.Files().DetailsIn(folder);
     std::vector<Text> sortForms;
+    std::optional<AllDetails> details;
     ListRow row;
     for (std::size_t index = 0; index < names.size(); ++index) {
         if (shown) app_.Screen().Yield();
         if (mine != fill_) return false;
+        if (index % kDetailsInStep == 0) details = FindDetails(folder, names, index);
+        if (mine != fill_) return false;
+        if (!details) break;
         row.key = u"K_ ";
         row.key += NumberText(index + 1);
-        WriteRow(row, folder, names[index], details->Of(names[index]));
+        WriteRow(row, folder, names[index], (*details)[index % kDetailsInStep]);
         TakeSortForm(row, sortForms);
         parts_.list.Add(row);
         // Kept for compatibility: bar-skips-every-32nd.
         if (shown && index % 32 != 0) parts_.bar.Value = static_cast<int>(index);
-        if (shown && stopRequested_) break;
+        if (shown && wait_.Stopped()) break;
     }
     Order(sortForms);
     return true;
+}
+
+std::optional<FileRows::AllDetails> FileRows::FindDetails(const Text& folder, const std::vector<Text>& names,
+                                                          std::size_t first) {
+    const int mine = fill_;
+    const auto begin = names.begin() + static_cast<std::ptrdiff_t>(first);
+    const std::vector<Text> some(
+        begin, begin + static_cast<std::ptrdiff_t>(std::min(kDetailsInStep, names.size() - first)));
+    return AnswerTo<AllDetails>(
+        [&](const DiskQuestion& question) { return wait_.Ask(question, [&] { return mine == fill_; }); },
+        [folder, some](const FileSystem& files, const StillWaits&) {
+            const std::unique_ptr<FolderDetails> details = files.DetailsIn(folder);
+            AllDetails found;
+            found.reserve(some.size());
+            for (const Text& name : some)
+                found.push_back(details->Of(name));
+            return found;
+        });
 }
 
 void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
+#include "files/lister/DiskWait.h"
 #include "files/lister/TypeImages.h"
 
 #include <cstdint>
@@ -10,29 +11,21 @@
 namespace korvane {
 
 class App;
-class CommandButton;
-class ListView;
-class ProgressBar;
 struct FileDetails;
 struct ListRow;
 
 /// The rows of the list of files: their reading, which the user can stop, their order and their marks.
 class FileRows {
 public:
-    struct Parts {
-        ListView& list;
-        ProgressBar& bar;
-        CommandButton& stop;
-    };
+    using Parts = DiskWait::Parts;
     /// All outlive the object.
-    FileRows(App& app, Parts parts);
+    FileRows(App& app, Parts parts, DiskWait& wait);
 
-    /// Reads the files of the folder that match the patterns. The first one is the current row then, and the
-    /// list has the keyboard. Without pictures the list stays empty. False when the window closed or another
-    /// folder was read in the meantime.
+    /// Makes the folder the current directory, and reads its files that match the patterns. The first one is
+    /// the current row then, and the list has the keyboard. Without pictures the list stays empty. False when
+    /// the window closed or another folder was read in the meantime, and when the disk didn't answer until
+    /// the user stopped it.
     bool Fill(const Text& folder, const Text& patterns);
-    /// Ends the reading with the row at hand.
-    void Stop() { stopRequested_ = true; }
     /// Ends the reading without a trace, since the window goes.
     void Abandon() { ++fill_; }
 
@@ -63,10 +56,17 @@ private:
     /// Of more files than these the reading is shown, and it can be stopped.
     static constexpr std::size_t kMostReadAtOnce = 1000;
 
-    /// Ends early when the user stops it or the reading was overtaken.
-    std::vector<Text> FindNames(const Text& folder, const Text& patterns);
-    void ShowReading(bool shown);
+    using AllDetails = std::vector<std::optional<FileDetails>>;
+
+    /// Ends early when the user stops it or the reading was overtaken. Nothing if there was no answer at all.
+    std::optional<std::vector<Text>> FindNames(const Text& folder, const Text& patterns);
+    bool TellHowMany(const std::vector<Text>& names);
+    /// Gives the list back to the user.
+    void End();
     bool Read(const Text& folder, const std::vector<Text>& names);
+    /// Those of some names from `first` on; nothing if there was no answer.
+    std::optional<AllDetails> FindDetails(const Text& folder, const std::vector<Text>& names,
+                                          std::size_t first);
     void WriteRow(ListRow& row, const Text& folder, const Text& name,
                   const std::optional<FileDetails>& details);
     void TakeSortForm(ListRow& row, std::vector<Text>& sortForms) const;
@@ -75,10 +75,10 @@ private:
 
     App& app_;
     Parts parts_;
+    DiskWait& wait_;
     TypeImages images_;
     /// Which reading is the present one.
     int fill_ = 0;
-    bool stopRequested_ = false;
     bool choosing_ = false;
     bool chosenByUser_ = false;
 };

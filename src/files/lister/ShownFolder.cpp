@@ -5,6 +5,7 @@
 #include "context/exchange/ListSort.h"
 #include "context/exchange/ListerRequest.h"
 #include "controls/DropDown.h"
+#include "files/lister/DiskWait.h"
 #include "files/lister/FileRows.h"
 #include "files/tree/FolderTree.h"
 #include "platform/FileSystem.h"
@@ -33,11 +34,20 @@ void ShownFolder::TakePath(const Text& folder) {
 
 void ShownFolder::GoTo(const Text& folder) {
     TakePath(folder);
+    parts_.wait.BeginAnew();
     {
         const ScopedValue going(going_, true);
         parts_.tree.SetTreePath(folder);
     }
-    ListAnew();
+    // The user can have gone elsewhere while the disk was waited for.
+    if (Path() != folder) return List();
+    NoteAnswer(folder);
+    // A disk that didn't answer until the user stopped it isn't asked again.
+    if (!IsGivenUp()) ListAnew();
+}
+
+void ShownFolder::NoteAnswer(const Text& folder) {
+    GivenUpPath_ = parts_.wait.Stopped() ? folder : Text();
 }
 
 void ShownFolder::List() {
@@ -45,9 +55,14 @@ void ShownFolder::List() {
     LastListedPath_.clear();
     const ScopedValue listing(listing_, true);
     const Text folder = Path();
-    app_.Files().ChangeDir(folder);
     if (Listing) Listing();
-    if (parts_.rows.Fill(folder, parts_.pattern.Text)) LastListedPath_ = folder;
+    const bool filled = parts_.rows.Fill(folder, parts_.pattern.Text);
+    if (filled) {
+        LastListedPath_ = folder;
+        GivenUpPath_.clear();
+    } else if (folder == Path()) {
+        NoteAnswer(folder);
+    }
 }
 
 void ShownFolder::ListAnew() {

@@ -7,6 +7,7 @@
 namespace korvane {
 
 class App;
+class DiskWait;
 class DropDown;
 class FileRows;
 class FolderTree;
@@ -21,6 +22,7 @@ public:
         DropDown& pattern;
         FolderTree& tree;
         FileRows& rows;
+        DiskWait& wait;
     };
     /// All outlive the object.
     ShownFolder(App& app, Parts parts);
@@ -40,6 +42,8 @@ public:
     bool IsGoing() const { return going_; }
     /// Whether they are being read just now.
     bool IsListing() const { return listing_; }
+    /// Whether the user has stopped the wait for it. It is read again only when he asks for it.
+    bool IsGivenUp() const { return GivenUpPath_ == Path(); }
     /// Lists the files of the folder unless they are listed.
     void List();
     /// Lists them again, whatever is listed.
@@ -51,10 +55,14 @@ public:
     std::function<void()> Listing;
 
 private:
+    void NoteAnswer(const Text& folder);
+
     App& app_;
     Parts parts_;
     /// Empty when the files are to be read again in any case.
     Text LastListedPath_;
+    /// Empty when the disk has answered.
+    Text GivenUpPath_;
     bool listing_ = false;
     bool going_ = false;
 };

@@ -18,6 +18,7 @@
 #include "files/names/NameTyping.h"
 #include "files/names/frmEnterFileName.h"
 #include "files/viewing/StartIvrand.h"
+#include "platform/Clock.h"
 #include "platform/FileSystem.h"
 
 #include <algorithm>
@@ -38,6 +39,9 @@ constexpr int kLeastFromEdge = 40;
 constexpr int kListMargin = 600;
 constexpr Colour kSaveColour{0xF7FFFF};
 constexpr int kPercentOfMainWindow = 95;
+
+/// How long the window waits for its first folder.
+constexpr std::chrono::milliseconds kPatienceAtStart{1000};
 
 // What the windows answer that are opened here.
 constexpr std::int16_t kSaveAtOnce = 9;
@@ -146,9 +150,10 @@ frmGetFileFromTree::frmGetFileFromTree(App& app)
       OfficeMenu1(*this, "OfficeMenu1", Tables::kMenu),
       ListView1(*this, "ListView1", {{u"Name", {}}, {u"Size", {}, ColumnAlign::Right}, {u"mm/dd/yyyy", {}}}),
       app_(app),
+      wait_(app, {ListView1, ProgressBar1, cmdEscape}),
       tree_(app.Files(), TreeView1, FolderTimer),
-      rows_(app, {ListView1, ProgressBar1, cmdEscape}),
-      folder_(app, {txtFullPath, txtSearchSpec, tree_, rows_}),
+      rows_(app, {ListView1, ProgressBar1, cmdEscape}, wait_),
+      folder_(app, {txtFullPath, txtSearchSpec, tree_, rows_, wait_}),
       fileCommands_(app, folder_, rows_),
       folderCommands_(app, folder_, tree_),
       proceeding_(app, folder_, rows_),
@@ -184,13 +189,16 @@ void frmGetFileFromTree::WireButtons() {
     cmdExplorer.Click = [this] { folderCommands_.Explore(); };
     cmdCentreOnScreen.Click = [this] { CentreOnScreen(); };
     cmdCancel.Click = [this] { Cancel(); };
-    cmdEscape.Click = [this] { rows_.Stop(); };
+    cmdEscape.Click = [this] { wait_.Stop(); };
     cmdOk.Default = true;
     cmdCancel.Cancel = true;
 }
 
 void frmGetFileFromTree::WireParts() {
     tree_.FolderChanged = [this] { FolderChanged(); };
+    tree_.Asks = [this](const DiskQuestion& question, const std::function<bool()>& wanted) {
+        return AskForTree(question, wanted);
+    };
     folder_.Listing = [this] {
         find_.Reset();
         LayOutColumns();
@@ -239,7 +247,6 @@ void frmGetFileFromTree::Load() {
     folder_.TakePath(StartFolder());
     txtFileName.Text = Text(app_.Files().Style().NamePart(request.FileDialogDefaultName));
     txtSearchSpec.Text = request.FileDialogFilter;
-    app_.Files().ChangeDir(folder_.Path());
     imgSplitV.Position = app_.Settings.TreeFormWidthB;
     HoldSplitter();
 }
@@ -248,7 +255,20 @@ Text frmGetFileFromTree::StartFolder() const {
     const Text& hint = Request().CurrentFolderHint;
     if (Saves() && !hint.empty()) return hint;
     const Text& last = app_.Settings.TreeFormLastPath;
-    return !last.empty() && app_.Files().DirExists(last) ? last : app_.Files().CurrentDir();
+    return !last.empty() && AnswersSoon(last) ? last : app_.Files().CurrentDir();
+}
+
+/// Whether there is such a folder. One on a disk that doesn't answer is none, because the window can't be
+/// seen yet while it is waited for.
+bool frmGetFileFromTree::AnswersSoon(const Text& folder) const {
+    const auto start = app_.Clock().Uptime();
+    return AnswerTo<bool>(
+               [&](const DiskQuestion& question) {
+                   return AskDisk(app_, question,
+                                  [&] { return app_.Clock().Uptime() - start < kPatienceAtStart; });
+               },
+               [folder](const FileSystem& files, const StillWaits&) { return files.DirExists(folder); })
+        .value_or(false);
 }
 
 void frmGetFileFromTree::Place() {
@@ -296,6 +316,7 @@ void frmGetFileFromTree::LayOutColumns() {
 
 void frmGetFileFromTree::Unload() {
     rows_.Abandon();
+    tree_.Abandon();
     app_.Settings.TreeFormLastPath = txtFullPath.Text;
     // Nothing reads it. Kept for compatibility: lister-pattern-is-forgotten.
     app_.Settings.TreeFormPathB = txtSearchSpec.Text;
@@ -358,6 +379,19 @@ void frmGetFileFromTree::DockRightWithWidth() {
 
 // The tree, the list and the line of the name.
 
+/// Afterwards the list and the keyboard are as before.
+bool frmGetFileFromTree::AskForTree(const DiskQuestion& question, const std::function<bool()>& wanted) {
+    const bool listed = ListView1.Visible;
+    Control& focused = Focused() == nullptr ? TreeView1 : *Focused();
+    wait_.BeginAnew();
+    const bool answered = wait_.Ask(question, wanted);
+    if (!listed || ListView1.Visible) return answered;
+    // First of all, because a button that goes gives the keyboard to the list, which would be read then.
+    focused.SetFocus();
+    wait_.Show(false);
+    return answered;
+}
+
 void frmGetFileFromTree::FolderChanged() {
     folder_.TakePath(tree_.Folder());
     // The list would take the keyboard at each step through the tree.
@@ -370,7 +404,8 @@ void frmGetFileFromTree::ReadFolderOfTree() {
 }
 
 void frmGetFileFromTree::ListFocused() {
-    if (WindowLoading == 0 && !folder_.IsListing()) folder_.List();
+    if (WindowLoading == 1 || folder_.IsListing() || folder_.IsGoing() || folder_.IsGivenUp()) return;
+    folder_.List();
 }
 
 void frmGetFileFromTree::ItemChosen() {
@@ -417,7 +452,7 @@ void frmGetFileFromTree::FindFile() {
 }
 
 void frmGetFileFromTree::StopReading() {
-    rows_.Stop();
+    wait_.Stop();
 }
 
 void frmGetFileFromTree::StepFocusA() {

@@ -11,6 +11,7 @@
 #include "controls/TextBox.h"
 #include "controls/Timer.h"
 #include "controls/TreeView.h"
+#include "files/lister/DiskWait.h"
 #include "files/lister/FileCommands.h"
 #include "files/lister/FileRows.h"
 #include "files/lister/FindInFolder.h"
@@ -77,6 +78,7 @@ private:
     // Opening and its place.
 
     Text StartFolder() const;
+    bool AnswersSoon(const Text& folder) const;
     void Place();
     void HoldSplitter();
     void LayOutColumns();
@@ -90,6 +92,7 @@ private:
 
     // The tree, the list and the line of the name.
 
+    bool AskForTree(const DiskQuestion& question, const std::function<bool()>& wanted);
     void FolderChanged();
     void ReadFolderOfTree();
     void ItemChosen();
@@ -144,6 +147,7 @@ private:
     ListerRequest& Request() const;
 
     App& app_;
+    DiskWait wait_;
     FolderTree tree_;
     FileRows rows_;
     ShownFolder folder_;

@@ -52,12 +52,14 @@ void FolderTree::Fill() {
 }
 
 void FolderTree::GoTo(const Text& folder) {
+    ++journey_;
     folder_ = folder;
     if (!moving_ && FolderChanged) FolderChanged();
 }
 
 void FolderTree::Expand(const Text& key) {
-    if (tree_.Children(key).empty()) ReadFolders(key);
+    // On the way to a folder all is read already.
+    if (!moving_ && tree_.Children(key).empty() && !ReadFolders(key)) return;
     GoTo(key);
     const auto children = tree_.Children(key);
     if (moving_ || children.empty()) return;
@@ -65,8 +67,32 @@ void FolderTree::Expand(const Text& key) {
     tree_.EnsureVisible(key);
 }
 
-void FolderTree::ReadFolders(const Text& folder) {
-    for (const Text& name : files_.FolderNames(folder))
+/// Nothing when it was given up, or when the user went elsewhere meanwhile.
+template <class AnswerT, class QuestionT>
+std::optional<AnswerT> FolderTree::AnswerOf(QuestionT question) {
+    const int journey = ++journey_;
+    const auto ask = [&](const DiskQuestion& asked) {
+        if (Asks) return Asks(asked, [&] { return journey == journey_; });
+        asked(files_, [] { return true; });
+        return true;
+    };
+    auto answer = AnswerTo<AnswerT>(
+        ask, [question](const FileSystem& files, const StillWaits&) { return question(files); });
+    return journey == journey_ ? std::move(answer) : std::nullopt;
+}
+
+bool FolderTree::ReadFolders(const Text& folder) {
+    const auto names =
+        AnswerOf<Names>([folder](const FileSystem& files) { return files.FolderNames(folder); });
+    if (names)
+        AddFolders(folder, *names);
+    else
+        tree_.SetExpanded(folder, false);
+    return names.has_value();
+}
+
+void FolderTree::AddFolders(const Text& folder, const Names& names) {
+    for (const Text& name : names)
         AddFolder(folder, name);
     tree_.SetExpandable(folder, false);
 }
@@ -95,18 +121,46 @@ void FolderTree::Ask(const Text& folder) {
     tree_.SetExpandable(folder, files_.MayHaveFolders(folder));
 }
 
+/// Whether a folder is there, and the names in each folder on the way to it and in itself.
+struct FolderTree::Found {
+    bool exists = false;
+    std::vector<Names> names;
+};
+
+/// The root, each folder on the way, and the last one.
+std::vector<Text> FolderTree::WayTo(const Text& root, const Names& names) const {
+    std::vector<Text> way{root};
+    for (const Text& name : names)
+        way.push_back(files_.Style().JoinPath(way.back(), name));
+    return way;
+}
+
+std::optional<FolderTree::Found> FolderTree::LookFor(const Text& folder, const std::vector<Text>& way) {
+    std::vector<bool> read;
+    for (const Text& key : way)
+        read.push_back(tree_.Node(key) != nullptr && !tree_.Children(key).empty());
+    return AnswerOf<Found>([folder, way, read](const FileSystem& files) {
+        Found found{files.DirExists(folder), {}};
+        for (std::size_t level = 0; found.exists && level < way.size(); ++level)
+            found.names.push_back(read[level] ? Names() : files.FolderNames(way[level]));
+        return found;
+    });
+}
+
 bool FolderTree::SetTreePath(TextView path) {
     const Text full = files_.FullPath(path);
-    if (!files_.DirExists(full)) return false;
     Text node = Root(full);
-    const std::vector<Text> names = NamesBelow(node, full);
+    const Names names = NamesBelow(node, full);
     if (names.size() >= kMostLevels) return false;
+    const auto found = LookFor(full, WayTo(node, names));
+    if (!found || !found->exists) return false;
     moving_ = true;
     if (tree_.Node(node) == nullptr) tree_.Add({}, node, node);
-    tree_.SetExpanded(node, true);
-    for (const Text& name : names) {
-        node = NodeBelow(node, name);
+    for (std::size_t level = 0;; ++level) {
+        if (tree_.Children(node).empty()) AddFolders(node, found->names[level]);
         tree_.SetExpanded(node, true);
+        if (level == names.size()) break;
+        node = NodeBelow(node, names[level]);
     }
     moving_ = false;
     tree_.Select(node);
@@ -125,8 +179,8 @@ Text FolderTree::Root(TextView fullPath) const {
     return Text(fullPath.substr(0, fullPath.find(u'\\', endOfMachine + 1)));
 }
 
-std::vector<Text> FolderTree::NamesBelow(TextView root, TextView fullPath) const {
-    std::vector<Text> names;
+FolderTree::Names FolderTree::NamesBelow(TextView root, TextView fullPath) const {
+    Names names;
     TextView rest = fullPath.substr(std::min(root.size(), fullPath.size()));
     while (!rest.empty()) {
         const std::size_t length = std::min(rest.find(files_.Style().Separator()), rest.size());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
+#include "platform/PatientDisk.h"
 
 #include <chrono>
 #include <deque>
@@ -32,8 +33,15 @@ public:
     /// Shows the drives alone, with nothing of them read.
     void Fill();
     /// Opens the tree down to the folder and goes there. Nothing happens, and the result is false, when there
-    /// is no such folder or when it lies deeper than `kMostLevels`.
+    /// is no such folder, when it lies deeper than `kMostLevels`, and when the disk doesn't answer before
+    /// the user gives it up or goes elsewhere.
     bool SetTreePath(TextView path);
+    /// Asks the disk about folders, of which each may be on one that doesn't answer. Without it the disk is
+    /// asked directly.
+    std::function<bool(const DiskQuestion&, const std::function<bool()>& wanted)> Asks;
+    /// Ends what is asked at the time, since the window goes.
+    void Abandon() { ++journey_; }
+
     /// Takes the folder, which has gone from the disk, out of the tree.
     void Remove(TextView folder);
 
@@ -45,15 +53,24 @@ public:
     static constexpr std::chrono::milliseconds kBetween{50};
 
 private:
+    using Names = std::vector<Text>;
+    struct Found;
+
     void GoTo(const Text& folder);
     void Expand(const Text& key);
-    void ReadFolders(const Text& folder);
+    /// False without an answer.
+    bool ReadFolders(const Text& folder);
+    void AddFolders(const Text& folder, const Names& names);
+    template <class AnswerT, class QuestionT>
+    std::optional<AnswerT> AnswerOf(QuestionT question);
+    std::vector<Text> WayTo(const Text& root, const Names& names) const;
+    std::optional<Found> LookFor(const Text& folder, const std::vector<Text>& way);
     void AskSome();
     void Ask(const Text& folder);
     /// The key of the new node.
     Text AddFolder(const Text& parent, const Text& name);
     Text Root(TextView fullPath) const;
-    std::vector<Text> NamesBelow(TextView root, TextView fullPath) const;
+    Names NamesBelow(TextView root, TextView fullPath) const;
     Text NodeBelow(const Text& parent, const Text& name);
 
     const FileSystem& files_;
@@ -62,6 +79,8 @@ private:
     /// The folders of which nobody has asked yet whether there are folders in them.
     std::deque<Text> unasked_;
     Text folder_;
+    /// Where the user or the program goes at the time; another number than before when that has changed.
+    int journey_ = 0;
     /// While the program moves in the tree, the steps in between aren't told.
     bool moving_ = false;
 };

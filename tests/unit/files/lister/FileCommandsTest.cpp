@@ -76,8 +76,9 @@ TEST_P(FileCommandsTest, AsATextAFileIsViewedWhateverItsTypeAndSize) {
     ListParts parts(app);
     parts.pattern.Text = u"*.png";
     FolderTree tree(t.files, parts.nodes, parts.timer);
-    FileRows rows(app, {parts.list, parts.bar, parts.stop});
-    ShownFolder folder(app, {parts.path, parts.pattern, tree, rows});
+    DiskWait wait(app, {parts.list, parts.bar, parts.stop});
+    FileRows rows(app, {parts.list, parts.bar, parts.stop}, wait);
+    ShownFolder folder(app, {parts.path, parts.pattern, tree, rows, wait});
     folder.GoTo(At(u"Data"));
     FileCommands(app, folder, rows).View(FileCommands::Viewing::AsText);
     EXPECT_THAT(texts.viewed, ElementsAre(At(u"Data/c.png")));

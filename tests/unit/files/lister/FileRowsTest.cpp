@@ -306,7 +306,8 @@ void StopAmongAMillion(int turns, const Text& told, int listed) {
         t.screen.QueueMessage([&f] { f.cmdEscape.Press(); });
         f.Activate();
         EXPECT_EQ(f.ListView1.Count(), listed);
-        EXPECT_EQ(files.asked, listed);
+        // The disk is asked about some files at a time.
+        EXPECT_LE(files.asked, 1000);
         f.cmdCancel.Press();
     });
     frmGetFileFromTree(app).ShowModal();

@@ -1,0 +1,53 @@
+#include "files/lister/DiskWait.h"
+
+#include "context/App.h"
+#include "controls/CommandButton.h"
+#include "controls/ListView.h"
+#include "controls/ProgressBar.h"
+#include "platform/Clock.h"
+#include "platform/Screen.h"
+
+namespace korvane {
+
+namespace {
+
+/// From this time on a wait is long.
+constexpr std::chrono::milliseconds kLong{300};
+
+} // namespace
+
+bool AskDisk(const App& app, const DiskQuestion& question, const StillWaits& stillWaits) {
+    if (auto* disk = app.Port<PatientDisk>()) return disk->Ask(question, stillWaits);
+    question(app.Files(), stillWaits);
+    return true;
+}
+
+DiskWait::DiskWait(App& app, Parts parts) : app_(app), parts_(parts) {}
+
+bool DiskWait::Ask(const DiskQuestion& question, const std::function<bool()>& wanted,
+                   const std::function<bool()>& isLong) {
+    const auto start = app_.Clock().Uptime();
+    const StillWaits stillWaits = [&] {
+        const bool seen = isLong() || app_.Clock().Uptime() - start >= kLong;
+        return (!seen || GoesOn()) && wanted();
+    };
+    return AskDisk(app_, question, stillWaits);
+}
+
+bool DiskWait::GoesOn() {
+    Show(true);
+    app_.Screen().Yield();
+    return !stopped_;
+}
+
+void DiskWait::Show(bool shown) {
+    const bool begins = shown && !parts_.stop.Visible;
+    parts_.bar.Visible = shown;
+    parts_.stop.Visible = shown;
+    parts_.list.Visible = !shown;
+    if (!begins) return;
+    parts_.bar.Value = 0;
+    parts_.stop.SetFocus();
+}
+
+} // namespace korvane
