@@ -278,6 +278,31 @@ TEST_F(QtFormHostTest, NoKeyOvertakesOneThatIsKept) {
     EXPECT_EQ(keys, (std::vector<int>{36, 65, 116, 83}));
 }
 
+TEST_F(QtFormHostTest, AHandlerThatTakesLongIsStoppedByTheKeysOfItsButton) {
+    std::vector<int> keys;
+    const auto press = [this](Qt::Key code, const char* text) {
+        QKeyEvent key(QEvent::KeyPress, code, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(Window().windowHandle(), &key);
+    };
+    form.cmdOther.KeyDown = [&keys](KeyEvent& key) {
+        keys.push_back(key.code);
+        key.consumed = true;
+    };
+    form.onActivate = [&] {
+        press(Qt::Key_Escape, "\x1b");
+        EXPECT_EQ(keys, std::vector<int>()) << "no button has got the keyboard yet";
+        form.cmdOther.SetFocus();
+        press(Qt::Key_Space, " ");
+        press(Qt::Key_A, "a");
+        press(Qt::Key_Escape, "\x1b");
+        EXPECT_EQ(keys, std::vector<int>{Key::Escape}) << "a blank may belong to a text";
+    };
+    form.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    test::Settle();
+    EXPECT_EQ(keys, (std::vector<int>{Key::Escape, Key::Escape, Key::Space, 'A'}));
+}
+
 TEST_F(QtFormHostTest, AWindowThatClosesWhenItIsActivatedTakesItsKeysAlong) {
     form.onActivate = [this] { form.Close(); };
     form.Show();

@@ -1,5 +1,6 @@
 #include "platform/qt/binder/KeyHold.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QPointer>
 #include <QWidget>
@@ -20,6 +21,7 @@ bool Types(const QKeyEvent& key) {
 } // namespace
 
 void KeyHold::Begin() {
+    if (!holds_) focusedBefore_ = window_.focusWidget();
     holds_ = true;
     // Keys come to the window of the window system first, and from there to the control that has the
     // keyboard.
@@ -35,12 +37,20 @@ void KeyHold::End() {
             QCoreApplication::sendEvent(window->windowHandle(), key.get());
 }
 
+bool KeyHold::Stops(const QKeyEvent& key) const {
+    const QWidget* const focused = window_.focusWidget();
+    if (focused == focusedBefore_ || qobject_cast<const QAbstractButton*>(focused) == nullptr) return false;
+    // A blank may also belong to a text that is kept.
+    return key.key() == Qt::Key_Escape || (key.key() == Qt::Key_Space && kept_.empty());
+}
+
 bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {
     if (!holds_ || event->type() != QEvent::KeyPress) return false;
     // A key that starts a command may have opened a menu by now, and its own press or release would close
     // that again.
     if (QApplication::activePopupWidget() != nullptr) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
+    if (Stops(key)) return false;
     // A key that overtook a kept one could go to another cell before the text is typed.
     if (!Types(key) && kept_.empty()) return false;
     kept_.emplace_back(key.clone());

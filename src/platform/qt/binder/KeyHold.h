@@ -10,7 +10,8 @@ class QWidget;
 namespace korvane {
 
 /// Keeps the keys that come to a window while it isn't ready for them, so that none goes to the wrong
-/// control.
+/// control. A button that has got the keyboard meanwhile gets its own keys at once: what the window is busy
+/// with can be stopped by it.
 class KeyHold final : public QObject {
 public:
     /// The window must outlive this object.
@@ -24,8 +25,12 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Stops(const QKeyEvent& key) const;
+
     QWidget& window_;
     bool holds_ = false;
+    /// What had the keyboard at the beginning, only to compare.
+    const QWidget* focusedBefore_ = nullptr;
     std::vector<std::unique_ptr<QKeyEvent>> kept_;
 };
 
