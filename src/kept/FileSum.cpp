@@ -12,10 +12,12 @@ namespace korvane {
 void RunningSum::Lanes::Add(const char* block, std::size_t blocks) {
     Lanes now = *this;
     for (; blocks > 0; --blocks, block += kBlock) {
-        std::array<std::uint64_t, kLanes> numbers;
-        std::memcpy(numbers.data(), block, kBlock);
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
-            now.sums[lane] += numbers[lane];
+        // With a copy of the whole block, the compiler would write it to memory each time.
+        for (std::size_t lane = 0; lane < kLanes; ++lane) {
+            std::uint64_t number;
+            std::memcpy(&number, block + lane * sizeof number, sizeof number);
+            now.sums[lane] += number;
+        }
         for (std::size_t lane = 0; lane < kLanes; ++lane)
             now.sumsOfSums[lane] += now.sums[lane];
     }
