@@ -134,6 +134,39 @@ void Draft(benchmark::State& state) {
     std::filesystem::remove(path);
 }
 
+/// A thousand cells are typed into, each as a command of its own. The floor is the same while nothing is
+/// kept.
+void TypeAndKeep(benchmark::State& state) {
+    constexpr int kCells = 1000;
+    const std::string path = LimitTablePath() + ".typed";
+    BenchProgram program;
+    program.Load();
+    program.table.TxtDbFile = FromUtf8(path);
+    MemoryBackground background(program.files, program.clock);
+    Contest contest(state);
+    auto keeper = std::make_unique<KeptTables>(program.app, background, FromUtf8(path + ".kept"));
+    int typed = 0;
+    const auto type = [&] {
+        for (int cell = 1; cell <= kCells; ++cell) {
+            const WatchedCommand command(program.tab);
+            program.grid.SetCellValue(Row{cell}, Col{1}, FromAscii(std::to_string(++typed)));
+            program.table.TableAltered = 1;
+        }
+    };
+    for ([[maybe_unused]] auto _ : state) {
+        program.app.SetPort<TableKeeper>(nullptr);
+        const double floor = SecondsOf(type);
+        program.app.SetPort<TableKeeper>(keeper.get());
+        contest.Round(floor, SecondsOf(type));
+    }
+    program.app.SetPort<TableKeeper>(nullptr);
+    keeper->GiveUp(program.tab);
+    keeper.reset();
+    background.End();
+    std::filesystem::remove_all(path + ".kept");
+}
+
+BENCHMARK(TypeAndKeep)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(101);
 BENCHMARK(SaveAndKeep)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
 BENCHMARK(SaveNewAndKeep)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
 BENCHMARK(Draft)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
