@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -301,6 +302,28 @@ TEST_F(QtFormHostTest, AHandlerThatTakesLongIsStoppedByTheKeysOfItsButton) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
     test::Settle();
     EXPECT_EQ(keys, (std::vector<int>{Key::Escape, Key::Escape, Key::Space, 'A'}));
+}
+
+TEST_F(QtFormHostTest, AShortcutWaitsForTheKeysThatAreKept) {
+    form.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+    test::Settle();
+    QAction save;
+    save.setShortcut(QKeySequence("Ctrl+S"));
+    Window().addAction(&save);
+    std::vector<Text> saved;
+    QObject::connect(&save, &QAction::triggered, [&] { saved.push_back(form.txtName.Text.Get()); });
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&Window(), &activated);
+    // This is the way of keys from the window system, on which shortcuts come first.
+    QWindow* const handle = Window().windowHandle();
+    qt_handleKeyEvent(handle, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    qt_handleKeyEvent(handle, QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, "\x13");
+    EXPECT_EQ(saved, std::vector<Text>());
+    test::Settle();
+    EXPECT_EQ(saved, std::vector<Text>{u"a"});
+    qt_handleKeyEvent(handle, QEvent::KeyPress, Qt::Key_S, Qt::ControlModifier, "\x13");
+    EXPECT_EQ(saved.size(), 2u);
 }
 
 TEST_F(QtFormHostTest, AWindowThatClosesWhenItIsActivatedTakesItsKeysAlong) {

@@ -44,16 +44,25 @@ bool KeyHold::Stops(const QKeyEvent& key) const {
     return key.key() == Qt::Key_Escape || (key.key() == Qt::Key_Space && kept_.empty());
 }
 
-bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (!holds_ || event->type() != QEvent::KeyPress) return false;
+bool KeyHold::Holds(const QKeyEvent& key) const {
     // A key that starts a command may have opened a menu by now, and its own press or release would close
     // that again.
-    if (QApplication::activePopupWidget() != nullptr) return false;
+    if (!holds_ || QApplication::activePopupWidget() != nullptr || Stops(key)) return false;
+    // A key that overtook a kept one could go to another cell before the text is typed, or save the table
+    // without it.
+    return Types(key) || !kept_.empty();
+}
+
+bool KeyHold::eventFilter(QObject* /*watched*/, QEvent* event) {
+    const bool asked = event->type() == QEvent::ShortcutOverride;
+    if (!asked && event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (Stops(key)) return false;
-    // A key that overtook a kept one could go to another cell before the text is typed.
-    if (!Types(key) && kept_.empty()) return false;
-    kept_.emplace_back(key.clone());
+    if (!Holds(key)) return false;
+    // Qt looks for a shortcut before the key is pressed, and does so again when the key is given back.
+    if (asked)
+        event->accept();
+    else
+        kept_.emplace_back(key.clone());
     return true;
 }
 

@@ -26,6 +26,7 @@ public:
 
 private:
     bool Stops(const QKeyEvent& key) const;
+    bool Holds(const QKeyEvent& key) const;
 
     QWidget& window_;
     bool holds_ = false;
