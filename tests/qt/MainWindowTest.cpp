@@ -32,7 +32,9 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <array>
 #include <cstdlib>
+#include <utility>
 
 namespace korvane {
 namespace {
@@ -144,7 +146,7 @@ TEST_F(MainWindowTest, TheToolBarHasItsButtonsInTheirOrderEachWithIconAndTip) {
     QStringList wanted;
     for (const ToolBarButton& button : ToolBarButtons()) {
         wanted << QString::fromLatin1(button.name.data(), qsizetype(button.name.size()));
-        EXPECT_EQ(Window().findChild<QAction*>(wanted.last())->toolTip(), ToQString(button.toolTip));
+        EXPECT_EQ(Window().findChild<QAction*>(wanted.last())->toolTip(), ToQString(ShownTip(button)));
     }
     EXPECT_EQ(names, wanted);
 }
@@ -522,7 +524,35 @@ TEST_F(MainWindowTest, TheFindBoxComesBeforeTheTable) {
     EXPECT_EQ(next, &Table());
 }
 
+TEST_F(MainWindowTest, TabGoesThroughTheStripAboveTheTableAsItIsSeen) {
+    const std::array parts{"cmdWebsites", "cmdWallpaper", "cmdSettings",   "cmdHelp", "txtRowHeight",
+                           "ZoomSlider",  "cmdFind",      "txtFindString", "iGrid1"};
+    Part<QWidget>(parts.front()).setFocus();
+    int left = -1;
+    for (const char* name : parts) {
+        const QWidget* const focused = QApplication::focusWidget();
+        ASSERT_NE(focused, nullptr) << name;
+        ASSERT_EQ(focused->objectName(), name);
+        const bool inStrip = focused != &Table();
+        if (inStrip) EXPECT_GT(focused->x(), std::exchange(left, focused->x())) << name;
+        if (inStrip) Key(Qt::Key_Tab);
+    }
+}
+
+TEST_F(MainWindowTest, TheColumnOfTheCurrentCellIsSortedByAKey) {
+    Table().setFocus();
+    const auto names = [this] {
+        const Grid& store = main.Parts().tabs.Active()->GridStore();
+        return std::pair(store.CellText(Row{1}, Col{1}), store.CellText(Row{2}, Col{1}));
+    };
+    Key(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(names(), std::pair(Text(u"Anna"), Text(u"Bert")));
+    Key(Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(names(), std::pair(Text(u"Bert"), Text(u"Anna")));
+}
+
 TEST_F(MainWindowTest, TheFindBoxIsReachedByAKey) {
+    EXPECT_TRUE(Part<QLineEdit>("txtFindString").toolTip().contains("Ctrl+Shift+F"));
     Table().setFocus();
     Key(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(Part<QLineEdit>("txtFindString").hasFocus());

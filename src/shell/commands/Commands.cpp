@@ -146,8 +146,8 @@ static_assert(The(CommandName::mnuMisc_Wallpaper).level >= 0);
 static_assert(The(CommandName::mnuMisc_Websites).level >= 0);
 static_assert(The(CommandName::mnuMisc_YourProgram).level >= 0);
 
-// The tool-tips of the style buttons are crosswise, and one tip has a misspelt word. Kept for compatibility:
-// toolbar-tips.
+// The tool-tips of the style buttons are crosswise, one tip has a misspelt word, and two name keys that don't
+// move a row. Kept for compatibility: toolbar-tips.
 constexpr std::array kToolBar{
     ToolBarButton{"cmdDesignDb", u"Design database", The("mnuEdit_DesignDb")},
     ToolBarButton{"cmdSetColour", u"Specify background colour for database", The("mnuFormat_BColor")},
@@ -170,8 +170,8 @@ constexpr std::array kToolBar{
     ToolBarButton{"cmdClock", u"Show time and date", The("mnuMisc_Clock")},
     ToolBarButton{"cmdEditCell", u"Edit cell contents", The("mnuEdit_EditCell")},
     ToolBarButton{"cmdDesktop", u"Show desktop", The("ToggleDesktop")},
-    ToolBarButton{"imgDown", u"Move current row down (Ctrl-D)", The("mnuRowDown")},
-    ToolBarButton{"imgUp", u"Move current row up (Ctrl-U)", The("mnuRowUp")},
+    ToolBarButton{"imgDown", u"Move current row down (Ctrl-D)", The("mnuRowDown"), u"Ctrl+Shift+Down"},
+    ToolBarButton{"imgUp", u"Move current row up (Ctrl-U)", The("mnuRowUp"), u"Ctrl+Shift+Up"},
 };
 
 constexpr std::array kSideBar{
@@ -268,6 +268,11 @@ std::span<const MenuEntry> WindowMenuEntries() {
 
 std::span<const ToolBarButton> ToolBarButtons() {
     return kToolBar;
+}
+
+Text ShownTip(const ToolBarButton& button) {
+    const Text tip(button.toolTip);
+    return button.key.empty() ? tip : tip + u"\n" + Text(button.key);
 }
 
 std::span<const SideBarRow> SideBarRows() {

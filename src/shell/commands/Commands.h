@@ -37,8 +37,12 @@ struct ToolBarButton {
     std::string_view name;
     TextView toolTip;
     const Command& command;
+    /// The key of the table's grid, where the tip names one that does something else.
+    TextView key{};
 };
 std::span<const ToolBarButton> ToolBarButtons();
+/// The tip as it is shown: with the key that works below it.
+Text ShownTip(const ToolBarButton& button);
 
 /// A row of the sidebar.
 struct SideBarRow {

@@ -51,7 +51,7 @@ frmMDIParent::~frmMDIParent() {
 
 void frmMDIParent::MakeToolBar() {
     for (const ToolBarButton& button : ToolBarButtons()) {
-        toolBar_.push_back(std::make_unique<CommandButton>(*this, button.name, TextView(), button.toolTip));
+        toolBar_.push_back(std::make_unique<CommandButton>(*this, button.name, TextView(), ShownTip(button)));
         toolBar_.back()->Click = [this, &command = button.command] { runner_.Run(command.calls); };
     }
 }

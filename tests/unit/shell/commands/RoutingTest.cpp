@@ -165,8 +165,9 @@ TEST_F(Routing, EveryToolBarButtonStandsUnderItsNameAndRunsItsCommand) {
     };
     for (const ToolBarButton& entry : ToolBarButtons()) {
         ASSERT_NE(button(entry.name), nullptr) << entry.name;
-        EXPECT_EQ(button(entry.name)->ToolTipText.Get(), entry.toolTip);
+        EXPECT_EQ(button(entry.name)->ToolTipText.Get(), ShownTip(entry));
     }
+    EXPECT_EQ(button("imgUp")->ToolTipText.Get(), u"Move current row up (Ctrl-U)\nCtrl+Shift+Up");
     p.CancelDesign();
     button("cmdDesignDb")->Press();
     EXPECT_EQ(p.Captions(), std::vector<Text>{u"Untitled_1.tbx"});

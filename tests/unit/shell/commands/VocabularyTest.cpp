@@ -24,6 +24,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -371,6 +372,19 @@ TEST(Vocabulary, OfTheToolBarWithTipsThatAreCrosswiseMisspeltOrNameOtherKeys) {
             Joined({std::string(button.name), Plain(button.toolTip), std::string(button.command.name)}));
     }
     EXPECT_THAT(lines, ElementsAreArray(LinesOf(kToolBar)));
+}
+
+TEST(Vocabulary, OfTheToolBarHasTheKeysThatWorkWhereATipNamesOthers) {
+    std::vector<std::string> names;
+    for (const ToolBarButton& button : ToolBarButtons()) {
+        if (button.key.empty()) continue;
+        names.emplace_back(button.name);
+        const auto key = std::ranges::find(GridKeys(), ToUtf8(button.key),
+                                           [](const GridKey& row) { return std::string(row.key.Name()); });
+        ASSERT_NE(key, GridKeys().end()) << button.name;
+        EXPECT_EQ(key->starts, button.command.calls) << button.name;
+    }
+    EXPECT_THAT(names, testing::ElementsAre("imgDown", "imgUp"));
 }
 
 TEST(Vocabulary, OfTheSideBar) {
