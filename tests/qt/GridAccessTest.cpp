@@ -159,6 +159,17 @@ TEST_F(GridAccessTest, TheCurrentCellIsToldLastWhenTheKeyboardComesBack) {
     EXPECT_EQ(Of(*view).focusChild(), &Cell(1, 1));
 }
 
+TEST_F(GridAccessTest, TheCurrentRowOfTheSideBarIsToldToo) {
+    form.iBar.Store().SetCellValue(Row{2}, Col{1}, u"File info");
+    form.iBar.Store().SetCurRow(Row{2});
+    test::Settle();
+    heard.Clear();
+    bar->setFocus();
+    test::Settle();
+    ASSERT_FALSE(heard.Of(QAccessible::Focus).isEmpty());
+    EXPECT_EQ(heard.Of(QAccessible::Focus).last(), "File info");
+}
+
 TEST_F(GridAccessTest, TheSideBarIsAListWhoseEntriesCanBePressed) {
     form.iBar.Store().SetCellValue(Row{2}, Col{1}, u"Settings");
     EXPECT_EQ(Of(*bar).role(), QAccessible::List);

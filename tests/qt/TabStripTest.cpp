@@ -229,6 +229,19 @@ TEST_F(TabStripTest, ACaptionIsWholeWhereThereIsRoomAndCutInACrowd) {
     EXPECT_LT(room(1), whole(1));
 }
 
+TEST_F(TabStripTest, InACrowdATabKeepsRoomForFourteenLetters) {
+    AddBoth();
+    for (frmChild* child : {&first, &second})
+        child->Caption = Text(200, u'w');
+    host.WidgetOf(parent)->resize(120, 400);
+    test::Settle();
+    const QFontMetrics letters = Tabs().fontMetrics();
+    // Beside the caption are three margins, the button and the gap to the next tab.
+    const int beside = 3 * 12 + Tabs().tabButton(1, QTabBar::RightSide)->width() + 2;
+    EXPECT_GE(Tabs().tabRect(1).width(), 14 * letters.averageCharWidth() + beside);
+    EXPECT_LT(Tabs().tabRect(1).width(), letters.horizontalAdvance(Tabs().tabText(1)));
+}
+
 TEST_F(TabStripTest, ALineStandsRoundAFramedStrip) {
     AddBoth();
     const QColor strip = Tabs().Colours().strip;
