@@ -3,7 +3,7 @@
 
 #include "Contest.h"
 #include "ThreadTime.h"
-#include "text/find/TextSearch.h"
+#include "text/find/FindPlace.h"
 #include "text/find/WordSearch.h"
 
 #include <cstring>

@@ -6,8 +6,8 @@
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
 #include "controls/TextControl.h"
+#include "text/find/FindPlace.h"
 #include "text/find/FindState.h"
-#include "text/find/TextSearch.h"
 
 #include <optional>
 

@@ -2,8 +2,8 @@
 
 #include "controls/GridBox.h"
 #include "platform/qt/grid/CellLook.h"
-#include "platform/qt/grid/CellText.h"
 #include "platform/qt/grid/CheckPictures.h"
+#include "platform/qt/grid/DrawCellText.h"
 #include "platform/qt/grid/GridModel.h"
 
 #include <QAbstractItemDelegate>

@@ -1,4 +1,4 @@
-#include "text/find/TextSearch.h"
+#include "text/find/FindPlace.h"
 
 #include "common/text/CaseFold.h"
 #include "text/find/CandidateSearch.h"

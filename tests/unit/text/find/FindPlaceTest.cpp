@@ -1,6 +1,5 @@
-#include "text/find/TextSearch.h"
-
 #include "common/text/CaseFold.h"
+#include "text/find/FindPlace.h"
 
 #include <gtest/gtest.h>
 

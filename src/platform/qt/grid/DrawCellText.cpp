@@ -1,4 +1,4 @@
-#include "platform/qt/grid/CellText.h"
+#include "platform/qt/grid/DrawCellText.h"
 
 #include "platform/qt/base/Convert.h"
 
