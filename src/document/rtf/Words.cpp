@@ -1,5 +1,5 @@
 #include "document/model/NameTable.h"
-#include "document/rtf/Parser.h"
+#include "document/rtf/RtfParser.h"
 
 namespace korvane::doc::rtf {
 
@@ -9,7 +9,7 @@ constexpr auto Number(auto value) {
     return static_cast<std::int32_t>(value);
 }
 
-using P = Parser;
+using P = RtfParser;
 
 } // namespace
 

@@ -1,5 +1,6 @@
-#include "common/text/CaseFold.h"
 #include "text/find/FindPlace.h"
+
+#include "common/text/CaseFold.h"
 
 #include <gtest/gtest.h>
 

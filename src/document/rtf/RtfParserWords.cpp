@@ -1,4 +1,4 @@
-#include "document/rtf/Parser.h"
+#include "document/rtf/RtfParser.h"
 
 #include <algorithm>
 #include <cmath>
@@ -60,27 +60,27 @@ void InsertTab(std::vector<TabStop>& tabs, const TabStop& stop) {
 
 } // namespace
 
-void Parser::Destination(const Value&, std::int32_t target) {
+void RtfParser::Destination(const Value&, std::int32_t target) {
     const Target wanted = static_cast<Target>(target);
     if (wanted == Target::Skip || (wanted == Target::Instruction && instructions_.empty()))
         return SkipGroup();
     state_.target = wanted;
 }
 
-void Parser::Character(const Value&, std::int32_t character) {
+void RtfParser::Character(const Value&, std::int32_t character) {
     Put(static_cast<char16_t>(character));
 }
 
-void Parser::Unicode(const Value& value, std::int32_t) {
+void RtfParser::Unicode(const Value& value, std::int32_t) {
     Put(static_cast<char16_t>(value.number));
     fallbackLeft_ = state_.fallbackLength;
 }
 
-void Parser::FallbackLength(const Value& value, std::int32_t) {
+void RtfParser::FallbackLength(const Value& value, std::int32_t) {
     state_.fallbackLength = std::clamp(value.Or(1), 0, 16);
 }
 
-void Parser::Binary(const Value& value, std::int32_t) {
+void RtfParser::Binary(const Value& value, std::int32_t) {
     const std::size_t length = static_cast<std::size_t>(std::max(value.number, 0));
     const std::string_view bytes = bytes_.substr(at_, length);
     if (bytes.size() < length) builder_.Tell(Trouble::Damaged);
@@ -88,24 +88,24 @@ void Parser::Binary(const Value& value, std::int32_t) {
     if (state_.target == Target::Picture) pictureBytes_ += bytes;
 }
 
-void Parser::AnsiPage(const Value& value, std::int32_t) {
+void RtfParser::AnsiPage(const Value& value, std::int32_t) {
     ansi_ = CodePage::ForNumber(value.number).value_or(CodePage::Windows1252());
 }
 
-void Parser::DefaultFont(const Value& value, std::int32_t) {
+void RtfParser::DefaultFont(const Value& value, std::int32_t) {
     defaultFont_ = value.number;
 }
 
-void Parser::DefaultTab(const Value& value, std::int32_t) {
+void RtfParser::DefaultTab(const Value& value, std::int32_t) {
     builder_.Target().defaultTab = std::clamp(value.number, 1, kLongest);
 }
 
-void Parser::PageSize(const Value& value, std::int32_t size) {
+void RtfParser::PageSize(const Value& value, std::int32_t size) {
     builder_.Target().page.sizes[static_cast<std::size_t>(size)] = std::clamp(value.number, 0, kLongest);
     result_.pageGiven[static_cast<std::size_t>(size)] = true;
 }
 
-void Parser::PlainText(const Value&, std::int32_t) {
+void RtfParser::PlainText(const Value&, std::int32_t) {
     state_.look = {};
     state_.script = ScriptKind::Main;
     state_.scripts = {};
@@ -113,17 +113,17 @@ void Parser::PlainText(const Value&, std::int32_t) {
     Font({true, defaultFont_}, 0);
 }
 
-void Parser::CharFlag(const Value& value, std::int32_t flag) {
+void RtfParser::CharFlag(const Value& value, std::int32_t flag) {
     state_.look.*kFlags[flag] = value.On();
     lookChanged_ = true;
 }
 
-void Parser::NoUnderline(const Value&, std::int32_t) {
+void RtfParser::NoUnderline(const Value&, std::int32_t) {
     state_.look.underline = false;
     lookChanged_ = true;
 }
 
-void Parser::Font(const Value& value, std::int32_t) {
+void RtfParser::Font(const Value& value, std::int32_t) {
     if (state_.target == Target::FontTable) {
         fontNumber_ = value.number;
         fontName_.clear();
@@ -136,34 +136,34 @@ void Parser::Font(const Value& value, std::int32_t) {
     lookChanged_ = true;
 }
 
-void Parser::Charset(const Value& value, std::int32_t) {
+void RtfParser::Charset(const Value& value, std::int32_t) {
     if (const auto font = fonts_.find(fontNumber_);
         state_.target == Target::FontTable && font != fonts_.end())
         font->second.page = PageOfCharset(value.number);
 }
 
-void Parser::FontSize(const Value& value, std::int32_t) {
+void RtfParser::FontSize(const Value& value, std::int32_t) {
     state_.look.halfPoints = HalfPoints(value);
     lookChanged_ = true;
 }
 
-void Parser::SetScriptKind(const Value&, std::int32_t kind) {
+void RtfParser::SetScriptKind(const Value&, std::int32_t kind) {
     state_.script = static_cast<ScriptKind>(kind);
     lookChanged_ = true;
 }
 
-void Parser::ScriptFlag(const Value& value, std::int32_t flag) {
+void RtfParser::ScriptFlag(const Value& value, std::int32_t flag) {
     constexpr std::optional<bool> ScriptLook::*kScriptFlags[] = {&ScriptLook::bold, &ScriptLook::italic};
     state_.scripts[static_cast<std::size_t>(state_.script)].*kScriptFlags[flag] = value.On();
     lookChanged_ = true;
 }
 
-void Parser::ScriptSize(const Value& value, std::int32_t) {
+void RtfParser::ScriptSize(const Value& value, std::int32_t) {
     state_.scripts[static_cast<std::size_t>(state_.script)].halfPoints = HalfPoints(value);
     lookChanged_ = true;
 }
 
-CharFormat Parser::LookAtHand() const {
+CharFormat RtfParser::LookAtHand() const {
     CharFormat look = state_.look;
     if (state_.script == ScriptKind::Main) return look;
     const ScriptLook& own = state_.scripts[static_cast<std::size_t>(state_.script)];
@@ -173,72 +173,72 @@ CharFormat Parser::LookAtHand() const {
     return look;
 }
 
-Colour Parser::ColourOf(const Value& value) const {
+Colour RtfParser::ColourOf(const Value& value) const {
     const std::size_t index = static_cast<std::size_t>(value.number);
     return value.number < 0 || index >= colours_.size() ? kNoColour : colours_[index];
 }
 
-void Parser::ForeColour(const Value& value, std::int32_t) {
+void RtfParser::ForeColour(const Value& value, std::int32_t) {
     state_.look.fore = ColourOf(value);
     lookChanged_ = true;
 }
 
-void Parser::BackColour(const Value& value, std::int32_t) {
+void RtfParser::BackColour(const Value& value, std::int32_t) {
     state_.look.back = ColourOf(value);
     lookChanged_ = true;
 }
 
-void Parser::Raise(const Value& value, std::int32_t direction) {
+void RtfParser::Raise(const Value& value, std::int32_t direction) {
     state_.look.baseLine =
         direction * std::clamp(value.Or(6), -kLongest / 100, kLongest / 100) * kTwipsPerHalfPoint;
     lookChanged_ = true;
 }
 
 /// The group of this word is part of the raised text, so it sets what follows the group.
-void Parser::ExactRaise(const Value& value, std::int32_t) {
+void RtfParser::ExactRaise(const Value& value, std::int32_t) {
     if (!groups_.empty()) groups_.back().look.baseLine = Bounded(value.number);
 }
 
-void Parser::RaisedMark(const Value&, std::int32_t) {
+void RtfParser::RaisedMark(const Value&, std::int32_t) {
     if (!groups_.empty()) groups_.back().look.script = Script::Raised;
 }
 
-void Parser::SetScript(const Value&, std::int32_t script) {
+void RtfParser::SetScript(const Value&, std::int32_t script) {
     state_.look.script = static_cast<Script>(script);
     if (script == 0) state_.look.baseLine = 0;
     lookChanged_ = true;
 }
 
-void Parser::Hide(const Value& value, std::int32_t) {
+void RtfParser::Hide(const Value& value, std::int32_t) {
     state_.hidden = value.On();
 }
 
-void Parser::ParaDefault(const Value&, std::int32_t) {
+void RtfParser::ParaDefault(const Value&, std::int32_t) {
     ChangePara() = {};
     tabType_ = TabType::Left;
     borderSides_ = 0;
     cellSide_.reset();
 }
 
-void Parser::ParaAlignment(const Value&, std::int32_t alignment) {
+void RtfParser::ParaAlignment(const Value&, std::int32_t alignment) {
     ChangePara().format.alignment = static_cast<Alignment>(alignment);
 }
 
-void Parser::ParaLength(const Value& value, std::int32_t length) {
+void RtfParser::ParaLength(const Value& value, std::int32_t length) {
     ChangePara().format.*kLengths[length] = Bounded(value.number);
 }
 
-void Parser::LineSpacing(const Value& value, std::int32_t) {
+void RtfParser::LineSpacing(const Value& value, std::int32_t) {
     ChangePara().lineSpacing = Bounded(value.number);
     ApplySpacing();
 }
 
-void Parser::SpacingRule(const Value& value, std::int32_t) {
+void RtfParser::SpacingRule(const Value& value, std::int32_t) {
     ChangePara().spacingIsMultiple = value.number != 0;
     ApplySpacing();
 }
 
-void Parser::ApplySpacing() {
+void RtfParser::ApplySpacing() {
     ParaFormat& format = para_.format;
     format.spacingExact = para_.lineSpacing < 0 ? -para_.lineSpacing : 0;
     const bool percent = para_.lineSpacing > 0 && para_.spacingIsMultiple;
@@ -246,33 +246,33 @@ void Parser::ApplySpacing() {
         percent ? static_cast<std::int32_t>(std::lround(para_.lineSpacing * 100 / kLineParts)) : 100;
 }
 
-void Parser::NextTabType(const Value&, std::int32_t type) {
+void RtfParser::NextTabType(const Value&, std::int32_t type) {
     tabType_ = static_cast<TabType>(type);
 }
 
-void Parser::Tab(const Value& value, std::int32_t) {
+void RtfParser::Tab(const Value& value, std::int32_t) {
     InsertTab(ChangePara().format.tabs, {Bounded(value.number), std::exchange(tabType_, TabType::Left)});
 }
 
-void Parser::BreakBefore(const Value& value, std::int32_t) {
+void RtfParser::BreakBefore(const Value& value, std::int32_t) {
     ChangePara().format.pageBreakBefore = value.On();
 }
 
-void Parser::InTable(const Value&, std::int32_t) {
+void RtfParser::InTable(const Value&, std::int32_t) {
     ChangePara().inTable = true;
 }
 
-void Parser::FrameSide(const Value&, std::int32_t sides) {
+void RtfParser::FrameSide(const Value&, std::int32_t sides) {
     borderSides_ = static_cast<std::uint16_t>(sides);
     cellSide_.reset();
 }
 
 /// As with the exact raise, this belongs to the paragraph around the group.
-void Parser::FrameBits(const Value& value, std::int32_t) {
+void RtfParser::FrameBits(const Value& value, std::int32_t) {
     frameAfterGroup_ = static_cast<std::uint16_t>(std::clamp(value.number, 0, 0x1FFF));
 }
 
-void Parser::BorderStyle(const Value&, std::int32_t style) {
+void RtfParser::BorderStyle(const Value&, std::int32_t style) {
     if (cellSide_) {
         std::int32_t& width = row_.Cell().border[static_cast<std::size_t>(*cellSide_)];
         width = style == 0 ? 0 : std::max(width, kPlainLine);
@@ -286,7 +286,7 @@ void Parser::BorderStyle(const Value&, std::int32_t style) {
         frame = static_cast<std::uint16_t>((frame & ~(kFrameSingle | kFrameDouble)) | borderSides_ | style);
 }
 
-void Parser::BorderWidth(const Value& value, std::int32_t) {
+void RtfParser::BorderWidth(const Value& value, std::int32_t) {
     const std::int32_t width = std::clamp(value.number, 0, kLongest);
     if (cellSide_) {
         std::int32_t& line = row_.Cell().border[static_cast<std::size_t>(*cellSide_)];
@@ -296,104 +296,104 @@ void Parser::BorderWidth(const Value& value, std::int32_t) {
     }
 }
 
-void Parser::BorderDistance(const Value& value, std::int32_t) {
+void RtfParser::BorderDistance(const Value& value, std::int32_t) {
     if (!cellSide_ && borderSides_ != 0)
         ChangePara().format.frameDistance = std::clamp(value.number, 0, kLongest);
 }
 
-void Parser::ColourPart(const Value& value, std::int32_t shift) {
+void RtfParser::ColourPart(const Value& value, std::int32_t shift) {
     const std::int32_t others = std::max(colour_, 0) & ~(0xFF << shift);
     colour_ = others | std::clamp(value.number, 0, 255) << shift;
 }
 
-void Parser::Paragraph(const Value&, std::int32_t) {
+void RtfParser::Paragraph(const Value&, std::int32_t) {
     if (state_.target != Target::Body) return;
     Prepare();
     builder_.EndParagraph(TakeParaFormat());
 }
 
 /// Most programs end the paragraph before the section themselves.
-void Parser::Section(const Value&, std::int32_t) {
+void RtfParser::Section(const Value&, std::int32_t) {
     if (!builder_.AtParagraphStart()) Paragraph({}, 0);
 }
 
-void Parser::NewPage(const Value&, std::int32_t) {
+void RtfParser::NewPage(const Value&, std::int32_t) {
     if (!builder_.AtParagraphStart()) Paragraph({}, 0);
     breakNext_ = true;
 }
 
-void Parser::RowDefault(const Value&, std::int32_t) {
+void RtfParser::RowDefault(const Value&, std::int32_t) {
     row_ = {};
 }
 
-void Parser::RowLeft(const Value& value, std::int32_t) {
+void RtfParser::RowLeft(const Value& value, std::int32_t) {
     row_.SetLeft(value.number);
 }
 
-void Parser::RowGap(const Value& value, std::int32_t sides) {
+void RtfParser::RowGap(const Value& value, std::int32_t sides) {
     const std::int32_t gap = std::clamp(value.number, 0, kLongest);
     if (sides != 2) row_.SetGap(Side::Left, gap);
     if (sides != 1) row_.SetGap(Side::Right, gap);
 }
 
-void Parser::CellEdge(const Value& value, std::int32_t) {
+void RtfParser::CellEdge(const Value& value, std::int32_t) {
     row_.EndCell(value.number, limits_.columns);
     cellSide_.reset();
 }
 
-void Parser::CellSide(const Value&, std::int32_t side) {
+void RtfParser::CellSide(const Value&, std::int32_t side) {
     cellSide_ = static_cast<Side>(side);
 }
 
-void Parser::CellColour(const Value& value, std::int32_t) {
+void RtfParser::CellColour(const Value& value, std::int32_t) {
     row_.Cell().back = ColourOf(value);
 }
 
-void Parser::CellGap(const Value& value, std::int32_t side) {
+void RtfParser::CellGap(const Value& value, std::int32_t side) {
     row_.SetCellGap(static_cast<Side>(side), std::clamp(value.number, 0, kLongest));
 }
 
-void Parser::RowBorder(const Value&, std::int32_t) {
+void RtfParser::RowBorder(const Value&, std::int32_t) {
     cellSide_.reset();
     borderSides_ = 0;
 }
 
-void Parser::Cell(const Value&, std::int32_t) {
+void RtfParser::Cell(const Value&, std::int32_t) {
     if (state_.target != Target::Body) return;
     Prepare();
     builder_.EndCell(TakeParaFormat());
 }
 
-void Parser::Row(const Value&, std::int32_t) {
+void RtfParser::Row(const Value&, std::int32_t) {
     builder_.EndRow(row_.Cells());
 }
 
-void Parser::PictureStart(const Value&, std::int32_t) {
+void RtfParser::PictureStart(const Value&, std::int32_t) {
     state_.target = Target::Picture;
     picture_ = {};
     pictureSizes_ = {0, 0, 100, 100};
     halfByte_ = false;
 }
 
-void Parser::PictureKind(const Value&, std::int32_t kind) {
+void RtfParser::PictureKind(const Value&, std::int32_t kind) {
     picture_.kind = static_cast<ImageKind>(kind);
 }
 
-void Parser::PictureSize(const Value& value, std::int32_t index) {
+void RtfParser::PictureSize(const Value& value, std::int32_t index) {
     pictureSizes_[static_cast<std::size_t>(index)] = value.number;
 }
 
-void Parser::FieldGroup(const Value&, std::int32_t) {
+void RtfParser::FieldGroup(const Value&, std::int32_t) {
     if (state_.isField) return;
     state_.isField = true;
     instructions_.emplace_back();
 }
 
-void Parser::FieldResult(const Value&, std::int32_t) {
+void RtfParser::FieldResult(const Value&, std::int32_t) {
     if (!instructions_.empty()) BeginResult();
 }
 
-void Parser::ParaList(const Value& value, std::int32_t) {
+void RtfParser::ParaList(const Value& value, std::int32_t) {
     if (state_.target == Target::ListTable) {
         if (overrides_.size() < limits_.formats) overrides_[value.number] = lists_[listIdentity_];
         return;
@@ -402,35 +402,35 @@ void Parser::ParaList(const Value& value, std::int32_t) {
     ApplyList(para_);
 }
 
-void Parser::ParaListLevel(const Value& value, std::int32_t) {
+void RtfParser::ParaListLevel(const Value& value, std::int32_t) {
     ChangePara().level = value.number;
     ApplyList(para_);
 }
 
-void Parser::NewList(const Value&, std::int32_t) {
+void RtfParser::NewList(const Value&, std::int32_t) {
     levels_.clear();
     listIdentity_ = 0;
 }
 
-void Parser::NewListLevel(const Value&, std::int32_t) {
+void RtfParser::NewListLevel(const Value&, std::int32_t) {
     if (levels_.size() < kListLevels) levels_.emplace_back();
 }
 
-void Parser::ListNumberKind(const Value& value, std::int32_t) {
+void RtfParser::ListNumberKind(const Value& value, std::int32_t) {
     if (!levels_.empty()) levels_.back().kind = KindOfNumber(value.number);
 }
 
-void Parser::ListStart(const Value& value, std::int32_t) {
+void RtfParser::ListStart(const Value& value, std::int32_t) {
     if (!levels_.empty()) levels_.back().start = value.number;
 }
 
-void Parser::ListIdentity(const Value& value, std::int32_t) {
+void RtfParser::ListIdentity(const Value& value, std::int32_t) {
     listIdentity_ = value.number;
     if (!levels_.empty() && lists_.size() < limits_.formats)
         lists_[listIdentity_] = std::exchange(levels_, {});
 }
 
-void Parser::OldListKind(const Value&, std::int32_t kind) {
+void RtfParser::OldListKind(const Value&, std::int32_t kind) {
     if (state_.target == Target::OldList) oldListAfterGroup_ = static_cast<ListKind>(kind);
 }
 

@@ -1,5 +1,5 @@
 #include "document/html/Css.h"
-#include "document/html/Parser.h"
+#include "document/html/HtmlParser.h"
 #include "document/model/NameTable.h"
 
 #include <algorithm>
@@ -38,12 +38,12 @@ std::int32_t SizeOfWord(std::string_view word) {
 
 } // namespace
 
-void Parser::StyleFont(std::string_view value, std::int32_t) {
+void HtmlParser::StyleFont(std::string_view value, std::int32_t) {
     const Text name = FirstFont(value);
     if (!name.empty()) Look().font = builder_.Target().FontNumber(name);
 }
 
-void Parser::StyleSize(std::string_view value, std::int32_t) {
+void HtmlParser::StyleSize(std::string_view value, std::int32_t) {
     const std::int32_t em = Look().halfPoints * kTwipsPerHalfPoint;
     std::optional<std::int32_t> twips = LengthOf(value, em);
     if (const std::optional<std::int32_t> percent = PercentOf(value); !twips && percent)
@@ -54,30 +54,30 @@ void Parser::StyleSize(std::string_view value, std::int32_t) {
             static_cast<std::uint16_t>(std::clamp((*twips + 5) / kTwipsPerHalfPoint, 1, 3276));
 }
 
-void Parser::StyleWeight(std::string_view value, std::int32_t) {
+void HtmlParser::StyleWeight(std::string_view value, std::int32_t) {
     const std::optional<std::int32_t> number = PercentOf(value);
     Look().bold = number ? *number >= 60000 : SameWord(value, "bold") || SameWord(value, "bolder");
 }
 
-void Parser::StyleSlant(std::string_view value, std::int32_t) {
+void HtmlParser::StyleSlant(std::string_view value, std::int32_t) {
     Look().italic = SameWord(value, "italic") || SameWord(value, "oblique");
 }
 
-void Parser::StyleLine(std::string_view value, std::int32_t) {
+void HtmlParser::StyleLine(std::string_view value, std::int32_t) {
     const bool none = SameWord(value, "none");
     Look().underline = !none && (Look().underline || value.find("underline") != std::string_view::npos);
     Look().strike = !none && (Look().strike || value.find("line-through") != std::string_view::npos);
 }
 
-void Parser::StyleVariant(std::string_view value, std::int32_t) {
+void HtmlParser::StyleVariant(std::string_view value, std::int32_t) {
     Look().smallCaps = SameWord(value, "small-caps");
 }
 
-void Parser::StyleColour(std::string_view value, std::int32_t) {
+void HtmlParser::StyleColour(std::string_view value, std::int32_t) {
     if (const std::optional<Colour> colour = ColourOf(value)) Look().fore = *colour;
 }
 
-void Parser::StyleBack(std::string_view value, std::int32_t) {
+void HtmlParser::StyleBack(std::string_view value, std::int32_t) {
     const std::optional<Colour> colour = ColourOf(value);
     if (!colour) return;
     if (styledCell_ != nullptr)
@@ -86,7 +86,7 @@ void Parser::StyleBack(std::string_view value, std::int32_t) {
         Look().back = *colour;
 }
 
-void Parser::StyleRaise(std::string_view value, std::int32_t) {
+void HtmlParser::StyleRaise(std::string_view value, std::int32_t) {
     if (State().element->nature != Nature::Inline) return;
     if (SameWord(value, "super"))
         Look().script = Script::Raised;
@@ -96,11 +96,11 @@ void Parser::StyleRaise(std::string_view value, std::int32_t) {
         Look().baseLine = LengthOf(value).value_or(0);
 }
 
-void Parser::StyleWhiteSpace(std::string_view value, std::int32_t) {
+void HtmlParser::StyleWhiteSpace(std::string_view value, std::int32_t) {
     State().pre = SameWord(value.substr(0, 3), "pre");
 }
 
-void Parser::StyleAlign(std::string_view value, std::int32_t) {
+void HtmlParser::StyleAlign(std::string_view value, std::int32_t) {
     static constexpr std::pair<std::string_view, Alignment> kWords[] = {
         {"left", Alignment::Left}, {"start", Alignment::Left},     {"right", Alignment::Right},
         {"end", Alignment::Right}, {"center", Alignment::Centred}, {"justify", Alignment::Justified}};
@@ -110,7 +110,7 @@ void Parser::StyleAlign(std::string_view value, std::int32_t) {
     }
 }
 
-void Parser::StyleLength(std::string_view value, std::int32_t length) {
+void HtmlParser::StyleLength(std::string_view value, std::int32_t length) {
     const std::optional<std::int32_t> twips = LengthOf(value, Look().halfPoints * kTwipsPerHalfPoint);
     if (!twips || State().element->nature != Nature::Block) return;
     if (State().element->name == "table") {
@@ -120,7 +120,7 @@ void Parser::StyleLength(std::string_view value, std::int32_t length) {
     }
 }
 
-void Parser::StyleMargin(std::string_view value, std::int32_t) {
+void HtmlParser::StyleMargin(std::string_view value, std::int32_t) {
     std::string_view words[4];
     std::size_t count = 0;
     while (count < 4 && !(words[count] = TakeWord(value)).empty())
@@ -134,7 +134,7 @@ void Parser::StyleMargin(std::string_view value, std::int32_t) {
     StyleLength(count > 3 ? words[3] : right, 0);
 }
 
-void Parser::StyleSpacing(std::string_view value, std::int32_t) {
+void HtmlParser::StyleSpacing(std::string_view value, std::int32_t) {
     if (State().element->nature != Nature::Block) return;
     if (const std::optional<std::int32_t> percent = PercentOf(value); percent && *percent > 0) {
         Para().spacingPercent = *percent;
@@ -147,7 +147,7 @@ void Parser::StyleSpacing(std::string_view value, std::int32_t) {
     }
 }
 
-void Parser::StyleBorder(std::string_view value, std::int32_t sides) {
+void HtmlParser::StyleBorder(std::string_view value, std::int32_t sides) {
     std::int32_t width = kPlainLine;
     std::uint16_t style = 0;
     for (std::string_view word = TakeWord(value); !word.empty(); word = TakeWord(value)) {
@@ -170,7 +170,7 @@ void Parser::StyleBorder(std::string_view value, std::int32_t sides) {
     }
 }
 
-void Parser::StylePadding(std::string_view value, std::int32_t sides) {
+void HtmlParser::StylePadding(std::string_view value, std::int32_t sides) {
     const std::optional<std::int32_t> length = LengthOf(TakeWord(value));
     if (!length || *length < 0) return;
     if (styledCell_ == nullptr) {
@@ -181,24 +181,24 @@ void Parser::StylePadding(std::string_view value, std::int32_t sides) {
     if ((sides & kFrameRight) != 0) styledCell_->gapRight = *length;
 }
 
-void Parser::StyleWidth(std::string_view value, std::int32_t) {
+void HtmlParser::StyleWidth(std::string_view value, std::int32_t) {
     const std::optional<std::int32_t> length = LengthOf(value);
     if (!length || *length < 0) return;
     if (styledCell_ != nullptr) styledCell_->width = *length;
     if (styledImage_ != nullptr) styledImage_->width = *length;
 }
 
-void Parser::StyleHeight(std::string_view value, std::int32_t) {
+void HtmlParser::StyleHeight(std::string_view value, std::int32_t) {
     const std::optional<std::int32_t> length = LengthOf(value);
     if (length && *length >= 0 && styledImage_ != nullptr) styledImage_->height = *length;
 }
 
-void Parser::StyleBreak(std::string_view value, std::int32_t) {
+void HtmlParser::StyleBreak(std::string_view value, std::int32_t) {
     if (State().element->nature == Nature::Block)
         Para().pageBreakBefore = SameWord(value, "always") || SameWord(value, "page");
 }
 
-void Parser::ReadPage(std::string_view value) {
+void HtmlParser::ReadPage(std::string_view value) {
     for (std::size_t i = 0; i < Page::kSizes; ++i) {
         const std::optional<std::int32_t> size = TakeNumber(value);
         if (!size) return;
@@ -209,7 +209,7 @@ void Parser::ReadPage(std::string_view value) {
         builder_.Target().defaultTab = std::max(*tab, 1);
 }
 
-void Parser::ReadTabs(std::string_view value) {
+void HtmlParser::ReadTabs(std::string_view value) {
     static constexpr std::string_view kTypes = "lrcd";
     std::vector<TabStop>& tabs = Para().tabs;
     tabs.clear();
@@ -222,13 +222,13 @@ void Parser::ReadTabs(std::string_view value) {
     }
 }
 
-void Parser::ReadFrame(std::string_view value) {
+void HtmlParser::ReadFrame(std::string_view value) {
     Para().frame = static_cast<std::uint16_t>(TakeNumber(value).value_or(0) & kFrameBits);
     Para().frameWidth = std::max(TakeNumber(value).value_or(0), 0);
     Para().frameDistance = std::max(TakeNumber(value).value_or(0), 0);
 }
 
-void Parser::ReadListMark(std::string_view value) {
+void HtmlParser::ReadListMark(std::string_view value) {
     const std::int32_t kind = std::clamp(TakeNumber(value).value_or(0), 0, 6);
     const std::int32_t level = std::clamp(TakeNumber(value).value_or(0), 0, 8);
     const std::int32_t start = TakeNumber(value).value_or(1);
@@ -241,7 +241,7 @@ void Parser::ReadListMark(std::string_view value) {
 
 namespace {
 
-using P = Parser;
+using P = HtmlParser;
 
 } // namespace
 

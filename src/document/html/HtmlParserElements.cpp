@@ -1,6 +1,6 @@
 #include "document/html/Css.h"
 #include "document/html/Entities.h"
-#include "document/html/Parser.h"
+#include "document/html/HtmlParser.h"
 #include "document/model/Base64.h"
 #include "document/model/NameTable.h"
 
@@ -69,15 +69,15 @@ ListKind KindOfType(std::string_view type) {
 
 } // namespace
 
-void Parser::Flag(std::int32_t flag) {
+void HtmlParser::Flag(std::int32_t flag) {
     Look().*kFlags[flag] = true;
 }
 
-void Parser::SetScript(std::int32_t script) {
+void HtmlParser::SetScript(std::int32_t script) {
     Look().script = static_cast<Script>(script);
 }
 
-void Parser::FontElement(std::int32_t) {
+void HtmlParser::FontElement(std::int32_t) {
     static constexpr std::uint16_t kHalfPoints[] = {15, 20, 24, 27, 36, 48, 72};
     if (const Text face = FirstFont(ToUtf8(Unescaped(AttributeOf("face")))); !face.empty())
         Look().font = builder_.Target().FontNumber(face);
@@ -89,26 +89,26 @@ void Parser::FontElement(std::int32_t) {
     }
 }
 
-void Parser::Resize(std::int32_t percent) {
+void HtmlParser::Resize(std::int32_t percent) {
     Look().halfPoints = static_cast<std::uint16_t>(std::clamp(Look().halfPoints * percent / 100, 1, 3276));
 }
 
-void Parser::FixedPitch(std::int32_t) {
+void HtmlParser::FixedPitch(std::int32_t) {
     Look().font = builder_.Target().FontNumber(u"Courier New");
 }
 
-void Parser::Paragraph(std::int32_t) {
+void HtmlParser::Paragraph(std::int32_t) {
     if (!own_) Para().after = kUsualGap;
 }
 
-void Parser::Heading(std::int32_t level) {
+void HtmlParser::Heading(std::int32_t level) {
     static constexpr std::uint16_t kHalfPoints[] = {48, 36, 28, 24, 20, 16};
     Look().halfPoints = kHalfPoints[level - 1];
     Look().bold = true;
     Para().before = Para().after = kUsualGap;
 }
 
-void Parser::Preformatted(std::int32_t) {
+void HtmlParser::Preformatted(std::int32_t) {
     FixedPitch(0);
     State().pre = true;
     // The first line end after the tag isn't part of the text.
@@ -118,39 +118,39 @@ void Parser::Preformatted(std::int32_t) {
         ++at_;
 }
 
-void Parser::Quotation(std::int32_t) {
+void HtmlParser::Quotation(std::int32_t) {
     Para().left += 2 * kListStep;
     Para().right += 2 * kListStep;
 }
 
-void Parser::Centre(std::int32_t) {
+void HtmlParser::Centre(std::int32_t) {
     Para().alignment = Alignment::Centred;
 }
 
-void Parser::Body(std::int32_t) {
+void HtmlParser::Body(std::int32_t) {
     if (const std::string_view page = AttributeOf("data-kv-page"); !page.empty()) ReadPage(page);
 }
 
-void Parser::Break(std::int32_t) {
+void HtmlParser::Break(std::int32_t) {
     PutBreak();
 }
 
-void Parser::Rule(std::int32_t) {
+void HtmlParser::Rule(std::int32_t) {
     EndBlock();
 }
 
-void Parser::Meta(std::int32_t) {
+void HtmlParser::Meta(std::int32_t) {
     own_ |= SameWord(AttributeOf("name"), "generator") && AttributeOf("content") == "Korvane";
 }
 
-void Parser::Link(std::int32_t) {
+void HtmlParser::Link(std::int32_t) {
     const std::string_view raw = AttributeOf("href");
     if (raw.empty()) return;
     const Text address = Unescaped(raw);
     if (IsHarmless(address)) State().field = builder_.NewField({FieldKind::Hyperlink, address, {}});
 }
 
-void Parser::Picture(std::int32_t) {
+void HtmlParser::Picture(std::int32_t) {
     std::optional<Image> image = DataImage(AttributeOf("src"));
     if (!image) return;
     image->width = std::max(NumberOf(AttributeOf("width"), 0), 0) * kPixel;
@@ -163,7 +163,7 @@ void Parser::Picture(std::int32_t) {
     afterBlank_ = false;
 }
 
-void Parser::List(std::int32_t kind) {
+void HtmlParser::List(std::int32_t kind) {
     const std::size_t level = openLists_.size();
     const std::uint32_t number = level > 0 ? openLists_.front().list : ++lists_;
     const ListKind mark =
@@ -174,17 +174,17 @@ void Parser::List(std::int32_t kind) {
     Para().list = {};
 }
 
-void Parser::CloseList(std::int32_t) {
+void HtmlParser::CloseList(std::int32_t) {
     if (!openLists_.empty()) openLists_.pop_back();
 }
 
-void Parser::ListItem(std::int32_t) {
+void HtmlParser::ListItem(std::int32_t) {
     if (openLists_.empty()) return;
     Para().list = openLists_.back();
     Para().first = -kListStep;
 }
 
-void Parser::Table(std::int32_t) {
+void HtmlParser::Table(std::int32_t) {
     ++tableDepth_;
     if (tableDepth_ > 1) return;
     EndPending();
@@ -195,27 +195,27 @@ void Parser::Table(std::int32_t) {
     Para() = {};
 }
 
-void Parser::CloseTable(std::int32_t) {
+void HtmlParser::CloseTable(std::int32_t) {
     if (--tableDepth_ > 0) return;
     if (cellOpen_) CloseCell(0);
     CloseRow(0);
     builder_.EndTable();
 }
 
-void Parser::Row(std::int32_t) {
+void HtmlParser::Row(std::int32_t) {
     if (tableDepth_ != 1) return;
     if (const std::string_view left = AttributeOf("data-kv-left"); !left.empty())
         tableLeft_ = NumberOf(left, 0);
 }
 
-void Parser::CloseRow(std::int32_t) {
+void HtmlParser::CloseRow(std::int32_t) {
     if (tableDepth_ > 1) return;
     if (cellOpen_) CloseCell(0);
     if (!rowCells_.empty() && tableLeft_) rowCells_.front().left = tableLeft_;
     builder_.EndRow(std::exchange(rowCells_, {}));
 }
 
-void Parser::Cell(std::int32_t heading) {
+void HtmlParser::Cell(std::int32_t heading) {
     if (tableDepth_ != 1) return;
     EndPending();
     builder_.OpenCell();
@@ -238,7 +238,7 @@ void Parser::Cell(std::int32_t heading) {
     attributes_.clear();
 }
 
-void Parser::CloseCell(std::int32_t) {
+void HtmlParser::CloseCell(std::int32_t) {
     if (tableDepth_ != 1 || !cellOpen_) return;
     builder_.EndCell(pending_ ? *pending_ : Para());
     pending_.reset();
@@ -247,7 +247,7 @@ void Parser::CloseCell(std::int32_t) {
 
 namespace {
 
-using P = Parser;
+using P = HtmlParser;
 using N = Nature;
 
 constexpr std::int32_t kRaised = static_cast<std::int32_t>(Script::Raised);

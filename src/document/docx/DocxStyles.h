@@ -11,7 +11,7 @@
 namespace korvane::doc::docx {
 
 /// The styles of a document, and what they make of a paragraph.
-class Styles {
+class DocxStyles {
 public:
     /// Reads the part with the styles.
     void Read(std::string_view xml);

@@ -30,10 +30,10 @@ struct Attribute {
     std::string_view value;
 };
 
-class Parser;
+class HtmlParser;
 
 struct Element {
-    using Handler = void (Parser::*)(std::int32_t argument);
+    using Handler = void (HtmlParser::*)(std::int32_t argument);
 
     std::string_view name;
     Nature nature = Nature::Inline;
@@ -51,9 +51,9 @@ struct ElementState {
 };
 
 /// Reads HTML tag by tag, without a tree. Open elements are on a stack of bounded depth.
-class Parser {
+class HtmlParser {
 public:
-    Parser(std::string_view bytes, const Limits& limits);
+    HtmlParser(std::string_view bytes, const Limits& limits);
 
     ReadResult Read();
 
@@ -214,7 +214,7 @@ struct Elements {
 struct Styles {
     struct Row {
         std::string_view name;
-        void (Parser::*handler)(std::string_view value, std::int32_t argument);
+        void (HtmlParser::*handler)(std::string_view value, std::int32_t argument);
         std::int32_t argument = 0;
     };
 

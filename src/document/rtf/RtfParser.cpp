@@ -1,4 +1,4 @@
-#include "document/rtf/Parser.h"
+#include "document/rtf/RtfParser.h"
 
 #include "document/model/Instruction.h"
 #include "document/rtf/Rtf.h"
@@ -44,13 +44,13 @@ SharedBytes Share(const std::string& bytes) {
 
 } // namespace
 
-Parser::Parser(std::string_view bytes, const Limits& limits)
+RtfParser::RtfParser(std::string_view bytes, const Limits& limits)
     : bytes_(bytes.substr(0, limits.bytes)), limits_(limits), builder_(limits) {
     if (bytes.size() > limits.bytes) builder_.Tell(Trouble::OverLimit);
     groups_.reserve(limits.depth);
 }
 
-ReadResult Parser::Read() {
+ReadResult RtfParser::Read() {
     while (at_ < bytes_.size() && !builder_.Full()) {
         const std::size_t begin = at_;
         while (at_ < bytes_.size() && kPlain[static_cast<unsigned char>(bytes_[at_])])
@@ -65,7 +65,7 @@ ReadResult Parser::Read() {
     return std::move(result_);
 }
 
-void Parser::ReadSymbol() {
+void RtfParser::ReadSymbol() {
     const char c = bytes_[at_++];
     switch (c) {
     case '\\':
@@ -85,7 +85,7 @@ void Parser::ReadSymbol() {
     }
 }
 
-void Parser::ReadWord() {
+void RtfParser::ReadWord() {
     const std::size_t begin = at_;
     while (at_ < bytes_.size() && IsLetter(bytes_[at_]))
         ++at_;
@@ -120,7 +120,7 @@ void Parser::ReadWord() {
     }
 }
 
-Value Parser::ReadNumber() {
+Value RtfParser::ReadNumber() {
     const std::size_t begin = at_;
     const bool minus = at_ < bytes_.size() && bytes_[at_] == '-';
     if (minus) ++at_;
@@ -139,12 +139,12 @@ Value Parser::ReadNumber() {
     return value;
 }
 
-void Parser::RunWord(std::string_view name, const Value& value) {
+void RtfParser::RunWord(std::string_view name, const Value& value) {
     const Words::Row* const row = name.size() <= kLongestWord ? Words::Find(name) : nullptr;
     const bool starred = std::exchange(starred_, false);
     if (fallbackLeft_ > 0) {
         --fallbackLeft_;
-        if (row == nullptr || row->handler != &Parser::Binary) return;
+        if (row == nullptr || row->handler != &RtfParser::Binary) return;
     }
     if (row != nullptr)
         (this->*row->handler)(value, row->argument);
@@ -152,7 +152,7 @@ void Parser::RunWord(std::string_view name, const Value& value) {
         SkipGroup();
 }
 
-void Parser::ReadHexCharacter() {
+void RtfParser::ReadHexCharacter() {
     const int high = at_ < bytes_.size() ? HexDigit(bytes_[at_]) : -1;
     const int low = at_ + 1 < bytes_.size() ? HexDigit(bytes_[at_ + 1]) : -1;
     if (high < 0 || low < 0) return builder_.Tell(Trouble::Damaged);
@@ -160,7 +160,7 @@ void Parser::ReadHexCharacter() {
     PutByte(static_cast<unsigned char>(high << 4 | low));
 }
 
-void Parser::OpenGroup() {
+void RtfParser::OpenGroup() {
     starred_ = false;
     fallbackLeft_ = 0;
     if (groups_.size() >= limits_.depth) return builder_.Tell(Trouble::OverLimit);
@@ -168,7 +168,7 @@ void Parser::OpenGroup() {
     state_.isField = false;
 }
 
-void Parser::CloseGroup() {
+void RtfParser::CloseGroup() {
     fallbackLeft_ = 0;
     leadByte_ = false;
     if (groups_.empty()) return builder_.Tell(Trouble::Damaged);
@@ -179,7 +179,7 @@ void Parser::CloseGroup() {
         EndGroup();
 }
 
-void Parser::EndGroup() {
+void RtfParser::EndGroup() {
     const Target closed = state_.target;
     const Target outer = groups_.back().target;
     if (closed == Target::Picture && outer != Target::Picture) EndPicture();
@@ -197,7 +197,7 @@ void Parser::EndGroup() {
         ChangePara().format.list = {*std::exchange(oldListAfterGroup_, std::nullopt)};
 }
 
-void Parser::SkipGroup() {
+void RtfParser::SkipGroup() {
     std::size_t depth = 1;
     while (at_ < bytes_.size()) {
         const char c = bytes_[at_];
@@ -216,13 +216,13 @@ void Parser::SkipGroup() {
     }
 }
 
-bool Parser::TakesFallback() {
+bool RtfParser::TakesFallback() {
     if (fallbackLeft_ == 0) return false;
     --fallbackLeft_;
     return true;
 }
 
-void Parser::Prepare() {
+void RtfParser::Prepare() {
     if (para_.inTable) builder_.OpenCell();
     if (!lookChanged_) return;
     builder_.SetFormat(LookAtHand());
@@ -230,7 +230,7 @@ void Parser::Prepare() {
     lookChanged_ = false;
 }
 
-void Parser::PutAscii(std::string_view text) {
+void RtfParser::PutAscii(std::string_view text) {
     if (fallbackLeft_ > 0) {
         const std::size_t dropped =
             std::min<std::size_t>(static_cast<std::size_t>(fallbackLeft_), text.size());
@@ -262,7 +262,7 @@ void Parser::PutAscii(std::string_view text) {
     }
 }
 
-void Parser::PutByte(unsigned char byte) {
+void RtfParser::PutByte(unsigned char byte) {
     const bool twoBytes = state_.font != nullptr && !state_.font->page;
     if (twoBytes && byte >= 0x80 && !leadByte_) {
         leadByte_ = fallbackLeft_ == 0;
@@ -274,7 +274,7 @@ void Parser::PutByte(unsigned char byte) {
     Put(page.Decode(byte));
 }
 
-void Parser::Put(char16_t character) {
+void RtfParser::Put(char16_t character) {
     if (TakesFallback()) return;
     switch (state_.target) {
     case Target::Body:
@@ -290,7 +290,7 @@ void Parser::Put(char16_t character) {
     }
 }
 
-void Parser::PutBody(char16_t character) {
+void RtfParser::PutBody(char16_t character) {
     // Characters that end a paragraph or a line have words of their own.
     if (state_.hidden || (character < 0x20 && character != u'\t' && character != kLineBreak)) return;
     if (character == kImageCharacter) character = kUnknown;
@@ -298,7 +298,7 @@ void Parser::PutBody(char16_t character) {
     builder_.Add(character);
 }
 
-void Parser::PutFontName(std::string_view text) {
+void RtfParser::PutFontName(std::string_view text) {
     for (const char c : text) {
         if (c != ';') {
             fontName_ += static_cast<unsigned char>(c);
@@ -312,7 +312,7 @@ void Parser::PutFontName(std::string_view text) {
     }
 }
 
-void Parser::EndColours(std::string_view text) {
+void RtfParser::EndColours(std::string_view text) {
     for (const char c : text) {
         if (c != ';') continue;
         if (colours_.size() < limits_.formats) colours_.push_back({colour_});
@@ -320,7 +320,7 @@ void Parser::EndColours(std::string_view text) {
     }
 }
 
-void Parser::PutHex(std::string_view text) {
+void RtfParser::PutHex(std::string_view text) {
     for (const char c : text) {
         const int digit = HexDigit(c);
         if (digit < 0) continue;
@@ -333,7 +333,7 @@ void Parser::PutHex(std::string_view text) {
     }
 }
 
-void Parser::EndPicture() {
+void RtfParser::EndPicture() {
     const auto size = [this](std::size_t goal, std::size_t scale) {
         const std::int64_t scaled = std::int64_t{pictureSizes_[goal]} * pictureSizes_[scale] / 100;
         return static_cast<std::int32_t>(std::clamp<std::int64_t>(scaled, 0, kLargestNumber));
@@ -349,26 +349,26 @@ void Parser::EndPicture() {
     builder_.AddImage(std::exchange(picture_, {}));
 }
 
-void Parser::BeginResult() {
+void RtfParser::BeginResult() {
     const std::optional<Field> field = ReadInstruction(instructions_.back());
     if (!field) return;
     state_.field = builder_.NewField(*field);
     lookChanged_ = true;
 }
 
-ParaState& Parser::ChangePara() {
+ParaState& RtfParser::ChangePara() {
     const std::size_t depth = groups_.size();
     if (outerParas_.empty() || outerParas_.back().first != depth) outerParas_.emplace_back(depth, para_);
     return para_;
 }
 
-ParaFormat Parser::TakeParaFormat() {
+ParaFormat RtfParser::TakeParaFormat() {
     ParaFormat format = para_.format;
     format.pageBreakBefore |= std::exchange(breakNext_, false);
     return format;
 }
 
-void Parser::ApplyList(ParaState& para) const {
+void RtfParser::ApplyList(ParaState& para) const {
     const auto found = overrides_.find(para.list);
     para.format.list = {};
     if (para.list <= 0 || found == overrides_.end() || found->second.empty()) return;
@@ -390,7 +390,7 @@ ReadResult ReadRtf(std::string_view bytes, const Limits& limits) {
         result.Tell(bytes.empty() ? Trouble::None : Trouble::WrongFormat);
         return result;
     }
-    return rtf::Parser(bytes.substr(begin), limits).Read();
+    return rtf::RtfParser(bytes.substr(begin), limits).Read();
 }
 
 } // namespace korvane::doc

@@ -1,4 +1,4 @@
-#include "document/docx/Parser.h"
+#include "document/docx/DocxParser.h"
 
 #include "document/docx/Docx.h"
 #include "document/docx/DocxParts.h"
@@ -70,12 +70,12 @@ std::int32_t TwipsOfEmu(std::string_view emu) {
 
 } // namespace
 
-ReadResult Parser::Failed(Trouble trouble) {
+ReadResult DocxParser::Failed(Trouble trouble) {
     result_.Tell(trouble);
     return std::move(result_);
 }
 
-ReadResult Parser::Read() {
+ReadResult DocxParser::Read() {
     if (package_.OverLimit()) return Failed(Trouble::OverLimit);
     const std::string main = package_.MainPart();
     if (main.empty()) return Failed(Trouble::WrongFormat);
@@ -97,7 +97,7 @@ ReadResult Parser::Read() {
     return std::move(result_);
 }
 
-void Parser::ReadSettings(const std::string& part) {
+void DocxParser::ReadSettings(const std::string& part) {
     XmlHandlers handlers;
     handlers.open = [this](std::string_view name, const XmlAttributes& attributes) {
         if (name == "defaultTabStop")
@@ -107,7 +107,7 @@ void Parser::ReadSettings(const std::string& part) {
     ReadXml(package_.Part(part).value_or(""), handlers);
 }
 
-void Parser::ReadNumbering(const std::string& part) {
+void DocxParser::ReadNumbering(const std::string& part) {
     std::map<int, Levels> abstracts;
     Levels* levels = nullptr;
     int level = 0;
@@ -129,7 +129,7 @@ void Parser::ReadNumbering(const std::string& part) {
     ReadXml(package_.Part(part).value_or(""), handlers);
 }
 
-void Parser::ReadBody(const std::string& part) {
+void DocxParser::ReadBody(const std::string& part) {
     const std::optional<std::string> xml = package_.Part(part);
     if (!xml) return builder_.Tell(Trouble::Damaged);
     XmlHandlers handlers;
@@ -147,7 +147,7 @@ void Parser::ReadBody(const std::string& part) {
         builder_.Tell(Trouble::Damaged);
 }
 
-void Parser::Open(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::Open(std::string_view name, const XmlAttributes& attributes) {
     if (skipped_ > 0 || std::ranges::find(kSkipped, name) != std::end(kSkipped)) {
         ++skipped_;
         return;
@@ -155,7 +155,7 @@ void Parser::Open(std::string_view name, const XmlAttributes& attributes) {
     if (!OpenContext(name)) OpenInContext(name, attributes);
 }
 
-bool Parser::OpenContext(std::string_view name) {
+bool DocxParser::OpenContext(std::string_view name) {
     const auto* const row = std::ranges::find(kContexts, name, &ContextRow::name);
     if (row == std::end(kContexts)) return false;
     // The look of a paragraph's end is told within its properties.
@@ -170,7 +170,7 @@ bool Parser::OpenContext(std::string_view name) {
     return true;
 }
 
-void Parser::OpenInContext(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInContext(std::string_view name, const XmlAttributes& attributes) {
     switch (contexts_.back().first) {
     case Context::Body:
         return OpenInBody(name, attributes);
@@ -191,7 +191,7 @@ void Parser::OpenInContext(std::string_view name, const XmlAttributes& attribute
         OpenInTable(name, attributes);
 }
 
-void Parser::OpenInRun(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInRun(std::string_view name, const XmlAttributes& attributes) {
     CharFormat& look = markRun_ ? markLook_ : look_;
     if (name == "rStyle")
         styles_.Apply(std::string(attributes.Get("val")), builder_.Target(), look);
@@ -199,13 +199,13 @@ void Parser::OpenInRun(std::string_view name, const XmlAttributes& attributes) {
         ApplyToLook(name, attributes, builder_.Target(), look);
 }
 
-void Parser::OpenInPara(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInPara(std::string_view name, const XmlAttributes& attributes) {
     if (name != "pStyle") return ApplyToPara(name, attributes, para_);
     styles_.Begin(std::string(attributes.Get("val")), builder_.Target(), paraLook_, para_);
     markLook_ = look_ = paraLook_;
 }
 
-void Parser::OpenInTable(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInTable(std::string_view name, const XmlAttributes& attributes) {
     if (tableDepth_ != 1) return;
     const std::optional<std::size_t> side = SideOf(name);
     switch (contexts_.back().first) {
@@ -225,7 +225,7 @@ void Parser::OpenInTable(std::string_view name, const XmlAttributes& attributes)
     }
 }
 
-void Parser::OpenInCell(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInCell(std::string_view name, const XmlAttributes& attributes) {
     if (tableDepth_ != 1) return;
     const std::optional<std::size_t> side = SideOf(name);
     switch (contexts_.back().first) {
@@ -252,7 +252,7 @@ void Parser::OpenInCell(std::string_view name, const XmlAttributes& attributes) 
     }
 }
 
-void Parser::OpenSection(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenSection(std::string_view name, const XmlAttributes& attributes) {
     const auto set = [&](std::string_view attribute, Page::Size size) {
         const std::optional<int> number = attributes.Number(attribute);
         if (!number) return;
@@ -270,7 +270,7 @@ void Parser::OpenSection(std::string_view name, const XmlAttributes& attributes)
     }
 }
 
-void Parser::OpenInBody(std::string_view name, const XmlAttributes& attributes) {
+void DocxParser::OpenInBody(std::string_view name, const XmlAttributes& attributes) {
     if (name == "t") {
         inText_ = true;
         preserved_ = attributes.Get("space") == "preserve";
@@ -326,7 +326,7 @@ void Parser::OpenInBody(std::string_view name, const XmlAttributes& attributes) 
         BeginCell();
 }
 
-void Parser::Close(std::string_view name) {
+void DocxParser::Close(std::string_view name) {
     if (skipped_ > 0) {
         --skipped_;
         return;
@@ -359,7 +359,7 @@ void Parser::Close(std::string_view name) {
     }
 }
 
-void Parser::Characters(std::string_view utf8) {
+void DocxParser::Characters(std::string_view utf8) {
     if (skipped_ > 0) return;
     if (inText_)
         text_ += utf8;
@@ -367,7 +367,7 @@ void Parser::Characters(std::string_view utf8) {
         complex_.back().instruction += FromUtf8(utf8);
 }
 
-void Parser::PutText() {
+void DocxParser::PutText() {
     inText_ = false;
     Text text = FromUtf8(text_);
     text_.clear();
@@ -380,7 +380,7 @@ void Parser::PutText() {
     Put(preserved_ ? TextView(text) : Trim(text));
 }
 
-void Parser::Put(TextView text) {
+void DocxParser::Put(TextView text) {
     if (text.empty()) return;
     EndPending();
     builder_.SetFormat(look_);
@@ -388,13 +388,13 @@ void Parser::Put(TextView text) {
     builder_.Add(text);
 }
 
-void Parser::BeginParagraph() {
+void DocxParser::BeginParagraph() {
     EndPending();
     styles_.Begin({}, builder_.Target(), paraLook_, para_);
     markLook_ = look_ = paraLook_;
 }
 
-void Parser::EndParagraph() {
+void DocxParser::EndParagraph() {
     EndPending();
     if (builder_.AtParagraphStart()) builder_.SetFormat(markLook_);
     pending_ = para_.format;
@@ -402,12 +402,12 @@ void Parser::EndParagraph() {
     pending_->pageBreakBefore |= std::exchange(breakNext_, false);
 }
 
-void Parser::EndPending() {
+void DocxParser::EndPending() {
     if (pending_) builder_.EndParagraph(*pending_);
     pending_.reset();
 }
 
-void Parser::BeginCell() {
+void DocxParser::BeginCell() {
     EndPending();
     builder_.OpenCell();
     cellOpen_ = true;
@@ -417,7 +417,7 @@ void Parser::BeginCell() {
     if (gridColumn_ < grid_.size()) cell_.width = grid_[gridColumn_++];
 }
 
-void Parser::EndCell() {
+void DocxParser::EndCell() {
     if (!cellOpen_) return;
     cellOpen_ = false;
     builder_.EndCell(pending_.value_or(ParaFormat{}));
@@ -425,7 +425,7 @@ void Parser::EndCell() {
     rowCells_.push_back(cell_);
 }
 
-void Parser::BeginLink(const XmlAttributes& attributes) {
+void DocxParser::BeginLink(const XmlAttributes& attributes) {
     outerFields_.push_back(field_);
     Text address;
     if (const auto relation = relations_.find(std::string(attributes.Get("id")));
@@ -436,12 +436,12 @@ void Parser::BeginLink(const XmlAttributes& attributes) {
     if (!address.empty()) field_ = builder_.NewField({FieldKind::Hyperlink, address, {}});
 }
 
-std::optional<Index> Parser::FieldOf(TextView instruction) {
+std::optional<Index> DocxParser::FieldOf(TextView instruction) {
     const std::optional<Field> field = ReadInstruction(instruction);
     return field ? std::optional(builder_.NewField(*field)) : std::nullopt;
 }
 
-void Parser::FieldMark(std::string_view kind) {
+void DocxParser::FieldMark(std::string_view kind) {
     if (kind == "begin" && complex_.size() < kDeepestField) {
         complex_.push_back({{}, false, field_});
     } else if (kind == "separate" && !complex_.empty() && !complex_.back().inResult) {
@@ -453,7 +453,7 @@ void Parser::FieldMark(std::string_view kind) {
     }
 }
 
-void Parser::PutPicture(std::string_view id) {
+void DocxParser::PutPicture(std::string_view id) {
     const auto relation = relations_.find(std::string(id));
     if (relation == relations_.end() || relation->second.external) return;
     const std::optional<std::string> bytes = package_.Part(relation->second.target);
@@ -468,7 +468,7 @@ void Parser::PutPicture(std::string_view id) {
     builder_.AddImage(std::move(image));
 }
 
-ListMark Parser::MarkOf(const ParaState& para) const {
+ListMark DocxParser::MarkOf(const ParaState& para) const {
     const auto levels = numbering_.find(para.list);
     if (para.list <= 0 || levels == numbering_.end()) return {};
     const auto found = levels->second.find(para.level);
@@ -484,11 +484,11 @@ ListMark Parser::MarkOf(const ParaState& para) const {
 namespace korvane::doc {
 
 ReadResult ReadDocx(std::string_view bytes, const Limits& limits) {
-    return docx::Parser(bytes, limits).Read();
+    return docx::DocxParser(bytes, limits).Read();
 }
 
 ReadResult ReadDocxParts(const PackageParts& parts, const Limits& limits) {
-    return docx::Parser(parts, limits).Read();
+    return docx::DocxParser(parts, limits).Read();
 }
 
 } // namespace korvane::doc

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "document/docx/DocxStyles.h"
 #include "document/docx/Properties.h"
-#include "document/docx/Styles.h"
 #include "document/model/Builder.h"
 #include "document/package/Package.h"
 #include "document/package/Xml.h"
@@ -30,11 +30,11 @@ enum class Context : std::uint8_t {
 };
 
 /// Reads the parts of a DOCX file.
-class Parser {
+class DocxParser {
 public:
     /// The bytes of a file, or its parts.
     template <class Source>
-    Parser(const Source& source, const Limits& limits)
+    DocxParser(const Source& source, const Limits& limits)
         : package_(source, limits), limits_(limits), builder_(limits) {}
 
     ReadResult Read();
@@ -82,7 +82,7 @@ private:
     Limits limits_;
     Builder builder_;
     ReadResult result_;
-    Styles styles_;
+    DocxStyles styles_;
     std::map<int, Levels> numbering_;
     std::map<std::string, Package::Relation> relations_;
 

@@ -1,4 +1,4 @@
-#include "document/docx/Styles.h"
+#include "document/docx/DocxStyles.h"
 
 namespace korvane::doc::docx {
 
@@ -8,7 +8,7 @@ constexpr std::size_t kLongestChain = 16;
 
 } // namespace
 
-void Styles::Read(std::string_view xml) {
+void DocxStyles::Read(std::string_view xml) {
     Style* style = nullptr;
     std::vector<StoredProperty> ignored;
     std::vector<std::string> open;
@@ -40,7 +40,7 @@ void Styles::Read(std::string_view xml) {
     ReadXml(xml, handlers);
 }
 
-std::vector<const Styles::Style*> Styles::ChainOf(const std::string& style) const {
+std::vector<const DocxStyles::Style*> DocxStyles::ChainOf(const std::string& style) const {
     std::vector<const Style*> chain;
     std::string name = style;
     while (chain.size() < kLongestChain) {
@@ -52,14 +52,14 @@ std::vector<const Styles::Style*> Styles::ChainOf(const std::string& style) cons
     return chain;
 }
 
-void Styles::ApplyLook(const Style& style, Document& document, CharFormat& look) const {
+void DocxStyles::ApplyLook(const Style& style, Document& document, CharFormat& look) const {
     for (const StoredProperty& property : style.look)
         property.With([&](const XmlAttributes& attributes) {
             ApplyToLook(property.Element(), attributes, document, look);
         });
 }
 
-void Styles::ApplyPara(const Style& style, ParaState& para) {
+void DocxStyles::ApplyPara(const Style& style, ParaState& para) {
     for (const StoredProperty& property : style.para)
         property.With(
             [&](const XmlAttributes& attributes) { ApplyToPara(property.Element(), attributes, para); });
@@ -69,7 +69,8 @@ void Styles::ApplyPara(const Style& style, ParaState& para) {
         });
 }
 
-void Styles::Begin(const std::string& style, Document& document, CharFormat& look, ParaState& para) const {
+void DocxStyles::Begin(const std::string& style, Document& document, CharFormat& look,
+                       ParaState& para) const {
     // Without a word about it, letters have ten points.
     look = {};
     look.halfPoints = 20;
@@ -82,7 +83,7 @@ void Styles::Begin(const std::string& style, Document& document, CharFormat& loo
     }
 }
 
-void Styles::Apply(const std::string& style, Document& document, CharFormat& look) const {
+void DocxStyles::Apply(const std::string& style, Document& document, CharFormat& look) const {
     for (const Style* part : ChainOf(style))
         ApplyLook(*part, document, look);
 }

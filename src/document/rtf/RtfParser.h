@@ -85,16 +85,16 @@ struct ListLevel {
 using ListLevels = std::vector<ListLevel>;
 
 /// Reads RTF from its first byte to its last. Groups are kept on a stack of bounded depth.
-class Parser {
+class RtfParser {
 public:
-    Parser(std::string_view bytes, const Limits& limits);
+    RtfParser(std::string_view bytes, const Limits& limits);
 
     ReadResult Read();
 
 private:
     friend struct Words;
     friend struct WordTable;
-    using Handler = void (Parser::*)(const Value&, std::int32_t argument);
+    using Handler = void (RtfParser::*)(const Value&, std::int32_t argument);
 
     // The text's elements.
     void ReadSymbol();
@@ -248,7 +248,7 @@ private:
 struct Words {
     struct Row {
         std::string_view name;
-        Parser::Handler handler;
+        RtfParser::Handler handler;
         std::int32_t argument = 0;
     };
 

@@ -1,4 +1,4 @@
-#include "document/html/Parser.h"
+#include "document/html/HtmlParser.h"
 
 #include "document/html/Css.h"
 #include "document/html/Entities.h"
@@ -67,7 +67,7 @@ std::optional<CodePage> PageNamed(std::string_view name) {
 
 } // namespace
 
-Parser::Parser(std::string_view bytes, const Limits& limits)
+HtmlParser::HtmlParser(std::string_view bytes, const Limits& limits)
     : bytes_(bytes.substr(0, limits.bytes)), limits_(limits), builder_(limits) {
     if (bytes.size() > limits.bytes) builder_.Tell(Trouble::OverLimit);
     stack_.reserve(limits.depth + 1);
@@ -75,7 +75,7 @@ Parser::Parser(std::string_view bytes, const Limits& limits)
     DetectEncoding();
 }
 
-void Parser::DetectEncoding() {
+void HtmlParser::DetectEncoding() {
     const bool little = bytes_.starts_with("\xFF\xFE");
     if (little || bytes_.starts_with("\xFE\xFF")) {
         Text text;
@@ -104,7 +104,7 @@ void Parser::DetectEncoding() {
     if (!page_ && !SameWord(name.substr(0, 5), "utf-8")) page_ = CodePage::Windows1252();
 }
 
-ReadResult Parser::Read() {
+ReadResult HtmlParser::Read() {
     while (at_ < bytes_.size() && !builder_.Full()) {
         if (bytes_[at_] == '<')
             ReadMarkup();
@@ -119,13 +119,13 @@ ReadResult Parser::Read() {
     return std::move(result_);
 }
 
-void Parser::ReadText() {
+void HtmlParser::ReadText() {
     const std::size_t end = std::min(bytes_.find('<', at_), bytes_.size());
     PutText(bytes_.substr(at_, end - at_));
     at_ = end;
 }
 
-void Parser::ReadMarkup() {
+void HtmlParser::ReadMarkup() {
     const char next = at_ + 1 < bytes_.size() ? bytes_[at_ + 1] : '\0';
     if (IsNameStart(next)) return ReadStartTag();
     if (next == '/') return ReadEndTag();
@@ -133,14 +133,14 @@ void Parser::ReadMarkup() {
     PutText(bytes_.substr(at_++, 1));
 }
 
-void Parser::SkipComment() {
+void HtmlParser::SkipComment() {
     const bool comment = bytes_.substr(at_).starts_with("<!--");
     const std::string_view mark = comment ? "-->" : ">";
     const std::size_t end = bytes_.find(mark, at_ + (comment ? 4 : 2));
     at_ = end == std::string_view::npos ? bytes_.size() : end + mark.size();
 }
 
-void Parser::ReadEndTag() {
+void HtmlParser::ReadEndTag() {
     std::size_t end = at_ + 2;
     while (end < bytes_.size() && bytes_[end] != '>' && !IsBlank(bytes_[end]))
         ++end;
@@ -156,7 +156,7 @@ void Parser::ReadEndTag() {
         CloseOpen(element->name, {"table"});
 }
 
-void Parser::ReadStartTag() {
+void HtmlParser::ReadStartTag() {
     std::size_t end = at_ + 1;
     while (end < bytes_.size() && bytes_[end] != '>' && bytes_[end] != '/' && !IsBlank(bytes_[end]))
         ++end;
@@ -169,7 +169,7 @@ void Parser::ReadStartTag() {
     if (element != nullptr) OpenElement(*element);
 }
 
-bool Parser::ReadAttribute() {
+bool HtmlParser::ReadAttribute() {
     while (at_ < bytes_.size() && (IsBlank(bytes_[at_]) || bytes_[at_] == '/'))
         ++at_;
     if (at_ >= bytes_.size()) return false;
@@ -201,7 +201,7 @@ bool Parser::ReadAttribute() {
     return true;
 }
 
-std::string_view Parser::AttributeOf(std::string_view name) const {
+std::string_view HtmlParser::AttributeOf(std::string_view name) const {
     for (const Attribute& attribute : attributes_) {
         const bool picture = name == "src";
         if (SameWord(attribute.name, name) && (picture || attribute.value.size() <= kLongestAttribute))
@@ -210,7 +210,7 @@ std::string_view Parser::AttributeOf(std::string_view name) const {
     return {};
 }
 
-void Parser::SkipDropped(const Element& element) {
+void HtmlParser::SkipDropped(const Element& element) {
     // An end tag of the same name ends it; the same element in it is counted, unless its content isn't HTML.
     std::size_t depth = 1;
     while (at_ < bytes_.size() && depth > 0) {
@@ -231,14 +231,14 @@ void Parser::SkipDropped(const Element& element) {
     at_ = std::min(std::min(bytes_.find('>', at_), bytes_.size()) + 1, bytes_.size());
 }
 
-void Parser::PutText(std::string_view text) {
+void HtmlParser::PutText(std::string_view text) {
     if (State().pre)
         PutPreserved(text);
     else
         PutSpaced(text);
 }
 
-void Parser::PutSpaced(std::string_view text) {
+void HtmlParser::PutSpaced(std::string_view text) {
     while (!text.empty()) {
         if (const std::size_t shown = ShownLength(text, afterBlank_); shown > 0) {
             BeforeContent();
@@ -258,7 +258,7 @@ void Parser::PutSpaced(std::string_view text) {
     }
 }
 
-void Parser::PutPreserved(std::string_view text) {
+void HtmlParser::PutPreserved(std::string_view text) {
     while (!text.empty()) {
         const auto mark =
             std::ranges::find_if(text, [](char c) { return c == '\t' || c == '\r' || c == '\n'; });
@@ -274,7 +274,7 @@ void Parser::PutPreserved(std::string_view text) {
     }
 }
 
-void Parser::PutDecoded(std::string_view text) {
+void HtmlParser::PutDecoded(std::string_view text) {
     while (!text.empty()) {
         const std::size_t plain = State().pre ? std::min(text.find('&'), text.size()) : PlainLength(text);
         const std::string_view ascii = text.substr(0, plain);
@@ -299,7 +299,7 @@ void Parser::PutDecoded(std::string_view text) {
     }
 }
 
-void Parser::PutUnits(TextView units) {
+void HtmlParser::PutUnits(TextView units) {
     Text kept;
     for (const char16_t unit : units) {
         if (unit == kImageCharacter)
@@ -314,7 +314,7 @@ void Parser::PutUnits(TextView units) {
     afterBlank_ = false;
 }
 
-void Parser::PutBreak() {
+void HtmlParser::PutBreak() {
     BeforeContent();
     if (!State().pre && afterBlank_ && builder_.Last() == u' ') builder_.RemoveLast();
     builder_.Add(kLineBreak);
@@ -322,7 +322,7 @@ void Parser::PutBreak() {
     afterBlank_ = true;
 }
 
-void Parser::BeforeContent() {
+void HtmlParser::BeforeContent() {
     EndPending();
     if (tableDepth_ > 0 && !cellOpen_ && builder_.InRow()) builder_.EndRow(std::exchange(rowCells_, {}));
     builder_.SetFormat(State().look);
@@ -330,12 +330,12 @@ void Parser::BeforeContent() {
     content_ = true;
 }
 
-void Parser::EndPending() {
+void HtmlParser::EndPending() {
     if (pending_) builder_.EndParagraph(*pending_);
     pending_.reset();
 }
 
-void Parser::EndBlock() {
+void HtmlParser::EndBlock() {
     if (!content_) return;
     // A blank and a break at the end aren't shown.
     if (!State().pre && builder_.Last() == u' ' && afterBlank_) builder_.RemoveLast();
@@ -345,7 +345,7 @@ void Parser::EndBlock() {
     afterBlank_ = true;
 }
 
-void Parser::OpenElement(const Element& element) {
+void HtmlParser::OpenElement(const Element& element) {
     if (element.nature == Nature::Raw || element.nature == Nature::Dropped) return SkipDropped(element);
     if (element.nature == Nature::Void) {
         if (element.open != nullptr) (this->*element.open)(element.argument);
@@ -364,7 +364,7 @@ void Parser::OpenElement(const Element& element) {
 }
 
 /// Ends the elements whose end tags may be left out before this one.
-void Parser::CloseImplied(std::string_view opened) {
+void HtmlParser::CloseImplied(std::string_view opened) {
     CloseOpen("p", {"table", "td", "th", "li", "div"});
     if (opened == "li") CloseOpen("li", {"ul", "ol", "table"});
     if (opened != "td" && opened != "th" && opened != "tr") return;
@@ -373,7 +373,7 @@ void Parser::CloseImplied(std::string_view opened) {
     if (opened == "tr") CloseOpen("tr", {"table"});
 }
 
-void Parser::CloseTop() {
+void HtmlParser::CloseTop() {
     const Element& element = *State().element;
     if (element.nature == Nature::Block) EndBlock();
     if (element.close != nullptr) (this->*element.close)(element.argument);
@@ -381,12 +381,12 @@ void Parser::CloseTop() {
     stack_.pop_back();
 }
 
-void Parser::CloseUpTo(std::size_t index) {
+void HtmlParser::CloseUpTo(std::size_t index) {
     while (stack_.size() > index)
         CloseTop();
 }
 
-void Parser::CloseOpen(std::string_view name, std::initializer_list<std::string_view> barriers) {
+void HtmlParser::CloseOpen(std::string_view name, std::initializer_list<std::string_view> barriers) {
     for (std::size_t i = stack_.size() - 1; i > 0; --i) {
         const std::string_view open = stack_[i].element->name;
         if (open == name) return CloseUpTo(i);
@@ -394,7 +394,7 @@ void Parser::CloseOpen(std::string_view name, std::initializer_list<std::string_
     }
 }
 
-void Parser::ApplyCommonAttributes() {
+void HtmlParser::ApplyCommonAttributes() {
     if (attributes_.empty()) return;
     ApplyStyle();
     if (const std::string_view align = AttributeOf("align"); !align.empty()) StyleAlign(align, 0);
@@ -403,7 +403,7 @@ void Parser::ApplyCommonAttributes() {
     if (const std::string_view mark = AttributeOf("data-kv-list"); !mark.empty()) ReadListMark(mark);
 }
 
-void Parser::ApplyStyle() {
+void HtmlParser::ApplyStyle() {
     const std::string_view raw = AttributeOf("style");
     if (raw.empty()) return;
     const bool onlyLook = State().element->nature == Nature::Inline && styledImage_ == nullptr;
@@ -413,7 +413,7 @@ void Parser::ApplyStyle() {
         ApplyStyle(raw);
 }
 
-void Parser::ApplyInlineStyle(std::string_view raw) {
+void HtmlParser::ApplyInlineStyle(std::string_view raw) {
     for (const StyledLook& styled : styled_) {
         if (styled.style == raw && styled.before == Look()) {
             Look() = styled.after;
@@ -428,7 +428,7 @@ void Parser::ApplyInlineStyle(std::string_view raw) {
     nextStyled_ = (nextStyled_ + 1) % styled_.size();
 }
 
-void Parser::ApplyStyle(std::string_view raw) {
+void HtmlParser::ApplyStyle(std::string_view raw) {
     std::string unescaped;
     if (raw.find('&') != std::string_view::npos) unescaped = ToUtf8(Unescaped(raw));
     std::string_view style = unescaped.empty() ? raw : std::string_view(unescaped);
@@ -446,7 +446,7 @@ void Parser::ApplyStyle(std::string_view raw) {
 namespace korvane::doc {
 
 ReadResult ReadHtml(std::string_view bytes, const Limits& limits) {
-    return html::Parser(bytes, limits).Read();
+    return html::HtmlParser(bytes, limits).Read();
 }
 
 } // namespace korvane::doc
