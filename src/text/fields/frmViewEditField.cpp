@@ -196,6 +196,7 @@ void frmViewEditField::ShowEditFont() {
 bool frmViewEditField::QueryUnload() {
     if (!altered_) return true;
     ShowPane(false);
+    txtAllFields.Visible = true;
     const Answer answer = app_.Messages().Show(
         {u"Write back changes to field?", MessageIcon::Question, MessageButtons::YesNoCancel});
     if (answer == Answer::Yes) WriteFields();

@@ -90,6 +90,8 @@ public:
     void EditThisField();
     void DoThisZoomIn();
     void DoThisZoomOut();
+    /// Tells the user that a load or a save failed, in words that depend on the reason.
+    void ThisTextCtrl_Error(const Text& reason);
 
 private:
     struct Tables;
@@ -101,7 +103,6 @@ private:
     void SetZoom(int percent);
     bool MayClose();
     void ShowButtons(bool visible);
-    void ThisTextCtrl_Error(const Text& reason);
     void Typed(TypedText& typed);
     void TakePage();
     void TellNeeded(int format, FileUse use);

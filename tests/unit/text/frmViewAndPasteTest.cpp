@@ -301,6 +301,23 @@ TEST_F(ViewAndPaste, FormattedContentsAreShownAndRetrievedWithTheirFormatting) {
     EXPECT_EQ(window.text.FontBold(), 1);
 }
 
+TEST_F(ViewAndPaste, TheSimpleRenderingHasTheFormattingToo) {
+    FakeOpenText window(t.app);
+    t.app.Exchange<TextWindowState>().TextWindowOpen = 1;
+    Put(u"one two");
+    t.clipboard.AddRtf("{\\rtf1 one {\\b two}}");
+    LookTillClosed([](frmViewAndPaste& f) {
+        f.OfficeMenu1.Choose("mnuToggle");
+        f.OfficeMenu1.Choose("mnuToggle");
+        f.RichTextBox1.SetSelection(4, 3);
+        EXPECT_EQ(f.RichTextBox1.FontBold(), 1);
+        f.OfficeMenu1.Choose("mnuRetrieve");
+    });
+    EXPECT_EQ(window.All(), u"two");
+    window.text.SetSelection(0, 3);
+    EXPECT_EQ(window.text.FontBold(), 1);
+}
+
 TEST_F(ViewAndPaste, FormattedContentsAreSavedByTheNameOfTheFile) {
     FakeSystemFileDialog dialog(t.app);
     Put(u"two");

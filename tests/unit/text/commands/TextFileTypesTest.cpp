@@ -57,9 +57,27 @@ TEST(TextFileTypes, GiveTheControlItsAttributes) {
     SetLoadSaveAttributes(control, TextFormat::Doc);
     EXPECT_EQ(control.LoadSaveAttribute(15), 1);
     EXPECT_EQ(control.ImageSaveMode, 0);
+    EXPECT_EQ(control.LoadSaveAttribute(37), 0);
     SetLoadSaveAttributes(control, TextFormat::Html);
     EXPECT_EQ(control.LoadSaveAttribute(37), 1);
     EXPECT_EQ(control.ImageSaveMode, 1);
+    TextControl other(form, "other");
+    other.ImageSaveMode = 0;
+    SetLoadSaveAttributes(other, TextFormat::Docx);
+    EXPECT_EQ(other.LoadSaveAttribute(37), 1);
+    EXPECT_EQ(other.LoadSaveAttribute(15), 1);
+    EXPECT_EQ(other.ImageSaveMode, 1);
+}
+
+TEST(TextFileTypes, APlainSaveSetsNoAttributes) {
+    ScriptedUser user;
+    Form form(user, "Form", u"");
+    TextControl control(form, "control");
+    for (const TextView path : {u"C:\\a.txt", u"C:\\a.xml"}) {
+        SaveByName(control, path);
+        EXPECT_EQ(control.LoadSaveAttribute(38), 0);
+        EXPECT_EQ(control.LoadSaveAttribute(1), 0);
+    }
 }
 
 } // namespace

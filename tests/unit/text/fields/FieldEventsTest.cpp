@@ -46,6 +46,15 @@ TEST_F(FieldEvents, TheFieldAtTheCursorIsEdited) {
     EXPECT_EQ(document.SelStart(), 5);
 }
 
+TEST_F(FieldEvents, ANegativeResultAltersNothing) {
+    document.SetSelStart(6);
+    t.user.On<frmViewEditField>([this](frmViewEditField& editor) {
+        editor.Close();
+        t.app.DialogResult = -1;
+    });
+    EXPECT_FALSE(EditField(t.app, document));
+}
+
 TEST_F(FieldEvents, ANoteIsRtfOnlyWithFormatting) {
     scratch.SetAll(u"plain\r\nnote");
     EXPECT_EQ(NoteOf(scratch), u"plain\r\nnote");

@@ -88,6 +88,10 @@ TEST_F(ViewEditField, ProposesValuesWithoutAField) {
     EXPECT_EQ(editor.txtFieldLabel.SelText(), u"(enter name)");
     EXPECT_FALSE(editor.cmdWriteBack.Enabled);
     EXPECT_FALSE(editor.cmdCreateField.Enabled);
+    editor.Close();
+    Transit().LastFieldLabel = u"label of before";
+    editor.EnsureLoaded();
+    EXPECT_EQ(editor.txtFieldLabel.SelText(), u"label of before");
 }
 
 TEST_F(ViewEditField, WritesANoteBackInItsColours) {
@@ -153,7 +157,10 @@ TEST_F(ViewEditField, WithoutACurrentFieldNothingIsWrittenAndTheWindowCloses) {
     Edit(1);
     document.SetFieldCurrent(0);
     editor.txtFieldLabel.Type(u"new");
+    editor.Left = Twips{700};
     editor.cmdWriteBack.Press();
+    // The closing keeps the place.
+    EXPECT_EQ(t.app.Settings.ViewEditLeft, 700);
     EXPECT_FALSE(document.DataChanged());
     EXPECT_EQ(Transit().FieldNumber, 0);
     EXPECT_EQ(Transit().LastFieldLabel, u"new");
@@ -220,6 +227,27 @@ TEST_F(ViewEditField, ClosingAsksOnlyAfterAChange) {
     t.user.Answer(kClosing, Answer::Yes);
     EXPECT_TRUE(editor.Close());
     EXPECT_EQ(All(), "one new twolink");
+}
+
+TEST_F(ViewEditField, TheQuestionAtClosingShowsBothPanes) {
+    Edit(1);
+    editor.txtFieldEntry.SetSelText(u"x");
+    bool seen = false;
+    t.user.AnswerAfter([&] { seen = editor.txtFieldEntry.Visible && editor.txtAllFields.Visible; },
+                       Answer::Cancel);
+    EXPECT_FALSE(editor.Close());
+    EXPECT_TRUE(seen);
+    t.user.Answer(kClosing, Answer::No);
+    EXPECT_TRUE(editor.Close());
+}
+
+TEST_F(ViewEditField, PastingAsksAtClosing) {
+    for (const int mask : {Mask::Ctrl, Mask::Ctrl | Mask::Alt}) {
+        Edit(1);
+        Press(editor.txtFieldEntry, 'V', mask);
+        t.user.Answer(kClosing, Answer::No);
+        EXPECT_TRUE(editor.Close());
+    }
 }
 
 TEST_F(ViewEditField, UpdatesTheColoursOfAllFields) {

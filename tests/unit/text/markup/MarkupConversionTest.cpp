@@ -56,7 +56,11 @@ TEST_F(MarkupConversion, ConvertsTheWholeTextAndPutsTheCursorBack) {
     control.SetAll(u"<B>x</B> y");
     control.SetSelection(9, 1);
     t.user.Answer(Answer::Yes);
+    Pointer during = Pointer::Default;
+    control.Change = [&] { during = t.screen.CurrentPointer(); };
     ConvertMarkupDirect(t.app, control);
+    control.Change = nullptr;
+    EXPECT_EQ(during, Pointer::Hourglass);
     EXPECT_EQ(All(), "x y");
     EXPECT_EQ(control.SelStart(), 3);
     EXPECT_EQ(control.SelLength(), 0);

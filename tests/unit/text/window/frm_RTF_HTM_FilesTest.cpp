@@ -2,6 +2,8 @@
 #include "dialogs/frmTxtInfo.h"
 #include "unit/text/window/TextWindowStage.h"
 
+#include <algorithm>
+
 namespace korvane {
 namespace {
 
@@ -88,6 +90,22 @@ TEST_F(TextWindowFiles, APlainFileHasPagesAsWideAsTheWindow) {
     EXPECT_GT(Control().PageSize(doc::Page::Height), 240);
 }
 
+TEST_F(TextWindowFiles, AFileThatGoesWhileItIsOpenedIsReported) {
+    t.files.AddFile(u"C:\\a.txt", "one");
+    Open();
+    window->ThisFileName = u"C:\\a.txt";
+    State().TextWindowUntitled = 0;
+    Control().Change = [this] { t.files.Remove(u"C:\\a.txt"); };
+    t.user.Answer({u"Cannot locate the following program/file:\r\n\r\nC:\\a.txt\r\n\r\nCheck the path before "
+                   u"the name and see whether\r\nthe program/file exists on your hard disk.",
+                   MessageIcon::Stop},
+                  Answer::Ok);
+    window->LoadThisFile();
+    EXPECT_EQ(Control().All(), u"");
+    EXPECT_EQ(window->Caption.Get(), u"C:\\a.txt");
+    Control().Change = nullptr;
+}
+
 TEST_F(TextWindowFiles, AFileThatIsNotOfItsFormatIsReported) {
     t.files.AddFile(u"C:\\a.rtf", "\x89PNG");
     t.user.Answer(kOtherError, Answer::Ok);
@@ -101,10 +119,13 @@ TEST_F(TextWindowFiles, SavesUnderItsNameWithTheNameOverTheButtons) {
     Control().SetSelText(u"text");
     t.files.ChangeDir(u"C:\\");
     bool covered = false;
+    const auto isHidden = [](const class Control* control) {
+        return dynamic_cast<const CommandButton*>(control) == nullptr || !control->Visible;
+    };
     // The first messages run before the buttons go, the second ones while they are gone.
     t.screen.QueueMessage([] {});
     t.screen.QueueMessage([&] {
-        covered = !window->cmdSave.Visible && window->lblFileName.Visible &&
+        covered = std::ranges::all_of(window->Controls(), isHidden) && window->lblFileName.Visible &&
                   window->lblFileName.Caption.Get() == u" Saving:  Untitled.rtf" &&
                   t.screen.CurrentPointer() == Pointer::Hourglass;
     });
@@ -112,7 +133,9 @@ TEST_F(TextWindowFiles, SavesUnderItsNameWithTheNameOverTheButtons) {
     window->cmdSave.Press();
     EXPECT_TRUE(covered);
     EXPECT_EQ(t.clock.Uptime() - before, std::chrono::milliseconds(500));
-    EXPECT_TRUE(window->cmdSave.Visible);
+    EXPECT_TRUE(std::ranges::none_of(window->Controls(), [](const class Control* control) {
+        return dynamic_cast<const CommandButton*>(control) != nullptr && !control->Visible;
+    }));
     EXPECT_FALSE(window->lblFileName.Visible);
     EXPECT_EQ(t.screen.CurrentPointer(), Pointer::Default);
     EXPECT_TRUE(t.files.Contents(u"C:\\Untitled.rtf")->starts_with("{\\rtf1"));
@@ -121,13 +144,18 @@ TEST_F(TextWindowFiles, SavesUnderItsNameWithTheNameOverTheButtons) {
 
 TEST_F(TextWindowFiles, ThePageGoesIntoTheFile) {
     Open();
-    Control().SetPageSize(doc::Page::Width, 8000);
-    window->ThisFileName = u"C:\\a.rtf";
-    window->SaveThisFile();
-    Control().SetPageSize(doc::Page::Width, 5000);
-    State().TextWindowUntitled = 0;
-    window->LoadThisFile();
-    EXPECT_EQ(Control().PageSize(doc::Page::Width), 8000);
+    const auto sizeOf = [](int index) { return 4000 + 20 * index; };
+    for (const TextView path : {u"C:\\a.rtf", u"C:\\a.html", u"C:\\a.docx"}) {
+        for (int size = 0; size < static_cast<int>(doc::Page::kSizes); ++size)
+            Control().SetPageSize(static_cast<doc::Page::Size>(size), sizeOf(size));
+        window->ThisFileName = Text(path);
+        window->SaveThisFile();
+        Control().SetPageSize(doc::Page::Height, 15000);
+        State().TextWindowUntitled = 0;
+        window->LoadThisFile();
+        for (int size = 0; size < static_cast<int>(doc::Page::kSizes); ++size)
+            EXPECT_EQ(Control().PageSize(static_cast<doc::Page::Size>(size)), sizeOf(size)) << ToUtf8(path);
+    }
 }
 
 // Kept for compatibility: save-types-differ.
@@ -158,6 +186,14 @@ TEST_F(TextWindowFiles, AFailedSaveIsToldAndCountsAsSaved) {
     window->SaveThisFile();
     EXPECT_EQ(t.files.Contents(u"C:\\a.rtf"), "{\\rtf1 old}");
     EXPECT_FALSE(window->Altered());
+}
+
+TEST_F(TextWindowFiles, TheCodeOfAFailedSaveCountsInItsExactCase) {
+    Open();
+    t.user.Answer(kSaveError, Answer::Ok);
+    window->ThisTextCtrl_Error(u"error 1d09 of the control");
+    t.user.Answer(kOtherError, Answer::Ok);
+    window->ThisTextCtrl_Error(u"error 1D09 of the control");
 }
 
 TEST_F(TextWindowFiles, ADocWithoutItsProgramIsToldInOtherWords) {
@@ -227,7 +263,9 @@ TEST_F(TextWindowFiles, TheWordUntitledCountsInItsExactCase) {
     AnswerSaving(MsgAnswer::SaveDirectly);
     EXPECT_EQ(window->AskSaveChanges(), MsgAnswer::SaveUnderAName);
     AnswerSaving(MsgAnswer::DoNotSave);
+    window->cmdSave.SetFocus();
     EXPECT_EQ(window->AskSaveChanges(), MsgAnswer::DoNotSave);
+    EXPECT_EQ(window->Focused(), &Control());
 }
 
 TEST_F(TextWindowFiles, AClosingWhoseSaveAsIsCancelledStops) {
@@ -252,6 +290,22 @@ TEST_F(TextWindowFiles, NewDropsTheTextAlsoAfterTheAnswerToSave) {
     EXPECT_EQ(window->ThisFileName, u"Untitled.rtf");
     EXPECT_FALSE(window->Altered());
     EXPECT_EQ(t.files.Contents(u"C:\\a.txt"), "old");
+}
+
+// Kept for compatibility: new-text-saves-nothing.
+TEST_F(TextWindowFiles, OpenDropsTheTextAlsoAfterTheAnswersToSave) {
+    t.files.AddFile(u"C:\\a.txt", "old");
+    t.files.AddFile(u"C:\\b.txt", "text of b");
+    for (const MsgAnswer answer : {MsgAnswer::SaveDirectly, MsgAnswer::SaveUnderAName}) {
+        Open(u"C:\\a.txt");
+        Control().SetSelText(u"new");
+        AnswerSaving(answer);
+        t.user.ChooseFile(u"C:\\b.txt");
+        window->cmdOpen.Press();
+        EXPECT_EQ(Control().All(), u"text of b");
+        EXPECT_EQ(t.files.Contents(u"C:\\a.txt"), "old");
+        window->Close();
+    }
 }
 
 TEST_F(TextWindowFiles, ACancelKeepsTheTextFromNewAndOpen) {
@@ -363,10 +417,17 @@ TEST_F(TextWindowFiles, ThePlaceAndTheZoomAreKept) {
     Open();
     EXPECT_EQ(window->Width.Get(), Twips{7000});
     EXPECT_EQ(Control().ZoomFactor, 150);
+    EXPECT_EQ(window->Height.Get(), Twips{6000});
+    EXPECT_EQ(window->Left.Get(), Twips{2000});
+    EXPECT_EQ(window->Top.Get(), Twips{1000});
     window->Left = Twips{2100};
+    window->Top = Twips{1100};
+    window->Height = Twips{6100};
     Control().ZoomFactor = 200;
     window->Close();
     EXPECT_EQ(t.app.Settings.RtfLeft, 2100);
+    EXPECT_EQ(t.app.Settings.RtfTop, 1100);
+    EXPECT_EQ(t.app.Settings.RtfHeight, 6100);
     EXPECT_EQ(t.app.Settings.RtfZoom, 200);
 }
 

@@ -384,7 +384,11 @@ TEST_F(TextWindowView, TheExplorerAndTheClockAreOpened) {
     t.files.ChangeDir(u"C:\\data");
     Choose("mnuExplorer");
     Choose("mnuTimer");
-    EXPECT_EQ(t.shell.Calls(), (std::vector<ShellCall>{{ShellCall::Kind::Explore, u"C:\\data"}}));
+    window->ThisFileName = u"C:\\other\\a.txt";
+    t.files.AddFile(window->ThisFileName);
+    Choose("mnuExplorer");
+    EXPECT_EQ(t.shell.Calls(), (std::vector<ShellCall>{{ShellCall::Kind::Explore, u"C:\\data"},
+                                                       {ShellCall::Kind::Explore, u"C:\\other"}}));
     EXPECT_EQ(main.commands, (std::vector<std::string>{"mnuMisc_Clock"}));
 }
 
