@@ -44,6 +44,25 @@ std::optional<std::size_t> SideOf(std::string_view name) {
     return found == std::end(kSides) ? std::nullopt : std::optional(static_cast<std::size_t>(found->second));
 }
 
+/// The characters that take the font for East Asia. The last range are the first halves of the rarer ones.
+bool IsEastAsian(char16_t c) {
+    static constexpr std::pair<char16_t, char16_t> kRanges[] = {
+        {0x1100, 0x11FF}, {0x2E80, 0x9FFF}, {0xA960, 0xA97F}, {0xAC00, 0xD7FF},
+        {0xF900, 0xFAFF}, {0xFE30, 0xFE4F}, {0xFF00, 0xFFEF}, {0xD840, 0xD8BF}};
+    return std::ranges::any_of(kRanges,
+                               [c](const auto& range) { return c >= range.first && c <= range.second; });
+}
+
+std::size_t EastAsianStart(TextView text) {
+    return static_cast<std::size_t>(std::ranges::find_if(text, IsEastAsian) - text.begin());
+}
+
+std::size_t EastAsianLength(TextView text) {
+    const auto isSecondHalf = [](char16_t c) { return c >= 0xDC00 && c <= 0xDFFF; };
+    const auto goesOn = [&](char16_t c) { return IsEastAsian(c) || isSecondHalf(c); };
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, goesOn) - text.begin());
+}
+
 ImageKind KindOf(std::string_view bytes) {
     if (bytes.starts_with("\x89PNG")) return ImageKind::Png;
     return bytes.starts_with("\xFF\xD8") ? ImageKind::Jpeg : ImageKind::Other;
@@ -192,7 +211,7 @@ void DocxParser::OpenInContext(std::string_view name, const XmlAttributes& attri
 }
 
 void DocxParser::OpenInRun(std::string_view name, const XmlAttributes& attributes) {
-    CharFormat& look = markRun_ ? markLook_ : look_;
+    Look& look = markRun_ ? markLook_ : look_;
     if (name == "rStyle")
         styles_.Apply(std::string(attributes.Get("val")), builder_.Target(), look);
     else
@@ -385,7 +404,23 @@ void DocxParser::Put(TextView text) {
     EndPending();
     builder_.SetFormat(look_);
     builder_.SetField(field_);
-    builder_.Add(text);
+    PutLetters(text);
+}
+
+void DocxParser::PutLetters(TextView text) {
+    if (!look_.eastAsiaFont || look_.eastAsiaFont == look_.font) return builder_.Add(text);
+    CharFormat eastAsian = look_;
+    eastAsian.font = *look_.eastAsiaFont;
+    while (!text.empty()) {
+        const std::size_t letters = EastAsianStart(text);
+        builder_.SetFormat(look_);
+        if (letters > 0) builder_.Add(text.substr(0, letters));
+        text.remove_prefix(letters);
+        const std::size_t signs = EastAsianLength(text);
+        builder_.SetFormat(eastAsian);
+        if (signs > 0) builder_.Add(text.substr(0, signs));
+        text.remove_prefix(signs);
+    }
 }
 
 void DocxParser::BeginParagraph() {

@@ -71,6 +71,7 @@ private:
     void BeginCell();
     void EndCell();
     void Put(TextView text);
+    void PutLetters(TextView text);
     void PutText();
     void BeginLink(const XmlAttributes& attributes);
     void FieldMark(std::string_view kind);
@@ -91,9 +92,9 @@ private:
     std::size_t skipped_ = 0;
 
     // The paragraph and the run at hand.
-    CharFormat paraLook_{};
-    CharFormat markLook_{};
-    CharFormat look_{};
+    Look paraLook_{};
+    Look markLook_{};
+    Look look_{};
     ParaState para_{};
     bool markRun_ = false;
     bool breakNext_ = false;

@@ -52,7 +52,7 @@ std::vector<const DocxStyles::Style*> DocxStyles::ChainOf(const std::string& sty
     return chain;
 }
 
-void DocxStyles::ApplyLook(const Style& style, Document& document, CharFormat& look) const {
+void DocxStyles::ApplyLook(const Style& style, Document& document, Look& look) const {
     for (const StoredProperty& property : style.look)
         property.With([&](const XmlAttributes& attributes) {
             ApplyToLook(property.Element(), attributes, document, look);
@@ -69,8 +69,7 @@ void DocxStyles::ApplyPara(const Style& style, ParaState& para) {
         });
 }
 
-void DocxStyles::Begin(const std::string& style, Document& document, CharFormat& look,
-                       ParaState& para) const {
+void DocxStyles::Begin(const std::string& style, Document& document, Look& look, ParaState& para) const {
     // Without a word about it, letters have ten points.
     look = {};
     look.halfPoints = 20;
@@ -83,7 +82,7 @@ void DocxStyles::Begin(const std::string& style, Document& document, CharFormat&
     }
 }
 
-void DocxStyles::Apply(const std::string& style, Document& document, CharFormat& look) const {
+void DocxStyles::Apply(const std::string& style, Document& document, Look& look) const {
     for (const Style* part : ChainOf(style))
         ApplyLook(*part, document, look);
 }

@@ -17,9 +17,9 @@ public:
     void Read(std::string_view xml);
 
     /// The look and the format of a paragraph of the style; of the usual one for an empty name.
-    void Begin(const std::string& style, Document& document, CharFormat& look, ParaState& para) const;
+    void Begin(const std::string& style, Document& document, Look& look, ParaState& para) const;
     /// What the style of characters changes.
-    void Apply(const std::string& style, Document& document, CharFormat& look) const;
+    void Apply(const std::string& style, Document& document, Look& look) const;
 
 private:
     struct Style {
@@ -29,7 +29,7 @@ private:
         std::vector<StoredProperty> frame;
     };
 
-    void ApplyLook(const Style& style, Document& document, CharFormat& look) const;
+    void ApplyLook(const Style& style, Document& document, Look& look) const;
     static void ApplyPara(const Style& style, ParaState& para);
     /// The style and those that it is based on, the last one first.
     std::vector<const Style*> ChainOf(const std::string& style) const;

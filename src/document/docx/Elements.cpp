@@ -60,7 +60,7 @@ void PutLine(std::string& out, std::string_view element, std::string_view kind, 
 
 void PutFont(std::string& out, TextView font) {
     out += "<w:rFonts";
-    for (const std::string_view attribute : {" w:ascii=\"", " w:hAnsi=\"", " w:cs=\""}) {
+    for (const std::string_view attribute : {" w:ascii=\"", " w:hAnsi=\"", " w:eastAsia=\"", " w:cs=\""}) {
         out += attribute;
         PutXml(out, font);
         out += '"';

@@ -28,10 +28,12 @@ constexpr Marker kMarkers[] = {
     {"darkRed", 0x000080},  {"darkYellow", 0x008080}, {"darkGray", 0x808080},  {"lightGray", 0xC0C0C0},
 };
 
-void ApplyFont(const XmlAttributes& attributes, Document& document, CharFormat& look) {
+void ApplyFont(const XmlAttributes& attributes, Document& document, Look& look) {
     std::string_view name = attributes.Get("ascii");
     if (name.empty()) name = attributes.Get("hAnsi");
     if (!name.empty()) look.font = document.FontNumber(FromUtf8(name));
+    const std::string_view eastAsia = attributes.Get("eastAsia");
+    if (!eastAsia.empty()) look.eastAsiaFont = document.FontNumber(FromUtf8(eastAsia));
 }
 
 void ApplyScript(std::string_view value, CharFormat& look) {
@@ -118,8 +120,7 @@ int LineWidth(const XmlAttributes& attributes) {
     return static_cast<int>(std::lround(eighths * kTwipsPerEighth));
 }
 
-void ApplyToLook(std::string_view element, const XmlAttributes& attributes, Document& document,
-                 CharFormat& look) {
+void ApplyToLook(std::string_view element, const XmlAttributes& attributes, Document& document, Look& look) {
     const std::string_view value = attributes.Get("val");
     if (element == "rFonts")
         ApplyFont(attributes, document, look);

@@ -3,7 +3,9 @@
 #include "document/model/Document.h"
 #include "document/package/Xml.h"
 
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,9 +19,13 @@ struct ParaState {
     int level = 0;
 };
 
+/// The format of characters as its properties tell it. Those of East Asia may have a font of their own.
+struct Look : CharFormat {
+    std::optional<std::uint16_t> eastAsiaFont{};
+};
+
 /// Applies the property of characters that the element tells. Fonts are added to the document.
-void ApplyToLook(std::string_view element, const XmlAttributes& attributes, Document& document,
-                 CharFormat& look);
+void ApplyToLook(std::string_view element, const XmlAttributes& attributes, Document& document, Look& look);
 
 /// Applies the property of a paragraph that the element tells.
 void ApplyToPara(std::string_view element, const XmlAttributes& attributes, ParaState& para);

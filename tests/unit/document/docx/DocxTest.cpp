@@ -122,6 +122,31 @@ TEST(Docx, StylesAreBasedOnEachOther) {
     EXPECT_TRUE(document.FormatOf(document.paragraphs[0].runs.at(1)).bold);
 }
 
+TEST(Docx, CharactersOfEastAsiaHaveTheirOwnFont) {
+    const std::string run = "<w:r><w:rPr><w:rFonts w:ascii=\"Times\" w:eastAsia=\"SimSun\"/></w:rPr><w:t>"
+                            "ab\u6F22\u3002\U00020000c</w:t></w:r>";
+    const Document document =
+        Read("<w:p>" + run +
+             "<w:r><w:rPr><w:rFonts w:eastAsia=\"Batang\"/></w:rPr><w:t>d\uD55C</w:t></w:r></w:p>");
+    EXPECT_EQ(PlainText(document), u"ab\u6F22\u3002\U00020000cd\uD55C");
+    std::string fonts;
+    for (const auto& run : document.paragraphs[0].runs)
+        fonts += std::to_string(run.length) + ToUtf8(document.fonts[document.FormatOf(run).font]) + " ";
+    EXPECT_EQ(fonts, "2Times 4SimSun 1Times 1Arial 1Batang ");
+}
+
+TEST(Docx, TheFontIsWrittenForCharactersOfEastAsiaToo) {
+    Builder builder({});
+    CharFormat look;
+    look.font = builder.Target().FontNumber(u"SimSun");
+    builder.SetFormat(look);
+    builder.Add(u"\u6F22a");
+    builder.EndParagraph({});
+    const std::string bytes = WriteDocx(builder.Finish({}));
+    EXPECT_NE(Package(bytes, {}).Part("word/document.xml")->find("w:eastAsia=\"SimSun\""), std::string::npos);
+    EXPECT_EQ(ReadDocx(bytes).document.paragraphs[0].runs.size(), 1U);
+}
+
 TEST(Docx, FieldsOfBothKindsAreLinks) {
     const Document document = Read(
         "<w:p><w:fldSimple w:instr=\" HYPERLINK &quot;http://a.b&quot; "
