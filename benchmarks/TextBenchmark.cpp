@@ -1,6 +1,7 @@
 // A text of a megabyte and a large table in the text view, each step until it is painted. On a display of its
 // own.
 
+#include "Office.h"
 #include "Times.h"
 #include "Xvfb.h"
 #include "controls/Form.h"
@@ -154,6 +155,14 @@ void MeasureText(int rounds) {
     }
 }
 
+/// LibreOffice starts for each file. What it needs for an empty one is no part of the reading.
+void MeasureOffice(int rounds) {
+    Office office;
+    Print("LibreOffice from start to end, without a window, an empty RTF to plain text",
+          office.ReadAsText("{\\rtf1 }", rounds));
+    Print("LibreOffice: the same with the RTF of 1 MB", office.ReadAsText(doc::WriteRtf(Letter()), rounds));
+}
+
 void MeasureTable(int rounds) {
     Times shown;
     Times key;
@@ -184,5 +193,6 @@ int main(int argc, char** argv) {
     PrintHead();
     MeasureText(rounds);
     MeasureTable(rounds);
+    if (Office::Installed()) MeasureOffice(rounds);
     return 0;
 }
