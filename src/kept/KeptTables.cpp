@@ -121,7 +121,8 @@ public:
     Guard(KeptTables& keeper, const TabContext& tab)
         : keeper_(keeper),
           files_(tab.app.Files()),
-          open_(keeper.Of(tab)),
+          kept_(keeper.Of(tab)),
+          open_(*kept_),
           versions_(files_, keeper.root_),
           path_(files_.FullPath(tab.table.TxtDbFile)) {
         if (!path_.empty() && keeper.PrepareRun()) Begin();
@@ -206,6 +207,7 @@ private:
 
     KeptTables& keeper_;
     FileSystem& files_;
+    std::shared_ptr<OpenTable> kept_; // the tab may close while its table is saved
     OpenTable& open_;
     KeptVersions versions_;
     Text path_;
@@ -239,11 +241,11 @@ Text KeptTables::NewFolder() {
     return app_.Files().Style().JoinPath(run_.folder, NumberText(++lastFolder_));
 }
 
-KeptTables::OpenTable& KeptTables::Of(const TabContext& tab) {
+std::shared_ptr<KeptTables::OpenTable> KeptTables::Of(const TabContext& tab) {
     auto& open = open_[&tab.table];
-    if (open == nullptr) open = std::make_unique<OpenTable>(tab);
+    if (open == nullptr) open = std::make_shared<OpenTable>(tab);
     open->caption = tab.host.TabCaption();
-    return *open;
+    return open;
 }
 
 KeptTables::OpenTable* KeptTables::Find(const TableModel& table) {
@@ -252,7 +254,7 @@ KeptTables::OpenTable* KeptTables::Find(const TableModel& table) {
 }
 
 void KeptTables::CommandBegins(const TabContext& tab) {
-    OpenTable& open = Of(tab);
+    OpenTable& open = *Of(tab);
     ++open.commands;
     Arm(open);
 }
@@ -267,7 +269,7 @@ void KeptTables::CommandEnds(const TabContext& tab) {
 }
 
 void KeptTables::TextTyped(const TabContext& tab) {
-    OpenTable& open = Of(tab);
+    OpenTable& open = *Of(tab);
     if (open.host.Types()) ++open.typed;
     LookAt(open);
     Arm(open);
@@ -461,7 +463,7 @@ void KeptTables::List(const std::vector<UnsavedDraft>& drafts) {
 void KeptTables::Adopt(const TabContext& tab, int number) {
     const auto found = unsavedDrafts_.extract(number);
     if (found.empty()) return;
-    OpenTable& open = Of(tab);
+    OpenTable& open = *Of(tab);
     open.folder = found.mapped().folder;
     open.lastDraft = found.mapped().draft.number;
     open.kept = open.seen = open.Changes();

@@ -46,7 +46,7 @@ private:
     struct Draft;
     using Time = std::chrono::milliseconds;
 
-    OpenTable& Of(const TabContext& tab);
+    std::shared_ptr<OpenTable> Of(const TabContext& tab);
     OpenTable* Find(const TableModel& table);
     /// False when nothing can be kept.
     bool PrepareRun();
@@ -66,7 +66,8 @@ private:
     Text root_;
     RunFolders::Run run_;
     int lastFolder_ = 0;
-    std::map<const TableModel*, std::unique_ptr<OpenTable>> open_;
+    /// A save keeps its table here in use, although the tab may close meanwhile.
+    std::map<const TableModel*, std::shared_ptr<OpenTable>> open_;
     /// By the path of a file, the number of the last save to it.
     std::map<Text, int> lastSaves_;
     int saveCount_ = 0;

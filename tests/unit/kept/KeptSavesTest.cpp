@@ -193,6 +193,16 @@ TEST_F(KeptSaves, ALaterSaveToTheSameFileTakesThePlaceOfAnEarlierOne) {
     EXPECT_THAT(Saved(), HasSubstr("third"));
 }
 
+TEST_F(KeptSaves, ATabThatClosesWhileItsTableIsSavedTakesNothingAlong) {
+    tab->Type(u"second");
+    program.screen.QueueMessage([this] { run.keeper->GiveUp(tab->tab); });
+    tab->Save();
+    run.background.DoAll();
+    EXPECT_THAT(Saved(), HasSubstr("second"));
+    EXPECT_THAT(Versions(), ElementsAre(HasSubstr("first")));
+    EXPECT_THAT(run.Unsaved(), IsEmpty());
+}
+
 TEST_F(KeptSaves, TheSaveIsAsItIsWithoutAKeeper) {
     program.app.SetPort<TableKeeper>(nullptr);
     tab->Type(u"second");
