@@ -2,6 +2,7 @@
 
 #include "document/docx/Docx.h"
 #include "document/docx/DocxParts.h"
+#include "document/model/EastAsian.h"
 #include "document/model/Instruction.h"
 
 #include <algorithm>
@@ -42,15 +43,6 @@ std::optional<std::size_t> SideOf(std::string_view name) {
         {"end", Side::Right}, {"top", Side::Top},    {"bottom", Side::Bottom}};
     const auto* const found = std::ranges::find(kSides, name, &std::pair<std::string_view, Side>::first);
     return found == std::end(kSides) ? std::nullopt : std::optional(static_cast<std::size_t>(found->second));
-}
-
-/// The characters that take the font for East Asia. The last range are the first halves of the rarer ones.
-bool IsEastAsian(char16_t c) {
-    static constexpr std::pair<char16_t, char16_t> kRanges[] = {
-        {0x1100, 0x11FF}, {0x2E80, 0x9FFF}, {0xA960, 0xA97F}, {0xAC00, 0xD7FF},
-        {0xF900, 0xFAFF}, {0xFE30, 0xFE4F}, {0xFF00, 0xFFEF}, {0xD840, 0xD8BF}};
-    return std::ranges::any_of(kRanges,
-                               [c](const auto& range) { return c >= range.first && c <= range.second; });
 }
 
 std::size_t EastAsianStart(TextView text) {

@@ -1,3 +1,4 @@
+#include "document/model/EastAsian.h"
 #include "document/model/Instruction.h"
 #include "document/model/ListTable.h"
 #include "document/model/Pieces.h"
@@ -135,6 +136,12 @@ private:
     std::map<std::int32_t, std::int32_t> numbers_;
 };
 
+bool HasEastAsian(const Document& document) {
+    return std::ranges::any_of(document.paragraphs, [](const Paragraph& paragraph) {
+        return std::ranges::any_of(paragraph.text, IsEastAsian);
+    });
+}
+
 class Writer {
 public:
     Writer(const Document& document, RtfExtent extent, const PieceTaker& take)
@@ -142,6 +149,7 @@ public:
           extent_(extent),
           take_(take),
           lists_(document),
+          eastAsian_(HasEastAsian(document)),
           looks_(document.chars.Size()),
           shapes_(document.paras.Size()) {}
 
@@ -340,9 +348,18 @@ private:
         look_.reset();
     }
 
+    /// Other programs have a font of their own for characters of East Asia.
+    void PutFont(std::string& out, std::uint16_t font) const {
+        if (eastAsian_) {
+            PutWord(out, "\\dbch\\af", font);
+            out += "\\loch";
+        }
+        PutWord(out, "\\f", font);
+    }
+
     std::string LookWords(const CharFormat& look) {
         std::string out = "\\plain";
-        PutWord(out, "\\f", look.font);
+        PutFont(out, look.font);
         PutWord(out, "\\fs", look.halfPoints);
         if (look.bold) out += "\\b";
         if (look.italic) out += "\\i";
@@ -505,6 +522,7 @@ private:
     const PieceTaker& take_;
     ListTable lists_;
     Colours colours_;
+    bool eastAsian_;
     /// The words of the formats that were used so far.
     std::vector<std::string> looks_;
     std::vector<std::string> shapes_;

@@ -11,6 +11,11 @@ bool Writes(const Document& document, std::string_view part) {
     return WriteRtf(document).find(part) != std::string::npos;
 }
 
+TEST(RtfWriter, TheFontIsForCharactersOfEastAsiaToo) {
+    EXPECT_TRUE(Writes(FromPlainText(u"a\u6F22"), "\\plain\\dbch\\af0\\loch\\f0\\fs24"));
+    EXPECT_FALSE(Writes(FromPlainText(u"a\u00E4"), "\\dbch"));
+}
+
 TEST(RtfWriter, AnEmptyDocumentIsAWholeFile) {
     EXPECT_EQ(WriteRtf({}),
               "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n"
