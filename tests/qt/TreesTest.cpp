@@ -282,5 +282,20 @@ TEST_F(TreesTest, IsMeasuredOnceMoreWithAnotherFont) {
     EXPECT_GT(View().visualRect(At(0)).height(), before);
 }
 
+TEST_F(TreesTest, AMeasuredTextIsWiderInALargerFontAndAsWideAsBeforeInTheFirst) {
+    QStyleOptionViewItem option;
+    option.initFrom(&View());
+    option.widget = &View();
+    const auto width = [&](int points) {
+        option.font.setPointSize(points);
+        option.fontMetrics = QFontMetrics(option.font);
+        return View().itemDelegate()->sizeHint(option, At(0)).width();
+    };
+    const int small = width(10);
+    EXPECT_EQ(width(10), small);
+    EXPECT_GT(width(20), small);
+    EXPECT_EQ(width(10), small);
+}
+
 } // namespace
 } // namespace korvane

@@ -2,6 +2,13 @@
 
 namespace korvane {
 
+namespace {
+
+/// More than a tree measures at a time.
+constexpr qsizetype kMostWidths = 4000;
+
+} // namespace
+
 void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                          const QModelIndex& index) const {
     QStyleOptionViewItem item = option;
@@ -9,10 +16,20 @@ void LineDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (!cells_.Paint(*painter, item)) QStyledItemDelegate::paint(painter, option, index);
 }
 
+/// To measure a text takes much longer than to look it up, and a window measures each some times while it
+/// opens.
+int LineDelegate::WidthOf(const QString& text, const QFontMetrics& metrics) const {
+    if (const auto known = widths_.constFind(text); known != widths_.cend()) return *known;
+    if (widths_.size() >= kMostWidths) widths_.clear();
+    return *widths_.insert(text, metrics.horizontalAdvance(text));
+}
+
 QSize LineDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
+    const bool isOtherFont = !frame_.isValid() || font_ != option.font;
+    if (isOtherFont) widths_.clear();
+    const int text = WidthOf(index.data().toString(), option.fontMetrics);
     // All lines of a tree have a picture of the same size and no look of their own.
-    if (!frame_.isValid() || font_ != option.font) {
+    if (isOtherFont) {
         font_ = option.font;
         frame_ = QStyledItemDelegate::sizeHint(option, index) - QSize(text, 0);
     }
