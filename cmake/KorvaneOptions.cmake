@@ -41,6 +41,6 @@ endif()
 # sanitizers find more in the other builds, and don't go together with _FORTIFY_SOURCE.
 if(KORVANE_HARDENING AND NOT WIN32)
     add_compile_options($<$<CONFIG:Release>:-fstack-protector-strong>)
-    add_compile_definitions($<$<CONFIG:Release>:_FORTIFY_SOURCE=2> $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>)
+    add_compile_definitions($<$<CONFIG:Release>:_FORTIFY_SOURCE=2> _GLIBCXX_ASSERTIONS)
     add_link_options($<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
 endif()
