@@ -6,7 +6,7 @@
 #include "Xvfb.h"
 #include "context/App.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "grid/Grid.h"
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/binder/QtFormHost.h"

@@ -6,9 +6,9 @@
 #include "Xvfb.h"
 #include "common/number/Number.h"
 #include "controls/Form.h"
-#include "controls/ListView.h"
-#include "controls/TreeView.h"
 #include "controls/UpdateScope.h"
+#include "controls/lists/ListView.h"
+#include "controls/lists/TreeView.h"
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/binder/QtFormHost.h"
 

@@ -4,7 +4,7 @@
 #include "ThreadTime.h"
 #include "context/App.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "grid/Grid.h"
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"

@@ -6,7 +6,7 @@
 #include "Xvfb.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "document/model/Builder.h"
 #include "document/rtf/Rtf.h"
 #include "platform/qt/text/QtTextView.h"

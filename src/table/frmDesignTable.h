@@ -2,8 +2,8 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListView.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListView.h"
 #include "table/TabContext.h"
 
 namespace korvane {

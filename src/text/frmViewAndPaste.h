@@ -2,10 +2,10 @@
 
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/lists/ListBox.h"
+#include "controls/text/TextControl.h"
 
 #include <array>
 #include <cstdint>

@@ -4,10 +4,10 @@
 #include "controls/DropDown.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ProgressBar.h"
-#include "controls/Slider.h"
-#include "controls/Splitter.h"
 #include "controls/TextBox.h"
+#include "controls/views/ProgressBar.h"
+#include "controls/views/Slider.h"
+#include "controls/views/Splitter.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/binder/QtFormHost.h"
 

@@ -2,9 +2,9 @@
 
 #include "QtSupport.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/ListView.h"
-#include "controls/TreeView.h"
+#include "controls/lists/ListBox.h"
+#include "controls/lists/ListView.h"
+#include "controls/lists/TreeView.h"
 #include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>

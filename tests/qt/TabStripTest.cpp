@@ -1,4 +1,4 @@
-#include "controls/TabStrip.h"
+#include "controls/views/TabStrip.h"
 
 #include "HeardEvents.h"
 #include "QtSupport.h"

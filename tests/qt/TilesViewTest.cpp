@@ -2,7 +2,7 @@
 
 #include "QtSupport.h"
 #include "controls/Form.h"
-#include "controls/Tiles.h"
+#include "controls/lists/Tiles.h"
 #include "platform/qt/binder/QtFormHost.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "context/App.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dbops/windows/frmDelimiterType.h"
 #include "dbops/windows/frmViewCell.h"
 #include "dialogs/frmTxtInfo.h"

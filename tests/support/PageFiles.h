@@ -2,7 +2,7 @@
 
 #include "common/text/CodePage.h"
 #include "context/App.h"
-#include "controls/TextFiles.h"
+#include "controls/text/TextFiles.h"
 #include "document/html/Html.h"
 #include "document/plain/Plain.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/WebView.h"
+#include "controls/views/WebView.h"
 
 #include <memory>
 

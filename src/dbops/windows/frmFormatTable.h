@@ -4,8 +4,8 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 
 namespace korvane {
 

@@ -3,8 +3,8 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 #include "table/TabContext.h"
 
 #include <array>

@@ -3,8 +3,8 @@
 #include "context/ports/PictureFiles.h"
 #include "controls/Form.h"
 #include "controls/Menu.h"
-#include "controls/PictureBox.h"
-#include "controls/Slider.h"
+#include "controls/views/PictureBox.h"
+#include "controls/views/Slider.h"
 
 namespace korvane {
 

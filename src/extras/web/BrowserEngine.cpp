@@ -2,7 +2,7 @@
 
 #include "context/App.h"
 #include "context/ports/WebEngines.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "extras/web/TypedAddress.h"
 
 namespace korvane {

@@ -5,7 +5,7 @@
 #include "common/path/ResolveAddress.h"
 #include "common/path/WebAddress.h"
 #include "context/App.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "extras/web/TypedAddress.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
-#include "controls/WebView.h"
+#include "controls/views/WebView.h"
 #include "extras/web/PageText.h"
 #include "platform/Network.h"
 

@@ -5,8 +5,8 @@
 #include "controls/Label.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
-#include "controls/WebView.h"
+#include "controls/text/TextControl.h"
+#include "controls/views/WebView.h"
 #include "extras/web/BrowserEngine.h"
 
 namespace korvane {

@@ -4,10 +4,10 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
-#include "controls/ListView.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
+#include "controls/lists/ListView.h"
 
 #include <array>
 #include <cstddef>

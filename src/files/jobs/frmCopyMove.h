@@ -4,11 +4,11 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
 #include "controls/Timer.h"
-#include "controls/TreeView.h"
+#include "controls/lists/ListBox.h"
+#include "controls/lists/TreeView.h"
 #include "files/jobs/CopyMoveRun.h"
 #include "files/tree/FolderTree.h"
 

@@ -2,8 +2,8 @@
 
 #include "context/App.h"
 #include "controls/CommandButton.h"
-#include "controls/ListView.h"
-#include "controls/ProgressBar.h"
+#include "controls/lists/ListView.h"
+#include "controls/views/ProgressBar.h"
 #include "platform/Clock.h"
 #include "platform/Screen.h"
 

@@ -1,7 +1,7 @@
 #include "files/lists/FolderEntries.h"
 
 #include "context/App.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "dialogs/Questions.h"
 #include "platform/Shell.h"
 

@@ -2,9 +2,9 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 
 #include <cstdint>
 #include <vector>

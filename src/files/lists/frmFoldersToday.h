@@ -2,9 +2,9 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/GridBox.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
+#include "controls/lists/ListBox.h"
+#include "controls/views/GridBox.h"
 #include "dialogs/CommandBar.h"
 
 #include <cstdint>

@@ -2,8 +2,8 @@
 
 #include "common/text/CaseFold.h"
 #include "controls/Timer.h"
-#include "controls/TreeView.h"
 #include "controls/UpdateScope.h"
+#include "controls/lists/TreeView.h"
 #include "platform/FileSystem.h"
 
 #include <algorithm>

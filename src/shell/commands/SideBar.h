@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/number/Units.h"
-#include "controls/GridBox.h"
+#include "controls/views/GridBox.h"
 #include "dialogs/CommandBar.h"
 #include "shell/commands/CommandCall.h"
 

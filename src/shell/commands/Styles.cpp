@@ -5,8 +5,8 @@
 #include "controls/Form.h"
 #include "controls/Label.h"
 #include "controls/Menu.h"
-#include "controls/TabStrip.h"
-#include "controls/TabStyles.h"
+#include "controls/views/TabStrip.h"
+#include "controls/views/TabStyles.h"
 #include "platform/Screen.h"
 #include "shell/commands/MainParts.h"
 

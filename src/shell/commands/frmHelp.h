@@ -2,8 +2,8 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 #include "shell/commands/HelpSections.h"
 
 #include <vector>

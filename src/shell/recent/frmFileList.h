@@ -3,8 +3,8 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListView.h"
 #include "controls/Menu.h"
+#include "controls/lists/ListView.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 
 #include <cstdint>
 

@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "controls/TabStrip.h"
+#include "controls/views/TabStrip.h"
 #include "grid/Grid.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"

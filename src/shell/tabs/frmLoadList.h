@@ -4,7 +4,7 @@
 #include "controls/Form.h"
 #include "controls/Label.h"
 #include "controls/Menu.h"
-#include "controls/TreeView.h"
+#include "controls/lists/TreeView.h"
 
 namespace korvane {
 

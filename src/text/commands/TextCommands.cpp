@@ -1,7 +1,7 @@
 #include "text/commands/TextCommands.h"
 
 #include "controls/KeyEvent.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 #include <array>

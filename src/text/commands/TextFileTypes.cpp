@@ -1,7 +1,7 @@
 #include "text/commands/TextFileTypes.h"
 
 #include "common/path/PathStyle.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 #include <span>

@@ -1,7 +1,7 @@
 #include "text/control/ControlForm.h"
 
 #include "context/App.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

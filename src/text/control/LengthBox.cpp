@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "common/text/CaseFold.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "text/control/TextControlWindows.h"
 
 #include "context/App.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/control/frmTextInsertTable.h"
 #include "text/control/frmTextList.h"
 #include "text/control/frmTextPage.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TextDialogs.h"
+#include "controls/text/TextDialogs.h"
 #include "text/control/TextSearch.h"
 
 namespace korvane {

@@ -1,7 +1,7 @@
 #include "text/control/frmTextList.h"
 
 #include "common/number/Number.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 

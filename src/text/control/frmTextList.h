@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Buttons.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "document/model/ParaFormat.h"
 #include "text/control/ControlForm.h"
 

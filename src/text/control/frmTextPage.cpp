@@ -1,7 +1,7 @@
 #include "text/control/frmTextPage.h"
 
 #include "common/text/ScopedValue.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "text/control/frmTextParagraph.h"
 
 #include "common/number/Number.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 #include <iterator>

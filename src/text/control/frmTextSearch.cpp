@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 #include "platform/Screen.h"
 

@@ -2,7 +2,7 @@
 
 #include "context/App.h"
 #include "context/ports/ColourPicker.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Label.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "document/model/Table.h"
 #include "text/control/ControlForm.h"
 

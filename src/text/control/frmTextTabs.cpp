@@ -1,6 +1,6 @@
 #include "text/control/frmTextTabs.h"
 
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 
 #include <algorithm>

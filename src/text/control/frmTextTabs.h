@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "document/model/ParaFormat.h"
 #include "text/control/ControlForm.h"
 

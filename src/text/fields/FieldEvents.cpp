@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/exchange/FieldInTransit.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/fields/FieldNotes.h"
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"

@@ -1,6 +1,6 @@
 #include "text/fields/FieldNotes.h"
 
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "document/rtf/Rtf.h"
 
 #include <optional>

@@ -3,7 +3,7 @@
 #include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/exchange/FieldInTransit.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 #include "text/commands/TextCommands.h"
 #include "text/fields/frmShowFieldContents.h"

@@ -6,7 +6,7 @@
 #include "controls/Label.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

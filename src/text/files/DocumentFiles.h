@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/CodePage.h"
-#include "controls/TextFiles.h"
+#include "controls/text/TextFiles.h"
 
 #include <cstdint>
 

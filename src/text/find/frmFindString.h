@@ -2,10 +2,10 @@
 
 #include "controls/Buttons.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/lists/ListBox.h"
+#include "controls/text/TextControl.h"
 #include "text/find/FindPlace.h"
 #include "text/find/FindState.h"
 

@@ -5,7 +5,7 @@
 #include "common/text/Names.h"
 #include "context/App.h"
 #include "context/exchange/FontChoice.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/commands/TextCommands.h"
 #include "text/formats/FontRows.h"
 #include "text/formats/frmQuickNameSize.h"

@@ -3,8 +3,8 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/TextControl.h"
+#include "controls/lists/ListBox.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

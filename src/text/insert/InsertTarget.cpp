@@ -1,7 +1,7 @@
 #include "text/insert/InsertTarget.h"
 
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

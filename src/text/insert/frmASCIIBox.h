@@ -3,8 +3,8 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
-#include "controls/Tiles.h"
+#include "controls/lists/ListBox.h"
+#include "controls/lists/Tiles.h"
 
 namespace korvane {
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "common/number/DateTime.h"
-#include "controls/Calendar.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/Calendar.h"
+#include "controls/lists/ListBox.h"
 
 #include <cstdint>
 #include <vector>

@@ -2,8 +2,8 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "controls/Menu.h"
+#include "controls/lists/ListBox.h"
 
 #include <cstdint>
 #include <string_view>

@@ -2,7 +2,7 @@
 
 #include "controls/Form.h"
 #include "controls/Menu.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

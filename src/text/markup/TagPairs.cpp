@@ -2,7 +2,7 @@
 
 #include "context/App.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 #include "text/markup/MarkupTags.h"
 #include "text/markup/frmHTMLCodes.h"

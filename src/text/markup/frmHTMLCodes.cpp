@@ -4,7 +4,7 @@
 #include "context/WindowFitting.h"
 #include "context/ports/FontPicker.h"
 #include "context/ports/OpenText.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/markup/MarkupConversion.h"
 #include "text/markup/MarkupTags.h"
 

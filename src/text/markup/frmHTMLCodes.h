@@ -4,7 +4,7 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/Label.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 
 namespace korvane {
 

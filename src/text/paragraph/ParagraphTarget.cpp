@@ -3,7 +3,7 @@
 #include "context/App.h"
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/OpenText.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 namespace korvane {
 

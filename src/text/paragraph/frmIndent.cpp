@@ -4,7 +4,7 @@
 #include "context/WindowFitting.h"
 #include "context/exchange/ParagraphChoices.h"
 #include "controls/KeyTable.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/paragraph/ParagraphTarget.h"
 #include "text/paragraph/frmFramesDlg.h"
 #include "text/paragraph/frmParaSpacing.h"

@@ -3,7 +3,7 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 
 namespace korvane {
 

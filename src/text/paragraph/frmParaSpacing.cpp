@@ -5,7 +5,7 @@
 #include "context/WindowFitting.h"
 #include "context/exchange/ParagraphChoices.h"
 #include "controls/KeyTable.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "text/paragraph/ParagraphTarget.h"
 
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "controls/KeyTable.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "dialogs/Questions.h"
 #include "text/paragraph/ParagraphTarget.h"
 

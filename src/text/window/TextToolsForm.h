@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 
 #include <cstdint>
 #include <string_view>

@@ -4,7 +4,7 @@
 #include "controls/CommandButton.h"
 #include "controls/Label.h"
 #include "controls/Menu.h"
-#include "controls/TextBars.h"
+#include "controls/text/TextBars.h"
 #include "text/window/TextToolsForm.h"
 
 #include <cstdint>

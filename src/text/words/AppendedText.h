@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TextFiles.h"
+#include "controls/text/TextFiles.h"
 #include "document/editing/TextEditing.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 #include "text/words/WordRows.h"
 
 #include "common/number/Number.h"
-#include "controls/ListView.h"
 #include "controls/UpdateScope.h"
+#include "controls/lists/ListView.h"
 #include "text/words/WordBuffer.h"
 
 namespace korvane {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/Text.h"
-#include "controls/ListRow.h"
+#include "controls/lists/ListRow.h"
 #include "text/words/WordIndex.h"
 
 #include <vector>

@@ -2,8 +2,8 @@
 
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
-#include "controls/ListView.h"
 #include "controls/Menu.h"
+#include "controls/lists/ListView.h"
 #include "text/words/WordListState.h"
 #include "text/words/WordRows.h"
 

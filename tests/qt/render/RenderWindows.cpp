@@ -2,7 +2,7 @@
 // one in its smallest. It also draws the kinds of message boxes, the styles of the tab strip, and the icons.
 
 #include "context/StandardMessages.h"
-#include "controls/TabStyles.h"
+#include "controls/views/TabStyles.h"
 #include "extras/web/frmWebList.h"
 #include "platform/qt/base/Icons.h"
 #include "platform/qt/base/Palettes.h"

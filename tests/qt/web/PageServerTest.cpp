@@ -3,7 +3,7 @@
 #include "PagesContract.h"
 #include "common/path/ResolveAddress.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "extras/web/PageEngine.h"
 #include "platform/qt/web/QtNetwork.h"
 #include "support/PageFiles.h"

@@ -1,8 +1,8 @@
 // Does any steps of a user and of the program to a text control, and the same to a plain text beside it.
 
 #include "controls/Form.h"
-#include "controls/TextControl.h"
-#include "controls/TextStyles.h"
+#include "controls/text/TextControl.h"
+#include "controls/text/TextStyles.h"
 #include "support/RandomDocument.h"
 #include "support/ScriptedUser.h"
 

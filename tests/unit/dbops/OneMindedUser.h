@@ -5,8 +5,8 @@
 #include "controls/CommandButton.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 #include "platform/MessageBoxes.h"
 
 #include <cstddef>

@@ -5,7 +5,7 @@
 #include "context/ports/SystemFileDialog.h"
 #include "context/ports/TextTools.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/FakeMainWindow.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 #include "controls/Label.h"
 #include "controls/Menu.h"
-#include "controls/Splitter.h"
 #include "controls/Timer.h"
+#include "controls/views/Splitter.h"
 #include "platform/qt/binder/FormBinder.h"
 
 #include <QAbstractButton>

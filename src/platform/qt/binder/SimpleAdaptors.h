@@ -3,10 +3,10 @@
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
 #include "controls/Label.h"
-#include "controls/ProgressBar.h"
-#include "controls/Slider.h"
 #include "controls/Timer.h"
-#include "controls/WebView.h"
+#include "controls/views/ProgressBar.h"
+#include "controls/views/Slider.h"
+#include "controls/views/WebView.h"
 #include "platform/qt/base/ControlAdaptor.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/Splitter.h"
+#include "controls/views/Splitter.h"
 #include "platform/qt/base/ControlAdaptor.h"
 
 #include <QSplitter>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/GridBox.h"
+#include "controls/views/GridBox.h"
 #include "platform/qt/grid/CellLook.h"
 #include "platform/qt/grid/CheckPictures.h"
 #include "platform/qt/grid/DrawCellText.h"

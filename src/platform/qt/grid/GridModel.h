@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/GridBox.h"
+#include "controls/views/GridBox.h"
 
 #include <QAbstractTableModel>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/GridBox.h"
+#include "controls/views/GridBox.h"
 #include "platform/qt/grid/CellDelegate.h"
 #include "platform/qt/grid/GridModel.h"
 #include "platform/qt/grid/GridVoice.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/lists/ListBoxModel.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ListView.h"
+#include "controls/lists/ListView.h"
 #include "platform/qt/lists/ListViewModel.h"
 #include "platform/qt/lists/RowDelegate.h"
 #include "platform/qt/lists/RowsAdaptor.h"

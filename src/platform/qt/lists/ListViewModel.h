@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/ListView.h"
+#include "controls/lists/ListView.h"
 #include "platform/qt/lists/RowIcons.h"
 #include "platform/qt/lists/RowsModel.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/RowsControl.h"
+#include "controls/lists/RowsControl.h"
 #include "platform/qt/lists/ItemsAdaptor.h"
 #include "platform/qt/lists/RowsModel.h"
 

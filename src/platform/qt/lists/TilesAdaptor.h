@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/Tiles.h"
+#include "controls/lists/Tiles.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/lists/TilesView.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/Tiles.h"
+#include "controls/lists/Tiles.h"
 
 #include <QFrame>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TreeView.h"
+#include "controls/lists/TreeView.h"
 #include "platform/qt/lists/ItemsAdaptor.h"
 #include "platform/qt/lists/TreeViewModel.h"
 

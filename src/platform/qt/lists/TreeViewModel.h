@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TreeView.h"
+#include "controls/lists/TreeView.h"
 #include "platform/qt/lists/RowIcons.h"
 
 #include <QAbstractItemModel>

@@ -1,6 +1,6 @@
 #include "platform/qt/net/LoadedWebEngines.h"
 
-#include "controls/WebView.h"
+#include "controls/views/WebView.h"
 
 #include <QCoreApplication>
 #include <QLibrary>

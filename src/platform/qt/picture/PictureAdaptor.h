@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/PictureBox.h"
+#include "controls/views/PictureBox.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/picture/PictureView.h"
 

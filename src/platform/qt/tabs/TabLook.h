@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TabStyles.h"
+#include "controls/views/TabStyles.h"
 
 #include <QColor>
 #include <QPalette>

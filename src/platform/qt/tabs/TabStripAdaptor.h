@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TabStrip.h"
+#include "controls/views/TabStrip.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/base/PageSource.h"
 #include "platform/qt/tabs/TabPages.h"

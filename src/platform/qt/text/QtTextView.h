@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "platform/qt/text/PageMath.h"
 #include "platform/qt/text/ReaderWatch.h"
 #include "platform/qt/text/TextMirror.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/TextBars.h"
+#include "controls/text/TextBars.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/text/TextButtonBarView.h"
 #include "platform/qt/text/TextRulerView.h"

@@ -1,7 +1,7 @@
 #include "platform/qt/text/TextButtonBarView.h"
 
 #include "common/text/Shown.h"
-#include "controls/TextStyles.h"
+#include "controls/text/TextStyles.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/Icons.h"
 

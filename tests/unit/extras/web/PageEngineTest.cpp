@@ -1,7 +1,7 @@
 #include "extras/web/PageEngine.h"
 
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/PageFiles.h"
 #include "support/TestApp.h"
 #include "testing/MemoryNetwork.h"

@@ -1,7 +1,7 @@
 #include "files/lists/FolderEntries.h"
 
 #include "controls/Form.h"
-#include "controls/ListBox.h"
+#include "controls/lists/ListBox.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>

@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "controls/Timer.h"
-#include "controls/TreeView.h"
+#include "controls/lists/TreeView.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>

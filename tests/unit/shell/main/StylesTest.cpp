@@ -1,6 +1,6 @@
 #include "shell/commands/Styles.h"
 
-#include "controls/TabStyles.h"
+#include "controls/views/TabStyles.h"
 #include "shell/main/frmMDIParent.h"
 #include "support/TestApp.h"
 

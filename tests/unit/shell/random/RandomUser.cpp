@@ -2,8 +2,8 @@
 
 #include "controls/Buttons.h"
 #include "controls/CommandButton.h"
-#include "controls/ListBox.h"
 #include "controls/TextBox.h"
+#include "controls/lists/ListBox.h"
 
 namespace korvane {
 

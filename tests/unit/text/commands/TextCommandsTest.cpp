@@ -2,7 +2,7 @@
 
 #include "controls/Form.h"
 #include "controls/KeyEvent.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/ScriptedUser.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "text/commands/TextFileTypes.h"
 
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/ScriptedUser.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/TestApp.h"
 #include "text/control/TextControlWindows.h"
 

@@ -1,6 +1,6 @@
 #include "text/control/LengthBox.h"
 
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "unit/text/control/ControlStage.h"
 
 namespace korvane {

@@ -4,7 +4,7 @@
 #include "context/ports/FileViewer.h"
 #include "context/ports/OpenText.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/FakeSystemFileDialog.h"
 #include "support/FakeViewers.h"
 #include "support/TestApp.h"

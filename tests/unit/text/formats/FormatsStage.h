@@ -4,7 +4,7 @@
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/OpenText.h"
 #include "controls/Form.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/TestApp.h"
 #include "text/formats/FontWindows.h"
 #include "text/formats/frmQuickNameSize.h"

@@ -3,7 +3,7 @@
 #include "context/exchange/InsertChoices.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/TestApp.h"
 #include "text/insert/InsertTarget.h"
 

@@ -2,7 +2,7 @@
 
 #include "controls/Form.h"
 #include "controls/TextBox.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/TestApp.h"
 #include "text/markup/MarkupTags.h"
 #include "text/markup/frmHTMLCodes.h"

@@ -1,7 +1,7 @@
 #include "text/markup/frmHTMLCodes.h"
 
 #include "context/ports/OpenText.h"
-#include "controls/TextControl.h"
+#include "controls/text/TextControl.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
