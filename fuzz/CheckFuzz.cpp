@@ -3,7 +3,7 @@
 #include "tbx/Dump.h"
 #include "tbx/FileCheck.h"
 #include "tbx/TableCheck.h"
-#include "tbx/Workbench.h"
+#include "tbx/base/Workbench.h"
 
 #include <cstdint>
 #include <cstdlib>

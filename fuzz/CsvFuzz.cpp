@@ -1,8 +1,8 @@
 // Takes any bytes as a CSV file. The reader must come to an end, and it must read the same records from what
 // the writer makes of them.
 
-#include "tbx/CsvReader.h"
-#include "tbx/CsvRows.h"
+#include "tbx/formats/CsvReader.h"
+#include "tbx/formats/CsvRows.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,10 +1,10 @@
 #include "tbx/Check.h"
 
 #include "tbx/FileCheck.h"
-#include "tbx/Files.h"
 #include "tbx/TableCheck.h"
-#include "tbx/Verb.h"
-#include "tbx/Workbench.h"
+#include "tbx/base/Files.h"
+#include "tbx/base/Verb.h"
+#include "tbx/base/Workbench.h"
 
 #include <algorithm>
 

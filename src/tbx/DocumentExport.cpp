@@ -2,7 +2,7 @@
 #include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
 #include "table/TableModel.h"
-#include "tbx/LoadedTable.h"
+#include "tbx/base/LoadedTable.h"
 
 #include <limits>
 

@@ -1,9 +1,9 @@
 #include "tbx/Dump.h"
 
 #include "grid/Grid.h"
-#include "tbx/CellText.h"
-#include "tbx/Json.h"
-#include "tbx/LoadedTable.h"
+#include "tbx/base/LoadedTable.h"
+#include "tbx/formats/CellText.h"
+#include "tbx/formats/Json.h"
 
 #include <array>
 #include <string>

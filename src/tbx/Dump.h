@@ -2,7 +2,7 @@
 
 #include "platform/MessageBoxes.h"
 #include "table/TableModel.h"
-#include "tbx/Output.h"
+#include "tbx/base/Output.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
-#include "tbx/CsvRows.h"
-#include "tbx/Files.h"
-#include "tbx/JsonRows.h"
-#include "tbx/LoadedTable.h"
-#include "tbx/TsvRows.h"
+#include "tbx/base/Files.h"
+#include "tbx/base/LoadedTable.h"
+#include "tbx/formats/CsvRows.h"
+#include "tbx/formats/JsonRows.h"
+#include "tbx/formats/TsvRows.h"
 
 namespace korvane {
 

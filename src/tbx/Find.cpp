@@ -1,6 +1,6 @@
 #include "grid/Grid.h"
-#include "tbx/CellText.h"
-#include "tbx/LoadedTable.h"
+#include "tbx/base/LoadedTable.h"
+#include "tbx/formats/CellText.h"
 
 namespace korvane {
 

@@ -1,6 +1,6 @@
 #include "tbx/Help.h"
 
-#include "tbx/ParsedArguments.h"
+#include "tbx/base/ParsedArguments.h"
 
 #include <algorithm>
 

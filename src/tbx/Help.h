@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tbx/Verb.h"
+#include "tbx/base/Verb.h"
 
 #include <string>
 

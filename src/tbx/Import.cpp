@@ -1,8 +1,8 @@
-#include "tbx/CsvTable.h"
-#include "tbx/Files.h"
 #include "tbx/TableCheck.h"
-#include "tbx/Verb.h"
-#include "tbx/Workbench.h"
+#include "tbx/base/Files.h"
+#include "tbx/base/Verb.h"
+#include "tbx/base/Workbench.h"
+#include "tbx/formats/CsvTable.h"
 
 namespace korvane {
 

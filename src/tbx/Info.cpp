@@ -1,8 +1,8 @@
 #include "common/number/DateTime.h"
 #include "common/number/Number.h"
 #include "platform/FileSystem.h"
-#include "tbx/Files.h"
-#include "tbx/LoadedTable.h"
+#include "tbx/base/Files.h"
+#include "tbx/base/LoadedTable.h"
 
 namespace korvane {
 

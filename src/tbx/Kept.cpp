@@ -3,10 +3,10 @@
 #include "kept/KeptVersions.h"
 #include "kept/UnsavedWork.h"
 #include "platform/FileSystem.h"
-#include "tbx/Files.h"
-#include "tbx/TsvRows.h"
-#include "tbx/Verb.h"
-#include "tbx/Workbench.h"
+#include "tbx/base/Files.h"
+#include "tbx/base/Verb.h"
+#include "tbx/base/Workbench.h"
+#include "tbx/formats/TsvRows.h"
 
 #include <algorithm>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tbx/Environment.h"
+#include "tbx/base/Environment.h"
 
 #include <span>
 #include <string>

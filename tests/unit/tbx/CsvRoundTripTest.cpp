@@ -1,6 +1,6 @@
 #include "common/text/CodePage.h"
-#include "tbx/CsvReader.h"
-#include "tbx/CsvRows.h"
+#include "tbx/formats/CsvReader.h"
+#include "tbx/formats/CsvRows.h"
 
 #include <gtest/gtest.h>
 

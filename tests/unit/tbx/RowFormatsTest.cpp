@@ -1,6 +1,6 @@
-#include "tbx/CsvRows.h"
-#include "tbx/JsonRows.h"
-#include "tbx/TsvRows.h"
+#include "tbx/formats/CsvRows.h"
+#include "tbx/formats/JsonRows.h"
+#include "tbx/formats/TsvRows.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "tbx/ParsedArguments.h"
+#include "tbx/base/ParsedArguments.h"
 
 #include <gmock/gmock.h>
 

@@ -1,9 +1,9 @@
-#include "tbx/CsvTable.h"
+#include "tbx/formats/CsvTable.h"
 
 #include "common/number/Number.h"
 #include "common/number/Units.h"
 #include "grid/Grid.h"
-#include "tbx/CsvReader.h"
+#include "tbx/formats/CsvReader.h"
 
 #include <algorithm>
 #include <optional>

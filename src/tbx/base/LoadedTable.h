@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tbx/Verb.h"
-#include "tbx/Workbench.h"
+#include "tbx/base/Verb.h"
+#include "tbx/base/Workbench.h"
 
 #include <memory>
 #include <string>

@@ -1,4 +1,4 @@
-#include "tbx/Files.h"
+#include "tbx/base/Files.h"
 
 #include "platform/FileSystem.h"
 #include "platform/native/NativePath.h"

@@ -2,7 +2,7 @@
 
 #include "common/text/CodePage.h"
 #include "common/text/Text.h"
-#include "tbx/Output.h"
+#include "tbx/base/Output.h"
 
 #include <functional>
 #include <optional>

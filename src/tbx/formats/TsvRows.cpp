@@ -1,4 +1,4 @@
-#include "tbx/TsvRows.h"
+#include "tbx/formats/TsvRows.h"
 
 namespace korvane {
 

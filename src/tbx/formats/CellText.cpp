@@ -1,4 +1,4 @@
-#include "tbx/CellText.h"
+#include "tbx/formats/CellText.h"
 
 #include "grid/Grid.h"
 

@@ -1,4 +1,4 @@
-#include "tbx/CsvReader.h"
+#include "tbx/formats/CsvReader.h"
 
 namespace korvane {
 

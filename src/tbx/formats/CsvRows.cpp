@@ -1,4 +1,4 @@
-#include "tbx/CsvRows.h"
+#include "tbx/formats/CsvRows.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "tbx/JsonRows.h"
+#include "tbx/formats/JsonRows.h"
 
-#include "tbx/Json.h"
+#include "tbx/formats/Json.h"
 
 #include <algorithm>
 

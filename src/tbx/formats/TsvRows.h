@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tbx/RowFormat.h"
+#include "tbx/formats/RowFormat.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "common/text/CodePage.h"
 #include "dbops/rules/TextTable.h"
-#include "tbx/Environment.h"
+#include "tbx/base/Environment.h"
 
 #include <cstddef>
 #include <span>

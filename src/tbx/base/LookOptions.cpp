@@ -1,6 +1,6 @@
-#include "tbx/LookOptions.h"
+#include "tbx/base/LookOptions.h"
 
-#include "tbx/ParsedArguments.h"
+#include "tbx/base/ParsedArguments.h"
 
 #include <algorithm>
 #include <charconv>

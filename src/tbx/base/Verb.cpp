@@ -1,4 +1,4 @@
-#include "tbx/Verb.h"
+#include "tbx/base/Verb.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "tbx/Output.h"
+#include "tbx/base/Output.h"
 
 #include <cerrno>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/text/SharedBytes.h"
-#include "tbx/Environment.h"
+#include "tbx/base/Environment.h"
 
 #include <optional>
 #include <string>

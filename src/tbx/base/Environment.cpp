@@ -1,4 +1,4 @@
-#include "tbx/Environment.h"
+#include "tbx/base/Environment.h"
 
 #include <algorithm>
 

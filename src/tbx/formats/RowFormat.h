@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tbx/CellText.h"
-#include "tbx/Output.h"
+#include "tbx/base/Output.h"
+#include "tbx/formats/CellText.h"
 
 #include <span>
 

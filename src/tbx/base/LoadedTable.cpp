@@ -1,6 +1,6 @@
-#include "tbx/LoadedTable.h"
+#include "tbx/base/LoadedTable.h"
 
-#include "tbx/Files.h"
+#include "tbx/base/Files.h"
 
 namespace korvane {
 

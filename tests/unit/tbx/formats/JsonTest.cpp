@@ -1,4 +1,4 @@
-#include "tbx/Json.h"
+#include "tbx/formats/Json.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tbx/Workbench.h"
+#include "tbx/base/Workbench.h"
 
 #include "platform/FileSystem.h"
 #include "table/TbxReader.h"
