@@ -1,7 +1,7 @@
 #include "app/OwnFiles.h"
 
 #include "platform/native/NativePath.h"
-#include "platform/native/StateFolder.h"
+#include "platform/native/user/StateFolder.h"
 
 namespace korvane {
 

@@ -1,8 +1,8 @@
 #include "platform/native/NativeFileSystem.h"
 #include "platform/native/NativePath.h"
-#include "platform/native/StateFolder.h"
 #include "platform/native/SystemCalls.h"
-#include "platform/native/UserCodePage.h"
+#include "platform/native/user/StateFolder.h"
+#include "platform/native/user/UserCodePage.h"
 #include "tbx/Tbx.h"
 
 #include <array>

@@ -2,8 +2,8 @@
 
 #include "document/pdf/Pdf.h"
 #include "document/rtf/Rtf.h"
-#include "platform/native/ChildProcess.h"
-#include "platform/native/NativeDocumentConverter.h"
+#include "platform/native/process/ChildProcess.h"
+#include "platform/native/process/NativeDocumentConverter.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "common/path/WebAddress.h"
 #include "platform/DesktopTarget.h"
 #include "platform/native/NativePath.h"
-#include "platform/native/Trash.h"
+#include "platform/native/user/Trash.h"
 #include "platform/qt/desktop/ShowingDesktop.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "platform/qt/instance/LocalSocketChannel.h"
 
-#include "platform/native/HandOverProtocol.h"
+#include "platform/native/instance/HandOverProtocol.h"
 #include "platform/qt/instance/SocketConversation.h"
 
 namespace korvane {

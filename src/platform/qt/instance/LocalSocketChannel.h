@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/InstanceChannel.h"
-#include "platform/native/InstancePlace.h"
-#include "platform/native/LocalSocket.h"
+#include "platform/native/instance/InstancePlace.h"
+#include "platform/native/instance/LocalSocket.h"
 
 #include <QSocketNotifier>
 #include <chrono>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/InstanceChannel.h"
-#include "platform/native/HandOverProtocol.h"
-#include "platform/native/LocalSocket.h"
+#include "platform/native/instance/HandOverProtocol.h"
+#include "platform/native/instance/LocalSocket.h"
 
 #include <QObject>
 #include <QSocketNotifier>

@@ -1,7 +1,7 @@
 // Compares the tables of the code pages with those of the system.
 
 #include "common/text/CodePage.h"
-#include "platform/native/UserCodePage.h"
+#include "platform/native/user/UserCodePage.h"
 
 #include <windows.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/native/StateFolder.h"
+#include "platform/native/user/StateFolder.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/native/LocalSocket.h"
+#include "platform/native/instance/LocalSocket.h"
 
 #include <sys/socket.h>
 #include <sys/stat.h>

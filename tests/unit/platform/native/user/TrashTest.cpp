@@ -1,4 +1,4 @@
-#include "platform/native/Trash.h"
+#include "platform/native/user/Trash.h"
 
 #include "support/SmallDisk.h"
 #include "support/TempDir.h"

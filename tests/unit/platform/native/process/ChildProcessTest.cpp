@@ -1,4 +1,4 @@
-#include "platform/native/ChildProcess.h"
+#include "platform/native/process/ChildProcess.h"
 
 #include "support/TempDir.h"
 

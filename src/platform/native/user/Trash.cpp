@@ -1,8 +1,8 @@
-#include "platform/native/Trash.h"
+#include "platform/native/user/Trash.h"
 
 #include "platform/native/FileCopy.h"
-#include "platform/native/StateFolder.h"
 #include "platform/native/SystemFile.h"
+#include "platform/native/user/StateFolder.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "platform/native/NativeDocumentConverter.h"
+#include "platform/native/process/NativeDocumentConverter.h"
 
 #include "support/TempDir.h"
 

@@ -1,4 +1,4 @@
-#include "platform/native/HandOverProtocol.h"
+#include "platform/native/instance/HandOverProtocol.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "platform/native/EndSignals.h"
+#include "platform/native/process/EndSignals.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,8 +1,8 @@
-#include "platform/native/NativeDocumentConverter.h"
+#include "platform/native/process/NativeDocumentConverter.h"
 
 #include "common/text/Text.h"
-#include "platform/native/ChildProcess.h"
 #include "platform/native/ReadFile.h"
+#include "platform/native/process/ChildProcess.h"
 
 #include <unistd.h>
 

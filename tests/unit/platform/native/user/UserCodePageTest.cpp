@@ -1,4 +1,4 @@
-#include "platform/native/UserCodePage.h"
+#include "platform/native/user/UserCodePage.h"
 
 #include <gtest/gtest.h>
 

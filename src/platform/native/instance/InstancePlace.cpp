@@ -1,4 +1,4 @@
-#include "platform/native/InstancePlace.h"
+#include "platform/native/instance/InstancePlace.h"
 
 #include "platform/native/SystemCalls.h"
 
