@@ -6,8 +6,8 @@
 #include "app/StartArguments.h"
 #include "app/SystemParts.h"
 #include "app/Unattended.h"
-#include "platform/qt/base/Palettes.h"
 #include "platform/qt/desktop/FontsAhead.h"
+#include "platform/qt/look/Palettes.h"
 #include "platform/qt/services/QtMessageBoxes.h"
 #include "shell/main/HandOver.h"
 

@@ -2,8 +2,8 @@
 
 #include "Pixels.h"
 #include "QtSupport.h"
-#include "platform/qt/base/Palettes.h"
 #include "platform/qt/grid/CellLook.h"
+#include "platform/qt/look/Palettes.h"
 
 #include <gtest/gtest.h>
 

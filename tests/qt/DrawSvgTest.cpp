@@ -1,7 +1,7 @@
-#include "platform/qt/base/DrawSvg.h"
+#include "platform/qt/look/DrawSvg.h"
 
 #include "SourceTree.h"
-#include "platform/qt/base/SvgPath.h"
+#include "platform/qt/look/SvgPath.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,7 @@ QImage DrawnByPlugin(QByteArray svg, int width) {
 TEST(DrawSvgTest, TheProgramsIconsLookAsQtsOwnReaderDrawsThem) {
     if (!QImageReader::supportedImageFormats().contains("svg"))
         GTEST_SKIP() << "Qt has no reader of SVG here to compare with";
-    const QDir folder(QStringLiteral(KORVANE_SOURCE_DIR) + "/src/platform/qt/base/icons");
+    const QDir folder(QStringLiteral(KORVANE_SOURCE_DIR) + "/src/platform/qt/look/icons");
     const QStringList names = folder.entryList({"*.svg"});
     EXPECT_GT(names.size(), 100);
     for (const QString& name : names) {

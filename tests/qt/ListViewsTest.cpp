@@ -2,7 +2,7 @@
 #include "controls/UpdateScope.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/FinishTyping.h"
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Icons.h"
 
 #include <QAccessible>
 #include <QHeaderView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/base/Contrast.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QHash>
 #include <QImage>

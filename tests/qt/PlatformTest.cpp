@@ -1,7 +1,7 @@
 #include "QtSupport.h"
 #include "common/text/CaseFold.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Palettes.h"
+#include "platform/qt/look/Palettes.h"
 #include "platform/qt/services/QtClipboard.h"
 #include "platform/qt/services/QtFonts.h"
 #include "platform/qt/services/QtMessageBoxes.h"

@@ -4,9 +4,9 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
 #include "controls/TextBox.h"
-#include "platform/qt/base/Palettes.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/grid/CellLook.h"
+#include "platform/qt/look/Palettes.h"
 #include "platform/qt/tabs/TabLook.h"
 #include "platform/qt/tabs/TabPages.h"
 

@@ -2,9 +2,9 @@
 
 #include "BoundWindow.h"
 #include "Pixels.h"
-#include "platform/qt/base/Palettes.h"
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/grid/GridView.h"
+#include "platform/qt/look/Palettes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Icons.h"
 
 #include "QtSupport.h"
-#include "platform/qt/base/Palettes.h"
+#include "platform/qt/look/Palettes.h"
 
 #include <gtest/gtest.h>
 

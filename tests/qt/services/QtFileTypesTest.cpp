@@ -1,7 +1,7 @@
 #include "platform/qt/services/QtFileTypes.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Icons.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>

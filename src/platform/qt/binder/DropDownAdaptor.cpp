@@ -1,7 +1,7 @@
 #include "platform/qt/binder/DropDownAdaptor.h"
 
-#include "platform/qt/base/BackColour.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/BackColour.h"
 
 #include <QLineEdit>
 

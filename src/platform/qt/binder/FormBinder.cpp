@@ -1,6 +1,5 @@
 #include "platform/qt/binder/FormBinder.h"
 
-#include "platform/qt/base/Icons.h"
 #include "platform/qt/binder/DeskCover.h"
 #include "platform/qt/binder/DropDownAdaptor.h"
 #include "platform/qt/binder/MenuAdaptor.h"
@@ -14,6 +13,7 @@
 #include "platform/qt/lists/ListViewAdaptor.h"
 #include "platform/qt/lists/TilesAdaptor.h"
 #include "platform/qt/lists/TreeViewAdaptor.h"
+#include "platform/qt/look/Icons.h"
 #include "platform/qt/picture/PictureAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
 #include "platform/qt/text/TextBarAdaptors.h"

@@ -1,6 +1,6 @@
 #include "platform/qt/binder/ScrollBarLook.h"
 
-#include "platform/qt/base/Contrast.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QPainter>
 #include <QStyle>

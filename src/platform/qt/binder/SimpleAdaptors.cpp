@@ -1,8 +1,8 @@
 #include "platform/qt/binder/SimpleAdaptors.h"
 
-#include "platform/qt/base/BackColour.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/FinishTyping.h"
+#include "platform/qt/look/BackColour.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

@@ -1,10 +1,10 @@
 #include "platform/qt/binder/TextAdaptors.h"
 
-#include "platform/qt/base/BackColour.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/DenseLines.h"
 #include "platform/qt/base/DocumentText.h"
 #include "platform/qt/base/EditingKeys.h"
+#include "platform/qt/look/BackColour.h"
+#include "platform/qt/look/DenseLines.h"
 
 #include <QScopedValueRollback>
 #include <QTextDocument>

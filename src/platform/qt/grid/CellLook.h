@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
-#include "platform/qt/base/Contrast.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QColor>
 #include <QPalette>

@@ -1,8 +1,8 @@
 #include "platform/qt/grid/SideBarView.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Icons.h"
 #include "platform/qt/grid/CellLook.h"
+#include "platform/qt/look/Icons.h"
 
 #include <QHeaderView>
 #include <QPainter>

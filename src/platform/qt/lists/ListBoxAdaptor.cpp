@@ -1,9 +1,9 @@
 #include "platform/qt/lists/ListBoxAdaptor.h"
 
-#include "platform/qt/base/BackColour.h"
-#include "platform/qt/base/Contrast.h"
-#include "platform/qt/base/DenseLines.h"
 #include "platform/qt/lists/ListBoxModel.h"
+#include "platform/qt/look/BackColour.h"
+#include "platform/qt/look/Contrast.h"
+#include "platform/qt/look/DenseLines.h"
 
 #include <QApplication>
 

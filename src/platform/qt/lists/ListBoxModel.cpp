@@ -1,8 +1,8 @@
 #include "platform/qt/lists/ListBoxModel.h"
 
 #include "common/text/Shown.h"
-#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QApplication>
 #include <QFontDatabase>

@@ -1,8 +1,8 @@
 #include "platform/qt/lists/ListViewAdaptor.h"
 
-#include "platform/qt/base/BackColour.h"
-#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/BackColour.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QApplication>
 #include <QHeaderView>

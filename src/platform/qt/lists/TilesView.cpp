@@ -1,9 +1,9 @@
 #include "platform/qt/lists/TilesView.h"
 
-#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/lists/GlyphTexts.h"
 #include "platform/qt/lists/TilesAccess.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <QAccessible>
 #include <QMouseEvent>

@@ -1,7 +1,7 @@
 #include "platform/qt/lists/TreeViewModel.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Icons.h"
 
 namespace korvane {
 

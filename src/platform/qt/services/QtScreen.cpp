@@ -1,7 +1,7 @@
 #include "platform/qt/services/QtScreen.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Palettes.h"
+#include "platform/qt/look/Palettes.h"
 
 #include <QCursor>
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "platform/qt/tabs/TabBar.h"
 
-#include "platform/qt/base/Contrast.h"
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Contrast.h"
+#include "platform/qt/look/Icons.h"
 #include "platform/qt/tabs/TabAccess.h"
 #include "platform/qt/tabs/TabLook.h"
 

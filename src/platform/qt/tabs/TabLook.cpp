@@ -1,8 +1,8 @@
 #include "platform/qt/tabs/TabLook.h"
 
-#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Palettes.h"
+#include "platform/qt/look/Contrast.h"
+#include "platform/qt/look/Palettes.h"
 
 namespace korvane {
 

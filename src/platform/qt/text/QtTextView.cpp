@@ -1,8 +1,8 @@
 #include "platform/qt/text/QtTextView.h"
 
 #include "document/store/MemoryTextStore.h"
-#include "platform/qt/base/Contrast.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/Contrast.h"
 #include "platform/qt/text/BlockSearch.h"
 #include "platform/qt/text/TextAccessible.h"
 #include "platform/qt/text/TextItem.h"

@@ -3,7 +3,7 @@
 #include "common/text/Shown.h"
 #include "controls/text/TextStyles.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/base/Icons.h"
+#include "platform/qt/look/Icons.h"
 
 #include <QFontDatabase>
 #include <QLineEdit>

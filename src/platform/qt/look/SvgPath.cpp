@@ -1,4 +1,4 @@
-#include "platform/qt/base/SvgPath.h"
+#include "platform/qt/look/SvgPath.h"
 
 #include <QByteArray>
 #include <QPointF>

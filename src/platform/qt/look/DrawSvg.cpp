@@ -1,6 +1,6 @@
-#include "platform/qt/base/DrawSvg.h"
+#include "platform/qt/look/DrawSvg.h"
 
-#include "platform/qt/base/SvgPath.h"
+#include "platform/qt/look/SvgPath.h"
 
 #include <QBrush>
 #include <QHash>

@@ -1,4 +1,4 @@
-#include "platform/qt/base/Contrast.h"
+#include "platform/qt/look/Contrast.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "platform/qt/base/DesktopPrefersDark.h"
+#include "platform/qt/look/DesktopPrefersDark.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

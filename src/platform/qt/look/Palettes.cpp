@@ -1,6 +1,6 @@
-#include "platform/qt/base/Palettes.h"
+#include "platform/qt/look/Palettes.h"
 
-#include "platform/qt/base/DesktopPrefersDark.h"
+#include "platform/qt/look/DesktopPrefersDark.h"
 
 #include <QGuiApplication>
 
