@@ -1,4 +1,4 @@
-#include "platform/qt/lists/TilesView.h"
+#include "platform/qt/tiles/TilesView.h"
 
 #include "QtSupport.h"
 #include "controls/Form.h"

@@ -1,11 +1,11 @@
 #include "platform/qt/binder/CalmStyle.h"
 
 #include "platform/qt/binder/ScrollBarLook.h"
-#include "platform/qt/lists/TilesView.h"
 #include "platform/qt/look/Contrast.h"
 #include "platform/qt/look/Icons.h"
 #include "platform/qt/look/Palettes.h"
 #include "platform/qt/tabs/TabBar.h"
+#include "platform/qt/tiles/TilesView.h"
 
 #include <QAbstractScrollArea>
 #include <QLabel>

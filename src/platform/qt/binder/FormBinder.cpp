@@ -7,17 +7,17 @@
 #include "platform/qt/binder/SplitterAdaptor.h"
 #include "platform/qt/binder/TextAdaptors.h"
 #include "platform/qt/binder/ToolBarKeys.h"
+#include "platform/qt/combos/ComboBoxAdaptor.h"
 #include "platform/qt/grid/GridAdaptor.h"
-#include "platform/qt/lists/ComboBoxAdaptor.h"
 #include "platform/qt/lists/ListBoxAdaptor.h"
 #include "platform/qt/lists/ListViewAdaptor.h"
-#include "platform/qt/lists/TilesAdaptor.h"
-#include "platform/qt/lists/TreeViewAdaptor.h"
 #include "platform/qt/look/Icons.h"
 #include "platform/qt/picture/PictureAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
 #include "platform/qt/text/TextBarAdaptors.h"
 #include "platform/qt/text/TextControlAdaptor.h"
+#include "platform/qt/tiles/TilesAdaptor.h"
+#include "platform/qt/trees/TreeViewAdaptor.h"
 
 #include <QToolBar>
 

@@ -2,7 +2,7 @@
 
 #include "controls/lists/Tiles.h"
 #include "platform/qt/base/ControlAdaptor.h"
-#include "platform/qt/lists/TilesView.h"
+#include "platform/qt/tiles/TilesView.h"
 
 namespace korvane {
 

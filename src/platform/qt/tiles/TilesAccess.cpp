@@ -1,7 +1,7 @@
-#include "platform/qt/lists/TilesAccess.h"
+#include "platform/qt/tiles/TilesAccess.h"
 
 #include "platform/qt/base/SpokenPart.h"
-#include "platform/qt/lists/TilesView.h"
+#include "platform/qt/tiles/TilesView.h"
 
 #include <QPointer>
 #include <QWindow>

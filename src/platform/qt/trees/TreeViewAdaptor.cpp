@@ -1,6 +1,6 @@
-#include "platform/qt/lists/TreeViewAdaptor.h"
+#include "platform/qt/trees/TreeViewAdaptor.h"
 
-#include "platform/qt/lists/LineDelegate.h"
+#include "platform/qt/trees/LineDelegate.h"
 
 #include <QEvent>
 #include <QHeaderView>

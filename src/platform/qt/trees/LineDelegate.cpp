@@ -1,4 +1,4 @@
-#include "platform/qt/lists/LineDelegate.h"
+#include "platform/qt/trees/LineDelegate.h"
 
 namespace korvane {
 

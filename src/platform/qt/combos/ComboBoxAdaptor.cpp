@@ -1,4 +1,4 @@
-#include "platform/qt/lists/ComboBoxAdaptor.h"
+#include "platform/qt/combos/ComboBoxAdaptor.h"
 
 #include <QScopedValueRollback>
 

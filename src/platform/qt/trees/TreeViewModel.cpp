@@ -1,4 +1,4 @@
-#include "platform/qt/lists/TreeViewModel.h"
+#include "platform/qt/trees/TreeViewModel.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/look/Icons.h"

@@ -1,9 +1,9 @@
-#include "platform/qt/lists/TilesView.h"
+#include "platform/qt/tiles/TilesView.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/lists/GlyphTexts.h"
-#include "platform/qt/lists/TilesAccess.h"
 #include "platform/qt/look/Contrast.h"
+#include "platform/qt/tiles/GlyphTexts.h"
+#include "platform/qt/tiles/TilesAccess.h"
 
 #include <QAccessible>
 #include <QMouseEvent>

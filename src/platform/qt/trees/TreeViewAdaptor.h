@@ -2,7 +2,7 @@
 
 #include "controls/lists/TreeView.h"
 #include "platform/qt/lists/ItemsAdaptor.h"
-#include "platform/qt/lists/TreeViewModel.h"
+#include "platform/qt/trees/TreeViewModel.h"
 
 #include <QPersistentModelIndex>
 #include <QTreeView>

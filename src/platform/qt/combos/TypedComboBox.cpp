@@ -1,4 +1,4 @@
-#include "platform/qt/lists/TypedComboBox.h"
+#include "platform/qt/combos/TypedComboBox.h"
 
 #include <QLineEdit>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/lists/SteadyComboBox.h"
+#include "platform/qt/combos/SteadyComboBox.h"
 
 #include <QStyleOptionComboBox>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/lists/TilesAdaptor.h"
+#include "platform/qt/tiles/TilesAdaptor.h"
 
 namespace korvane {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/lists/GlyphTexts.h"
+#include "platform/qt/tiles/GlyphTexts.h"
 
 #include <QPainter>
 #include <QVarLengthArray>
