@@ -1,7 +1,7 @@
 #include "QtSupport.h"
 #include "controls/Form.h"
-#include "platform/qt/text/TextBarAdaptors.h"
 #include "platform/qt/text/TextControlAdaptor.h"
+#include "platform/qt/textbars/TextBarAdaptors.h"
 #include "support/ScriptedUser.h"
 
 #include <gtest/gtest.h>

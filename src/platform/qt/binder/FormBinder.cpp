@@ -14,8 +14,8 @@
 #include "platform/qt/look/Icons.h"
 #include "platform/qt/picture/PictureAdaptor.h"
 #include "platform/qt/tabs/TabStripAdaptor.h"
-#include "platform/qt/text/TextBarAdaptors.h"
 #include "platform/qt/text/TextControlAdaptor.h"
+#include "platform/qt/textbars/TextBarAdaptors.h"
 #include "platform/qt/tiles/TilesAdaptor.h"
 #include "platform/qt/trees/TreeViewAdaptor.h"
 

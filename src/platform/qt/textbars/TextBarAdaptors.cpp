@@ -1,4 +1,4 @@
-#include "platform/qt/text/TextBarAdaptors.h"
+#include "platform/qt/textbars/TextBarAdaptors.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/text/QtTextView.h"

@@ -1,4 +1,4 @@
-#include "platform/qt/text/TextButtonBarView.h"
+#include "platform/qt/textbars/TextButtonBarView.h"
 
 #include "common/text/Shown.h"
 #include "controls/text/TextStyles.h"

@@ -1,4 +1,4 @@
-#include "platform/qt/text/TextRulerView.h"
+#include "platform/qt/textbars/TextRulerView.h"
 
 #include "document/editing/TextEditing.h"
 

@@ -2,8 +2,8 @@
 
 #include "controls/text/TextBars.h"
 #include "platform/qt/base/ControlAdaptor.h"
-#include "platform/qt/text/TextButtonBarView.h"
-#include "platform/qt/text/TextRulerView.h"
+#include "platform/qt/textbars/TextButtonBarView.h"
+#include "platform/qt/textbars/TextRulerView.h"
 
 #include <QLabel>
 
