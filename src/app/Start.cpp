@@ -7,8 +7,8 @@
 #include "app/SystemParts.h"
 #include "app/Unattended.h"
 #include "platform/qt/desktop/FontsAhead.h"
+#include "platform/qt/dialogs/QtMessageBoxes.h"
 #include "platform/qt/look/Palettes.h"
-#include "platform/qt/services/QtMessageBoxes.h"
 #include "shell/main/HandOver.h"
 
 #include <utility>

@@ -1,9 +1,9 @@
-#include "platform/qt/services/ChoosingDialog.h"
+#include "platform/qt/dialogs/ChoosingDialog.h"
 
 #include "SourceTree.h"
 #include "context/ports/SystemFileDialog.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/services/QtSystemFileDialog.h"
+#include "platform/qt/dialogs/QtSystemFileDialog.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

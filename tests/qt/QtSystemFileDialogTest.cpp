@@ -1,8 +1,8 @@
-#include "platform/qt/services/QtSystemFileDialog.h"
+#include "platform/qt/dialogs/QtSystemFileDialog.h"
 
 #include "QtSupport.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/services/FileDialogFilters.h"
+#include "platform/qt/dialogs/FileDialogFilters.h"
 
 #include <gtest/gtest.h>
 

@@ -5,9 +5,9 @@
 #include "controls/views/TabStyles.h"
 #include "extras/web/frmWebList.h"
 #include "platform/qt/binder/CalmStyle.h"
+#include "platform/qt/dialogs/QtMessageBoxes.h"
 #include "platform/qt/look/Icons.h"
 #include "platform/qt/look/Palettes.h"
-#include "platform/qt/services/QtMessageBoxes.h"
 #include "platform/qt/tabs/TabPages.h"
 #include "render/Stage.h"
 

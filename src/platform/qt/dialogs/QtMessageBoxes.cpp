@@ -1,4 +1,4 @@
-#include "platform/qt/services/QtMessageBoxes.h"
+#include "platform/qt/dialogs/QtMessageBoxes.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/DialogParent.h"

@@ -1,4 +1,4 @@
-#include "platform/qt/services/ChoosingDialog.h"
+#include "platform/qt/dialogs/ChoosingDialog.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/DialogParent.h"

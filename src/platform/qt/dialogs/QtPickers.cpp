@@ -1,4 +1,4 @@
-#include "platform/qt/services/QtPickers.h"
+#include "platform/qt/dialogs/QtPickers.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/DialogParent.h"

@@ -1,8 +1,8 @@
-#include "platform/qt/services/QtSystemFileDialog.h"
+#include "platform/qt/dialogs/QtSystemFileDialog.h"
 
 #include "platform/qt/base/Convert.h"
-#include "platform/qt/services/ChoosingDialog.h"
-#include "platform/qt/services/FileDialogFilters.h"
+#include "platform/qt/dialogs/ChoosingDialog.h"
+#include "platform/qt/dialogs/FileDialogFilters.h"
 
 #include <QDir>
 #include <QFileInfo>

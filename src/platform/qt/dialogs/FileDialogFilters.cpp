@@ -1,4 +1,4 @@
-#include "platform/qt/services/FileDialogFilters.h"
+#include "platform/qt/dialogs/FileDialogFilters.h"
 
 #include "platform/qt/base/Convert.h"
 
