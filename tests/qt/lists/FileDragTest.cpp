@@ -1,7 +1,7 @@
 // Rows that stand for files are dragged to other programs.
 
 #include "ListsFixture.h"
-#include "platform/qt/binder/DroppedFiles.h"
+#include "platform/qt/adaptors/DroppedFiles.h"
 
 #include <QMimeData>
 #include <QUrl>

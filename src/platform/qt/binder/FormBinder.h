@@ -1,9 +1,9 @@
 #pragma once
 
 #include "controls/Form.h"
+#include "platform/qt/adaptors/WindowAdaptor.h"
 #include "platform/qt/base/ControlAdaptor.h"
 #include "platform/qt/base/PageSource.h"
-#include "platform/qt/binder/WindowAdaptor.h"
 
 #include <QPointer>
 #include <QWidget>

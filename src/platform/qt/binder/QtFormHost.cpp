@@ -1,8 +1,8 @@
 #include "platform/qt/binder/QtFormHost.h"
 
 #include "controls/Form.h"
+#include "platform/qt/adaptors/MenuAdaptor.h"
 #include "platform/qt/base/PopupPlace.h"
-#include "platform/qt/binder/MenuAdaptor.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "platform/qt/binder/DropDownAdaptor.h"
+#include "platform/qt/adaptors/DropDownAdaptor.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/look/BackColour.h"

@@ -1,10 +1,10 @@
-#include "platform/qt/binder/WindowAdaptor.h"
+#include "platform/qt/adaptors/WindowAdaptor.h"
 
 #include "controls/CommandButton.h"
+#include "platform/qt/adaptors/DroppedFiles.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/FinishTyping.h"
 #include "platform/qt/base/Keys.h"
-#include "platform/qt/binder/DroppedFiles.h"
 
 #include <QCloseEvent>
 #include <QDialog>

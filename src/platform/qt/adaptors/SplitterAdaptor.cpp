@@ -1,4 +1,4 @@
-#include "platform/qt/binder/SplitterAdaptor.h"
+#include "platform/qt/adaptors/SplitterAdaptor.h"
 
 #include <QEvent>
 #include <algorithm>

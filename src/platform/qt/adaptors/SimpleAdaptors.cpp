@@ -1,4 +1,4 @@
-#include "platform/qt/binder/SimpleAdaptors.h"
+#include "platform/qt/adaptors/SimpleAdaptors.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/FinishTyping.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/Form.h"
-#include "platform/qt/binder/KeyHold.h"
+#include "platform/qt/adaptors/KeyHold.h"
 
 #include <QObject>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "platform/qt/binder/TextAdaptors.h"
+#include "platform/qt/adaptors/TextAdaptors.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/DocumentText.h"

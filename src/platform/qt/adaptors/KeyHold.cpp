@@ -1,4 +1,4 @@
-#include "platform/qt/binder/KeyHold.h"
+#include "platform/qt/adaptors/KeyHold.h"
 
 #include <QAbstractButton>
 #include <QApplication>

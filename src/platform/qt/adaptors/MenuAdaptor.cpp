@@ -1,4 +1,4 @@
-#include "platform/qt/binder/MenuAdaptor.h"
+#include "platform/qt/adaptors/MenuAdaptor.h"
 
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/base/EditingKeys.h"

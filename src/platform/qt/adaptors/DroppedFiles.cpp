@@ -1,4 +1,4 @@
-#include "platform/qt/binder/DroppedFiles.h"
+#include "platform/qt/adaptors/DroppedFiles.h"
 
 #include "platform/qt/base/Convert.h"
 
