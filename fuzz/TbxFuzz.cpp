@@ -6,10 +6,10 @@
 #include "grid/GridStore.h"
 #include "platform/FileSystem.h"
 #include "support/PlainTbxReader.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
-#include "table/TbxReader.h"
-#include "table/TbxWriter.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
+#include "table/model/TbxReader.h"
+#include "table/model/TbxWriter.h"
 
 #include <cstdint>
 #include <memory>

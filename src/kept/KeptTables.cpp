@@ -8,9 +8,9 @@
 #include "platform/Background.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
-#include "table/TbxWriter.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
+#include "table/model/TbxWriter.h"
 
 #include <algorithm>
 #include <optional>

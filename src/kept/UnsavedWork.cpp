@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "platform/FileSystem.h"
-#include "table/TbxFormat.h"
+#include "table/model/TbxFormat.h"
 
 #include <algorithm>
 #include <string>

@@ -3,12 +3,12 @@
 #include "context/App.h"
 #include "grid/Grid.h"
 #include "grid/GridUpdate.h"
-#include "table/NewTable.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
 #include "table/frmDesignTable.h"
+#include "table/model/NewTable.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

@@ -8,12 +8,12 @@
 #include "platform/Clipboard.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
-#include "table/NewTable.h"
 #include "table/SaveCommands.h"
 #include "table/TabContext.h"
-#include "table/TabbedText.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/NewTable.h"
+#include "table/model/TabbedText.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

@@ -10,9 +10,9 @@
 #include "platform/MessageBoxes.h"
 #include "table/TabContext.h"
 #include "table/TableFile.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
 #include "table/frmTxtDbInfo.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

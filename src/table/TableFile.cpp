@@ -8,14 +8,14 @@
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
-#include "table/NewTable.h"
 #include "table/TabContext.h"
-#include "table/TableHistory.h"
-#include "table/TableHost.h"
 #include "table/TableKeeper.h"
-#include "table/TableModel.h"
-#include "table/TbxReader.h"
-#include "table/TbxWriter.h"
+#include "table/model/NewTable.h"
+#include "table/model/TableHistory.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
+#include "table/model/TbxReader.h"
+#include "table/model/TbxWriter.h"
 
 #include <chrono>
 

@@ -5,7 +5,7 @@
 #include "controls/KeyTable.h"
 #include "controls/UpdateScope.h"
 #include "platform/MessageBoxes.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <utility>
 #include <vector>

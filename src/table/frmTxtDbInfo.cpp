@@ -7,7 +7,7 @@
 #include "platform/FileSystem.h"
 #include "platform/UserLocale.h"
 #include "table/SaveCommands.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

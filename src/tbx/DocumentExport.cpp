@@ -1,7 +1,7 @@
 #include "document/docx/Docx.h"
 #include "document/html/Html.h"
 #include "document/rtf/Rtf.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 #include "tbx/base/LoadedTable.h"
 
 #include <limits>

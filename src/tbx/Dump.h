@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/MessageBoxes.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 #include "tbx/base/Output.h"
 
 #include <vector>

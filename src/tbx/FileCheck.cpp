@@ -1,7 +1,7 @@
 #include "tbx/FileCheck.h"
 
-#include "table/TbxFormat.h"
-#include "table/TbxLines.h"
+#include "table/model/TbxFormat.h"
+#include "table/model/TbxLines.h"
 #include "tbx/SavedValues.h"
 
 #include <algorithm>

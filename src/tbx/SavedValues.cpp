@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "common/number/Units.h"
-#include "table/TbxFormat.h"
+#include "table/model/TbxFormat.h"
 
 #include <cstdint>
 

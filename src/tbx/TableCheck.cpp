@@ -2,7 +2,7 @@
 
 #include "common/text/CodePage.h"
 #include "grid/Grid.h"
-#include "table/TbxFormat.h"
+#include "table/model/TbxFormat.h"
 
 #include <array>
 #include <string>

@@ -9,8 +9,8 @@
 #include "shell/recent/RecentRecord.h"
 #include "support/TempDir.h"
 #include "support/TestTable.h"
-#include "table/TbxReader.h"
-#include "table/TbxWriter.h"
+#include "table/model/TbxReader.h"
+#include "table/model/TbxWriter.h"
 
 #include <gtest/gtest.h>
 

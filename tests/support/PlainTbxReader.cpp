@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "common/text/CodePage.h"
 #include "grid/Grid.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <cmath>
 #include <cstdint>

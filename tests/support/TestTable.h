@@ -4,8 +4,8 @@
 #include "grid/GridStore.h"
 #include "support/TestApp.h"
 #include "table/TabContext.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 #include <cstdint>
 #include <vector>

@@ -9,8 +9,8 @@
 #include "grid/GridUpdate.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 #include <algorithm>
 

@@ -9,7 +9,7 @@
 #include "dbops/windows/frmChooseRange.h"
 #include "dialogs/Questions.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <cmath>
 

@@ -10,7 +10,7 @@
 #include "dbops/windows/frmDelimiterType.h"
 #include "dialogs/Questions.h"
 #include "platform/Clipboard.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <algorithm>
 #include <utility>

@@ -10,7 +10,7 @@
 #include "platform/Screen.h"
 #include "platform/Spreadsheet.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <optional>
 

@@ -9,7 +9,7 @@
 #include "grid/GridUpdate.h"
 #include "platform/Screen.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <utility>
 #include <vector>

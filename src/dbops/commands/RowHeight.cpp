@@ -6,8 +6,8 @@
 #include "dialogs/Questions.h"
 #include "grid/GridUpdate.h"
 #include "table/TabContext.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

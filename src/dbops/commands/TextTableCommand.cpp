@@ -10,7 +10,7 @@
 #include "dialogs/Questions.h"
 #include "document/rtf/Rtf.h"
 #include "platform/Screen.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <optional>
 

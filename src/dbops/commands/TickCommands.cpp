@@ -5,7 +5,7 @@
 #include "dialogs/Questions.h"
 #include "grid/GridUpdate.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

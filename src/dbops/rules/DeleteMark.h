@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
-#include "table/TbxFormat.h"
+#include "table/model/TbxFormat.h"
 
 namespace korvane {
 

@@ -2,7 +2,7 @@
 
 #include "grid/Grid.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

@@ -1,6 +1,6 @@
 #include "dbops/rules/Rows.h"
 
-#include "table/NewTable.h"
+#include "table/model/NewTable.h"
 
 namespace korvane {
 

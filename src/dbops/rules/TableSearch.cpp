@@ -5,7 +5,7 @@
 #include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
 #include "table/TabContext.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

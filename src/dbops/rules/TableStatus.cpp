@@ -3,7 +3,7 @@
 #include "common/number/DateTime.h"
 #include "common/number/Number.h"
 #include "dbops/rules/Rows.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

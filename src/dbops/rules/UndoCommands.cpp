@@ -1,7 +1,7 @@
 #include "dbops/rules/UndoCommands.h"
 
 #include "table/TabContext.h"
-#include "table/TableHistory.h"
+#include "table/model/TableHistory.h"
 
 namespace korvane {
 

@@ -3,7 +3,7 @@
 #include "common/number/Number.h"
 #include "context/App.h"
 #include "context/exchange/DelimiterChoice.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

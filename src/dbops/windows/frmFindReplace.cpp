@@ -6,7 +6,7 @@
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

@@ -2,7 +2,7 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

@@ -13,7 +13,7 @@
 #include "dialogs/Questions.h"
 #include "grid/Grid.h"
 #include "platform/Clipboard.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

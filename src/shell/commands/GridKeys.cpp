@@ -16,7 +16,7 @@
 #include "shell/tabs/Tabs.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "table/SaveCommands.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 namespace korvane {
 

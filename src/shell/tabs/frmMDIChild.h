@@ -8,9 +8,9 @@
 #include "controls/views/Slider.h"
 #include "controls/views/TabStrip.h"
 #include "table/TabContext.h"
-#include "table/TableHistory.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHistory.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 #include <cstdint>
 #include <functional>

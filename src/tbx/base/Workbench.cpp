@@ -1,8 +1,8 @@
 #include "tbx/base/Workbench.h"
 
 #include "platform/FileSystem.h"
-#include "table/TbxReader.h"
-#include "table/TbxWriter.h"
+#include "table/model/TbxReader.h"
+#include "table/model/TbxWriter.h"
 
 namespace korvane {
 

@@ -2,8 +2,8 @@
 
 #include "grid/GridStore.h"
 #include "platform/MessageBoxes.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 #include <string>
 #include <vector>

@@ -3,8 +3,8 @@
 #include "grid/GridStore.h"
 #include "support/TestApp.h"
 #include "table/TabContext.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
 
 #include <initializer_list>
 #include <vector>

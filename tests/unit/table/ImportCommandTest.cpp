@@ -5,8 +5,8 @@
 #include "support/TableBytes.h"
 #include "support/TestTable.h"
 #include "table/SaveCommands.h"
-#include "table/TabbedText.h"
 #include "table/TableFile.h"
+#include "table/model/TabbedText.h"
 #include "unit/table/GridWatch.h"
 
 #include <gtest/gtest.h>

@@ -2,8 +2,8 @@
 
 #include "common/number/Number.h"
 #include "support/TestTable.h"
-#include "table/TbxReader.h"
-#include "table/TbxWriter.h"
+#include "table/model/TbxReader.h"
+#include "table/model/TbxWriter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "table/TabbedText.h"
+#include "table/model/TabbedText.h"
 
 #include "grid/Grid.h"
-#include "table/NewTable.h"
+#include "table/model/NewTable.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "table/TableHistory.h"
+#include "table/model/TableHistory.h"
 
 #include "grid/Grid.h"
-#include "table/TableHost.h"
+#include "table/model/TableHost.h"
 
 #include <exception>
 #include <utility>

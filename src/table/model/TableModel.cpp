@@ -1,4 +1,4 @@
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include "common/number/Number.h"
 

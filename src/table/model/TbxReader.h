@@ -3,7 +3,7 @@
 #include "common/number/Units.h"
 #include "grid/Grid.h"
 #include "platform/MessageBoxes.h"
-#include "table/TbxLines.h"
+#include "table/model/TbxLines.h"
 
 #include <cstdint>
 #include <string_view>

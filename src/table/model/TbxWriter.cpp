@@ -1,9 +1,9 @@
-#include "table/TbxWriter.h"
+#include "table/model/TbxWriter.h"
 
 #include "common/number/Number.h"
 #include "grid/Grid.h"
-#include "table/TableModel.h"
-#include "table/TbxFormat.h"
+#include "table/model/TableModel.h"
+#include "table/model/TbxFormat.h"
 
 #include <algorithm>
 #include <array>

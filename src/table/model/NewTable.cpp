@@ -1,4 +1,4 @@
-#include "table/NewTable.h"
+#include "table/model/NewTable.h"
 
 #include "common/number/Number.h"
 #include "grid/Grid.h"

@@ -1,11 +1,11 @@
-#include "table/TbxReader.h"
+#include "table/model/TbxReader.h"
 
 #include "common/number/Number.h"
 #include "common/text/CodePage.h"
 #include "grid/Grid.h"
-#include "table/TableHost.h"
-#include "table/TableModel.h"
-#include "table/TbxFormat.h"
+#include "table/model/TableHost.h"
+#include "table/model/TableModel.h"
+#include "table/model/TbxFormat.h"
 
 #include <algorithm>
 #include <array>

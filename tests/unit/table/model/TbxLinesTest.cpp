@@ -1,4 +1,4 @@
-#include "table/TbxLines.h"
+#include "table/model/TbxLines.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "table/TableHistory.h"
+#include "table/model/TableHistory.h"
 
 #include "support/TableBytes.h"
 #include "support/TestTable.h"

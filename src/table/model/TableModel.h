@@ -5,7 +5,7 @@
 #include "common/text/SharedText.h"
 #include "common/text/Text.h"
 #include "grid/Grid.h"
-#include "table/AlteredFlag.h"
+#include "table/model/AlteredFlag.h"
 
 #include <array>
 #include <cstddef>

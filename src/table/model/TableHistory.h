@@ -1,7 +1,7 @@
 #pragma once
 
 #include "grid/Grid.h"
-#include "table/TableModel.h"
+#include "table/model/TableModel.h"
 
 #include <cstddef>
 #include <deque>
