@@ -1,7 +1,7 @@
 #include "files/lister/OpenShortcut.h"
 
 #include "context/App.h"
-#include "files/lister/NonTextFiles.h"
+#include "files/lister/rows/NonTextFiles.h"
 #include "platform/Shell.h"
 
 namespace korvane {

@@ -5,10 +5,10 @@
 #include "context/exchange/FileOperation.h"
 #include "context/exchange/ListerRequest.h"
 #include "dialogs/Questions.h"
-#include "files/lister/FileRows.h"
-#include "files/lister/NonTextFiles.h"
 #include "files/lister/OpenShortcut.h"
 #include "files/lister/ShownFolder.h"
+#include "files/lister/rows/FileRows.h"
+#include "files/lister/rows/NonTextFiles.h"
 #include "files/viewing/ViewFileByType.h"
 #include "platform/FileSystem.h"
 

@@ -5,8 +5,8 @@
 #include "context/exchange/ListSort.h"
 #include "context/exchange/ListerRequest.h"
 #include "controls/DropDown.h"
-#include "files/lister/DiskWait.h"
-#include "files/lister/FileRows.h"
+#include "files/lister/rows/DiskWait.h"
+#include "files/lister/rows/FileRows.h"
 #include "files/tree/FolderTree.h"
 #include "platform/FileSystem.h"
 

@@ -13,7 +13,7 @@
 #include "dialogs/Docking.h"
 #include "dialogs/Questions.h"
 #include "dialogs/Webmail.h"
-#include "files/lister/ListPatterns.h"
+#include "files/lister/rows/ListPatterns.h"
 #include "files/names/FieldKeys.h"
 #include "files/names/NameTyping.h"
 #include "files/names/frmEnterFileName.h"

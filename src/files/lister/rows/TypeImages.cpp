@@ -1,4 +1,4 @@
-#include "files/lister/TypeImages.h"
+#include "files/lister/rows/TypeImages.h"
 
 #include "common/text/CaseFold.h"
 #include "context/App.h"

@@ -1,4 +1,4 @@
-#include "files/lister/FileRows.h"
+#include "files/lister/rows/FileRows.h"
 
 #include "common/number/Number.h"
 #include "common/text/FoldedOrder.h"
@@ -10,7 +10,7 @@
 #include "controls/lists/ListView.h"
 #include "controls/views/ProgressBar.h"
 #include "dialogs/Questions.h"
-#include "files/lister/SortForms.h"
+#include "files/lister/rows/SortForms.h"
 #include "platform/FileSystem.h"
 #include "platform/Screen.h"
 

@@ -1,4 +1,4 @@
-#include "files/lister/DiskWait.h"
+#include "files/lister/rows/DiskWait.h"
 
 #include "context/App.h"
 #include "controls/CommandButton.h"

@@ -1,4 +1,4 @@
-#include "files/lister/ListPatterns.h"
+#include "files/lister/rows/ListPatterns.h"
 
 #include "common/text/CaseFold.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "common/text/Text.h"
-#include "files/lister/DiskWait.h"
-#include "files/lister/TypeImages.h"
+#include "files/lister/rows/DiskWait.h"
+#include "files/lister/rows/TypeImages.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "files/lister/SortForms.h"
+#include "files/lister/rows/SortForms.h"
 
 #include "context/exchange/ListSort.h"
 

@@ -1,6 +1,6 @@
-#include "files/lister/FileRows.h"
+#include "files/lister/rows/FileRows.h"
 
-#include "ListerFixture.h"
+#include "unit/files/lister/ListerFixture.h"
 
 namespace korvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "files/lister/NonTextFiles.h"
+#include "files/lister/rows/NonTextFiles.h"
 
 #include <gtest/gtest.h>
 
