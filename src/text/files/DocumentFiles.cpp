@@ -92,7 +92,7 @@ bool IsRtf(std::string_view bytes) {
 } // namespace
 
 DocumentFiles::DocumentFiles(FileSystem& files, CodePage page, DocumentConverter* converter)
-    : files_(files), page_(std::move(page)), converter_(converter) {}
+    : files_(files), page_(page), converter_(converter) {}
 
 std::optional<std::string> DocumentFiles::Convert(Conversion conversion, std::string_view bytes) {
     return converter_ == nullptr ? std::nullopt : converter_->Convert(conversion, bytes);
