@@ -137,6 +137,7 @@ std::vector<Text> FolderTree::WayTo(const Text& root, const Names& names) const 
 
 std::optional<FolderTree::Found> FolderTree::LookFor(const Text& folder, const std::vector<Text>& way) {
     std::vector<bool> read;
+    read.reserve(way.size());
     for (const Text& key : way)
         read.push_back(tree_.Node(key) != nullptr && !tree_.Children(key).empty());
     return AnswerOf<Found>([folder, way, read](const FileSystem& files) {
