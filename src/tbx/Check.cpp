@@ -2,8 +2,8 @@
 
 #include "tbx/FileCheck.h"
 #include "tbx/TableCheck.h"
+#include "tbx/Verb.h"
 #include "tbx/base/Files.h"
-#include "tbx/base/Verb.h"
 #include "tbx/base/Workbench.h"
 
 #include <algorithm>

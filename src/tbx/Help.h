@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tbx/base/Verb.h"
+#include "tbx/Verb.h"
 
 #include <string>
 

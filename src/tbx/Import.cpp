@@ -1,6 +1,6 @@
 #include "tbx/TableCheck.h"
+#include "tbx/Verb.h"
 #include "tbx/base/Files.h"
-#include "tbx/base/Verb.h"
 #include "tbx/base/Workbench.h"
 #include "tbx/formats/CsvTable.h"
 

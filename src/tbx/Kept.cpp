@@ -3,8 +3,8 @@
 #include "kept/KeptVersions.h"
 #include "kept/UnsavedWork.h"
 #include "platform/FileSystem.h"
+#include "tbx/Verb.h"
 #include "tbx/base/Files.h"
-#include "tbx/base/Verb.h"
 #include "tbx/base/Workbench.h"
 #include "tbx/formats/TsvRows.h"
 

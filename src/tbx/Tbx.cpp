@@ -1,9 +1,9 @@
 #include "tbx/Tbx.h"
 
 #include "tbx/Help.h"
+#include "tbx/Verb.h"
 #include "tbx/base/LookOptions.h"
 #include "tbx/base/ParsedArguments.h"
-#include "tbx/base/Verb.h"
 
 #include <algorithm>
 #include <charconv>

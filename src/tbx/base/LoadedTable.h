@@ -1,6 +1,7 @@
 #pragma once
 
-#include "tbx/base/Verb.h"
+#include "tbx/base/Call.h"
+#include "tbx/base/Environment.h"
 #include "tbx/base/Workbench.h"
 
 #include <memory>

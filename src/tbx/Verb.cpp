@@ -1,4 +1,4 @@
-#include "tbx/base/Verb.h"
+#include "tbx/Verb.h"
 
 #include <algorithm>
 #include <array>
