@@ -130,8 +130,8 @@ TEST(Docx, CharactersOfEastAsiaHaveTheirOwnFont) {
              "<w:r><w:rPr><w:rFonts w:eastAsia=\"Batang\"/></w:rPr><w:t>d\uD55C</w:t></w:r></w:p>");
     EXPECT_EQ(PlainText(document), u"ab\u6F22\u3002\U00020000cd\uD55C");
     std::string fonts;
-    for (const auto& run : document.paragraphs[0].runs)
-        fonts += std::to_string(run.length) + ToUtf8(document.fonts[document.FormatOf(run).font]) + " ";
+    for (const auto& part : document.paragraphs[0].runs)
+        fonts += std::to_string(part.length) + ToUtf8(document.fonts[document.FormatOf(part).font]) + " ";
     EXPECT_EQ(fonts, "2Times 4SimSun 1Times 1Arial 1Batang ");
 }
 
