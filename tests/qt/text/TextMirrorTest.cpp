@@ -53,6 +53,24 @@ TEST(TextMirror, CharactersOfAMissingFontOfPicturesShowTheirMeaning) {
     EXPECT_EQ(mirror.Shown().toRawText(), QStringLiteral(u"J\u00E0a"));
 }
 
+TEST(TextMirror, AParagraphFollowsTheDirectionOfItsText) {
+    doc::MemoryTextStore store;
+    store.Reset(Plain(u"12 \u0645a\r\na\u0645\r\n12"));
+    TextMirror mirror(store);
+    const auto direction = [&mirror](std::size_t paragraph) {
+        mirror.Shown();
+        return mirror.BlockOf(paragraph).blockFormat().layoutDirection();
+    };
+    EXPECT_EQ(direction(0), Qt::RightToLeft);
+    EXPECT_EQ(direction(1), Qt::LeftToRight);
+    EXPECT_EQ(direction(2), Qt::LeftToRight);
+    store.Replace(0, 4, Plain(u"1"));
+    EXPECT_EQ(direction(0), Qt::LeftToRight);
+    store.Undo();
+    EXPECT_EQ(direction(0), Qt::RightToLeft);
+    EXPECT_EQ(FaultOf(mirror), "");
+}
+
 TEST(TextMirror, AChangeIsShownWhenTheDocumentIsNeeded) {
     doc::MemoryTextStore store;
     store.Reset(Plain(u"a\r\nb\r\nc"));
@@ -96,7 +114,7 @@ TEST(TextMirror, ALargeTableIsCutWhereNobodySeesIt) {
             parts += qobject_cast<QTextTable*>(frame) != nullptr ? 1 : 0;
         return parts;
     };
-    EXPECT_EQ(tables(), 12);
+    EXPECT_EQ(tables(), 24);
     EXPECT_EQ(FaultOf(mirror), "");
     const auto cell = store.CellRange({*table, 100, 23});
     store.Replace(cell->first, cell->second, Plain(u"1\r\n2"));
@@ -104,7 +122,7 @@ TEST(TextMirror, ALargeTableIsCutWhereNobodySeesIt) {
     store.FormatCells(*table, [](const doc::CellPlace& place, doc::CellFormat& format) {
         if (place.row == 5) format.width = 900;
     });
-    EXPECT_EQ(tables(), 14);
+    EXPECT_EQ(tables(), 25);
     EXPECT_EQ(FaultOf(mirror), "");
 }
 

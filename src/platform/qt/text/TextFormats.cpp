@@ -75,6 +75,12 @@ double Room(std::int32_t twips) {
     return TextPixels(std::max(twips, 0));
 }
 
+/// The cells of a large table keep Qt's own format, in which Qt finds the direction when it shows them.
+Qt::LayoutDirection DirectionOf(const doc::Paragraph& paragraph) {
+    if (paragraph.cell.table != 0) return Qt::LayoutDirectionAuto;
+    return QStringView(paragraph.text).isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
 } // namespace
 
 double TextPixels(std::int32_t twips) {
@@ -150,10 +156,15 @@ const QTextCharFormat& TextFormats::OfChars(doc::Index format) {
     return *look;
 }
 
-const QTextBlockFormat& TextFormats::OfParagraph(doc::Index format) {
-    if (paragraphs_.size() <= format) paragraphs_.resize(document_.paras.Size());
-    auto& look = paragraphs_[format];
-    if (!look) look = ParagraphLook(document_.paras[format]);
+const QTextBlockFormat& TextFormats::OfParagraph(const doc::Paragraph& paragraph) {
+    const Qt::LayoutDirection direction = DirectionOf(paragraph);
+    auto& looks = paragraphs_[direction];
+    if (looks.size() <= paragraph.format) looks.resize(document_.paras.Size());
+    auto& look = looks[paragraph.format];
+    if (!look) {
+        look = ParagraphLook(document_.paras[paragraph.format]);
+        if (direction != Qt::LayoutDirectionAuto) look->setLayoutDirection(direction);
+    }
     return *look;
 }
 
@@ -170,7 +181,7 @@ QTextCharFormat TextFormats::OfRun(const doc::Run& run) {
 
 void TextFormats::Clear() {
     chars_.clear();
-    paragraphs_.clear();
+    paragraphs_ = {};
 }
 
 } // namespace korvane

@@ -6,6 +6,7 @@
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 #include <QTextTable>
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -24,7 +25,8 @@ public:
     explicit TextFormats(const doc::Document& document) : document_(document) {}
 
     const QTextCharFormat& OfChars(doc::Index format);
-    const QTextBlockFormat& OfParagraph(doc::Index format);
+    /// Tells the direction of the text, which Qt would search for in every paragraph with every key.
+    const QTextBlockFormat& OfParagraph(const doc::Paragraph& paragraph);
     /// The look of a picture among characters.
     QTextCharFormat OfRun(const doc::Run& run);
     /// Forgets everything, for another document takes its place.
@@ -33,7 +35,8 @@ public:
 private:
     const doc::Document& document_;
     std::vector<std::optional<QTextCharFormat>> chars_;
-    std::vector<std::optional<QTextBlockFormat>> paragraphs_;
+    /// By the direction of the text.
+    std::array<std::vector<std::optional<QTextBlockFormat>>, Qt::LayoutDirectionAuto + 1> paragraphs_;
 };
 
 QTextCharFormat CharLook(const doc::CharFormat& format, TextView font);

@@ -190,7 +190,7 @@ void TextMirror::ReplaceBlocks(std::size_t first, std::size_t removed, std::size
     cursor.removeSelectedText();
     for (std::size_t i = first; i < first + added; ++i) {
         if (i == first) {
-            cursor.setBlockFormat(formats_.OfParagraph(At(i).format));
+            cursor.setBlockFormat(formats_.OfParagraph(At(i)));
             WriteEmptyLook(cursor, i);
             PutText(cursor, At(i));
         } else {
@@ -232,7 +232,7 @@ void TextMirror::PutText(QTextCursor& cursor, const doc::Paragraph& paragraph) {
 
 void TextMirror::PutBlock(QTextCursor& cursor, std::size_t paragraph) {
     const doc::Paragraph& put = At(paragraph);
-    cursor.insertBlock(formats_.OfParagraph(put.format), formats_.OfChars(put.emptyFormat));
+    cursor.insertBlock(formats_.OfParagraph(put), formats_.OfChars(put.emptyFormat));
     PutText(cursor, put);
 }
 
@@ -262,7 +262,7 @@ void TextMirror::Build() {
             continue;
         }
         if (open) {
-            cursor.setBlockFormat(formats_.OfParagraph(At(i).format));
+            cursor.setBlockFormat(formats_.OfParagraph(At(i)));
             cursor.setBlockCharFormat(formats_.OfChars(At(i).emptyFormat));
             PutText(cursor, At(i));
         } else {
@@ -315,7 +315,7 @@ std::size_t TextMirror::PutCell(QTextCursor& cursor, QTextTable& table, std::siz
     const doc::Paragraph& begin = At(first);
     if (HasLook(format) || begin.emptyFormat != 0)
         table.cellAt(cursor).setFormat(TableCellLook(format, formats_.OfChars(begin.emptyFormat)));
-    if (begin.format != 0) cursor.setBlockFormat(formats_.OfParagraph(begin.format));
+    if (begin.format != 0) cursor.setBlockFormat(formats_.OfParagraph(begin));
     PutText(cursor, begin);
     std::size_t next = first + 1;
     for (; next < cells_.size() && cells_[next] == begin.cell; ++next)

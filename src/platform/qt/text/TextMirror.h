@@ -21,7 +21,7 @@ namespace korvane {
 class TextMirror final : private doc::TextListener {
 public:
     /// The cells of one of Qt's tables. A larger table of ours is cut.
-    static constexpr std::size_t kMostCells = 250;
+    static constexpr std::size_t kMostCells = 120;
 
     /// The store must live until this is destroyed.
     explicit TextMirror(doc::MemoryTextStore& store);
