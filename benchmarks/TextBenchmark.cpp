@@ -47,6 +47,23 @@ doc::Document Letter() {
     return builder.Finish({});
 }
 
+/// The letter, justified, in writings of several directions.
+doc::Document JustifiedLetter() {
+    doc::Builder builder({});
+    doc::ParaFormat justified;
+    justified.alignment = doc::Alignment::Justified;
+    for (int i = 0; i < kParagraphs / 10; ++i) {
+        for (const TextView part :
+             {u"This is a part of a letter. ", u"\u042d\u0442\u043e \u0447\u0430\u0441\u0442\u044c. ",
+              u"\u0647\u0630\u0627 \u062c\u0632\u0621 \u0645\u0646 \u0627\u0644\u0646\u0635. "}) {
+            for (int again = 0; again < 2; ++again)
+                builder.Add(part);
+            builder.EndParagraph(justified);
+        }
+    }
+    return builder.Finish({});
+}
+
 doc::Document LargeTable() {
     doc::Document document;
     document.paragraphs.clear();
@@ -113,6 +130,19 @@ public:
     TextControlAdaptor* adaptor = nullptr;
 };
 
+void MeasureRepaints(const doc::Document& letter, const std::string& kind) {
+    Bench bench;
+    bench.control.SetWhole(letter);
+    for (const int zoom : kZoomSteps) {
+        bench.control.ZoomFactor = zoom;
+        bench.LayOut();
+        Times repaint;
+        for (int i = 0; i < kRepaints; ++i)
+            repaint.Add([&] { bench.view.viewport()->repaint(); });
+        Print(("a repaint at " + std::to_string(zoom) + " %" + kind).c_str(), repaint);
+    }
+}
+
 void MeasureText(int rounds) {
     const doc::Document letter = Letter();
     const std::string rtf = doc::WriteRtf(letter);
@@ -143,16 +173,8 @@ void MeasureText(int rounds) {
     Print("RTF of 20,000 paragraphs, 1 MB of text, read and first painted", shown);
     Print("a key at its top, with the repaint", key);
     Print("the same in the view of pages", pagesKey);
-    Bench bench;
-    bench.control.SetWhole(letter);
-    for (const int zoom : kZoomSteps) {
-        bench.control.ZoomFactor = zoom;
-        bench.LayOut();
-        Times repaint;
-        for (int i = 0; i < kRepaints; ++i)
-            repaint.Add([&] { bench.view.viewport()->repaint(); });
-        Print(("a repaint at " + std::to_string(zoom) + " %").c_str(), repaint);
-    }
+    MeasureRepaints(letter, "");
+    MeasureRepaints(JustifiedLetter(), ", justified, of three writings");
 }
 
 /// LibreOffice starts for each file. What it needs for an empty one is no part of the reading.

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextTable>
 #include <algorithm>
 #include <cstdlib>
 
@@ -14,6 +15,8 @@ namespace korvane {
 namespace {
 
 constexpr double kZoom = 5;
+constexpr const char* kArabic = "\u0645\u0631\u062d\u0628\u0627 \u0628\u0643\u0645 \u0641\u064a "
+                                "\u0647\u0630\u0627 \u0627\u0644\u0646\u0635";
 
 class LargeLettersTest : public testing::Test {
 protected:
@@ -51,8 +54,9 @@ protected:
         return Picture([this](QPainter& painter) { Paint(painter); });
     }
     QImage ByLetters() {
-        return Picture(
-            [this](QPainter& painter) { letters_.Draw(painter, [this](QPainter& inner) { Paint(inner); }); });
+        return Picture([this](QPainter& painter) {
+            letters_.Draw(painter, document_, [this](QPainter& inner) { Paint(inner); });
+        });
     }
     /// The greatest difference of a colour of a pixel.
     static int Difference(const QImage& one, const QImage& other) {
@@ -68,6 +72,10 @@ protected:
         }
         return most;
     }
+    void SetText(const char* text) {
+        document_.setPlainText(QString::fromUtf8(text));
+        cursor_.select(QTextCursor::Document);
+    }
     bool HasLetters(const QImage& image) {
         return Difference(image, Picture([](QPainter&) {})) > 200;
     }
@@ -76,6 +84,7 @@ protected:
         constexpr int kPartOfAPixel = 192;
         const QImage drawn = ByLetters();
         EXPECT_TRUE(HasLetters(drawn));
+        EXPECT_NE(drawn, ByQt()) << "Qt draws these letters as outlines.";
         EXPECT_LT(Difference(ByQt(), drawn), kPartOfAPixel);
     }
 
@@ -135,17 +144,48 @@ TEST_F(LargeLettersTest, TheSecondPaintIsOfTheSamePictures) {
     EXPECT_EQ(letters_.Kept(), kept);
 }
 
-TEST_F(LargeLettersTest, JustifiedLinesAreDrawnByQt) {
+TEST_F(LargeLettersTest, LooksSoInJustifiedLines) {
     QTextBlockFormat justified;
     justified.setAlignment(Qt::AlignJustify);
     cursor_.mergeBlockFormat(justified);
     ExpectTheSame();
 }
 
-TEST_F(LargeLettersTest, LettersThatJoinAreDrawnByQt) {
-    document_.setPlainText(QString::fromUtf8("\u0645\u0631\u062d\u0628\u0627"));
-    EXPECT_EQ(ByLetters(), ByQt());
-    EXPECT_EQ(letters_.Kept(), 0);
+TEST_F(LargeLettersTest, LooksSoInWritingFromTheRight) {
+    SetText(kArabic);
+    ExpectTheSame();
+}
+
+TEST_F(LargeLettersTest, LooksSoInJustifiedWritingFromTheRight) {
+    SetText(kArabic);
+    QTextBlockFormat justified;
+    justified.setAlignment(Qt::AlignJustify);
+    cursor_.mergeBlockFormat(justified);
+    ExpectTheSame();
+}
+
+TEST_F(LargeLettersTest, LooksSoInSeveralWritingsOfALine) {
+    SetText("\u0440\u0443 12 \u0645\u0631 e\u0301 fi \u03b1");
+    ExpectTheSame();
+}
+
+TEST_F(LargeLettersTest, LooksSoWhereLettersAreRaisedOrSmallCapitals) {
+    QTextCharFormat look;
+    look.setBaselineOffset(30);
+    look.setFontCapitalization(QFont::SmallCaps);
+    cursor_.mergeCharFormat(look);
+    ExpectTheSame();
+    look.setBaselineOffset(-30);
+    cursor_.mergeCharFormat(look);
+    ExpectTheSame();
+}
+
+TEST_F(LargeLettersTest, LooksSoInCells) {
+    cursor_.movePosition(QTextCursor::Start);
+    QTextTable& table = *cursor_.insertTable(1, 2);
+    table.cellAt(0, 0).firstCursorPosition().insertText("left");
+    table.cellAt(0, 1).firstCursorPosition().insertText("right");
+    ExpectTheSame();
 }
 
 TEST_F(LargeLettersTest, SmallLettersAreDrawnByQt) {

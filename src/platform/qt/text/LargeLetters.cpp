@@ -1,5 +1,7 @@
 #include "platform/qt/text/LargeLetters.h"
 
+#include "platform/qt/text/LineGlyphs.h"
+
 #include <QFontInfo>
 #include <QGlyphRun>
 #include <QPaintDevice>
@@ -7,7 +9,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -21,15 +22,14 @@ constexpr double kLargest = 64;
 constexpr qsizetype kPixelBytes = 4;
 constexpr int kQuarterBits = 2;
 constexpr int kQuarters = 1 << kQuarterBits;
-/// From this character on, letters may depend on their neighbours in ways that a part of a line doesn't show.
-constexpr char16_t kPlainEnd = 0x0250;
 
 /// Passes everything on to another painter, and draws the letters that are large there as pictures.
 class LetterEngine final : public QPaintEngine {
 public:
-    LetterEngine(QPainter& target, LargeLetters& letters)
+    LetterEngine(QPainter& target, const QTextDocument& document, LargeLetters& letters)
         : QPaintEngine(AllFeatures),
           target_(target),
+          document_(document),
           letters_(letters),
           ratio_(target.device()->devicePixelRatioF()),
           clips_(target.hasClipping()),
@@ -115,34 +115,19 @@ private:
                transform.m11() == transform.m22() && QFontInfo(item.font()).pixelSize() * Scale() > kLargest;
     }
 
-    /// False if the letters might be in other places than in the item.
     bool DrawLetters(const QPointF& at, const QTextItem& item) {
-        const QString text = item.text();
-        const auto isPlain = [](QChar letter) { return letter >= u' ' && letter < QChar(kPlainEnd); };
-        if ((item.renderFlags() & QTextItem::RightToLeft) != 0 ||
-            !std::all_of(text.begin(), text.end(), isPlain))
-            return false;
-        QTextLayout layout(text, item.font());
-        layout.beginLayout();
-        QTextLine line = layout.createLine();
-        line.setNumColumns(static_cast<int>(text.size()));
-        layout.endLayout();
-        // The spaces of a justified line are wider.
-        constexpr double kSame = 0.5;
-        if (std::abs(line.horizontalAdvance() - item.width()) > kSame) return false;
-        const QList<QGlyphRun> runs = line.glyphRuns();
-        return std::all_of(runs.begin(), runs.end(), [&](const QGlyphRun& run) {
-            return DrawRun(at - QPointF(0, line.ascent()), run);
-        });
+        const QList<QGlyphRun> runs = GlyphsOf(document_, at, item);
+        return !runs.empty() &&
+               std::ranges::all_of(runs, [this](const QGlyphRun& run) { return DrawRun(run); });
     }
 
-    bool DrawRun(const QPointF& shift, const QGlyphRun& run) {
+    bool DrawRun(const QGlyphRun& run) {
         const QList<quint32> glyphs = run.glyphIndexes();
         const QList<QPointF> places = run.positions();
         const QTransform transform = target_.transform();
         LargeLetters::Letter letter{run.rawFont(), 0, Scale(), target_.pen().color().rgba(), 0};
         for (qsizetype i = 0; i < glyphs.size(); ++i) {
-            const QPointF place = transform.map(shift + places[i]) * ratio_;
+            const QPointF place = transform.map(places[i]) * ratio_;
             const int quarters = static_cast<int>(std::lround(place.x() * kQuarters));
             const int pixel = quarters >> kQuarterBits;
             letter.glyph = glyphs[i];
@@ -159,6 +144,7 @@ private:
     }
 
     QPainter& target_;
+    const QTextDocument& document_;
     LargeLetters& letters_;
     double ratio_;
     bool clips_;
@@ -169,8 +155,8 @@ private:
 /// As large as the device of the painter.
 class LetterDevice final : public QPaintDevice {
 public:
-    LetterDevice(QPainter& target, LargeLetters& letters)
-        : device_(*target.device()), engine_(target, letters) {}
+    LetterDevice(QPainter& target, const QTextDocument& document, LargeLetters& letters)
+        : device_(*target.device()), engine_(target, document, letters) {}
 
     QPaintEngine* paintEngine() const override { return &engine_; }
 
@@ -240,9 +226,10 @@ const LargeLetters::Picture* LargeLetters::PictureOf(const Letter& letter) {
     return pictures_.object(letter);
 }
 
-void LargeLetters::Draw(QPainter& painter, const std::function<void(QPainter&)>& draw) {
+void LargeLetters::Draw(QPainter& painter, const QTextDocument& document,
+                        const std::function<void(QPainter&)>& draw) {
     painter.save();
-    LetterDevice device(painter, *this);
+    LetterDevice device(painter, document, *this);
     QPainter letters(&device);
     letters.setRenderHints(painter.renderHints());
     letters.setTransform(painter.transform());

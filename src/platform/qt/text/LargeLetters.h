@@ -7,6 +7,7 @@
 #include <functional>
 
 class QPainter;
+class QTextDocument;
 
 namespace korvane {
 
@@ -14,8 +15,8 @@ namespace korvane {
 /// fills the outlines of larger ones with every paint.
 class LargeLetters {
 public:
-    /// Runs a drawing, whose large letters are pictures that are kept.
-    void Draw(QPainter& painter, const std::function<void(QPainter&)>& draw);
+    /// Runs a drawing of the document, whose large letters are pictures that are kept.
+    void Draw(QPainter& painter, const QTextDocument& document, const std::function<void(QPainter&)>& draw);
 
     /// A letter in its look. Its place is in quarters of a pixel.
     struct Letter {
