@@ -16,6 +16,7 @@
 
 #include <array>
 #include <regex>
+#include <set>
 #include <sstream>
 
 namespace korvane {
@@ -86,6 +87,29 @@ TEST(KorvaneIniPage, NamesEveryLineWithItsNameAndKind) {
         const std::string written = IsExchanged(setting) ? "; written from " + WrittenName(setting) : "";
         EXPECT_TRUE(rows[i][3].ends_with(written)) << "in line " << i + 1;
         EXPECT_EQ(rows[i][3].find("written from") != std::string::npos, IsExchanged(setting)) << i + 1;
+    }
+}
+
+/// The names of the spare lines that a source uses, apart from those that list all settings.
+std::set<std::string> SparesInUse() {
+    static const std::regex kSpare(R"(\bSpare\d+\b)");
+    const auto sources = std::filesystem::path(KORVANE_SOURCE_DIR) / "src";
+    std::set<std::string> names;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(sources)) {
+        if (entry.path().extension() != ".cpp" || entry.path().filename() == "Settings.cpp") continue;
+        const std::string source = ReadBytes(entry.path());
+        for (std::sregex_iterator it(source.begin(), source.end(), kSpare), end; it != end; ++it)
+            names.insert(Quoted(it->str()));
+    }
+    return names;
+}
+
+TEST(KorvaneIniPage, CallsALineSpareIfNoSourceUsesIt) {
+    const std::set<std::string> inUse = SparesInUse();
+    EXPECT_EQ(inUse.size(), 4u);
+    for (const auto& row : TableRows(Page("korvane-ini.md"), 4)) {
+        const bool unused = row[1].starts_with("`Spare") && !inUse.contains(row[1]);
+        EXPECT_EQ(row[3].starts_with("spare"), unused) << "in line " << row[0];
     }
 }
 
