@@ -1,5 +1,6 @@
 #include "files/names/frmDupFile.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/StandardMessages.h"
 #include "context/exchange/FileOperation.h"
@@ -66,14 +67,13 @@ void frmDupFile::Accept() {
 
 void frmDupFile::Copy(const Text& target) {
     App& app = TheApp();
-    copying_ = true;
     CopyOutcome outcome{};
     {
+        const ScopedValue copying(copying_, true);
         const Hourglass hourglass(app.Screen());
         const CopyOptions options{.betweenSteps = [&app] { app.Screen().ProcessMessages(); }};
         outcome = app.Files().Copy(File().FileOpName, target, options);
     }
-    copying_ = false;
     if (outcome == CopyOutcome::Copied) return Done();
     ShowCannotAccess(app, target);
 }

@@ -1,6 +1,7 @@
 #include "files/tree/FolderTree.h"
 
 #include "common/text/CaseFold.h"
+#include "common/text/ScopedValue.h"
 #include "controls/Timer.h"
 #include "controls/UpdateScope.h"
 #include "controls/lists/TreeView.h"
@@ -150,22 +151,25 @@ std::optional<FolderTree::Found> FolderTree::LookFor(const Text& folder, const s
 
 bool FolderTree::SetTreePath(TextView path) {
     const Text full = files_.FullPath(path);
-    Text node = Root(full);
-    const Names names = NamesBelow(node, full);
+    const Text root = Root(full);
+    const Names names = NamesBelow(root, full);
     if (names.size() >= kMostLevels) return false;
-    const auto found = LookFor(full, WayTo(node, names));
+    const auto found = LookFor(full, WayTo(root, names));
     if (!found || !found->exists) return false;
-    moving_ = true;
+    tree_.Select(OpenWay(root, names, found->names));
+    return true;
+}
+
+/// Expands the root and the folders on the way, and returns the key of the last one.
+Text FolderTree::OpenWay(Text node, const Names& way, const std::vector<Names>& folders) {
+    const ScopedValue moving(moving_, true);
     if (tree_.Node(node) == nullptr) tree_.Add({}, node, node);
     for (std::size_t level = 0;; ++level) {
-        if (tree_.Children(node).empty()) AddFolders(node, found->names[level]);
+        if (tree_.Children(node).empty()) AddFolders(node, folders[level]);
         tree_.SetExpanded(node, true);
-        if (level == names.size()) break;
-        node = NodeBelow(node, names[level]);
+        if (level == way.size()) return node;
+        node = NodeBelow(node, way[level]);
     }
-    moving_ = false;
-    tree_.Select(node);
-    return true;
 }
 
 void FolderTree::Remove(TextView folder) {

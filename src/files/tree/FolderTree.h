@@ -65,6 +65,7 @@ private:
     std::optional<AnswerT> AnswerOf(QuestionT question);
     std::vector<Text> WayTo(const Text& root, const Names& names) const;
     std::optional<Found> LookFor(const Text& folder, const std::vector<Text>& way);
+    Text OpenWay(Text node, const Names& way, const std::vector<Names>& folders);
     void AskSome();
     void Ask(const Text& folder);
     /// The key of the new node.

@@ -1,6 +1,7 @@
 #include "files/names/frmDupFile.h"
 
 #include "support/DesignerFile.h"
+#include "support/HandlerFailure.h"
 #include "unit/files/names/NamesFixture.h"
 
 namespace korvane {
@@ -110,6 +111,21 @@ TEST_F(DupFileTest, ACopyOnItsWayIsNeitherLeftNorStartedAgain) {
     EXPECT_EQ(t.screen.ProcessMessagesCount(), 2);
     EXPECT_EQ(app.DialogResult, 1);
     EXPECT_EQ(t.files.Contents(u"C:\\Data\\New.txt"), std::string(3000, 'b'));
+}
+
+TEST_F(DupFileTest, ACopyThatFailsInAHandlerCanBeStartedAgainOrLeft) {
+    t.files.AddFile(u"C:\\Data\\Old.txt", std::string(3000, 'b'));
+    Show([this](frmDupFile& f) {
+        t.screen.QueueMessage(FailInHandler);
+        f.Text2.Type(u"New.txt");
+        EXPECT_THROW(f.cmdAccept.Press(), HandlerFailure);
+        EXPECT_TRUE(f.QueryUnload());
+        f.Text2.Type(u"Newer.txt");
+        f.cmdAccept.Press();
+        EXPECT_FALSE(f.Shown());
+    });
+    EXPECT_EQ(app.DialogResult, 1);
+    EXPECT_EQ(t.files.Contents(u"C:\\Data\\Newer.txt"), std::string(3000, 'b'));
 }
 
 TEST_F(DupFileTest, AddsTheDateByButtonAndKey) {

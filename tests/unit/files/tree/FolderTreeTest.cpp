@@ -3,11 +3,13 @@
 #include "common/number/Number.h"
 #include "controls/Timer.h"
 #include "controls/lists/TreeView.h"
+#include "support/HandlerFailure.h"
 #include "support/TestApp.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace korvane {
 namespace {
@@ -91,6 +93,16 @@ TEST_F(FolderTreeTest, AnOpenedNodeIsSeenWithAsManyOfItsFoldersAsFit) {
     EXPECT_THAT(seen.keys, ElementsAre(u"C:\\Data\\c", u"C:\\Data"));
     tree.SetExpanded(u"C:\\Empty", true);
     EXPECT_EQ(seen.keys.size(), 2u);
+}
+
+TEST_F(FolderTreeTest, AWayThatFailsBeforeItsEndLeavesTheTreeInUse) {
+    t.files.AddDir(u"C:\\Data\\sub");
+    folders.Fill();
+    const auto expand = std::exchange(tree.Expand, [](TextView) { FailInHandler(); });
+    EXPECT_THROW(folders.SetTreePath(u"C:\\Data\\sub"), HandlerFailure);
+    tree.Expand = expand;
+    tree.Select(u"C:\\");
+    EXPECT_THAT(visited, ElementsAre(u"C:\\"));
 }
 
 // Kept for compatibility: drive-b-without-label.
