@@ -50,14 +50,19 @@ zip_int64_t TellSize(const Packing& packing, void* data, zip_uint64_t length) {
     return sizeof stat;
 }
 
+/// What an archive may ask of a part.
+constexpr zip_int64_t kAnswered =
+    ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_OPEN) | ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_READ) |
+    ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_CLOSE) | ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_STAT) |
+    ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_ERROR) | ZIP_SOURCE_MAKE_COMMAND_BITMASK(ZIP_SOURCE_FREE);
+
 /// Answers what the archive asks of a part.
 zip_int64_t Answer(void* state, void* data, zip_uint64_t length, zip_source_cmd_t command) {
     Packing& packing = *static_cast<Packing*>(state);
     try {
         switch (command) {
         case ZIP_SOURCE_SUPPORTS:
-            return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE,
-                                                  ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE, -1);
+            return kAnswered;
         case ZIP_SOURCE_STAT:
             return TellSize(packing, data, length);
         case ZIP_SOURCE_OPEN:
