@@ -2,6 +2,7 @@
 
 #include "grid/TextHandle.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -48,6 +49,18 @@ public:
         const Chunk& chunk = chunks_[row / kChunkRows];
         if (chunk.empty()) return {};
         return std::span(chunk).subspan(IndexOf(row, 0), cols_);
+    }
+
+    /// Puts the rows of another table of as many columns after those of this one. `taken(handle)` gives the
+    /// handle that takes the place of one of the other's.
+    template <class Taken>
+    void Append(const CellTable& other, const Taken& taken) {
+        const std::size_t before = rows_;
+        SetRows(before + other.rows_);
+        for (std::size_t row = 0; row < other.rows_; ++row) {
+            const std::span<const TextHandle> handles = other.Row(row);
+            if (!handles.empty()) std::ranges::transform(handles, &Place(before + row, 0), taken);
+        }
     }
 
     /// Visits every handle that isn't empty, in the rows from `firstRow` on.

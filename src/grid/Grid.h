@@ -14,6 +14,7 @@
 namespace korvane {
 
 class CodePage;
+class GridTail;
 
 /// The place of a cell.
 struct CellPosition {
@@ -154,6 +155,8 @@ public:
     /// The cell's value as bytes of `Page()`, valid until the next change; nullopt when the page can't hold
     /// it.
     virtual std::optional<std::string_view> CellBytes(Row row, Col col) const = 0;
+    /// Begins rows that are to follow those of the table. The table has to outlive them.
+    virtual std::unique_ptr<GridTail> BeginTail() = 0;
     /// Moves the texts of the columns from `first` on one column to the right: those of the last column are
     /// lost, and `first` is left empty.
     virtual void ShiftTextsRight(Col first) = 0;

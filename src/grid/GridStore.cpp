@@ -1,10 +1,12 @@
 #include "grid/GridStore.h"
 
 #include "grid/GridStoreChanges.h"
+#include "grid/GridTail.h"
 #include "grid/Permuted.h"
 #include "grid/SortKeys.h"
 
 #include <algorithm>
+#include <functional>
 #include <numeric>
 #include <utility>
 
@@ -233,6 +235,39 @@ void GridStore::SetCellBytes(Row row, Col col, std::string_view bytes) {
 std::optional<std::string_view> GridStore::CellBytes(Row row, Col col) const {
     if (!HasCell(row, col)) return std::string_view();
     return texts_.Bytes(HandleAt(row, col));
+}
+
+class GridStore::Tail final : public GridTail {
+public:
+    explicit Tail(GridStore& whole) : whole_(whole), rows_(whole.Page(), whole.order_) {
+        rows_.cols_ = whole.cols_;
+        rows_.cells_.SetCols(whole.cols_.size());
+        rows_.looks_.SetCols(whole.cols_.size());
+        rows_.texts_.Adopt(whole.texts_.Adopted());
+    }
+
+    Grid& Rows() override { return rows_; }
+    bool Append() override { return whole_.AppendRows(rows_); }
+
+private:
+    GridStore& whole_;
+    GridStore rows_;
+};
+
+std::unique_ptr<GridTail> GridStore::BeginTail() {
+    return std::make_unique<Tail>(*this);
+}
+
+bool GridStore::AppendRows(const GridStore& part) {
+    if (part.rows_.size() > Index(kMaxRows + 1) - rows_.size()) return false;
+    rows_.insert(rows_.end(), part.rows_.begin(), part.rows_.end());
+    if (texts_.TakeOverAll(part.texts_))
+        cells_.Append(part.cells_, std::identity());
+    else
+        cells_.Append(part.cells_, [&](TextHandle handle) { return texts_.TakeOver(part.texts_, handle); });
+    looks_.Append(part.looks_);
+    notifier_.TableChanged();
+    return true;
 }
 
 void GridStore::ShiftTextsRight(Col first) {

@@ -98,6 +98,7 @@ public:
     void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) override;
     void SetCellBytes(Row row, Col col, std::string_view bytes) override;
     std::optional<std::string_view> CellBytes(Row row, Col col) const override;
+    std::unique_ptr<GridTail> BeginTail() override;
     void ShiftTextsRight(Col first) override;
     std::optional<CellPosition> FindText(TextView part, CellPosition from) const override;
 
@@ -130,6 +131,7 @@ private:
         int fontSize = 0;
     };
 
+    class Tail;
     class Finder;
     class Changes;
 
@@ -143,6 +145,7 @@ private:
         return HasCell(row, col) ? looks_.At(Index(row), Index(col)) : CellLook();
     }
 
+    bool AppendRows(const GridStore& part);
     void PutHandle(Row row, Col col, TextHandle handle);
     void ResizeRows(Row count);
     /// Gives back the looks that the column had.

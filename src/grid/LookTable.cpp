@@ -6,6 +6,14 @@
 
 namespace korvane {
 
+namespace {
+
+void AddTo(LookTable::Looks& looks, const LookTable::Looks& added) {
+    looks.insert(looks.end(), added.begin(), added.end());
+}
+
+} // namespace
+
 void LookTable::SetRows(std::size_t rows) {
     rowLooks_.resize(rows);
     for (Looks& looks : ownLooks_)
@@ -24,6 +32,16 @@ void LookTable::SetCols(std::size_t cols) {
     for (std::size_t col = before; col < cols && !HasPlainRowsOnly(); ++col)
         GiveOwnLooks(col, Looks(rowLooks_.size()));
     CountOwnCols();
+}
+
+void LookTable::Append(const LookTable& other) {
+    for (std::size_t col = 0; col < ownLooks_.size(); ++col) {
+        const Looks& added = other.ownLooks_[col];
+        if (ownLooks_[col].empty() && added.empty()) continue;
+        if (ownLooks_[col].empty()) GiveOwnLooks(col, rowLooks_);
+        AddTo(ownLooks_[col], added.empty() ? other.rowLooks_ : added);
+    }
+    AddTo(rowLooks_, other.rowLooks_);
 }
 
 LookTable::ColumnLooks LookTable::TakeCol(std::size_t col) {

@@ -48,6 +48,8 @@ public:
     void SetRows(std::size_t rows);
     /// Appends columns of the plain look or drops columns from the end.
     void SetCols(std::size_t cols);
+    /// Puts the rows of another table of as many columns after those of this one.
+    void Append(const LookTable& other);
     ColumnLooks TakeCol(std::size_t col);
     /// Puts a column back where it was taken.
     void InsertCol(std::size_t col, ColumnLooks looks);

@@ -87,6 +87,13 @@ void TextBlocks::KeepAdoptedOf(const TextBlocks& other) {
     adoptedUse_.garbage = other.adoptedUse_.garbage;
 }
 
+bool TextBlocks::TakeOverAll(const TextBlocks& other) {
+    if (!HasAdopted() || other.ownUse_ != Use() || !other.large_.empty()) return false;
+    adoptedUse_.live += other.adoptedUse_.live;
+    adoptedUse_.garbage += other.adoptedUse_.garbage;
+    return true;
+}
+
 TextHandle TextBlocks::TakeOver(const TextBlocks& other, TextHandle handle) {
     if (handle.IsEmpty()) return {};
     const Place place = other.PlaceOf(handle);

@@ -27,6 +27,7 @@ public:
     /// Takes a file's bytes for `Slice`. No handle may point to bytes adopted before.
     void Adopt(SharedBytes bytes);
     bool HasAdopted() const { return adopted_.size > 0; }
+    const SharedBytes& Adopted() const { return adopted_; }
     std::string_view AdoptedBytes() const { return adopted_.View(); }
 
     bool HasSlice(std::size_t offset, std::size_t length) const {
@@ -49,6 +50,13 @@ public:
     /// Whether the text contains `part`; `pattern` is the same in bytes, or nothing.
     bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;
     bool HasWideTexts() const { return wideTexts_ > 0; }
+
+    /// Takes a text of another table's blocks. What it has of adopted bytes is shared where these blocks have
+    /// adopted bytes, which must be the same ones.
+    TextHandle TakeOver(const TextBlocks& other, TextHandle handle);
+    /// Takes all texts of other blocks at once, where these are nothing but adopted bytes. Their handles hold
+    /// here then. False when each text has to be taken over by itself.
+    bool TakeOverAll(const TextBlocks& other);
 
     /// Whether there is more garbage than live text, so that packing frees at least half of the memory.
     bool WantsPacking() const;
@@ -77,6 +85,7 @@ private:
     struct Use {
         std::size_t live = 0;
         std::size_t garbage = 0;
+        bool operator==(const Use&) const = default;
     };
 
     Place PlaceOf(TextHandle handle) const;
@@ -87,7 +96,6 @@ private:
     bool AppendAsBytes(TextView text);
     bool AdoptedIsMostlyGarbage() const { return adoptedUse_.garbage > adoptedUse_.live; }
     void KeepAdoptedOf(const TextBlocks& other);
-    TextHandle TakeOver(const TextBlocks& other, TextHandle handle);
 
     CodePage page_;
     SharedBytes adopted_;

@@ -11,8 +11,9 @@ namespace korvane {
 /// are near each other cost little.
 class BytePositions {
 public:
-    /// The text must outlive this object.
-    BytePositions(std::string_view text, char byte) : text_(text), byte_(byte) {}
+    /// The text must outlive this object. Places before `from` are left out.
+    BytePositions(std::string_view text, char byte, std::size_t from = 0)
+        : text_(text), byte_(byte), read_(from) {}
 
     /// The next place, or the size of the text when there is no more.
     std::size_t Next() {
@@ -33,7 +34,7 @@ private:
     std::string_view text_;
     char byte_;
     /// Where the next block begins.
-    std::size_t read_ = 0;
+    std::size_t read_;
     /// A bit for each place in the last block that hasn't been given yet.
     std::uint64_t found_ = 0;
 };

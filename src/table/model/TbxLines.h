@@ -12,7 +12,9 @@ namespace korvane {
 /// part of it. A lone LF is part of the line.
 class TbxLines {
 public:
-    explicit TbxLines(std::string_view bytes) : bytes_(bytes), crs_(bytes, '\r') {}
+    /// A line has to begin at `from`.
+    explicit TbxLines(std::string_view bytes, std::size_t from = 0)
+        : bytes_(bytes), crs_(bytes, '\r', from), next_(from) {}
 
     /// Whether the end of the file has been reached. This is true as soon as the last line has been read.
     bool AtEnd() const { return next_ == bytes_.size(); }
@@ -33,7 +35,7 @@ private:
     BytePositions crs_;
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
-    std::size_t next_ = 0;
+    std::size_t next_;
 };
 
 inline void TbxLines::Next() {

@@ -3,6 +3,7 @@
 #include "common/number/Number.h"
 #include "common/text/CodePage.h"
 #include "grid/Grid.h"
+#include "grid/GridTail.h"
 #include "table/model/TableHost.h"
 #include "table/model/TableModel.h"
 #include "table/model/TbxFormat.h"
@@ -13,6 +14,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 namespace korvane {
@@ -68,23 +71,129 @@ std::string WithFullLineEnds(std::string_view slice) {
 
 } // namespace
 
-TbxReader::TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes)
+/// The second half of the rows of a large file, which is read in a thread of its own.
+class TbxReader::SecondHalf {
+public:
+    SecondHalf(const TbxReader& firstHalf, std::size_t from)
+        : rows_(firstHalf.grid_.BeginTail()),
+          reader_(firstHalf, rows_->Rows(), from),
+          thread_([this] { Read(); }) {}
+    SecondHalf(const SecondHalf&) = delete;
+    SecondHalf& operator=(const SecondHalf&) = delete;
+    ~SecondHalf() { Wait(); }
+
+    /// Puts the rows after those of the first half. False when there is more in this half than rows, or the
+    /// table can't hold them.
+    bool Append() {
+        Wait();
+        return isRead_ && rows_->Append();
+    }
+
+private:
+    void Read() {
+        try {
+            isRead_ = reader_.ReadLines();
+        } catch (...) {
+            // The first half goes on with these lines, and meets the same.
+        }
+    }
+    void Wait() {
+        if (thread_.joinable()) thread_.join();
+    }
+
+    std::unique_ptr<GridTail> rows_;
+    TbxReader reader_;
+    bool isRead_ = false;
+    std::thread thread_;
+};
+
+TbxReader::TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes,
+                     std::size_t large)
     : table_(table),
       host_(host),
       grid_(table.GridStore()),
       sortOnHeaderClick_(sortOnHeaderClick),
       bytes_(bytes.View()),
-      lines_(bytes_) {
+      lines_(bytes_),
+      end_(bytes_.size()),
+      half_(bytes_.size() < large ? bytes_.size() : bytes_.size() / 2) {
     grid_.AdoptBytes(bytes);
 }
 
+TbxReader::TbxReader(const TbxReader& firstHalf, Grid& rows, std::size_t from)
+    : table_(firstHalf.table_),
+      host_(firstHalf.host_),
+      grid_(rows),
+      sortOnHeaderClick_(firstHalf.sortOnHeaderClick_),
+      bytes_(firstHalf.bytes_),
+      lines_(bytes_, from),
+      headerCount_(firstHalf.headerCount_),
+      columnCount_(firstHalf.columnCount_),
+      columnsStand_(true),
+      gridHidden_(true),
+      end_(bytes_.size()),
+      half_(bytes_.size()),
+      isSecond_(true) {}
+
+TbxReader::~TbxReader() = default;
+
 TbxReader::Outcome TbxReader::Read() {
+    if (!ReadLines()) return Outcome::TooManyColumns;
+    if (second_ == nullptr) return Outcome::Done;
+    if (second_->Append()) {
+        HideGrid();
+        return Outcome::Done;
+    }
+    GiveUpSecondHalf();
+    return ReadLines() ? Outcome::Done : Outcome::TooManyColumns;
+}
+
+/// Every data line after the one that begins the first row calls this.
+void TbxReader::HideGrid() {
+    if (!std::exchange(gridHidden_, true)) grid_.SetGridVisible(false);
+}
+
+/// False when a line asks for what the table can't hold, or what a second half can't do.
+bool TbxReader::ReadLines() {
     while (!lines_.AtEnd()) {
         if (!std::exchange(pushedBack_, false)) lines_.Next();
         if (TakePlainCells()) continue;
-        if (!TakeLine()) return Outcome::TooManyColumns;
+        pushedBack_ = lines_.Begin() >= end_;
+        if (pushedBack_) return true;
+        if (!TakeLine()) return false;
     }
-    return Outcome::Done;
+    return true;
+}
+
+/// The first row begins. In the middle of the file a line that begins a row is looked for: it begins with the
+/// same state whatever comes before it, so that what follows can be read apart.
+void TbxReader::BeginSecondHalf() {
+    static constexpr std::string_view kLineEndAndRow = "\r\n@row";
+    static_assert(kLineEndAndRow.ends_with(tbx::kRow));
+    const std::size_t found = bytes_.find(kLineEndAndRow, half_);
+    if (found == std::string_view::npos) return;
+    const std::size_t from = found + kLineEndAndRow.size() - tbx::kRow.size();
+    if (from <= lines_.Begin() || IsLastLine(from)) return;
+    try {
+        second_ = std::make_unique<SecondHalf>(*this, from);
+        end_ = from;
+    } catch (const std::system_error&) {
+        // There is no room for another thread.
+    }
+}
+
+/// What the last line of a file does depends on the line before it.
+bool TbxReader::IsLastLine(std::size_t begin) const {
+    TbxLines lines(bytes_, begin);
+    lines.Next();
+    return lines.AtEnd();
+}
+
+/// This reader goes on with its lines.
+void TbxReader::GiveUpSecondHalf() {
+    second_.reset();
+    end_ = bytes_.size();
+    half_ = bytes_.size();
 }
 
 inline bool TbxReader::CellEndsHere() const {
@@ -142,6 +251,9 @@ void TbxReader::TakeHeaderLine(std::string_view value) {
 /// Column lines hold a name and a width in turn. After a column line among the data, rows are counted from 1
 /// again.
 bool TbxReader::TakeColumnLine(std::string_view value) {
+    if (isSecond_) return false;
+    // The second half was begun without this column.
+    if (second_ != nullptr) GiveUpSecondHalf();
     if (!expectWidth_) {
         ++columnCount_;
         table_.ColumnNames.Set(columnCount_, grid_.Page().ToText(value));
@@ -158,8 +270,8 @@ bool TbxReader::TakeColumnLine(std::string_view value) {
 void TbxReader::TakeDataLine(std::string_view line) {
     if (row_ == Row{0})
         SetUpColumns();
-    else if (!std::exchange(gridHidden_, true))
-        grid_.SetGridVisible(false);
+    else
+        HideGrid();
     if (tbx::Begins(line, tbx::kCol)) {
         ++col_;
         inCell_ = true;
@@ -198,6 +310,7 @@ void TbxReader::StartRow() {
     // What comes after the last row that a table can have belongs to no row.
     row_ = std::min(row_ + 1, kMaxRows + 1);
     if (row_ <= kMaxRows) grid_.SetRowCount(row_);
+    if (row_ == Row{1} && half_ < bytes_.size()) BeginSecondHalf();
     rowDressed_ = false;
     inCell_ = false;
 }

@@ -5,7 +5,9 @@
 #include "platform/MessageBoxes.h"
 #include "table/model/TbxLines.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 namespace korvane {
@@ -19,13 +21,32 @@ class TbxReader {
 public:
     enum class Outcome : std::uint8_t { Done, TooManyColumns };
 
+    /// The rows of a file of this size are read in two threads. A smaller one is read before a thread has
+    /// begun.
+    static constexpr std::size_t kLarge = std::size_t{8} << 20;
+
     /// The grid has to be empty, and keeps the bytes. `sortOnHeaderClick` becomes its switch of this name.
-    TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes);
+    TbxReader(TableModel& table, TableHost& host, bool sortOnHeaderClick, const SharedBytes& bytes,
+              std::size_t large = kLarge);
+    TbxReader(const TbxReader&) = delete;
+    TbxReader& operator=(const TbxReader&) = delete;
+    ~TbxReader();
 
     /// Stops at the name of the first column that a table can't hold any more. What was read before stays.
     Outcome Read();
 
 private:
+    class SecondHalf;
+
+    /// A reader of the rows from `from` on, which fills `rows`. The first half has been read up to its first
+    /// row.
+    TbxReader(const TbxReader& firstHalf, Grid& rows, std::size_t from);
+
+    bool ReadLines();
+    void HideGrid();
+    void BeginSecondHalf();
+    bool IsLastLine(std::size_t begin) const;
+    void GiveUpSecondHalf();
     bool TakeLine();
     void TakeHeaderLine(std::string_view value);
     bool TakeColumnLine(std::string_view value);
@@ -62,6 +83,14 @@ private:
     bool rowDressed_ = false;
     bool colourLineSeen_ = false;
     bool inCell_ = false;
+
+    /// Lines from here on belong to the second half.
+    std::size_t end_;
+    /// The half of the file at which one that is large enough is divided; its end for another one.
+    std::size_t half_;
+    /// Whether this reader reads a second half.
+    bool isSecond_ = false;
+    std::unique_ptr<SecondHalf> second_;
 };
 
 /// What the user is shown when a load ended with `TooManyColumns`.
