@@ -199,7 +199,10 @@ void GridView::WriteWidths() {
 
 void GridView::ReadLook() {
     const Grid& store = box_->Store();
-    horizontalHeader()->setFont(QApplication::font());
+    // The captions use the glyphs of all other texts of the window, and not those of the cells' strategy.
+    QFont captions = QApplication::font();
+    captions.setStyleStrategy(QFont::PreferDefault);
+    horizontalHeader()->setFont(captions);
     FitHeader();
     const FontSpec own{Text(Shown(store.GridFontName())), store.GridFontSize(), false};
     QFont font = WithSpec(WithSpec(QApplication::font(), box_->Font), own);

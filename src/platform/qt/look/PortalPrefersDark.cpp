@@ -3,6 +3,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QFileInfo>
 
 namespace korvane {
 
@@ -11,10 +12,19 @@ namespace {
 /// The value with which the desktop answers "prefer dark".
 constexpr uint kPrefersDark = 1;
 
+/// Whether programs of the desktop can be reached. Where they can't, the library of the bus would start a bus
+/// of its own, which takes time and leaves a process there that nobody asked for.
+bool HasSessionBus() {
+    if (qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return true;
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !folder.isEmpty() && QFileInfo::exists(folder + QStringLiteral("/bus"));
+}
+
 } // namespace
 
 bool DesktopPrefersDark() {
     constexpr int kPatience = 250;
+    if (!HasSessionBus()) return false;
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) return false;
     QDBusMessage question = QDBusMessage::createMethodCall(
