@@ -39,8 +39,14 @@ endif()
 
 # What is delivered stops at once where a fault would otherwise let a hostile file go on with broken memory. The
 # sanitizers find more in the other builds, and don't go together with _FORTIFY_SOURCE.
-if(KORVANE_HARDENING AND NOT WIN32)
+if(KORVANE_HARDENING)
     add_compile_options($<$<CONFIG:Release>:-fstack-protector-strong>)
     add_compile_definitions($<$<CONFIG:Release>:_FORTIFY_SOURCE=2> _GLIBCXX_ASSERTIONS)
-    add_link_options($<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+    if(WIN32)
+        # The first option has the protector's own library linked.
+        add_link_options($<$<CONFIG:Release>:-fstack-protector-strong>
+            $<$<CONFIG:Release>:LINKER:--dynamicbase,--nxcompat,--high-entropy-va>)
+    else()
+        add_link_options($<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+    endif()
 endif()
