@@ -1,6 +1,6 @@
 #include "app/StartArguments.h"
+#include "common/path/ProcessCommandLine.h"
 #include "platform/qt/base/Convert.h"
-#include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/WindowsText.h"
 
 #include <windows.h>

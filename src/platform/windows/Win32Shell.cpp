@@ -1,8 +1,8 @@
 #include "platform/windows/Win32Shell.h"
 
+#include "common/path/ProcessCommandLine.h"
 #include "common/path/WebAddress.h"
 #include "common/text/CaseFold.h"
-#include "platform/windows/ProcessCommandLine.h"
 #include "platform/windows/RecycleStore.h"
 #include "platform/windows/Win32SystemFolders.h"
 #include "platform/windows/WindowsText.h"

@@ -1,4 +1,4 @@
-#include "platform/windows/ProcessCommandLine.h"
+#include "common/path/ProcessCommandLine.h"
 
 #include <gtest/gtest.h>
 
