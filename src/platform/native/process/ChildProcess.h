@@ -12,7 +12,7 @@ namespace korvane {
 
 /// Another program that does something with files in a folder and ends by itself.
 struct ChildTask {
-    /// The program's file, and its arguments. No shell reads them.
+    /// The program's file, and its arguments, which are UTF-8. No shell reads them.
     std::filesystem::path program{};
     std::vector<std::string> arguments{};
     /// Where it runs. It has its temporary files and its settings there too.
@@ -33,7 +33,7 @@ enum class ChildEnd : std::uint8_t { Succeeded, Failed, TimedOut, Cancelled };
 /// the system lets it be kept from it.
 ChildEnd RunChild(const ChildTask& task, const std::function<bool()>& goOn);
 
-/// The file of a program in the folders of programs; empty if it isn't installed.
+/// The file of a program, whose name is without an extension; empty if it isn't installed.
 std::filesystem::path FindProgram(const std::string& name);
 
 } // namespace korvane
