@@ -1,13 +1,16 @@
 #include "common/path/ProcessCommandLine.h"
+#include "platform/native/SystemCalls.h"
 #include "platform/native/process/ChildProcess.h"
 #include "platform/windows/WindowsText.h"
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <system_error>
 
 namespace korvane {
@@ -174,6 +177,52 @@ ChildEnd WaitFor(HANDLE process, const ChildTask& task, const std::function<bool
     return HowItEnded(process, task);
 }
 
+/// The program as its installation has told the system; empty if it hasn't.
+fs::path RegisteredProgram(const std::wstring& file) {
+    const std::wstring key = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\" + file;
+    for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        std::array<wchar_t, MAX_PATH> value{};
+        DWORD bytes = sizeof value;
+        if (RegGetValueW(root, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value.data(), &bytes) ==
+            ERROR_SUCCESS)
+            return value.data();
+    }
+    return {};
+}
+
+/// Below the folders of programs.
+constexpr const wchar_t* kUsualFolders[] = {L"LibreOffice\\program", L"poppler\\Library\\bin",
+                                            L"poppler\\bin", L"antiword"};
+
+std::vector<fs::path> UsualFolders() {
+    std::vector<fs::path> folders;
+    for (const wchar_t* programs : {L"ProgramFiles", L"ProgramW6432", L"ProgramFiles(x86)"}) {
+        for (const wchar_t* folder : kUsualFolders)
+            folders.push_back(fs::path(OwnValue(programs)) / folder);
+    }
+    // Not every such program has an installation. A user may unpack one beside this program.
+    folders.push_back(system_calls::ExecutablePath().parent_path());
+    return folders;
+}
+
+std::vector<fs::path> FoldersOfPath() {
+    std::vector<fs::path> folders;
+    const std::wstring path = OwnValue(L"PATH");
+    std::wstring_view rest = path;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find(L';'), rest.size());
+        folders.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return folders;
+}
+
+/// A folder that isn't named in full would be searched for in the current one, which anybody may have filled.
+bool IsProgramFile(const fs::path& file) {
+    std::error_code error;
+    return file.is_absolute() && fs::is_regular_file(file, error);
+}
+
 } // namespace
 
 ChildEnd RunChild(const ChildTask& task, const std::function<bool()>& goOn) {
@@ -198,6 +247,17 @@ ChildEnd RunChild(const ChildTask& task, const std::function<bool()>& goOn) {
     }
     ResumeThread(thread.get());
     return WaitFor(process.get(), task, goOn);
+}
+
+fs::path FindProgram(const std::string& name) {
+    const std::wstring file = ToWide(FromUtf8(name)) + L".exe";
+    std::vector<fs::path> places{RegisteredProgram(file)};
+    for (const auto& folders : {UsualFolders(), FoldersOfPath()}) {
+        for (const fs::path& folder : folders)
+            places.push_back(folder / file);
+    }
+    const auto found = std::ranges::find_if(places, IsProgramFile);
+    return found == places.end() ? fs::path() : *found;
 }
 
 } // namespace korvane

@@ -107,5 +107,49 @@ TEST_F(WindowsChildProcessTest, ItGetsNoMoreMemoryThanItMayHave) {
     EXPECT_EQ(RunChild(task, Always), ChildEnd::Failed);
 }
 
+/// Has an environment variable another value for a while.
+class Variable {
+public:
+    Variable(std::wstring name, const std::wstring& value) : name_(std::move(name)) {
+        const wchar_t* const old = _wgetenv(name_.c_str());
+        if (old != nullptr) old_ = old;
+        _wputenv_s(name_.c_str(), value.c_str());
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+    ~Variable() { _wputenv_s(name_.c_str(), old_.c_str()); }
+
+private:
+    std::wstring name_;
+    std::wstring old_;
+};
+
+TEST_F(WindowsChildProcessTest, ProgramsAreFoundWhereTheyAreUsuallyInstalled) {
+    EXPECT_TRUE(FindProgram("korvane-has-no-such-program").empty());
+    fs::create_directories(dir / "LibreOffice" / "program");
+    WriteBytes(dir / "LibreOffice" / "program" / "soffice.exe", "");
+    const Variable programs(L"ProgramFiles", dir.Path().wstring());
+    EXPECT_EQ(FindProgram("soffice"), dir / "LibreOffice" / "program" / "soffice.exe");
+}
+
+TEST_F(WindowsChildProcessTest, ProgramsAreFoundInTheFoldersOfThePath) {
+    WriteBytes(dir / "pdftohtml.exe", "");
+    const Variable path(L"PATH", L"C:\\missing;" + dir.Path().wstring() + L";relative");
+    EXPECT_EQ(FindProgram("pdftohtml"), dir / "pdftohtml.exe");
+}
+
+TEST_F(WindowsChildProcessTest, NoProgramIsFoundInTheCurrentFolder) {
+    WriteBytes(dir / "pdftohtml.exe", "");
+    const fs::path before = fs::current_path();
+    fs::current_path(dir.Path());
+    const Variable path(L"PATH", L".;;C:");
+    EXPECT_EQ(FindProgram("pdftohtml"), "");
+    fs::current_path(before);
+}
+
+TEST_F(WindowsChildProcessTest, AProgramBesideThisOneIsFound) {
+    EXPECT_EQ(FindProgram("child_probe"), ChildProbe());
+}
+
 } // namespace
 } // namespace korvane
