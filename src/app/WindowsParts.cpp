@@ -1,4 +1,7 @@
 #include "app/SystemParts.h"
+#include "platform/native/process/ChildProcess.h"
+#include "platform/native/process/NativeDocumentConverter.h"
+#include "platform/qt/services/QtPatience.h"
 #include "platform/windows/ExcelAutomation.h"
 #include "platform/windows/FileTypeName.h"
 #include "platform/windows/Win32CommandBox.h"
@@ -16,6 +19,7 @@ public:
     InstanceChannel& Channel() override { return channel_; }
     Shell& Desktop() override { return shell_; }
     const SystemFolders& Folders() const override { return folders_; }
+    DocumentConverter* Converter() override { return &converter_; }
     std::unique_ptr<Spreadsheet> SpreadsheetApplication() override { return StartExcel(); }
     Text FileTypeName(TextView extension) const override { return korvane::FileTypeName(extension); }
     void MainWindowShown(std::uintptr_t window) override { box_.MoveTo(window); }
@@ -26,6 +30,7 @@ private:
     WindowHandOver channel_{windows_, box_};
     Win32Shell shell_;
     Win32SystemFolders folders_;
+    NativeDocumentConverter converter_{FindProgram, BeginPatience};
 };
 
 } // namespace

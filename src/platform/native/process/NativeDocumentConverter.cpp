@@ -2,13 +2,11 @@
 
 #include "common/text/Text.h"
 #include "platform/native/ReadFile.h"
+#include "platform/native/SystemCalls.h"
 #include "platform/native/process/ChildProcess.h"
 
-#include <unistd.h>
-
-#include <algorithm>
-#include <cstdlib>
 #include <fstream>
+#include <random>
 #include <span>
 #include <system_error>
 #include <vector>
@@ -25,9 +23,14 @@ constexpr std::size_t kMostBytes = std::size_t{64} << 20;
 class ScratchFolder {
 public:
     ScratchFolder() {
+        constexpr int kTries = 100;
         std::error_code error;
-        std::string name = (fs::temp_directory_path(error) / "korvane-XXXXXX").string();
-        if (!error && mkdtemp(name.data()) != nullptr) path_ = name;
+        const fs::path folder = fs::temp_directory_path(error);
+        std::random_device random;
+        for (int left = error ? 0 : kTries; left > 0 && path_.empty(); --left) {
+            const fs::path name = folder / ("korvane-" + std::to_string(random()));
+            if (system_calls::MakePrivateDir(name)) path_ = name;
+        }
     }
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
@@ -49,14 +52,25 @@ bool Write(const fs::path& path, std::string_view bytes) {
     return static_cast<bool>(file.flush());
 }
 
+/// A path as an argument.
+std::string Utf8(const fs::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+bool IsPlainInUrl(char character) {
+    constexpr std::string_view kPlain = "/-_.:0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    return kPlain.find(character) != std::string_view::npos;
+}
+
 std::string UrlOf(const fs::path& path) {
-    std::string url = "file://";
-    for (const char character : path.string()) {
-        const bool plain = std::isalnum(static_cast<unsigned char>(character)) != 0 ||
-                           std::string_view("/-_.").find(character) != std::string_view::npos;
+    const std::u8string text = path.generic_u8string();
+    std::string url = text.starts_with(u8'/') ? "file://" : "file:///";
+    for (const char8_t unit : text) {
+        const char character = static_cast<char>(unit);
         constexpr char kHex[] = "0123456789ABCDEF";
         const auto code = static_cast<unsigned char>(character);
-        if (plain)
+        if (IsPlainInUrl(character))
             url += character;
         else
             url.append({'%', kHex[code >> 4], kHex[code & 15]});
@@ -91,8 +105,8 @@ std::vector<std::string> Office(const fs::path& folder, const char* format) {
             "--convert-to",
             format,
             "--outdir",
-            (folder / "out").string(),
-            (folder / "in").string()};
+            Utf8(folder / "out"),
+            Utf8(folder / "in")};
 }
 std::vector<std::string> OfficeToRtf(const fs::path& folder) {
     return Office(folder, "rtf");
@@ -101,17 +115,11 @@ std::vector<std::string> OfficeToDoc(const fs::path& folder) {
     return Office(folder, "doc:MS Word 97");
 }
 std::vector<std::string> AntiwordToText(const fs::path& folder) {
-    return {"-t", "-w", "0", "-m", "UTF-8.txt", (folder / "in").string()};
+    return {"-t", "-w", "0", "-m", "UTF-8.txt", Utf8(folder / "in")};
 }
 std::vector<std::string> PdfToXml(const fs::path& folder) {
-    return {"-xml",
-            "-i",
-            "-q",
-            "-nodrm",
-            "-enc",
-            "UTF-8",
-            (folder / "in").string(),
-            (folder / "out" / "in.xml").string()};
+    return {
+        "-xml", "-i", "-q", "-nodrm", "-enc", "UTF-8", Utf8(folder / "in"), Utf8(folder / "out" / "in.xml")};
 }
 
 std::string Same(std::string_view bytes) {
