@@ -4,6 +4,7 @@
 #include <QStyle>
 #include <QStyleOptionViewItem>
 #include <QWidget>
+#include <cmath>
 
 namespace korvane {
 
@@ -13,8 +14,7 @@ using Item = QStyleOptionViewItem;
 
 bool IsPlain(const Item& item) {
     return item.widget != nullptr && !item.features.testFlag(Item::HasCheckIndicator) &&
-           !item.state.testFlag(QStyle::State_HasFocus) && item.decorationPosition == Item::Left &&
-           item.direction == Qt::LeftToRight;
+           item.decorationPosition == Item::Left && item.direction == Qt::LeftToRight;
 }
 
 void PaintIcon(QPainter& painter, const Item& item, const QRect& area) {
@@ -35,7 +35,31 @@ QColor TextColour(const Item& item) {
     return item.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
 }
 
+/// The left end of the base line of a text with this width.
+QPointF TextPlace(const Item& item, const QRect& area, int width) {
+    const QFontMetricsF metrics(item.font);
+    const qreal high = std::ceil(metrics.ascent() + metrics.descent());
+    const QRect place = QStyle::alignedRect(item.direction, item.displayAlignment, QSize(width, 0), area);
+    return {static_cast<qreal>(place.left()), area.top() + (area.height() - high) / 2 + metrics.ascent()};
+}
+
+/// The ring around the cell that has the keyboard.
+void PaintRing(QPainter& painter, const Item& item, const QStyle& style) {
+    QStyleOptionFocusRect ring;
+    ring.QStyleOption::operator=(item);
+    ring.rect = style.subElementRect(QStyle::SE_ItemViewItemFocusRect, &item, item.widget);
+    ring.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+    const bool selected = item.state.testFlag(QStyle::State_Selected);
+    ring.backgroundColor = item.palette.color(selected ? QPalette::Highlight : QPalette::Window);
+    style.drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, item.widget);
+}
+
 } // namespace
+
+std::optional<int> PlainCells::TextWidth(const QString& text, const QFont& font) {
+    const auto width = glyphs_.WidthOf(text, font);
+    return width ? std::optional(static_cast<int>(std::ceil(*width))) : std::nullopt;
+}
 
 bool PlainCells::Paint(QPainter& painter, const QStyleOptionViewItem& item) {
     if (!IsPlain(item)) return false;
@@ -47,14 +71,14 @@ bool PlainCells::Paint(QPainter& painter, const QStyleOptionViewItem& item) {
     const QRect iconArea(item.rect.left(), item.rect.top(), rest.left() - item.rect.left(),
                          item.rect.height());
     rest.adjust(margin, 0, -margin, 0);
-    const auto width = widths_.AtMost(item.text, item.font);
+    const auto width = TextWidth(item.text, item.font);
     if (!width || *width > rest.width()) return false;
 
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &item, &painter, item.widget);
     if (hasIcon) PaintIcon(painter, item, iconArea);
     painter.setPen(TextColour(item));
-    painter.setFont(item.font);
-    painter.drawText(rest, static_cast<int>(item.displayAlignment) | Qt::TextSingleLine, item.text);
+    glyphs_.Draw(painter, TextPlace(item, rest, *width), item.text);
+    if (item.state.testFlag(QStyle::State_HasFocus)) PaintRing(painter, item, style);
     return true;
 }
 

@@ -19,7 +19,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 private:
-    int WidthOf(const QString& text, const QFontMetrics& metrics) const;
+    int WidthOf(const QString& text, const QFont& font) const;
 
     /// What a line takes besides its text, and what texts take, with this font.
     mutable QFont font_;
