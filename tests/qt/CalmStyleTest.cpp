@@ -98,6 +98,55 @@ TEST_F(CalmStyleTest, AFieldHasAnEdgeOnALightWindowToo) {
     EXPECT_GT(EdgeOf(line, {0, 12}), 1.3);
 }
 
+TEST_F(CalmStyleTest, AListHasAFrameOnAllSides) {
+    for (const QPalette& palette : {style.standardPalette(), DarkPalette()}) {
+        const test::UnderPalette under(palette);
+        QListWidget list;
+        list.setStyle(&style);
+        list.resize(120, 60);
+        const QImage picture = list.grab().toImage();
+        for (const QPoint& place :
+             {QPoint(60, 0), QPoint(60, 59), QPoint(0, 30), QPoint(119, 30), QPoint(0, 0)}) {
+            EXPECT_EQ(QColor(picture.pixel(place)).name(),
+                      palette.color(QPalette::Window).darker(140).lighter(108).name());
+        }
+        EXPECT_EQ(QColor(picture.pixel(1, 1)).name(), palette.color(QPalette::Base).name());
+    }
+}
+
+TEST_F(CalmStyleTest, OfALineWhatIsToBeSeenIsDrawn) {
+    QTreeView tree;
+    QStyleOptionViewItem line;
+    line.initFrom(&tree);
+    line.rect = QRect(0, 0, 40, 20);
+    const auto draws = [&](QStyle::PrimitiveElement element, const QStyleOptionViewItem& item) {
+        QImage picture(line.rect.size(), QImage::Format_RGB32);
+        picture.fill(Qt::magenta);
+        const QImage empty = picture;
+        QPainter painter(&picture);
+        style.drawPrimitive(element, &item, &painter, &tree);
+        painter.end();
+        return picture != empty;
+    };
+    for (const auto element :
+         {QStyle::PE_PanelItemViewItem, QStyle::PE_PanelItemViewRow, QStyle::PE_IndicatorBranch})
+        EXPECT_FALSE(draws(element, line));
+    QStyleOptionViewItem coloured = line;
+    coloured.backgroundBrush = Qt::green;
+    EXPECT_TRUE(draws(QStyle::PE_PanelItemViewItem, coloured));
+    QStyleOptionViewItem other = line;
+    other.features |= QStyleOptionViewItem::Alternate;
+    EXPECT_TRUE(draws(QStyle::PE_PanelItemViewRow, other));
+    QStyleOptionViewItem chosen = line;
+    chosen.state |= QStyle::State_Selected;
+    chosen.showDecorationSelected = true;
+    EXPECT_TRUE(draws(QStyle::PE_PanelItemViewItem, chosen));
+    EXPECT_TRUE(draws(QStyle::PE_PanelItemViewRow, chosen));
+    QStyleOptionViewItem parent = line;
+    parent.state |= QStyle::State_Children;
+    EXPECT_TRUE(draws(QStyle::PE_IndicatorBranch, parent));
+}
+
 TEST_F(CalmStyleTest, ChosenLinesOfListsAndMenusAreEasyToRead) {
     QPalette light = style.standardPalette();
     style.polish(light);

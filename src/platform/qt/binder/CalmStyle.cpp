@@ -29,17 +29,28 @@ QColor EdgeOnDark(const QPalette& palette) {
     return Blend(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.35);
 }
 
-/// The edge of a field for texts, without its corners. A rounded line takes ten times as long, and a window
-/// may have many fields.
+/// The edge of an area, as narrow areas of their own. A line is drawn point by point, which takes ten times
+/// as long.
+void FillEdge(QPainter& painter, const QRect& all, const QColor& colour, int freeAtCorners) {
+    for (const int y : {all.top(), all.bottom()})
+        painter.fillRect(all.left() + freeAtCorners, y, all.width() - 2 * freeAtCorners, 1, colour);
+    for (const int x : {all.left(), all.right()})
+        painter.fillRect(x, all.top() + 1, 1, all.height() - 2, colour);
+}
+
+/// The edge of a field for texts, which looks round without its corners.
 void DrawField(const QStyleOption& option, QPainter& painter) {
     const QPalette& palette = option.palette;
     const QColor colour =
         IsDark(palette) ? EdgeOnDark(palette) : palette.color(QPalette::Window).darker(kFieldEdge);
-    const QRect& all = option.rect;
-    for (const int y : {all.top(), all.bottom()})
-        painter.fillRect(all.left() + 1, y, all.width() - 2, 1, colour);
-    for (const int x : {all.left(), all.right()})
-        painter.fillRect(x, all.top() + 1, 1, all.height() - 2, colour);
+    FillEdge(painter, option.rect, colour, 1);
+}
+
+/// The frame of a list or of a text, in the colour in which Fusion draws it.
+void DrawFrame(const QStyleOption& option, QPainter& painter) {
+    constexpr int kLighter = 108;
+    const QColor colour = option.palette.color(QPalette::Window).darker(kFieldEdge).lighter(kLighter);
+    FillEdge(painter, option.rect, colour, 0);
 }
 
 /// Whether the element is drawn as a hollow in its window. On a dark window it could not be seen without an
@@ -95,12 +106,26 @@ QRect RingPlace(const QStyleOption& option, const QWidget* widget) {
     return flat ? option.rect.adjusted(-kOut, -kOut, kOut, kOut) : option.rect;
 }
 
+bool IsScrolled(const QWidget* widget) {
+    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
 /// Whether the frame is that of a control that shows the keyboard by it: a list, a text, or a value that can
 /// be walked with the keyboard.
 bool IsRinged(const QWidget* widget) {
-    return qobject_cast<const QAbstractScrollArea*>(widget) != nullptr ||
-           qobject_cast<const TilesView*>(widget) != nullptr ||
+    return IsScrolled(widget) || qobject_cast<const TilesView*>(widget) != nullptr ||
            qobject_cast<const QLabel*>(widget) != nullptr;
+}
+
+/// Whether nothing is to be seen of a part of a line in a list or tree. That is so for most of them, and
+/// Fusion mixes its colours before it looks.
+bool IsUnseen(QStyle::PrimitiveElement element, const QStyleOption& option) {
+    if (element == QStyle::PE_IndicatorBranch) return !option.state.testFlag(QStyle::State_Children);
+    if (element != QStyle::PE_PanelItemViewRow && element != QStyle::PE_PanelItemViewItem) return false;
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&option);
+    return item != nullptr && !item->state.testFlag(QStyle::State_Selected) &&
+           !item->features.testFlag(QStyleOptionViewItem::Alternate) &&
+           item->backgroundBrush.style() == Qt::NoBrush;
 }
 
 /// Makes the text of a chosen line easy to read.
@@ -141,6 +166,8 @@ void CalmStyle::polish(QPalette& palette) {
 
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
+    if (IsUnseen(element, *option)) return;
+    if (element == PE_Frame && IsScrolled(widget)) return DrawFrame(*option, *painter);
     if (element == PE_FrameFocusRect) return DrawRing(*painter, RingPlace(*option, widget), RingOf(*option));
     const bool focused = option->state.testFlag(State_HasFocus);
     if (element == PE_FrameLineEdit && !focused) return DrawField(*option, *painter);
