@@ -3,6 +3,7 @@
 #include "controls/Form.h"
 #include "platform/qt/adaptors/MenuAdaptor.h"
 #include "platform/qt/base/PopupPlace.h"
+#include "platform/qt/look/Icons.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -45,6 +46,7 @@ void QtFormHost::MakeAhead(std::string_view name) {
     auto look = entry->make();
     for (QWidget* part : look->findChildren<QWidget*>())
         part->ensurePolished();
+    SetIcons(*look);
     ahead_.emplace(entry->name, std::move(look));
 }
 

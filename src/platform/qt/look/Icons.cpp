@@ -106,6 +106,8 @@ QString IconName(const QObject& part) {
 template <class T>
 void SetIconsOf(QWidget& window) {
     for (T* part : window.findChildren<T*>()) {
+        // A look that was made ahead has its icons.
+        if (!part->icon().isNull()) continue;
         const QIcon icon = TintedIcon(IconName(*part));
         if (!icon.isNull()) part->setIcon(icon);
     }
