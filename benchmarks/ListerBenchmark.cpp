@@ -13,6 +13,7 @@
 #include "grid/GridStore.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/native/NativePath.h"
+#include "platform/native/NativePatientDisk.h"
 #include "platform/qt/binder/CalmStyle.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/services/QtFileTypes.h"
@@ -57,13 +58,10 @@ constexpr int kVeryMany = 100'000;
     std::exit(1);
 }
 
-/// Folders of small files, which go again at the end.
+/// Folders of small files, which are made when they are needed and go again at the end.
 class Folders {
 public:
-    Folders() : root_(fs::temp_directory_path() / ("korvane-lister-" + std::to_string(getpid()))) {
-        for (const int files : {kFew, kMany, kVeryMany})
-            Fill(files);
-    }
+    Folders() : root_(fs::temp_directory_path() / ("korvane-lister-" + std::to_string(getpid()))) {}
     Folders(const Folders&) = delete;
     Folders& operator=(const Folders&) = delete;
     ~Folders() {
@@ -71,17 +69,20 @@ public:
         fs::remove_all(root_, ignored);
     }
 
-    fs::path Of(int files) const { return root_ / std::to_string(files); }
+    fs::path Of(int files) const {
+        fs::path folder = root_ / std::to_string(files);
+        if (fs::create_directories(folder)) Fill(folder, files);
+        return folder;
+    }
 
 private:
-    void Fill(int files) const {
+    static void Fill(const fs::path& folder, int files) {
         static constexpr std::array kEnds{".docx", ".txt", ".tbx", ".pdf", ".jpg", ".rtf", ".csv", ""};
-        fs::create_directories(Of(files));
         for (int number = 0; number < files; ++number) {
             const auto spread = static_cast<std::size_t>(number * 7919LL % files);
             const std::string name =
                 "Report of department " + std::to_string(spread) + kEnds[spread % kEnds.size()];
-            std::ofstream(Of(files) / name) << std::string(spread % 97, 'x');
+            std::ofstream(folder / name) << std::string(spread % 97, 'x');
         }
     }
 
@@ -109,12 +110,13 @@ public:
         app.Settings.TreeFormHeight = 9600;
         app.Settings.TreeFormWidthB = 300;
         app.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
+        app.SetPort<PatientDisk>(&patientDisk_);
     }
     void GoTo(const fs::path& folder) { app.Settings.TreeFormLastPath = FromNativePath(folder); }
     QWidget& WidgetOf(Form& form) { return *forms.WidgetOf(form); }
 
     MemoryClock clock;
-    NativeFileSystem files{u"/nowhere"};
+    NativeFileSystem files{Text(kNoFolder)};
     ScriptedMessageBoxes messages;
     MemoryClipboard clipboard;
     QtScreen screen;
@@ -125,12 +127,16 @@ public:
     App app{Platform()};
 
 private:
+    static constexpr TextView kNoFolder = u"/nowhere";
+
     App::Platform Platform() {
         App::Platform platform{
             files, messages, clipboard, clock, screen, shell, instance, forms, [] { return nullptr; }};
         platform.fileTypes = &fileTypes;
         return platform;
     }
+
+    NativePatientDisk patientDisk_{[] { return std::make_unique<NativeFileSystem>(Text(kNoFolder)); }};
 };
 
 /// The window on a folder, with all its files painted.
