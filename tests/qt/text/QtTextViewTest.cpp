@@ -681,6 +681,29 @@ TEST_F(QtTextViewTest, ControlCharactersDoNotChangeTheText) {
     EXPECT_FALSE(view.Mirror().Current().defaultTextOption().flags() & QTextOption::ShowTabsAndSpaces);
 }
 
+TEST_F(QtTextViewTest, ATextThatGotShorterIsZoomedBeforeItIsShown) {
+    control.SetAll(Text(5000, u'x') + u"\r\n" + Text(5000, u'y'));
+    Settle();
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    control.SetAll(u"z");
+    control.ZoomFactor = 200;
+    EXPECT_EQ(Shown(), "z");
+}
+
+TEST_F(QtTextViewTest, ASelectionThatEndsInATableLetsTheUserScroll) {
+    Text lines;
+    for (int i = 0; i < 200; ++i)
+        lines += u"line\r\n";
+    control.SetAll(lines);
+    control.SetSelStart(6);
+    control.InsertTable(2, 2);
+    control.SetSelection(0, 9);
+    Settle();
+    view.verticalScrollBar()->setValue(1000);
+    view.viewport()->repaint();
+    EXPECT_EQ(view.verticalScrollBar()->value(), 1000);
+}
+
 // Painting.
 
 int Painted(QtTextView& view, const QColor& colour) {

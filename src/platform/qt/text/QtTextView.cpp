@@ -46,6 +46,14 @@ doc::MemoryTextStore& StoreOf(TextControl& control) {
     return dynamic_cast<doc::MemoryTextStore&>(control.Store());
 }
 
+/// Qt takes the whole of a table into a selection that ends in it, and whole cells into one of several cells.
+QTextCursor Selecting(QTextDocument& document, int anchor, int position) {
+    QTextCursor cursor(&document);
+    cursor.setPosition(anchor);
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    return cursor;
+}
+
 } // namespace
 
 QtTextView::QtTextView(QWidget* parent) : QGraphicsView(parent), item_(new TextItem(*this)) {
@@ -252,7 +260,9 @@ void QtTextView::ReadSelection() {
     const int from = mirror_->ToQt(start);
     const int to = mirror_->ToQt(end);
     const QTextCursor cursor = item_->textCursor();
-    if (cursor.selectionStart() != from || cursor.selectionEnd() != to) SetCursor(from, to);
+    const QTextCursor wanted = Selecting(*item_->document(), from, to);
+    if (cursor.selectionStart() != wanted.selectionStart() || cursor.selectionEnd() != wanted.selectionEnd())
+        SetCursor(from, to);
     if (std::exchange(askedHigh_, false)) ScrollHigh();
     TellReaders();
     emit Seen();
@@ -276,14 +286,12 @@ void QtTextView::Select(doc::Pos from, doc::Pos to) {
 }
 
 doc::Pos QtTextView::CursorPosition() const {
+    mirror_->Shown();
     return mirror_->FromQt(item_->textCursor().position());
 }
 
 void QtTextView::SetCursor(int anchor, int position) {
-    QTextCursor cursor(item_->document());
-    cursor.setPosition(anchor);
-    cursor.setPosition(position, QTextCursor::KeepAnchor);
-    item_->setTextCursor(cursor);
+    item_->setTextCursor(Selecting(*item_->document(), anchor, position));
     ScrollTo(CursorAt(mirror_->FromQt(position)));
 }
 
@@ -326,9 +334,10 @@ void QtTextView::SetTop(const TextTop& top) {
 }
 
 QRectF QtTextView::CursorAt(doc::Pos position) const {
+    QTextDocument& document = mirror_->Shown();
     const int place = mirror_->ToQt(position);
-    const QTextBlock block = item_->document()->findBlock(place);
-    const QRectF rect = item_->document()->documentLayout()->blockBoundingRect(block);
+    const QTextBlock block = document.findBlock(place);
+    const QRectF rect = document.documentLayout()->blockBoundingRect(block);
     const QTextLayout& layout = *block.layout();
     const QTextLine line = layout.lineForTextPosition(place - block.position());
     if (!line.isValid()) return {rect.topLeft(), QSizeF(1, std::max(rect.height(), 1.0))};
@@ -337,7 +346,7 @@ QRectF QtTextView::CursorAt(doc::Pos position) const {
 }
 
 doc::Pos QtTextView::PlaceAt(const QPointF& point) const {
-    return mirror_->FromQt(PositionAtPoint(*item_->document(), point));
+    return mirror_->FromQt(PositionAtPoint(mirror_->Shown(), point));
 }
 
 CursorPlace QtTextView::Place() {
