@@ -11,6 +11,8 @@ public:
     Property<Text> Caption{*this, Aspect::Caption};
     /// `kNoColour` leaves it to the look of the window.
     Property<Colour> BackColor{*this, Aspect::Colours, kNoColour};
+    /// Of the letters; `kNoColour` is one that can be read on the background.
+    Property<Colour> ForeColor{*this, Aspect::Colours, kNoColour};
 };
 
 /// A part of a window that holds other controls: a frame, a picture box, a tool bar.

@@ -136,6 +136,18 @@ TEST_F(FormBinderTest, AColourOfItsOwnIsPaintedWithATextThatCanBeRead) {
     EXPECT_EQ(Widget<QPushButton>("cmdGo").palette().color(QPalette::Button), ToQColor(dark));
 }
 
+TEST_F(FormBinderTest, ALabelCanHaveATextColourOfItsOwn) {
+    constexpr Colour kBack{0x401000};
+    constexpr Colour kFore{0x0000FF};
+    form.lblName.BackColor = kBack;
+    form.lblName.ForeColor = kFore;
+    const auto& label = Widget<QLabel>("lblName");
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), ToQColor(kFore));
+    EXPECT_EQ(label.palette().color(QPalette::Window), ToQColor(kBack));
+    form.lblName.ForeColor = kNoColour;
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::white));
+}
+
 TEST_F(FormBinderTest, WithoutAColourItGoesWithTheWindow) {
     form.lblName.BackColor = Colour{0x401000};
     form.lblName.BackColor = kNoColour;

@@ -174,7 +174,9 @@ void frmViewEditField::ShowKind() {
 }
 
 void frmViewEditField::ShowColours() {
+    lblText.ForeColor = Colour{app_.Settings.Spare108};
     lblText.BackColor = Colour{app_.Settings.Spare109};
+    lblURL.ForeColor = Colour{app_.Settings.Spare106};
     lblURL.BackColor = Colour{app_.Settings.Spare107};
 }
 

@@ -158,7 +158,8 @@ LabelAdaptor::LabelAdaptor(Label& label, QLabel& widget)
 
 void LabelAdaptor::Write(Aspect aspect) {
     if (aspect == Aspect::Caption) WriteCaption();
-    if (aspect == Aspect::Colours) WriteBackColour(widget_, control_.BackColor, kWindowSurface);
+    if (aspect == Aspect::Colours)
+        WriteColours(widget_, control_.BackColor, control_.ForeColor, kWindowSurface);
     AdaptorOf::Write(aspect);
 }
 

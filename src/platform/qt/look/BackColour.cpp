@@ -18,4 +18,12 @@ void WriteBackColour(QWidget& widget, Colour back, const Surface& surface) {
     widget.setPalette(palette);
 }
 
+void WriteColours(QWidget& widget, Colour back, Colour fore, const Surface& surface) {
+    WriteBackColour(widget, back, surface);
+    if (fore == kNoColour) return;
+    QPalette palette = widget.palette();
+    palette.setColor(surface.text, ToQColor(fore));
+    widget.setPalette(palette);
+}
+
 } // namespace korvane

@@ -79,6 +79,17 @@ TEST_F(ShowFieldContents, AnAddressOfTheWebGoesToTheBrowserOfTheSettings) {
     EXPECT_EQ(t.shell.Starts()[0].arguments, (std::vector<Text>{u"www.a.b"}));
 }
 
+TEST_F(ShowFieldContents, ReturnAndEscWorkOnTheButtonToo) {
+    Open(u"www.a.b");
+    EXPECT_FALSE(PressReturn(window.cmdGotoLink, Mask::Shift));
+    EXPECT_TRUE(pages.viewed.empty());
+    EXPECT_TRUE(PressReturn(window.cmdGotoLink));
+    EXPECT_EQ(pages.viewed, (std::vector<Text>{u"www.a.b"}));
+    KeyEvent esc{Key::Escape, Mask::None};
+    window.cmdGotoLink.KeyDown(esc);
+    EXPECT_FALSE(window.Shown());
+}
+
 TEST_F(ShowFieldContents, AFileIsShownByItsTypeAlsoWithABrowserOfTheUser) {
     t.app.Settings.UseCustomBrowser = 1;
     t.files.AddFile(u"C:\\a.txt");

@@ -68,6 +68,8 @@ TEST_F(ViewEditField, ShowsANote) {
     EXPECT_FALSE(editor.txtAllFields.Visible);
     EXPECT_EQ(editor.lblText.BackColor.Get(), Colour{0xEEEEEE});
     EXPECT_EQ(editor.lblURL.BackColor.Get(), Colour{0xFFFFFF});
+    EXPECT_EQ(editor.lblText.ForeColor.Get(), Colour{t.app.Settings.Spare108});
+    EXPECT_EQ(editor.lblURL.ForeColor.Get(), Colour{t.app.Settings.Spare106});
     EXPECT_TRUE(editor.Close());
 }
 
@@ -282,6 +284,7 @@ TEST_F(ViewEditField, ChoosesFontsAndColours) {
     editor.cmdHyperColour.Press();
     EXPECT_EQ(t.app.Settings.Spare106, 1);
     EXPECT_EQ(t.app.Settings.Spare107, 2);
+    EXPECT_EQ(editor.lblURL.ForeColor.Get(), Colour{1});
     EXPECT_EQ(editor.lblURL.BackColor.Get(), Colour{2});
     pairs.answer.reset();
     editor.cmdTextColour.Press();
