@@ -2,7 +2,7 @@
 
 #include "document/docx/Docx.h"
 #include "document/docx/DocxParts.h"
-#include "document/model/EastAsian.h"
+#include "document/model/FontScripts.h"
 #include "document/model/Instruction.h"
 
 #include <algorithm>

@@ -49,6 +49,7 @@ inline constexpr std::size_t kScriptKinds = 3;
 
 /// What the words of a script say; the rest is as in the main one.
 struct ScriptLook {
+    std::optional<std::uint16_t> font{};
     std::optional<std::uint16_t> halfPoints{};
     std::optional<bool> bold{};
     std::optional<bool> italic{};
@@ -144,6 +145,7 @@ private:
     void CharFlag(const Value& value, std::int32_t flag);
     void SetScriptKind(const Value& value, std::int32_t kind);
     void ScriptFlag(const Value& value, std::int32_t flag);
+    void ScriptFont(const Value& value, std::int32_t);
     void ScriptSize(const Value& value, std::int32_t argument);
     CharFormat LookAtHand() const;
     void NoUnderline(const Value&, std::int32_t);

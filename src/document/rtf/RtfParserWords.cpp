@@ -158,6 +158,15 @@ void RtfParser::ScriptFlag(const Value& value, std::int32_t flag) {
     lookChanged_ = true;
 }
 
+/// Of East Asian fonts, some programs name one for text that isn't of that script.
+void RtfParser::ScriptFont(const Value& value, std::int32_t) {
+    if (state_.script != ScriptKind::RightToLeft) return;
+    if (const auto found = fonts_.find(value.number); found != fonts_.end()) {
+        state_.scripts[static_cast<std::size_t>(state_.script)].font = found->second.font;
+        lookChanged_ = true;
+    }
+}
+
 void RtfParser::ScriptSize(const Value& value, std::int32_t) {
     state_.scripts[static_cast<std::size_t>(state_.script)].halfPoints = HalfPoints(value);
     lookChanged_ = true;
@@ -167,6 +176,7 @@ CharFormat RtfParser::LookAtHand() const {
     CharFormat look = state_.look;
     if (state_.script == ScriptKind::Main) return look;
     const ScriptLook& own = state_.scripts[static_cast<std::size_t>(state_.script)];
+    look.font = own.font.value_or(look.font);
     look.halfPoints = own.halfPoints.value_or(look.halfPoints);
     look.bold = own.bold.value_or(look.bold);
     look.italic = own.italic.value_or(look.italic);

@@ -121,12 +121,12 @@ struct WordTable {
         {"striked", &P::CharFlag, 3},
         {"scaps", &P::CharFlag, 4},
         {"caps", &P::CharFlag, 4},
-        // The fonts of the scripts are not read: some programs name one for text that isn't of the script.
         {"ltrch", &P::SetScriptKind, Number(ScriptKind::Main)},
         {"loch", &P::SetScriptKind, Number(ScriptKind::Main)},
         {"hich", &P::SetScriptKind, Number(ScriptKind::Main)},
         {"rtlch", &P::SetScriptKind, Number(ScriptKind::RightToLeft)},
         {"dbch", &P::SetScriptKind, Number(ScriptKind::EastAsian)},
+        {"af", &P::ScriptFont},
         {"ab", &P::ScriptFlag, 0},
         {"ai", &P::ScriptFlag, 1},
         {"afs", &P::ScriptSize},

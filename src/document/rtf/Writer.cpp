@@ -1,4 +1,4 @@
-#include "document/model/EastAsian.h"
+#include "document/model/FontScripts.h"
 #include "document/model/Instruction.h"
 #include "document/model/ListTable.h"
 #include "document/model/Pieces.h"
@@ -136,9 +136,9 @@ private:
     std::map<std::int32_t, std::int32_t> numbers_;
 };
 
-bool HasEastAsian(const Document& document) {
-    return std::ranges::any_of(document.paragraphs, [](const Paragraph& paragraph) {
-        return std::ranges::any_of(paragraph.text, IsEastAsian);
+bool Has(const Document& document, bool (*kind)(char16_t)) {
+    return std::ranges::any_of(document.paragraphs, [kind](const Paragraph& paragraph) {
+        return std::ranges::any_of(paragraph.text, kind);
     });
 }
 
@@ -149,7 +149,8 @@ public:
           extent_(extent),
           take_(take),
           lists_(document),
-          eastAsian_(HasEastAsian(document)),
+          eastAsian_(Has(document, IsEastAsian)),
+          complex_(Has(document, IsComplex)),
           looks_(document.chars.Size()),
           shapes_(document.paras.Size()) {}
 
@@ -326,6 +327,13 @@ private:
         std::string& words = looks_[look];
         if (words.empty()) words = LookWords(document_.chars[look]);
         out_ += words;
+        if (field_ != 0) PutLookOfNoLink(document_.chars[look]);
+    }
+
+    /// Other programs show a link in blue and underlined unless they are told otherwise.
+    void PutLookOfNoLink(const CharFormat& look) {
+        if (!look.underline) out_ += "\\ulnone ";
+        if (look.fore == kNoColour) out_ += "\\cf0 ";
     }
 
     bool IsRaised(Index look) const { return document_.chars[look].script == Script::Raised; }
@@ -357,8 +365,18 @@ private:
         PutWord(out, "\\f", font);
     }
 
+    /// They have more than the font for complex writings.
+    static void PutComplexLook(std::string& out, const CharFormat& look) {
+        PutWord(out, "\\rtlch\\af", look.font);
+        PutWord(out, "\\afs", look.halfPoints);
+        if (look.bold) out += "\\ab";
+        if (look.italic) out += "\\ai";
+        out += "\\ltrch";
+    }
+
     std::string LookWords(const CharFormat& look) {
         std::string out = "\\plain";
+        if (complex_) PutComplexLook(out, look);
         PutFont(out, look.font);
         PutWord(out, "\\fs", look.halfPoints);
         if (look.bold) out += "\\b";
@@ -523,6 +541,7 @@ private:
     ListTable lists_;
     Colours colours_;
     bool eastAsian_;
+    bool complex_;
     /// The words of the formats that were used so far.
     std::vector<std::string> looks_;
     std::vector<std::string> shapes_;

@@ -63,6 +63,9 @@ TEST(RtfReader, TextOfAnotherScriptHasTheLooksOfItsScript) {
     EXPECT_TRUE(LookOf(east).italic);
     EXPECT_EQ(LookOf("{\\fs30\\ltrch\\loch \\rtlch\\afs40\\ai0\\i \\u1513?}").halfPoints, 40);
     EXPECT_FALSE(LookOf("{\\fs30\\ltrch\\loch \\rtlch\\afs40\\ai0\\i \\u1513?}").italic);
+    EXPECT_NE(LookOf("{\\f0 x}").font, LookOf("{\\f1 x}").font);
+    EXPECT_EQ(LookOf("{\\f0\\ltrch\\loch \\rtlch\\af1 \\u1513?}").font, LookOf("{\\f1 x}").font);
+    EXPECT_EQ(LookOf("{\\rtlch\\af1 \\ltrch\\f0 x}").font, LookOf("{\\f0 x}").font);
     // What is said of other scripts doesn't count for this one.
     EXPECT_EQ(LookOf("{\\rtlch\\af1\\afs40\\ab \\ltrch\\fs30 x}").halfPoints, 30);
     EXPECT_FALSE(LookOf("{\\rtlch\\afs40\\ab \\ltrch\\fs30 x}").bold);

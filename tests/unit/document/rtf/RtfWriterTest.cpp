@@ -16,6 +16,28 @@ TEST(RtfWriter, TheFontIsForCharactersOfEastAsiaToo) {
     EXPECT_FALSE(Writes(FromPlainText(u"a\u00E4"), "\\dbch"));
 }
 
+TEST(RtfWriter, TheLookIsForComplexWritingsToo) {
+    Document document = FromPlainText(u"a\u05D0");
+    CharFormat look;
+    look.bold = look.italic = true;
+    document.paragraphs[0].runs = {{2, document.chars.Add(look)}};
+    EXPECT_TRUE(Writes(document, "\\plain\\rtlch\\af0\\afs24\\ab\\ai\\ltrch\\f0\\fs24\\b\\i"));
+    EXPECT_FALSE(Writes(FromPlainText(u"a\u0424"), "\\rtlch"));
+}
+
+TEST(RtfWriter, ALinkWithoutALookOfItsOwnTellsSo) {
+    Document document = FromPlainText(u"link");
+    document.fields[1] = {FieldKind::Hyperlink, u"www.a.b", u""};
+    document.paragraphs[0].runs = {{4, 0, 1}};
+    EXPECT_TRUE(Writes(document, "\\fs24 \\ulnone \\cf0 link"));
+    CharFormat look;
+    look.underline = true;
+    look.fore = Colour{0xFF0000};
+    document.paragraphs[0].runs = {{4, document.chars.Add(look), 1}};
+    EXPECT_FALSE(Writes(document, "\\ulnone"));
+    EXPECT_FALSE(Writes(document, "\\cf0"));
+}
+
 TEST(RtfWriter, AnEmptyDocumentIsAWholeFile) {
     EXPECT_EQ(WriteRtf({}),
               "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n"
