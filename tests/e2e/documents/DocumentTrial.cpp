@@ -5,6 +5,7 @@
 
 #include "document/docx/Docx.h"
 #include "document/html/Html.h"
+#include "document/model/FontScripts.h"
 #include "document/rtf/Rtf.h"
 #include "support/RandomDocument.h"
 
@@ -238,7 +239,9 @@ void CompareLooks(const ParaFormat& x, const ParaFormat& y, Comparison& comparis
     comparison.Compare("space before", x.before, y.before, kRounding);
     comparison.Compare("space after", x.after, y.after, kRounding);
     comparison.Compare("exact line spacing", x.spacingExact, y.spacingExact, kRounding);
-    if (x.spacingExact == 0) comparison.Compare("line spacing", x.spacingPercent, y.spacingPercent, 1);
+    constexpr std::int64_t kRoundingOfDoc = 2;
+    if (x.spacingExact == 0)
+        comparison.Compare("line spacing", x.spacingPercent, y.spacingPercent, kRoundingOfDoc);
     comparison.Compare("tab stops", static_cast<int>(x.tabs.size()), static_cast<int>(y.tabs.size()));
     comparison.Compare("list", static_cast<int>(x.list.kind), static_cast<int>(y.list.kind));
     comparison.Compare("level of a list", x.list.level, y.list.level);
@@ -272,8 +275,13 @@ Text WithSingleBlanks(const Text& text) {
     return shown;
 }
 
+/// Whether the other program keeps no looks of the character. Of writings from the right it keeps few in RTF
+/// that it makes from DOC.
+using Lookless = std::function<bool(char16_t)>;
+
 void CompareParagraphs(const std::string& file, const Document& a, const Document& b,
-                       const std::function<Text(const Text&)>& shown, Attributes& attributes) {
+                       const std::function<Text(const Text&)>& shown, const Lookless& lookless,
+                       Attributes& attributes) {
     // Without the paragraphs that only end a table or the document.
     std::size_t next = 0;
     for (const Paragraph& source : a.paragraphs) {
@@ -298,7 +306,7 @@ void CompareParagraphs(const std::string& file, const Document& a, const Documen
         const std::vector<CharFormat> y = FormatsOf(b, other);
         for (std::size_t i = 0; i < x.size() && i < y.size(); ++i) {
             // Pictures have no look of letters there.
-            if (source.text[i] == kImageCharacter) continue;
+            if (source.text[i] == kImageCharacter || lookless(source.text[i])) continue;
             ++attributes.characters;
             Comparison characters(attributes.ofCharacters, where + " at " + std::to_string(i));
             CompareLooks(a, x[i], b, y[i], characters);
@@ -314,20 +322,41 @@ void Print(const Differences& differences, int of) {
     }
 }
 
+const Format& FormatNamed(std::string_view name) {
+    return *std::ranges::find(Formats(), name, &Format::name);
+}
+
+/// Where the other program put the documents of this program.
+struct Hop {
+    const char* from;
+    const char* folder;
+    const char* to;
+};
+
+constexpr Hop kHops[] = {
+    {"rtf", "docx-from-rtf", "docx"},
+    {"docx", "docx-from-docx", "docx"},
+    {"html", "docx-from-html", "docx"},
+    // From RTF to DOC, and back.
+    {"doc", "rtf-from-doc", "rtf"},
+};
+
 /// What the other program shows of a document of this program, and whether it is all the same. HTML has no
 /// tab stops, and the other program takes lists and exact line spacing from it in other ways.
-bool CompareAttributes(const fs::path& folder, const Format& format, unsigned count) {
-    const bool html = format.name == "html";
+bool CompareAttributes(const fs::path& folder, const Hop& hop, unsigned count) {
+    const bool html = std::string_view(hop.from) == "html";
+    const bool doc = std::string_view(hop.from) == "doc";
     const auto shown = [html](const Text& text) { return html ? WithSingleBlanks(text) : text; };
+    const Lookless lookless = [doc](char16_t character) { return doc && IsComplex(character); };
     Attributes attributes;
     for (unsigned number = 1; number <= count; ++number) {
-        const auto bytes = BytesOf(FileOf(folder / ("docx-from-" + format.name), number, "docx"));
+        const auto bytes = BytesOf(FileOf(folder / hop.folder, number, hop.to));
         if (bytes)
-            CompareParagraphs(std::to_string(number), Source(number), ReadDocx(*bytes).document, shown,
-                              attributes);
+            CompareParagraphs(std::to_string(number), Source(number),
+                              FormatNamed(hop.to).read(*bytes).document, shown, lookless, attributes);
     }
-    std::printf("%s of this program, saved by the other as DOCX: %d paragraphs, %d characters\n",
-                format.name.c_str(), attributes.paragraphs, attributes.characters);
+    std::printf("%s of this program, saved by the other as %s: %d paragraphs, %d characters\n", hop.from,
+                hop.to, attributes.paragraphs, attributes.characters);
     std::printf("  paragraphs that differ:\n");
     Print(attributes.ofParagraphs, attributes.paragraphs);
     std::printf("  characters that differ:\n");
@@ -338,16 +367,16 @@ bool CompareAttributes(const fs::path& folder, const Format& format, unsigned co
 
 bool Compare(const fs::path& folder, unsigned count) {
     bool whole = true;
-    for (const auto& [name, from] :
-         {std::pair{"rtf", "docx"}, std::pair{"docx", "rtf"}, std::pair{"html", "rtf"}}) {
-        const Format& format = *std::ranges::find(Formats(), name, &Format::name);
-        const Tally tally = CompareTexts(folder, format, from, count);
-        std::printf("%s of the other program: %d with the same text, %d with another one, %d missing\n", name,
-                    tally.equal, tally.other, tally.unread);
+    for (const auto& [name, from] : {std::pair{"rtf", "docx"}, std::pair{"docx", "rtf"},
+                                     std::pair{"html", "rtf"}, std::pair{"rtf", "doc"}}) {
+        const Tally tally = CompareTexts(folder, FormatNamed(name), from, count);
+        std::printf(
+            "%s of the other program, from %s: %d with the same text, %d with another one, %d missing\n",
+            name, from, tally.equal, tally.other, tally.unread);
         whole = whole && tally.other == 0 && tally.equal > 0;
     }
-    for (const Format& format : Formats())
-        whole = CompareAttributes(folder, format, count) && whole;
+    for (const Hop& hop : kHops)
+        whole = CompareAttributes(folder, hop, count) && whole;
     return whole;
 }
 
