@@ -50,6 +50,7 @@ void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView capti
     Show(app, filter, caption);
 }
 
+/// The mode and the proposed name are those that were left last. Kept for compatibility: save-mode-stays.
 void ShowDirectoryLister(App& app) {
     Show(app, u"*.*", u"Directory lister");
 }

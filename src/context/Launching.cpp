@@ -83,6 +83,7 @@ TextView BareArgument(TextView argument) {
     return Trim(argument);
 }
 
+/// A start that fails isn't reported. Kept for compatibility: failed-start-is-silent.
 int LaunchProgram(App& app, TextView program, TextView argument) {
     return app.Shell().Run(FindProgram(app.Files(), program), SplitCommandLine(BareArgument(argument)),
                            WindowState::Normal);

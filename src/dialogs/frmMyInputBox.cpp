@@ -47,6 +47,7 @@ void frmMyInputBox::cmdExplorer_Click() {
     app_.Shell().Open({.verb = u"explore", .file = here, .directory = here});
 }
 
+/// A cancel and an empty answer give the same. Kept for compatibility: input-empty-and-cancel.
 Text AskForText(App& app, TextView caption, TextView initial) {
     InputQuestion& question = app.Exchange<InputQuestion>();
     question.InputCaption = Text(caption);

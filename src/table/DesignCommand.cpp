@@ -14,6 +14,7 @@ namespace korvane {
 
 namespace {
 
+/// Rows after these are dropped. Kept for compatibility: design-has-eight-rows.
 constexpr Row kNewRows{8};
 
 void TakeColumnNames(TableModel& table) {
@@ -25,6 +26,7 @@ void TakeColumnNames(TableModel& table) {
     }
 }
 
+/// The columns that the grid has stay. Kept for compatibility: design-adds-columns.
 void FillGrid(Grid& grid, const std::vector<Text>& titles) {
     const GridUpdate update(grid);
     grid.SetRowCount(kNewRows);
@@ -54,6 +56,7 @@ void MakeDesignedTable(const TabContext& tab) {
     TakeColumnNames(table);
     FillGrid(table.GridStore(), table.lstNewTableColumns);
     GoToFirstCell(table.GridStore());
+    // A file of that name is overwritten by the first save. Kept for compatibility: design-overwrites-file.
     table.TxtDbFile = NewDatabaseFilePath(tab.app.Files());
     tab.host.SetTabCaption(table.TxtDbFile);
     TakeLook(table);

@@ -24,8 +24,9 @@ bool AskToImport(App& app) {
                                 MessageIcon::Question, MessageButtons::YesNo}) == Answer::Yes;
 }
 
-/// There are no check boxes, and the model gets no column names and no look. Kept for compatibility:
-/// import-has-no-look.
+/// There are no check boxes, and the model gets no column names and no look. The columns that the grid has
+/// stay, and there may be more than a file can have. Kept for compatibility: import-has-no-look,
+/// import-adds-columns, import-takes-any-width.
 void FillGrid(Grid& grid, TextView text, bool sortOnHeaderClick) {
     const GridUpdate update(grid);
     const Col columns = ColumnsOfTabbedText(text);

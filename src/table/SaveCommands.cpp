@@ -43,6 +43,7 @@ Answer AskAboutChanges(const TabContext& tab, MessageIcon icon) {
                                     icon, MessageButtons::YesNoCancel});
 }
 
+/// Asks for no name. Kept for compatibility: closing-saves-directly.
 bool SaveAtClosing(const TabContext& tab) {
     // A result that another window left earlier mustn't stop this closing.
     tab.app.DialogResult = 0;

@@ -44,8 +44,10 @@ bool HasWindowsForm(TextView path) {
 
 Text MapDrivePath(const PathStyle& style, TextView path, const PathQuestion& fileExists) {
     if (path.empty() || !HasOtherForm(style, path) || fileExists(path)) return Text(path);
+    // Whether the other form is there isn't asked. Kept for compatibility: drive-form-not-tested.
     if (ContainsIgnoringCase(path, kRootMarker)) return DriveOfMirror(path);
-    // Without a drive the whole name follows the mirror's: "x.txt" gives "C:\Drive_x.txt".
+    // Without a drive the whole name follows the mirror's: "x.txt" gives "C:\Drive_x.txt". Kept for
+    // compatibility: drive-mirror-of-bare-name.
     return HasColonSecond(path) ? MirrorOfDrive(kMirrorRoot, path) : Text(kMirrorRoot).append(path);
 }
 

@@ -76,6 +76,7 @@ Text SmartUpper(TextView text, char16_t before) {
     return result;
 }
 
+/// The first of the list, wherever it is in the name. Kept for compatibility: forbidden-character-order.
 std::optional<char16_t> ForbiddenCharacter(TextView name) {
     const auto* found = std::ranges::find_if(kForbidden, [name](char16_t c) { return Contains(name, c); });
     if (found == kForbidden.end()) return std::nullopt;

@@ -45,8 +45,8 @@ void InsertColumn(TableModel& table) {
     if (grid.ColCount() < kWidestByInsert) grid.SetColCount(grid.ColCount() + 1);
     const Col first = std::max(current, Col{1});
     ShiftCaptions(table, first);
-    // In a table that can't grow, the last column has nowhere to move: it gets the caption and keeps its
-    // texts.
+    // In a table that can't grow, the texts of the last column have nowhere to go. Kept for compatibility:
+    // insert-column-full-table. Where it is the current one itself, it gets the caption and keeps its texts.
     if (first < grid.ColCount()) grid.ShiftTextsRight(first);
     RenameColumn(table, current, Text(kNewColumnName));
 }
@@ -91,11 +91,14 @@ void mnuEdit_DeleteColumn_Clack(const TabContext& tab) {
     const Text question =
         u"Remove this column: \r\n\"" + Text(Shown(grid.ColHeaderText(grid.CurCol()))) + u"\"\t";
     if (!AskYesNo(tab.app, question, YesNoDefault::No)) return;
+    // The check boxes and the marks for deletion go with the first column. Kept for compatibility:
+    // first-column-takes-marks.
     grid.RemoveCol(grid.CurCol());
     grid.GridSetFocus();
     tab.table.TableAltered = 1;
 }
 
+/// `TableAltered` stays as it is. Kept for compatibility: widths-are-no-change.
 void MnuEdit_RefreshColumnWidths_Clack(const TabContext& tab) {
     Grid& grid = tab.table.GridStore();
     if (grid.ColCount() == Col{0}) return;

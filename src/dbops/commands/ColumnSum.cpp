@@ -25,6 +25,7 @@ double NumericValue(const Grid& grid, Row row, Col col) {
     return Val(TextView(grid.CellValue(row, col)));
 }
 
+/// The total of an earlier sum is a row like others. Kept for compatibility: second-sum-adds-first.
 double SumOfColumn(const TabContext& tab, Col col) {
     const Grid& grid = tab.table.GridStore();
     double sum = 0;

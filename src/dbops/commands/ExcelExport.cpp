@@ -18,7 +18,7 @@ namespace korvane {
 
 namespace {
 
-/// All columns get this width, because those of the table are in pixels and made for the grid.
+/// All columns get this width. Kept for compatibility: export-own-widths.
 constexpr int kColumnWidth = 32;
 /// A light green.
 constexpr int kHeaderColorIndex = 35;

@@ -13,6 +13,7 @@ namespace korvane {
 
 namespace {
 
+// A height that is typed has no limits. Kept for compatibility: row-height-box-goes-further.
 constexpr int kLowestBySlider = 13;
 constexpr int kHighestBySlider = 360;
 

@@ -60,6 +60,7 @@ void SelectByColours(const TabContext& tab) {
 }
 
 /// Shows the rows for which `wanted(Row)` is true, hides the others, and returns how many are shown.
+/// `TableAltered` stays as it is. Kept for compatibility: filters-are-no-change.
 template <class Wanted>
 int ShowRows(Grid& grid, const Wanted& wanted) {
     const GridUpdate update(grid);

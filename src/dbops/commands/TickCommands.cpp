@@ -20,6 +20,7 @@ void SetVisibleChecks(Grid& grid, int check) {
     });
 }
 
+/// Hidden rows lose their ticks too. Kept for compatibility: clear-ticks-reaches-hidden.
 void ClearChecks(TableModel& table) {
     Grid& grid = table.GridStore();
     const GridUpdate update(grid);

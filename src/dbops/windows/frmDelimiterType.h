@@ -50,7 +50,8 @@ public:
                                               {*this, "optDelimiter2", "optDelimiter", u"A semi-colon"},
                                               {*this, "optDelimiter3", "optDelimiter", u"A space character"},
                                               {*this, "optDelimiter4", "optDelimiter", u"No delimiter"}}};
-    /// This is kept as long as the program runs, and has no effect on what is copied.
+    /// This is kept as long as the program runs, and has no effect on what is copied. Kept for
+    /// compatibility: line-break-box-without-effect.
     CheckBox chkBreakAfterFieldThree{*this, "chkBreakAfterFieldThree",
                                      u"Add line break from field 3 onwards"};
     Label lblDestination{*this, "lblDestination"};

@@ -68,6 +68,7 @@ void frmFindReplace::Unload() {
     Settings& settings = tab_.app.Settings;
     settings.FindText = Text1.Text;
     settings.ReplaceText = Text2.Text;
+    // The search doesn't ask for it. Kept for compatibility: case-box-without-effect.
     settings.ReplaceOption = Check1.Value;
 }
 

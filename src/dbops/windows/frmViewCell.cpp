@@ -61,6 +61,7 @@ frmViewCell::frmViewCell(App& app, CellExchange& exchange)
 void frmViewCell::ConnectButtons() {
     cmdWriteBack.Click = [this] { cmdWriteBack_Click(); };
     cmdOk.Click = [this] { cmdOk_Click(); };
+    // Changes are dropped. Kept for compatibility: cell-window-closes-unasked.
     cmdExit.Click = [this] { Close(); };
     cmdClipboard.Click = [this] { cmdClipboard_Click(); };
     cmdWordList.Click = [this] { cmdWordList_Click(); };

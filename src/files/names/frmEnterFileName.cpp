@@ -124,6 +124,7 @@ void frmEnterFileName::TidyWithCaps() {
     txtFileName.Text = MakeFileName(name, NameCase::Title);
 }
 
+/// Kept for compatibility: file-name-font-without-limits.
 void frmEnterFileName::ChangeFontSize(int step) {
     FontSpec font = txtFileName.Font;
     font.size += step;

@@ -12,6 +12,7 @@ namespace {
 /// Rows and columns are counted in 16 bits.
 constexpr std::ptrdiff_t kMaxCount = 32767;
 
+/// The CR of a line end is a part of its last cell. Kept for compatibility: import-keeps-cr.
 bool EndsCell(char16_t character) {
     return character == u'\t' || character == u'\n';
 }
@@ -49,6 +50,7 @@ void FillFromTabbedText(Grid& grid, TextView text) {
         ++row;
         col = Col{1};
     }
+    // An empty cell that nothing closes isn't written. Kept for compatibility: import-unclosed-cell.
     if (cell != text.end() && end == text.end()) grid.SetCellValue(row, col, {cell, end});
 }
 
