@@ -84,6 +84,7 @@ frmViewAndPaste::frmViewAndPaste(App& app)
     Text1.Locked = true;
 }
 
+/// Opens on the plain text. Kept for compatibility: clipboard-view-opens-plain.
 void frmViewAndPaste::Load() {
     activated_ = false;
     RestorePlace(app_, *this, kPlace);

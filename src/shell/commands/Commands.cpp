@@ -24,7 +24,8 @@ namespace korvane {
 namespace {
 
 // What every menu entry, button, sidebar row and key of the menu does. Some captions name keys that aren't
-// theirs ("( Ctrl-Shift-S )"): the fourth column is what is bound. An entry that calls nothing opens a menu.
+// theirs ("( Ctrl-Shift-S )"): the fourth column is what is bound. Kept for compatibility:
+// captions-name-other-keys. An entry that calls nothing opens a menu.
 constexpr std::array kCommands{
     Command{0, "mnuFile", u"&File", ""},
     Command{1, "mnuFile_Open", u"&Open database (new tab)", "Ctrl+O", &mnuFile_Open},

@@ -25,6 +25,7 @@ namespace {
 using enum KeyUse;
 
 constexpr GridKey kGridKeys[] = {
+    // Kept for compatibility: f10-with-any-modifier.
     {"Any+F10", &mnuFile_SaveAs_Clack},
     {"Alt+X", &mnuSwitchFocus_Click},
     {"F4", &mnuEdit_EditCell_Clack},
@@ -32,7 +33,8 @@ constexpr GridKey kGridKeys[] = {
     {"Ctrl+Alt+D", &ToggleDesktop},
     {"Ctrl+Alt+V", &ViewAndPaste},
     {"Ctrl+Alt+X", &ExploreTableFolder},
-    // The nine looks of a row, by number and by letter.
+    // The nine looks of a row, by number and by letter. These keys reach the grid too. Kept for
+    // compatibility: row-colour-keys-reach-grid.
     {"Ctrl+Alt+1", &RowColour<0>, Passes},
     {"Ctrl+Alt+F", &RowColour<0>, Passes},
     {"Ctrl+Alt+2", &RowColour<1>, Passes},

@@ -35,6 +35,7 @@ namespace korvane {
 
 namespace {
 
+/// The tab stays if the routine fails or is cancelled. Kept for compatibility: failed-design-keeps-tab.
 void RunOnNewTab(const MainParts& main, TabRoutine routine) {
     main.tabs.AddNewTab();
     main.tabs.RunOnActive(routine);
@@ -47,6 +48,7 @@ void mnuFile_Open(const MainParts& main) {
     if (!main.pipeline.OpenDatabase({}, LoadInto::NewTab)) main.window.Caption = caption;
 }
 
+/// Saves and lists unaltered tables too. Kept for compatibility: save-all-rewrites-all.
 void mnuFile_SaveAll(const MainParts& main) {
     Text list;
     for (int slot = 1; slot <= main.tabs.TabState.UpperBound(); ++slot) {
@@ -164,6 +166,7 @@ void mnuMisc_Calc(const MainParts& main) {
     LaunchCompanion(main.app, Companion::Abrill);
 }
 
+/// The key that the caption names starts the custom browser. Kept for compatibility: two-browsers.
 void mnuMisc_Browser(const MainParts& main) {
     LaunchProgram(main.app, Text(main.app.Settings.WebListA));
 }

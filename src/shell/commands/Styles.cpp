@@ -49,6 +49,7 @@ void SetBackColour(Control& control, Colour colour) {
 
 } // namespace
 
+/// The colours of the window stay as they are. Kept for compatibility: style-step-keeps-colours.
 void StyleForward(const MainParts& main) {
     SetStyle(main, SteppedTabStyle(main.strip.Style, StyleStep::Forward));
 }

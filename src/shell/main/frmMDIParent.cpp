@@ -140,6 +140,7 @@ bool frmMDIParent::HasChanges() const {
 
 bool frmMDIParent::QueryUnload() {
     if (app_.Exchange<StartState>().SecondInstance != 1) {
+        // It stays so if the closing is cancelled. Kept for compatibility: cancelled-end-leaves-strip-off.
         MDITabs1.On = false;
         if (State == FormState::Minimised) State = FormState::Maximised;
         StorePlace();

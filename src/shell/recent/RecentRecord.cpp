@@ -88,8 +88,8 @@ void RecentRecord::TrimWhenFull() {
 }
 
 bool RecentRecord::Update(TextView path, const Text& line) {
-    // A path that begins a longer one matches that one too; the first in the list is taken. Kept for
-    // compatibility: recent-entry-by-containment.
+    // A path that begins a longer one matches that one too; the first in the list is taken, and stays where
+    // it is. Kept for compatibility: recent-entry-by-containment, recent-entry-keeps-place.
     const auto end = RecentEntries.begin() + kEntries + 1;
     const auto found = std::find_if(RecentEntries.begin() + 1, end,
                                     [path](const Text& entry) { return ContainsIgnoringCase(entry, path); });

@@ -199,6 +199,7 @@ ListRow frmFileList::RowOf(const Text& entry) const {
     ListRow row = LostRow(files.Style().NamePart(path), files.Style().FolderPart(path));
     if (!found) return row;
     row.icon = kFoundIcon;
+    // The offset is followed by the date. Kept for compatibility: offset-column-shows-date.
     row.texts[kOffset] = Text(Behind(entry, u"|"));
     row.texts[kDate] = Text(Behind(entry, u"*"));
     return row;
@@ -236,6 +237,7 @@ void frmFileList::LoadFiles() {
 void frmFileList::TakePick(const ListRow& row) {
     // Nothing writes this text. Kept for compatibility: lost-rows-by-text.
     if (InStr(row.texts[kLocation], u"found !") > 0) return;
+    // Nothing uses the offset. Kept for compatibility: record-offset-unused.
     int offset = 0;
     ReadNumber(TextView(row.texts[kOffset]), offset);
     recents_.RecentPicks.push_back(PathOf(row));
@@ -254,6 +256,7 @@ void frmFileList::DeleteItem() {
     ListView1.Remove(place);
     ShowCount();
     ListView1.SetCurrent(std::min(place, ListView1.Count()));
+    // The record may have the path in its other form. Kept for compatibility: delete-by-shown-path.
     recents_.Forget(PathOf(*row));
 }
 

@@ -38,7 +38,7 @@ struct FontFields {
     std::int16_t& bold;
 };
 
-/// Lets the user choose a font and stores it; what he leaves open stays as it was.
+/// Lets the user choose a font and stores it. What isn't chosen stays as it was.
 void ChooseFont(const App& app, const FontFields& fields, Control& control) {
     auto* fontPicker = app.Port<FontPicker>();
     if (fontPicker == nullptr) return;
@@ -104,7 +104,8 @@ void frmSettings::Unload() {
 
 void frmSettings::chkYesShowFullPath_Click() {
     app_.Settings.ShowFullPath = chkYesShowFullPath.Value;
-    // The captions of the other tabs change when their files are loaded the next time.
+    // The captions of the other tabs change when their files are loaded the next time. Kept for
+    // compatibility: full-path-active-tab-only.
     frmMDIChild* tab = tabs_.Active();
     if (tab == nullptr) return;
     const Text& path = tabs_.TabState[tab->Slot()].Path;

@@ -40,6 +40,7 @@ bool LoadPipeline::OpenDatabase(const Text& path, LoadInto into) {
     app_.Screen().SetPointer(Pointer::Hourglass);
     std::size_t place = 0;
     for (const Text& file : *files) {
+        // The files after this one aren't loaded. Kept for compatibility: open-file-stops-load.
         if (IsLoaded(file)) {
             TellAlreadyLoaded(app_, file);
             ShowLoadedFiles(app_, tabs_, window_);
@@ -105,6 +106,7 @@ void LoadPipeline::LoadFile(std::size_t place, const Text& file, LoadInto into) 
     recents_.AddToRecent(file, 0, app_.Clock().Now());
 }
 
+/// The tab stays empty for a file of another kind. Kept for compatibility: other-files-keep-tab.
 void LoadPipeline::ReadIntoActiveTab(const Text& file) {
     frmMDIChild* tab = tabs_.Active();
     if (tab == nullptr || !HasExtension(file, kTableExtension)) return;

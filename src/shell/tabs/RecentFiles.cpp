@@ -42,6 +42,8 @@ void RecentFiles::LoadPick(std::size_t index) {
     FileSystem& files = app_.Files();
     Text path = recents_.RecentPicks[index];
     if (!files.FileExists(path)) return ShowCannotLocate(app_, path);
+    // A first file that is lost ends this load before the empty tab goes. Kept for compatibility:
+    // lost-first-file-keeps-tab.
     if (index == 0) DiscardPristineUntitled();
     GoToFolderOf(files, path);
     recents_.RecentOffset = recents_.RecentOffsets[index];
@@ -63,6 +65,7 @@ void RecentFiles::OpenFromRecord(const Text& path) {
 
 void RecentFiles::DiscardPristineUntitled() {
     frmMDIChild* only = tabs_.TabState.UpperBound() == 1 ? tabs_.Document(1) : nullptr;
+    // The caption may be the name of a file. Kept for compatibility: untitled-by-caption.
     if (only == nullptr || !only->Caption.Get().starts_with(u"Untitled")) return;
     TabState& state = tabs_.TabState[1];
     // This isn't the mark of the table: a table that was typed into asks before it goes, and stays without a

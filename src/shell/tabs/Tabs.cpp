@@ -67,6 +67,7 @@ frmMDIChild* Tabs::Active() const {
     return dynamic_cast<frmMDIChild*>(strip_.ActiveChild());
 }
 
+/// Without a tab, nothing is done or said. Kept for compatibility: no-tab-no-word.
 void Tabs::RunOnActive(TabRoutine routine) {
     if (frmMDIChild* tab = Active()) tab->Run(routine);
 }
@@ -81,6 +82,7 @@ void Tabs::NewDocument() {
     document = std::move(loaded);
     ResolvePageSize();
     document->Tag = NumberText(slot);
+    // A slot that is used again gives its name again. Kept for compatibility: untitled-by-slot.
     document->Caption = u"Untitled_" + NumberText(slot) + u".tbx";
     TabState[slot].Path = document->Caption;
     document->Told = [this] {
@@ -158,6 +160,7 @@ int Tabs::ActiveSlot() const {
     return active == nullptr ? 0 : active->Slot();
 }
 
+/// Goes by the slots, whatever the strip shows. Kept for compatibility: tabs-switch-by-slot.
 void Tabs::SwitchBy(int step) {
     if (TabState.CountInUse() == 0) return;
     const auto next = [this, step](int slot) {
@@ -172,6 +175,7 @@ void Tabs::SwitchBy(int step) {
     Show(slot);
 }
 
+/// Nothing uses the size. Kept for compatibility: page-size-unused.
 void Tabs::ResolvePageSize() {
     for (const PageSize& size : kPageSizes) {
         if (app_.Settings.PageSizeName != size.name) continue;
