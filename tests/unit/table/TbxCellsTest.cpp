@@ -32,6 +32,7 @@ TEST_F(TbxCellsTest, TwoEmptyLinesAreOneLineBreak) {
     EXPECT_EQ(CellsOf("\n"), (Rows{{u"\r\n", u"second"}}));
 }
 
+// Kept for compatibility: tbx-escapes-nothing.
 TEST_F(TbxCellsTest, ALaterLineBeginningWithAMarkEndsTheCell) {
     for (const std::string mark : {"@", "?", ";", "§"}) {
         TestTable other;
@@ -162,6 +163,7 @@ TEST_F(TbxCellsTest, AFileThatEndsInACellsOnlyLineLeavesTheCellEmpty) {
     }
 }
 
+// Kept for compatibility: tbx-last-line-dropped.
 TEST_F(TbxCellsTest, TheLastLineOfAFileInsideACellIsNotAppended) {
     Read(kHeader + kTwoColumns + Lines("@row\n@col\none\ntwo\nthree"));
     EXPECT_EQ(Cells(), (Rows{{u"one\r\ntwo", u""}}));

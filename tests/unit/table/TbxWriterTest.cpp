@@ -41,6 +41,7 @@ TEST_F(TbxWriterTest, TheWholeFileOfTheWorkedExample) {
                              ";\n; End of File: D:\\data\\people.tbx\n;\n"));
 }
 
+// Kept for compatibility: tbx-title-names-five.
 TEST_F(TbxWriterTest, ATableThatIsNothingIsWrittenAsZerosAndEmptyTexts) {
     EXPECT_EQ(Write(), Lines(";\n; Values for colour, font type, font size, cell height, cell width\n;\n"
                              "!0\n!\n!0\n!0\n;\n; Column names\n;\n;\n; File data\n;\n"

@@ -13,6 +13,15 @@ protected:
     TestApp t;
 };
 
+// Kept for compatibility: find-window-misspelt.
+TEST_F(FindStingInListTest, ItsNameIsMisspelt) {
+    t.user.On<frmFindStingInList>([](frmFindStingInList& f) {
+        EXPECT_EQ(f.Name(), "frmFindStingInList");
+        f.cmdCancel.Press();
+    });
+    EXPECT_EQ(AskForStringInList(t.app), u"");
+}
+
 TEST_F(FindStingInListTest, GivesTheTextThatTheUserEnters) {
     t.user.On<frmFindStingInList>([](frmFindStingInList& f) {
         EXPECT_EQ(f.Focused(), &f.txtFindString);

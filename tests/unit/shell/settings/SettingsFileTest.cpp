@@ -81,6 +81,7 @@ TEST_F(SettingsFile, TheFirstRunOfAUserTakesWhatCameWithTheProgram) {
     EXPECT_EQ(settings.MainWidth, 9000);
 }
 
+// Kept for compatibility: settings-lines-exchanged.
 TEST_F(SettingsFile, TheWordListsMeasuresComeBackExchanged) {
     settings.WordListWidth = 5000;
     settings.WordListHeight = 3000;
@@ -91,6 +92,7 @@ TEST_F(SettingsFile, TheWordListsMeasuresComeBackExchanged) {
     EXPECT_EQ(settings.WordListHeight, 5000);
 }
 
+// Kept for compatibility: settings-lines-exchanged.
 TEST_F(SettingsFile, TheSymbolTablesPlaceComesBackExchanged) {
     settings.SymbolsTop = 1;
     settings.SymbolsLeft = 2;
@@ -158,6 +160,7 @@ TEST_F(SettingsFile, ANumberTooLargeLeavesTheFieldAsItWas) {
     EXPECT_EQ(settings.MainLeft, 77);
 }
 
+// Kept for compatibility: settings-numbers-as-text.
 TEST_F(SettingsFile, FilterAndPageSizeComeBackAsZero) {
     settings.FileDialogFilter = u"*.tbx";
     settings.PageSizeName = u"A4";
