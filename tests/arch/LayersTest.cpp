@@ -51,18 +51,24 @@ LevelTable ReadLevelTable() {
     return {rows.begin(), rows.end()};
 }
 
-/// The longest folder in the table that contains the path (relative to src/), or an empty text when there is
-/// none.
+/// The folder of the path (relative to src/), or an empty text when the table doesn't name it.
 std::string FolderOf(const LevelTable& table, const std::string& path) {
-    std::string best;
-    for (const auto& [folder, allowed] : table) {
-        if (path.starts_with(folder + "/") && folder.size() > best.size()) best = folder;
-    }
-    return best;
+    const std::string folder = fs::path(path).parent_path().generic_string();
+    return table.contains(folder) ? folder : std::string();
 }
 
-bool IsSource(const fs::path& path) {
-    return path.extension() == ".h" || path.extension() == ".cpp";
+std::vector<fs::path> AllSources() {
+    std::vector<fs::path> sources;
+    for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
+        const fs::path& path = entry.path();
+        const bool source = path.extension() == ".h" || path.extension() == ".cpp";
+        if (entry.is_regular_file() && source) sources.push_back(path);
+    }
+    return sources;
+}
+
+std::string RelativeToSource(const fs::path& path) {
+    return fs::relative(path, kSource).generic_string();
 }
 
 struct Include {
@@ -81,7 +87,7 @@ std::string IncludedHeader(const std::string& line) {
 }
 
 void ReadIncludes(const LevelTable& table, const fs::path& path, std::vector<Include>& includes) {
-    const std::string relative = fs::relative(path, kSource).generic_string();
+    const std::string relative = RelativeToSource(path);
     const std::string folder = FolderOf(table, relative);
     std::ifstream file(path);
     int number = 0;
@@ -96,9 +102,8 @@ void ReadIncludes(const LevelTable& table, const fs::path& path, std::vector<Inc
 
 std::vector<Include> AllIncludes(const LevelTable& table) {
     std::vector<Include> includes;
-    for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
-        if (entry.is_regular_file() && IsSource(entry.path())) ReadIncludes(table, entry.path(), includes);
-    }
+    for (const fs::path& source : AllSources())
+        ReadIncludes(table, source, includes);
     return includes;
 }
 
@@ -114,12 +119,13 @@ const std::vector<ForeignHeaders>& AllForeignHeaders() {
     static const std::vector<ForeignHeaders> headers{
         {"the toolkit", std::regex(R"(Q[A-Z][A-Za-z]*|Qt[A-Z].*/.*)"), {"platform/qt", "app"}},
         {"Windows",
-         std::regex(R"((windows|shlobj|shellapi|shldisp|objbase|oleauto|io|direct)\.h)"),
+         std::regex(R"((windows|winsock2|shlobj|shellapi|shldisp|objbase|oleauto|oaidl|io|direct|share)\.h)"),
          {"platform/windows", "app"}},
+        {"the desktop", std::regex(R"((xcb|fontconfig)/.*\.h)"), {"platform/qt"}},
         {"the libraries for archives and XML", std::regex(R"((zip|expat)\.h)"), {"document/package"}},
         {"POSIX",
-         std::regex(R"(sys/.*\.h|(unistd|fcntl|dirent|pwd|grp|poll|dlfcn|langinfo|mntent|termios|signal|)"
-                    R"(pthread|spawn|netdb|arpa/inet|netinet/in)\.h)"),
+         std::regex(R"((sys|linux)/.*\.h|(unistd|fcntl|dirent|pwd|grp|poll|dlfcn|langinfo|mntent|termios|)"
+                    R"(signal|sched|pthread|spawn|netdb|arpa/inet|netinet/in)\.h)"),
          {"platform/native", "platform/windows"}},
     };
     return headers;
@@ -134,12 +140,20 @@ bool LiesIn(const std::string& folder, const std::vector<std::string>& parents) 
 TEST(Layers, TheTableNamesEveryFolderWithSources) {
     const LevelTable table = ReadLevelTable();
     ASSERT_FALSE(table.empty());
-    for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
-        if (!entry.is_regular_file() || !IsSource(entry.path())) continue;
-        const std::string relative = fs::relative(entry.path(), kSource).generic_string();
+    for (const fs::path& source : AllSources()) {
+        const std::string relative = RelativeToSource(source);
         EXPECT_NE(FolderOf(table, relative), "")
-            << "src/" << relative << " lies in no folder of src/README.md";
+            << "src/README.md doesn't name the folder of src/" << relative;
     }
+}
+
+TEST(Layers, NoFolderHasMoreThanThirtySources) {
+    std::map<std::string, int> counts;
+    for (const fs::path& source : AllSources())
+        ++counts[RelativeToSource(source.parent_path())];
+    ASSERT_GT(counts.size(), 50u);
+    for (const auto& [folder, count] : counts)
+        EXPECT_LE(count, 30) << "src/" << folder << " has become too large: divide it";
 }
 
 TEST(Layers, NoIncludePointsUpwards) {
