@@ -155,7 +155,7 @@ public:
         DeleteClosed();
     }
 
-    void ListAnew() {
+    void ListAgain() {
         KeyEvent enter{Key::Return, Mask::None};
         form.txtSearchSpec.KeyDown(enter);
         Paint();
@@ -227,7 +227,7 @@ void MeasureLists(Stage& stage, const Folders& folders, int rounds) {
         Lister lister(stage, folder);
         if (lister.form.ListView1.Count() != work.files) Fail("not all files are listed");
         Compare(
-            work.what, rounds, [&] { lister.ListAnew(); }, [&] { bytes += ReadAndStat(folder); });
+            work.what, rounds, [&] { lister.ListAgain(); }, [&] { bytes += ReadAndStat(folder); });
     }
     if (only.empty() && bytes == 0) Fail("the floor has read nothing");
     stage.app.Exchange<ListSort>() = {};
@@ -284,7 +284,7 @@ void MeasureOpening(Stage& stage, const Folders& folders, int rounds, Ahead ahea
 /// Run first, when nothing has been given back yet that could be taken again.
 void MeasureMemory(Stage& stage, const Folders& folders) {
     Lister lister(stage, folders.Of(kFew));
-    lister.ListAnew();
+    lister.ListAgain();
     const long before = ResidentKilobytes();
     lister.form.FilesDropped({FromNativePath(folders.Of(kVeryMany))});
     lister.Paint();

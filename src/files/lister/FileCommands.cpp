@@ -90,7 +90,7 @@ void FileCommands::Rename() {
     PutAtHand();
     frmRenFile window(app_);
     if (ShowForResult(app_, window) != 1) return;
-    folder_.ListAnew();
+    folder_.ListAgain();
     rows_.GoToName(app_.Exchange<FileOperation>().FileNewName);
 }
 
@@ -98,7 +98,7 @@ void FileCommands::Duplicate() {
     if (!HasFile()) return;
     PutAtHand();
     frmDupFile window(app_);
-    if (ShowForResult(app_, window) == 1) ListAnewAtRow();
+    if (ShowForResult(app_, window) == 1) ListAgainAtRow();
 }
 
 // The marked files.
@@ -125,7 +125,7 @@ void FileCommands::ShowCopyMove(std::int16_t kind) {
                                 static_cast<std::int16_t>(request.lstMarkedFiles.size()));
         frmCopyMove(app_).ShowModal();
     }
-    ListAnewAtRow();
+    ListAgainAtRow();
 }
 
 void FileCommands::Delete() {
@@ -141,12 +141,12 @@ void FileCommands::Delete() {
         // A link that leads nowhere is there too.
         if (files.FileExists(path) || files.IsLink(path)) app_.Shell().Recycle(path, RecycleTalk::Silent);
     }
-    ListAnewAtRow();
+    ListAgainAtRow();
 }
 
-void FileCommands::ListAnewAtRow() {
+void FileCommands::ListAgainAtRow() {
     const int row = rows_.Current();
-    folder_.ListAnew();
+    folder_.ListAgain();
     rows_.GoToRow(row);
 }
 

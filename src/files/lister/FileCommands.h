@@ -42,7 +42,7 @@ private:
     void PutAtHand();
     void ShowCopyMove(std::int16_t kind);
     bool MayDelete();
-    void ListAnewAtRow();
+    void ListAgainAtRow();
 
     App& app_;
     ShownFolder& folder_;

@@ -85,7 +85,7 @@ void FolderCommands::Refresh() {
 
 void FolderCommands::Explore() {
     korvane::Explore(app_, folder_.Path());
-    folder_.ListAnew();
+    folder_.ListAgain();
 }
 
 void FolderCommands::StartLorrit() {

@@ -34,7 +34,7 @@ void ShownFolder::TakePath(const Text& folder) {
 
 void ShownFolder::GoTo(const Text& folder) {
     TakePath(folder);
-    parts_.wait.BeginAnew();
+    parts_.wait.BeginAgain();
     {
         const ScopedValue going(going_, true);
         parts_.tree.SetTreePath(folder);
@@ -43,7 +43,7 @@ void ShownFolder::GoTo(const Text& folder) {
     if (Path() != folder) return List();
     NoteAnswer(folder);
     // A disk that didn't answer until the user stopped it isn't asked again.
-    if (!IsGivenUp()) ListAnew();
+    if (!IsGivenUp()) ListAgain();
 }
 
 void ShownFolder::NoteAnswer(const Text& folder) {
@@ -65,7 +65,7 @@ void ShownFolder::List() {
     }
 }
 
-void ShownFolder::ListAnew() {
+void ShownFolder::ListAgain() {
     LastListedPath_.clear();
     List();
 }
@@ -78,7 +78,7 @@ void ShownFolder::SortBy(int column) {
     if (sort.ListSortColumn == ListSort::kName) return parts_.rows.Sort();
     // The texts that are shown don't sort by their numbers.
     const std::vector<Text> marked = parts_.rows.MarkedNames();
-    ListAnew();
+    ListAgain();
     parts_.rows.Mark(marked);
 }
 

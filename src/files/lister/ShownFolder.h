@@ -42,12 +42,12 @@ public:
     bool IsGoing() const { return going_; }
     /// Whether they are being read just now.
     bool IsListing() const { return listing_; }
-    /// Whether the user has stopped the wait for it. It is read again only when he asks for it.
+    /// Whether the user has stopped the wait for it. It is read again only on request.
     bool IsGivenUp() const { return GivenUpPath_ == Path(); }
     /// Lists the files of the folder unless they are listed.
     void List();
     /// Lists them again, whatever is listed.
-    void ListAnew();
+    void ListAgain();
     /// Sorts by a column, as a click on its header asks; a second click turns the order round.
     void SortBy(int column);
 

@@ -138,7 +138,7 @@ struct frmGetFileFromTree::Tables {
         {"Ctrl+T", &Window::AddToday},
         {"Esc", &Window::Cancel},
     };
-    static constexpr WindowKey<Window> kPatternKeys[] = {{"Return", &Window::ListAnew}};
+    static constexpr WindowKey<Window> kPatternKeys[] = {{"Return", &Window::ListAgain}};
     static constexpr WindowKey<Window> kStopKeys[] = {
         {"Esc", &Window::StopReading},
         {"Space", &Window::StopReading},
@@ -210,7 +210,7 @@ void frmGetFileFromTree::WireParts() {
     ListView1.ColumnClick = [this](int column) { folder_.SortBy(column); };
     ListView1.FilesToDrag = [this] { return MarkedPaths(); };
     ListView1.GotFocus = [this] { ListFocused(); };
-    txtSearchSpec.Click = [this] { folder_.ListAnew(); };
+    txtSearchSpec.Click = [this] { folder_.ListAgain(); };
     txtSearchSpec.KeyDown = KeysOf(*this, Tables::kPatternKeys);
     cmdEscape.KeyDown = KeysOf(*this, Tables::kStopKeys);
     const auto keys = [this](Control& control, std::span<const KeyTable<frmGetFileFromTree>> tables) {
@@ -383,7 +383,7 @@ void frmGetFileFromTree::DockRightWithWidth() {
 bool frmGetFileFromTree::AskForTree(const DiskQuestion& question, const std::function<bool()>& wanted) {
     const bool listed = ListView1.Visible;
     Control& focused = Focused() == nullptr ? TreeView1 : *Focused();
-    wait_.BeginAnew();
+    wait_.BeginAgain();
     const bool answered = wait_.Ask(question, wanted);
     if (!listed || ListView1.Visible) return answered;
     // First of all, because a button that goes gives the keyboard to the list, which would be read then.
@@ -400,7 +400,7 @@ void frmGetFileFromTree::FolderChanged() {
 
 void frmGetFileFromTree::ReadFolderOfTree() {
     folder_.TakePath(tree_.Folder());
-    folder_.ListAnew();
+    folder_.ListAgain();
 }
 
 void frmGetFileFromTree::ListFocused() {
@@ -440,11 +440,11 @@ void frmGetFileFromTree::NextPattern() {
     const Text pattern = korvane::NextPattern(txtSearchSpec.Text.Get());
     if (pattern == txtSearchSpec.Text.Get()) return;
     txtSearchSpec.Text = pattern;
-    folder_.ListAnew();
+    folder_.ListAgain();
 }
 
-void frmGetFileFromTree::ListAnew() {
-    folder_.ListAnew();
+void frmGetFileFromTree::ListAgain() {
+    folder_.ListAgain();
 }
 
 void frmGetFileFromTree::FindFile() {

@@ -102,7 +102,7 @@ private:
     void PickRow();
     void MarkAll();
     void NextPattern();
-    void ListAnew();
+    void ListAgain();
     void FindFile();
     void StopReading();
     void StepFocusA();

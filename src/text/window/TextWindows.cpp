@@ -21,7 +21,7 @@ frm_RTF_HTM* TextWindows::Open() const {
 }
 
 /// Makes the window, which begins with nothing of the one before it.
-void TextWindows::OpenAnew(TextView path) {
+void TextWindows::MakeWindow(TextView path) {
     TextWindowState& state = app_.Exchange<TextWindowState>();
     state.TextWindowFile = Text(path);
     state.TextWindowUntitled = path.empty() ? 1 : 0;
@@ -31,7 +31,7 @@ void TextWindows::OpenAnew(TextView path) {
 
 void TextWindows::TextWindowShow() {
     if (frm_RTF_HTM* const open = Open()) return app_.Forms().Raise(*open);
-    OpenAnew({});
+    MakeWindow({});
     window_->Show();
 }
 
@@ -40,7 +40,7 @@ void TextWindows::TextWindowShowUnsaved(const UnsavedText& text) {
         open->ViewUnsaved(text);
         return app_.Forms().Raise(*open);
     }
-    OpenAnew({});
+    MakeWindow({});
     window_->ViewUnsaved(text);
     window_->Show();
 }
@@ -54,13 +54,13 @@ void TextWindows::View(TextView path) {
         open->View(path);
         return app_.Forms().Raise(*open);
     }
-    OpenAnew(path);
+    MakeWindow(path);
     window_->ShowModal();
 }
 
 void TextWindows::Write(const std::function<void(frm_RTF_HTM&)>& write) {
     frm_RTF_HTM* const open = Open();
-    if (open == nullptr) OpenAnew({});
+    if (open == nullptr) MakeWindow({});
     write(*window_);
     window_->ThisTextCtrl.SetFocus();
     if (open != nullptr) return app_.Forms().Raise(*open);

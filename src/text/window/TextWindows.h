@@ -33,7 +33,7 @@ public:
     frm_RTF_HTM* Open() const;
 
 private:
-    void OpenAnew(TextView path);
+    void MakeWindow(TextView path);
     void Write(const std::function<void(frm_RTF_HTM&)>& write);
 
     App& app_;

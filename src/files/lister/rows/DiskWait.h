@@ -36,7 +36,7 @@ public:
     void Stop() { stopped_ = true; }
     bool Stopped() const { return stopped_; }
     /// The user hasn't stopped what begins now.
-    void BeginAnew() { stopped_ = false; }
+    void BeginAgain() { stopped_ = false; }
 
     /// Shows the bar and the button to stop in place of the list, or the list again.
     void Show(bool shown);

@@ -82,7 +82,7 @@ void FileRows::End() {
 
 std::optional<std::vector<Text>> FileRows::FindNames(const Text& folder, const Text& patterns) {
     const int mine = fill_;
-    wait_.BeginAnew();
+    wait_.BeginAgain();
     wait_.Show(false);
     const auto found = std::make_shared<std::atomic<std::size_t>>(0);
     auto names = AnswerTo<std::vector<Text>>(
