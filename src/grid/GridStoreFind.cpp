@@ -13,7 +13,8 @@ struct Stretch {
     std::size_t begin = std::string_view::npos;
     std::size_t end = 0;
     std::size_t used = 0;
-    bool hasOthers = false; // texts that are elsewhere
+    /// Whether there are texts that are elsewhere.
+    bool hasOthers = false;
 
     /// This runs for every cell of every row, so it has no branch.
     void Include(TextHandle handle) {

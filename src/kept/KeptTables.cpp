@@ -207,11 +207,13 @@ private:
 
     KeptTables& keeper_;
     FileSystem& files_;
-    std::shared_ptr<OpenTable> kept_; // the tab may close while its table is saved
+    /// The tab may close while its table is saved.
+    std::shared_ptr<OpenTable> kept_;
     OpenTable& open_;
     KeptVersions versions_;
     Text path_;
-    std::optional<TableFolder> folder_; // none when nothing can be kept
+    /// There is none when nothing can be kept.
+    std::optional<TableFolder> folder_;
     SaveRecord record_;
     std::optional<int> number_;
     bool keepsOld_ = false;

@@ -26,7 +26,7 @@ void mnuFile_FileInfo_Clack(const TabContext& tab);
 /// As. Returns whether the table may go.
 bool AskToSave(const TabContext& tab);
 
-/// Asks the same before the tab closes. Yes means Save, and the user can keep the tab when he sees the
+/// Asks the same before the tab closes. Yes means Save, and the user can keep the tab after a look at the
 /// result. Returns whether the tab may close.
 bool AskToSaveAtClosing(const TabContext& tab);
 

@@ -23,7 +23,7 @@ protected:
 
     QTreeView& View() { return Widget<QTreeView>("FileTree"); }
     QModelIndex At(int row, const QModelIndex& parent = {}) { return View().model()->index(row, 0, parent); }
-    /// All nodes that can be seen, those further in behind more blanks.
+    /// All nodes that can be seen, those further in with more blanks before them.
     QStringList Lines() {
         QStringList lines;
         for (QModelIndex each = At(0); each.isValid(); each = View().indexBelow(each)) {

@@ -36,7 +36,7 @@ public:
     Property<bool> CheckBoxes{*this, Aspect::Range};
     /// Whether lines are drawn between rows and columns.
     Property<bool> GridLines{*this, Aspect::Range};
-    /// The column in which the user can type a text; 0 for none. The list tells what he typed and leaves it
+    /// The column in which the user can type a text; 0 for none. The list tells what was typed and leaves it
     /// to the window to take it.
     Property<int> EditColumn{*this, Aspect::Range, 0};
     Property<Colour> BackColor{*this, Aspect::Colours};

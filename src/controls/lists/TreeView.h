@@ -103,7 +103,7 @@ public:
     std::function<void(TextView key)> Expand;
 
     void DoubleClick(TextView key);
-    /// Whether the user works with the keyboard. The view writes it before it tells what he does.
+    /// Whether the user works with the keyboard. The view writes it before it tells what the user does.
     bool ByKeys = false;
 
     /// At most one; nullptr takes it away. The caller owns it.

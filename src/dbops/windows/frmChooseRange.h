@@ -27,7 +27,7 @@ private:
     App& app_;
 };
 
-/// Lets the user choose the rows; false when he gives up.
+/// Lets the user choose the rows; false when the user gives up.
 bool ChooseRange(App& app);
 
 /// Whether the row is among those last chosen.

@@ -31,7 +31,7 @@ public:
     enum class NoteFolder : std::uint8_t { No, Yes };
     /// Lets the user go to a folder of the day, to which the present one may be added before.
     void ShowTodaysFolders(NoteFolder note);
-    /// Lets the user go to one of his favourite folders.
+    /// Lets the user go to one of the favourite folders.
     void GetTarget();
 
 private:

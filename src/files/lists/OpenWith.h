@@ -6,7 +6,7 @@ namespace korvane {
 
 class App;
 
-/// Lets the user choose one of his programs, which then opens the file of the full path. The current
+/// Lets the user choose a program of the list, which then opens the file of the full path. The current
 /// directory stays.
 void OpenWithUserProgram(App& app, TextView path);
 

@@ -31,7 +31,7 @@ private:
     Text initial_;
 };
 
-/// The text that the user wants to find; empty when he gave up.
+/// The text that the user wants to find; empty when the user gave up.
 Text AskForStringInList(App& app, TextView initial = {});
 
 } // namespace korvane

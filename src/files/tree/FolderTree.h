@@ -48,7 +48,7 @@ public:
     /// The root counts as one. Kept for compatibility: tree-of-21-levels.
     static constexpr std::size_t kMostLevels = 21;
     /// How many folders the disk is asked about at each tick, and the time between two ticks, in which the
-    /// window is painted and the user gets his turn.
+    /// window is painted and the user gets a turn.
     static constexpr std::size_t kAskedAtOnce = 64;
     static constexpr std::chrono::milliseconds kBetween{50};
 

@@ -40,7 +40,7 @@ std::size_t SizeOf(int file);
 /// Whether the user may do everything, also what a sandbox is to prevent.
 bool IsAdministrator();
 /// Whether the user may write to the file or folder. A file that nobody may write to isn't writable for the
-/// administrator either, although the system would let him.
+/// administrator either, although the system would allow it.
 bool IsWritable(const std::filesystem::path& path);
 /// Whether the user may start the file, on a system where that and not the name makes a program.
 bool IsProgram(const std::filesystem::path& path);

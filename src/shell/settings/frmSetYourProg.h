@@ -8,7 +8,7 @@ namespace korvane {
 
 class App;
 
-/// Lets the user name a program of his own, and starts it. Modal.
+/// Lets the user name any program, and starts it. Modal.
 class frmSetYourProg : public Form {
 public:
     explicit frmSetYourProg(App& app);

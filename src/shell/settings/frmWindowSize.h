@@ -41,7 +41,7 @@ private:
     WindowSizeChoice& choice_;
 };
 
-/// Lets the user choose and gives the window its place in the work area; false when he gave up.
+/// Lets the user choose and gives the window its place in the work area; false when the user gave up.
 bool ChooseWindowSize(App& app, WindowSizeChoice& choice, Form& window);
 
 // The entries are numbered from 0. An index without an entry leaves the window alone.

@@ -109,7 +109,7 @@ void Tabs::AddNewTab() {
 
 bool Tabs::Close(Form& child) {
     if (OwnerOf(child) == nullptr) return false;
-    // The user sees what he is asked about.
+    // The user sees what the question is about.
     if (strip_.NoteOf(child).altered) strip_.Select(child);
     if (!child.Close()) return false;
     strip_.Remove(child);

@@ -88,7 +88,8 @@ private:
     TabStates& states_;
     TableModel table_;
     TableHistory history_;
-    std::optional<TableStep> sliding_; // while the slider is being moved
+    /// It exists while the slider is being moved.
+    std::optional<TableStep> sliding_;
 };
 
 } // namespace korvane

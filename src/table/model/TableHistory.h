@@ -59,9 +59,11 @@ private:
         std::variant<FieldNote<std::optional<std::int16_t>>, FieldNote<std::optional<Colour>>,
                      FieldNote<std::optional<SharedText>>, FieldNote<ColumnTexts>>;
     struct Step {
-        std::unique_ptr<GridChanges> grid; // none when only attributes changed
+        /// There are none when only attributes changed.
+        std::unique_ptr<GridChanges> grid;
         std::vector<AttributeNote> attributes;
-        std::size_t state = 0; // the number of the state that the step leads to
+        /// This is the number of the state that the step leads to.
+        std::size_t state = 0;
 
         std::size_t MemoryUse() const;
     };
@@ -84,9 +86,11 @@ private:
     Steps done_;
     Steps undone_;
     std::size_t doneMemory_ = 0;
-    TableAttributes attributes_; // as they were at the end of the last step
+    /// They are as they were at the end of the last step.
+    TableAttributes attributes_;
     std::size_t lastState_ = 1;
-    std::size_t first_ = 1; // the state before the first step
+    /// This is the state before the first step.
+    std::size_t first_ = 1;
     std::size_t saved_ = 1;
     int commandDepth_ = 0;
     bool stopped_ = false;

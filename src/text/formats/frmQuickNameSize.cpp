@@ -58,8 +58,8 @@ void TakeRow(ListBox& list, const Text& text) {
     list.SetListIndex(RowOf(list, text));
 }
 
-/// The row of what the caller has, or that of the last time where he has nothing. What isn't in the list any
-/// more is not changed.
+/// Selects the row of what the caller has, or without that the row of the last time. If the list doesn't have
+/// it any more, the first row is selected, which changes nothing.
 void SelectFirst(ListBox& list, const Text& present, int last) {
     const int row = present.empty() ? last : RowOf(list, present);
     list.SetListIndex(row >= 0 && row < list.ListCount() ? row : 0);

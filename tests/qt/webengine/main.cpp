@@ -1,5 +1,5 @@
-// Pages are locked in by a sandbox that doesn't work for the administrator, so this program gives his rights
-// away before it does anything else.
+// Pages are locked in by a sandbox that doesn't work for the administrator, so this program gives the
+// administrator's rights away before it does anything else.
 
 #include "support/TempDir.h"
 

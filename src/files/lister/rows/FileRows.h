@@ -31,7 +31,7 @@ public:
 
     /// Whether the program, not the user, is choosing the current row.
     bool Choosing() const { return choosing_; }
-    /// The user has chosen rows himself since the list was filled.
+    /// It is the user who has chosen rows since the list was filled.
     void NoteChoice() { chosenByUser_ = true; }
     bool ChosenByUser() const { return chosenByUser_; }
 

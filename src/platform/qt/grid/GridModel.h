@@ -33,7 +33,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
-    /// Takes the lines that the user typed, or the box that he ticked.
+    /// Takes the lines that were typed, or the box that was ticked.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
 private:

@@ -21,7 +21,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     /// Takes a check mark that the user set or took away.
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-    /// What the user types is the beginning of a name, whichever column he clicked.
+    /// What the user types is the beginning of a name, whichever column was clicked.
     QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                           Qt::MatchFlags flags) const override;
 

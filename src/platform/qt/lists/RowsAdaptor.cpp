@@ -73,7 +73,7 @@ void RowsAdaptor::RowsChanged(int first, int last) {
 }
 
 void RowsAdaptor::RowWantedInView() {
-    // Where the user himself goes, the view has scrolled as he expects.
+    // Where it is the user who goes, the view has scrolled as users expect.
     if (Reading() && CurrentRow() == view_.currentIndex().row()) {
         rows_.TakeWantedRow();
     } else {

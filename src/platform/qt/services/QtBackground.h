@@ -36,7 +36,8 @@ private:
     void Perform(Job job);
 
     FileSystem& files_;
-    QObject context_; // calls that wait for the event loop go with it
+    /// Calls that wait for the event loop go with it.
+    QObject context_;
     std::mutex mutex_;
     std::condition_variable changed_;
     std::deque<Job> jobs_;

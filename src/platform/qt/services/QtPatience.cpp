@@ -25,7 +25,7 @@ public:
 
     bool GoOn() {
         if (!dialog_.isVisible() && started_.elapsed() >= kShownAfter) dialog_.show();
-        // Until the dialog keeps the user from the other windows, what he does there has to wait.
+        // Until the dialog keeps the user from the other windows, what is done there has to wait.
         QApplication::processEvents(dialog_.isVisible() ? QEventLoop::AllEvents
                                                         : QEventLoop::ExcludeUserInputEvents);
         return !dialog_.wasCanceled();

@@ -103,7 +103,7 @@ void TreeViewAdaptor::NodeExpanded(const TreeNode& node) {
 void TreeViewAdaptor::SelectionChanged() {
     HoldBack();
     const TreeNode* node = tree_.Node(tree_.Selected());
-    // Where the user himself goes, the view has scrolled as he expects.
+    // Where it is the user who goes, the view has scrolled as users expect.
     const bool isThere = Reading() && SelectedIndex() == widget_.currentIndex();
     if (node != nullptr && !isThere) NodeWantedInView(*node);
 }

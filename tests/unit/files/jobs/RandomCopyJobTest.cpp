@@ -26,7 +26,7 @@ constexpr unsigned kUsualCount = 600;
 constexpr FileStep kSteps[] = {FileStep::OpenToRead, FileStep::OpenToWrite, FileStep::Write,
                                FileStep::Close,      FileStep::Remove,      FileStep::Rename};
 
-/// The names of a folder's files with their bytes, of those behind links too.
+/// The names of a folder's files with their bytes, also of those to which links lead.
 using Contents = std::map<Text, std::string>;
 
 class RandomJob {

@@ -13,7 +13,7 @@ class SilentDiskTest : public ListerFixture {
 protected:
     SilentDiskTest() { app.SetPort<PatientDisk>(&disk); }
 
-    /// What the user does when he has seen that the lister waits.
+    /// What the user does once it is clear that the lister waits.
     void WhileItWaits(std::function<void()> act) { t.screen.QueueMessage(std::move(act)); }
     static void ExpectAWait(const frmGetFileFromTree& f) {
         EXPECT_TRUE(f.ProgressBar1.Visible);

@@ -98,7 +98,7 @@ TEST_F(RecentRecordTest, With71EntriesTheNextNewFileLeavesTheSevenOldestReversed
 }
 
 // Kept for compatibility: recent-list-cuts-itself.
-TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAnew) {
+TEST_F(RecentRecordTest, AFullRecordIsTrimmedAgainAtEveryLoadAndStartsAgain) {
     record = Filled(72);
     record.AddToRecent(u"C:\\new.tbx", 0, kNow);
     // Entry 73 was empty; 72 to 66 follow it. The new file takes its place, without making room.
