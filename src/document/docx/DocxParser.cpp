@@ -281,60 +281,85 @@ void DocxParser::OpenSection(std::string_view name, const XmlAttributes& attribu
     }
 }
 
+struct DocxParser::BodyElement {
+    std::string_view name;
+    void (*open)(DocxParser& parser, const XmlAttributes& attributes);
+    /// Whether it opens only in a table that is in no other one.
+    bool inTable = false;
+};
+
+/// The rows of the table, which the parser lets name its routines.
+struct DocxParser::BodyElements {
+    using P = DocxParser;
+    using Attributes = XmlAttributes;
+
+    static constexpr BodyElement kRows[] = {
+        {"t", [](P& p, const Attributes& a) { p.OpenText(a); }},
+        {"r", [](P& p, const Attributes&) { p.look_ = p.paraLook_; }},
+        {"p", [](P& p, const Attributes&) { p.BeginParagraph(); }},
+        {"tab", [](P& p, const Attributes&) { p.Put(u"\t"); }},
+        {"br", [](P& p, const Attributes& a) { p.Break(a); }},
+        {"cr", [](P& p, const Attributes&) { p.Put(TextView(&kLineBreak, 1)); }},
+        {"noBreakHyphen", [](P& p, const Attributes&) { p.Put(u"\u2011"); }},
+        {"softHyphen", [](P& p, const Attributes&) { p.Put(u"\u00AD"); }},
+        {"hyperlink", [](P& p, const Attributes& a) { p.BeginLink(a); }},
+        {"fldSimple", [](P& p, const Attributes& a) { p.BeginSimpleField(a); }},
+        {"fldChar", [](P& p, const Attributes& a) { p.FieldMark(a.Get("fldCharType")); }},
+        {"instrText", [](P& p, const Attributes&) { p.inInstruction_ = true; }},
+        {"extent", [](P& p, const Attributes& a) { p.TakeExtent(a); }},
+        {"blip", [](P& p, const Attributes& a) { p.PutPicture(a.Get("embed")); }},
+        {"imagedata", [](P& p, const Attributes& a) { p.PutPicture(a.Get("id")); }},
+        {"tbl", [](P& p, const Attributes&) { p.BeginTable(); }},
+        {"gridCol", [](P& p, const Attributes& a) { p.TakeGridColumn(a); }, true},
+        {"tr", [](P& p, const Attributes&) { p.gridColumn_ = 0; }, true},
+        {"tc", [](P& p, const Attributes&) { p.BeginCell(); }, true},
+    };
+};
+
 void DocxParser::OpenInBody(std::string_view name, const XmlAttributes& attributes) {
-    if (name == "t") {
-        inText_ = true;
-        preserved_ = attributes.Get("space") == "preserve";
-    } else if (name == "r")
-        look_ = paraLook_;
-    else if (name == "p")
-        BeginParagraph();
-    else if (name == "tab")
-        Put(u"\t");
-    else if (name == "br" && attributes.Get("type") == "page") {
-        if (!builder_.AtParagraphStart()) {
-            EndParagraph();
-            EndPending();
-        }
-        breakNext_ = true;
-    } else if (name == "br" || name == "cr")
-        Put(TextView(&kLineBreak, 1));
-    else if (name == "noBreakHyphen")
-        Put(u"\u2011");
-    else if (name == "softHyphen")
-        Put(u"\u00AD");
-    else if (name == "hyperlink")
-        BeginLink(attributes);
-    else if (name == "fldSimple") {
-        outerFields_.push_back(field_);
-        field_ = FieldOf(FromUtf8(attributes.Get("instr"))).value_or(field_);
-    } else if (name == "fldChar")
-        FieldMark(attributes.Get("fldCharType"));
-    else if (name == "instrText")
-        inInstruction_ = true;
-    else if (name == "extent") {
-        imageWidth_ = TwipsOfEmu(attributes.Get("cx"));
-        imageHeight_ = TwipsOfEmu(attributes.Get("cy"));
-    } else if (name == "blip")
-        PutPicture(attributes.Get("embed"));
-    else if (name == "imagedata")
-        PutPicture(attributes.Get("id"));
-    else if (name == "tbl") {
-        if (++tableDepth_ > 1) return;
+    const auto* const row = std::ranges::find(BodyElements::kRows, name, &BodyElement::name);
+    if (row == std::end(BodyElements::kRows) || (row->inTable && tableDepth_ != 1)) return;
+    row->open(*this, attributes);
+}
+
+void DocxParser::OpenText(const XmlAttributes& attributes) {
+    inText_ = true;
+    preserved_ = attributes.Get("space") == "preserve";
+}
+
+void DocxParser::Break(const XmlAttributes& attributes) {
+    if (attributes.Get("type") != "page") return Put(TextView(&kLineBreak, 1));
+    if (!builder_.AtParagraphStart()) {
+        EndParagraph();
         EndPending();
-        builder_.EndTable();
-        tableCell_ = {};
-        insideAcross_ = insideDown_ = 0;
-        tableLeft_.reset();
-        grid_.clear();
-        rows_ = 0;
-    } else if (tableDepth_ == 1 && name == "gridCol") {
-        if (grid_.size() < limits_.columns)
-            grid_.push_back(std::max(Bounded(attributes.Number("w").value_or(0)), 0));
-    } else if (tableDepth_ == 1 && name == "tr")
-        gridColumn_ = 0;
-    else if (tableDepth_ == 1 && name == "tc")
-        BeginCell();
+    }
+    breakNext_ = true;
+}
+
+void DocxParser::BeginSimpleField(const XmlAttributes& attributes) {
+    outerFields_.push_back(field_);
+    field_ = FieldOf(FromUtf8(attributes.Get("instr"))).value_or(field_);
+}
+
+void DocxParser::TakeExtent(const XmlAttributes& attributes) {
+    imageWidth_ = TwipsOfEmu(attributes.Get("cx"));
+    imageHeight_ = TwipsOfEmu(attributes.Get("cy"));
+}
+
+void DocxParser::BeginTable() {
+    if (++tableDepth_ > 1) return;
+    EndPending();
+    builder_.EndTable();
+    tableCell_ = {};
+    insideAcross_ = insideDown_ = 0;
+    tableLeft_.reset();
+    grid_.clear();
+    rows_ = 0;
+}
+
+void DocxParser::TakeGridColumn(const XmlAttributes& attributes) {
+    if (grid_.size() < limits_.columns)
+        grid_.push_back(std::max(Bounded(attributes.Number("w").value_or(0)), 0));
 }
 
 void DocxParser::Close(std::string_view name) {

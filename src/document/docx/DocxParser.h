@@ -40,6 +40,8 @@ public:
     ReadResult Read();
 
 private:
+    struct BodyElement;
+    struct BodyElements;
     using Levels = std::map<int, ListMark>;
 
     struct ComplexField {
@@ -65,16 +67,22 @@ private:
     void OpenInCell(std::string_view name, const XmlAttributes& attributes);
     void OpenSection(std::string_view name, const XmlAttributes& attributes);
 
+    void OpenText(const XmlAttributes& attributes);
+    void Break(const XmlAttributes& attributes);
     void BeginParagraph();
     void EndParagraph();
     void EndPending();
+    void BeginTable();
+    void TakeGridColumn(const XmlAttributes& attributes);
     void BeginCell();
     void EndCell();
     void Put(TextView text);
     void PutLetters(TextView text);
     void PutText();
     void BeginLink(const XmlAttributes& attributes);
+    void BeginSimpleField(const XmlAttributes& attributes);
     void FieldMark(std::string_view kind);
+    void TakeExtent(const XmlAttributes& attributes);
     void PutPicture(std::string_view id);
     std::optional<Index> FieldOf(TextView instruction);
     ListMark MarkOf(const ParaState& para) const;
