@@ -160,7 +160,7 @@ TEST_F(ListsTest, ManyItemsComeInOneGo) {
     EXPECT_EQ(tellings, 1);
 }
 
-TEST_F(ListsTest, AHandlerMayFillTheListAnewWhileItIsClicked) {
+TEST_F(ListsTest, AHandlerMayFillTheListAgainWhileItIsClicked) {
     form.List1.Click = [this] {
         if (form.List1.ListCount() != 3) return;
         form.List1.Clear();

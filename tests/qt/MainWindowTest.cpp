@@ -1,6 +1,8 @@
 #include "QtSupport.h"
+#include "context/exchange/ListerRequest.h"
 #include "context/ports/FilePicker.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "platform/qt/grid/CellEditor.h"
@@ -13,6 +15,7 @@
 #include "shell/commands/MainRoutines.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/frmMDIChild.h"
+#include "support/ScriptedPickers.h"
 #include "support/TableBytes.h"
 #include "support/TestProgram.h"
 
@@ -56,7 +59,7 @@ protected:
         outside.files.AddFile(outside.files.Style().JoinPath(outside.files.ProgramDir(), u"Korvane.ini"),
                               SettingsBytes(settings));
         outside.files.AddFile(kFile, NameTable(kFile, {"Bert", "Anna"}));
-        app.SetPort<FilePicker>(&outside.user);
+        app.SetPort<FilePicker>(&outside.user.Pickers());
     }
 
     void SetUp() override {

@@ -1,6 +1,7 @@
 #include "support/ScriptedUser.h"
 
 #include "controls/Menu.h"
+#include "support/ScriptedPickers.h"
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,8 @@ bool HasButton(MessageButtons buttons, Answer answer) {
 
 } // namespace
 
+ScriptedUser::ScriptedUser() : pickers_(std::make_unique<ScriptedPickers>(*this)) {}
+
 ScriptedUser::~ScriptedUser() {
     for (const Step& step : steps_) {
         ADD_FAILURE() << "the script still awaits " << kAwaited[step.index()];
@@ -50,6 +53,18 @@ void ScriptedUser::ChooseFiles(const std::vector<Text>& paths) {
 
 void ScriptedUser::CancelChooser() {
     OnChooser([](ListerRequest&) {});
+}
+
+const std::vector<ListerRequest>& ScriptedUser::Requests() const {
+    return pickers_->requests;
+}
+
+const std::vector<ColourRequest>& ScriptedUser::ColourRequests() const {
+    return pickers_->colourRequests;
+}
+
+const std::vector<FontSpec>& ScriptedUser::FontRequests() const {
+    return pickers_->fontRequests;
 }
 
 void ScriptedUser::RunModal(Form& form) {
@@ -91,19 +106,16 @@ Answer ScriptedUser::Show(const Message& message) {
     return EscAnswer(message.buttons);
 }
 
-void ScriptedUser::Choose(ListerRequest& request) {
-    requests_.push_back(request);
+void ScriptedUser::PickFiles(ListerRequest& request) {
     if (const auto step = Take<ChooserStep>("the file chooser")) step->choose(request);
 }
 
-std::optional<Colour> ScriptedUser::Choose(Colour start, Extent extent) {
-    colourRequests_.push_back({start, extent});
+std::optional<Colour> ScriptedUser::PickColour() {
     const auto step = Take<ColourStep>("the colour dialog");
     return step ? step->chosen : std::nullopt;
 }
 
-std::optional<FontSpec> ScriptedUser::Choose(const FontSpec& present) {
-    fontRequests_.push_back(present);
+std::optional<FontSpec> ScriptedUser::PickFont() {
     const auto step = Take<FontStep>("the font dialog");
     return step ? step->chosen : std::nullopt;
 }

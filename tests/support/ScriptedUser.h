@@ -1,15 +1,13 @@
 #pragma once
 
-#include "context/exchange/ListerRequest.h"
-#include "context/ports/ColourPicker.h"
-#include "context/ports/FilePicker.h"
-#include "context/ports/FontPicker.h"
+#include "controls/FontSpec.h"
 #include "controls/Form.h"
 #include "controls/FormHost.h"
 #include "testing/ScriptedMessageBoxes.h"
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -18,16 +16,16 @@
 
 namespace korvane {
 
+class ScriptedPickers;
+struct ColourRequest;
+struct ListerRequest;
+
 /// Plays the user without a screen. It answers windows, message boxes, choosers and pop-up menus from one
 /// script, in the order in which they appear. The test fails with the name of the window or box if something
 /// isn't in the script, appears out of order, is left open by its script, or never appears.
-class ScriptedUser final : public FormHost,
-                           public MessageBoxes,
-                           public FilePicker,
-                           public ColourPicker,
-                           public FontPicker {
+class ScriptedUser final : public FormHost, public MessageBoxes {
 public:
-    ScriptedUser() = default;
+    ScriptedUser();
     ScriptedUser(const ScriptedUser&) = delete;
     ScriptedUser& operator=(const ScriptedUser&) = delete;
     ~ScriptedUser() override;
@@ -73,16 +71,11 @@ public:
 
     const std::vector<Message>& Messages() const { return messages_; }
     /// The requests to the file chooser.
-    const std::vector<ListerRequest>& Requests() const { return requests_; }
-    struct ColourRequest {
-        Colour start;
-        Extent extent;
-        bool operator==(const ColourRequest&) const = default;
-    };
+    const std::vector<ListerRequest>& Requests() const;
     /// What each colour dialog was opened with.
-    const std::vector<ColourRequest>& ColourRequests() const { return colourRequests_; }
+    const std::vector<ColourRequest>& ColourRequests() const;
     /// What each font dialog was opened with.
-    const std::vector<FontSpec>& FontRequests() const { return fontRequests_; }
+    const std::vector<FontSpec>& FontRequests() const;
     /// The names of all pop-up menus that were shown.
     const std::vector<std::string>& PopUps() const { return popUps_; }
     /// The names of all windows that were brought to the front.
@@ -99,9 +92,14 @@ public:
     void Raise(Form& form) override;
     bool ShowsModal() const override { return modal_ > 0; }
     korvane::Answer Show(const Message& message) override;
-    void Choose(ListerRequest& request) override;
-    std::optional<Colour> Choose(Colour start, Extent extent) override;
-    std::optional<FontSpec> Choose(const FontSpec& present) override;
+    /// The choosers that follow this script.
+    ScriptedPickers& Pickers() { return *pickers_; }
+
+    // What the choosers call.
+
+    void PickFiles(ListerRequest& request);
+    std::optional<Colour> PickColour();
+    std::optional<FontSpec> PickFont();
 
 private:
     struct WindowStep {
@@ -135,13 +133,11 @@ private:
 
     std::deque<Step> steps_;
     std::vector<Message> messages_;
-    std::vector<ListerRequest> requests_;
-    std::vector<ColourRequest> colourRequests_;
-    std::vector<FontSpec> fontRequests_;
     std::vector<std::string> popUps_;
     std::vector<std::string> raised_;
     std::vector<Form*> shown_;
     int modal_ = 0;
+    std::unique_ptr<ScriptedPickers> pickers_;
 };
 
 } // namespace korvane

@@ -2,9 +2,12 @@
 
 #include "Windows.h"
 #include "app/Unattended.h"
+#include "grid/GridStore.h"
 #include "platform/qt/binder/QtFormHost.h"
 #include "support/PageFiles.h"
 #include "support/TestApp.h"
+#include "testing/MemoryFileTypes.h"
+#include "testing/MemoryFonts.h"
 
 namespace korvane {
 

@@ -1,6 +1,7 @@
 // The lock, the clock, the list of websites and the window of pages from each place that opens them, with the
 // real windows there.
 
+#include "context/ports/FilePicker.h"
 #include "dialogs/frmMyInputBox.h"
 #include "extras/clock/frmShowTimer.h"
 #include "extras/lock/frmWallpaper.h"

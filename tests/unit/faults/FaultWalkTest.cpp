@@ -3,13 +3,16 @@
 // is as before, and nothing is said but what the road may say.
 
 #include "context/exchange/FolderPick.h"
+#include "context/exchange/ListerRequest.h"
 #include "context/exchange/StateFiles.h"
+#include "context/ports/FilePicker.h"
 #include "extras/web/frmWebList.h"
 #include "files/jobs/CopyJob.h"
 #include "files/lists/ListFile.h"
 #include "files/lists/frmFavouriteLocations.h"
 #include "files/lists/frmFoldersToday.h"
 #include "files/lists/frmOpenFileWith.h"
+#include "grid/GridStore.h"
 #include "kept/KeptTables.h"
 #include "kept/KeptTexts.h"
 #include "kept/KeptVersions.h"
@@ -354,7 +357,7 @@ struct WebsiteList final : ListWindow {
 };
 
 /// A list that can't be read is told and left as it is. What the user adds to one that could be read is in
-/// the file afterwards, or he is told that it isn't.
+/// the file afterwards, or a message says that it isn't.
 template <class Window>
 class ListWindowWork final : public Work {
 public:

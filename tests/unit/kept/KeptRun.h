@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grid/GridStore.h"
 #include "kept/KeptTables.h"
 #include "support/TestTable.h"
 #include "table/SaveCommands.h"

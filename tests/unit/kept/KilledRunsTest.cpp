@@ -1,5 +1,6 @@
 // Kills the program at each of its steps on the disk in turn.
 
+#include "grid/GridStore.h"
 #include "unit/kept/KeptRun.h"
 
 namespace korvane {

@@ -2,8 +2,11 @@
 
 #include "support/ScriptedUser.h"
 
+#include "context/exchange/ListerRequest.h"
+#include "context/ports/ColourPicker.h"
 #include "controls/CommandButton.h"
 #include "controls/Menu.h"
+#include "support/ScriptedPickers.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
@@ -109,7 +112,7 @@ TEST(ScriptedUser, FailsForABoxOutOfTurn) {
             user.ChooseFile(u"C:\\a.tbx");
             user.Show(kYesNo);
             ListerRequest request;
-            user.Choose(request);
+            user.Pickers().Choose(request);
         },
         "the script awaits the file chooser");
 }
@@ -127,7 +130,7 @@ TEST(ScriptedUser, ChoosesSeveralFiles) {
     ScriptedUser user;
     user.ChooseFiles({u"C:\\a.tbx", u"C:\\b.tbx"});
     ListerRequest request;
-    user.Choose(request);
+    user.Pickers().Choose(request);
     EXPECT_EQ(request.ChosenFileCount, 2);
     EXPECT_EQ(request.ChosenFiles[2], u"C:\\b.tbx");
     EXPECT_EQ(request.ChosenFilePath, u"C:\\a.tbx");
@@ -138,9 +141,9 @@ TEST(ScriptedUser, ChoosesAColourAndTellsWhereTheDialogOpened) {
     ScriptedUser user;
     user.ChooseColour(Colour{255});
     user.ChooseColour(std::nullopt);
-    EXPECT_EQ(user.Choose(Colour{1}, Full), Colour{255});
-    EXPECT_EQ(user.Choose(Colour{2}, Simple), std::nullopt);
-    const std::vector<ScriptedUser::ColourRequest> requests{{Colour{1}, Full}, {Colour{2}, Simple}};
+    EXPECT_EQ(user.Pickers().Choose(Colour{1}, Full), Colour{255});
+    EXPECT_EQ(user.Pickers().Choose(Colour{2}, Simple), std::nullopt);
+    const std::vector<ColourRequest> requests{{Colour{1}, Full}, {Colour{2}, Simple}};
     EXPECT_EQ(user.ColourRequests(), requests);
 }
 
@@ -150,8 +153,8 @@ TEST(ScriptedUser, ChoosesAFontAndTellsWithWhichTheDialogOpened) {
     ScriptedUser user;
     user.ChooseFont(chosen);
     user.ChooseFont(std::nullopt);
-    EXPECT_EQ(user.Choose(present), chosen);
-    EXPECT_EQ(user.Choose(chosen), std::nullopt);
+    EXPECT_EQ(user.Pickers().Choose(present), chosen);
+    EXPECT_EQ(user.Pickers().Choose(chosen), std::nullopt);
     EXPECT_EQ(user.FontRequests(), (std::vector<FontSpec>{present, chosen}));
 }
 
@@ -159,13 +162,13 @@ TEST(ScriptedUser, FailsForAColourOrFontDialogThatIsNotScripted) {
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedUser user;
-            EXPECT_EQ(user.Choose(Colour{1}, ColourPicker::Extent::Simple), std::nullopt);
+            EXPECT_EQ(user.Pickers().Choose(Colour{1}, ColourPicker::Extent::Simple), std::nullopt);
         },
         "nobody scripted the colour dialog");
     EXPECT_NONFATAL_FAILURE(
         {
             ScriptedUser user;
-            EXPECT_EQ(user.Choose(FontSpec{}), std::nullopt);
+            EXPECT_EQ(user.Pickers().Choose(FontSpec{}), std::nullopt);
         },
         "nobody scripted the font dialog");
 }

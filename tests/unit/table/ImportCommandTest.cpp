@@ -1,6 +1,7 @@
 #include "table/ImportCommand.h"
 
 #include "context/ports/ClipboardView.h"
+#include "grid/GridStore.h"
 #include "support/HandlerFailure.h"
 #include "support/TableBytes.h"
 #include "support/TestTable.h"

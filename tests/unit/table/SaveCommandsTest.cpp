@@ -1,6 +1,7 @@
 #include "table/SaveCommands.h"
 
 #include "context/exchange/ClosingSave.h"
+#include "context/exchange/ListerRequest.h"
 #include "support/TableBytes.h"
 #include "support/TestTable.h"
 #include "table/TableFile.h"

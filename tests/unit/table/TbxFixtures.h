@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/number/Number.h"
+#include "grid/GridStore.h"
 #include "support/TestTable.h"
 #include "table/model/TbxReader.h"
 #include "table/model/TbxWriter.h"

@@ -1,5 +1,6 @@
 #include "TbxFixtures.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 
 #include <ostream>
 

@@ -7,6 +7,7 @@
 #include "dbops/rules/RowFontFlags.h"
 #include "dbops/windows/frmRowColour.h"
 #include "grid/Grid.h"
+#include "support/ScriptedPickers.h"
 #include "unit/dbops/TestTab.h"
 
 #include <gtest/gtest.h>
@@ -339,7 +340,7 @@ TEST_F(TableBackground, TakesTheChosenColour) {
     t.watcher.refreshes = 0;
     mnuFormat_BColor_Clack(t.tab);
     EXPECT_EQ(t.user.ColourRequests(),
-              (std::vector<ScriptedUser::ColourRequest>{{Colour{0xABCDEF}, ColourPicker::Extent::Full}}));
+              (std::vector<ColourRequest>{{Colour{0xABCDEF}, ColourPicker::Extent::Full}}));
     EXPECT_EQ(t.table.TableBackColour, Colour{0x00FF00});
     EXPECT_EQ(t.grid.GridBackColor(), Colour{0x00FF00});
     EXPECT_EQ(t.watcher.refreshes, 1);

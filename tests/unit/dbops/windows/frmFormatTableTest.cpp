@@ -1,6 +1,8 @@
 #include "dbops/windows/frmFormatTable.h"
 
+#include "context/ports/ColourPicker.h"
 #include "support/Captions.h"
+#include "support/ScriptedPickers.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

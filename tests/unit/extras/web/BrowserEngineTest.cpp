@@ -1,5 +1,6 @@
 #include "extras/web/BrowserEngine.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "context/ports/WebEngines.h"
 #include "extras/web/frmBrowser.h"
 #include "support/PageFiles.h"

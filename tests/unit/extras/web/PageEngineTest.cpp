@@ -1,5 +1,6 @@
 #include "extras/web/PageEngine.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "controls/Form.h"
 #include "controls/text/TextControl.h"
 #include "support/PageFiles.h"

@@ -1,5 +1,6 @@
 #include "extras/web/frmWebList.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "support/DesignerFile.h"
 #include "support/MenuEntries.h"
 #include "unit/extras/web/WebListStage.h"

@@ -2,6 +2,7 @@
 
 #include "ListerFixture.h"
 #include "context/exchange/FolderPick.h"
+#include "context/exchange/ListerRequest.h"
 #include "context/ports/FavouriteFolders.h"
 #include "files/jobs/frmFolderOpNotify.h"
 #include "files/lists/frmFoldersToday.h"

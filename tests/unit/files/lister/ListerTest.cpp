@@ -2,6 +2,7 @@
 
 #include "ListerFixture.h"
 #include "context/FileChooser.h"
+#include "context/ports/FilePicker.h"
 #include "files/lists/frmFavouriteLocations.h"
 
 namespace korvane {

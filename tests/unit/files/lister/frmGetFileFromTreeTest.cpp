@@ -5,6 +5,7 @@
 #include "dialogs/frmMyInputBox.h"
 #include "files/names/frmEnterFileName.h"
 #include "support/DesignerFile.h"
+#include "support/ScriptedPickers.h"
 
 namespace korvane {
 namespace {

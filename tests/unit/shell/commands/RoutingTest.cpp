@@ -1,4 +1,6 @@
+#include "context/exchange/ListerRequest.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "shell/commands/Commands.h"
 #include "support/TestProgram.h"
 #include "table/frmDesignTable.h"

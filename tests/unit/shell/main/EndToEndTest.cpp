@@ -2,6 +2,7 @@
 
 #include "context/exchange/StateFiles.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "support/TestProgram.h"
 #include "table/frmTxtDbInfo.h"
 

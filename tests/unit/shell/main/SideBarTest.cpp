@@ -1,3 +1,4 @@
+#include "context/exchange/ListerRequest.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

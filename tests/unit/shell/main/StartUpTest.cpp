@@ -7,6 +7,7 @@
 #include "shell/recent/frmFileList.h"
 #include "shell/tabs/frmLoadList.h"
 #include "support/TestProgram.h"
+#include "testing/MemorySystemFolders.h"
 
 #include <gtest/gtest.h>
 

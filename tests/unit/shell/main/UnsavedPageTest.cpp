@@ -1,5 +1,6 @@
 #include "shell/main/UnsavedPage.h"
 
+#include "grid/GridStore.h"
 #include "kept/KeptTables.h"
 #include "kept/KeptTexts.h"
 #include "support/TestProgram.h"

@@ -7,6 +7,7 @@
 #include "context/ports/ColourPicker.h"
 #include "context/ports/FontPicker.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "support/HandlerFailure.h"
 #include "support/MenuEntries.h"
 #include "support/TestProgram.h"

@@ -1,5 +1,6 @@
 #include "shell/settings/frmSetYourProg.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>

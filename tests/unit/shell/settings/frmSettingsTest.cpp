@@ -1,5 +1,6 @@
 #include "shell/settings/frmSettings.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "context/ports/SystemFileDialog.h"
 #include "shell/settings/frmCtrlRet.h"
 #include "shell/settings/frmProgramLocations.h"

@@ -1,5 +1,6 @@
 #include "shell/settings/frmWindowSize.h"
 
+#include "grid/GridStore.h"
 #include "shell/main/frmMDIParent.h"
 #include "shell/tabs/frmMDIChild.h"
 #include "support/TestProgram.h"

@@ -2,6 +2,7 @@
 
 #include "context/exchange/ListerRequest.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "shell/tabs/frmLoadList.h"
 #include "support/TestProgram.h"
 

@@ -1,5 +1,7 @@
+#include "context/exchange/ListerRequest.h"
 #include "dbops/commands/ColumnCommands.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "support/HandlerFailure.h"
 #include "support/TestProgram.h"
 #include "table/TableFile.h"

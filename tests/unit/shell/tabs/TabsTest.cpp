@@ -1,6 +1,7 @@
 #include "shell/tabs/Tabs.h"
 
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "shell/commands/frmAbout.h"
 #include "support/HandlerFailure.h"
 #include "support/TestProgram.h"

@@ -2,6 +2,7 @@
 #include "dbops/windows/frmFindReplace.h"
 #include "dbops/windows/frmRowColour.h"
 #include "grid/Grid.h"
+#include "grid/GridStore.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>

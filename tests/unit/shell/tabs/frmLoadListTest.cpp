@@ -1,5 +1,7 @@
 #include "shell/tabs/frmLoadList.h"
 
+#include "context/exchange/ListerRequest.h"
+#include "grid/GridStore.h"
 #include "support/MenuEntries.h"
 #include "support/TestProgram.h"
 

@@ -3,6 +3,7 @@
 #include "context/exchange/FontChoice.h"
 #include "context/ports/ClipboardView.h"
 #include "context/ports/ColourPairPicker.h"
+#include "context/ports/FontPicker.h"
 #include "unit/text/fields/FieldStage.h"
 
 namespace korvane {

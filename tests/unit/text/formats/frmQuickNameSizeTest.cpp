@@ -3,6 +3,7 @@
 #include "common/text/Names.h"
 #include "context/ports/SystemFontDialog.h"
 #include "support/DesignerFile.h"
+#include "testing/MemoryFonts.h"
 #include "text/insert/frmASCIIBox.h"
 #include "text/insert/frmElements.h"
 #include "text/insert/frmSymbolTables.h"

@@ -1,6 +1,8 @@
 #include "text/formats/frmSetForegroundColour.h"
 
+#include "context/ports/ColourPicker.h"
 #include "support/DesignerFile.h"
+#include "support/ScriptedPickers.h"
 #include "unit/text/formats/FormatsStage.h"
 
 #include <memory>

@@ -1,5 +1,6 @@
 #include "text/insert/frmASCIIBox.h"
 
+#include "testing/MemoryFonts.h"
 #include "unit/text/insert/InsertStage.h"
 
 #include <memory>

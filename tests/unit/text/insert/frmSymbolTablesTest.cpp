@@ -1,5 +1,6 @@
 #include "text/insert/frmSymbolTables.h"
 
+#include "context/exchange/ListerRequest.h"
 #include "testing/MemoryDocumentConverter.h"
 #include "text/files/DocumentFiles.h"
 #include "text/insert/InsertWindows.h"

@@ -1,8 +1,10 @@
 #include "context/ports/ClipboardView.h"
+#include "context/ports/ColourPicker.h"
 #include "context/ports/InsertTools.h"
 #include "context/ports/TextFinder.h"
 #include "context/ports/TextTools.h"
 #include "context/ports/WordList.h"
+#include "support/ScriptedPickers.h"
 #include "text/fields/frmShowFieldContents.h"
 #include "text/fields/frmViewEditField.h"
 #include "text/paragraph/frmIndent.h"
@@ -163,8 +165,7 @@ TEST_F(TextWindowView, OneColourIsForThePageAndTheText) {
     EXPECT_EQ(Control().TextBkColor(), Colour{0x112233});
     t.user.ChooseColour(std::nullopt);
     Choose("mnuColours");
-    EXPECT_EQ(t.user.ColourRequests()[0],
-              (ScriptedUser::ColourRequest{Colour{0xFFFFFF}, ColourPicker::Extent::Full}));
+    EXPECT_EQ(t.user.ColourRequests()[0], (ColourRequest{Colour{0xFFFFFF}, ColourPicker::Extent::Full}));
     EXPECT_EQ(t.user.ColourRequests()[1].start, Colour{0x112233});
     EXPECT_EQ(Control().BackColor.Get(), Colour{0x112233});
 }

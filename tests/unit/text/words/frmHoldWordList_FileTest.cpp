@@ -1,3 +1,4 @@
+#include "context/exchange/ListerRequest.h"
 #include "unit/text/words/WordListStage.h"
 
 namespace korvane {

@@ -1,5 +1,8 @@
 #include "files/lister/rows/FileRows.h"
 
+#include "context/exchange/ListerRequest.h"
+#include "grid/Grid.h"
+#include "testing/MemoryFileTypes.h"
 #include "unit/files/lister/ListerFixture.h"
 
 namespace korvane {
@@ -14,7 +17,7 @@ protected:
     static constexpr int kMany = 1001;
 
     static Message Warning(const Text& text) { return {text, MessageIcon::Exclamation}; }
-    /// The user goes to another folder as soon as the reading lets him.
+    /// The user goes to another folder as soon as the reading allows it.
     void ExpectAnotherFolderTakesOver() {
         OpenOnly([this](frmGetFileFromTree& f) {
             t.screen.QueueMessage([&] { f.TreeView1.Select(At(u"Data")); });

@@ -1,6 +1,7 @@
 #include "files/lister/rows/TypeImages.h"
 
 #include "support/TestApp.h"
+#include "testing/MemoryFileTypes.h"
 
 #include <gmock/gmock.h>
 
