@@ -4,18 +4,23 @@
 
 #include <QIcon>
 #include <QResource>
+#include <QTimer>
+#include <chrono>
 #include <exception>
+#include <initializer_list>
 #include <new>
 
 namespace korvane {
 
 namespace {
 
+constexpr std::chrono::seconds kIconsLater{1};
+
 /// The pictures are ready pixels. To draw them from SVG, or to look for a reader of PNG, holds up the first
 /// window.
-QIcon ProgramIcon() {
+QIcon ProgramIcon(std::initializer_list<int> widths) {
     QIcon icon;
-    for (const int width : {16, 32, 48, 64, 128}) {
+    for (const int width : widths) {
         const QByteArray pixels =
             QResource(QStringLiteral(":/korvane-%1.bgra").arg(width)).uncompressedData();
         const auto* bytes = reinterpret_cast<const uchar*>(pixels.constData());
@@ -30,7 +35,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName(QStringLiteral("korvane"));
     // No display name is set, because Qt would add it to the title of every window.
     setDesktopFileName(QStringLiteral("korvane"));
-    setWindowIcon(ProgramIcon());
+    // The window system takes several ms for the larger pictures, and shows only small ones at first.
+    setWindowIcon(ProgramIcon({16, 32}));
+    QTimer::singleShot(kIconsLater, this, [] { setWindowIcon(ProgramIcon({16, 32, 48, 64, 128})); });
     setStyle(new CalmStyle);
     setQuitOnLastWindowClosed(false);
 }

@@ -10,13 +10,17 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyleFactory>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QToolBar>
 #include <QTreeView>
+#include <memory>
 
 namespace korvane {
 namespace {
@@ -51,6 +55,33 @@ protected:
 
     CalmStyle style;
 };
+
+/// A tool bar of a main window, drawn by the style.
+QImage ToolBarBy(QStyle& style, const QPalette& palette, Qt::ToolBarArea area) {
+    QMainWindow window;
+    QToolBar bar;
+    window.addToolBar(&bar);
+    QStyleOptionToolBar option;
+    option.initFrom(&bar);
+    option.palette = palette;
+    option.rect = QRect(3, 2, 300, 40);
+    option.state = QStyle::State_Horizontal;
+    option.toolBarArea = area;
+    option.positionOfLine = QStyleOptionToolBar::OnlyOne;
+    QImage picture(320, 60, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(palette.color(QPalette::Window));
+    QPainter painter(&picture);
+    style.drawControl(QStyle::CE_ToolBar, &option, &painter, &bar);
+    return picture;
+}
+
+TEST_F(CalmStyleTest, AToolBarLooksAsFusionDrawsIt) {
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create("Fusion"));
+    for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
+        for (const auto area : {Qt::TopToolBarArea, Qt::BottomToolBarArea})
+            EXPECT_EQ(ToolBarBy(style, palette, area), ToolBarBy(*fusion, palette, area));
+    }
+}
 
 TEST_F(CalmStyleTest, HollowsHaveAnEdgeOnADarkWindow) {
     const test::UnderPalette under(DarkPalette());

@@ -9,6 +9,8 @@
 
 #include <QAbstractScrollArea>
 #include <QLabel>
+#include <QLinearGradient>
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
 #include <QToolButton>
@@ -135,6 +137,30 @@ void MakeReadable(QPalette& palette, QPalette::ColorGroup group) {
     palette.setColor(group, QPalette::Highlight, WithContrast(back, {text}, kEasyToRead));
 }
 
+/// Whether the tool bar is alone at the upper edge of a main window.
+bool IsAtTop(const QStyleOptionToolBar& bar, const QWidget* widget) {
+    return widget != nullptr && qobject_cast<const QMainWindow*>(widget->parentWidget()) != nullptr &&
+           bar.toolBarArea == Qt::TopToolBarArea && bar.positionOfLine == QStyleOptionToolBar::OnlyOne &&
+           bar.state.testFlag(QStyle::State_Horizontal);
+}
+
+/// Draws what Fusion does. Fusion draws lines, and Qt gives a line of half-transparent points to several
+/// threads, which takes longer than all icons of the bar.
+void DrawToolBar(const QStyleOption& option, QPainter& painter) {
+    constexpr QColor kLight(255, 255, 255, 90);
+    constexpr QColor kShadow(0, 0, 0, 60);
+    constexpr int kLighter = 104;
+    const QRect& bar = option.rect;
+    const QColor window = option.palette.color(QPalette::Window);
+    QLinearGradient ground(bar.topLeft(), bar.bottomLeft());
+    ground.setColorAt(0, window.lighter(kLighter));
+    ground.setColorAt(1, window);
+    painter.fillRect(bar, ground);
+    painter.fillRect(bar.left(), bar.bottom(), bar.width(), 1, kLight);
+    painter.fillRect(bar.left(), bar.bottom() - 1, bar.width(), 1, kShadow);
+    painter.fillRect(bar.left(), bar.top(), bar.width(), 1, kLight);
+}
+
 QString OwnIconName(QStyle::StandardPixmap picture) {
     switch (picture) {
     case QStyle::SP_MessageBoxInformation:
@@ -181,6 +207,8 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 
 void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionToolBar*>(option);
+    if (element == CE_ToolBar && bar != nullptr && IsAtTop(*bar, widget)) return DrawToolBar(*bar, *painter);
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool ringed = element == CE_PushButton || (element == CE_ShapedFrame && IsRinged(widget));
     if (ringed && option->state.testFlag(State_HasFocus))
