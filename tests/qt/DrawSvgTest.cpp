@@ -22,7 +22,7 @@ QByteArray In24(const char* shapes) {
 }
 
 QImage Drawn(const QByteArray& svg, int width = 24) {
-    return DrawSvg(svg, {width, width}).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return DrawSvg(svg, {width, width});
 }
 
 /// The largest difference of a colour in the two pictures.

@@ -93,8 +93,8 @@ void FitInto(QPainter& painter, const QSize& size, const QString& viewBox) {
 
 } // namespace
 
-QPixmap DrawSvg(const QByteArray& svg, const QSize& size) {
-    QPixmap picture(size);
+QImage DrawSvg(const QByteArray& svg, const QSize& size) {
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -2,9 +2,11 @@
 
 #include "platform/qt/look/DrawSvg.h"
 #include "platform/qt/look/Palettes.h"
+#include "platform/qt/look/ReadyIcons.h"
 
 #include <QAction>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -17,9 +19,7 @@ namespace korvane {
 
 namespace {
 
-// The two colours in which the icons are drawn, and what the second one becomes in a dark window.
-constexpr auto kStroke = "#3c4650";
-constexpr auto kAccent = "#2f74c0";
+/// What the accent becomes in a dark window.
 constexpr auto kAccentOnDark = "#6fb1f5";
 
 struct Tints {
@@ -40,7 +40,11 @@ Tints PaletteTints(QIcon::Mode mode) {
     return IsDark(palette) ? Tints{text, kAccentOnDark} : Tints{kStroke, kAccent};
 }
 
-QPixmap Draw(const QString& path, const QSize& size, const Tints& tints) {
+/// Few sizes of few icons are ready, and the others are drawn.
+QImage Draw(const QString& path, const QSize& size, const Tints& tints) {
+    const QImage ready = DrawReadyIcon(QFileInfo(path).baseName(), size, QColor(tints.stroke.constData()),
+                                       QColor(tints.accent.constData()));
+    if (!ready.isNull()) return ready;
     QFile file(path);
     QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     return DrawSvg(svg.replace(kStroke, tints.stroke).replace(kAccent, tints.accent), size);
@@ -87,7 +91,7 @@ private:
                                 .arg(QLatin1String(tints.stroke), QLatin1String(tints.accent));
         QPixmap pixmap;
         if (QPixmapCache::find(key, &pixmap)) return pixmap;
-        pixmap = Draw(path_, size, tints);
+        pixmap = QPixmap::fromImage(Draw(path_, size, tints));
         QPixmapCache::insert(key, pixmap);
         return pixmap;
     }
