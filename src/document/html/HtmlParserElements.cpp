@@ -170,6 +170,8 @@ void HtmlParser::List(std::int32_t kind) {
         static_cast<ListKind>(kind) == ListKind::Bullet ? ListKind::Bullet : KindOfType(AttributeOf("type"));
     openLists_.push_back({mark, static_cast<std::uint8_t>(std::min(level, kDeepestList)),
                           NumberOf(AttributeOf("start"), 1), number});
+    // The paragraphs of this program's own pages tell their indents.
+    if (own_) return;
     Para().left += 2 * kListStep;
     Para().list = {};
 }
@@ -179,7 +181,7 @@ void HtmlParser::CloseList(std::int32_t) {
 }
 
 void HtmlParser::ListItem(std::int32_t) {
-    if (openLists_.empty()) return;
+    if (openLists_.empty() || !AttributeOf("data-kv-list").empty()) return;
     Para().list = openLists_.back();
     Para().first = -kListStep;
 }

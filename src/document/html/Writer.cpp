@@ -1,5 +1,6 @@
 #include "document/html/Html.h"
 #include "document/model/Base64.h"
+#include "document/model/ListNumbers.h"
 
 #include <algorithm>
 #include <charconv>
@@ -11,6 +12,8 @@ namespace korvane::doc {
 namespace {
 
 constexpr std::int32_t kTwipsPerPoint = 20;
+/// Deeper ones are written as lists of this level.
+constexpr std::size_t kDeepestList = 8;
 
 void PutNumber(std::string& out, std::int64_t number) {
     char digits[24];
@@ -123,17 +126,24 @@ struct Tags {
 class Writer {
 public:
     Writer(const Document& document, const PieceTaker& take)
-        : document_(document), take_(take), looks_(document.chars.Size()), shapes_(document.paras.Size()) {}
+        : document_(document),
+          take_(take),
+          numbers_(ListNumbers(document)),
+          looks_(document.chars.Size()),
+          shapes_(document.paras.Size()) {}
 
     void Write() {
         WriteHead();
         const std::vector<Paragraph>& paragraphs = document_.paragraphs;
         for (std::size_t i = 0; i < paragraphs.size(); ++i) {
             const CellPlace before = i > 0 ? paragraphs[i - 1].cell : CellPlace{};
+            if (before != paragraphs[i].cell) CloseLists(0);
             MoveTo(before, paragraphs[i].cell);
+            MoveTo(document_.FormatOf(paragraphs[i]).list, numbers_[i]);
             WriteParagraph(paragraphs[i]);
             PassOn(out_, take_);
         }
+        CloseLists(0);
         out_ += "</body>\n</html>\n";
         take_(out_);
     }
@@ -143,8 +153,9 @@ private:
     void WriteHead() {
         out_ = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n"
                "<meta name=\"generator\" content=\"Korvane\">\n"
-               "<style>p{margin:0pt 0pt 0.05pt 0pt;line-height:100%}table{border-collapse:collapse}"
-               "td{vertical-align:top}</style>\n</head>\n"
+               "<style>p,li{margin:0pt 0pt 0.05pt 0pt;line-height:100%}"
+               "ul,ol{margin:0pt;padding:0pt;list-style-position:inside}"
+               "table{border-collapse:collapse}td{vertical-align:top}</style>\n</head>\n"
                "<body data-kv-page=\"";
         for (const std::int32_t size : document_.page.sizes) {
             PutNumber(out_, size);
@@ -186,6 +197,33 @@ private:
         const TableRow& row = document_.tables.at(to.table).rows[to.row];
         if (!sameRow) BeginRow(row);
         BeginCell(row.cells[to.column]);
+    }
+
+    /// Ends and begins lists, so that the paragraph with this mark is an item of its list and level.
+    void MoveTo(const ListMark& mark, int number) {
+        const std::size_t depth =
+            mark.kind == ListKind::None ? 0 : std::min<std::size_t>(mark.level, kDeepestList) + 1;
+        CloseLists(depth);
+        if (depth == 0) return;
+        if (lists_.size() == depth && lists_.back().kind != mark.kind) CloseLists(depth - 1);
+        if (!lists_.empty() && lists_.back().list != mark.list) CloseLists(0);
+        while (lists_.size() < depth)
+            OpenList(mark, lists_.size() + 1 == depth ? number : 1);
+    }
+
+    void OpenList(const ListMark& mark, int number) {
+        static constexpr std::string_view kTags[] = {
+            "", "<ul", "<ol", "<ol type=\"a\"", "<ol type=\"A\"", "<ol type=\"i\"", "<ol type=\"I\""};
+        lists_.push_back(mark);
+        out_ += kTags[static_cast<std::size_t>(mark.kind)];
+        if (mark.kind != ListKind::Bullet && number != 1) PutNumbers(out_, "start", {number});
+        out_ += ">\n";
+    }
+
+    /// Ends all lists but so many.
+    void CloseLists(std::size_t rest) {
+        for (; lists_.size() > rest; lists_.pop_back())
+            out_ += lists_.back().kind == ListKind::Bullet ? "</ul>\n" : "</ol>\n";
     }
 
     void BeginRow(const TableRow& row) {
@@ -232,7 +270,7 @@ private:
             out_ += TagsOf(paragraph.emptyFormat).open + "<br>" + TagsOf(paragraph.emptyFormat).close;
         else if (paragraph.text.back() == kLineBreak)
             out_ += "<br>";
-        out_ += "</p>\n";
+        out_ += document_.FormatOf(paragraph).list.kind == ListKind::None ? "</p>\n" : "</li>\n";
     }
 
     void WriteRuns(const Paragraph& paragraph) {
@@ -306,7 +344,7 @@ private:
 
     /// The tag of a paragraph up to the end of its style.
     std::string ShapeOf(const ParaFormat& format) const {
-        std::string out = "<p";
+        std::string out = format.list.kind == ListKind::None ? "<p" : "<li";
         PutOwnAttributes(out, format);
         out += " style=\"";
         static constexpr std::string_view kAlignments[] = {"", "text-align:right;", "text-align:center;",
@@ -324,7 +362,6 @@ private:
         }
         if ((format.frame & kFrameSides) != 0) PutFrame(out, format);
         if (format.pageBreakBefore) out += "page-break-before:always;";
-        if (format.list.kind != ListKind::None) PutListStyle(out, format.list);
         return out;
     }
 
@@ -350,14 +387,6 @@ private:
             out += (format.frame & kFrameDouble) != 0 ? " double;" : " solid;";
         }
         PutLength(out, "padding:", format.frameDistance);
-    }
-
-    static void PutListStyle(std::string& out, const ListMark& mark) {
-        static constexpr std::string_view kTypes[] = {
-            "", "disc", "decimal", "lower-alpha", "upper-alpha", "lower-roman", "upper-roman"};
-        out += "display:list-item;list-style-position:inside;list-style-type:";
-        out += kTypes[static_cast<std::size_t>(mark.kind)];
-        out += ';';
     }
 
     /// What HTML has no word for is in attributes that browsers ignore.
@@ -405,6 +434,9 @@ private:
 
     const Document& document_;
     const PieceTaker& take_;
+    std::vector<int> numbers_;
+    /// The lists that have begun, from the outermost one.
+    std::vector<ListMark> lists_;
     /// The tags of the formats that were used so far.
     std::vector<std::optional<Tags>> looks_;
     std::vector<std::string> shapes_;

@@ -7,23 +7,6 @@ namespace {
 
 using doc::ListKind;
 
-doc::ListMark Mark(std::uint32_t list, std::uint8_t level, std::int32_t start = 1) {
-    return {ListKind::Decimal, level, start, list};
-}
-
-TEST(ListMarks, NumbersCountOnAndStartAgainBelow) {
-    const std::optional<doc::ListMark> marks[] = {Mark(1, 0), Mark(1, 1, 5), Mark(1, 1, 5), std::nullopt,
-                                                  Mark(1, 0), Mark(1, 1, 5), Mark(2, 0)};
-    doc::Document document;
-    document.paragraphs.clear();
-    for (const auto& mark : marks) {
-        doc::ParaFormat format;
-        if (mark) format.list = *mark;
-        document.paragraphs.push_back({.format = document.paras.Add(format)});
-    }
-    EXPECT_EQ(ListNumbers(document), (std::vector<int>{1, 5, 6, 0, 2, 5, 1}));
-}
-
 TEST(ListMarks, EachKindHasItsMark) {
     const auto text = [](ListKind kind, int number, std::uint8_t level = 0) {
         return ToUtf8(MarkText({kind, level}, number));

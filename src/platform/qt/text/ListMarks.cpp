@@ -2,15 +2,11 @@
 
 #include "common/number/Number.h"
 
-#include <algorithm>
-#include <map>
-
 namespace korvane {
 
 namespace {
 
 constexpr char16_t kBullets[] = {u'•', u'◦', u'▪'};
-constexpr std::size_t kLevels = 10;
 constexpr int kLetters = 26;
 /// Longer rows of letters and Roman numbers than those of this number aren't readable.
 constexpr int kMost = 3999;
@@ -61,21 +57,6 @@ Text NumberIn(doc::ListKind kind, int number) {
 }
 
 } // namespace
-
-std::vector<int> ListNumbers(const doc::Document& document) {
-    std::vector<int> numbers(document.paragraphs.size());
-    std::map<std::uint32_t, std::array<int, kLevels>> counts;
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-        const doc::ListMark& mark = document.FormatOf(document.paragraphs[i]).list;
-        if (mark.kind == doc::ListKind::None) continue;
-        std::array<int, kLevels>& levels = counts[mark.list];
-        const std::size_t level = std::min<std::size_t>(mark.level, kLevels - 1);
-        numbers[i] = mark.start + levels[level]++;
-        // What is below this paragraph counts from its start.
-        std::fill(levels.begin() + static_cast<std::ptrdiff_t>(level) + 1, levels.end(), 0);
-    }
-    return numbers;
-}
 
 Text MarkText(const doc::ListMark& mark, int number) {
     if (mark.kind == doc::ListKind::Bullet) return Text(1, kBullets[mark.level % std::size(kBullets)]);

@@ -1,6 +1,7 @@
 #include "platform/qt/text/TextMirror.h"
 
 #include "common/text/SymbolFont.h"
+#include "document/model/ListNumbers.h"
 #include "platform/qt/base/Convert.h"
 #include "platform/qt/text/ListMarks.h"
 #include "platform/qt/text/ShownDocument.h"

@@ -65,5 +65,53 @@ TEST(HtmlRoundTrip, AFileInPiecesIsTheSame) {
     EXPECT_LT(longest, 2 * kPieceOfText);
 }
 
+Paragraph Item(Document& document, TextView text, ListMark mark) {
+    ParaFormat format;
+    format.list = mark;
+    return {.text = Text(text),
+            .runs = {{static_cast<Index>(text.size())}},
+            .format = document.paras.Add(format)};
+}
+
+/// The written tags of lists, with a letter for each item.
+std::string ListsOf(const Document& document) {
+    std::string lists;
+    const std::string html = WriteHtml(document);
+    for (std::size_t at = html.find("<body"); at < html.size(); ++at) {
+        const std::string_view rest = std::string_view(html).substr(at);
+        if (rest.starts_with("<ul") || rest.starts_with("<ol") || rest.starts_with("</ul") ||
+            rest.starts_with("</ol"))
+            lists += rest.substr(0, rest.find('>') + 1);
+        else if (rest.starts_with("</li>") || rest.starts_with("</p>"))
+            lists += html[at - 1];
+    }
+    return lists;
+}
+
+TEST(HtmlRoundTrip, ListsAreListsForOtherPrograms) {
+    Document document;
+    document.paragraphs = {Item(document, u"a", {ListKind::Bullet, 0, 1, 1}),
+                           Item(document, u"b", {ListKind::LowerLetter, 1, 3, 1}),
+                           Item(document, u"c", {ListKind::LowerLetter, 1, 3, 1}),
+                           Item(document, u"d", {ListKind::Bullet, 0, 1, 1}),
+                           Item(document, u"e", {}),
+                           Item(document, u"f", {ListKind::Decimal, 0, 1, 2}),
+                           Item(document, u"g", {}),
+                           Item(document, u"h", {ListKind::Decimal, 0, 1, 2}),
+                           Item(document, u"i", {ListKind::Decimal, 0, 1, 3})};
+    EXPECT_EQ(ListsOf(document),
+              "<ul>a<ol type=\"a\" start=\"3\">bc</ol>d</ul>e<ol>f</ol>g<ol start=\"2\">h</ol><ol>i</ol>");
+    const std::string html = WriteHtml(document);
+    EXPECT_EQ(FirstDifference(ReadHtml(html).document, document), "");
+    EXPECT_EQ(WriteHtml(ReadHtml(html).document), html);
+}
+
+TEST(HtmlRoundTrip, AListOfTheDeepestLevelIsReadAgain) {
+    Document document;
+    document.paragraphs = {Item(document, u"a", {ListKind::Bullet, 8, 1, 1}),
+                           Item(document, u"b", {ListKind::Bullet, 0, 1, 1})};
+    EXPECT_EQ(FirstDifference(ReadHtml(WriteHtml(document)).document, document), "");
+}
+
 } // namespace
 } // namespace korvane::doc
