@@ -1,4 +1,5 @@
 #include "BenchProgram.h"
+#include "Contest.h"
 #include "ProceedingUser.h"
 #include "dbops/commands/ColumnCommands.h"
 #include "dbops/commands/RowCommands.h"
@@ -12,6 +13,8 @@
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 namespace korvane::bench {
 
@@ -19,10 +22,24 @@ namespace {
 
 using Preparation = void (*)(BenchProgram&);
 
-/// Measures `work` on the table at the limit. The table is loaded again for each round, because a command
-/// that ran before would have nothing to do.
+constexpr std::size_t kRows = 32'767;
+constexpr std::size_t kCells = kRows * 24;
+
+/// As many numbers as the command changes, with a copy of what they were.
+void CopyAndChange(std::size_t count) {
+    std::vector<std::uint64_t> numbers(count);
+    std::vector<std::uint64_t> before = numbers;
+    benchmark::DoNotOptimize(before.data());
+    for (std::uint64_t& number : numbers)
+        ++number;
+    benchmark::DoNotOptimize(numbers.data());
+}
+
+/// Measures `work` on the table at the limit against `CopyAndChange` of `changes` numbers. The table is
+/// loaded again for each round, because a command that ran before would have nothing to do.
 void Measure(benchmark::State& state, ProceedingUser user, Preparation prepare,
-             void (*work)(const TabContext&)) {
+             void (*work)(const TabContext&), std::size_t changes) {
+    Contest contest(state);
     for ([[maybe_unused]] auto _ : state) {
         BenchProgram program;
         App app{{program.files, program.messages, program.clipboard, program.clock, program.screen,
@@ -32,10 +49,11 @@ void Measure(benchmark::State& state, ProceedingUser user, Preparation prepare,
         prepare(program);
         program.history.EndStep();
         program.messages.QueueAnswer(Answer::Yes);
-        state.SetIterationTime(SecondsOf([&] {
-            const TableStep step(program.history);
-            work(tab);
-        }));
+        const double floor = SecondsOf([changes] { CopyAndChange(changes); });
+        contest.Round(floor, SecondsOf([&] {
+                          const TableStep step(program.history);
+                          work(tab);
+                      }));
         if (!program.history.Undo()) state.SkipWithError("the command changed nothing");
     }
 }
@@ -59,7 +77,7 @@ void SelectRowsByColour(benchmark::State& state) {
         form.lstColourOptions.SetListIndex(kRed);
         form.cmdSelect.Press();
     });
-    Measure(state, user, &PaintRows, &mnuFormat_RowColour_Clack);
+    Measure(state, user, &PaintRows, &mnuFormat_RowColour_Clack, kRows);
 }
 
 /// One row in ten has the attribute that is searched for.
@@ -69,7 +87,7 @@ void FilterToAttribute(benchmark::State& state) {
         form.optAttribute[static_cast<std::size_t>(CellFlag::Bold)].Press();
         form.cmdFilterToAttribute.Press();
     });
-    Measure(state, user, &Nothing, &mnuFormat_RowColour_Clack);
+    Measure(state, user, &Nothing, &mnuFormat_RowColour_Clack, kRows);
 }
 
 void SetRowHeights(benchmark::State& state) {
@@ -79,31 +97,31 @@ void SetRowHeights(benchmark::State& state) {
         form.cboRowHeight.SetListIndex(kOtherHeight - 1);
         form.cmdProceed.Press();
     });
-    Measure(state, user, &Nothing, &mnuEdit_SetRowHeight_Clack);
+    Measure(state, user, &Nothing, &mnuEdit_SetRowHeight_Clack, kRows);
 }
 
 /// One row in four is ticked already.
 void TickAll(benchmark::State& state) {
-    Measure(state, {}, &Nothing, &mnuSelAll_TickBoxes_Clack);
+    Measure(state, {}, &Nothing, &mnuSelAll_TickBoxes_Clack, kRows);
 }
 
 /// One row in four is ticked.
 void MarkTickedRows(benchmark::State& state) {
-    Measure(state, {}, &Nothing, &mnuDel_CheckedRows_Clack);
+    Measure(state, {}, &Nothing, &mnuDel_CheckedRows_Clack, kRows);
 }
 
 void MoveRow(benchmark::State& state) {
     const auto goToTheMiddle = [](BenchProgram& program) { program.grid.SetCurRow(Row{16000}); };
-    Measure(state, {}, goToTheMiddle, &mnuRowDown_Clack);
+    Measure(state, {}, goToTheMiddle, &mnuRowDown_Clack, kRows);
 }
 
 /// The texts of all columns move, and those of the last column are dropped.
 void InsertColumn(benchmark::State& state) {
-    Measure(state, {}, &Nothing, &mnuEdit_InsertColumn_Clack);
+    Measure(state, {}, &Nothing, &mnuEdit_InsertColumn_Clack, kCells);
 }
 
 void RemoveColumn(benchmark::State& state) {
-    Measure(state, {}, &Nothing, &mnuEdit_DeleteColumn_Clack);
+    Measure(state, {}, &Nothing, &mnuEdit_DeleteColumn_Clack, kCells);
 }
 
 BENCHMARK(SelectRowsByColour)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);

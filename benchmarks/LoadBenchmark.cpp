@@ -1,6 +1,7 @@
 #include "BenchProgram.h"
 #include "Contest.h"
 #include "LimitTable.h"
+#include "Moment.h"
 #include "RawFile.h"
 
 #include <cstring>
@@ -20,6 +21,7 @@ std::size_t CountCr(std::string_view bytes) {
     return count;
 }
 
+/// A load reads rows in two threads, so both are measured by the clock.
 /// `floor` returns what it made, so that the time for freeing it isn't counted.
 template <class Floor>
 void HoldAgainst(const Floor& floor, benchmark::State& state) {
@@ -27,10 +29,10 @@ void HoldAgainst(const Floor& floor, benchmark::State& state) {
     Contest contest(state);
     for ([[maybe_unused]] auto _ : state) {
         decltype(floor()) made;
-        const double floorSeconds = SecondsOf([&] { made = floor(); });
+        const double floorSeconds = ClockSecondsOf([&] { made = floor(); });
         made = {};
         const auto program = std::make_unique<BenchProgram>();
-        contest.Round(floorSeconds, SecondsOf([&program] { program->Load(); }));
+        contest.Round(floorSeconds, ClockSecondsOf([&program] { program->Load(); }));
     }
 }
 

@@ -12,4 +12,12 @@ inline std::int64_t NanosecondsNow() {
         .count();
 }
 
+/// The seconds that the work takes by the clock, whatever threads do it.
+template <class Work>
+double ClockSecondsOf(const Work& work) {
+    const std::int64_t start = NanosecondsNow();
+    work();
+    return static_cast<double>(NanosecondsNow() - start) * 1e-9;
+}
+
 } // namespace korvane::bench

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace korvane {
@@ -155,6 +156,8 @@ public:
     /// The cell's value as bytes of `Page()`, valid until the next change; nullopt when the page can't hold
     /// it.
     virtual std::optional<std::string_view> CellBytes(Row row, Col col) const = 0;
+    /// How many characters the texts of these cells of a row have together.
+    virtual std::size_t TextLength(Row row, std::span<const Col> cols) const = 0;
     /// Begins rows that are to follow those of the table. The table has to outlive them.
     virtual std::unique_ptr<GridTail> BeginTail() = 0;
     /// Moves the texts of the columns from `first` on one column to the right: those of the last column are

@@ -237,6 +237,15 @@ std::optional<std::string_view> GridStore::CellBytes(Row row, Col col) const {
     return texts_.Bytes(HandleAt(row, col));
 }
 
+std::size_t GridStore::TextLength(Row row, std::span<const Col> cols) const {
+    if (!HasRow(row)) return 0;
+    const auto handles = cells_.Row(Index(row));
+    std::size_t length = 0;
+    for (const Col col : cols)
+        if (HasCol(col) && !handles.empty()) length += texts_.LengthOf(handles[Index(col)]);
+    return length;
+}
+
 class GridStore::Tail final : public GridTail {
 public:
     explicit Tail(GridStore& whole) : whole_(whole), rows_(whole.Page(), whole.order_) {

@@ -98,6 +98,7 @@ public:
     void SetCellSlice(Row row, Col col, std::size_t offset, std::size_t length) override;
     void SetCellBytes(Row row, Col col, std::string_view bytes) override;
     std::optional<std::string_view> CellBytes(Row row, Col col) const override;
+    std::size_t TextLength(Row row, std::span<const Col> cols) const override;
     std::unique_ptr<GridTail> BeginTail() override;
     void ShiftTextsRight(Col first) override;
     std::optional<CellPosition> FindText(TextView part, CellPosition from) const override;

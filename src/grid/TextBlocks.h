@@ -46,6 +46,8 @@ public:
     /// The text as bytes; nothing for one that the code page can't hold.
     std::optional<std::string_view> Bytes(TextHandle handle) const;
     Text ToText(TextHandle handle) const;
+    /// The number of its characters.
+    std::size_t LengthOf(TextHandle handle) const { return PlaceOf(handle).length; }
     bool Equals(TextHandle handle, TextView text) const;
     /// Whether the text contains `part`; `pattern` is the same in bytes, or nothing.
     bool Contains(TextHandle handle, TextView part, const std::optional<BytePattern>& pattern) const;

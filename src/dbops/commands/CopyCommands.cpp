@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -35,48 +36,55 @@ void PutInTextWindow(App& app, TextView text) {
     if (auto* textWindow = app.Port<TextWindow>()) textWindow->TextWindowInsert(text);
 }
 
-std::size_t CellLength(const Grid& grid, Row row, Col col) {
-    const auto bytes = grid.CellBytes(row, col);
-    return bytes ? bytes->size() : grid.CellText(row, col).size();
+std::vector<Col> ColumnsToCopy(const Grid& grid, const ColumnsIncluded& included) {
+    std::vector<Col> columns;
+    for (Col col{1}; col <= grid.ColCount(); ++col)
+        if (included[col]) columns.push_back(col);
+    return columns;
 }
 
 /// Turns rows into text, with one record for each row.
 class Records {
 public:
-    /// The request outlives the object.
     Records(const TabContext& tab, RowsToCopy rows, const ColumnsIncluded& included)
         : grid_(tab.table.GridStore()),
           rows_(rows),
-          included_(included),
+          columns_(ColumnsToCopy(grid_, included)),
           delimiter_(tab.app.Settings.DelimiterString) {}
 
     /// Rows that are marked for deletion, and hidden ones, are copied like others. Kept for compatibility:
     /// copies-take-all-rows.
     Text MakeText() const {
         CellsText text(grid_, LengthAtMost());
-        ForEachRowToCopy([&](Row row) { Append(text, row); });
+        const Ends ends{text.SeparatorOf(delimiter_), text.SeparatorOf(kCrLf)};
+        ForEachRowToCopy([&](Row row) { Append(text, row, ends); });
         return std::move(text).Take();
     }
 
 private:
+    /// What comes after a cell, and after a record.
+    struct Ends {
+        CellsText::Separator cell;
+        CellsText::Separator line;
+    };
+
     /// Appends the included cells, each but the table's last column followed by the delimiter, and an empty
     /// line. Kept for compatibility: copied-record-ends.
-    void Append(CellsText& text, Row row) const {
-        ForEachColumnToCopy([&](Col col) {
+    void Append(CellsText& text, Row row, const Ends& ends) const {
+        const Col last = grid_.ColCount();
+        for (const Col col : columns_) {
             text.AppendCell(row, col);
-            text.Append(col < grid_.ColCount() ? delimiter_ : kCrLf);
-        });
-        if (!text.EndsInCrLf()) text.Append(kCrLf);
-        text.Append(kCrLf);
+            text.Append(col < last ? ends.cell : ends.line);
+        }
+        if (!text.EndsInCrLf()) text.Append(ends.line);
+        text.Append(ends.line);
     }
 
     std::size_t LengthAtMost() const {
-        const std::size_t behindCell = std::max(delimiter_.size(), kCrLf.size());
+        const std::size_t afterCells = columns_.size() * std::max(delimiter_.size(), kCrLf.size());
         std::size_t length = 0;
-        ForEachRowToCopy([&](Row row) {
-            ForEachColumnToCopy([&](Col col) { length += CellLength(grid_, row, col) + behindCell; });
-            length += 2 * kCrLf.size();
-        });
+        ForEachRowToCopy(
+            [&](Row row) { length += grid_.TextLength(row, columns_) + afterCells + 2 * kCrLf.size(); });
         return length;
     }
 
@@ -86,16 +94,10 @@ private:
             if (rows_ == RowsToCopy::All || IsTicked(grid_, row)) visit(row);
         });
     }
-    template <class Visit>
-    void ForEachColumnToCopy(const Visit& visit) const {
-        for (Col col{1}; col <= grid_.ColCount(); ++col) {
-            if (included_[col]) visit(col);
-        }
-    }
 
     const Grid& grid_;
     RowsToCopy rows_;
-    const ColumnsIncluded& included_;
+    std::vector<Col> columns_;
     TextView delimiter_;
 };
 

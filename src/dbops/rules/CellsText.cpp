@@ -19,11 +19,17 @@ void CellsText::AppendCell(Row row, Col col) {
     }
 }
 
-void CellsText::Append(TextView text) {
-    if (grid_.Page().Holds(text)) {
-        grid_.Page().AppendBytes(text, bytes_);
+CellsText::Separator CellsText::SeparatorOf(TextView text) const {
+    Separator separator{Text(text), std::nullopt};
+    if (grid_.Page().Holds(text)) grid_.Page().AppendBytes(text, separator.bytes.emplace());
+    return separator;
+}
+
+void CellsText::Append(const Separator& separator) {
+    if (separator.bytes) {
+        AppendBytes(*separator.bytes);
     } else {
-        AppendWide(text);
+        AppendWide(separator.text);
     }
 }
 

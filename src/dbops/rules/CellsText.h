@@ -4,6 +4,7 @@
 #include "grid/Grid.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,17 @@ public:
     /// The grid outlives the object. A text of up to `expectedLength` is made without growing.
     explicit CellsText(const Grid& grid, std::size_t expectedLength = 0);
 
+    /// A text that is appended after many cells.
+    struct Separator {
+        Text text;
+        /// The same in the table's code page; nothing when that can't hold it.
+        std::optional<std::string> bytes;
+    };
+    Separator SeparatorOf(TextView text) const;
+
     void AppendCell(Row row, Col col);
-    void Append(TextView text);
+    void Append(const Separator& separator);
+    void Append(TextView text) { Append(SeparatorOf(text)); }
     bool EndsInCrLf();
     /// All that was appended.
     Text Take() &&;

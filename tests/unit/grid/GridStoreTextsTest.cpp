@@ -35,6 +35,18 @@ TEST_F(GridStoreTextsTest, NothingShiftsFromAColumnThatIsNotThere) {
     EXPECT_EQ(grid.CellValue(Row{1}, Col{1}), u"a");
 }
 
+TEST_F(GridStoreTextsTest, TheLengthOfTextsIsCountedInCharacters) {
+    Resize(2, 3);
+    grid.SetCellValue(Row{1}, Col{1}, u"5 €");
+    grid.SetCellValue(Row{1}, Col{2}, Text((std::size_t{1} << 22) + 5, u'x'));
+    grid.SetCellValue(Row{1}, Col{3}, u"aЯ");
+    EXPECT_EQ(grid.TextLength(Row{1}, std::vector{Col{1}, Col{3}}), 5u);
+    EXPECT_EQ(grid.TextLength(Row{1}, std::vector{Col{2}}), (std::size_t{1} << 22) + 5);
+    EXPECT_EQ(grid.TextLength(Row{2}, std::vector{Col{1}, Col{2}, Col{3}}), 0u);
+    EXPECT_EQ(grid.TextLength(Row{1}, std::vector{Col{0}, Col{4}}), 0u);
+    EXPECT_EQ(grid.TextLength(Row{3}, std::vector{Col{1}}), 0u);
+}
+
 TEST_F(GridStoreTextsTest, CellBytesGivesTheBytesOfThePage) {
     Resize(1, 1);
     grid.SetCellValue(Row{1}, Col{1}, u"5 €");
