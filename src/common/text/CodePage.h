@@ -62,7 +62,10 @@ private:
 };
 
 inline std::uint8_t CodePage::ByteOf(char16_t character) const {
-    return maps_->blocks[maps_->blockOf[character >> 8]][character & 0xFF];
+    // The remainder is the number itself. It tells the compiler that there is such a block, so that the
+    // library's check goes away.
+    const std::size_t block = maps_->blockOf[character >> 8] % maps_->blocks.size();
+    return maps_->blocks[block][character & 0xFF];
 }
 
 inline std::optional<unsigned char> CodePage::Encode(char16_t character) const {
