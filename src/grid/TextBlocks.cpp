@@ -18,30 +18,26 @@ void TextBlocks::Adopt(SharedBytes bytes) {
 }
 
 TextHandle TextBlocks::Put(TextView text) {
-    const std::size_t offset = bytes_.size();
+    const std::size_t offset = bytes_.Size();
     if (AppendAsBytes(text)) return HandleOf({TextHandle::Kind::Bytes, offset, text.size()});
-    wide_.append(text);
-    return HandleOf({TextHandle::Kind::Wide, wide_.size() - text.size(), text.size()});
+    wide_.Append(text);
+    return HandleOf({TextHandle::Kind::Wide, wide_.Size() - text.size(), text.size()});
 }
 
 TextHandle TextBlocks::PutBytes(std::string_view bytes) {
-    bytes_.append(bytes);
-    return HandleOf({TextHandle::Kind::Bytes, bytes_.size() - bytes.size(), bytes.size()});
+    bytes_.Append(bytes);
+    return HandleOf({TextHandle::Kind::Bytes, bytes_.Size() - bytes.size(), bytes.size()});
 }
 
 /// False, with nothing appended, when a character has no byte.
 bool TextBlocks::AppendAsBytes(TextView text) {
-    const std::size_t before = bytes_.size();
-    bytes_.resize(before + text.size());
-    char* to = bytes_.data() + before;
+    char* to = bytes_.Room(text.size());
     for (const char16_t unit : text) {
         const std::optional<unsigned char> byte = page_.Encode(unit);
-        if (!byte) {
-            bytes_.resize(before);
-            return false;
-        }
+        if (!byte) return false;
         *to++ = static_cast<char>(*byte);
     }
+    bytes_.Added(text.size());
     return true;
 }
 
@@ -55,7 +51,7 @@ void TextBlocks::GiveUp(TextHandle handle) {
 }
 
 TextView TextBlocks::WideAt(const Place& place) const {
-    return TextView(wide_).substr(place.offset, place.length);
+    return wide_.Part(place.offset, place.length);
 }
 
 Text TextBlocks::ToText(TextHandle handle) const {
@@ -99,11 +95,11 @@ TextHandle TextBlocks::TakeOver(const TextBlocks& other, TextHandle handle) {
     const Place place = other.PlaceOf(handle);
     if (place.kind == TextHandle::Kind::Adopted && HasAdopted()) return HandleOf(place);
     if (place.kind == TextHandle::Kind::Wide) {
-        wide_.append(other.WideAt(place));
-        return HandleOf({place.kind, wide_.size() - place.length, place.length});
+        wide_.Append(other.WideAt(place));
+        return HandleOf({place.kind, wide_.Size() - place.length, place.length});
     }
-    bytes_.append(other.BytesAt(place));
-    return HandleOf({TextHandle::Kind::Bytes, bytes_.size() - place.length, place.length});
+    bytes_.Append(other.BytesAt(place));
+    return HandleOf({TextHandle::Kind::Bytes, bytes_.Size() - place.length, place.length});
 }
 
 } // namespace korvane

@@ -4,6 +4,7 @@
 #include "common/text/Text.h"
 #include "grid/ByteSearch.h"
 #include "grid/Grid.h"
+#include "grid/GrowingRun.h"
 #include "grid/TextHandle.h"
 
 #include <cstddef>
@@ -17,7 +18,7 @@ namespace korvane {
 /// The texts of a table in few large blocks: the bytes of the loaded file, which are shared and never copied,
 /// and other blocks for what was written since, as bytes of the code page or, where a character has no byte,
 /// as 16-bit characters. The holder of the handles tells when one is given up, and has the blocks packed when
-/// that pays.
+/// that pays. A copy shares the blocks and may be read in another thread.
 class TextBlocks {
 public:
     explicit TextBlocks(const CodePage& page) : page_(page) {}
@@ -101,8 +102,8 @@ private:
 
     CodePage page_;
     SharedBytes adopted_;
-    std::string bytes_;
-    Text wide_;
+    GrowingRun<char> bytes_;
+    GrowingRun<char16_t> wide_;
     std::vector<Place> large_;
     Use adoptedUse_;
     Use ownUse_;
@@ -129,8 +130,8 @@ inline TextBlocks::Place TextBlocks::PlaceOf(TextHandle handle) const {
 }
 
 inline std::string_view TextBlocks::BytesAt(const Place& place) const {
-    const char* const block = place.kind == TextHandle::Kind::Adopted ? adopted_.data.get() : bytes_.data();
-    return {block + place.offset, place.length};
+    if (place.kind == TextHandle::Kind::Adopted) return {adopted_.data.get() + place.offset, place.length};
+    return bytes_.Part(place.offset, place.length);
 }
 
 inline std::optional<std::string_view> TextBlocks::Bytes(TextHandle handle) const {
