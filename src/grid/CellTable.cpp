@@ -8,10 +8,8 @@ namespace korvane {
 void CellTable::SetRows(std::size_t rows) {
     chunks_.resize((rows + kChunkRows - 1) / kChunkRows);
     const bool shrinksInChunk = rows < rows_ && rows % kChunkRows != 0;
-    if (shrinksInChunk && !chunks_.back().empty()) {
-        const auto kept = static_cast<std::ptrdiff_t>(IndexOf(rows, 0));
-        std::fill(chunks_.back().begin() + kept, chunks_.back().end(), TextHandle());
-    }
+    if (shrinksInChunk && chunks_.back())
+        std::ranges::fill(std::span(chunks_.back().Own()).subspan(IndexOf(rows, 0)), TextHandle());
     rows_ = rows;
 }
 
@@ -28,7 +26,7 @@ void CellTable::Rebuild(std::size_t cols, const Source& source) {
 }
 
 void CellTable::SetCols(std::size_t cols) {
-    if (std::ranges::all_of(chunks_, &Chunk::empty)) {
+    if (std::ranges::none_of(chunks_, &Chunk::operator bool)) {
         cols_ = cols;
         return;
     }
@@ -52,7 +50,9 @@ void CellTable::ShiftRight(std::size_t first) {
     const auto left = static_cast<std::ptrdiff_t>(first);
     const auto width = static_cast<std::ptrdiff_t>(cols_);
     for (Chunk& chunk : chunks_) {
-        for (auto row = chunk.begin(); row != chunk.end(); row += width) {
+        if (!chunk) continue;
+        Handles& handles = chunk.Own();
+        for (auto row = handles.begin(); row != handles.end(); row += width) {
             std::move_backward(row + left, row + width - 1, row + width);
             row[left] = TextHandle();
         }
@@ -63,7 +63,9 @@ void CellTable::ShiftLeft(std::size_t first) {
     const auto left = static_cast<std::ptrdiff_t>(first);
     const auto width = static_cast<std::ptrdiff_t>(cols_);
     for (Chunk& chunk : chunks_) {
-        for (auto row = chunk.begin(); row != chunk.end(); row += width) {
+        if (!chunk) continue;
+        Handles& handles = chunk.Own();
+        for (auto row = handles.begin(); row != handles.end(); row += width) {
             std::move(row + left + 1, row + width, row + left);
             row[width - 1] = TextHandle();
         }

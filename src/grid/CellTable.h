@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grid/CopyOnWrite.h"
 #include "grid/TextHandle.h"
 
 #include <algorithm>
@@ -10,7 +11,8 @@
 namespace korvane {
 
 /// The handles of a table's cells, row by row; rows and columns count from 0 here. Rows are kept in chunks,
-/// so that a growing table never moves, and a chunk without any text takes no memory.
+/// so that a growing table never moves, and a chunk without any text takes no memory. Copies share the chunks
+/// that neither has changed.
 class CellTable {
 public:
     std::size_t Rows() const { return rows_; }
@@ -34,21 +36,21 @@ public:
 
     TextHandle At(std::size_t row, std::size_t col) const {
         const Chunk& chunk = chunks_[row / kChunkRows];
-        return chunk.empty() ? TextHandle() : chunk[IndexOf(row, col)];
+        return chunk ? (*chunk)[IndexOf(row, col)] : TextHandle();
     }
     /// The handle of the cell, to be changed.
     TextHandle& Place(std::size_t row, std::size_t col) {
-        Chunk& chunk = chunks_[row / kChunkRows];
-        if (chunk.empty()) [[unlikely]]
-            chunk.resize(kChunkRows * cols_);
-        return chunk[IndexOf(row, col)];
+        Handles& handles = chunks_[row / kChunkRows].Own();
+        if (handles.empty()) [[unlikely]]
+            handles.resize(kChunkRows * cols_);
+        return handles[IndexOf(row, col)];
     }
 
     /// The cells of a row; none when no row of its chunk has a text.
     std::span<const TextHandle> Row(std::size_t row) const {
         const Chunk& chunk = chunks_[row / kChunkRows];
-        if (chunk.empty()) return {};
-        return std::span(chunk).subspan(IndexOf(row, 0), cols_);
+        if (!chunk) return {};
+        return std::span(*chunk).subspan(IndexOf(row, 0), cols_);
     }
 
     /// Puts the rows of another table of as many columns after those of this one. `taken(handle)` gives the
@@ -65,22 +67,28 @@ public:
 
     /// Visits every handle that isn't empty, in the rows from `firstRow` on.
     template <class Visit>
-    void ForEach(const Visit& visit, std::size_t firstRow = 0) {
+    void ForEach(const Visit& visit, std::size_t firstRow = 0) const {
         for (std::size_t row = firstRow; row < rows_; ++row)
-            for (std::size_t col = 0; col < cols_; ++col)
-                if (TextHandle* const handle = Find(row, col)) visit(*handle);
+            for (const TextHandle handle : Row(row))
+                if (!handle.IsEmpty()) visit(handle);
+    }
+    /// The same for handles that are to be changed.
+    template <class Visit>
+    void ChangeEach(const Visit& visit) {
+        for (Chunk& chunk : chunks_) {
+            if (!chunk) continue;
+            for (TextHandle& handle : chunk.Own())
+                if (!handle.IsEmpty()) visit(handle);
+        }
     }
 
 private:
-    using Chunk = std::vector<TextHandle>;
+    using Handles = std::vector<TextHandle>;
+    /// Nothing when no row of it has a text.
+    using Chunk = CopyOnWrite<Handles>;
     static constexpr std::size_t kChunkRows = 64;
 
     std::size_t IndexOf(std::size_t row, std::size_t col) const { return row % kChunkRows * cols_ + col; }
-    TextHandle* Find(std::size_t row, std::size_t col) {
-        Chunk& chunk = chunks_[row / kChunkRows];
-        if (chunk.empty() || chunk[IndexOf(row, col)].IsEmpty()) return nullptr;
-        return &chunk[IndexOf(row, col)];
-    }
     /// A table of `cols` columns, filled with the cells of this one; `source(col)` gives a column's old
     /// number.
     template <class Source>

@@ -44,7 +44,7 @@ void GridStore::SetRowCount(Row count) {
 void GridStore::ResizeRows(Row count) {
     const auto rows = static_cast<std::size_t>(count.Number());
     GiveUpTexts(rows);
-    rows_.resize(rows);
+    rows_.Own().resize(rows);
     cells_.SetRows(rows);
     looks_.SetRows(rows);
     KeepCurrentCellInside();
@@ -104,7 +104,7 @@ void GridStore::ColsChanged() {
 
 /// The check boxes belong to the cells of column 1 and go when it goes.
 void GridStore::ForgetChecks() {
-    for (RowState& row : rows_) {
+    for (RowState& row : rows_.Own()) {
         row.check = 0;
         row.checkShown = false;
     }
@@ -164,15 +164,14 @@ void GridStore::SetColWidth(Col col, int width) {
 }
 
 int GridStore::RowHeight(Row row) const {
-    return HasRow(row) ? rows_[Index(row)].height : kDefaultRowHeight;
+    return HasRow(row) ? StateOf(row).height : kDefaultRowHeight;
 }
 
 template <class Field>
 bool GridStore::SetRowField(Row row, Field RowState::*field, Field value) {
-    Field& present = rows_[Index(row)].*field;
-    if (present == value) return false;
+    if (StateOf(row).*field == value) return false;
     if (noted_) NoteRow(row);
-    present = value;
+    OwnStateOf(row).*field = value;
     return true;
 }
 
@@ -183,11 +182,11 @@ void GridStore::SetRowHeight(Row row, int height) {
 }
 
 bool GridStore::HasRowHeight(Row row) const {
-    return HasRow(row) && rows_[Index(row)].hasHeight;
+    return HasRow(row) && StateOf(row).hasHeight;
 }
 
 bool GridStore::RowVisible(Row row) const {
-    return !HasRow(row) || rows_[Index(row)].visible;
+    return !HasRow(row) || StateOf(row).visible;
 }
 
 void GridStore::SetRowVisible(Row row, bool visible) {
@@ -217,7 +216,7 @@ void GridStore::PutHandle(Row row, Col col, TextHandle handle) {
 }
 
 void GridStore::AdoptBytes(SharedBytes bytes) {
-    if (texts_.HasAdopted()) texts_.Pack([this](const auto& visit) { cells_.ForEach(visit); }, true);
+    if (texts_.HasAdopted()) texts_.Pack([this](const auto& visit) { cells_.ChangeEach(visit); }, true);
     texts_.Adopt(std::move(bytes));
 }
 
@@ -268,8 +267,9 @@ std::unique_ptr<GridTail> GridStore::BeginTail() {
 }
 
 bool GridStore::AppendRows(const GridStore& part) {
-    if (part.rows_.size() > Index(kMaxRows + 1) - rows_.size()) return false;
-    rows_.insert(rows_.end(), part.rows_.begin(), part.rows_.end());
+    if (part.rows_->size() > Index(kMaxRows + 1) - rows_->size()) return false;
+    std::vector<RowState>& rows = rows_.Own();
+    rows.insert(rows.end(), part.rows_->begin(), part.rows_->end());
     if (texts_.TakeOverAll(part.texts_))
         cells_.Append(part.cells_, std::identity());
     else
@@ -289,7 +289,7 @@ void GridStore::ShiftTextsRight(Col first) {
 }
 
 void GridStore::GiveUpTexts(std::size_t firstRow) {
-    cells_.ForEach([this](TextHandle& handle) { texts_.GiveUp(handle); }, firstRow);
+    cells_.ForEach([this](TextHandle handle) { texts_.GiveUp(handle); }, firstRow);
 }
 
 void GridStore::GiveUpTexts(Col firstCol, Col lastCol) {
@@ -302,7 +302,7 @@ void GridStore::GiveUpTexts(Col firstCol, Col lastCol) {
 /// to point to the adopted bytes.
 void GridStore::PackTextsIfWorthwhile() {
     if (notifier_.IsOpen() || !texts_.WantsPacking()) return;
-    texts_.Pack([this](const auto& visit) { cells_.ForEach(visit); });
+    texts_.Pack([this](const auto& visit) { cells_.ChangeEach(visit); });
 }
 
 // Looks.
@@ -367,7 +367,7 @@ void GridStore::SetCellColourMode(Row, Col, int) {}
 void GridStore::SetRowColourMode(Row, int) {}
 
 int GridStore::CellCheck(Row row) const {
-    return HasCheck(row) ? rows_[Index(row)].check : 0;
+    return HasCheck(row) ? StateOf(row).check : 0;
 }
 
 void GridStore::SetCellCheck(Row row, int check) {
@@ -375,7 +375,7 @@ void GridStore::SetCellCheck(Row row, int check) {
 }
 
 bool GridStore::CellCheckShown(Row row) const {
-    return HasCheck(row) && rows_[Index(row)].checkShown;
+    return HasCheck(row) && StateOf(row).checkShown;
 }
 
 void GridStore::SetCellCheckShown(Row row, bool shown) {
@@ -404,7 +404,7 @@ void GridStore::EnsureRowVisible(Row row) {
 }
 
 std::vector<std::size_t> GridStore::SortedOrder(Col col, SortOrder order) const {
-    std::vector<std::size_t> rows(rows_.size());
+    std::vector<std::size_t> rows(rows_->size());
     std::iota(rows.begin(), rows.end(), std::size_t{0});
     std::vector<Text> texts(rows.size());
     std::ranges::transform(rows, texts.begin(),
@@ -428,7 +428,7 @@ void GridStore::SortByColumn(Col col, SortOrder order) {
 void GridStore::PermuteRows(std::span<const std::size_t> order) {
     cells_.Permute(order);
     looks_.Permute(order);
-    rows_ = Permuted(rows_, order);
+    rows_ = CopyOnWrite(Permuted(*rows_, order));
     notifier_.TableChanged();
 }
 

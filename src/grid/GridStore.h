@@ -3,6 +3,7 @@
 #include "common/text/CodePage.h"
 #include "common/text/TextOrder.h"
 #include "grid/CellTable.h"
+#include "grid/CopyOnWrite.h"
 #include "grid/Grid.h"
 #include "grid/GridNotifier.h"
 #include "grid/LookTable.h"
@@ -142,6 +143,8 @@ private:
     /// Whether the row has a check box: that of its cell in column 1.
     bool HasCheck(Row row) const { return HasCell(row, Col{1}); }
     TextHandle HandleAt(Row row, Col col) const { return cells_.At(Index(row), Index(col)); }
+    const RowState& StateOf(Row row) const { return (*rows_)[Index(row)]; }
+    RowState& OwnStateOf(Row row) { return rows_.Own()[Index(row)]; }
     CellLook LookAt(Row row, Col col) const {
         return HasCell(row, col) ? looks_.At(Index(row), Index(col)) : CellLook();
     }
@@ -185,7 +188,7 @@ private:
     std::shared_ptr<const TextOrder> order_;
     CellTable cells_;
     LookTable looks_;
-    std::vector<RowState> rows_;
+    CopyOnWrite<std::vector<RowState>> rows_{std::vector<RowState>()};
     std::vector<Column> cols_;
     Row curRow_;
     Col curCol_;

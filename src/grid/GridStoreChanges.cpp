@@ -40,8 +40,8 @@ public:
 
     void operator()(TextNote& note) { PutText(note.row, note.col, note.other); }
     void operator()(RowNote& note) {
-        std::swap(grid_.rows_[Index(note.row)], note.other);
-        RowState& now = grid_.rows_[Index(note.row)];
+        RowState& now = grid_.OwnStateOf(note.row);
+        std::swap(now, note.other);
         const bool samePlace = now.height == note.other.height && now.visible == note.other.visible;
         if (samePlace)
             grid_.notifier_.RowChanged(note.row);
@@ -108,7 +108,7 @@ void GridStore::Changes::Turner::operator()(RowCountNote& note) {
 GridStore::Changes::RowsAway GridStore::Changes::Turner::TakeRowsAfter(Row last) const {
     RowsAway away;
     for (Row row = last + 1; row <= grid_.RowCount(); ++row) {
-        away.states.push_back(grid_.rows_[Index(row)]);
+        away.states.push_back(grid_.StateOf(row));
         away.looks.push_back(grid_.looks_.OfRow(Index(row)));
         for (Col col{1}; col <= grid_.ColCount(); ++col)
             if (!grid_.HandleAt(row, col).IsEmpty())
@@ -118,7 +118,7 @@ GridStore::Changes::RowsAway GridStore::Changes::Turner::TakeRowsAfter(Row last)
 }
 
 void GridStore::Changes::Turner::PutRows(RowsAway rows, Row after) {
-    std::ranges::copy(rows.states, grid_.rows_.begin() + after.Number());
+    std::ranges::copy(rows.states, grid_.rows_.Own().begin() + after.Number());
     for (LookTable::RowLooks& looks : rows.looks)
         grid_.looks_.ExchangeRow(Index(++after), looks);
     for (TextNote& text : rows.texts)
@@ -135,7 +135,7 @@ void GridStore::Changes::Turner::operator()(ColumnPresenceNote& note) {
 GridStore::Changes::ColumnAway GridStore::Changes::Turner::TakeColumn(Col col) {
     ColumnAway away{std::move(grid_.cols_[Index(col)]), {}, TextsOf(col)};
     for (Row row{1}; col == Col{1} && row <= grid_.RowCount(); ++row) {
-        const RowState& state = grid_.rows_[Index(row)];
+        const RowState& state = grid_.StateOf(row);
         if (state.check != 0 || state.checkShown) away.checked.emplace_back(row, state);
     }
     away.looks = grid_.EraseCol(col);
@@ -147,8 +147,8 @@ void GridStore::Changes::Turner::PutColumn(ColumnAway away, Col col) {
     grid_.cells_.InsertCol(Index(col));
     grid_.looks_.InsertCol(Index(col), std::move(away.looks));
     for (const auto& [row, state] : away.checked) {
-        grid_.rows_[Index(row)].check = state.check;
-        grid_.rows_[Index(row)].checkShown = state.checkShown;
+        grid_.OwnStateOf(row).check = state.check;
+        grid_.OwnStateOf(row).checkShown = state.checkShown;
     }
     PutTexts(col, away.texts);
     grid_.ColsChanged();
@@ -201,7 +201,7 @@ public:
 
     bool operator()(const TextNote& note) const { return grid_.CellValue(note.row, note.col) == note.other; }
     bool operator()(const RowNote& note) const {
-        return grid_.HasRow(note.row) && Parts(grid_.rows_[Index(note.row)]) == Parts(note.other);
+        return grid_.HasRow(note.row) && Parts(grid_.StateOf(note.row)) == Parts(note.other);
     }
     bool operator()(const CellLookNote& note) const { return grid_.LookAt(note.row, note.col) == note.other; }
     bool operator()(const RowLooksNote& note) const {
@@ -343,7 +343,7 @@ void GridStore::NoteText(Row row, Col col) {
 }
 
 void GridStore::NoteRow(Row row) {
-    if (noted_->Wants(row)) noted_->Add(*this, Changes::RowNote{row, rows_[Index(row)]});
+    if (noted_->Wants(row)) noted_->Add(*this, Changes::RowNote{row, StateOf(row)});
 }
 
 void GridStore::NoteColumn(Col col) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "grid/CopyOnWrite.h"
 #include "grid/Grid.h"
 
 #include <cstddef>
@@ -29,7 +30,8 @@ private:
 };
 
 /// The looks of a table's cells; rows and columns count from 0 here. Rows are nearly always uniform, so there
-/// is one look for each row. A column in which a cell once differed from its row has looks of its own.
+/// is one look for each row. A column in which a cell once differed from its row has looks of its own. Copies
+/// share what neither has changed.
 class LookTable {
 public:
     using Looks = std::vector<CellLook>;
@@ -57,7 +59,7 @@ public:
     void Permute(std::span<const std::size_t> order);
 
     const CellLook& At(std::size_t row, std::size_t col) const {
-        return ownLooks_[col].empty() ? rowLooks_[row] : ownLooks_[col][row];
+        return ownLooks_[col] ? (*ownLooks_[col])[row] : (*rowLooks_)[row];
     }
     RowLooks OfRow(std::size_t row) const;
     /// Exchanges the looks of a row with these.
@@ -68,38 +70,42 @@ public:
         CellLook look = At(row, col);
         change(look);
         if (look == At(row, col)) return false;
-        if (ownLooks_[col].empty()) GiveOwnLooks(col, rowLooks_);
-        ownLooks_[col][row] = look;
+        if (!ownLooks_[col]) GiveOwnLooks(col, *rowLooks_);
+        ownLooks_[col].Own()[row] = look;
         return true;
     }
     /// Changes every cell of a row by `change(CellLook&)`; false when all stayed as they were.
     template <class Change>
     bool ChangeRow(std::size_t row, const Change& change) {
         bool changed = false;
-        const auto apply = [&](CellLook& look) {
-            const CellLook before = look;
+        const auto apply = [&](SharedLooks& looks) {
+            CellLook look = (*looks)[row];
             change(look);
-            changed = changed || look != before;
+            if (look == (*looks)[row]) return;
+            looks.Own()[row] = look;
+            changed = true;
         };
-        if (HasFollowingCol()) apply(rowLooks_[row]);
+        if (HasFollowingCol()) apply(rowLooks_);
         if (ownCols_ == 0) return changed;
-        for (Looks& looks : ownLooks_)
-            if (!looks.empty()) apply(looks[row]);
+        for (SharedLooks& looks : ownLooks_)
+            if (looks) apply(looks);
         return changed;
     }
 
 private:
+    using SharedLooks = CopyOnWrite<Looks>;
+
     bool HasPlainRowsOnly() const;
     void CountOwnCols();
     bool HasFollowingCol() const { return ownCols_ < ownLooks_.size(); }
     void GiveOwnLooks(std::size_t col, Looks looks) {
-        ownLooks_[col] = std::move(looks);
+        ownLooks_[col] = SharedLooks(std::move(looks));
         ++ownCols_;
     }
 
-    Looks rowLooks_;
-    std::vector<Looks> ownLooks_; // one for each column, empty where the column follows its rows
-    std::size_t ownCols_ = 0;     // how many aren't
+    SharedLooks rowLooks_{Looks()};
+    std::vector<SharedLooks> ownLooks_; // one for each column, nothing where the column follows its rows
+    std::size_t ownCols_ = 0;           // how many don't
 };
 
 } // namespace korvane
