@@ -179,6 +179,9 @@ public:
 
     /// This number grows with each change of what the table holds or how it looks, and sometimes without one.
     virtual std::uint64_t ChangeCount() const = 0;
+    /// The table as it is now, which another thread may read while this one changes. It shares what hasn't
+    /// changed since, so it costs little however large the table is. It isn't to be changed.
+    virtual std::unique_ptr<Grid> Snapshot() const = 0;
 
     /// At most one listener; nullptr takes it away. The caller owns it.
     virtual void SetListener(GridListener* listener) = 0;

@@ -384,6 +384,18 @@ void GridStore::SetCellCheckShown(Row row, bool shown) {
 
 // The grid as a whole.
 
+std::unique_ptr<Grid> GridStore::Snapshot() const {
+    auto copy = std::make_unique<GridStore>(texts_.Page());
+    copy->texts_ = texts_;
+    copy->cells_ = cells_;
+    copy->looks_ = looks_;
+    copy->rows_ = rows_;
+    copy->cols_ = cols_;
+    copy->look_ = look_;
+    copy->GoTo({curRow_, curCol_});
+    return copy;
+}
+
 void GridStore::SetGridVisible(bool visible) {
     if (std::exchange(visible_, visible) != visible) notifier_.LookChanged();
 }

@@ -109,6 +109,7 @@ public:
     void TurnChanges(GridChanges& changes) override;
 
     std::uint64_t ChangeCount() const override { return notifier_.Changes(); }
+    std::unique_ptr<Grid> Snapshot() const override;
 
     void SetListener(GridListener* listener) override { notifier_.SetListener(listener); }
 

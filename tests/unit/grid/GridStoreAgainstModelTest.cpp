@@ -91,13 +91,11 @@ public:
             SetSlice();
     }
 
-    void Compare() {
-        ASSERT_EQ(grid_.RowCount(), Row(static_cast<int>(plain_.rows.size())));
-        ASSERT_EQ(grid_.ColCount(), Col(static_cast<int>(plain_.keys.size())));
-        for (std::size_t col = 0; col < plain_.keys.size(); ++col)
-            ASSERT_EQ(grid_.ColKey(ColAt(col)), plain_.keys[col]);
-        for (std::size_t row = 0; row < plain_.rows.size(); ++row)
-            CompareRow(RowAt(row), plain_.rows[row]);
+    void Compare() const { Compare(grid_, plain_); }
+    void CompareSnapshot() const { Compare(*snapshot_, plainThen_); }
+    void TakeSnapshot() {
+        snapshot_ = grid_.Snapshot();
+        plainThen_ = plain_;
     }
 
 private:
@@ -108,19 +106,27 @@ private:
         return static_cast<std::size_t>(Below(static_cast<int>(bound)));
     }
 
-    void CompareRow(Row row, const PlainRow& plain) {
-        ASSERT_EQ(grid_.RowHeight(row), plain.height);
-        ASSERT_EQ(grid_.HasRowHeight(row), plain.hasHeight);
-        ASSERT_EQ(grid_.RowVisible(row), plain.visible);
-        ASSERT_EQ(grid_.CellCheck(row), plain.check);
-        ASSERT_EQ(grid_.CellCheckShown(row), plain.checkShown);
+    static void Compare(const Grid& grid, const PlainTable& plain) {
+        ASSERT_EQ(grid.RowCount(), Row(static_cast<int>(plain.rows.size())));
+        ASSERT_EQ(grid.ColCount(), Col(static_cast<int>(plain.keys.size())));
+        for (std::size_t col = 0; col < plain.keys.size(); ++col)
+            ASSERT_EQ(grid.ColKey(ColAt(col)), plain.keys[col]);
+        for (std::size_t row = 0; row < plain.rows.size(); ++row)
+            CompareRow(grid, RowAt(row), plain.rows[row]);
+    }
+    static void CompareRow(const Grid& grid, Row row, const PlainRow& plain) {
+        ASSERT_EQ(grid.RowHeight(row), plain.height);
+        ASSERT_EQ(grid.HasRowHeight(row), plain.hasHeight);
+        ASSERT_EQ(grid.RowVisible(row), plain.visible);
+        ASSERT_EQ(grid.CellCheck(row), plain.check);
+        ASSERT_EQ(grid.CellCheckShown(row), plain.checkShown);
         for (std::size_t col = 0; col < plain.cells.size(); ++col) {
             const PlainCell& cell = plain.cells[col];
-            ASSERT_EQ(grid_.CellValue(row, ColAt(col)), cell.value);
-            ASSERT_EQ(grid_.CellBackColor(row, ColAt(col)), cell.back);
-            ASSERT_EQ(grid_.CellForeColor(row, ColAt(col)), cell.fore);
+            ASSERT_EQ(grid.CellValue(row, ColAt(col)), cell.value);
+            ASSERT_EQ(grid.CellBackColor(row, ColAt(col)), cell.back);
+            ASSERT_EQ(grid.CellForeColor(row, ColAt(col)), cell.fore);
             for (int flag = 0; flag < 3; ++flag)
-                ASSERT_EQ(grid_.CellFontFlag(row, ColAt(col), static_cast<CellFlag>(flag)), cell.flags[flag]);
+                ASSERT_EQ(grid.CellFontFlag(row, ColAt(col), static_cast<CellFlag>(flag)), cell.flags[flag]);
         }
     }
 
@@ -180,8 +186,8 @@ private:
             const std::size_t offset = BelowSize(file_.size());
             const std::size_t length = std::min(BelowSize(30), file_.size() - offset);
             plain_.rows[row].cells[col].value = FromAscii(file_.substr(offset, length));
-            const bool gridLetTheFileGo = bytes_.data.use_count() == 1;
-            if (gridLetTheFileGo) Adopt();
+            const bool gridMayHaveLetTheFileGo = snapshot_ != nullptr || bytes_.data.use_count() == 1;
+            if (gridMayHaveLetTheFileGo) Adopt();
             grid_.SetCellSlice(RowAt(row), ColAt(col), offset, length);
         });
     }
@@ -236,6 +242,8 @@ private:
     std::mt19937 random_;
     GridStore grid_{CodePage::Windows1252()};
     PlainTable plain_;
+    std::unique_ptr<Grid> snapshot_;
+    PlainTable plainThen_;
     int lastKey_ = 0;
 };
 
@@ -246,6 +254,18 @@ TEST_P(GridStoreAgainstModelTest, RandomChangesGiveThePlainTable) {
     for (int step = 1; step <= 3000 && !HasFatalFailure(); ++step) {
         models.Step();
         if (step % 100 == 0) models.Compare();
+    }
+}
+
+TEST_P(GridStoreAgainstModelTest, ASnapshotStaysAsTheTableWas) {
+    AgainstModel models(GetParam());
+    models.TakeSnapshot();
+    for (int step = 1; step <= 1000 && !HasFatalFailure(); ++step) {
+        models.Step();
+        if (step % 50 != 0) continue;
+        models.CompareSnapshot();
+        models.Compare();
+        models.TakeSnapshot();
     }
 }
 
