@@ -59,9 +59,9 @@ FileSum SumOf(std::string_view bytes) {
 }
 
 std::optional<FileSum> SumOfFile(FileSystem& files, TextView path) {
-    const auto bytes = files.ReadAll(path);
-    if (!bytes) return std::nullopt;
-    return SumOf(bytes->View());
+    RunningSum sum;
+    const bool read = files.ReadInPieces(path, [&sum](std::string_view piece) { sum.Add(piece); });
+    return read ? std::optional(sum.Get()) : std::nullopt;
 }
 
 } // namespace korvane

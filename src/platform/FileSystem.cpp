@@ -19,6 +19,12 @@ private:
 
 } // namespace
 
+bool FileSystem::ReadInPieces(TextView path, const TakePiece& take) {
+    const auto bytes = ReadAll(path);
+    if (bytes) take(bytes->View());
+    return bytes.has_value();
+}
+
 std::vector<Text> FileSystem::FileNamesInSteps(TextView folder, TextView patterns,
                                                const ReadsOn& readsOn) const {
     std::vector<Text> names = FileNames(folder, patterns);

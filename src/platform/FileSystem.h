@@ -87,6 +87,10 @@ public:
     virtual Text FullPath(TextView path) const = 0;
 
     virtual std::optional<SharedBytes> ReadAll(TextView path) = 0;
+    /// Hands over the bytes of a file from its beginning to its end in pieces, so that a large one takes
+    /// little memory. False when it can't be read to its end.
+    using TakePiece = std::function<void(std::string_view bytes)>;
+    virtual bool ReadInPieces(TextView path, const TakePiece& take);
     /// Creates the file or empties it; nullptr when it can't be opened.
     virtual std::unique_ptr<FileWriter> OpenRaw(TextView path) = 0;
     /// The same for a file that only its owner may read, also when others could read it before. On a disk

@@ -62,6 +62,7 @@ std::vector<Text> SortedNames(
 
 /// So many entries take no time to speak of.
 constexpr int kMostEntriesRead = 1000;
+constexpr std::size_t kPiece = std::size_t{256} * 1024;
 
 std::optional<FileDetails> DetailsOf(const std::optional<system_calls::FileFacts>& facts) {
     if (!facts || facts->isFolder) return std::nullopt;
@@ -152,6 +153,17 @@ Text NativeFileSystem::FullPath(TextView path) const {
 std::optional<SharedBytes> NativeFileSystem::ReadAll(TextView path) {
     auto bytes = ahead_ ? ahead_->Take(ToNativePath(FullPath(path))) : std::nullopt;
     return bytes ? bytes : ReadFile(ToNativePath(path), lastError_);
+}
+
+bool NativeFileSystem::ReadInPieces(TextView path, const TakePiece& take) {
+    SystemFile file = SystemFile::OpenPlainToRead(ToNativePath(path), lastError_);
+    if (lastError_) return false;
+    std::vector<char> piece(kPiece);
+    for (std::size_t read = kPiece; !lastError_ && read == kPiece;) {
+        read = file.Read(piece.data(), kPiece, lastError_);
+        take({piece.data(), read});
+    }
+    return !lastError_;
 }
 
 void NativeFileSystem::ReadAhead(TextView path) {

@@ -29,6 +29,7 @@ public:
     /// Links are not followed, because the user knows the path with the links.
     Text FullPath(TextView path) const override;
     std::optional<SharedBytes> ReadAll(TextView path) override;
+    bool ReadInPieces(TextView path, const TakePiece& take) override;
     /// Begins to read a large file in a thread, because `ReadAll` will soon be asked for it. What was read is
     /// kept until then, or until `DropAhead`.
     void ReadAhead(TextView path);

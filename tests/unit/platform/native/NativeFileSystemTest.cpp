@@ -49,6 +49,26 @@ TEST_F(NativeFiles, TellsWhyAFileCantBeRead) {
     EXPECT_EQ(files.LastErrorText(), u"");
 }
 
+TEST_F(NativeFiles, ReadsALargeFileInPieces) {
+    std::string bytes(1'000'000, 'a');
+    bytes += "the end";
+    for (const std::string& each : {std::string(), std::string("short"), bytes}) {
+        WriteBytes(dir / "a.tbx", each);
+        std::string read;
+        std::size_t longest = 0;
+        EXPECT_TRUE(files.ReadInPieces(At("a.tbx"), [&](std::string_view piece) {
+            read += piece;
+            longest = std::max(longest, piece.size());
+        }));
+        EXPECT_EQ(read, each);
+        EXPECT_LE(longest, 300'000u);
+    }
+    const auto none = [](std::string_view) {};
+    EXPECT_FALSE(files.ReadInPieces(At("gone.tbx"), none));
+    EXPECT_EQ(files.LastErrorText(), u"No such file or directory");
+    EXPECT_FALSE(files.ReadInPieces(FromNativePath(dir.Path()), none));
+}
+
 // Writing.
 
 TEST_F(NativeFiles, WritesBytesAsTheyAre) {
