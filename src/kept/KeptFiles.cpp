@@ -77,17 +77,17 @@ void RemoveWithFiles(FileSystem& files, TextView folder) {
     files.RemoveDir(folder);
 }
 
-bool WritePrivate(FileSystem& files, TextView path, std::string_view bytes) {
+bool WritePrivate(FileSystem& files, TextView path, const WriteFile& write) {
     const auto file = files.OpenPrivate(path);
     if (!file) return false;
-    const bool written = file->Write(bytes);
+    const bool written = write(*file);
     return file->Close() && written;
 }
 
 std::optional<int> RecordFile::Write(std::string_view bytes) {
     const std::vector<int> before = Numbers();
     const int number = before.empty() ? 1 : before.back() + 1;
-    if (!WritePrivate(files_, PathOf(number), bytes)) {
+    if (!WritePrivate(files_, PathOf(number), [bytes](FileWriter& file) { return file.Write(bytes); })) {
         files_.Remove(PathOf(number));
         return std::nullopt;
     }

@@ -5,6 +5,7 @@
 #include "kept/KeptRecords.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,7 @@
 namespace korvane {
 
 class FileSystem;
+class FileWriter;
 
 // What the folders of kept tables have in common: files with a number in their name, of which the highest is
 // the newest.
@@ -41,8 +43,10 @@ int NextNumber(const std::vector<KeptFile>& kept);
 bool MakePrivateDirs(FileSystem& files, TextView folder);
 /// Removes the folder with the files in it. Folders in it stay, and then it does too.
 void RemoveWithFiles(FileSystem& files, TextView folder);
-/// Writes a private file; false when it didn't take all bytes.
-bool WritePrivate(FileSystem& files, TextView path, std::string_view bytes);
+/// Writes a file; false when it didn't take all bytes.
+using WriteFile = std::function<bool(FileWriter&)>;
+/// Makes a private file of what `write` writes; false when it didn't take all of it.
+bool WritePrivate(FileSystem& files, TextView path, const WriteFile& write);
 
 /// The records of one kind in a folder, which are files like "name-3". A new one is written beside the old
 /// one, so that there is a whole one at any moment.

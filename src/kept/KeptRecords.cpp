@@ -1,13 +1,11 @@
 #include "kept/KeptRecords.h"
 
 #include <charconv>
-#include <cstdint>
+#include <optional>
 
 namespace korvane {
 
 namespace {
-
-constexpr int kHex = 16;
 
 /// Takes the part before the mark off the front of the bytes; nothing when there is no mark.
 std::optional<std::string_view> TakeUpTo(char mark, std::string_view& bytes) {
@@ -19,11 +17,11 @@ std::optional<std::string_view> TakeUpTo(char mark, std::string_view& bytes) {
 }
 
 template <class Int>
-bool TakeNumber(char mark, std::string_view& bytes, Int& number, int base = 10) {
+bool TakeNumber(char mark, std::string_view& bytes, Int& number) {
     const auto part = TakeUpTo(mark, bytes);
     if (!part) return false;
     const char* const end = part->data() + part->size();
-    const auto result = std::from_chars(part->data(), end, number, base);
+    const auto result = std::from_chars(part->data(), end, number);
     return result.ec == std::errc() && result.ptr == end && number >= 0;
 }
 
@@ -34,13 +32,6 @@ bool TakePath(std::string_view bytes, Text& path) {
     if (!IsUtf8(bytes)) return false;
     path = FromUtf8(bytes);
     return true;
-}
-
-std::string Hex(std::uint64_t number) {
-    std::string digits(kHex, '0');
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, kHex).ptr;
-    digits.resize(static_cast<std::size_t>(end - digits.data()));
-    return digits;
 }
 
 } // namespace
@@ -55,8 +46,7 @@ std::string ToRecord(const SaveRecord& record) {
 }
 
 std::string ToRecord(const WrittenRecord& record) {
-    return std::to_string(record.sum.size) + " " + Hex(record.sum.sum) + " " +
-           std::to_string(record.olderDrafts) + "\n";
+    return std::to_string(record.size) + " " + std::to_string(record.olderDrafts) + "\n";
 }
 
 bool ReadRecord(std::string_view bytes, NameRecord& record) {
@@ -75,8 +65,8 @@ bool ReadRecord(std::string_view bytes, SaveRecord& record) {
 
 bool ReadRecord(std::string_view bytes, WrittenRecord& record) {
     WrittenRecord read;
-    const bool whole = TakeNumber(' ', bytes, read.sum.size) && TakeNumber(' ', bytes, read.sum.sum, kHex) &&
-                       TakeNumber('\n', bytes, read.olderDrafts) && bytes.empty();
+    const bool whole =
+        TakeNumber(' ', bytes, read.size) && TakeNumber('\n', bytes, read.olderDrafts) && bytes.empty();
     if (whole) record = read;
     return whole;
 }

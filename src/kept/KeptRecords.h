@@ -1,9 +1,8 @@
 #pragma once
 
 #include "common/text/Text.h"
-#include "kept/FileSum.h"
 
-#include <optional>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -30,7 +29,7 @@ struct SaveRecord {
 
 /// The save has written the file, which may not be safe on the disk yet.
 struct WrittenRecord {
-    FileSum sum;
+    std::int64_t size = 0;
     /// Up to this number, drafts are older than the new file.
     int olderDrafts = 0;
     bool operator==(const WrittenRecord&) const = default;

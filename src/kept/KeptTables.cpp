@@ -10,6 +10,7 @@
 #include "platform/FileSystem.h"
 #include "table/model/TableHost.h"
 #include "table/model/TableModel.h"
+#include "table/model/TableSnapshot.h"
 #include "table/model/TbxWriter.h"
 
 #include <algorithm>
@@ -20,16 +21,16 @@ namespace korvane {
 
 namespace {
 
-/// Keeps what is written to it.
-class TextWriter final : public FileWriter {
+/// Sums up what is written to it.
+class SummingWriter final : public FileWriter {
 public:
     bool Write(std::string_view bytes) override {
-        text += bytes;
+        sum.Add(bytes);
         return true;
     }
     bool Close() override { return true; }
 
-    std::string text;
+    RunningSum sum;
 };
 
 /// Counts what is written to it.
@@ -44,15 +45,18 @@ public:
     std::int64_t count = 0;
 };
 
-/// The table with the text that is being typed into it. With a good guess of its size, the user waits half
-/// as long, because the text doesn't move to more and more room.
-std::string DraftOf(const TableModel& table, const TableHost& host, std::size_t likelySize = 0) {
-    TextWriter writer;
-    writer.text.reserve(likelySize + likelySize / 16);
-    TbxWriter tbx(table, writer, ChunkedOutput::kUsualChunk, TbxContent::Whole);
-    if (const auto typed = host.Typed()) tbx.Replace(*typed);
-    tbx.Write();
-    return std::move(writer.text);
+/// Writes the table with the text that is being typed into it. False when the file didn't take all of it.
+bool WriteWithTyped(const TableModel& table, const std::optional<FieldText>& typed, FileWriter& file) {
+    TbxWriter tbx(table, file, ChunkedOutput::kUsualChunk, TbxContent::Whole);
+    if (typed) tbx.Replace(*typed);
+    return tbx.Write();
+}
+
+/// The sum of the file that a save makes of the table.
+FileSum SumOfSaved(const TableModel& table) {
+    SummingWriter writer;
+    TbxWriter(table, writer).Write();
+    return writer.sum.Get();
 }
 
 std::int64_t SizeOfSaved(const TableModel& table) {
@@ -101,7 +105,6 @@ struct KeptTables::OpenTable {
     int commands = 0;
     bool armed = false;
     bool writing = false;
-    std::size_t draftSize = 0;
 
     bool Altered() const { return table.TableAltered == 1 || host.Types(); }
     std::uint64_t Changes() const { return table.GridStore().ChangeCount() + typed; }
@@ -176,9 +179,8 @@ private:
         open_.seen = open_.kept = open_.Changes();
         open_.pace.NothingChanged();
         if (!folder_) return;
-        const WrittenRecord written{sum_.Get(), open_.lastDraft};
-        folder_->NoteWritten(written);
-        if (number_) keeper_.CheckSave(open_, *number_, record_, written);
+        folder_->NoteWritten({size_, open_.lastDraft});
+        if (number_) keeper_.CheckSave(open_, *number_, record_);
     }
 
     /// The save has stopped before the new file was written.
@@ -193,7 +195,7 @@ private:
     }
 
     bool Write(std::string_view bytes) override {
-        sum_.Add(bytes);
+        size_ += static_cast<std::int64_t>(bytes.size());
         const bool written = file_->Write(bytes);
         whole_ = whole_ && written;
         return written;
@@ -218,7 +220,7 @@ private:
     std::optional<int> number_;
     bool keepsOld_ = false;
     FileWriter* file_ = nullptr;
-    RunningSum sum_;
+    std::int64_t size_ = 0;
     bool whole_ = true;
     bool finished_ = false;
 };
@@ -333,17 +335,15 @@ void KeptTables::WriteDraft(OpenTable& open) {
     open.writing = true;
     const auto draft = std::make_shared<Draft>();
     draft->changes = open.Changes();
-    if (open.draftSize == 0)
-        open.draftSize = static_cast<std::size_t>(app_.Files().Size(open.table.TxtDbFile).value_or(0));
-    const auto bytes = std::make_shared<const std::string>(DraftOf(open.table, open.host, open.draftSize));
-    open.draftSize = bytes->size();
+    const auto table = std::make_shared<const TableSnapshot>(open.table);
     draft->work = clock.Uptime() - begin;
     background_.Do(
         [=, &clock, root = root_, folder = open.folder, name = open.Name(), number = ++open.lastDraft,
-         today = clock.Now()](FileSystem& files) {
+         today = clock.Now(), typed = open.host.Typed()](FileSystem& files) {
             const Time start = clock.Uptime();
             TableFolder place(files, root, folder);
-            draft->written = place.Prepare(name) && place.WriteDraft(number, today, *bytes);
+            const auto write = [&](FileWriter& file) { return WriteWithTyped(table->Table(), typed, file); };
+            draft->written = place.Prepare(name) && place.WriteDraft(number, today, write);
             draft->work += clock.Uptime() - start;
         },
         AtEnd::LeftOut,
@@ -358,8 +358,10 @@ void KeptTables::KeepNow() {
         if (!open->Altered()) continue;
         if (open->folder.empty()) open->folder = NewFolder();
         TableFolder place(app_.Files(), root_, open->folder);
-        if (place.Prepare(open->Name()))
-            place.WriteDraft(++open->lastDraft, app_.Clock().Now(), DraftOf(open->table, open->host));
+        const auto write = [&now = *open](FileWriter& file) {
+            return WriteWithTyped(now.table, now.host.Typed(), file);
+        };
+        if (place.Prepare(open->Name())) place.WriteDraft(++open->lastDraft, app_.Clock().Now(), write);
     }
 }
 
@@ -377,14 +379,18 @@ void KeptTables::DraftWritten(const TableModel& table, const Draft& draft) {
     Arm(*open);
 }
 
-void KeptTables::CheckSave(const OpenTable& open, int save, const SaveRecord& begun,
-                           const WrittenRecord& written) {
+/// What should be in the file is made again from the table, because a sum made while the user waits for the
+/// save would make the wait longer.
+void KeptTables::CheckSave(const OpenTable& open, int save, const SaveRecord& begun) {
     const int count = ++saveCount_;
     lastSaves_[begun.path] = count;
     const auto whole = std::make_shared<bool>(false);
     background_.Do(
-        [=, root = root_, folder = open.folder, today = app_.Clock().Now()](FileSystem& files) {
-            *whole = TableFolder(files, root, folder).SaveIsWhole(save, begun, written);
+        [=, root = root_, folder = open.folder, older = open.lastDraft,
+         table = std::make_shared<const TableSnapshot>(open.table),
+         today = app_.Clock().Now()](FileSystem& files) {
+            const FileSum written = SumOfSaved(table->Table());
+            *whole = TableFolder(files, root, folder).SaveIsWhole(save, begun, written, older);
             if (!*whole) return;
             const RunFolders runs(files, root);
             KeptVersions(files, root).Prune(today, runs.NeededVersions(), runs.BytesOfDrafts());

@@ -56,7 +56,7 @@ private:
     void Tick(const TableModel& table);
     void WriteDraft(OpenTable& open);
     void DraftWritten(const TableModel& table, const Draft& draft);
-    void CheckSave(const OpenTable& open, int save, const SaveRecord& begun, const WrittenRecord& written);
+    void CheckSave(const OpenTable& open, int save, const SaveRecord& begun);
     void SaveWasNotWhole(const Text& folder, const SaveRecord& begun);
     void SettleClosed(const Text& folder);
     void List(const std::vector<UnsavedDraft>& drafts);

@@ -17,13 +17,23 @@ constexpr TextView kUnfinished = u"new";
 /// More runs than this don't begin in one second.
 constexpr int kMostRunsAtOnce = 100;
 
+/// More than the last comment block of a table can take, which has a path.
+constexpr std::size_t kEndSize = std::size_t{256} * 1024;
+
 /// A table's file ends in a comment block. After a power cut a file can have its full length and yet hold
 /// zeros, which no table does.
-bool IsWholeTable(std::string_view bytes) {
+bool IsWholeTable(FileSystem& files, TextView path) {
+    std::string last;
+    bool hasZeros = false;
+    const bool read = files.ReadInPieces(path, [&](std::string_view piece) {
+        hasZeros = hasZeros || piece.find('\0') != piece.npos;
+        last += piece.substr(piece.size() - std::min(piece.size(), kEndSize));
+        last.erase(0, last.size() - std::min(last.size(), kEndSize));
+    });
     const std::string end =
         std::string(tbx::kLineEnd) + std::string(tbx::kCommentLine) + std::string(tbx::kLineEnd);
     const std::string title = end + std::string(tbx::kEndTitle);
-    return bytes.ends_with(end) && bytes.rfind(title) != bytes.npos && bytes.find('\0') == bytes.npos;
+    return read && !hasZeros && last.ends_with(end) && last.rfind(title) != last.npos;
 }
 
 } // namespace
@@ -55,9 +65,9 @@ bool TableFolder::Prepare(const Text& name) {
     return (known && known->name == name) || name_.Write(ToRecord(NameRecord{name})).has_value();
 }
 
-bool TableFolder::WriteDraft(int number, const DateTime& today, std::string_view bytes) {
+bool TableFolder::WriteDraft(int number, const DateTime& today, const WriteFile& write) {
     const Text unfinished = PathOf(kUnfinished);
-    const bool written = WritePrivate(files_, unfinished, bytes) && files_.Flush(unfinished) &&
+    const bool written = WritePrivate(files_, unfinished, write) && files_.Flush(unfinished) &&
                          files_.Rename(unfinished, PathOf(KeptFileName(number, today)));
     if (written)
         RemoveDrafts(number - 1);
@@ -92,14 +102,13 @@ void TableFolder::ForgetSave() {
     written_.RemoveAll();
 }
 
-bool TableFolder::SaveIsWhole(int save, const SaveRecord& begun, const WrittenRecord& written) {
-    if (!files_.Flush(begun.path) || SumOfFile(files_, begun.path) != written.sum) return false;
+bool TableFolder::SaveIsWhole(int save, const SaveRecord& begun, const FileSum& written, int olderDrafts) {
+    if (!files_.Flush(begun.path) || SumOfFile(files_, begun.path) != written) return false;
     // A version that is the same as the new file is worth nothing, and would push others out.
     const Text version = versions_.FileOf(begun.version);
-    if (!version.empty() && files_.Size(version) == written.sum.size &&
-        SumOfFile(files_, version) == written.sum)
+    if (!version.empty() && files_.Size(version) == written.size && SumOfFile(files_, version) == written)
         versions_.Drop(begun.version);
-    RemoveDrafts(written.olderDrafts);
+    RemoveDrafts(olderDrafts);
     // The record of a later save has a higher number and stays.
     saving_.Remove(save);
     if (!HasSave()) written_.RemoveAll();
@@ -127,11 +136,13 @@ std::optional<UnsavedDraft> TableFolder::Settle() {
 
 void TableFolder::SettleSave(const SaveRecord& begun) {
     const auto written = written_.Read<WrittenRecord>();
-    if (written && SumOfFile(files_, begun.path) == written->sum) return RemoveDrafts(written->olderDrafts);
+    const bool isWhole = IsWholeTable(files_, begun.path);
+    if (isWhole && written && files_.Size(begun.path) == written->size)
+        return RemoveDrafts(written->olderDrafts);
     if (ReplacedNothing(begun)) return RemoveDrafts(begun.olderDrafts);
     const std::vector<KeptFile> drafts = Drafts();
     const int newest = drafts.empty() ? 0 : drafts.back().number;
-    if (FileIsWhole(begun)) {
+    if (isWhole) {
         // The save ended after the last draft was made, or else the file is an older one.
         const auto saved = files_.Modified(begun.path);
         const bool isNewer = drafts.empty() || (saved && *saved >= drafts.back().modified);
@@ -139,11 +150,6 @@ void TableFolder::SettleSave(const SaveRecord& begun) {
     }
     if (newest <= begun.olderDrafts) MakeDraftOfVersion(begun);
     Prepare(begun.path);
-}
-
-bool TableFolder::FileIsWhole(const SaveRecord& begun) const {
-    const auto bytes = files_.ReadAll(begun.path);
-    return bytes && IsWholeTable(bytes->View());
 }
 
 /// Whether the program ended before the save deleted the old file.

@@ -11,7 +11,6 @@
 #include <memory>
 #include <optional>
 #include <set>
-#include <string_view>
 #include <vector>
 
 namespace korvane {
@@ -34,8 +33,9 @@ public:
 
     /// Makes the folder, and notes the table's name when it has changed.
     bool Prepare(const Text& name);
-    /// Keeps a draft in place of the earlier ones. They stay until it is safe on the disk.
-    bool WriteDraft(int number, const DateTime& today, std::string_view bytes);
+    /// Keeps what `write` writes as a draft in place of the earlier ones. They stay until it is safe on the
+    /// disk.
+    bool WriteDraft(int number, const DateTime& today, const WriteFile& write);
     /// Removes the drafts up to this number.
     void RemoveDrafts(int last);
     /// Removes those with a higher number.
@@ -45,9 +45,9 @@ public:
     std::optional<int> NoteSave(const SaveRecord& record);
     void NoteWritten(const WrittenRecord& record);
     void ForgetSave();
-    /// Whether the file on the disk is the one that was written. If so, what the save has made needless is
+    /// Whether the file on the disk is what was to be written. If so, what the save has made needless is
     /// removed.
-    bool SaveIsWhole(int save, const SaveRecord& begun, const WrittenRecord& written);
+    bool SaveIsWhole(int save, const SaveRecord& begun, const FileSum& written, int olderDrafts);
     /// Whether there is a save that isn't known to be whole.
     bool HasSave() const { return saving_.Read<SaveRecord>().has_value(); }
     /// The version that a save replaced whose file may not be whole.
@@ -64,7 +64,6 @@ public:
 
 private:
     void SettleSave(const SaveRecord& begun);
-    bool FileIsWhole(const SaveRecord& begun) const;
     bool ReplacedNothing(const SaveRecord& begun) const;
     void MakeDraftOfVersion(const SaveRecord& begun);
     Text PathOf(TextView name) const;

@@ -41,7 +41,7 @@ TbxWriter::TbxWriter(const TableModel& table, FileWriter& file, std::size_t chun
         cellHeads_.push_back("@col_" + std::to_string(col.Number()) + "\r\n");
 }
 
-void TbxWriter::Write() {
+bool TbxWriter::Write() {
     PutTitle(tbx::kHeaderTitle);
     PutHeader();
     PutTitle(tbx::kColumnsTitle);
@@ -50,7 +50,7 @@ void TbxWriter::Write() {
     for (Row row{1}; row <= grid_.RowCount(); ++row)
         if (content_ == TbxContent::Whole || CellBytes(row, Col{1}) != tbx::kDeleteMark) PutRow(row);
     PutTitle(std::string(tbx::kEndTitle) + ToBytes(table_.TxtDbFile));
-    output_.Flush();
+    return output_.Flush();
 }
 
 void TbxWriter::PutTitle(std::string_view title) {

@@ -31,7 +31,8 @@ public:
 
     /// Writes this text instead of the one that the cell has.
     void Replace(const FieldText& typed) { typed_ = typed; }
-    void Write();
+    /// False when the file didn't take all of it.
+    bool Write();
 
 private:
     void PutTitle(std::string_view title);

@@ -31,8 +31,8 @@ TEST(KeptRecords, ComeBackWholeOrNotAtAll) {
     ExpectComesBack(NameRecord{u"/home/me/two\nlines.tbx"});
     ExpectComesBack(SaveRecord{3, u"00000000000000ff/12-20261121.tbx", u"C:\\Data\\Books.tbx"});
     ExpectComesBack(SaveRecord{0, u"", u"/a\n/b.tbx"});
-    ExpectComesBack(WrittenRecord{{47'000'000, 0xFFFFFFFFFFFFFFFF}, 12});
-    ExpectComesBack(WrittenRecord{{0, 0}, 0});
+    ExpectComesBack(WrittenRecord{47'000'000, 12});
+    ExpectComesBack(WrittenRecord{0, 0});
 }
 
 TEST(KeptRecords, WhatIsNoneIsRefused) {
@@ -45,7 +45,7 @@ TEST(KeptRecords, WhatIsNoneIsRefused) {
         EXPECT_FALSE(ReadRecord(bytes, save)) << bytes;
     WrittenRecord written;
     for (const std::string_view bytes :
-         {"", "\n", "1 2\n", "1 2 3", "1 2 3\n4", "-1 2 3\n", "1 g 3\n", "1 11111111111111111 3\n", "1  3\n"})
+         {"", "\n", "1\n", "1 2", "1 2\n3", "-1 2\n", "1 g\n", "99999999999999999999 2\n", "1 2 3\n", " 2\n"})
         EXPECT_FALSE(ReadRecord(bytes, written)) << bytes;
 }
 

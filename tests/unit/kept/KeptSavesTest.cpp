@@ -173,6 +173,15 @@ TEST_F(KeptSaves, AFileThatIsNotWhatWasWrittenMakesTheTableAltered) {
     EXPECT_THAT(Versions(), ElementsAre(HasSubstr("first")));
 }
 
+TEST_F(KeptSaves, WhatIsTypedAfterASaveIsNotMissedInItsFile) {
+    tab->Type(u"second");
+    tab->Save();
+    tab->Type(u"third");
+    EXPECT_THAT(RunFolders(files, kRoot).NeededVersions(), testing::SizeIs(1));
+    run.background.DoAll();
+    EXPECT_THAT(RunFolders(files, kRoot).NeededVersions(), IsEmpty());
+}
+
 TEST_F(KeptSaves, AFileThatIsNotSafeOnTheDiskMakesTheTableAltered) {
     tab->Type(u"second");
     tab->Save();

@@ -51,6 +51,16 @@ TEST_F(UnsavedWork, IsKeptTwoSecondsAfterTheLastKey) {
     EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("third")));
 }
 
+TEST_F(UnsavedWork, IsOfTheMomentAtWhichItBegins) {
+    tab->Type(u"second");
+    run->background.PassWithoutWork(2s);
+    tab->Type(u"third");
+    run->background.DoAll();
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("second")));
+    run->background.Pass(10s);
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("third")));
+}
+
 TEST_F(UnsavedWork, IsKeptAtOnceWhenTheProgramEndsUnasked) {
     tab->Type(u"second");
     tab->TypeIntoField(u"third");
@@ -239,6 +249,31 @@ TEST_F(UnsavedWork, OfAnUnfinishedRunIsListed) {
     tab = run->OpenUnsaved(run->keeper->Unsaved()[0]);
     EXPECT_EQ(tab->Cell(), u"second");
     EXPECT_THAT(run->Unsaved(), IsEmpty());
+}
+
+TEST_F(UnsavedWork, ThatWasWrittenDownAfterItsSaveIsNotListed) {
+    tab->Type(u"second");
+    run->background.PassWithoutWork(2s);
+    tab->Save();
+    run->background.PassWithoutWork(10s);
+    ASSERT_TRUE(run->background.DoNext());
+    ASSERT_THAT(Drafts(), ElementsAre(HasSubstr("second")));
+    Kill();
+    Start();
+    EXPECT_THAT(run->Unsaved(), IsEmpty());
+}
+
+TEST_F(UnsavedWork, IsListedWhenAPowerCutLeftZerosInTheSavedFile) {
+    tab->Type(u"second");
+    run->background.Pass(2s);
+    tab->Save();
+    std::string bytes = *files.Contents(kPath);
+    bytes.replace(10, 20, 20, '\0');
+    files.AddFile(kPath, bytes);
+    Kill();
+    Start();
+    EXPECT_THAT(run->Unsaved(), ElementsAre("/home/me/books.tbx"));
+    EXPECT_THAT(Drafts(), ElementsAre(HasSubstr("second")));
 }
 
 TEST_F(UnsavedWork, OfARunThatIsStillThereIsNot) {

@@ -32,7 +32,8 @@ struct KeptCommand : testing::Test {
     void AddDraft(const Text& name, const std::vector<std::string>& names) {
         TableFolder folder(run.files, kRoot, kRoot + u"/runs/1/1");
         ASSERT_TRUE(folder.Prepare(name));
-        ASSERT_TRUE(folder.WriteDraft(1, kDay, Table(names)));
+        const auto write = [&](FileWriter& file) { return file.Write(Table(names)); };
+        ASSERT_TRUE(folder.WriteDraft(1, kDay, write));
     }
 
     const Text kRoot = u"/state/kept";
