@@ -145,6 +145,13 @@ TEST_F(InsertingAColumn, MovesTheTextsOneColumnToTheRight) {
     EXPECT_EQ(t.table.TableAltered, 1);
 }
 
+TEST_F(InsertingAColumn, LetsMessagesRunBeforeItLooksForTheCurrentColumn) {
+    t.GoTo(1, 1);
+    t.screen.QueueMessage([this] { t.GoTo(1, 3); });
+    mnuEdit_InsertColumn_Clack(t.tab);
+    EXPECT_EQ(RowTexts(1), (Texts{u"a", u"b", u"", u"c"}));
+}
+
 TEST_F(InsertingAColumn, TellsTheShownGridOnceBeforeItRefreshes) {
     t.watcher.refreshes = t.watcher.rowChanges = 0;
     mnuEdit_InsertColumn_Clack(t.tab);
