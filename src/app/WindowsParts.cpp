@@ -1,6 +1,8 @@
 #include "app/SystemParts.h"
+#include "app/WindowsColours.h"
 #include "platform/native/process/ChildProcess.h"
 #include "platform/native/process/NativeDocumentConverter.h"
+#include "platform/qt/look/Palettes.h"
 #include "platform/qt/services/QtPatience.h"
 #include "platform/windows/ExcelAutomation.h"
 #include "platform/windows/FileTypeName.h"
@@ -9,6 +11,8 @@
 #include "platform/windows/Win32SystemFolders.h"
 #include "platform/windows/Win32WindowList.h"
 #include "platform/windows/WindowHandOver.h"
+
+#include <QCoreApplication>
 
 namespace korvane {
 
@@ -22,7 +26,10 @@ public:
     DocumentConverter* Converter() override { return &converter_; }
     std::unique_ptr<Spreadsheet> SpreadsheetApplication() override { return StartExcel(); }
     Text FileTypeName(TextView extension) const override { return korvane::FileTypeName(extension); }
-    void MainWindowShown(std::uintptr_t window) override { box_.MoveTo(window); }
+    void MainWindowShown(std::uintptr_t window) override {
+        box_.MoveTo(window);
+        QCoreApplication::instance()->installNativeEventFilter(&colours_);
+    }
 
 private:
     Win32WindowList windows_;
@@ -31,6 +38,7 @@ private:
     Win32Shell shell_;
     Win32SystemFolders folders_;
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
+    WindowsColours colours_{FollowDesktopPalette};
 };
 
 } // namespace

@@ -55,8 +55,10 @@ bool IsDark(const QPalette& palette) {
 }
 
 void FollowDesktopPalette() {
-    if (!IsDark(QGuiApplication::palette()) && DesktopPrefersDark())
-        QGuiApplication::setPalette(DarkPalette());
+    const bool dark = DesktopPrefersDark();
+    // An empty palette gives way to that of the desktop.
+    if (dark != IsDark(QGuiApplication::palette()))
+        QGuiApplication::setPalette(dark ? DarkPalette() : QPalette());
 }
 
 } // namespace korvane
