@@ -77,7 +77,7 @@ private:
     NativeClock clock_;
     QtScreen screen_;
     QtUserLocale locale_;
-    QtFileTypes fileTypes_{[this](TextView extension) { return system_.FileTypeName(extension); }};
+    QtFileTypes fileTypes_{system_.FileTypes()};
     QtFonts fonts_;
     QtFormHost forms_;
     QtSystemFileDialog systemFileDialog_;

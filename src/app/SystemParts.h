@@ -12,6 +12,7 @@ namespace korvane {
 class DocumentConverter;
 class InstanceChannel;
 class Shell;
+class SystemFileTypes;
 class SystemFolders;
 
 /// The parts that are different on each system: how two starts find each other, how the desktop opens and
@@ -27,8 +28,8 @@ public:
     virtual DocumentConverter* Converter() { return nullptr; }
     /// A spreadsheet application that runs beside the program; nullptr when there is none.
     virtual std::unique_ptr<Spreadsheet> SpreadsheetApplication() { return nullptr; }
-    /// What the system calls files with this extension; empty where other sources of names are better.
-    virtual Text FileTypeName(TextView /*extension*/) const { return {}; }
+    /// What the system itself tells of files; nullptr where the desktop knows more.
+    virtual const SystemFileTypes* FileTypes() const { return nullptr; }
     /// Tells the system's number of the main window when it is shown.
     virtual void MainWindowShown(std::uintptr_t /*window*/) {}
     /// Calls `end` when the system asks this program alone to end.

@@ -1,10 +1,12 @@
 #include "app/SystemParts.h"
 #include "app/WindowsColours.h"
+#include "platform/SystemFileTypes.h"
 #include "platform/native/process/ChildProcess.h"
 #include "platform/native/process/NativeDocumentConverter.h"
 #include "platform/qt/look/Palettes.h"
 #include "platform/qt/services/QtPatience.h"
 #include "platform/windows/ExcelAutomation.h"
+#include "platform/windows/FileIcons.h"
 #include "platform/windows/FileTypeName.h"
 #include "platform/windows/Win32CommandBox.h"
 #include "platform/windows/Win32Shell.h"
@@ -18,6 +20,13 @@ namespace korvane {
 
 namespace {
 
+class WindowsFileTypes final : public SystemFileTypes {
+public:
+    Text NameOf(TextView extension) const override { return FileTypeName(extension); }
+    Text ImageOf(TextView extension) const override { return TypeIconName(extension); }
+    Text OwnImage(TextView path) const override { return OwnIconName(path); }
+};
+
 class WindowsParts final : public SystemParts {
 public:
     InstanceChannel& Channel() override { return channel_; }
@@ -25,7 +34,7 @@ public:
     const SystemFolders& Folders() const override { return folders_; }
     DocumentConverter* Converter() override { return &converter_; }
     std::unique_ptr<Spreadsheet> SpreadsheetApplication() override { return StartExcel(); }
-    Text FileTypeName(TextView extension) const override { return korvane::FileTypeName(extension); }
+    const SystemFileTypes* FileTypes() const override { return &fileTypes_; }
     void MainWindowShown(std::uintptr_t window) override {
         box_.MoveTo(window);
         QCoreApplication::instance()->installNativeEventFilter(&colours_);
@@ -37,6 +46,7 @@ private:
     WindowHandOver channel_{windows_, box_};
     Win32Shell shell_;
     Win32SystemFolders folders_;
+    WindowsFileTypes fileTypes_;
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     WindowsColours colours_{FollowDesktopPalette};
 };

@@ -71,20 +71,35 @@ struct QtFileTypesTest : testing::Test {
     QtFileTypes types;
 };
 
+/// A system that knows texts, songs and databases by one name, and has no picture of logs.
+class KnowingSystem final : public SystemFileTypes {
+public:
+    Text NameOf(TextView extension) const override {
+        if (extension == u"log") return u"Log";
+        return extension == u"dra" ? Text() : Text(u"Text Document");
+    }
+    Text ImageOf(TextView extension) const override {
+        return extension == u"log" ? Text() : Text(u"picture of ").append(extension);
+    }
+    Text OwnImage(TextView path) const override { return Text(u"picture in ").append(path); }
+};
+
 TEST_F(QtFileTypesTest, NamesATypeAsTheDesktopDoes) {
     EXPECT_EQ(NameOf(u"/data/a.txt"), u"plain text");
     EXPECT_EQ(NameOf(u"b.dra"), u"drawing");
     EXPECT_EQ(NameOf(u"C:\\data.dra\\b.TXT"), u"plain text");
 }
 
-TEST_F(QtFileTypesTest, TheSystemsOwnNameTakesThePlaceOfThatOfTheData) {
-    QtFileTypes ofSystem([](TextView extension) {
-        return extension == u"txt" || extension == u"tbx" ? Text(u"Text Document") : Text();
-    });
-    EXPECT_EQ(ofSystem.TypeOf(u"a.txt"), (FileType{u"Text Document", types.TypeOf(u"a.txt").image}));
+TEST_F(QtFileTypesTest, WhatTheSystemTellsTakesThePlaceOfTheData) {
+    const KnowingSystem system;
+    QtFileTypes ofSystem(&system);
+    EXPECT_EQ(ofSystem.TypeOf(u"a.txt"), (FileType{u"Text Document", u"picture of txt"}));
+    EXPECT_EQ(ofSystem.TypeOf(u"a.song"), (FileType{u"Text Document", u"picture of txt"}));
+    EXPECT_EQ(ofSystem.TypeOf(u"a.log"), (FileType{u"Log", types.TypeOf(u"a.log").image}));
     EXPECT_EQ(&ofSystem.TypeOf(u"a.txt"), &ofSystem.TypeOf(u"b.txt"));
     EXPECT_EQ(ofSystem.TypeOf(u"a.dra").name, u"drawing");
     EXPECT_EQ(ofSystem.TypeOf(u"a.tbx").name, u"Korvane text database");
+    EXPECT_EQ(ofSystem.OwnImage(u"a.exe"), u"picture in a.exe");
 }
 
 TEST_F(QtFileTypesTest, AFileNeedNotBeThere) {

@@ -1,6 +1,7 @@
 #include "platform/qt/lists/RowIcons.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/DesktopIcon.h"
 #include "platform/qt/look/Icons.h"
 
 namespace korvane {
@@ -10,7 +11,8 @@ namespace {
 QIcon MakeIcon(const QString& name) {
     const QIcon own = TintedIcon(name);
     if (!own.isNull()) return own;
-    return QIcon::hasThemeIcon(name) ? QIcon::fromTheme(name) : IconFromFile(name, {});
+    const QIcon desktops = DesktopIcon(name);
+    return desktops.isNull() ? IconFromFile(name, {}) : desktops;
 }
 
 } // namespace

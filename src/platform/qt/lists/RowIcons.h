@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// The pictures of rows by their names, each made once: an icon of the program, or else one of the desktop's
-/// theme, or else a picture file.
+/// The pictures of rows by their names, each made once: an icon of the program, or else one of the desktop,
+/// or else a picture file.
 class RowIcons {
 public:
     const QIcon& Icon(TextView name);

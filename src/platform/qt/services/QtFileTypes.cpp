@@ -120,15 +120,16 @@ const FileType& QtFileTypes::TypeOfMime(const QString& extension, const QMimeTyp
     if (isDatabase && (!mime.isValid() || mime.isDefault())) {
         return types_[kDatabaseExtension.toString()] = {Text(kDatabaseName), Text(kDatabasePicture)};
     }
-    const Text own = systemName_ ? systemName_(ToText(extension)) : Text();
-    if (!own.empty()) return Named(ToQString(own), own, mime);
-    return Named(mime.name(), ToText(mime.comment()), mime);
+    const Text name = system_ == nullptr ? Text() : system_->NameOf(ToText(extension));
+    const auto [at, isNew] = types_.try_emplace(name.empty() ? mime.name() : ToQString(name));
+    if (isNew) at->second = Described(ToText(extension), mime, name);
+    return at->second;
 }
 
-const FileType& QtFileTypes::Named(const QString& key, const Text& name, const QMimeType& mime) {
-    const auto [at, isNew] = types_.try_emplace(key);
-    if (isNew) at->second = {name, PictureOf(mime)};
-    return at->second;
+FileType QtFileTypes::Described(TextView extension, const QMimeType& mime, const Text& systemName) const {
+    if (systemName.empty()) return {ToText(mime.comment()), PictureOf(mime)};
+    const Text image = system_->ImageOf(extension);
+    return {systemName, image.empty() ? PictureOf(mime) : image};
 }
 
 } // namespace korvane

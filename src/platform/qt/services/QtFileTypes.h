@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/FileTypes.h"
+#include "platform/SystemFileTypes.h"
 
 #include <QMimeDatabase>
 #include <QString>
@@ -15,16 +16,12 @@ namespace korvane {
 /// extension of the name; a name without one has the type of unknown files.
 class QtFileTypes final : public FileTypes {
 public:
-    /// The name that the system itself has for files with this extension, in place of that in the MIME data;
-    /// empty for none.
-    using SystemName = std::function<Text(TextView extension)>;
-
-    explicit QtFileTypes(SystemName systemName = {}) : systemName_(std::move(systemName)) {}
+    /// Without what the system itself knows, there are only the MIME data. It outlives the object.
+    explicit QtFileTypes(const SystemFileTypes* system = nullptr) : system_(system) {}
 
     bool PrepareImages() override;
     const FileType& TypeOf(TextView path) override;
-    /// Files carry no pictures on this desktop.
-    Text OwnImage(TextView) override { return {}; }
+    Text OwnImage(TextView path) override { return system_ == nullptr ? Text() : system_->OwnImage(path); }
 
 private:
     /// So that a text isn't copied to look for it.
@@ -34,9 +31,9 @@ private:
 
     const FileType& Ask(TextView extension);
     const FileType& TypeOfMime(const QString& extension, const QMimeType& mime);
-    const FileType& Named(const QString& key, const Text& name, const QMimeType& mime);
+    FileType Described(TextView extension, const QMimeType& mime, const Text& systemName) const;
 
-    SystemName systemName_;
+    const SystemFileTypes* system_;
     QMimeDatabase database_;
     QString theme_;
     /// By extension, without its dot. Several of them may have one type.
