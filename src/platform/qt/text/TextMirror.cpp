@@ -246,12 +246,26 @@ void TextMirror::Build() {
     cells_.clear();
     for (const doc::Paragraph& paragraph : Text().paragraphs)
         cells_.push_back(paragraph.cell);
+    auto fresh = EmptyDocument();
+    PutAll(*fresh);
+    // Without a layout the document doesn't tell of its changes. While it is filled, a layout would make each
+    // step take several times as long. On a page of no size nothing is laid out yet.
+    fresh->setPageSize(QSizeF(0, 0));
+    fresh->documentLayout();
+    shown_ = std::move(fresh);
+}
+
+std::unique_ptr<QTextDocument> TextMirror::EmptyDocument() {
     auto fresh = std::make_unique<ShownDocument>(Text());
     fresh->setDefaultFont(formats_.OfChars(0).font());
     QTextOption option = fresh->defaultTextOption();
     option.setTabStopDistance(TextPixels(std::max(Text().defaultTab, kTwipsPerPixel)));
     fresh->setDefaultTextOption(option);
-    QTextCursor cursor(fresh.get());
+    return fresh;
+}
+
+void TextMirror::PutAll(QTextDocument& fresh) {
+    QTextCursor cursor(&fresh);
     cursor.beginEditBlock();
     // A new document has a block, and so has the place after a table.
     bool open = true;
@@ -273,11 +287,6 @@ void TextMirror::Build() {
         ++i;
     }
     cursor.endEditBlock();
-    // Without a layout the document doesn't tell of its changes. While it is filled, a layout would make each
-    // step take several times as long. On a page of no size nothing is laid out yet.
-    fresh->setPageSize(QSizeF(0, 0));
-    fresh->documentLayout();
-    shown_ = std::move(fresh);
 }
 
 /// Puts all parts of the table and goes to the block after it. The result is the next paragraph.

@@ -63,6 +63,9 @@ private:
     int ToQt(const doc::Place& place) const;
 
     void Build();
+    /// A document with the defaults of the text, and nothing else of it.
+    std::unique_ptr<QTextDocument> EmptyDocument();
+    void PutAll(QTextDocument& fresh);
     void ShowChanges();
     bool ShowInPlace(std::size_t first, std::size_t removed, std::size_t added);
     bool SameCells(std::size_t first, std::size_t count) const;
