@@ -95,6 +95,14 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Drop:
         TakeDrop(*event);
         return true;
+    default:
+        Follow(event->type());
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+void WindowAdaptor::Follow(QEvent::Type event) {
+    switch (event) {
     case QEvent::MouseButtonRelease:
         form_->Clicked();
         break;
@@ -118,7 +126,6 @@ bool WindowAdaptor::eventFilter(QObject* watched, QEvent* event) {
     default:
         break;
     }
-    return QObject::eventFilter(watched, event);
 }
 
 void WindowAdaptor::TellActivated() {

@@ -3,6 +3,7 @@
 #include "controls/Form.h"
 #include "platform/qt/adaptors/KeyHold.h"
 
+#include <QEvent>
 #include <QObject>
 #include <QWidget>
 
@@ -29,6 +30,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Does what belongs to events that go on to the window.
+    void Follow(QEvent::Type event);
     void TellActivated();
     void Activate();
     bool CloseWanted(QEvent& event);
