@@ -31,6 +31,10 @@ constexpr Twips kLeastHeight{5000};
 constexpr int kNote = 0;
 constexpr int kHyperlink = 1;
 
+/// The colours of fields as long as none is chosen: links are blue, notes black, and both are on white.
+constexpr std::int32_t kFirstLinkColour = 0xFF0000;
+constexpr std::int32_t kWhite = 0xFFFFFF;
+
 constexpr int kRaised = 1;
 constexpr int kLowered = 2;
 
@@ -138,6 +142,7 @@ void frmViewEditField::Load() {
     RestorePlace(app_, *this, kPlace);
     Width = std::max(Width.Get(), kLeastWidth);
     Height = std::max(Height.Get(), kLeastHeight);
+    TakeFirstColours();
     ShowColours();
     ShowPane(false);
     ShowField();
@@ -171,6 +176,16 @@ void frmViewEditField::ShowKind() {
     txtFieldURL.Enabled = hyperlink;
     cmdGetFile.Enabled = hyperlink;
     txtFieldEntry.Enabled = !hyperlink;
+}
+
+/// Where nobody has chosen colours yet, all four are black.
+void frmViewEditField::TakeFirstColours() {
+    Settings& settings = app_.Settings;
+    if (settings.Spare106 != 0 || settings.Spare107 != 0 || settings.Spare108 != 0 || settings.Spare109 != 0)
+        return;
+    settings.Spare106 = kFirstLinkColour;
+    settings.Spare107 = kWhite;
+    settings.Spare109 = kWhite;
 }
 
 void frmViewEditField::ShowColours() {

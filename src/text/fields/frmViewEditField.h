@@ -53,6 +53,7 @@ private:
     void Wire();
     void ShowField();
     void ShowKind();
+    void TakeFirstColours();
     void ShowColours();
     void ShowPane(bool all);
     void ShowEditFont();

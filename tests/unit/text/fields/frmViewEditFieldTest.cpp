@@ -269,6 +269,22 @@ TEST_F(ViewEditField, UpdatesTheColoursOfAllFields) {
     EXPECT_NE(document.ForeColor(), Colour{0xFF0000});
 }
 
+TEST_F(ViewEditField, ColoursThatNobodyChoseCanBeRead) {
+    t.app.Settings.Spare106 = t.app.Settings.Spare107 = t.app.Settings.Spare108 = t.app.Settings.Spare109 = 0;
+    Edit(1);
+    EXPECT_EQ(editor.lblURL.ForeColor, Colour{0xFF0000});
+    EXPECT_EQ(editor.lblURL.BackColor, Colour{0xFFFFFF});
+    EXPECT_EQ(editor.lblText.ForeColor, Colour{0});
+    EXPECT_EQ(editor.lblText.BackColor, Colour{0xFFFFFF});
+}
+
+TEST_F(ViewEditField, ColoursOfWhichOneWasChosenStay) {
+    t.app.Settings.Spare106 = t.app.Settings.Spare107 = t.app.Settings.Spare109 = 0;
+    Edit(1);
+    EXPECT_EQ(editor.lblURL.BackColor, Colour{0});
+    EXPECT_EQ(editor.lblText.ForeColor, Colour{0x00FF00});
+}
+
 TEST_F(ViewEditField, ChoosesFontsAndColours) {
     Edit(1);
     t.user.ChooseFont(FontSpec{u"Arial", 20, true});
