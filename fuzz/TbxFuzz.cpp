@@ -45,11 +45,12 @@ struct Table {
     TableModel model{grid};
 };
 
-bool Load(std::string_view bytes, Table& table) {
+/// A file of at least `large` bytes is read in two threads.
+bool Load(std::string_view bytes, Table& table, std::size_t large = TbxReader::kLarge) {
     const std::shared_ptr<char[]> copy(new char[bytes.size()]);
     bytes.copy(copy.get(), bytes.size());
     NoHost host;
-    TbxReader reader(table.model, host, false, {copy, bytes.size()});
+    TbxReader reader(table.model, host, false, {copy, bytes.size()}, large);
     return reader.Read() == TbxReader::Outcome::Done;
 }
 
@@ -72,10 +73,14 @@ bool Survives(const Grid& grid) {
 
 void Check(std::string_view bytes) {
     Table table;
+    Table halves;
     Table plain;
-    const bool done = Load(bytes, table);
-    Require(done == ReadPlainly(bytes, plain.model), "the outcome is that of the plain reader");
+    const bool done = ReadPlainly(bytes, plain.model);
+    Require(Load(bytes, table) == done, "the outcome is that of the plain reader");
     Require(DifferenceBetween(table.model, plain.model).empty(), "the table is that of the plain reader");
+    Require(Load(bytes, halves, 0) == done, "two threads have the outcome of the plain reader");
+    Require(DifferenceBetween(halves.model, plain.model).empty(),
+            "the table of two threads is that of the plain reader");
     Require(table.grid.RowCount() <= kMaxRows && table.grid.ColCount() <= MaxColumns, "the limits are kept");
 
     const std::string first = Save(table);
