@@ -1,5 +1,6 @@
 #include "app/SystemParts.h"
 #include "app/WindowsColours.h"
+#include "app/WindowsRtf.h"
 #include "platform/SystemFileTypes.h"
 #include "platform/native/process/ChildProcess.h"
 #include "platform/native/process/NativeDocumentConverter.h"
@@ -15,6 +16,7 @@
 #include "platform/windows/WindowHandOver.h"
 
 #include <QCoreApplication>
+#include <optional>
 
 namespace korvane {
 
@@ -38,6 +40,7 @@ public:
     void MainWindowShown(std::uintptr_t window) override {
         box_.MoveTo(window);
         QCoreApplication::instance()->installNativeEventFilter(&colours_);
+        rtf_.emplace();
     }
 
 private:
@@ -49,6 +52,7 @@ private:
     WindowsFileTypes fileTypes_;
     NativeDocumentConverter converter_{FindProgram, BeginPatience};
     WindowsColours colours_{FollowDesktopPalette};
+    std::optional<WindowsRtf> rtf_;
 };
 
 } // namespace
