@@ -78,6 +78,8 @@ protected:
     void SetUp() override {
         if (!Output({"strace", "-V"}, environment)) GTEST_SKIP() << "strace isn't installed";
         fs::create_directory(folder / "papers");
+        // The library for archives is opened with the first of them.
+        WriteBytes(first, Docx(""));
         Put("begin.txt", "text");
         Put("page.html", kHtml);
         Put("letter.rtf", kRtf);
@@ -101,7 +103,8 @@ protected:
                                          "trace=%network,%process,open,openat,creat",
                                          "-o",
                                          log,
-                                         KORVANE_DOCUMENT_LOAD};
+                                         KORVANE_DOCUMENT_LOAD,
+                                         first.string()};
         command.insert(command.end(), files.begin(), files.end());
         if (!Output(command, environment)) return {};
         std::istringstream lines(ReadBytes(log));
@@ -121,6 +124,7 @@ protected:
 
     TempDir temporary;
     fs::path folder = temporary.Path();
+    fs::path first = folder / "first.docx";
     std::vector<std::string> files;
     /// The check for leaks can't run while it is traced.
     Process::Environment environment{{"PATH", std::getenv("PATH")}, {"ASAN_OPTIONS", "detect_leaks=0"}};
