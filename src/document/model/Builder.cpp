@@ -27,6 +27,11 @@ bool Builder::Fits(std::size_t length) {
     return characters_ <= limits_.characters;
 }
 
+std::size_t Builder::FittingPart(std::size_t length) {
+    const std::size_t room = limits_.characters - std::min(characters_, limits_.characters);
+    return Fits(length) ? length : std::min(length, room);
+}
+
 void Builder::Extend(std::size_t length) {
     Run added = look_;
     added.length = static_cast<Index>(length);
@@ -34,13 +39,15 @@ void Builder::Extend(std::size_t length) {
 }
 
 void Builder::Add(TextView text) {
-    if (text.empty() || !Fits(text.size())) return;
+    text = text.substr(0, FittingPart(text.size()));
+    if (text.empty()) return;
     text_ += text;
     Extend(text.size());
 }
 
 void Builder::AddAscii(std::string_view text) {
-    if (text.empty() || !Fits(text.size())) return;
+    text = text.substr(0, FittingPart(text.size()));
+    if (text.empty()) return;
     const std::size_t before = text_.size();
     text_.resize(before + text.size());
     std::copy(text.begin(), text.end(), text_.begin() + static_cast<std::ptrdiff_t>(before));

@@ -59,6 +59,8 @@ public:
 private:
     void CloseParagraph(const ParaFormat& format);
     bool Fits(std::size_t length);
+    /// How much of a text of this length fits.
+    std::size_t FittingPart(std::size_t length);
     void Extend(std::size_t length);
     Index Number(const ParaFormat& format);
     void PlaceCells(Index table, Index row);

@@ -20,6 +20,19 @@ TEST(Builder, TheLastEndBeginsNoParagraph) {
     EXPECT_EQ(PlainText(builder.Finish({})), u"one");
 }
 
+TEST(Builder, OfATextThatIsTooLongTheBeginningStays) {
+    Limits limits;
+    limits.characters = 5;
+    Builder builder(limits);
+    builder.AddAscii("abc");
+    builder.Add(u"defg");
+    builder.AddAscii("h");
+    EXPECT_EQ(builder.Told(), Trouble::OverLimit);
+    const Document document = builder.Finish({});
+    EXPECT_EQ(PlainText(document), u"abcde");
+    EXPECT_TRUE(IsSound(document));
+}
+
 TEST(Builder, ACellTakesTheParagraphsSinceItOpened) {
     Builder builder({});
     builder.AddAscii("before");
@@ -88,7 +101,7 @@ TEST(Builder, TextBeyondTheLimitIsLeftOut) {
     builder.AddAscii("12345678");
     builder.AddAscii("1234");
     EXPECT_TRUE(builder.Full());
-    EXPECT_EQ(PlainText(builder.Finish({})), u"12345678");
+    EXPECT_EQ(PlainText(builder.Finish({})), u"1234567812");
 }
 
 TEST(Builder, CellsBeyondTheLimitBecomeParagraphs) {
