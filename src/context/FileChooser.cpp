@@ -2,6 +2,7 @@
 
 #include "common/text/ScopedValue.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "context/exchange/ListerRequest.h"
 #include "context/ports/FilePicker.h"
 #include "platform/FileSystem.h"
@@ -55,10 +56,16 @@ void ShowDirectoryLister(App& app) {
     Show(app, u"*.*", u"Directory lister");
 }
 
-KeepCurrentDir::KeepCurrentDir(FileSystem& files) : files_(files), savedDir_(files.CurrentDir()) {}
+void GoBackTo(App& app, const Text& directory) {
+    FileSystem& files = app.Files();
+    if (files.CurrentDir() != directory && HasFolderSoon(app, directory).value_or(false))
+        files.ChangeDir(directory);
+}
+
+KeepCurrentDir::KeepCurrentDir(App& app) : app_(app), savedDir_(app.Files().CurrentDir()) {}
 
 KeepCurrentDir::~KeepCurrentDir() {
-    files_.ChangeDir(savedDir_);
+    GoBackTo(app_, savedDir_);
 }
 
 } // namespace korvane

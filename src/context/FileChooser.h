@@ -19,16 +19,20 @@ void ShowFileChooser(App& app, ChooserMode mode, TextView filter, TextView capti
 /// Shows the file chooser as a lister of directories, in the mode in which it was left last.
 void ShowDirectoryLister(App& app);
 
-/// Goes back, at the end of its life, to the drive and directory that were the current ones at its start.
+/// Makes the drive and directory the current ones again, unless they have gone or their disk doesn't answer.
+void GoBackTo(App& app, const Text& directory);
+
+/// Goes back, at the end of its life, to the drive and directory that were the current ones at its start. A
+/// directory on a disk that has fallen silent meanwhile is left.
 class KeepCurrentDir {
 public:
-    explicit KeepCurrentDir(FileSystem& files);
+    explicit KeepCurrentDir(App& app);
     KeepCurrentDir(const KeepCurrentDir&) = delete;
     KeepCurrentDir& operator=(const KeepCurrentDir&) = delete;
     ~KeepCurrentDir();
 
 private:
-    FileSystem& files_;
+    App& app_;
     Text savedDir_;
 };
 

@@ -7,7 +7,7 @@
 namespace korvane {
 
 bool PickProgram(App& app, TextView title, Text& location) {
-    const KeepCurrentDir keep(app.Files());
+    const KeepCurrentDir keep(app);
     ShowFileChooser(app, ChooserMode::Load, u"*.exe", title);
     const ListerRequest& request = app.Exchange<ListerRequest>();
     if (request.ChosenFilePath.empty() || request.ChosenFileCount == 0) return false;

@@ -2,6 +2,7 @@
 
 #include "common/path/DriveForms.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "context/exchange/ListerRequest.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
@@ -33,8 +34,9 @@ Text SwapDriveForm(const FileSystem& files, TextView path) {
 Text MapFolderPath(App& app, TextView path) {
     if (path.starts_with(u'-') || Trim(path).empty()) return Text(path);
     const FileSystem& files = app.Files();
-    const Text folder = files.DirExists(path) ? Text(path) : OtherFolderForm(files.Style(), path);
-    if (files.DirExists(folder)) {
+    const auto isThere = [&app](const Text& folder) { return HasFolderSoon(app, folder).value_or(false); };
+    const Text folder = isThere(Text(path)) ? Text(path) : OtherFolderForm(files.Style(), path);
+    if (isThere(folder)) {
         app.Exchange<ListerRequest>().CurrentFolderHint = folder;
     } else {
         ShowCannotLocateDirectory(app, folder);

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "common/text/Text.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -39,5 +42,13 @@ std::optional<AnswerT> AnswerTo(const DiskAsker& ask, QuestionT question) {
     if (!answered) return std::nullopt;
     return std::move(*answer);
 }
+
+/// A question about one path.
+using PathQuestionOfDisk = std::function<bool(const FileSystem&, const Text& path)>;
+
+/// What the disk answers about some paths, one after the other, until nobody waits for it any more. Nothing
+/// for those that it hasn't come to by then.
+std::vector<std::optional<bool>> AnswersSoFar(const DiskAsker& ask, const std::vector<Text>& paths,
+                                              const PathQuestionOfDisk& question);
 
 } // namespace korvane

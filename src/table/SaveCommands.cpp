@@ -69,7 +69,7 @@ void mnuFile_Save_Clack(const TabContext& tab) {
 
 void mnuFile_SaveAs_Clack(const TabContext& tab) {
     {
-        const KeepCurrentDir keep(tab.app.Files());
+        const KeepCurrentDir keep(tab.app);
         ShowFileChooser(tab.app, ChooserMode::Save, u"*.tbx", u"Save database to disk", tab.table.TxtDbFile);
         if (!tab.app.Exchange<ListerRequest>().ChosenFilePath.empty()) SaveUnderChosenName(tab);
     }

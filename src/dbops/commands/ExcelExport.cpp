@@ -43,7 +43,7 @@ Text ProposedName(TextView path) {
 std::optional<Text> ChooseFileName(const TabContext& tab) {
     auto* systemFileDialog = tab.app.Port<SystemFileDialog>();
     if (systemFileDialog == nullptr) return std::nullopt;
-    const KeepCurrentDir keep(tab.app.Files());
+    const KeepCurrentDir keep(tab.app);
     return systemFileDialog->Choose({.purpose = SystemFileDialog::Purpose::Save,
                                      .filter = u"Excel tables (*.xls)|*.xls",
                                      .title = u"Save database as Excel table",

@@ -98,7 +98,7 @@ void frmBrowser::LoadAddress() {
 }
 
 void frmBrowser::GetFile() {
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     ShowFileChooser(app_, ChooserMode::Load, u"*.htm;*.html;*.xhtml", {});
     const Text chosen = app_.Exchange<ListerRequest>().ChosenFilePath;
     if (chosen.empty()) return;

@@ -252,7 +252,7 @@ WebsiteLists frmWebList::ShownLists() const {
 }
 
 void frmWebList::OpenList() {
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     ShowFileChooser(app_, ChooserMode::Load, u"*.lst;*.txt;*.asc", {});
     const Text chosen = app_.Exchange<ListerRequest>().ChosenFilePath;
     if (chosen.empty()) return;

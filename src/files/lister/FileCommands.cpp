@@ -64,7 +64,7 @@ void FileCommands::PutAtHand() {
 
 void FileCommands::View(Viewing viewing) {
     if (!HasFile()) return;
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     Text path = folder_.PathOf(rows_.CurrentName());
     if (!app_.Files().FileExists(path)) return ShowCannotLocate(app_, path);
     if (OpenShortcut(app_, path)) return;

@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
+#include "context/DiskQuestions.h"
 #include "context/Launching.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/FileOperation.h"

@@ -26,7 +26,7 @@ void RunCommand(App& app, const Text& command, TextView path) {
 } // namespace
 
 void OpenWithUserProgram(App& app, TextView path) {
-    const KeepCurrentDir keep(app.Files());
+    const KeepCurrentDir keep(app);
     OpenWithRequest& request = app.Exchange<OpenWithRequest>();
     request = {Text(path), {}};
     frmOpenFileWith window(app);

@@ -4,6 +4,7 @@
 #include "common/path/DriveForms.h"
 #include "common/text/CaseFold.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/ListerRequest.h"
@@ -160,8 +161,9 @@ void frmFavouriteLocations::GotoFolder() {
     const Text entry = List1.List(List1.ListIndex());
     if (Trim(entry).empty()) return;
     const FileSystem& files = app_.Files();
-    const Text folder = files.DirExists(entry) ? entry : OtherFolderForm(files.Style(), entry);
-    if (!files.DirExists(folder)) return TellError(app_, u"Cannot locate this directory:\r\n\r\n" + folder);
+    const auto isThere = [this](const Text& folder) { return HasFolderSoon(app_, folder).value_or(false); };
+    const Text folder = isThere(entry) ? entry : OtherFolderForm(files.Style(), entry);
+    if (!isThere(folder)) return TellError(app_, u"Cannot locate this directory:\r\n\r\n" + folder);
     ListerRequest& request = app_.Exchange<ListerRequest>();
     request.CurrentFolderHint = folder;
     request.ChosenFilePath = folder;

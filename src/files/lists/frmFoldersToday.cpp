@@ -3,6 +3,7 @@
 #include "context/App.h"
 #include "context/Companions.h"
 #include "context/Desktop.h"
+#include "context/DiskQuestions.h"
 #include "context/StandardMessages.h"
 #include "context/WindowFitting.h"
 #include "context/exchange/FolderPick.h"
@@ -141,8 +142,10 @@ void frmFoldersToday::ReadList() {
 
 void frmFoldersToday::ShowLines(const std::vector<Text>& lines) {
     lstFoldersToday.Clear();
-    for (const Text& line : lines) {
-        if (!line.empty() && app_.Files().DirExists(line)) lstFoldersToday.AddItem(line);
+    const auto there = HasFoldersSoon(app_, lines);
+    for (std::size_t index = 0; index < lines.size(); ++index) {
+        // A folder on a disk that doesn't answer hasn't gone.
+        if (!lines[index].empty() && there[index].value_or(true)) lstFoldersToday.AddItem(lines[index]);
     }
 }
 
@@ -256,7 +259,7 @@ void frmFoldersToday::GoBesideDocuments(TextView name) {
     const Text& documents = app_.Exchange<SystemDirs>().DocumentsDir;
     const std::size_t kept = documents.size() - std::min(documents.size(), kNameLength);
     const Text folder = documents.substr(0, kept) + Text(name);
-    if (app_.Files().DirExists(folder)) return CloseWith(1, folder);
+    if (HasFolderSoon(app_, folder).value_or(false)) return CloseWith(1, folder);
     Warn(app_, u"Cannot change to:\r\n\r\n" + folder);
 }
 

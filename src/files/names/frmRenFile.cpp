@@ -65,7 +65,7 @@ void frmRenFile::cmdUnderscores_Click() {
 void frmRenFile::Accept() {
     App& app = TheApp();
     FileSystem& files = app.Files();
-    const KeepCurrentDir keep(files);
+    const KeepCurrentDir keep(app);
     files.ChangeDir(File().FileOpFolder);
     const Text& name = Text2.Text;
     if (!name.empty() && files.FileExists(name)) {

@@ -125,7 +125,7 @@ void frmSettings::cmdBrannockLocation_Click() {
 void frmSettings::cmdGetWallpaperFile_Click() {
     auto* systemFileDialog = app_.Port<SystemFileDialog>();
     if (systemFileDialog == nullptr) return;
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     const auto file = systemFileDialog->Choose(
         {.filter = u"Image files (*.jpg;*.png;*.bmp;*.gif)|*.jpg;*.jpeg;*.png;*.bmp;*.gif",
          .title = u"Get image file for wallpaper"});

@@ -68,7 +68,7 @@ std::optional<std::vector<Text>> LoadPipeline::FilesToLoad(const Text& path) {
 bool LoadPipeline::ChooseFiles() {
     app_.DialogResult = 0;
     {
-        const KeepCurrentDir keep(app_.Files());
+        const KeepCurrentDir keep(app_);
         ShowFileChooser(app_, ChooserMode::Load, u"*.tbx", u"Select a text database to edit");
     }
     ListerRequest& lister = app_.Exchange<ListerRequest>();

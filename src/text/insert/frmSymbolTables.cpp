@@ -124,7 +124,7 @@ void frmSymbolTables::mnuInfo_Click() {
 }
 
 void frmSymbolTables::mnuGetFile_Click() {
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     ShowFileChooser(app_, ChooserMode::Load, u"*.lst;*.txt;*.asc", u"File with symbols in a table");
     const Text path = app_.Exchange<ListerRequest>().ChosenFilePath;
     if (!path.empty() && LoadThisFile(path)) app_.Settings.SymbolListFile = path;

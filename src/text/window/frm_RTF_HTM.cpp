@@ -415,7 +415,7 @@ void frm_RTF_HTM::mnuFile_New_Click() {
 
 void frm_RTF_HTM::mnuFile_Open_Click() {
     if (Altered() && AskSaveChanges() == MsgAnswer::Cancel) return;
-    const KeepCurrentDir keep(Context().Files());
+    const KeepCurrentDir keep(Context());
     ShowFileChooser(Context(), ChooserMode::Load, u"*.*", u"Load a file into text window");
     const Text& path = Context().Exchange<ListerRequest>().ChosenFilePath;
     if (path.empty()) return;

@@ -252,7 +252,7 @@ void frmHoldWordList::mnuInfo_Click() {
 }
 
 void frmHoldWordList::mnuLoad_Click() {
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     ShowFileChooser(app_, ChooserMode::Load, kListPatterns, {});
     const Text& chosen = app_.Exchange<ListerRequest>().ChosenFilePath;
     if (chosen.empty()) return;
@@ -288,7 +288,7 @@ bool frmHoldWordList::SaveUnderAName() {
     auto* dialog = app_.Port<SystemFileDialog>();
     if (lstWordList.Count() == 0 || dialog == nullptr) return false;
     auto* main = app_.Port<MainWindow>();
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     const auto path = dialog->Choose({SystemFileDialog::Purpose::Save,
                                       Text(kListFilter),
                                       u"Save Word List As",
@@ -312,7 +312,7 @@ void frmHoldWordList::mnuAppendToFile_Click() {
     auto* dialog = app_.Port<SystemFileDialog>();
     auto* files = app_.Port<TextFiles>();
     if (lstWordList.Count() == 0 || dialog == nullptr || files == nullptr) return;
-    const KeepCurrentDir keep(app_.Files());
+    const KeepCurrentDir keep(app_);
     const auto path = dialog->Choose(
         {SystemFileDialog::Purpose::Open, Text(kListFilter), u"Get file to append selected items to"});
     if (!path) return;

@@ -4,6 +4,7 @@
 #include "context/ports/FilePicker.h"
 #include "support/HandlerFailure.h"
 #include "support/TestApp.h"
+#include "testing/MemoryPatientDisk.h"
 
 #include <gtest/gtest.h>
 
@@ -111,11 +112,34 @@ TEST(KeepCurrentDir, StaysWhereItIsWhenTheDirectoryHasGone) {
     t.files.AddDir(u"C:\\Here");
     t.files.ChangeDir(u"C:\\Here");
     {
-        const KeepCurrentDir keep(t.app.Files());
+        const KeepCurrentDir keep(t.app);
         t.files.ChangeDir(u"C:\\");
         t.files.Erase(u"C:\\Here");
     }
     EXPECT_EQ(t.files.CurrentDir(), u"C:\\");
+}
+
+TEST(KeepCurrentDir, LeavesADirectoryWhoseDiskDoesntAnswer) {
+    TestApp t;
+    MemoryPatientDisk disk(t.files, t.clock);
+    t.app.SetPort<PatientDisk>(&disk);
+    t.files.AddDir(u"C:\\Here");
+    t.files.ChangeDir(u"C:\\Here");
+    {
+        const KeepCurrentDir keep(t.app);
+        t.files.ChangeDir(u"C:\\");
+        disk.Hold();
+    }
+    EXPECT_EQ(t.files.CurrentDir(), u"C:\\");
+    EXPECT_EQ(disk.Asked(), 1);
+}
+
+TEST(KeepCurrentDir, DoesntAskTheDiskWhereNothingHasChanged) {
+    TestApp t;
+    MemoryPatientDisk disk(t.files, t.clock);
+    t.app.SetPort<PatientDisk>(&disk);
+    { const KeepCurrentDir keep(t.app); }
+    EXPECT_EQ(disk.Asked(), 0);
 }
 
 TEST(KeepCurrentDir, GoesBackToDriveAndDirectory) {
@@ -124,7 +148,7 @@ TEST(KeepCurrentDir, GoesBackToDriveAndDirectory) {
     t.files.AddDrive(u'D');
     t.files.ChangeDir(u"C:\\Here");
     {
-        const KeepCurrentDir keep(t.app.Files());
+        const KeepCurrentDir keep(t.app);
         t.files.ChangeDir(u"D:\\");
     }
     EXPECT_EQ(t.files.CurrentDir(), u"C:\\Here");

@@ -1,6 +1,7 @@
 #include "files/lister/rows/DiskWait.h"
 
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "controls/CommandButton.h"
 #include "controls/lists/ListView.h"
 #include "controls/views/ProgressBar.h"
@@ -15,12 +16,6 @@ namespace {
 constexpr std::chrono::milliseconds kLong{300};
 
 } // namespace
-
-bool AskDisk(const App& app, const DiskQuestion& question, const StillWaits& stillWaits) {
-    if (auto* disk = app.Port<PatientDisk>()) return disk->Ask(question, stillWaits);
-    question(app.Files(), stillWaits);
-    return true;
-}
 
 DiskWait::DiskWait(App& app, Parts parts) : app_(app), parts_(parts) {}
 

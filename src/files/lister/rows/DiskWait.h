@@ -12,9 +12,6 @@ class Control;
 class ListView;
 class ProgressBar;
 
-/// Asks the disk with the patience that the platform has, or directly where it has none.
-bool AskDisk(const App& app, const DiskQuestion& question, const StillWaits& stillWaits);
-
 /// Questions to the disk for which the lister waits. Where that takes long the wait is seen, the window lives
 /// on, and the user can stop it.
 class DiskWait {

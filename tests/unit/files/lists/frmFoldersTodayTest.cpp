@@ -7,6 +7,7 @@
 #include "support/FakeSystemFileDialog.h"
 #include "support/MenuEntries.h"
 #include "support/TestApp.h"
+#include "testing/MemoryPatientDisk.h"
 
 #include <gmock/gmock.h>
 
@@ -92,6 +93,18 @@ TEST_F(FoldersTodayTest, OpenedAgainItDoublesNothing) {
         });
     }
     EXPECT_EQ(Written(), "C:\\a\r\nC:\\b\r\nC:\\c\r\n");
+}
+
+TEST_F(FoldersTodayTest, AFolderOnASilentDiskStaysInTheList) {
+    MemoryPatientDisk disk(t.files, t.clock);
+    t.app.SetPort<PatientDisk>(&disk);
+    t.files.Erase(u"C:\\b");
+    disk.Hold();
+    InWindow([&](frmFoldersToday& f) {
+        EXPECT_THAT(EntriesOf(f.lstFoldersToday), ElementsAre(u"C:\\a", u"C:\\b"));
+        EXPECT_EQ(disk.Asked(), 1);
+    });
+    EXPECT_EQ(Written(), "C:\\a\r\nC:\\b\r\n");
 }
 
 TEST_F(FoldersTodayTest, EmptyLinesAndVanishedFoldersDropOut) {

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "common/text/Text.h"
+#include "platform/PatientDisk.h"
+
+#include <optional>
+#include <vector>
+
+namespace korvane {
+
+class App;
+
+/// Asks the disk with the patience that the platform has, or directly where it has none.
+bool AskDisk(const App& app, const DiskQuestion& question, const StillWaits& stillWaits);
+
+/// The same for a second at most. It is for where a wait can't be shown.
+bool AskDiskSoon(const App& app, const DiskQuestion& question);
+
+/// The same for a fifth of a second, for what the user hasn't asked for.
+bool AskDiskUnseen(const App& app, const DiskQuestion& question);
+
+/// Whether there is such a folder; nothing when its disk doesn't tell soon.
+std::optional<bool> HasFolderSoon(const App& app, const Text& folder);
+
+/// The same for many folders, of which the first that stays without an answer ends it.
+std::vector<std::optional<bool>> HasFoldersSoon(const App& app, const std::vector<Text>& folders);
+
+} // namespace korvane
