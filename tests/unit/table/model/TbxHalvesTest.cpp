@@ -30,8 +30,11 @@ TEST(TbxHalves, AreOneTable) {
     EXPECT_EQ(Difference(Rows(2)), "");
 }
 
-TEST(TbxHalves, AColumnInTheFirstHalfCountsInTheSecond) {
-    EXPECT_EQ(Difference(Rows(3) + Lines("!More\n!80\n@row_1\n@col_3\nx\n") + Rows(20)), "");
+TEST(TbxHalves, AColumnAtTheEndOfTheFirstHalfCountsInTheSecond) {
+    // The middle of the file is in the name of the column.
+    const std::string name(4000, 'x');
+    const std::string rows = Lines("@row_1\n@col_1\nx\n@col_2\ny\n@col_3\nz\n@row_2\n@col_3\nz\n");
+    EXPECT_EQ(Difference(Rows(3) + Lines(";\n!" + name + "\n!80\n") + rows), "");
 }
 
 TEST(TbxHalves, ALastLineThatBeginsARowAfterACellIsDropped) {
@@ -41,11 +44,11 @@ TEST(TbxHalves, ALastLineThatBeginsARowAfterACellIsDropped) {
 }
 
 TEST(TbxHalves, AColumnInTheSecondHalfBeginsTheRowsAgain) {
-    EXPECT_EQ(Difference(Rows(20) + Lines("!More\n!80\n@row_1\n@col_3\nx\n") + Rows(3)), "");
+    EXPECT_EQ(Difference(Rows(20) + Lines(";\n!More\n!80\n@row_1\n@col_3\nx\n") + Rows(3)), "");
 }
 
 TEST(TbxHalves, TooManyColumnsInTheSecondHalfStopTheLoad) {
-    std::string columns;
+    std::string columns = Lines(";\n");
     for (int col = 0; col < 40; ++col)
         columns += Lines("!Name\n!80\n");
     EXPECT_EQ(Difference(Rows(200) + columns + Rows(3)), "");
