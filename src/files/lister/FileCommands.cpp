@@ -52,6 +52,16 @@ bool FileCommands::HasFile() {
     return false;
 }
 
+std::vector<Text> FileCommands::MarkedFiles() {
+    if (!folder_.IsListed()) {
+        folder_.List();
+        return {};
+    }
+    std::vector<Text> marked = rows_.MarkedNames();
+    if (marked.empty()) Inform(app_, u"No items checked.");
+    return marked;
+}
+
 void FileCommands::PutAtHand() {
     FileOperation& file = app_.Exchange<FileOperation>();
     file.FileOpFolder = folder_.Path();
@@ -82,7 +92,10 @@ void FileCommands::ViewWith() {
 }
 
 void FileCommands::ShowInfo() {
-    if (HasFile()) frmTxtInfo(app_, FactsOfFile(app_, folder_.PathOf(rows_.CurrentName()))).ShowModal();
+    if (!HasFile()) return;
+    FileFacts facts = FactsOfFile(app_, folder_.PathOf(rows_.CurrentName()));
+    facts.folder = folder_.Path();
+    frmTxtInfo(app_, facts).ShowModal();
 }
 
 void FileCommands::Rename() {
@@ -112,10 +125,9 @@ void FileCommands::Move() {
 }
 
 void FileCommands::ShowCopyMove(std::int16_t kind) {
-    if (!HasFile()) return;
     CopyMoveRequest& request = app_.Exchange<CopyMoveRequest>();
-    request.lstMarkedFiles = rows_.MarkedNames();
-    if (request.lstMarkedFiles.empty()) return Inform(app_, u"No items checked.");
+    request.lstMarkedFiles = MarkedFiles();
+    if (request.lstMarkedFiles.empty()) return;
     request.CopyMoveKind = kind;
     app_.Files().ChangeDir(folder_.Path());
     request.CopySourceFolder = app_.Files().CurrentDir();
@@ -129,10 +141,9 @@ void FileCommands::ShowCopyMove(std::int16_t kind) {
 }
 
 void FileCommands::Delete() {
-    if (!HasFile()) return;
     std::vector<Text>& marked = app_.Exchange<CopyMoveRequest>().lstMarkedFiles;
-    marked = rows_.MarkedNames();
-    if (marked.empty()) return Inform(app_, u"No items checked.");
+    marked = MarkedFiles();
+    if (marked.empty()) return;
     const Message question{DeleteQuestion(marked), MessageIcon::Exclamation, MessageButtons::YesNo, 2};
     if (app_.Messages().Show(question) != Answer::Yes) return rows_.TakeFocus();
     const FileSystem& files = app_.Files();

@@ -3,6 +3,7 @@
 #include "common/text/Text.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace korvane {
 
@@ -38,6 +39,8 @@ public:
 private:
     /// Whether there is a current file, which is in the folder shown.
     bool HasFile();
+    /// The names of the marked files in the folder shown. A box tells when there are none.
+    std::vector<Text> MarkedFiles();
     /// Notes the current file for the windows that work on one.
     void PutAtHand();
     void ShowCopyMove(std::int16_t kind);

@@ -19,7 +19,8 @@ void ViewFileAtHand(App& app) {
 
 void ViewFile(App& app, TextView path) {
     FileOperation& atHand = app.Exchange<FileOperation>();
-    atHand.FileOpFolder = Text(app.Files().Style().FolderPart(path));
+    const PathStyle style = app.Files().Style();
+    atHand.FileOpFolder = style.DirectoryForChange(style.FolderPart(path));
     atHand.FileOpName = Text(path);
     ViewFileAtHand(app);
 }

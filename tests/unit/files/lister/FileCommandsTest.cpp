@@ -11,6 +11,8 @@
 #include "files/names/frmDupFile.h"
 #include "files/names/frmRenFile.h"
 
+#include <functional>
+
 namespace korvane {
 namespace {
 
@@ -19,8 +21,13 @@ using testing::IsEmpty;
 
 struct FakeTextFileViewer final : TextFileViewer {
     explicit FakeTextFileViewer(App& app) { app.SetPort<TextFileViewer>(this); }
-    void View(TextView path) override { viewed.emplace_back(path); }
+    void View(TextView path) override {
+        viewed.emplace_back(path);
+        onView();
+    }
     std::vector<Text> viewed;
+    /// What the user does meanwhile.
+    std::function<void()> onView = [] {};
 };
 
 class FileCommandsTest : public ListerFixture {
@@ -56,6 +63,37 @@ TEST_P(FileCommandsTest, SpaceViewsWithAnyModifier) {
         EXPECT_EQ(f.ListView1.Current(), 1);
     });
     EXPECT_EQ(texts.viewed.size(), 4U);
+}
+
+TEST_P(FileCommandsTest, TheTreeHasTheKeysOfTheListForFiles) {
+    const auto awaitCaption = [this](TextView caption) {
+        t.user.On<frmCopyMove>([caption](frmCopyMove& copy) {
+            EXPECT_EQ(copy.Caption.Get(), caption);
+            copy.Close();
+        });
+    };
+    Open([&](frmGetFileFromTree& f) {
+        EXPECT_TRUE(Press(f.TreeView1, 'A', Mask::Ctrl));
+        EXPECT_THAT(Marked(f), ElementsAre("a.txt", "b.tbx"));
+        awaitCaption(u" Target for: 2 file(s) [ Copy ] ");
+        EXPECT_TRUE(Press(f.TreeView1, 'C', Mask::Ctrl));
+        awaitCaption(u" Target for: a.txt [ Move ] ");
+        EXPECT_TRUE(Press(f.TreeView1, 'X', Mask::Ctrl));
+        EXPECT_TRUE(Press(f.TreeView1, Key::Space, Mask::Shift));
+    });
+    EXPECT_THAT(texts.viewed, ElementsAre(At(u"Data/a.txt")));
+}
+
+TEST_P(FileCommandsTest, AViewLeavesTheDirectoryTheRowAndTheKeyboardAsTheyWere) {
+    texts.onView = [this] { t.files.ChangeDir(At(u"Data/sub")); };
+    Open([this](frmGetFileFromTree& f) {
+        Pick(f, u"b.tbx");
+        f.cmdViewFile.Press();
+        EXPECT_EQ(t.files.CurrentDir(), At(u"Data"));
+        EXPECT_EQ(f.ListView1.Current(), 2);
+        EXPECT_EQ(f.Focused(), &f.ListView1);
+    });
+    EXPECT_EQ(texts.viewed.size(), 1U);
 }
 
 /// The parts of the lister on which the commands work.
@@ -161,6 +199,56 @@ TEST_P(FileCommandsTest, InAnEmptyListNothingHappens) {
             button->Press();
     });
     EXPECT_THAT(t.user.Messages(), IsEmpty());
+}
+
+TEST_P(FileCommandsTest, InAnEmptyListNothingIsMarked) {
+    request.FileDialogFilter = u"*.none";
+    for (int command = 0; command < 3; ++command)
+        Await({u"No items checked.", MessageIcon::Information}, Answer::Ok);
+    Open([](frmGetFileFromTree& f) {
+        f.cmdDelete.Press();
+        f.cmdCopyFile.Press();
+        EXPECT_TRUE(Press(f.ListView1, 'X', Mask::Ctrl));
+    });
+    EXPECT_EQ(t.user.Messages().size(), 3U);
+}
+
+TEST_P(FileCommandsTest, InARootNoPathGetsASecondSeparator) {
+    t.files.AddFile(At(u"top.tbx"), "t");
+    t.files.AddFile(At(u"Data/programs.lst"));
+    app.Settings.OpenWithListFile = At(u"Data/programs.lst");
+    Open([this](frmGetFileFromTree& f) {
+        f.TreeView1.Select(At(u""));
+        Pick(f, u"top.tbx");
+        f.cmdViewFile.Press();
+        EXPECT_EQ(app.Exchange<FileOperation>().FileOpFolder, At(u""));
+        t.user.On<frmOpenFileWith>([this](frmOpenFileWith& with) {
+            EXPECT_EQ(app.Exchange<OpenWithRequest>().ViewWithFile, At(u"top.tbx"));
+            with.cmdExit.Press();
+        });
+        f.cmdViewWith.Press();
+        t.user.On<frmTxtInfo>([this](frmTxtInfo& info) {
+            EXPECT_EQ(info.lblFilePath.Caption.Get(), At(u""));
+            info.cmdClose.Press();
+        });
+        f.cmdFileInfo.Press();
+        t.user.On<frmDupFile>([](frmDupFile& duplicate) {
+            duplicate.Text2.Text = u"twin.tbx";
+            duplicate.cmdAccept.Press();
+        });
+        f.cmdDuplicate.Press();
+        EXPECT_THAT(f.ListView1.FilesToDrag(), ElementsAre(At(u"top.tbx")));
+        t.user.On<frmCopyMove>([this](frmCopyMove& copy) {
+            EXPECT_EQ(app.Exchange<CopyMoveRequest>().CopySourceFolder, At(u""));
+            copy.Close();
+        });
+        f.cmdCopyFile.Press();
+        t.user.Answer(Answer::Yes);
+        f.cmdDelete.Press();
+    });
+    EXPECT_THAT(texts.viewed, ElementsAre(At(u"top.tbx")));
+    EXPECT_EQ(t.files.Contents(At(u"twin.tbx")), "t");
+    EXPECT_EQ(t.shell.Recycled().front().path, At(u"top.tbx"));
 }
 
 TEST_P(FileCommandsTest, TheFactsOfAFileAreShown) {
@@ -312,6 +400,18 @@ TEST_P(FileCommandsTest, AFileThatHasGoneIsPassedOver) {
         ASSERT_EQ(t.shell.Recycled().size(), 1U);
         EXPECT_EQ(t.shell.Recycled().front().path, At(u"Data/b.tbx"));
     });
+}
+
+TEST_P(FileCommandsTest, FilesThatTheRecycleStoreRefusesStayWithoutAWord) {
+    t.shell.SetRecycler([](TextView) { return false; });
+    AwaitDelete(u"Delete   >   2   <   files ?", Answer::Yes);
+    Open([this](frmGetFileFromTree& f) {
+        Mark(f, u"a.txt", u"b.tbx");
+        f.cmdDelete.Press();
+        EXPECT_EQ(t.shell.Recycled().size(), 2U);
+        EXPECT_THAT(Names(f), ElementsAre("a.txt", "b.tbx"));
+    });
+    EXPECT_EQ(t.user.Messages().size(), 1U);
 }
 
 TEST_P(FileCommandsTest, ALinkThatLeadsNowhereCanBeDeleted) {

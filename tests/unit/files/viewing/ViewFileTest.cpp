@@ -24,6 +24,14 @@ TEST_F(ViewFileTest, PutsTheFileAtHand) {
     EXPECT_EQ(t.app.Exchange<FileOperation>().FileOpName, u"C:\\Data\\a.tbx");
 }
 
+TEST_F(ViewFileTest, TheFolderOfAFileInARootIsTheRoot) {
+    ViewFile(t.app, u"C:\\a.tbx");
+    EXPECT_EQ(t.app.Exchange<FileOperation>().FileOpFolder, u"C:\\");
+    TestApp posix(PathStyle::Posix);
+    ViewFile(posix.app, u"/a.tbx");
+    EXPECT_EQ(posix.app.Exchange<FileOperation>().FileOpFolder, u"/");
+}
+
 TEST_F(ViewFileTest, AFileOfNoTypeIsShownAsAText) {
     ViewFile(t.app, u"C:\\Data\\a.tbx");
     EXPECT_THAT(texts.viewed, ElementsAre(u"C:\\Data\\a.tbx"));
