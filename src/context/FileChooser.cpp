@@ -12,7 +12,7 @@ namespace korvane {
 namespace {
 
 /// What the chooser leaves at its end. The filter is a line of the settings file as well, and the
-/// reader of that line turns any filter into "0".
+/// reader of that line turns any filter into "0". Kept for compatibility: chooser-filter-becomes-zero.
 class LeaveAtRest {
 public:
     explicit LeaveAtRest(App& app) : app_(app) {}

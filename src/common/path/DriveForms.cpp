@@ -88,6 +88,7 @@ Text Check3264Dirs(TextView path, TextView programFilesDir) {
     constexpr TextView kFull = u"C:\\Program Files\\";
     constexpr TextView kX86 = u"C:\\Program Files (x86)\\";
     if (InStr(path, kFull) > 0) return Text(kX86).append(Mid(path, kFull.size() + 1));
+    // The path isn't tested for that folder. Kept for compatibility: program-folder-of-system.
     if (InStr(programFilesDir, kX86) > 0) return Text(kFull).append(Mid(path, kX86.size() + 1));
     return Text(path);
 }

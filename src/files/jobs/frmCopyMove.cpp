@@ -180,6 +180,7 @@ void frmCopyMove::Proceed() {
     {
         const Hourglass hourglass(app_.Screen());
         Run();
+        // Kept for compatibility: copy-cancel-asks-nothing.
         if (run_.CancelPressed == 0) ReportEnd();
     }
     Close();

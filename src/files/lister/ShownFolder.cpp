@@ -71,6 +71,7 @@ void ShownFolder::ListAgain() {
 }
 
 void ShownFolder::SortBy(int column) {
+    // Kept for compatibility: lone-row-keeps-order.
     if (parts_.rows.Count() < 2) return;
     ListSort& sort = app_.Exchange<ListSort>();
     sort.ListSortColumn = static_cast<std::int16_t>(column - 1);

@@ -28,7 +28,8 @@ constexpr StoredPlace kPlace{&Settings::FavLeft, &Settings::FavTop, &Settings::F
 
 constexpr int kPercentOfMainWindow = 90;
 
-/// What a separator that the user drew begins with.
+/// What a separator that the user drew begins with. It goes without a question. Kept for compatibility:
+/// drawn-separator-unasked.
 constexpr char16_t kDash = u'\u2014';
 
 bool IsComment(const Text& line) {

@@ -25,6 +25,7 @@ TEST(FileChooser, HandsOverTheRequestAndClearsAnEarlierChoice) {
     EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"");
 }
 
+// Kept for compatibility: chooser-filter-becomes-zero.
 TEST(FileChooser, LeavesLoadModeAndAFilterOfZeroAlsoInTheSettings) {
     TestApp t;
     t.user.ChooseFile(u"C:\\b.tbx");

@@ -209,6 +209,7 @@ TEST(Check3264Dirs, MovesAPathToTheOtherFolderOfPrograms) {
               u"C:\\Program Files\\A\\a.exe");
 }
 
+// Kept for compatibility: program-folder-of-system.
 TEST(Check3264Dirs, AsksForTheSystemsFolderAndNotForThePathsOnPurpose) {
     EXPECT_EQ(Check3264Dirs(u"C:\\Program Files (x86)\\A\\a.exe", u"C:\\Program Files\\"),
               u"C:\\Program Files (x86)\\A\\a.exe");

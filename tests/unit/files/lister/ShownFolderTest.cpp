@@ -137,6 +137,7 @@ TEST_P(ShownFolderTest, TheMarksSurviveASort) {
     });
 }
 
+// Kept for compatibility: lone-row-keeps-order.
 TEST_P(ShownFolderTest, ALoneRowIsNotSorted) {
     request.FileDialogFilter = u"*.tbx";
     Open([this](frmGetFileFromTree& f) {

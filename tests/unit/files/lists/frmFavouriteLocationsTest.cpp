@@ -193,6 +193,16 @@ TEST_F(FavouriteLocationsTest, AFolderThatIsNowhereIsReportedAndTheWindowStays) 
     EXPECT_EQ(t.app.Exchange<ListerRequest>().ChosenFilePath, u"");
 }
 
+TEST_F(FavouriteLocationsTest, AFolderInNeitherFormIsToldInTheFormTriedLast) {
+    t.user.On<frmFavouriteLocations>([](frmFavouriteLocations& f) {
+        f.cmdGotoFolder.Press();
+        f.cmdExit.Press();
+    });
+    t.user.Answer({u"Cannot locate this directory:\r\n\r\nC:\\Drive_G\\Work", MessageIcon::Stop}, Answer::Ok);
+    t.files.AddFile(kList, "G:\\Work\r\n");
+    frmFavouriteLocations(t.app, owner, u"C:\\Data").ShowModal();
+}
+
 TEST_F(FavouriteLocationsTest, BlankEntriesLeadNowhere) {
     InWindow("\r\n   \r\n", [](frmFavouriteLocations& f) {
         f.cmdGotoFolder.Press();
@@ -246,6 +256,7 @@ TEST_F(FavouriteLocationsTest, RemovesAFolderAfterAQuestion) {
     frmFavouriteLocations(t.app, owner, u"C:\\Data").ShowModal();
 }
 
+// Kept for compatibility: drawn-separator-unasked.
 TEST_F(FavouriteLocationsTest, ADrawnSeparatorGoesWithoutAQuestion) {
     InWindow("C:\\a\r\n\x97\x97\r\n", [](frmFavouriteLocations& f) {
         f.List1.Select(1);
