@@ -103,5 +103,23 @@ TEST_F(PlainCellsTest, AreAtTheSameHeightAsTheOthers) {
     EXPECT_EQ(plain, Inked(Row(2)));
 }
 
+TEST_F(PlainCellsTest, FollowTheFontOfTheList) {
+    form.ListView1.Add({.texts = {u"another row that has the keyboard", u""}});
+    form.ListView1.Add({.texts = {u"Hxy", u""}});
+    form.ListView1.SetCurrent(1);
+    const auto height = [this] {
+        test::Settle();
+        const auto [first, last] = Inked(Row(1));
+        return last - first;
+    };
+    const int before = height();
+    auto& view = Widget<QAbstractItemView>("ListView1");
+    QFont larger = view.font();
+    larger.setPointSize(larger.pointSize() * 2);
+    view.setFont(larger);
+    EXPECT_GT(height(), before * 3 / 2);
+    EXPECT_GT(view.visualRect(view.model()->index(1, 0)).height(), before * 2);
+}
+
 } // namespace
 } // namespace korvane

@@ -223,6 +223,20 @@ TEST_P(FolderCommandsTest, AFolderOfTheDayThatHasGoneIsNotFollowed) {
     });
 }
 
+TEST_P(FolderCommandsTest, WithoutFoldersOfTheDayTheFolderStays) {
+    request.CurrentFolderHint = At(u"Data/sub");
+    Open([this](frmGetFileFromTree& f) {
+        t.user.On<frmFoldersToday>([](frmFoldersToday& today) {
+            today.Activate();
+            EXPECT_EQ(today.lstFoldersToday.ListCount(), 0);
+            today.cmdGoto.Press();
+        });
+        Press(f.ListView1, 'Y', Mask::Alt);
+        EXPECT_EQ(f.txtFullPath.Text.Get(), At(u"Data"));
+    });
+    EXPECT_THAT(t.user.Messages(), IsEmpty());
+}
+
 TEST_P(FolderCommandsTest, TheFoldersOfTheDayLeadToTheFavourites) {
     favourites.pick = At(u"Data/sub");
     Open([this](frmGetFileFromTree& f) {

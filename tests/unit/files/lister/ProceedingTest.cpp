@@ -217,6 +217,36 @@ TEST_P(ProceedingTest, ASaveDoesNotCollectMarkedFiles) {
     EXPECT_THAT(t.shell.Starts(), IsEmpty());
 }
 
+TEST_P(ProceedingTest, AShortcutIsOpenedInASaveToo) {
+    OpenToSave([](frmGetFileFromTree& f) {
+        Type(f, u"go.lnk");
+        f.cmdOk.Press();
+        EXPECT_TRUE(f.Shown());
+    });
+    ASSERT_EQ(t.shell.Opened().size(), 1U);
+    EXPECT_EQ(t.shell.Opened().front().parameters, At(u"Data/go.lnk"));
+    EXPECT_EQ(request.ChosenFilePath, u"");
+}
+
+TEST_P(ProceedingTest, InARootNoResultHasASecondSeparator) {
+    app.Settings.TreeFormLastPath = At(u"");
+    const auto proceed = [this](std::int16_t mode) {
+        request.ListerMode = mode;
+        Open([](frmGetFileFromTree& f) {
+            Type(f, u"new.txt");
+            f.cmdOk.Press();
+        });
+    };
+    for (const std::int16_t mode : {std::int16_t{0}, std::int16_t{1}}) {
+        proceed(mode);
+        EXPECT_EQ(request.ChosenFilePath, At(u"new.txt"));
+    }
+    proceed(2);
+    EXPECT_EQ(app.Exchange<FileOperation>().FileOpName, At(u"new.txt"));
+    proceed(77);
+    EXPECT_EQ(request.ChosenFilePath, At(u""));
+}
+
 // The modes that nobody sets. Kept for compatibility: lister-sleeping-modes.
 
 TEST_P(ProceedingTest, AFolderCanBePicked) {

@@ -273,6 +273,10 @@ TEST_P(frmGetFileFromTreeTest, DocksBesideTheMainWindow) {
         EXPECT_EQ(f.Width.Get(), Twips{9000});
         EXPECT_TRUE(Press(f.txtFileName, 'R', Mask::Ctrl | Mask::Shift));
         EXPECT_EQ(f.Left.Get(), Twips{19000});
+        EXPECT_EQ(f.Width.Get(), Twips{9000});
+        EXPECT_TRUE(Press(f.ListView1, 'R', Mask::Ctrl | Mask::Alt));
+        EXPECT_EQ(f.Width.Get(), Twips{9800});
+        f.Width = Twips{9000};
         f.OfficeMenu1.Choose("mnuMisc_Right");
         EXPECT_EQ(f.Width.Get(), Twips{9800});
         f.OfficeMenu1.Choose("mnuMisc_Left");
@@ -407,6 +411,27 @@ TEST_P(frmGetFileFromTreeTest, ProgramsAreStarted) {
         EXPECT_THAT(next(), testing::HasSubstr("Ostrel"));
         f.OfficeMenu1.Choose("mnuFile_FindFiles");
         EXPECT_THAT(next(), testing::HasSubstr("Veldan"));
+    });
+}
+
+TEST_P(frmGetFileFromTreeTest, TreeAndLineOfTheNameHaveMostKeysOfTheList) {
+    app.Settings.CustomBrowserPath = At(u"browser.exe");
+    t.files.AddFile(At(u"browser.exe"));
+    Open([this](frmGetFileFromTree& f) {
+        for (Control* control : std::initializer_list<Control*>{&f.ListView1, &f.TreeView1, &f.txtFileName}) {
+            t.user.Answer({u"Only available when saving files.", MessageIcon::Information}, Answer::Ok);
+            EXPECT_TRUE(Press(*control, Key::F(1)));
+            EXPECT_TRUE(Press(*control, 'B', Mask::Alt));
+            EXPECT_EQ(t.shell.Starts().back(), (ProgramStart{At(u"browser.exe"), {}}));
+            EXPECT_TRUE(Press(*control, Key::F(1), Mask::Ctrl | Mask::Shift));
+            EXPECT_THAT(t.shell.Starts().back().arguments, ElementsAre(At(u"Data")));
+            EXPECT_TRUE(Press(*control, Key::F(9), Mask::Ctrl | Mask::Shift));
+            EXPECT_EQ(t.shell.Calls().back(), (ShellCall{ShellCall::Kind::Explore, At(u"Data")}));
+            EXPECT_TRUE(Press(*control, 'D', Mask::Ctrl | Mask::Alt));
+            EXPECT_EQ(t.shell.Calls().back(), (ShellCall{ShellCall::Kind::ToggleDesktop, {}}));
+            EXPECT_TRUE(Press(*control, Key::F(11), Mask::Alt));
+            EXPECT_EQ(main.commands.size(), t.user.Messages().size());
+        }
     });
 }
 

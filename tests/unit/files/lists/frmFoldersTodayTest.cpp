@@ -449,6 +449,31 @@ TEST_F(FoldersTodayTest, TheFocusChangesBetweenListAndSideBar) {
     });
 }
 
+/// Notes how often a grid was to get the keyboard.
+struct FocusNote final : GridListener {
+    void RowsChanged(Row, Row) override {}
+    void TableChanged() override {}
+    void ColumnChanged(Col) override {}
+    void LookChanged() override {}
+    void CurrentCellChanged() override {}
+    void FocusWanted() override { ++wanted; }
+    void RowWantedInView(Row) override {}
+
+    int wanted = 0;
+};
+
+TEST_F(FoldersTodayTest, TheListGivesTheKeyboardToTheSideBar) {
+    InWindow([](frmFoldersToday& f) {
+        FocusNote note;
+        f.iGridListBar.Store().SetListener(&note);
+        Press(f.lstFoldersToday, 'X', Mask::Alt);
+        EXPECT_EQ(note.wanted, 1);
+        Press(f.lstFoldersToday, 'S', Mask::Ctrl | Mask::Alt);
+        EXPECT_EQ(note.wanted, 2);
+        f.iGridListBar.Store().SetListener(nullptr);
+    });
+}
+
 TEST_F(FoldersTodayTest, OtherKeysOfTheSideBarPass) {
     InWindow([](frmFoldersToday& f) { EXPECT_FALSE(Press(f.iGridListBar, Key::Down)); });
 }

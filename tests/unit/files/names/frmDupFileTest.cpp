@@ -153,6 +153,20 @@ TEST_F(DupFileTest, ReturnAcceptsAndEscGivesUp) {
     EXPECT_EQ(app.DialogResult, 1);
 }
 
+TEST_F(DupFileTest, KeepsTheCommonWidth) {
+    app.Settings.DialogWidth = 6840;
+    Show([](frmDupFile& f) {
+        EXPECT_EQ(f.Width.Get(), Twips{0});
+        f.Width = Twips{6841};
+        f.cmdCancel.Press();
+    });
+    EXPECT_EQ(app.Settings.DialogWidth, 6841);
+    Show([](frmDupFile& f) {
+        EXPECT_EQ(f.Width.Get(), Twips{6841});
+        f.cmdCancel.Press();
+    });
+}
+
 struct PosixDupFileTest : NameWindowTest<frmDupFile, PosixNamesFixture> {};
 
 TEST_F(PosixDupFileTest, WhereCaseCountsANameMayDifferByItAlone) {

@@ -286,6 +286,19 @@ TEST_F(PosixFolderTreeTest, HasOneRootAsItStands) {
     EXPECT_EQ(folders.Folder(), u"/");
 }
 
+// Kept for compatibility: tree-of-21-levels.
+TEST_F(PosixFolderTreeTest, TwentyOneLevelsAreTheMostWithTheRootAsOne) {
+    Text path;
+    for (int level = 2; level <= 21; ++level)
+        path += u"/d";
+    t.files.AddDir(path + u"/d");
+    folders.Fill();
+    EXPECT_TRUE(folders.SetTreePath(path));
+    EXPECT_EQ(folders.Folder(), path);
+    EXPECT_FALSE(folders.SetTreePath(path + u"/d"));
+    EXPECT_EQ(folders.Folder(), path);
+}
+
 TEST_F(PosixFolderTreeTest, WhereCaseCountsTwoFoldersMayDifferByIt) {
     t.files.AddDir(u"/a");
     t.files.AddDir(u"/A");

@@ -150,6 +150,12 @@ TEST_P(FileRowsTest, TheBarStandsStillAtEveryThirtySecondFile) {
     EXPECT_THAT(std::vector<int>(values.begin() + 64, values.begin() + 67), ElementsAre(63, 63, 65));
 }
 
+TEST_P(FileRowsTest, AfterTheLastFileTheBarIsAtItsEndAlsoWhereItStoodStill) {
+    constexpr int kLastStandsStill = 1025;
+    AddFiles(kLastStandsStill);
+    Open([](frmGetFileFromTree& f) { EXPECT_EQ(f.ProgressBar1.Value.Get(), kLastStandsStill - 1); });
+}
+
 TEST_P(FileRowsTest, AStopKeepsWhatIsReadAndTellsHowMuch) {
     AddFiles(1500);
     constexpr int kButton = 0;
