@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/QtShell.h"
 
+#include "platform/native/NativePath.h"
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,14 @@ TEST(QtShell, TakesANameForAFileEvenIfItReadsLikeAnAddressOrAnOption) {
     shell.Open({.file = u"/d/a%20b#c?d"});
     const QString here = QDir::currentPath();
     EXPECT_EQ(desktop.urls, Files({here + "/trash:///x", here + "/--exec=evil", "/d/a%20b#c?d"}));
+}
+
+TEST(QtShell, OpensAFileWhoseNameIsNoText) {
+    UrlCatcher desktop;
+    QtShell shell;
+    shell.Open({.file = FromNativePath("/data/not \xFF text.mp3")});
+    ASSERT_EQ(desktop.urls.size(), 1u);
+    EXPECT_EQ(desktop.urls.front().toEncoded(), "file:///data/not%20%FF%20text.mp3");
 }
 
 TEST(QtShell, OpensTheHomeFolderAndTheTrashForTheFileManager) {

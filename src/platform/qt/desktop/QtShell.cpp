@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QProcess>
 #include <QUrl>
+#include <filesystem>
+#include <system_error>
 
 namespace korvane {
 
@@ -20,9 +22,14 @@ QString ToQString(TextView text) {
     return QStringView(text).toString();
 }
 
-/// The URL of a path. The path is never taken for a web address, even if it looks like one.
+/// The URL of a path. The path is never taken for a web address, even if it looks like one. It is written by
+/// its bytes, because a name needn't be a text.
 QUrl FileUrl(TextView path) {
-    return QUrl::fromLocalFile(QDir::current().absoluteFilePath(ToQString(path)));
+    std::error_code error;
+    const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), error);
+    if (error) return {};
+    const QByteArray bytes = QByteArray::fromStdString(full.native());
+    return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/:@!$&'()*+,;="));
 }
 
 QUrl UrlOf(const DesktopTarget& target) {
