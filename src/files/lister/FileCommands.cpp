@@ -62,12 +62,12 @@ std::vector<Text> FileCommands::MarkedFiles() {
     return marked;
 }
 
-void FileCommands::PutAtHand() {
+bool FileCommands::PutAtHand() {
+    if (!HasFile() || !folder_.Enter()) return false;
     FileOperation& file = app_.Exchange<FileOperation>();
     file.FileOpFolder = folder_.Path();
     file.FileOpName = rows_.CurrentName();
-    // The windows for new names work in the current directory.
-    app_.Files().ChangeDir(folder_.Path());
+    return true;
 }
 
 // The current file.
@@ -99,8 +99,7 @@ void FileCommands::ShowInfo() {
 }
 
 void FileCommands::Rename() {
-    if (!HasFile()) return;
-    PutAtHand();
+    if (!PutAtHand()) return;
     frmRenFile window(app_);
     if (ShowForResult(app_, window) != 1) return;
     folder_.ListAgain();
@@ -108,8 +107,7 @@ void FileCommands::Rename() {
 }
 
 void FileCommands::Duplicate() {
-    if (!HasFile()) return;
-    PutAtHand();
+    if (!PutAtHand()) return;
     frmDupFile window(app_);
     if (ShowForResult(app_, window) == 1) ListAgainAtRow();
 }
@@ -127,9 +125,8 @@ void FileCommands::Move() {
 void FileCommands::ShowCopyMove(std::int16_t kind) {
     CopyMoveRequest& request = app_.Exchange<CopyMoveRequest>();
     request.lstMarkedFiles = MarkedFiles();
-    if (request.lstMarkedFiles.empty()) return;
+    if (request.lstMarkedFiles.empty() || !folder_.Enter()) return;
     request.CopyMoveKind = kind;
-    app_.Files().ChangeDir(folder_.Path());
     request.CopySourceFolder = app_.Files().CurrentDir();
     {
         // Whoever opened the lister reads the count as that of the files to load.

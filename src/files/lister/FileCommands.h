@@ -41,8 +41,8 @@ private:
     bool HasFile();
     /// The names of the marked files in the folder shown. A box tells when there are none.
     std::vector<Text> MarkedFiles();
-    /// Notes the current file for the windows that work on one.
-    void PutAtHand();
+    /// Notes the current file for the windows that work on one; false when there is none.
+    bool PutAtHand();
     void ShowCopyMove(std::int16_t kind);
     bool MayDelete();
     void ListAgainAtRow();

@@ -43,7 +43,7 @@ FolderCommands::FolderCommands(App& app, ShownFolder& folder, FolderTree& tree)
     : app_(app), folder_(folder), tree_(tree) {}
 
 void FolderCommands::NewFolder() {
-    app_.Files().ChangeDir(folder_.Path());
+    if (!folder_.Enter()) return;
     frmNewDir window(app_);
     if (ShowForResult(app_, window) == 1) folder_.GoTo(app_.Exchange<FileOperation>().NewFolderResult);
 }

@@ -5,6 +5,7 @@
 #include "context/exchange/ListSort.h"
 #include "context/exchange/ListerRequest.h"
 #include "controls/DropDown.h"
+#include "dialogs/Questions.h"
 #include "files/lister/rows/DiskWait.h"
 #include "files/lister/rows/FileRows.h"
 #include "files/tree/FolderTree.h"
@@ -25,6 +26,12 @@ Text ShownFolder::PathOf(TextView name) const {
 
 bool ShownFolder::IsListed() const {
     return !LastListedPath_.empty() && LastListedPath_ == Path();
+}
+
+bool ShownFolder::Enter() const {
+    if (app_.Files().ChangeDir(Path())) return true;
+    TellError(app_, u"Cannot locate this directory:\r\n\r\n" + Path());
+    return false;
 }
 
 void ShownFolder::TakePath(const Text& folder) {

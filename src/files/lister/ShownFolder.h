@@ -34,6 +34,10 @@ public:
     /// alone.
     bool IsListed() const;
 
+    /// Makes the folder the current directory, in which the windows for files work. False, with a box, when
+    /// it has gone: they would take files of the same names in another folder.
+    bool Enter() const;
+
     /// Takes the folder into the line alone.
     void TakePath(const Text& folder);
     /// Goes to a folder with the tree, and lists its files again.

@@ -66,14 +66,14 @@ void frmRenFile::Accept() {
     App& app = TheApp();
     FileSystem& files = app.Files();
     const KeepCurrentDir keep(app);
-    files.ChangeDir(File().FileOpFolder);
     const Text& name = Text2.Text;
-    if (!name.empty() && files.FileExists(name)) {
+    const bool there = files.ChangeDir(File().FileOpFolder);
+    if (there && !name.empty() && files.FileExists(name)) {
         app.Messages().Show({u"A file with this name already exists in the current directory!\r\n\r\n" + name,
                              MessageIcon::Exclamation});
         return;
     }
-    if (!files.Rename(File().FileOpName, name)) {
+    if (!there || !files.Rename(File().FileOpName, name)) {
         app.Messages().Show({u"File:   " + File().FileOpName + u"\r\nError:   " + files.LastErrorText() +
                                  u"\r\n\r\nIs this file open elsewhere or access-protected ?",
                              MessageIcon::Stop});

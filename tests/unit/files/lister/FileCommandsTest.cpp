@@ -284,6 +284,22 @@ TEST_P(FileCommandsTest, ARenamedFileIsTheCurrentOne) {
     });
 }
 
+TEST_P(FileCommandsTest, OfAFolderThatHasGoneNoFileIsTakenFromAnotherOne) {
+    t.files.AddFile(At(u"a.txt"), "another");
+    Open([this](frmGetFileFromTree& f) {
+        t.files.ChangeDir(At(u""));
+        t.files.Erase(At(u"Data"));
+        for (const char* command :
+             {"mnuEdit_Rename", "mnuEdit_Duplicate", "mnuEdit_Copy", "mnuEdit_Move", "mnuFolders_New"}) {
+            t.user.Answer({u"Cannot locate this directory:\r\n\r\n" + At(u"Data"), MessageIcon::Stop},
+                          Answer::Ok);
+            f.OfficeMenu1.Choose(command);
+        }
+    });
+    EXPECT_EQ(t.user.Messages().size(), 5U);
+    EXPECT_EQ(t.files.Contents(At(u"a.txt")), "another");
+}
+
 TEST_P(FileCommandsTest, AFileIsDuplicatedInItsFolder) {
     Open([this](frmGetFileFromTree& f) {
         Pick(f, u"b.tbx");

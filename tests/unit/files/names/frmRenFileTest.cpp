@@ -91,6 +91,24 @@ TEST_F(RenFileTest, AnEmptyNameFailsInTheRename) {
     EXPECT_EQ(t.files.Contents(u"C:\\Data\\Old.txt"), "bytes");
 }
 
+TEST_F(RenFileTest, AFolderThatHasGoneIsToldAndNoFileOfAnotherOneIsRenamed) {
+    t.files.AddFile(u"C:\\Old.txt", "another");
+    Show([this](frmRenFile& f) {
+        t.files.ChangeDir(u"C:\\");
+        t.files.Erase(u"C:\\Data");
+        t.user.Answer(
+            {u"File:   Old.txt\r\nError:   No such file or directory\r\n\r\nIs this file open elsewhere "
+             u"or access-protected ?",
+             MessageIcon::Stop},
+            Answer::Ok);
+        f.Text2.Type(u"New.txt");
+        f.cmdAccept.Press();
+        EXPECT_TRUE(f.Shown());
+        f.cmdCancel.Press();
+    });
+    EXPECT_EQ(t.files.Contents(u"C:\\Old.txt"), "another");
+}
+
 TEST_F(RenFileTest, AFolderOfThatNameIsNotReplaced) {
     t.files.AddDir(u"C:\\Data\\Folder");
     Show([this](frmRenFile& f) {
