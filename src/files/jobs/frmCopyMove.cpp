@@ -240,7 +240,10 @@ void frmCopyMove::ShowFolder(const Text& folder) {
 
 void frmCopyMove::NewFolder() {
     const Text folder = txtFullPath.Text;
-    app_.Files().ChangeDir(folder);
+    // The window makes the folder in the current directory.
+    if (!app_.Files().ChangeDir(folder)) {
+        return TellError(app_, u"Cannot locate this directory:\r\n\r\n" + folder);
+    }
     app_.DialogResult = 0;
     frmNewDir(app_).ShowModal();
     ShowFolder(app_.DialogResult == 1 ? app_.Exchange<FileOperation>().NewFolderResult : folder);

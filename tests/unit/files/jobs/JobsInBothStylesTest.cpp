@@ -214,6 +214,16 @@ TEST_P(JobsTest, CancelByMouseEndsAfterTheCurrentFileWithoutTheQuestion) {
     EXPECT_EQ(Contents(u"To/b"), "(none)");
 }
 
+TEST_P(JobsTest, InATargetThatHasGoneNoFolderIsMade) {
+    Show({u"a"}, [this](frmCopyMove& f) {
+        t.files.Erase(At(u"To"));
+        t.user.Answer({u"Cannot locate this directory:\r\n\r\n" + At(u"To"), MessageIcon::Stop}, Answer::Ok);
+        f.cmdNewDir.Press();
+        f.Close();
+    });
+    EXPECT_EQ(t.user.Messages().size(), 1U);
+}
+
 TEST_P(JobsTest, ATargetCanBeRenamedToAFreeNameInItsFolder) {
     for (const TextView name : {u"a", u"there", u"To/a"})
         t.files.AddFile(At(name), "old");
