@@ -10,8 +10,6 @@ namespace korvane {
 
 namespace {
 
-/// What the reason of a failed save contains when the file couldn't be written.
-constexpr TextView kNotWritten = u"1d09";
 constexpr TextView kNotMade = u"1d0a";
 constexpr TextView kNotLoaded = u"1d08";
 
@@ -129,6 +127,7 @@ bool TextControl::Load(TextView path, int format) {
     if (Files == nullptr) return Fail(kNotLoaded);
     auto read = Files->Load(path, format);
     if (!read) return Fail(kNotLoaded);
+    cutAtLoad_ = read->trouble == doc::Trouble::OverLimit;
     Take(std::move(*read));
     return true;
 }

@@ -75,6 +75,8 @@ public:
     std::function<void()> Change;
     /// The selection became another one, by the user or the program.
     std::function<void()> SelChange;
+    /// What the reason contains when a file couldn't be written.
+    static constexpr TextView kNotWritten = u"1d09";
     /// A step failed, with the reason.
     std::function<void(const Text&)> Error;
     std::function<void(int field)> FieldEntered;
@@ -102,6 +104,9 @@ public:
     TextFiles* Files = nullptr;
     /// Takes the place of the text. Nothing changes when the file can't be read.
     bool Load(TextView path, int format);
+    /// Whether the last file that was loaded has more than a text can hold, so that its end isn't in the
+    /// text.
+    bool CutAtLoad() const { return cutAtLoad_; }
     bool Save(TextView path, int format);
     bool LoadFromMemory(std::string_view bytes, int format);
     /// The same for a text that only has more in it than the present one, such as pictures that came later.
@@ -144,6 +149,7 @@ private:
     bool Fail(TextView reason);
 
     std::map<int, std::variant<int, Text>> attributes_;
+    bool cutAtLoad_ = false;
     bool spaceTyped_ = false;
     bool movedByUser_ = false;
     int hovered_ = 0;

@@ -302,6 +302,7 @@ void frm_RTF_HTM::ViewUnsaved(const UnsavedText& text) {
     if (!ThisTextCtrl.Load(text.file, TextFormat::Rtf)) return;
     TakePage();
     ThisFileName = text.name;
+    NoteCut();
     Caption = ThisFileName;
     const bool hasFile = Context().Files().Style().IsFullPath(text.name);
     Context().Exchange<TextWindowState>().TextWindowUntitled = hasFile ? 0 : 1;
@@ -339,9 +340,7 @@ void frm_RTF_HTM::LoadThisFile() {
         if (!files.Style().IsFullPath(ThisFileName))
             ThisFileName = files.Style().JoinPath(files.CurrentDir(), ThisFileName);
         if (files.FileExists(ThisFileName)) {
-            const int format = FileTypeForLoad(ThisFileName);
-            SetLoadSaveAttributes(ThisTextCtrl, format);
-            if (!ThisTextCtrl.Load(ThisFileName, format)) TellNeeded(format, FileUse::Reading);
+            LoadFile();
         } else {
             Text missing = ThisFileName;
             ShowCannotLocate(Context(), missing);
@@ -349,6 +348,26 @@ void frm_RTF_HTM::LoadThisFile() {
         TakePage();
     }
     Caption = ThisFileName;
+}
+
+void frm_RTF_HTM::LoadFile() {
+    const int format = FileTypeForLoad(ThisFileName);
+    SetLoadSaveAttributes(ThisTextCtrl, format);
+    if (!ThisTextCtrl.Load(ThisFileName, format)) return TellNeeded(format, FileUse::Reading);
+    NoteCut();
+    if (IsCut()) Warn(Context(), u"The file is larger than a text can be. Only its beginning is shown.");
+}
+
+/// After a load.
+void frm_RTF_HTM::NoteCut() {
+    cutFile_ = ThisTextCtrl.CutAtLoad() ? ThisFileName : Text();
+}
+
+/// Nothing takes the place of a file whose end isn't in the text.
+bool frm_RTF_HTM::SaveFile() {
+    if (!IsCut()) return SaveByName(ThisTextCtrl, ThisFileName);
+    ThisTextCtrl_Error(Text(TextControl::kNotWritten));
+    return false;
 }
 
 void frm_RTF_HTM::ShowButtons(bool visible) {
@@ -365,7 +384,7 @@ void frm_RTF_HTM::SaveThisFile() {
     {
         const Hourglass hourglass(Context().Screen());
         Context().Screen().ProcessMessages();
-        if (!SaveByName(ThisTextCtrl, ThisFileName)) {
+        if (!SaveFile()) {
             TellNeeded(FileTypeForSave(ThisFileName), FileUse::Writing);
             // What is kept is all there is of the text then.
             keptIn_.clear();
@@ -379,7 +398,7 @@ void frm_RTF_HTM::SaveThisFile() {
 }
 
 void frm_RTF_HTM::ThisTextCtrl_Error(const Text& reason) {
-    const bool saving = reason.find(u"1d09") != Text::npos;
+    const bool saving = reason.find(TextControl::kNotWritten) != Text::npos;
     Warn(Context(), saving ? u"Error saving file directly.\r\n\r\nPlease use \"Save as\" function."
                            : u"Error executing command just now.\r\n\r\nTry again in a moment.");
 }
@@ -396,8 +415,8 @@ MsgAnswer frm_RTF_HTM::AskSaveChanges() {
     question.MsgAnswer = MsgAnswer::Cancel;
     question.MsgFilePath = Caption;
     frmMyMsgBox(Context()).ShowModal();
-    const bool untitled = Caption.Get().find(u"Untitled") != Text::npos;
-    if (question.MsgAnswer == MsgAnswer::SaveDirectly && untitled)
+    const bool needsName = Caption.Get().find(u"Untitled") != Text::npos || IsCut();
+    if (question.MsgAnswer == MsgAnswer::SaveDirectly && needsName)
         question.MsgAnswer = MsgAnswer::SaveUnderAName;
     ThisTextCtrl.SetFocus();
     return question.MsgAnswer;
@@ -408,6 +427,7 @@ MsgAnswer frm_RTF_HTM::AskSaveChanges() {
 void frm_RTF_HTM::mnuFile_New_Click() {
     if (Altered() && AskSaveChanges() == MsgAnswer::Cancel) return;
     ThisTextCtrl.SetAll(u"");
+    cutFile_.clear();
     ThisFileName = Text(kUntitled);
     Caption = ThisFileName;
     ClearAltered();

@@ -105,6 +105,10 @@ private:
     void ShowButtons(bool visible);
     void Typed(TypedText& typed);
     void TakePage();
+    void LoadFile();
+    void NoteCut();
+    bool IsCut() const { return !cutFile_.empty() && ThisFileName == cutFile_; }
+    bool SaveFile();
     void TellNeeded(int format, FileUse use);
 
     void mnuFile_New_Click();
@@ -136,6 +140,8 @@ private:
 
     /// Where the text is kept; empty when it isn't.
     Text keptIn_;
+    /// The file of which the text has only the beginning; empty when there is none.
+    Text cutFile_;
     OpenText openText_{ThisTextCtrl, rtfTempText};
 };
 

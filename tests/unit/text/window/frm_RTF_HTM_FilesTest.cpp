@@ -204,6 +204,54 @@ TEST_F(TextWindowFiles, ADocWithoutItsProgramIsToldInOtherWords) {
     EXPECT_FALSE(t.files.FileExists(u"C:\\a.doc"));
 }
 
+class CutTextFiles : public TextWindowStage {
+protected:
+    /// Opens a file that is nested too deeply to be read to its end.
+    void OpenCut() {
+        t.files.AddFile(kPath, kWhole);
+        t.user.Answer({u"The file is larger than a text can be. Only its beginning is shown.",
+                       MessageIcon::Exclamation},
+                      Answer::Ok);
+        Open(kPath);
+    }
+
+    const Text kPath = u"C:\\deep.rtf";
+    const std::string kWhole = "{\\rtf1 part" + std::string(doc::Limits{}.depth, '{');
+};
+
+TEST_F(CutTextFiles, AFileLargerThanATextIsShownInPartAndNeverReplacedByIt) {
+    OpenCut();
+    EXPECT_EQ(Control().All(), u"part");
+    EXPECT_FALSE(window->Altered());
+    Control().SetSelText(u"a ");
+    t.user.Answer(kSaveError, Answer::Ok);
+    window->cmdSave.Press();
+    EXPECT_EQ(t.files.Contents(kPath), kWhole);
+    t.user.ChooseFile(u"C:\\part.txt");
+    window->cmdSaveAs.Press();
+    EXPECT_EQ(t.files.Contents(u"C:\\part.txt"), "a part");
+    EXPECT_EQ(t.files.Contents(kPath), kWhole);
+}
+
+TEST_F(CutTextFiles, ClosingSavesAPartUnderAnotherName) {
+    OpenCut();
+    Control().SetSelText(u"a ");
+    AnswerSaving(MsgAnswer::SaveDirectly);
+    t.user.ChooseFile(u"C:\\part.txt");
+    EXPECT_TRUE(window->Close());
+    EXPECT_EQ(t.files.Contents(u"C:\\part.txt"), "a part");
+    EXPECT_EQ(t.files.Contents(kPath), kWhole);
+}
+
+TEST_F(CutTextFiles, AnotherTextMayTakeThePlaceOfTheFile) {
+    OpenCut();
+    window->cmdNew.Press();
+    Control().SetSelText(u"other");
+    t.user.ChooseFile(kPath);
+    window->cmdSaveAs.Press();
+    EXPECT_NE(t.files.Contents(kPath)->find("other"), std::string::npos);
+}
+
 TEST_F(TextWindowFiles, ClosingAnUnalteredTextAsksNothing) {
     Open();
     EXPECT_TRUE(window->Close());
