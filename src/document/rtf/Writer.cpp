@@ -24,6 +24,10 @@ constexpr std::int32_t kMarkerColours[] = {0x000000, 0xFF0000, 0xFFFF00, 0x00FF0
                                            0x00FFFF, 0xFFFFFF, 0x800000, 0x808000, 0x008000, 0x800080,
                                            0x000080, 0x008080, 0x808080, 0xC0C0C0};
 
+/// The style that LibreOffice gives to links, without a colour and a line.
+constexpr std::string_view kStyleOfLinks =
+    "{\\stylesheet{\\s0 Normal;}{\\*\\cs10\\additive\\ulnone\\cf0 Internet Link;}}\n";
+
 constexpr TextView kSymbolFonts[] = {u"Symbol", u"Webdings", u"Wingdings", u"Wingdings 2", u"Wingdings 3"};
 
 void PutNumber(std::string& out, std::int64_t number) {
@@ -159,6 +163,7 @@ public:
         out_ = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n";
         WriteFonts(out_);
         colours_.Write(out_);
+        if (NeedsStyleOfLinks()) out_ += kStyleOfLinks;
         WriteLists(out_);
         if (extent_ == RtfExtent::File) WritePage(out_);
         PutWord(out_, "\\deftab", document_.defaultTab);
@@ -330,10 +335,26 @@ private:
         if (field_ != 0) PutLookOfNoLink(document_.chars[look]);
     }
 
+    /// Whether the style of links tells that the text has no colour, and not the text itself: text that tells
+    /// so on a dark ground becomes white when LibreOffice saves it as DOC. A fragment gets the styles of
+    /// another document.
+    bool IsToldByStyle(const CharFormat& look) const {
+        return extent_ == RtfExtent::File && look.fore == kNoColour && look.back != kNoColour;
+    }
+
+    bool NeedsStyleOfLinks() const {
+        const auto needs = [this](const Run& run) {
+            return run.field != 0 && run.image == 0 && IsToldByStyle(document_.FormatOf(run));
+        };
+        return std::ranges::any_of(document_.paragraphs, [&needs](const Paragraph& paragraph) {
+            return std::ranges::any_of(paragraph.runs, needs);
+        });
+    }
+
     /// Other programs show a link in blue and underlined unless they are told otherwise.
     void PutLookOfNoLink(const CharFormat& look) {
         if (!look.underline) out_ += "\\ulnone ";
-        if (look.fore == kNoColour) out_ += "\\cf0 ";
+        if (look.fore == kNoColour && !IsToldByStyle(look)) out_ += "\\cf0 ";
     }
 
     bool IsRaised(Index look) const { return document_.chars[look].script == Script::Raised; }

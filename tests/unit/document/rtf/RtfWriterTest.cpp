@@ -38,6 +38,23 @@ TEST(RtfWriter, ALinkWithoutALookOfItsOwnTellsSo) {
     EXPECT_FALSE(Writes(document, "\\cf0"));
 }
 
+TEST(RtfWriter, TheStyleOfLinksTellsThatALinkOnAColourHasNone) {
+    Document document = FromPlainText(u"link");
+    document.fields[1] = {FieldKind::Hyperlink, u"www.a.b", u""};
+    CharFormat look;
+    look.back = Colour{0x800000};
+    document.paragraphs[0].runs = {{4, document.chars.Add(look), 1}};
+    const std::string_view style = "{\\*\\cs10\\additive\\ulnone\\cf0 Internet Link;}";
+    EXPECT_TRUE(Writes(document, style));
+    EXPECT_TRUE(Writes(document, "\\highlight1 \\ulnone link"));
+    EXPECT_EQ(PlainText(ReadRtf(WriteRtf(document)).document), u"link");
+    // Where it is pasted, other styles count.
+    EXPECT_NE(WriteRtf(document, RtfExtent::Fragment).find("\\highlight1 \\ulnone \\cf0 link"),
+              std::string::npos);
+    document.paragraphs[0].runs = {{4, 0, 1}};
+    EXPECT_FALSE(Writes(document, style));
+}
+
 TEST(RtfWriter, AnEmptyDocumentIsAWholeFile) {
     EXPECT_EQ(WriteRtf({}),
               "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n"
