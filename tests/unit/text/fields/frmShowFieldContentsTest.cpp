@@ -1,5 +1,7 @@
 #include "text/fields/frmShowFieldContents.h"
 
+#include "support/Captions.h"
+#include "support/DesignerFile.h"
 #include "unit/text/fields/FieldStage.h"
 
 namespace korvane {
@@ -35,6 +37,18 @@ TEST_F(ShowFieldContents, ShowsTheAddressOfTheScratchControlOfTheTextWindow) {
     EXPECT_EQ(window.txtHyperLink.Text.Get(), u"other");
 }
 
+TEST_F(ShowFieldContents, HasItsCaptions) {
+    ExpectLook(window, "text/fields", {"Label", "Link"});
+    // Kept for compatibility: goto-link-caption.
+    EXPECT_EQ(
+        CaptionsOf(window),
+        (std::vector<Text>{u"Goto this internet link (or load file", u"Load file in link field",
+                           u"Convert link to Hex codes", u"Write back any changes to text",
+                           u"Get browser to load link", u"Get file to load", u"Get program to edit file with",
+                           u"Close this window", u"Use this browser when going to a weblink"}));
+    EXPECT_EQ(window.OfficeMenu1.Entries().front().caption, u"Link to &Hex");
+}
+
 // Kept for compatibility: link-hex-from-tilde.
 TEST_F(ShowFieldContents, TheAddressIsInHexFromTheTildeOn) {
     Open(u"www.a.b/~x %20}\u00E4\u20AC");
@@ -57,8 +71,6 @@ TEST_F(ShowFieldContents, OffersToLoadAFileByItsEnding) {
     Open(u"www.a.b");
     EXPECT_FALSE(window.cmdLoadFile.Visible);
     EXPECT_TRUE(window.cmdGotoLink.Visible);
-    // Kept for compatibility: goto-link-caption.
-    EXPECT_EQ(window.cmdGotoLink.Caption.Get(), u"Goto this internet link (or load file");
     window.txtHyperLink.Type(u"a.txt");
     EXPECT_TRUE(window.cmdLoadFile.Visible);
 }

@@ -4,6 +4,8 @@
 #include "context/ports/ClipboardView.h"
 #include "context/ports/ColourPairPicker.h"
 #include "context/ports/FontPicker.h"
+#include "support/Captions.h"
+#include "support/DesignerFile.h"
 #include "unit/text/fields/FieldStage.h"
 
 namespace korvane {
@@ -54,6 +56,47 @@ protected:
 
     frmViewEditField editor{t.app, document};
 };
+
+TEST_F(ViewEditField, HasItsCaptionsAndItsMenu) {
+    ExpectLook(editor, "text/fields", {"Label", "Data", "All fields"});
+    EXPECT_EQ(editor.optHyperLink.Caption.Get(), u"&Hyperlink (RTF, DOC(x), HTML files)");
+    EXPECT_EQ(editor.optTextField.Caption.Get(), u"&Text field (RTF file)");
+    std::string menu;
+    for (const MenuEntry& entry : editor.OfficeMenu1.Entries())
+        if (entry.level > 0) menu += std::string(entry.name) + " " + ToUtf8(entry.caption) + "\n";
+    EXPECT_EQ(menu, R"(mnuWriteBack &Write back changes
+mnuNewField Create &new field
+mnuSave &Save to disk
+mnuExit E&xit
+mnuAllFields &All fields
+mnuHideAllFieldsPane Hi&de fields
+mnuHelp &Help note
+mnuFont &Font for link
+mnuFontEdit Font for &edit window
+mnuHyperlinkColour &Hyperlink colours
+mnuTextlinkColour &Text field colours
+mnuUpdateColours &Update colours in text
+)");
+}
+
+TEST_F(ViewEditField, TheButtonsHaveTheirTips) {
+    const std::pair<const CommandButton&, TextView> kTips[] = {
+        {editor.cmdGetFile, u"Get file name for link entry"},
+        {editor.cmdWriteBack, u"Write back changes"},
+        {editor.cmdCreateField, u"Create new field"},
+        {editor.cmdAllFields, u"Show all fields in text"},
+        {editor.cmdHide, u"Hide all fields"},
+        {editor.cmdSave, u"Save list to disk"},
+        {editor.cmdFont, u"Font for field in text"},
+        {editor.cmdFontEdit, u"Font for edit window"},
+        {editor.cmdHyperColour, u"Colour for hyperlink"},
+        {editor.cmdTextColour, u"Colour for text field"},
+        {editor.cmdHelp, u"Help note"},
+        {editor.cmdExit, u"Close this window"},
+    };
+    for (const auto& [button, tip] : kTips)
+        EXPECT_EQ(button.ToolTipText.Get(), tip) << button.Name();
+}
 
 TEST_F(ViewEditField, ShowsANote) {
     Edit(1);

@@ -2,6 +2,8 @@
 
 #include "context/ports/OpenText.h"
 #include "controls/text/TextControl.h"
+#include "support/Captions.h"
+#include "support/DesignerFile.h"
 #include "support/TestApp.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +19,13 @@ protected:
     frmHTMLCodes window{t.app};
 };
 
+TEST_F(HtmlCodes, HasItsCaptions) {
+    ExpectLook(window, "text/markup", {});
+    EXPECT_EQ(CaptionsOf(window),
+              (std::vector<Text>{u"&Insert", u"&Cancel", u"Con&vert codes to formatting", u"&Header font",
+                                 u"Use bold for heading", u"Confirm each instance"}));
+}
+
 TEST_F(HtmlCodes, ListsTheTagsWithTheLastOneCurrent) {
     t.app.Settings.HtmlOptionA = 3;
     window.EnsureLoaded();
@@ -30,7 +39,6 @@ TEST_F(HtmlCodes, ListsTheTagsWithTheLastOneCurrent) {
                                        u"  Heading 3  <H3>, </H3>", u"  Heading 4  <H4>, </H4>"}));
     EXPECT_EQ(window.lstClient.ListIndex(), 3);
     EXPECT_EQ(window.Focused(), &window.lstClient);
-    EXPECT_EQ(window.cmdConvert.Caption.Get(), u"Con&vert codes to formatting");
 }
 
 TEST_F(HtmlCodes, InsertKeepsTheRowAndTheDoubleClickIsTheSame) {

@@ -4,6 +4,7 @@
 #include "context/exchange/TextWindowState.h"
 #include "context/ports/OpenText.h"
 #include "controls/Form.h"
+#include "controls/lists/ListBox.h"
 #include "controls/text/TextControl.h"
 #include "support/Captions.h"
 #include "support/TestApp.h"
@@ -25,6 +26,12 @@ protected:
         control.SetDataChanged(false);
     }
 
+    static std::vector<Text> RowsOf(const ListBox& list) {
+        std::vector<Text> rows;
+        for (int row = 0; row < list.ListCount(); ++row)
+            rows.push_back(list.List(row));
+        return rows;
+    }
     std::vector<int> Tabs() {
         std::vector<int> tabs;
         for (int tab = 1; tab <= TextControl::kTabs; ++tab) {

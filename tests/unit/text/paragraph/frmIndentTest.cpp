@@ -45,10 +45,7 @@ TEST_F(IndentTest, HasItsCaptions) {
 }
 
 TEST_F(IndentTest, ListsAlignmentsAndSpacings) {
-    std::vector<Text> rows;
-    for (int row = 0; row < window.lstClient.ListCount(); ++row)
-        rows.push_back(window.lstClient.List(row));
-    EXPECT_EQ(rows,
+    EXPECT_EQ(RowsOf(window.lstClient),
               (std::vector<Text>{u" Left align text", u" Right align text", u" Center text", u" Justify text",
                                  u" Single line spacing", u" One and a half", u" Double line spacing"}));
 }

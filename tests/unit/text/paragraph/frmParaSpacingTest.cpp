@@ -1,5 +1,6 @@
 #include "text/paragraph/frmParaSpacing.h"
 
+#include "support/DesignerFile.h"
 #include "unit/text/paragraph/ParagraphStage.h"
 
 namespace korvane {
@@ -14,18 +15,18 @@ protected:
 
 TEST_F(ParaSpacingTest, HasItsCaptions) {
     EXPECT_EQ(window.Caption.Get(), u"Paragraph spacing");
+    ExpectLook(window, "text/paragraph", {"Before", "After"});
     EXPECT_EQ(CaptionsOf(window),
               (std::vector<Text>{u"&Single line spacing", u"&Accept", u"&Remove all spacing"}));
 }
 
 TEST_F(ParaSpacingTest, ListsTheSpacings) {
-    std::vector<Text> rows;
-    for (int row = 0; row < window.lstSpacingTop.ListCount(); ++row)
-        rows.push_back(window.lstSpacingTop.List(row));
-    EXPECT_EQ(rows, (std::vector<Text>{u"  0.0", u"  0.5", u"  1.0", u"  1.5", u"  2.0", u"  2.5", u"  3.0",
-                                       u"  4.0", u"  5.0", u"  6.0", u"  7.0", u"  8.0"}));
-    EXPECT_EQ(window.lstSpacingBottom.ListCount(), 12);
-    EXPECT_EQ(window.lstSpacingTop.Font.Get().name, u"Courier New");
+    for (const ListBox* const list : {&window.lstSpacingTop, &window.lstSpacingBottom}) {
+        EXPECT_EQ(RowsOf(*list),
+                  (std::vector<Text>{u"  0.0", u"  0.5", u"  1.0", u"  1.5", u"  2.0", u"  2.5", u"  3.0",
+                                     u"  4.0", u"  5.0", u"  6.0", u"  7.0", u"  8.0"}));
+        EXPECT_EQ(list->Font.Get().name, u"Courier New");
+    }
 }
 
 TEST_F(ParaSpacingTest, AcceptSetsFiftyTwipsForEachPart) {

@@ -37,9 +37,18 @@ TEST_F(TabWidthTest, TheListOfTheUnitsGivesTheWidth) {
         window.lstTabsIns.Select(row);
         EXPECT_EQ(window.txtTabWidth.Text.Get(), kInches[row]);
     }
-    EXPECT_EQ(window.lstTabsCm.List(2), u" 1\u00BD cm");
-    EXPECT_EQ(window.lstTabsIns.List(6), u" 1\u00BE ins");
-    EXPECT_EQ(window.lstTabType.List(2), u" 3  Centered tab");
+}
+
+TEST_F(TabWidthTest, TheListsHaveTheirRows) {
+    Open();
+    EXPECT_EQ(RowsOf(window.lstTabsCm),
+              (std::vector<Text>{u" \u00BD cm", u" 1 cm", u" 1\u00BD cm", u" 2 cm", u" 2\u00BD cm", u" 3 cm",
+                                 u" 3\u00BD cm", u" 4 cm"}));
+    EXPECT_EQ(RowsOf(window.lstTabsIns),
+              (std::vector<Text>{u" \u00BC ins", u" \u00BD ins", u" \u00BE ins", u" 1 ins", u" 1\u00BC ins",
+                                 u" 1\u00BD ins", u" 1\u00BE ins", u" 2 ins"}));
+    EXPECT_EQ(RowsOf(window.lstTabType), (std::vector<Text>{u" 1  Left tab", u" 2  Right tab",
+                                                            u" 3  Centered tab", u" 4  Decimal tab"}));
 }
 
 TEST_F(TabWidthTest, HasItsCaptions) {
