@@ -2,8 +2,10 @@
 
 #include "document/pdf/Pdf.h"
 #include "document/rtf/Rtf.h"
+#include "e2e/LoopbackServer.h"
 #include "platform/native/process/ChildProcess.h"
 #include "platform/native/process/NativeDocumentConverter.h"
+#include "support/TempDir.h"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +53,35 @@ TEST_F(DocumentPrograms, APdfIsReadAsItsLines) {
     EXPECT_EQ(doc::PlainText(document), u"Hello PDF\r\ntwo");
     EXPECT_EQ(document.page[doc::Page::Width], 6000);
     EXPECT_EQ(document.FormatOf(document.paragraphs[0].runs[0]).halfPoints, 48);
+}
+
+/// The bytes of a DOC file that names a picture elsewhere, as LibreOffice writes it.
+std::string DocWithPicture(const std::string& address) {
+    const TempDir folder;
+    WriteBytes(folder / "page.html", "<html><body><p>text<img src=\"" + address + "\"></p></body></html>");
+    ChildTask office;
+    office.program = FindProgram("soffice");
+    office.arguments = {"-env:UserInstallation=file://" + (folder / "profile").string(),
+                        "--headless",
+                        "--infilter=HTML (StarWriter)",
+                        "--convert-to",
+                        "doc:MS Word 97",
+                        "page.html"};
+    office.folder = folder.Path();
+    if (RunChild(office, [] { return true; }) != ChildEnd::Succeeded) return {};
+    return ReadBytes(folder / "page.doc");
+}
+
+TEST_F(DocumentPrograms, APictureElsewhereIsNeverAskedFor) {
+    e2e::LoopbackServer server;
+    const std::string address = server.Address("/a.png");
+    const std::string doc = DocWithPicture(address);
+    ASSERT_NE(doc.find(address), std::string::npos);
+    const auto rtf = converter.Convert(Conversion::DocToRtf, doc);
+    ASSERT_TRUE(rtf);
+    EXPECT_NE(doc::PlainText(doc::ReadRtf(*rtf).document).find(u"text"), Text::npos);
+    server.Drain();
+    EXPECT_EQ(server.Paths(), std::vector<std::string>());
 }
 
 TEST_F(DocumentPrograms, OtherBytesAreNoDocuments) {

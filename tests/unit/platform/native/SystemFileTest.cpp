@@ -2,6 +2,8 @@
 
 #include "platform/native/SystemFile.h"
 
+#include "platform/native/ReadFile.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -25,6 +27,8 @@ constexpr Step kBroken{-1, EIO};
 
 std::deque<Step> steps;
 std::string written;
+/// The size that a file tells.
+std::size_t told = 0;
 
 /// The next step. It never has more bytes than were asked for.
 std::ptrdiff_t Take(std::size_t size) {
@@ -72,8 +76,10 @@ bool Close(int) {
 }
 
 std::size_t SizeOf(int) {
-    return 0;
+    return told;
 }
+
+void PreferLargePages(void*, std::size_t) {}
 
 } // namespace system_calls
 
@@ -84,6 +90,7 @@ protected:
     SystemFileTest() {
         steps.clear();
         written.clear();
+        told = 0;
     }
     std::string Read(std::size_t size) {
         std::string buffer(size, '.');
@@ -107,6 +114,25 @@ TEST_F(SystemFileTest, AReadEndsAtTheEndOfTheFileAndAtAFailure) {
     EXPECT_FALSE(error);
     steps = {{2}, kBroken, {3}};
     EXPECT_EQ(Read(5), "rr");
+    EXPECT_EQ(error, std::errc::io_error);
+}
+
+TEST_F(SystemFileTest, AFileThatGrowsOrShrinksWhileItIsReadIsReadToItsEnd) {
+    const auto size = [this] {
+        const auto bytes = ReadFile("any", error);
+        return bytes ? bytes->View().size() : std::size_t{0};
+    };
+    told = 10;
+    steps = {{10}, {0}};
+    EXPECT_EQ(size(), 10U);
+    steps = {{10}, {1}, {500}, {3}, {0}};
+    EXPECT_EQ(size(), 22U + 3);
+    told = 1000;
+    steps = {{4}, {0}};
+    EXPECT_EQ(size(), 4U);
+    EXPECT_FALSE(error);
+    steps = {{4}, kBroken};
+    EXPECT_EQ(size(), 0U);
     EXPECT_EQ(error, std::errc::io_error);
 }
 

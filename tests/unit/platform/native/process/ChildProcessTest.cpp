@@ -3,6 +3,9 @@
 #include "support/TempDir.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace korvane {
 namespace {
@@ -85,6 +88,30 @@ TEST_F(ChildProcessTest, AFileThatGrowsTooLargeEndsIt) {
     task.fileSize = 100'000;
     EXPECT_EQ(RunChild(task, Always), ChildEnd::Failed);
     EXPECT_EQ(fs::file_size(dir / "output"), 100'000U);
+}
+
+TEST_F(ChildProcessTest, OneThatTakesTooMuchMemoryFails) {
+    // This program keeps all that it is given until the end of it.
+    ChildTask task = Lines("head -c 200000000 /dev/zero | tail -c 200000000 | wc -c");
+    EXPECT_EQ(RunChild(task, Always), ChildEnd::Succeeded);
+    EXPECT_EQ(ReadBytes(dir / "output"), "200000000\n");
+    task.memory = 100'000'000;
+    RunChild(task, Always);
+    EXPECT_EQ(ReadBytes(dir / "output"), "0\n");
+}
+
+/// Whether the system gives a process a network of its own.
+bool NetworkCanBeKeptAway() {
+    const pid_t child = fork();
+    if (child == 0) _exit(unshare(CLONE_NEWNET) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNET) == 0 ? 0 : 1);
+    int status = 1;
+    return waitpid(child, &status, 0) == child && status == 0;
+}
+
+TEST_F(ChildProcessTest, ItHasANetworkOfItsOwnInWhichThereIsNothing) {
+    if (!NetworkCanBeKeptAway()) GTEST_SKIP() << "the system keeps no network away";
+    EXPECT_EQ(RunChild(Lines("readlink /proc/self/ns/net"), Always), ChildEnd::Succeeded);
+    EXPECT_NE(ReadBytes(dir / "output"), fs::read_symlink("/proc/self/ns/net").string() + "\n");
 }
 
 TEST_F(ChildProcessTest, ProgramsAreFoundByTheirNames) {
