@@ -210,6 +210,19 @@ TEST_F(LocalSockets, LeadNowhereWithoutAPlace) {
     EXPECT_FALSE(channel.Deliver(u"/a.tbx"));
 }
 
+TEST_F(LocalSockets, AreNotWaitedForTwice) {
+    LocalSocketChannel::Limits hasty;
+    hasty.startPatience = {};
+    LocalSocketChannel late(place, hasty);
+    {
+        const StartLock held(place.lock);
+        EXPECT_FALSE(late.PreviousInstanceRuns());
+    }
+    const auto first = First();
+    EXPECT_FALSE(late.PreviousInstanceRuns());
+    EXPECT_FALSE(late.FindReceiver());
+}
+
 TEST_F(LocalSockets, DoNotFindTheirOwnCopy) {
     const auto first = First();
     EXPECT_FALSE(first->PreviousInstanceRuns());

@@ -31,8 +31,12 @@ LocalSocketChannel::~LocalSocketChannel() {
 bool LocalSocketChannel::PreviousInstanceRuns() {
     if (running_.IsOpen()) return true;
     if (!place_ || server_.IsOpen()) return false;
-    const StartLock lock(place_->lock);
-    if (!lock.Held()) return false;
+    const StartLock lock(place_->lock, limits_.startPatience);
+    if (!lock.Held()) {
+        // The start asks again later, and must not wait twice.
+        place_.reset();
+        return false;
+    }
     if (Connect()) return true;
     server_ = LocalSocket::ListenAt(place_->socket);
     return false;

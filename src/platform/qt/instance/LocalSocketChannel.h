@@ -20,6 +20,8 @@ public:
         int conversations = 16;
         /// How long a connection may keep this copy waiting, all its lines together.
         std::chrono::milliseconds patience{2'000};
+        /// How long a start waits for others that look for the running copy.
+        std::chrono::milliseconds startPatience = StartLock::kPatience;
     };
 
     /// Without a place no other copy is ever found.
@@ -30,7 +32,8 @@ public:
     ~LocalSocketChannel() override;
 
     /// If no other copy runs, this call also makes this copy the running one. Later starts wait until it
-    /// listens. A socket that is left from a crash is ignored. Needs no event loop, and may be called again.
+    /// listens. A socket that is left from a crash is ignored. A copy that has waited too long for other
+    /// starts is on its own from then on. Needs no event loop, and may be called again.
     bool PreviousInstanceRuns() override;
     bool FindReceiver() override;
     bool WaitUntilSlotEmpty() override;
