@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
 #include "platform/qt/binder/CalmStyle.h"
+#include "platform/qt/dialogs/QtMessageBoxes.h"
 
 #include <QIcon>
 #include <QResource>
@@ -47,12 +48,26 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         return QApplication::notify(receiver, event);
     } catch (const std::bad_alloc&) {
         qWarning("A command was given up: there isn't enough memory");
+        TellOfMemory(*event);
         return false;
     } catch (const std::exception& error) {
         // The command that failed has no effect, and the program goes on.
         qWarning("A handler failed: %s", error.what());
         return false;
     }
+}
+
+/// A window that can't be painted isn't told of, because it would be painted again under each message. A
+/// message that fails itself isn't tried again.
+void Application::TellOfMemory(const QEvent& event) {
+    if (tells_ || event.type() == QEvent::Paint) return;
+    tells_ = true;
+    const auto tell = [this] {
+        QtMessageBoxes().Show({u"There isn't enough memory for this.\r\n\r\nThe command was given up.",
+                               MessageIcon::Exclamation});
+        tells_ = false;
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 } // namespace korvane

@@ -6,6 +6,14 @@
 
 namespace korvane::e2e {
 
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool kSanitized = true;
+#elif defined(__has_feature)
+inline constexpr bool kSanitized = __has_feature(address_sanitizer);
+#else
+inline constexpr bool kSanitized = false;
+#endif
+
 // These are regular expressions for the titles of windows.
 inline constexpr auto kMain = "^Korvane$";
 inline constexpr auto kFileInfo = "^File information$";

@@ -4,11 +4,13 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
+#include <fstream>
 
 namespace korvane::e2e {
 
@@ -71,6 +73,14 @@ bool Process::Running() {
 
 void Process::Signal(int signal) const {
     kill(id_, signal);
+}
+
+bool Process::LimitMemory(std::uint64_t more) const {
+    std::uint64_t pages = 0;
+    std::ifstream("/proc/" + std::to_string(id_) + "/statm") >> pages;
+    const std::uint64_t now = pages * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    const rlimit limit{now + more, now + more};
+    return pages != 0 && prlimit(id_, RLIMIT_AS, &limit, nullptr) == 0;
 }
 
 std::optional<int> Process::ExitStatus() {

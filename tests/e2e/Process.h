@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
@@ -24,6 +25,8 @@ public:
 
     bool Running();
     void Signal(int signal) const;
+    /// Lets the process have only so many bytes more than it has now. Returns false if that fails.
+    bool LimitMemory(std::uint64_t more) const;
     /// Waits for the end of the process. The result is nothing when it doesn't end in time, or when a signal
     /// ended it.
     std::optional<int> ExitStatus();

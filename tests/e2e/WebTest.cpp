@@ -121,14 +121,6 @@ TEST_F(WebTest, APageOfAServerIsShownWithItsPictureAndItsLink) {
 }
 
 #ifdef KORVANE_WEB
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kSanitized = true;
-#elif defined(__has_feature)
-constexpr bool kSanitized = __has_feature(address_sanitizer);
-#else
-constexpr bool kSanitized = false;
-#endif
-
 class ScriptTest : public WebTest {
 protected:
     void SetUp() override {
