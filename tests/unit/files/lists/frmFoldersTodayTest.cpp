@@ -17,7 +17,6 @@ namespace korvane {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Text kList = u"C:\\Data\\work.lst";
 
