@@ -86,8 +86,12 @@ void ShownFolder::SortBy(int column) {
     if (sort.ListSortColumn == ListSort::kName) return parts_.rows.Sort();
     // The texts that are shown don't sort by their numbers.
     const std::vector<Text> marked = parts_.rows.MarkedNames();
+    const Text current = parts_.rows.CurrentName();
+    const bool byUser = parts_.rows.ChosenByUser();
     ListAgain();
+    parts_.rows.GoToName(current);
     parts_.rows.Mark(marked);
+    if (byUser) parts_.rows.NoteChoice();
 }
 
 } // namespace korvane

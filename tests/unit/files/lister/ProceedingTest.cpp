@@ -62,6 +62,26 @@ TEST_P(ProceedingTest, ATypedNameAndTheMarkedRowsBothReachTheCaller) {
     EXPECT_THAT(Chosen(), ElementsAre(Utf8At(u"Data/a.txt")));
 }
 
+TEST_P(ProceedingTest, MarksThatSurviveASortReachTheCallerInTheNewOrder) {
+    t.files.AddFile(At(u"Data/c.rtf"), "123");
+    Open([](frmGetFileFromTree& f) {
+        Mark(f, u"b.tbx", u"c.rtf");
+        f.ListView1.ClickColumn(2);
+        f.cmdOk.Press();
+    });
+    EXPECT_EQ(request.ChosenFilePath, At(u"Data/b.tbx"));
+    EXPECT_THAT(Chosen(), ElementsAre(Utf8At(u"Data/c.rtf"), Utf8At(u"Data/b.tbx")));
+}
+
+TEST_P(ProceedingTest, ASortDoesNotMarkTheRowThatTheListBeganWith) {
+    Open([](frmGetFileFromTree& f) {
+        f.ListView1.ClickColumn(2);
+        Type(f, u"new.tbx");
+        f.cmdOk.Press();
+    });
+    EXPECT_EQ(request.ChosenFiles.at(1), u"");
+}
+
 TEST_P(ProceedingTest, TheRowThatTheListBeganWithIsNotMarkedByTheUser) {
     Open([](frmGetFileFromTree& f) {
         Type(f, u"new.tbx");

@@ -137,6 +137,21 @@ TEST_P(ShownFolderTest, TheMarksSurviveASort) {
     });
 }
 
+TEST_P(ShownFolderTest, TheCurrentFileStaysTheCurrentOneThroughASort) {
+    Open([](frmGetFileFromTree& f) {
+        Pick(f, u"b.tbx");
+        f.ListView1.ClickColumn(2);
+        EXPECT_EQ(f.ListView1.Current(), 2);
+        f.ListView1.ClickColumn(2);
+        EXPECT_EQ(f.ListView1.Current(), 1);
+        EXPECT_THAT(Names(f), ElementsAre("b.tbx", "a.txt"));
+        EXPECT_THAT(Marked(f), ElementsAre("b.tbx"));
+        f.ListView1.ClickColumn(3);
+        EXPECT_TRUE(Press(f.ListView1, Key::Return));
+    });
+    EXPECT_EQ(request.ChosenFilePath, At(u"Data/b.tbx"));
+}
+
 // Kept for compatibility: lone-row-keeps-order.
 TEST_P(ShownFolderTest, ALoneRowIsNotSorted) {
     request.FileDialogFilter = u"*.tbx";
