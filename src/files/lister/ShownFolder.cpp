@@ -83,6 +83,8 @@ void ShownFolder::SortBy(int column) {
     ListSort& sort = app_.Exchange<ListSort>();
     sort.ListSortColumn = static_cast<std::int16_t>(column - 1);
     sort.ListSortOrder = sort.ListSortOrder == 0 ? 1 : 0;
+    // The marked rows aren't files of the folder when the user went on in the tree.
+    if (!IsListed()) return ListAgain();
     if (sort.ListSortColumn == ListSort::kName) return parts_.rows.Sort();
     // The texts that are shown don't sort by their numbers.
     const std::vector<Text> marked = parts_.rows.MarkedNames();

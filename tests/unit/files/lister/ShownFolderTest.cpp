@@ -137,6 +137,22 @@ TEST_P(ShownFolderTest, TheMarksSurviveASort) {
     });
 }
 
+TEST_P(ShownFolderTest, ASortAfterStepsInTheTreeListsTheNewFolderWithoutTheOldMarks) {
+    t.files.AddFile(At(u"Data/sub/b.tbx"));
+    for (const int column : {1, 2}) {
+        sort = {};
+        Open([this, column](frmGetFileFromTree& f) {
+            f.TreeView1.Select(At(u"Data"));
+            Pick(f, u"b.tbx");
+            f.TreeView1.ByKeys = true;
+            f.TreeView1.Select(At(u"Data/sub"));
+            f.ListView1.ClickColumn(column);
+            EXPECT_THAT(Names(f), ElementsAre("c.txt", "b.tbx"));
+            EXPECT_THAT(Marked(f), ElementsAre("c.txt"));
+        });
+    }
+}
+
 TEST_P(ShownFolderTest, TheCurrentFileStaysTheCurrentOneThroughASort) {
     Open([](frmGetFileFromTree& f) {
         Pick(f, u"b.tbx");
