@@ -98,12 +98,13 @@ void FileCommands::ShowInfo() {
     frmTxtInfo(app_, facts).ShowModal();
 }
 
-void FileCommands::Rename() {
-    if (!PutAtHand()) return;
+bool FileCommands::Rename() {
+    if (!PutAtHand()) return false;
     frmRenFile window(app_);
-    if (ShowForResult(app_, window) != 1) return;
+    if (ShowForResult(app_, window) != 1) return false;
     folder_.ListAgain();
     rows_.GoToName(app_.Exchange<FileOperation>().FileNewName);
+    return true;
 }
 
 void FileCommands::Duplicate() {

@@ -27,7 +27,8 @@ public:
     void View(Viewing viewing = Viewing::ByType);
     void ViewWith();
     void ShowInfo();
-    void Rename();
+    /// Whether the current file has a new name now.
+    bool Rename();
     void Duplicate();
 
     // The marked files.

@@ -183,7 +183,7 @@ void frmGetFileFromTree::WireButtons() {
     cmdViewWith.Click = [this] { fileCommands_.ViewWith(); };
     cmdFileInfo.Click = [this] { fileCommands_.ShowInfo(); };
     cmdCopyFile.Click = [this] { fileCommands_.Copy(); };
-    cmdRename.Click = [this] { fileCommands_.Rename(); };
+    cmdRename.Click = [this] { Rename(); };
     cmdDuplicate.Click = [this] { fileCommands_.Duplicate(); };
     cmdDelete.Click = [this] { fileCommands_.Delete(); };
     cmdGetTarget.Click = [this] { folderCommands_.GetTarget(); };
@@ -501,6 +501,12 @@ void frmGetFileFromTree::EnterFileName() {
     if (!Saves()) return Inform(app_, u"Only available when saving files.");
     frmEnterFileName window(app_, *this);
     if (ShowForResult(app_, window) == kSaveAtOnce) Proceed();
+}
+
+void frmGetFileFromTree::Rename() {
+    const Text old = rows_.CurrentName();
+    // The line goes on naming the file.
+    if (fileCommands_.Rename() && txtFileName.Text.Get() == old) ShowCurrentName();
 }
 
 void frmGetFileFromTree::RecentFiles() {

@@ -123,6 +123,7 @@ private:
     void Proceed();
     void Cancel();
     void EnterFileName();
+    void Rename();
     void RecentFiles();
     void LoadRecentFile();
     void MoveFiles();

@@ -4,6 +4,7 @@
 #include "context/exchange/FileOperation.h"
 #include "dialogs/frmMyInputBox.h"
 #include "files/names/frmEnterFileName.h"
+#include "files/names/frmRenFile.h"
 #include "support/DesignerFile.h"
 #include "support/ScriptedPickers.h"
 
@@ -490,6 +491,25 @@ TEST_P(frmGetFileFromTreeTest, AClickOrAStepOnlyTakesTheName) {
         f.ListView1.Select(2);
         EXPECT_EQ(f.txtFileName.Text.Get(), u"b.tbx");
         EXPECT_TRUE(f.Shown());
+    });
+}
+
+TEST_P(frmGetFileFromTreeTest, ARenamedFileHasItsNewNameInTheLineUnlessAnotherWasTyped) {
+    const auto rename = [this](const Text& name) {
+        t.user.On<frmRenFile>([name](frmRenFile& window) {
+            window.Text2.Text = name;
+            window.cmdAccept.Press();
+        });
+    };
+    Open([&](frmGetFileFromTree& f) {
+        Pick(f, u"b.tbx");
+        rename(u"c.tbx");
+        f.cmdRename.Press();
+        EXPECT_EQ(f.txtFileName.Text.Get(), u"c.tbx");
+        f.txtFileName.Type(u"typed");
+        rename(u"d.tbx");
+        f.cmdRename.Press();
+        EXPECT_EQ(f.txtFileName.Text.Get(), u"typed");
     });
 }
 
