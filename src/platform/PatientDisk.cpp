@@ -1,32 +1,19 @@
 #include "platform/PatientDisk.h"
 
-#include <mutex>
+#include <algorithm>
 
 namespace korvane {
 
-namespace {
-
-/// What has been answered, which is read while more answers may come.
-struct Answers {
-    std::mutex mutex;
-    std::vector<std::optional<bool>> known;
-};
-
-} // namespace
-
 std::vector<std::optional<bool>> AnswersSoFar(const DiskAsker& ask, const std::vector<Text>& paths,
                                               const PathQuestionOfDisk& question) {
-    const auto answers = std::make_shared<Answers>();
-    answers->known.resize(paths.size());
-    ask([answers, paths, question](const FileSystem& files, const StillWaits& stillWaits) {
-        for (std::size_t index = 0; index < paths.size() && stillWaits(); ++index) {
-            const bool answer = question(files, paths[index]);
-            const std::lock_guard lock(answers->mutex);
-            answers->known[index] = answer;
-        }
-    });
-    const std::lock_guard lock(answers->mutex);
-    return answers->known;
+    const auto known =
+        PartsSoFar<std::optional<bool>>(ask, [paths, question](const FileSystem& files, const auto& take) {
+            for (const Text& path : paths)
+                if (!take(question(files, path))) return;
+        });
+    std::vector<std::optional<bool>> answers(paths.size());
+    std::ranges::copy(known, answers.begin());
+    return answers;
 }
 
 } // namespace korvane

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -41,6 +42,29 @@ std::optional<AnswerT> AnswerTo(const DiskAsker& ask, QuestionT question) {
         });
     if (!answered) return std::nullopt;
     return std::move(*answer);
+}
+
+/// What a question finds part by part, as far as it came while it was waited for. It hands over each part,
+/// and ends when that returns false.
+template <class PartT, class QuestionT>
+std::vector<PartT> PartsSoFar(const DiskAsker& ask, QuestionT question) {
+    // It is read while more parts may come.
+    struct Found {
+        std::mutex mutex;
+        std::vector<PartT> parts;
+    };
+    const auto found = std::make_shared<Found>();
+    ask([found, question = std::move(question)](const FileSystem& files, const StillWaits& stillWaits) {
+        question(files, [&](PartT part) {
+            {
+                const std::lock_guard lock(found->mutex);
+                found->parts.push_back(std::move(part));
+            }
+            return stillWaits();
+        });
+    });
+    const std::lock_guard lock(found->mutex);
+    return std::move(found->parts);
 }
 
 /// A question about one path.

@@ -27,8 +27,6 @@ constexpr int kNameColumn = 1;
 constexpr int kSizeColumn = 2;
 constexpr int kDateColumn = 3;
 constexpr std::size_t kColumns = 3;
-/// Of so many files the disk is asked for size and date at a time.
-constexpr std::size_t kDetailsInStep = 256;
 
 SortOrder OrderOf(const ListSort& sort) {
     return sort.ListSortOrder == 0 ? SortOrder::Ascending : SortOrder::Descending;
@@ -108,43 +106,41 @@ bool FileRows::Read(const Text& folder, const std::vector<Text>& names) {
     const int mine = fill_;
     const bool shown = names.size() > kMostReadAtOnce;
     std::vector<Text> sortForms;
-    std::optional<AllDetails> details;
+    Step step;
     ListRow row;
     for (std::size_t index = 0; index < names.size(); ++index) {
         if (shown) app_.Screen().Yield();
         if (mine != fill_) return false;
-        if (index % kDetailsInStep == 0) details = FindDetails(folder, names, index);
+        if (index == step.end && !step.last) step = FindDetails(folder, names, index);
         if (mine != fill_) return false;
-        if (!details) break;
+        if (index == step.end) break;
         row.key = u"K_ ";
         row.key += NumberText(index + 1);
-        WriteRow(row, folder, names[index], (*details)[index % kDetailsInStep]);
+        WriteRow(row, folder, names[index], step.details[step.details.size() - (step.end - index)]);
         TakeSortForm(row, sortForms);
         parts_.list.Add(row);
         // Kept for compatibility: bar-skips-every-32nd.
         if (shown && index % 32 != 0) parts_.bar.Value = static_cast<int>(index);
-        if (shown && wait_.Stopped()) break;
+        if (shown && wait_.Stopped() && !step.last) break;
     }
     Order(sortForms);
     return true;
 }
 
-std::optional<FileRows::AllDetails> FileRows::FindDetails(const Text& folder, const std::vector<Text>& names,
-                                                          std::size_t first) {
+FileRows::Step FileRows::FindDetails(const Text& folder, const std::vector<Text>& names, std::size_t first) {
     const int mine = fill_;
     const auto begin = names.begin() + static_cast<std::ptrdiff_t>(first);
     const std::vector<Text> some(
         begin, begin + static_cast<std::ptrdiff_t>(std::min(kDetailsInStep, names.size() - first)));
-    return AnswerTo<AllDetails>(
+    AllDetails found = PartsSoFar<std::optional<FileDetails>>(
         [&](const DiskQuestion& question) { return wait_.Ask(question, [&] { return mine == fill_; }); },
-        [folder, some](const FileSystem& files, const StillWaits&) {
+        [folder, some](const FileSystem& files, const auto& take) {
             const std::unique_ptr<FolderDetails> details = files.DetailsIn(folder);
-            AllDetails found;
-            found.reserve(some.size());
             for (const Text& name : some)
-                found.push_back(details->Of(name));
-            return found;
+                if (!take(details->Of(name))) return;
         });
+    const std::size_t count = found.size();
+    return {first + count, std::move(found), count < some.size()};
 }
 
 void FileRows::WriteRow(ListRow& row, const Text& folder, const Text& name,

@@ -52,11 +52,22 @@ public:
     /// Sorts what is in the list by its texts.
     void Sort();
 
+    /// Of so many files the disk is asked for size and date at a time. Each time costs a turn to another
+    /// thread and back.
+    static constexpr std::size_t kDetailsInStep = 4096;
+
 private:
     /// Of more files than these the reading is shown, and it can be stopped.
     static constexpr std::size_t kMostReadAtOnce = 1000;
 
     using AllDetails = std::vector<std::optional<FileDetails>>;
+    /// Of files that follow one another in the list.
+    struct Step {
+        std::size_t end = 0;
+        AllDetails details;
+        /// Nothing comes after it, because the disk gave no more answers.
+        bool last = false;
+    };
 
     /// Ends early when the user stops it or the reading was overtaken. Nothing if there was no answer at all.
     std::optional<std::vector<Text>> FindNames(const Text& folder, const Text& patterns);
@@ -64,9 +75,8 @@ private:
     /// Gives the list back to the user.
     void End();
     bool Read(const Text& folder, const std::vector<Text>& names);
-    /// Those of some names from `first` on; nothing if there was no answer.
-    std::optional<AllDetails> FindDetails(const Text& folder, const std::vector<Text>& names,
-                                          std::size_t first);
+    /// Those of some names from `first` on.
+    Step FindDetails(const Text& folder, const std::vector<Text>& names, std::size_t first);
     void WriteRow(ListRow& row, const Text& folder, const Text& name,
                   const std::optional<FileDetails>& details);
     void TakeSortForm(ListRow& row, std::vector<Text>& sortForms) const;

@@ -2,7 +2,7 @@
 
 #include "platform/FileSystem.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <atomic>
 #include <future>
@@ -134,6 +134,20 @@ TEST_F(NativePatientDiskTest, AQuestionEndsBetweenItsStepsAndKeepsWhatItHas) {
         });
     ASSERT_TRUE(answer);
     EXPECT_GT(*answer, 0);
+}
+
+TEST_F(NativePatientDiskTest, ThePartsThatCameBeforeTheDiskFellSilentAreThere) {
+    const std::vector<Text> folders{u"/here", u"/there", u"/silent", u"/elsewhere"};
+    const auto silent = std::make_shared<std::atomic<bool>>(false);
+    const auto found = PartsSoFar<Text>(
+        [&](const DiskQuestion& question) { return disk.Ask(question, [&] { return !*silent; }); },
+        [folders, silent](const FileSystem& files, const auto& take) {
+            for (const Text& folder : folders) {
+                *silent = folder == u"/silent";
+                if (files.DirExists(folder) && !take(folder)) return;
+            }
+        });
+    EXPECT_THAT(found, testing::ElementsAre(u"/here", u"/there"));
 }
 
 TEST_F(NativePatientDiskTest, AQuestionThatFailsHasNoAnswer) {

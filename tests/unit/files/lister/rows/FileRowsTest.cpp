@@ -291,6 +291,7 @@ public:
     }
     std::optional<FileDetails> Details(TextView) const override {
         ++asked;
+        if (told) told();
         return FileDetails{1, {}};
     }
     std::optional<std::int64_t> Size(TextView) const override { return std::nullopt; }
@@ -299,36 +300,59 @@ public:
     Text ProgramDir() const override { return u"/"; }
 
     mutable int asked = 0;
+    /// The disk tells about a file.
+    std::function<void()> told;
 };
 
-/// The lister on them, with the stop pressed after so many turns of the messages.
-void StopAmongAMillion(int turns, const Text& told, int listed) {
+/// The lister on them.
+struct FileRowsOfAMillion : testing::Test {
+    /// Lists them until `stops`, which is asked at each turn of the messages, says that the user stops it.
+    void StopWhen(std::function<bool()> stops, const Text& told, int listed) {
+        app.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
+        t.user.On<frmGetFileFromTree>([&](frmGetFileFromTree& f) {
+            t.user.Answer({told, MessageIcon::Exclamation}, Answer::Ok);
+            AtEachTurn([&] {
+                if (!stops()) return false;
+                f.cmdEscape.Press();
+                return true;
+            });
+            f.Activate();
+            EXPECT_EQ(f.ListView1.Count(), listed);
+            f.cmdCancel.Press();
+        });
+        frmGetFileFromTree(app).ShowModal();
+    }
+    void AtEachTurn(std::function<bool()> isDone) {
+        t.screen.QueueMessage([this, isDone] {
+            if (!isDone()) AtEachTurn(isDone);
+        });
+    }
+    /// The same after so many turns of the messages.
+    void StopAt(int turn, const Text& told, int listed) {
+        StopWhen([turn]() mutable { return --turn == 0; }, told, listed);
+        // The disk is asked about some files at a time.
+        EXPECT_LE(files.asked, static_cast<int>(FileRows::kDetailsInStep));
+    }
+
     TestApp t;
     MillionFiles files;
     App app{
         {files, t.user, t.clipboard, t.clock, t.screen, t.shell, t.instance, t.user, [] { return nullptr; }}};
-    app.Exchange<ListerRequest>().FileDialogFilter = u"*.*";
-    t.user.On<frmGetFileFromTree>([&](frmGetFileFromTree& f) {
-        t.user.Answer({told, MessageIcon::Exclamation}, Answer::Ok);
-        for (int turn = 1; turn < turns; ++turn)
-            t.screen.QueueMessage([] {});
-        t.screen.QueueMessage([&f] { f.cmdEscape.Press(); });
-        f.Activate();
-        EXPECT_EQ(f.ListView1.Count(), listed);
-        // The disk is asked about some files at a time.
-        EXPECT_LE(files.asked, 1000);
-        f.cmdCancel.Press();
-    });
-    frmGetFileFromTree(app).ShowModal();
+};
+
+TEST_F(FileRowsOfAMillion, AStopWhileTheNamesAreReadLeavesTheOthersUnread) {
+    StopAt(2, u"Only 1 of the 3,000 files in this directory were read.", 1);
 }
 
-TEST(FileRowsOfAMillion, AStopWhileTheNamesAreReadLeavesTheOthersUnread) {
-    StopAmongAMillion(2, u"Only 1 of the 3,000 files in this directory were read.", 1);
-}
-
-TEST(FileRowsOfAMillion, AStopLeavesTheOthersUntouched) {
+TEST_F(FileRowsOfAMillion, AStopLeavesTheOthersUntouched) {
     constexpr int kTurnsOfNames = 999;
-    StopAmongAMillion(kTurnsOfNames + 2, u"Only 2 of the 1,000,000 files in this directory were read.", 2);
+    StopAt(kTurnsOfNames + 2, u"Only 2 of the 1,000,000 files in this directory were read.", 2);
+}
+
+TEST_F(FileRowsOfAMillion, OfASlowDiskAllIsListedThatItToldUntilTheStop) {
+    files.told = [this] { t.clock.Pass(std::chrono::milliseconds(1)); };
+    StopWhen([this] { return files.asked == 500; },
+             u"Only 500 of the 1,000,000 files in this directory were read.", 500);
 }
 
 } // namespace
