@@ -185,7 +185,7 @@ public:
             store_.Replace(from, to, Plain(kTexts[random_() % std::size(kTexts)]));
             break;
         case 4:
-            store_.Replace(from, random_() % 2 == 0 ? from : to, doc::RandomDocument(random_() % 500));
+            store_.Replace(from, random_() % 2 == 0 ? from : to, AnyDocument());
             break;
         case 5:
             store_.Format(from, to, AnyDelta());
@@ -207,10 +207,12 @@ public:
             store_.Redo();
         }
         // A text that grew is taken up again, so that a call doesn't take longer and longer.
-        if (store_.All().size() > 5000) store_.Reset(doc::RandomDocument(random_() % 500));
+        if (store_.All().size() > 5000) store_.Reset(AnyDocument());
     }
 
 private:
+    doc::Document AnyDocument() { return doc::RandomDocument(static_cast<unsigned>(random_() % 500)); }
+
     static constexpr TextView kTexts[] = {u"", u"x", u"words", u"\r\n", u"a\r\nb", u"1\v2\t3\r\n\r\n"};
 
     std::pair<doc::Pos, doc::Pos> AnyStretch() {
