@@ -109,7 +109,7 @@ private:
 
 class LimitTableFile {
 public:
-    LimitTableFile() : path_(std::filesystem::temp_directory_path() / "korvane_bench_limit.tbx") {
+    LimitTableFile() : path_((std::filesystem::temp_directory_path() / "korvane_bench_limit.tbx").string()) {
         std::ofstream(path_, std::ios::binary) << LimitTableBytes();
     }
     LimitTableFile(const LimitTableFile&) = delete;

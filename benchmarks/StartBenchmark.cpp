@@ -4,13 +4,13 @@
 #include "LimitTable.h"
 #include "Moment.h"
 #include "SourceTree.h"
+#include "StartTurns.h"
 #include "Xvfb.h"
 
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <csignal>
@@ -28,16 +28,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kDefaultRounds = 21;
-
-struct Seconds {
-    double wall = 0;
-    double processor = 0;
-};
-
-[[noreturn]] void Fail(const char* what) {
-    std::fprintf(stderr, "%s\n", what);
-    std::exit(1);
-}
 
 double ToSeconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
@@ -94,39 +84,6 @@ Seconds TimeToEnd(const std::vector<std::string>& command) {
     return {static_cast<double>(NanosecondsNow() - start) * 1e-9, processor};
 }
 
-double Median(std::vector<double> seconds) {
-    const auto middle = seconds.begin() + static_cast<std::ptrdiff_t>(seconds.size() / 2);
-    std::nth_element(seconds.begin(), middle, seconds.end());
-    return *middle;
-}
-
-/// One of the programs that are started by turns.
-struct Start {
-    const char* name;
-    std::vector<std::string> command;
-    Seconds (*measure)(const std::vector<std::string>& command);
-    std::vector<double> wall{};
-    std::vector<double> processor{};
-
-    void Run() {
-        const Seconds seconds = measure(command);
-        wall.push_back(seconds.wall);
-        processor.push_back(seconds.processor);
-    }
-};
-
-void Report(const std::vector<Start>& starts) {
-    const double floorWall = Median(starts[0].wall);
-    const double floorProcessor = Median(starts[0].processor);
-    std::printf("| start | wall clock | ratio | processor | ratio |\n| --- | --- | --- | --- | --- |\n");
-    for (const Start& start : starts) {
-        const double wall = Median(start.wall);
-        const double processor = Median(start.processor);
-        std::printf("| %s | %.0f ms | %.2f | %.0f ms | %.2f |\n", start.name, wall * 1e3, wall / floorWall,
-                    processor * 1e3, processor / floorProcessor);
-    }
-}
-
 /// A home folder with the shipped settings and a copy of the program, which keeps its state in its own
 /// folder.
 class Home {
@@ -163,16 +120,6 @@ public:
 private:
     fs::path folder_ = fs::temp_directory_path() / ("korvane-start-" + std::to_string(getpid()));
 };
-
-/// Runs the programs by turns. The first start of each one isn't counted. It brings all files into memory.
-void MeasureByTurns(std::vector<Start> starts, int rounds) {
-    for (const Start& start : starts)
-        start.measure(start.command);
-    for (int round = 0; round < rounds; ++round)
-        for (Start& start : starts)
-            start.Run();
-    Report(starts);
-}
 
 /// A copy of the program that runs while this object lives.
 class RunningCopy {
