@@ -203,8 +203,10 @@ TEST_F(CalmStyleTest, APaletteOfTheDesktopsIsMadeReadable) {
     QPalette palette;
     palette.setColor(QPalette::Highlight, QColor(150, 200, 255));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
     style.polish(palette);
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        EXPECT_EQ(palette.color(group, QPalette::HighlightedText), Qt::white);
         EXPECT_GE(Contrast(palette.color(group, QPalette::HighlightedText),
                            palette.color(group, QPalette::Highlight)),
                   kEasyToRead);

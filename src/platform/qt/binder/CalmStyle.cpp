@@ -130,11 +130,15 @@ bool IsUnseen(QStyle::PrimitiveElement element, const QStyleOption& option) {
            item->backgroundBrush.style() == Qt::NoBrush;
 }
 
-/// Makes the text of a chosen line easy to read.
-void MakeReadable(QPalette& palette, QPalette::ColorGroup group) {
-    const QColor text = palette.color(group, QPalette::HighlightedText);
-    const QColor back = palette.color(group, QPalette::Highlight);
-    palette.setColor(group, QPalette::Highlight, WithContrast(back, {text}, kEasyToRead));
+/// Makes the text of a chosen line easy to read. The line looks the same where the keyboard is elsewhere,
+/// because the icons of chosen lines have only one colour.
+void MakeReadable(QPalette& palette) {
+    const QColor text = palette.color(QPalette::Active, QPalette::HighlightedText);
+    const QColor back = palette.color(QPalette::Active, QPalette::Highlight);
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::HighlightedText, text);
+        palette.setColor(group, QPalette::Highlight, WithContrast(back, {text}, kEasyToRead));
+    }
 }
 
 /// Whether the tool bar is alone at the upper edge of a main window.
@@ -186,8 +190,7 @@ CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void CalmStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
-    for (const auto group : {QPalette::Active, QPalette::Inactive})
-        MakeReadable(palette, group);
+    MakeReadable(palette);
 }
 
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
