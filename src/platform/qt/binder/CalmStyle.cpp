@@ -3,6 +3,7 @@
 #include "platform/qt/binder/ScrollBarLook.h"
 #include "platform/qt/look/Contrast.h"
 #include "platform/qt/look/Icons.h"
+#include "platform/qt/look/NativeStyle.h"
 #include "platform/qt/look/Palettes.h"
 #include "platform/qt/tabs/TabBar.h"
 #include "platform/qt/tiles/TilesView.h"
@@ -15,6 +16,8 @@
 #include <QStyleOption>
 #include <QToolButton>
 #include <QTreeView>
+#include <algorithm>
+#include <array>
 
 namespace korvane {
 
@@ -25,6 +28,24 @@ constexpr int kAirInList = 4;
 constexpr int kRing = 2;
 /// In percent, as `QColor::darker` takes it.
 constexpr int kFieldEdge = 140;
+
+// The parts of controls that look as the system draws them. All of them are as large as in Fusion.
+constexpr std::array kNativePrimitives{QStyle::PE_PanelButtonCommand, QStyle::PE_IndicatorCheckBox,
+                                       QStyle::PE_IndicatorRadioButton};
+constexpr std::array kNativeControls{QStyle::CE_ProgressBarGroove, QStyle::CE_ProgressBarContents};
+constexpr std::array kNativeComplexControls{QStyle::CC_ComboBox};
+
+bool IsNative(QStyle::PrimitiveElement element) {
+    return std::ranges::find(kNativePrimitives, element) != kNativePrimitives.end();
+}
+
+bool IsNative(QStyle::ControlElement element) {
+    return std::ranges::find(kNativeControls, element) != kNativeControls.end();
+}
+
+bool IsNative(QStyle::ComplexControl control) {
+    return std::ranges::find(kNativeComplexControls, control) != kNativeComplexControls.end();
+}
 
 /// The colour of an edge that can be seen on a dark window.
 QColor EdgeOnDark(const QPalette& palette) {
@@ -186,11 +207,17 @@ QString OwnIconName(QStyle::StandardPixmap picture) {
 
 } // namespace
 
-CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+CalmStyle::CalmStyle() : QProxyStyle(QStringLiteral("Fusion")), native_(NewNativeStyle()) {}
 
 void CalmStyle::polish(QPalette& palette) {
     QProxyStyle::polish(palette);
     MakeReadable(palette);
+}
+
+template <class Element>
+const QStyle* CalmStyle::NativeFor(Element element, const QStyleOption& option) const {
+    // Systems draw in light colours only.
+    return native_ != nullptr && IsNative(element) && !IsDark(option.palette) ? native_.get() : nullptr;
 }
 
 void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -200,6 +227,8 @@ void CalmStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     if (element == PE_FrameFocusRect) return DrawRing(*painter, RingPlace(*option, widget), RingOf(*option));
     const bool focused = option->state.testFlag(State_HasFocus);
     if (element == PE_FrameLineEdit && !focused) return DrawField(*option, *painter);
+    if (const QStyle* const native = NativeFor(element, *option))
+        return native->drawPrimitive(element, option, painter, widget);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     if (element == PE_FrameLineEdit && focused) {
         DrawRing(*painter, option->rect, RingOn(option->palette));
@@ -212,6 +241,8 @@ void CalmStyle::drawControl(ControlElement element, const QStyleOption* option, 
                             const QWidget* widget) const {
     const auto* bar = qstyleoption_cast<const QStyleOptionToolBar*>(option);
     if (element == CE_ToolBar && bar != nullptr && IsAtTop(*bar, widget)) return DrawToolBar(*bar, *painter);
+    if (const QStyle* const native = NativeFor(element, *option))
+        return native->drawControl(element, option, painter, widget);
     QProxyStyle::drawControl(element, option, painter, widget);
     const bool ringed = element == CE_PushButton || (element == CE_ShapedFrame && IsRinged(widget));
     if (ringed && option->state.testFlag(State_HasFocus))
@@ -222,7 +253,11 @@ void CalmStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
                                    QPainter* painter, const QWidget* widget) const {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_ScrollBar && slider != nullptr) return DrawScrollBar(*slider, *painter, *this, widget);
-    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (const QStyle* const native = NativeFor(control, *option)) {
+        native->drawComplexControl(control, option, painter, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
     const bool ringed = control == CC_ComboBox || control == CC_Slider;
     if (ringed && option->state.testFlag(State_HasFocus))
         DrawRing(*painter, option->rect, RingOn(option->palette));

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <memory>
 
 namespace korvane {
 
 /// The Fusion style with small changes: what has the keyboard has a ring that can be seen, and a chosen line
 /// can be read; the buttons of dialogs have no pictures, column captions begin as far from the edge as the
 /// texts of the cells below them, the lines of lists have some space between them, message boxes show the
-/// program's own icons, and edges and arrows can be seen on a dark window.
+/// program's own icons, and edges and arrows can be seen on a dark window. Where the system has controls of
+/// its own look, buttons, boxes to tick or to choose from, and bars of progress are drawn so on a light
+/// window.
 class CalmStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -31,6 +34,13 @@ public:
                        const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override;
+
+private:
+    /// What draws such a part of a control as the system does; nullptr when it isn't to look so.
+    template <class Element>
+    const QStyle* NativeFor(Element element, const QStyleOption& option) const;
+
+    std::unique_ptr<QStyle> native_;
 };
 
 } // namespace korvane
