@@ -1,7 +1,5 @@
 #include "platform/qt/look/NativeStyle.h"
-
-#include <windows.h>
-#include <uxtheme.h>
+#include "platform/windows/Theme.h"
 
 #include <QGuiApplication>
 #include <QStyleFactory>
@@ -11,7 +9,7 @@ namespace korvane {
 /// Windows draws on a screen only, and may have been asked to draw as its first versions did.
 std::unique_ptr<QStyle> NewNativeStyle() {
     const bool onScreen = QGuiApplication::platformName() == QLatin1String("windows");
-    if (!onScreen || !IsThemeActive()) return nullptr;
+    if (!onScreen || !IsThemeOn()) return nullptr;
     return std::unique_ptr<QStyle>(QStyleFactory::create(QStringLiteral("windowsvista")));
 }
 

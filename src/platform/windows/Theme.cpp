@@ -1,0 +1,12 @@
+#include "platform/windows/Theme.h"
+
+#include <windows.h>
+#include <uxtheme.h>
+
+namespace korvane {
+
+bool IsThemeOn() {
+    return IsThemeActive() != FALSE;
+}
+
+} // namespace korvane
