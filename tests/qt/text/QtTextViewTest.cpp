@@ -57,7 +57,7 @@ protected:
     /// The point in the view at the place, a little to the right.
     QPoint PointAt(doc::Pos place) {
         view.ShowText();
-        return view.mapFromScene(view.CursorAt(place).center() + QPointF(2, 0));
+        return view.mapFromScene(view.CursorAt(place).center() + QPointF(1, 0));
     }
     void Click(const QPoint& point, Qt::KeyboardModifiers held = Qt::NoModifier) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, held, point);
