@@ -1,6 +1,7 @@
 // Rows that stand for files are dragged to other programs.
 
 #include "ListsFixture.h"
+#include "platform/native/FileAddress.h"
 #include "platform/qt/adaptors/DroppedFiles.h"
 
 #include <QMimeData>
@@ -45,6 +46,13 @@ TEST_F(FileDragTest, OtherProgramsGetTheFilesOfThePickedRows) {
     EXPECT_EQ(dragged->urls(),
               (QList<QUrl>{QUrl::fromLocalFile("/data/b c.txt"), QUrl::fromLocalFile("/data/d#e%20.txt")}));
     EXPECT_EQ(dragged->urls().back().toLocalFile(), "/data/d#e%20.txt");
+}
+
+TEST_F(FileDragTest, ANameThatIsNoTextLeadsToItsFile) {
+    constexpr TextView kPath = u"/data/not \xDCFF text";
+    form.ListView1.FilesToDrag = [&] { return std::vector<Text>{Text(kPath)}; };
+    ShowForm();
+    EXPECT_EQ(Dragged()->urls().front().toEncoded().toStdString(), FileAddress(kPath));
 }
 
 TEST_F(FileDragTest, TheyGetCopiesAndTheRowsStay) {

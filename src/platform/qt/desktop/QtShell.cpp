@@ -2,6 +2,7 @@
 
 #include "common/path/WebAddress.h"
 #include "platform/DesktopTarget.h"
+#include "platform/native/FileAddress.h"
 #include "platform/native/NativePath.h"
 #include "platform/native/user/Trash.h"
 #include "platform/qt/desktop/ShowingDesktop.h"
@@ -22,14 +23,12 @@ QString ToQString(TextView text) {
     return QStringView(text).toString();
 }
 
-/// The URL of a path. The path is never taken for a web address, even if it looks like one. It is written by
-/// its bytes, because a name needn't be a text.
+/// The URL of a path. The path is never taken for a web address, even if it looks like one.
 QUrl FileUrl(TextView path) {
     std::error_code error;
     const std::filesystem::path full = std::filesystem::absolute(ToNativePath(path), error);
     if (error) return {};
-    const QByteArray bytes = QByteArray::fromStdString(full.native());
-    return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/:@!$&'()*+,;="));
+    return QUrl::fromEncoded(QByteArray::fromStdString(FileAddress(FromNativePath(full))));
 }
 
 QUrl UrlOf(const DesktopTarget& target) {

@@ -1,9 +1,9 @@
 #include "platform/qt/lists/ListViewModel.h"
 
 #include "common/text/Shown.h"
+#include "platform/native/FileAddress.h"
 #include "platform/qt/base/Convert.h"
 
-#include <QDir>
 #include <QIcon>
 #include <QMimeData>
 #include <QUrl>
@@ -98,7 +98,7 @@ QMimeData* ListViewModel::mimeData(const QModelIndexList&) const {
     if (!Attached() || !list_.FilesToDrag) return nullptr;
     QList<QUrl> urls;
     for (const Text& path : list_.FilesToDrag())
-        urls += QUrl::fromLocalFile(QDir::fromNativeSeparators(ToQString(path)));
+        urls += QUrl::fromEncoded(QByteArray::fromStdString(FileAddress(path)));
     if (urls.isEmpty()) return nullptr;
     auto data = std::make_unique<QMimeData>();
     data->setUrls(urls);
