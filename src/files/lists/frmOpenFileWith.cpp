@@ -122,7 +122,8 @@ void frmOpenFileWith::ReadOpenFilesWithList() {
     ListChanged = 0;
     const Text& path = app_.Settings.OpenWithListFile;
     const auto lines = ReadListFile(app_, path);
-    if (!lines) return Warn(app_, u"Can't open file: " + path);
+    unreadable_ = !lines;
+    if (unreadable_) return Warn(app_, u"Can't open file: " + path);
     for (const ListedProgram& program : ProgramsOfLines(*lines))
         AddRow(program);
     ListView1.SetCurrent(1);
@@ -130,6 +131,8 @@ void frmOpenFileWith::ReadOpenFilesWithList() {
 
 void frmOpenFileWith::WriteList() {
     Text& path = app_.Settings.OpenWithListFile;
+    // What couldn't be read may be a long list.
+    if (unreadable_) return ShowCannotAccess(app_, path);
     // Without a list there is no dialog that would name one.
     if (path.empty()) path = app_.Files().Style().JoinPath(app_.Files().StateDir(), u"OpenWith.lst");
     WriteListFile(app_, path, LinesOfPrograms(Programs()));

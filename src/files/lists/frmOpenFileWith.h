@@ -83,6 +83,8 @@ private:
     std::int16_t ListChanged = 0;
     /// What becomes the `DialogResult`.
     std::int16_t outcome_ = 0;
+    /// The list's file is there, but nothing could be read of it.
+    bool unreadable_ = false;
 };
 
 } // namespace korvane

@@ -127,6 +127,21 @@ TEST_F(OpenFileWithTest, ABinaryFileIsNoListAndStaysAsItIs) {
     EXPECT_EQ(Written(), bytes);
 }
 
+TEST_F(OpenFileWithTest, AListThatCannotBeReadIsNotReplacedByWhatIsAddedToIt) {
+    const std::string bytes("PK\0\1", 4);
+    t.files.AddFile(kList, bytes);
+    t.user.Answer(Answer::Ok);
+    t.user.On<frmOpenFileWith>([](frmOpenFileWith& f) {
+        f.cmdAddProgram.Press();
+        f.cmdExit.Press();
+    });
+    t.user.ChooseFile(u"C:\\A\\a.exe");
+    t.user.Answer(Answer::Ok);
+    frmOpenFileWith(t.app).ShowModal();
+    EXPECT_TRUE(t.user.Messages().back().text.starts_with(u"Cannot save this file :\r\n\r\n" + kList));
+    EXPECT_EQ(Written(), bytes);
+}
+
 TEST_F(OpenFileWithTest, AnEmptyListShowsNothingAndNoCommandFails) {
     t.files.AddFile(kList, "");
     t.user.On<frmOpenFileWith>([](frmOpenFileWith& f) {
