@@ -120,7 +120,7 @@ void frmFavouriteLocations::ApplyColours() {
     txtFindThisString.BackColor = back;
 }
 
-Text frmFavouriteLocations::ListFile() const {
+Text frmFavouriteLocations::FindListFile() const {
     const FileSystem& files = app_.Files();
     const Text& current = app_.Settings.FavCurrentFile;
     if (!current.empty() && files.FileExists(current)) return current;
@@ -128,10 +128,10 @@ Text frmFavouriteLocations::ListFile() const {
 }
 
 void frmFavouriteLocations::ReadList() {
-    const Text file = ListFile();
-    const auto lines = ReadListFile(app_, file);
-    unreadable_ = !lines && app_.Files().FileExists(file);
-    if (unreadable_) ShowCannotLoad(app_, file);
+    listFile_ = FindListFile();
+    const auto lines = ReadListFile(app_, listFile_);
+    unreadable_ = !lines && app_.Files().FileExists(listFile_);
+    if (unreadable_) ShowCannotLoad(app_, listFile_);
     ShowLines(lines.value_or(std::vector<Text>()));
 }
 
@@ -145,12 +145,11 @@ void frmFavouriteLocations::ShowLines(const std::vector<Text>& lines) {
 }
 
 void frmFavouriteLocations::WriteList() {
-    const Text file = ListFile();
-    const bool nothingToKeep = unreadable_ || !app_.Files().FileExists(file);
+    const bool nothingToKeep = unreadable_ || !app_.Files().FileExists(listFile_);
     if (List1.ListCount() == 0 && nothingToKeep) return;
     // What couldn't be read may be a long list.
-    if (unreadable_) return ShowCannotAccess(app_, file);
-    WriteListFile(app_, file, EntriesOf(List1));
+    if (unreadable_) return ShowCannotAccess(app_, listFile_);
+    WriteListFile(app_, listFile_, EntriesOf(List1));
 }
 
 void frmFavouriteLocations::ShowCount() {
@@ -207,11 +206,10 @@ void frmFavouriteLocations::Explore() {
 
 void frmFavouriteLocations::ShowInfo() {
     const FileSystem& files = app_.Files();
-    const Text file = ListFile();
-    const auto modified = files.Modified(file);
-    Inform(app_, u"File  " + file + u"\r\nArchived  " +
+    const auto modified = files.Modified(listFile_);
+    Inform(app_, u"File  " + listFile_ + u"\r\nArchived  " +
                      (modified ? app_.Locale().GeneralDate(*modified) : Text()) + u"\r\nSize  " +
-                     FormatGrouped(files.Size(file).value_or(0)));
+                     FormatGrouped(files.Size(listFile_).value_or(0)));
 }
 
 void frmFavouriteLocations::LoadList() {
@@ -239,6 +237,7 @@ void frmFavouriteLocations::SaveList() {
 
 void frmFavouriteLocations::UseListFile(const Text& file) {
     app_.Settings.FavCurrentFile = file;
+    listFile_ = file;
     unreadable_ = false;
 }
 

@@ -46,7 +46,7 @@ private:
 
     void Wire();
     void ApplyColours();
-    Text ListFile() const;
+    Text FindListFile() const;
     void ReadList();
     void ShowLines(const std::vector<Text>& lines);
     void WriteList();
@@ -72,6 +72,7 @@ private:
     Text currentFolder_;
     /// What becomes the `DialogResult`.
     std::int16_t outcome_ = 0;
+    Text listFile_;
     /// The list's file is there, but nothing could be read of it.
     bool unreadable_ = false;
 };

@@ -77,6 +77,14 @@ TEST_F(FavouriteLocationsTest, AListThatIsGoneGivesWayToTheOneBesideTheProgram) 
     EXPECT_EQ(t.app.Settings.FavCurrentFile, u"C:\\Gone\\my.lst");
 }
 
+TEST_F(FavouriteLocationsTest, AListThatGoesMeanwhileIsNotWrittenOverTheOneBesideTheProgram) {
+    t.files.AddFile(u"C:\\Data\\my.lst", "C:\\Mine\r\n");
+    t.app.Settings.FavCurrentFile = u"C:\\Data\\my.lst";
+    InWindow("C:\\a\r\n", [this](frmFavouriteLocations&) { t.files.Erase(u"C:\\Data\\my.lst"); });
+    EXPECT_EQ(Written(), "C:\\a\r\n");
+    EXPECT_EQ(t.files.Contents(u"C:\\Data\\my.lst"), "C:\\Mine\r\n");
+}
+
 TEST_F(FavouriteLocationsTest, WhereTheProgramFolderCannotBeWrittenTheListIsWithTheState) {
     t.files.SetStateDir(u"C:\\State");
     t.files.AddFile(u"C:\\State\\FavouriteLocations.lst", "C:\\Mine\r\n");
