@@ -15,9 +15,9 @@ class FileSystem;
 
 /// Whether an answer is still waited for.
 using StillWaits = std::function<bool()>;
-/// A question to the disk. After each of its steps it asks whether it is still waited for, and ends if it
-/// isn't.
-using DiskQuestion = std::function<void(const FileSystem&, const StillWaits&)>;
+/// A question to the disk, or a work on it. After each of its steps it asks whether it is still waited for,
+/// and ends if it isn't.
+using DiskQuestion = std::function<void(FileSystem&, const StillWaits&)>;
 
 /// Asks a disk that may take long to answer or never do so, as one on a network that has gone.
 class PatientDisk {
@@ -37,7 +37,7 @@ template <class AnswerT, class QuestionT>
 std::optional<AnswerT> AnswerTo(const DiskAsker& ask, QuestionT question) {
     const auto answer = std::make_shared<std::optional<AnswerT>>();
     const bool answered =
-        ask([answer, question = std::move(question)](const FileSystem& files, const StillWaits& stillWaits) {
+        ask([answer, question = std::move(question)](FileSystem& files, const StillWaits& stillWaits) {
             *answer = question(files, stillWaits);
         });
     if (!answered) return std::nullopt;
@@ -54,7 +54,7 @@ std::vector<PartT> PartsSoFar(const DiskAsker& ask, QuestionT question) {
         std::vector<PartT> parts;
     };
     const auto found = std::make_shared<Found>();
-    ask([found, question = std::move(question)](const FileSystem& files, const StillWaits& stillWaits) {
+    ask([found, question = std::move(question)](FileSystem& files, const StillWaits& stillWaits) {
         question(files, [&](PartT part) {
             {
                 const std::lock_guard lock(found->mutex);

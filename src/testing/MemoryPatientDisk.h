@@ -9,7 +9,7 @@ namespace korvane {
 class MemoryPatientDisk final : public PatientDisk {
 public:
     /// Both outlive the object.
-    MemoryPatientDisk(const FileSystem& files, MemoryClock& clock) : files_(files), clock_(clock) {}
+    MemoryPatientDisk(FileSystem& files, MemoryClock& clock) : files_(files), clock_(clock) {}
 
     bool Ask(DiskQuestion question, const StillWaits& stillWaits) override;
 
@@ -23,7 +23,7 @@ public:
 private:
     static constexpr int kAll = -1;
 
-    const FileSystem& files_;
+    FileSystem& files_;
     MemoryClock& clock_;
     int answers_ = kAll;
     int asked_ = 0;

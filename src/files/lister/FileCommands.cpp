@@ -14,6 +14,7 @@
 #include "files/jobs/frmCopyMove.h"
 #include "files/lister/OpenShortcut.h"
 #include "files/lister/ShownFolder.h"
+#include "files/lister/rows/DiskWait.h"
 #include "files/lister/rows/FileRows.h"
 #include "files/lists/OpenWith.h"
 #include "files/names/frmDupFile.h"
@@ -43,8 +44,8 @@ Text DeleteQuestion(const std::vector<Text>& marked) {
 
 } // namespace
 
-FileCommands::FileCommands(App& app, ShownFolder& folder, FileRows& rows)
-    : app_(app), folder_(folder), rows_(rows) {}
+FileCommands::FileCommands(App& app, ShownFolder& folder, FileRows& rows, DiskWait& wait)
+    : app_(app), folder_(folder), rows_(rows), wait_(wait) {}
 
 bool FileCommands::HasFile() {
     if (folder_.IsListed()) return rows_.Current() > 0;
@@ -62,8 +63,23 @@ std::vector<Text> FileCommands::MarkedFiles() {
     return marked;
 }
 
+bool FileCommands::HasFileThatAnswers() {
+    return HasFile() && LookAt({folder_.PathOf(rows_.CurrentName())});
+}
+
+std::optional<std::vector<FileCommands::Seen>> FileCommands::LookAt(const std::vector<Text>& paths) {
+    return AnswerTo<std::vector<Seen>>(
+        [this](const DiskQuestion& question) { return wait_.AskForCommand(question); },
+        [paths](const FileSystem& files, const StillWaits&) {
+            std::vector<Seen> seen;
+            for (const Text& path : paths)
+                seen.push_back({files.FileExists(path), files.IsLink(path), files.Size(path).has_value()});
+            return seen;
+        });
+}
+
 bool FileCommands::PutAtHand() {
-    if (!HasFile() || !folder_.Enter()) return false;
+    if (!HasFileThatAnswers() || !folder_.Enter()) return false;
     FileOperation& file = app_.Exchange<FileOperation>();
     file.FileOpFolder = folder_.Path();
     file.FileOpName = rows_.CurrentName();
@@ -76,10 +92,12 @@ void FileCommands::View(Viewing viewing) {
     if (!HasFile()) return;
     const KeepCurrentDir keep(app_);
     Text path = folder_.PathOf(rows_.CurrentName());
-    if (!app_.Files().FileExists(path)) return ShowCannotLocate(app_, path);
+    const auto seen = LookAt({path});
+    if (!seen) return;
+    if (!seen->front().isFile) return ShowCannotLocate(app_, path);
     if (OpenShortcut(app_, path)) return;
     // Whatever opens a pipe or a socket waits for somebody to write into it.
-    if (!app_.Files().Size(path)) return ShowCannotLoad(app_, path);
+    if (!seen->front().hasSize) return ShowCannotLoad(app_, path);
     if (viewing == Viewing::ByType) {
         ViewFile(app_, path);
     } else if (auto* texts = app_.Port<TextFileViewer>()) {
@@ -88,11 +106,11 @@ void FileCommands::View(Viewing viewing) {
 }
 
 void FileCommands::ViewWith() {
-    if (HasFile()) OpenWithUserProgram(app_, folder_.PathOf(rows_.CurrentName()));
+    if (HasFileThatAnswers()) OpenWithUserProgram(app_, folder_.PathOf(rows_.CurrentName()));
 }
 
 void FileCommands::ShowInfo() {
-    if (!HasFile()) return;
+    if (!HasFileThatAnswers()) return;
     FileFacts facts = FactsOfFile(app_, folder_.PathOf(rows_.CurrentName()));
     facts.folder = folder_.Path();
     frmTxtInfo(app_, facts).ShowModal();
@@ -126,7 +144,8 @@ void FileCommands::Move() {
 void FileCommands::ShowCopyMove(std::int16_t kind) {
     CopyMoveRequest& request = app_.Exchange<CopyMoveRequest>();
     request.lstMarkedFiles = MarkedFiles();
-    if (request.lstMarkedFiles.empty() || !folder_.Enter()) return;
+    if (request.lstMarkedFiles.empty()) return;
+    if (!LookAt({folder_.PathOf(request.lstMarkedFiles.front())}) || !folder_.Enter()) return;
     request.CopyMoveKind = kind;
     request.CopySourceFolder = app_.Files().CurrentDir();
     {
@@ -144,13 +163,20 @@ void FileCommands::Delete() {
     if (marked.empty()) return;
     const Message question{DeleteQuestion(marked), MessageIcon::Exclamation, MessageButtons::YesNo, 2};
     if (app_.Messages().Show(question) != Answer::Yes) return rows_.TakeFocus();
-    const FileSystem& files = app_.Files();
-    for (const Text& name : marked) {
-        const Text path = folder_.PathOf(name);
+    if (Recycle(marked)) ListAgainAtRow();
+}
+
+bool FileCommands::Recycle(const std::vector<Text>& names) {
+    std::vector<Text> paths;
+    for (const Text& name : names)
+        paths.push_back(folder_.PathOf(name));
+    const auto seen = LookAt(paths);
+    for (std::size_t index = 0; seen && index < paths.size(); ++index) {
+        const Seen& file = (*seen)[index];
         // A link that leads nowhere is there too.
-        if (files.FileExists(path) || files.IsLink(path)) app_.Shell().Recycle(path, RecycleTalk::Silent);
+        if (file.isFile || file.isLink) app_.Shell().Recycle(paths[index], RecycleTalk::Silent);
     }
-    ListAgainAtRow();
+    return seen.has_value();
 }
 
 void FileCommands::ListAgainAtRow() {

@@ -3,11 +3,13 @@
 #include "common/text/Text.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace korvane {
 
 class App;
+class DiskWait;
 class FileRows;
 class ShownFolder;
 
@@ -18,7 +20,7 @@ class ShownFolder;
 class FileCommands {
 public:
     /// All outlive the object.
-    FileCommands(App& app, ShownFolder& folder, FileRows& rows);
+    FileCommands(App& app, ShownFolder& folder, FileRows& rows, DiskWait& wait);
 
     enum class Viewing : std::uint8_t { ByType, AsText };
 
@@ -40,17 +42,29 @@ public:
 private:
     /// Whether there is a current file, which is in the folder shown.
     bool HasFile();
+    /// The same, and its disk hasn't fallen silent: the user can stop the wait for it.
+    bool HasFileThatAnswers();
+    /// What the disk tells about a path.
+    struct Seen {
+        bool isFile = false;
+        bool isLink = false;
+        bool hasSize = false;
+    };
+    /// Nothing unless the disk tells about all of them.
+    std::optional<std::vector<Seen>> LookAt(const std::vector<Text>& paths);
     /// The names of the marked files in the folder shown. A box tells when there are none.
     std::vector<Text> MarkedFiles();
     /// Notes the current file for the windows that work on one; false when there is none.
     bool PutAtHand();
     void ShowCopyMove(std::int16_t kind);
-    bool MayDelete();
+    /// False if the disk didn't answer.
+    bool Recycle(const std::vector<Text>& names);
     void ListAgainAtRow();
 
     App& app_;
     ShownFolder& folder_;
     FileRows& rows_;
+    DiskWait& wait_;
 };
 
 } // namespace korvane

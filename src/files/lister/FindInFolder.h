@@ -1,8 +1,12 @@
 #pragma once
 
 #include "common/text/Text.h"
+#include "platform/PatientDisk.h"
 
 #include <cstddef>
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace korvane {
 
@@ -12,8 +16,8 @@ class App;
 /// search-goes-through-hidden-list.
 class FindInFolder {
 public:
-    /// The App outlives the object.
-    explicit FindInFolder(App& app) : app_(app) {}
+    /// The App outlives the object. `ask` asks the disk, which may not answer.
+    FindInFolder(App& app, DiskAsker ask) : app_(app), ask_(std::move(ask)) {}
 
     /// Asks for a text, and goes to the next file of the folder that has it in its name. After the last one
     /// the user is asked whether to begin again.
@@ -25,7 +29,10 @@ public:
     const Text& Found() const { return found_; }
 
 private:
+    std::optional<std::vector<Text>> NamesIn(const Text& folder, const Text& patterns);
+
     App& app_;
+    DiskAsker ask_;
     Text found_;
     std::size_t next_ = 0;
 };

@@ -12,6 +12,7 @@
 #include "files/jobs/Explore.h"
 #include "files/jobs/frmFolderOpNotify.h"
 #include "files/lister/ShownFolder.h"
+#include "files/lister/rows/DiskWait.h"
 #include "files/lists/frmFoldersToday.h"
 #include "files/names/frmNewDir.h"
 #include "files/names/frmRenDir.h"
@@ -39,16 +40,23 @@ Text RootOf(const PathStyle& style, Text folder) {
 
 } // namespace
 
-FolderCommands::FolderCommands(App& app, ShownFolder& folder, FolderTree& tree)
-    : app_(app), folder_(folder), tree_(tree) {}
+FolderCommands::FolderCommands(App& app, ShownFolder& folder, FolderTree& tree, DiskWait& wait)
+    : app_(app), folder_(folder), tree_(tree), wait_(wait) {}
+
+std::optional<bool> FolderCommands::IsThere(const Text& folder) {
+    return AnswerTo<bool>(
+        [this](const DiskQuestion& question) { return wait_.AskForCommand(question); },
+        [folder](const FileSystem& files, const StillWaits&) { return files.DirExists(folder); });
+}
 
 void FolderCommands::NewFolder() {
-    if (!folder_.Enter()) return;
+    if (!IsThere(folder_.Path()) || !folder_.Enter()) return;
     frmNewDir window(app_);
     if (ShowForResult(app_, window) == 1) folder_.GoTo(app_.Exchange<FileOperation>().NewFolderResult);
 }
 
 void FolderCommands::RenameFolder() {
+    if (!IsThere(folder_.Path())) return;
     app_.Exchange<ListerRequest>().ListerFolder = folder_.Path();
     frmRenDir window(app_);
     if (ShowForResult(app_, window) != 1) return;
@@ -60,6 +68,7 @@ void FolderCommands::DeleteFolder() {
     FileSystem& files = app_.Files();
     const Text folder = folder_.Path();
     if (files.Style().IsRoot(folder)) return TellError(app_, u"You cannot delete the root directory!");
+    if (!IsThere(folder)) return;
     const Text parent = ParentOf(files.Style(), folder);
     // Some systems hold on to a folder that is the current directory.
     files.ChangeDir(RootOf(files.Style(), folder));
@@ -99,7 +108,7 @@ void FolderCommands::ShowTodaysFolders(NoteFolder note) {
     pick.FolderPicked.clear();
     frmFoldersToday window(app_, folder_.Path());
     if (ShowForResult(app_, window) == frmFoldersToday::kToFavourites) return GetTarget();
-    if (!app_.Files().DirExists(pick.FolderPicked)) return;
+    if (!IsThere(pick.FolderPicked).value_or(false)) return;
     MapFolderPath(app_, pick.FolderPicked);
     const Text hint = app_.Exchange<ListerRequest>().CurrentFolderHint;
     if (!hint.empty()) folder_.GoTo(hint);

@@ -3,10 +3,12 @@
 #include "common/text/Text.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace korvane {
 
 class App;
+class DiskWait;
 class FolderTree;
 class ShownFolder;
 
@@ -14,7 +16,7 @@ class ShownFolder;
 class FolderCommands {
 public:
     /// All outlive the object.
-    FolderCommands(App& app, ShownFolder& folder, FolderTree& tree);
+    FolderCommands(App& app, ShownFolder& folder, FolderTree& tree, DiskWait& wait);
 
     void NewFolder();
     void RenameFolder();
@@ -33,6 +35,8 @@ public:
     void ShowTodaysFolders(NoteFolder note);
     /// Lets the user go to one of the favourite folders.
     void GetTarget();
+    /// Whether there is such a folder; nothing if its disk doesn't answer until the user stops the wait.
+    std::optional<bool> IsThere(const Text& folder);
 
 private:
     void TellOfDeletion(const Text& folder);
@@ -40,6 +44,7 @@ private:
     App& app_;
     ShownFolder& folder_;
     FolderTree& tree_;
+    DiskWait& wait_;
 };
 
 } // namespace korvane

@@ -7,6 +7,7 @@
 #include "dialogs/Questions.h"
 #include "files/lister/OpenShortcut.h"
 #include "files/lister/ShownFolder.h"
+#include "files/lister/rows/DiskWait.h"
 #include "files/lister/rows/FileRows.h"
 #include "files/lister/rows/NonTextFiles.h"
 #include "files/viewing/ViewFileByType.h"
@@ -32,8 +33,8 @@ bool IsBlank(TextView text) {
 
 } // namespace
 
-Proceeding::Proceeding(App& app, const ShownFolder& folder, const FileRows& rows)
-    : app_(app), folder_(folder), rows_(rows) {}
+Proceeding::Proceeding(App& app, const ShownFolder& folder, const FileRows& rows, DiskWait& wait)
+    : app_(app), folder_(folder), rows_(rows), wait_(wait) {}
 
 ListerRequest& Proceeding::Request() const {
     return app_.Exchange<ListerRequest>();
@@ -74,15 +75,21 @@ bool Proceeding::LoadOrSave(const Text& name) {
         Warn(app_, u"No file specified yet.");
         return false;
     }
-    const bool taken = !saves || MayBeWritten(path);
+    const std::optional<bool> there = IsThere(path);
+    const bool taken = there && (!saves || !*there || MayOverwrite(path));
     Request().ChosenFilePath = taken ? path : Text();
-    if (!saves) CollectMarked(name);
+    if (taken && !saves) CollectMarked(name);
     return taken;
 }
 
-bool Proceeding::MayBeWritten(const Text& path) {
-    return !app_.Files().FileExists(path) ||
-           AskYesNo(app_, u"Overwrite disk version of this file ?\r\n\r\n\"" + path + u"\"");
+std::optional<bool> Proceeding::IsThere(const Text& path) {
+    return AnswerTo<bool>(
+        [this](const DiskQuestion& question) { return wait_.AskForCommand(question); },
+        [path](const FileSystem& files, const StillWaits&) { return files.FileExists(path); });
+}
+
+bool Proceeding::MayOverwrite(const Text& path) {
+    return AskYesNo(app_, u"Overwrite disk version of this file ?\r\n\r\n\"" + path + u"\"");
 }
 
 /// The row that the list began with counts only when its name was taken.

@@ -3,10 +3,12 @@
 #include "common/text/Text.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace korvane {
 
 class App;
+class DiskWait;
 class FileRows;
 class ShownFolder;
 struct ListerRequest;
@@ -15,7 +17,7 @@ struct ListerRequest;
 class Proceeding {
 public:
     /// All outlive the object.
-    Proceeding(App& app, const ShownFolder& folder, const FileRows& rows);
+    Proceeding(App& app, const ShownFolder& folder, const FileRows& rows, DiskWait& wait);
 
     /// Whether the window closes, with the outcome 1.
     bool Run(const Text& name);
@@ -24,7 +26,9 @@ private:
     bool PickFolder();
     bool PickToAppend(const Text& name);
     bool LoadOrSave(const Text& name);
-    bool MayBeWritten(const Text& path);
+    /// Whether the file is there; nothing if the disk doesn't answer.
+    std::optional<bool> IsThere(const Text& path);
+    bool MayOverwrite(const Text& path);
     void CollectMarked(const Text& name);
     bool IsMarkedByUser(const Text& name) const;
     void Take(const Text& name);
@@ -33,6 +37,7 @@ private:
     App& app_;
     const ShownFolder& folder_;
     const FileRows& rows_;
+    DiskWait& wait_;
 };
 
 } // namespace korvane

@@ -155,9 +155,9 @@ frmGetFileFromTree::frmGetFileFromTree(App& app)
       tree_(app.Files(), TreeView1, FolderTimer),
       rows_(app, {ListView1, ProgressBar1, cmdEscape}, wait_),
       folder_(app, {txtFullPath, txtSearchSpec, tree_, rows_, wait_}),
-      fileCommands_(app, folder_, rows_),
-      folderCommands_(app, folder_, tree_),
-      proceeding_(app, folder_, rows_),
+      fileCommands_(app, folder_, rows_, wait_),
+      folderCommands_(app, folder_, tree_, wait_),
+      proceeding_(app, folder_, rows_, wait_),
       focus_({txtSearchSpec, txtFileName, TreeView1,
               [this] {
                   rows_.TakeFocus();
@@ -165,7 +165,7 @@ frmGetFileFromTree::frmGetFileFromTree(App& app)
                   if (rows_.Current() > 0) ShowCurrentName();
               },
               [this] { rows_.TakeFocus(); }}),
-      find_(app) {
+      find_(app, [this](const DiskQuestion& question) { return wait_.AskForCommand(question); }) {
     ListView1.MultiSelect = true;
     ListView1.GridLines = true;
     txtFullPath.Locked = true;
@@ -198,8 +198,9 @@ void frmGetFileFromTree::WireButtons() {
 void frmGetFileFromTree::WireParts() {
     tree_.FolderChanged = [this] { FolderChanged(); };
     tree_.Asks = [this](const DiskQuestion& question, const std::function<bool()>& wanted) {
-        return AskForTree(question, wanted);
+        return wait_.AskBetween(question, wanted, Focused() == nullptr ? TreeView1 : *Focused());
     };
+    tree_.AsksUnseen = [this](const DiskQuestion& question) { return AskDiskUnseen(app_, question); };
     folder_.Listing = [this] {
         find_.Reset();
         LayOutColumns();
@@ -318,6 +319,7 @@ void frmGetFileFromTree::LayOutColumns() {
 void frmGetFileFromTree::Unload() {
     rows_.Abandon();
     tree_.Abandon();
+    wait_.Abandon();
     app_.Settings.TreeFormLastPath = txtFullPath.Text;
     // Nothing reads it. Kept for compatibility: lister-pattern-is-forgotten.
     app_.Settings.TreeFormPathB = txtSearchSpec.Text;
@@ -329,7 +331,9 @@ void frmGetFileFromTree::Unload() {
 void frmGetFileFromTree::FilesDropped(const std::vector<Text>& paths) {
     const FileSystem& files = app_.Files();
     const Text& path = paths.front();
-    if (files.DirExists(path)) return folder_.GoTo(path);
+    const std::optional<bool> isFolder = folderCommands_.IsThere(path);
+    if (!isFolder) return;
+    if (*isFolder) return folder_.GoTo(path);
     folder_.GoTo(files.Style().DirectoryForChange(files.Style().FolderPart(path)));
     rows_.GoToName(files.Style().NamePart(path));
 }
@@ -379,19 +383,6 @@ void frmGetFileFromTree::DockRightWithWidth() {
 }
 
 // The tree, the list and the line of the name.
-
-/// Afterwards the list and the keyboard are as before.
-bool frmGetFileFromTree::AskForTree(const DiskQuestion& question, const std::function<bool()>& wanted) {
-    const bool listed = ListView1.Visible;
-    Control& focused = Focused() == nullptr ? TreeView1 : *Focused();
-    wait_.BeginAgain();
-    const bool answered = wait_.Ask(question, wanted);
-    if (!listed || ListView1.Visible) return answered;
-    // First of all, because a button that goes gives the keyboard to the list, which would be read then.
-    focused.SetFocus();
-    wait_.Show(false);
-    return answered;
-}
 
 void frmGetFileFromTree::FolderChanged() {
     folder_.TakePath(tree_.Folder());

@@ -92,7 +92,6 @@ private:
 
     // The tree, the list and the line of the name.
 
-    bool AskForTree(const DiskQuestion& question, const std::function<bool()>& wanted);
     void FolderChanged();
     void ReadFolderOfTree();
     void ItemChosen();

@@ -27,7 +27,7 @@ TextView DriveIcon(DriveType type) {
 
 } // namespace
 
-FolderTree::FolderTree(const FileSystem& files, TreeView& tree, Timer& timer)
+FolderTree::FolderTree(FileSystem& files, TreeView& tree, Timer& timer)
     : files_(files), tree_(tree), timer_(timer) {
     timer_.Enabled = false;
     timer_.Tick = [this] { AskSome(); };
@@ -108,18 +108,52 @@ Text FolderTree::AddFolder(const Text& parent, const Text& name) {
 
 void FolderTree::AskSome() {
     const UpdateScope update(tree_);
-    for (std::size_t asked = 0; asked < kAskedAtOnce && !unasked_.empty(); ++asked) {
-        Ask(unasked_.front());
-        unasked_.pop_front();
-    }
+    Names asked = TakeUnasked();
+    const auto answers = AskAbout(asked);
+    std::size_t known = 0;
+    for (; known < asked.size() && answers[known]; ++known)
+        tree_.SetExpandable(asked[known], *answers[known]);
+    asked.erase(asked.begin(), asked.begin() + static_cast<std::ptrdiff_t>(known));
+    if (!asked.empty()) LeaveUnasked(asked);
     timer_.Enabled = !unasked_.empty();
 }
 
-void FolderTree::Ask(const Text& folder) {
+/// One that was opened meanwhile has been read.
+bool FolderTree::IsUnread(const Text& folder) const {
     const TreeNode* node = tree_.Node(folder);
-    // One that was opened meanwhile has been read.
-    if (node == nullptr || node->expanded || !node->children.empty()) return;
-    tree_.SetExpandable(folder, files_.MayHaveFolders(folder));
+    return node != nullptr && !node->expanded && node->children.empty();
+}
+
+/// The next folders to ask about.
+FolderTree::Names FolderTree::TakeUnasked() {
+    Names folders;
+    for (std::size_t taken = 0; taken < kAskedAtOnce && !unasked_.empty(); ++taken) {
+        if (IsUnread(unasked_.front())) folders.push_back(std::move(unasked_.front()));
+        unasked_.pop_front();
+    }
+    return folders;
+}
+
+std::vector<std::optional<bool>> FolderTree::AskAbout(const Names& folders) {
+    const DiskAsker direct = [this](const DiskQuestion& question) {
+        question(files_, [] { return true; });
+        return true;
+    };
+    return AnswersSoFar(AsksUnseen ? AsksUnseen : direct, folders,
+                        [](const FileSystem& files, const Text& path) { return files.MayHaveFolders(path); });
+}
+
+/// The disk doesn't answer for the first of these. What is in the same folder as that one isn't asked about
+/// any more, since each would cost the user a moment: it may have folders.
+void FolderTree::LeaveUnasked(const Names& folders) {
+    unasked_.insert(unasked_.begin(), folders.begin(), folders.end());
+    const PathStyle style = files_.Style();
+    const Text silent(style.FolderPart(folders.front()));
+    std::erase_if(unasked_, [&](const Text& folder) {
+        if (style.FolderPart(folder) != silent) return false;
+        if (IsUnread(folder)) tree_.SetExpandable(folder, true);
+        return true;
+    });
 }
 
 /// Whether a folder is there, and the names in each folder on the way to it and in itself.

@@ -20,7 +20,7 @@ class TreeView;
 class FolderTree {
 public:
     /// All outlive the object, which answers the events of the tree and the timer from now on.
-    FolderTree(const FileSystem& files, TreeView& tree, Timer& timer);
+    FolderTree(FileSystem& files, TreeView& tree, Timer& timer);
     FolderTree(const FolderTree&) = delete;
     FolderTree& operator=(const FolderTree&) = delete;
     ~FolderTree();
@@ -39,6 +39,8 @@ public:
     /// Asks the disk about folders, of which each may be on one that doesn't answer. Without it the disk is
     /// asked directly.
     std::function<bool(const DiskQuestion&, const std::function<bool()>& wanted)> Asks;
+    /// The same for what the user hasn't asked for: it waits for a moment only, and shows nothing.
+    DiskAsker AsksUnseen;
     /// Ends what is asked at the time, since the window goes.
     void Abandon() { ++journey_; }
 
@@ -67,14 +69,17 @@ private:
     std::optional<Found> LookFor(const Text& folder, const std::vector<Text>& way);
     Text OpenWay(Text node, const Names& way, const std::vector<Names>& folders);
     void AskSome();
-    void Ask(const Text& folder);
+    bool IsUnread(const Text& folder) const;
+    Names TakeUnasked();
+    std::vector<std::optional<bool>> AskAbout(const Names& folders);
+    void LeaveUnasked(const Names& folders);
     /// The key of the new node.
     Text AddFolder(const Text& parent, const Text& name);
     Text Root(TextView fullPath) const;
     Names NamesBelow(TextView root, TextView fullPath) const;
     Text NodeBelow(const Text& parent, const Text& name);
 
-    const FileSystem& files_;
+    FileSystem& files_;
     TreeView& tree_;
     Timer& timer_;
     /// The folders of which nobody has asked yet whether there are folders in them.

@@ -67,7 +67,7 @@ private:
         changed_.notify_all();
     }
 
-    void Run(const FileSystem& files) {
+    void Run(FileSystem& files) {
         std::unique_lock lock(mutex_);
         for (;;) {
             changed_.wait(lock, [this] { return state_ != State::Idle; });
@@ -83,7 +83,7 @@ private:
     }
 
     /// A question that fails is one that isn't answered.
-    bool Answers(const DiskQuestion& question, const FileSystem& files) const {
+    bool Answers(const DiskQuestion& question, FileSystem& files) const {
         try {
             question(files, [this] { return !givenUp_; });
             return true;

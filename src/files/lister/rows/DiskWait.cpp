@@ -1,8 +1,10 @@
 #include "files/lister/rows/DiskWait.h"
 
+#include "common/text/ScopedValue.h"
 #include "context/App.h"
 #include "context/DiskQuestions.h"
 #include "controls/CommandButton.h"
+#include "controls/Form.h"
 #include "controls/lists/ListView.h"
 #include "controls/views/ProgressBar.h"
 #include "platform/Clock.h"
@@ -27,6 +29,27 @@ bool DiskWait::Ask(const DiskQuestion& question, const std::function<bool()>& wa
         return (!seen || GoesOn()) && wanted();
     };
     return AskDisk(app_, question, stillWaits);
+}
+
+bool DiskWait::AskBetween(const DiskQuestion& question, const std::function<bool()>& wanted,
+                          Control& focused) {
+    const bool listed = parts_.list.Visible;
+    BeginAgain();
+    const bool answered = Ask(question, wanted);
+    if (!listed || parts_.list.Visible) return answered;
+    // First of all, because a button that goes gives the keyboard to the list, which would be read then.
+    focused.SetFocus();
+    Show(false);
+    return answered;
+}
+
+bool DiskWait::AskForCommand(const DiskQuestion& question) {
+    if (inCommand_) return false;
+    const ScopedValue inCommand(inCommand_, true);
+    Control* const focused = parts_.list.Owner().Focused();
+    const bool answered = AskBetween(
+        question, [this] { return !abandoned_; }, focused == nullptr ? parts_.list : *focused);
+    return answered && !abandoned_;
 }
 
 bool DiskWait::GoesOn() {

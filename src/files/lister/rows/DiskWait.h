@@ -30,6 +30,14 @@ public:
         const DiskQuestion& question, const std::function<bool()>& wanted,
         const std::function<bool()>& isLong = [] { return false; });
 
+    /// The same in the midst of other things: afterwards the list is as before, and `focused` has the
+    /// keyboard again.
+    bool AskBetween(const DiskQuestion& question, const std::function<bool()>& wanted, Control& focused);
+    /// The same for a command. Only one at a time waits, and none goes on when the window has gone.
+    bool AskForCommand(const DiskQuestion& question);
+    /// Ends every wait, since the window goes.
+    void Abandon() { abandoned_ = true; }
+
     void Stop() { stopped_ = true; }
     bool Stopped() const { return stopped_; }
     /// The user hasn't stopped what begins now.
@@ -44,6 +52,8 @@ private:
     App& app_;
     Parts parts_;
     bool stopped_ = false;
+    bool abandoned_ = false;
+    bool inCommand_ = false;
 };
 
 } // namespace korvane

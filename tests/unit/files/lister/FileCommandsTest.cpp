@@ -118,7 +118,7 @@ TEST_P(FileCommandsTest, AsATextAFileIsViewedWhateverItsTypeAndSize) {
     FileRows rows(app, {parts.list, parts.bar, parts.stop}, wait);
     ShownFolder folder(app, {parts.path, parts.pattern, tree, rows, wait});
     folder.GoTo(At(u"Data"));
-    FileCommands(app, folder, rows).View(FileCommands::Viewing::AsText);
+    FileCommands(app, folder, rows, wait).View(FileCommands::Viewing::AsText);
     EXPECT_THAT(texts.viewed, ElementsAre(At(u"Data/c.png")));
     EXPECT_THAT(t.shell.Starts(), IsEmpty());
 }

@@ -30,7 +30,10 @@ protected:
         return find.Found();
     }
 
-    FindInFolder find{app};
+    FindInFolder find{app, [this](const DiskQuestion& question) {
+                          question(t.files, [] { return true; });
+                          return true;
+                      }};
 };
 KORVANE_IN_BOTH_STYLES(FindInFolderTest);
 

@@ -1,7 +1,6 @@
 // The lister on a disk that doesn't answer, as one of a network that has gone.
 
-#include "ListerFixture.h"
-#include "testing/MemoryPatientDisk.h"
+#include "SilentDiskFixture.h"
 
 namespace korvane {
 namespace {
@@ -9,43 +8,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class SilentDiskTest : public ListerFixture {
-protected:
-    SilentDiskTest() { app.SetPort<PatientDisk>(&disk); }
-
-    /// What the user does once it is clear that the lister waits.
-    void WhileItWaits(std::function<void()> act) { t.screen.QueueMessage(std::move(act)); }
-    /// Presses the button while the question after so many ones is waited for.
-    void StopAfter(frmGetFileFromTree& f, int questions) {
-        WhileItWaits([this, &f, questions] {
-            if (disk.Asked() <= questions) return StopAfter(f, questions);
-            f.cmdEscape.Press();
-        });
-    }
-    static void ExpectAWait(const frmGetFileFromTree& f) {
-        EXPECT_TRUE(f.ProgressBar1.Visible);
-        EXPECT_TRUE(f.cmdEscape.Visible);
-        EXPECT_FALSE(f.ListView1.Visible);
-        EXPECT_EQ(f.Focused(), &f.cmdEscape);
-    }
-    static void ExpectNoWait(const frmGetFileFromTree& f) {
-        EXPECT_FALSE(f.ProgressBar1.Visible);
-        EXPECT_FALSE(f.cmdEscape.Visible);
-        EXPECT_TRUE(f.ListView1.Visible);
-    }
-    /// Goes to a folder whose disk doesn't answer until the user stops it.
-    void GoToSilent(frmGetFileFromTree& f) {
-        disk.Hold();
-        WhileItWaits([&f] {
-            ExpectAWait(f);
-            f.cmdEscape.Press();
-        });
-        f.TreeView1.Select(At(u"Data/sub"));
-        disk.Release();
-    }
-
-    MemoryPatientDisk disk{t.files, t.clock};
-};
+class SilentDiskTest : public SilentDiskFixture {};
 KORVANE_IN_BOTH_STYLES(SilentDiskTest);
 
 TEST_P(SilentDiskTest, AFolderCanBeStopped) {
