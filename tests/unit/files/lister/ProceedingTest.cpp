@@ -165,6 +165,21 @@ TEST_P(ProceedingTest, RowsOfTheFolderBeforeAreNotTaken) {
     EXPECT_EQ(request.ChosenFiles.at(1), u"");
 }
 
+/// A folder of more files than the caller's count can tell.
+class TooManyFiles : public ListerFixture {};
+INSTANTIATE_TEST_SUITE_P(Posix, TooManyFiles, testing::Values(PathStyle::Posix));
+
+TEST_P(TooManyFiles, AsManyAreTakenAsCanBeCounted) {
+    AddFiles(32'768);
+    Open([](frmGetFileFromTree& f) {
+        f.ListView1.Select(1);
+        Press(f.ListView1, 'A', Mask::Ctrl);
+        f.cmdOk.Press();
+    });
+    EXPECT_EQ(request.ChosenFileCount, 32'767);
+    EXPECT_EQ(request.ChosenFiles.size(), 32'768U);
+}
+
 // Saving.
 
 TEST_P(ProceedingTest, ASaveTakesANewName) {
