@@ -5,6 +5,7 @@
 #include "Times.h"
 #include "Xvfb.h"
 #include "context/App.h"
+#include "context/exchange/TextWindowState.h"
 #include "controls/Form.h"
 #include "controls/text/TextControl.h"
 #include "grid/Grid.h"
@@ -21,6 +22,7 @@
 #include "text/formats/frmQuickNameSize.h"
 #include "text/insert/InsertTarget.h"
 #include "text/insert/frmASCIIBox.h"
+#include "text/window/frm_RTF_HTM.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -114,11 +116,14 @@ struct Contender {
     const char* what;
     QtFormHost& forms;
     std::function<std::unique_ptr<Form>()> make;
+    /// The window whose look was made in a free moment before the opening.
+    const char* ahead = nullptr;
     Times times{};
 
     /// Opens the window and paints it; closing it isn't measured.
     void Open() {
         std::unique_ptr<Form> form;
+        if (ahead != nullptr) forms.MakeAhead(ahead);
         times.Add([&] {
             form = make();
             form->Show();
@@ -178,6 +183,9 @@ int main(int argc, char** argv) {
     // All windows have the size of the empty one.
     stage.app.Settings.AsciiWidth = 620 * kTwipsPerPixel;
     stage.app.Settings.AsciiHeight = 520 * kTwipsPerPixel;
+    stage.app.Settings.RtfWidth = 620 * kTwipsPerPixel;
+    stage.app.Settings.RtfHeight = 520 * kTwipsPerPixel;
+    stage.app.Exchange<TextWindowState>().TextWindowUntitled = 1;
     QtFormHost emptyForms{kEmptyForms};
     Contender contenders[] = {
         {"an empty dialog", emptyForms, [&] { return std::make_unique<Form>(emptyForms, "frmEmpty", u""); }},
@@ -186,6 +194,10 @@ int main(int argc, char** argv) {
          [&] { return std::make_unique<UnfilledTable>(stage.app, &stage.target); }},
         {"the table of characters", stage.forms,
          [&] { return std::make_unique<frmASCIIBox>(stage.app, &stage.target); }},
+        {"the text window without a document", stage.forms,
+         [&] { return std::make_unique<frm_RTF_HTM>(stage.app); }},
+        {"the same with its look made ahead", stage.forms,
+         [&] { return std::make_unique<frm_RTF_HTM>(stage.app); }, "frm_RTF_HTM"},
     };
     Contender first{"the font dialog, first opening", stage.forms, contenders[1].make};
     PrintHead();

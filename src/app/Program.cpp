@@ -105,6 +105,7 @@ int Program::Run(const Text& path) {
     if (const QWidget* window = forms_.WidgetOf(main)) system_.MainWindowShown(window->winId());
     // Most users open a file next.
     forms_.MakeAheadSoon("frmGetFileFromTree");
+    forms_.MakeAheadSoon("frm_RTF_HTM");
     QObject whileItRuns;
     CloseAtLogOut(
         main, [&] { CloseUnasked(main); }, whileItRuns);

@@ -784,6 +784,28 @@ TEST_F(QtTextViewTest, AViewThatLostItsControlShowsNothing) {
     EXPECT_EQ(Shown(), "abc");
 }
 
+TEST_F(QtTextViewTest, ATextIsMadeForTheScreenWhenItIsSeenFirst) {
+    TextControl hidden(form, "hidden");
+    hidden.Visible = false;
+    hidden.SetAll(u"abc");
+    QtTextView other;
+    auto* const its = new TextControlAdaptor(hidden, other);
+    its->WriteAll();
+    EXPECT_EQ(other.Shown(), nullptr);
+    hidden.Left = Twips{300};
+    hidden.ZoomFactor = 200;
+    hidden.Visible = true;
+    ASSERT_EQ(other.Shown(), &hidden);
+    EXPECT_EQ(other.Mirror().Current().toRawText(), "abc");
+    other.resize(300, 200);
+    other.show();
+    EXPECT_GE(other.viewport()->x(), 20);
+    EXPECT_DOUBLE_EQ(other.Zoom(), 2);
+    hidden.Visible = false;
+    EXPECT_EQ(other.Shown(), &hidden);
+    its->Detach();
+}
+
 TEST_F(QtTextViewTest, ShowsAWantedSelectionInTheUpperPart) {
     Text lines;
     for (int line = 0; line < 300; ++line)

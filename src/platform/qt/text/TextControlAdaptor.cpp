@@ -26,6 +26,7 @@ void TextControlAdaptor::Write(Aspect aspect) {
         widget_.ReadLocked();
         break;
     case Aspect::Visible:
+        EnsureShown();
         widget_.setUpdatesEnabled(control_.Redraw);
         break;
     case Aspect::ToolTip:
@@ -37,6 +38,14 @@ void TextControlAdaptor::Write(Aspect aspect) {
     default:
         break;
     }
+}
+
+/// A text that nobody has seen yet isn't made for the screen.
+void TextControlAdaptor::EnsureShown() {
+    if (!control_.Visible || widget_.Shown() != nullptr) return;
+    widget_.Attach(control_);
+    widget_.ReadToolTip();
+    widget_.ReadLeft();
 }
 
 void TextControlAdaptor::Deafen() {

@@ -7,14 +7,15 @@ namespace korvane {
 
 class TextControlAdaptor : public AdaptorOf<TextControl, QtTextView> {
 public:
-    TextControlAdaptor(TextControl& control, QtTextView& view) : AdaptorOf(control, view) {
-        view.Attach(control);
-    }
+    TextControlAdaptor(TextControl& control, QtTextView& view) : AdaptorOf(control, view) { EnsureShown(); }
 
 protected:
     void Write(Aspect aspect) override;
     void Deafen() override;
     void LetGo() override { widget_.Detach(); }
+
+private:
+    void EnsureShown();
 };
 
 } // namespace korvane
