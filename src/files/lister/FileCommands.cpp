@@ -154,6 +154,8 @@ void FileCommands::ShowCopyMove(std::int16_t kind) {
                                 static_cast<std::int16_t>(request.lstMarkedFiles.size()));
         frmCopyMove(app_).ShowModal();
     }
+    // A target from the favourites is left there.
+    app_.Exchange<ListerRequest>().ListerFolder = folder_.Path();
     ListAgainAtRow();
 }
 

@@ -335,6 +335,19 @@ TEST_P(FileCommandsTest, TheMarkedFilesAreCopied) {
     EXPECT_EQ(request.ChosenFileCount, 1);
 }
 
+TEST_P(FileCommandsTest, AfterACopyARefreshShowsTheFolderAndNotTheTarget) {
+    Open([this](frmGetFileFromTree& f) {
+        t.user.On<frmCopyMove>([this](frmCopyMove& copy) {
+            request.ListerFolder = At(u"Data/sub");
+            copy.Close();
+        });
+        f.cmdCopyFile.Press();
+        EXPECT_EQ(request.ListerFolder, At(u"Data"));
+        f.OfficeMenu1.Choose("mnuFile_Refresh");
+        EXPECT_EQ(f.txtFullPath.Text.Get(), At(u"Data"));
+    });
+}
+
 TEST_P(FileCommandsTest, MovedFilesLeaveTheList) {
     t.files.AddDir(At(u"To"));
     app.Exchange<CopyMoveRequest>().LastCopyTarget = At(u"To");
