@@ -6,6 +6,7 @@
 #include "grid/Grid.h"
 #include "platform/native/NativeFileSystem.h"
 #include "platform/native/NativePath.h"
+#include "platform/native/NativePatientDisk.h"
 #include "testing/MemoryClipboard.h"
 #include "testing/MemoryClock.h"
 #include "testing/MemoryInstanceChannel.h"
@@ -36,6 +37,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kDefaultRounds = 9;
+/// As the copy window has it.
+constexpr std::size_t kFilesInStep = 256;
 
 struct Seconds {
     double wall = 0;
@@ -101,6 +104,8 @@ int RunJob(const Stage& stage) {
     MemoryInstanceChannel instance;
     NoForms forms;
     App app({files, messages, clipboard, clock, screen, shell, instance, forms, [] { return nullptr; }});
+    NativePatientDisk patientDisk([] { return std::make_unique<NativeFileSystem>(u"/nowhere"); });
+    app.SetPort<PatientDisk>(&patientDisk);
     std::vector<Text> items;
     for (const std::string& name : stage.names)
         items.push_back(FromUtf8(name));
@@ -109,7 +114,7 @@ int RunJob(const Stage& stage) {
                              .targetFolder = FromNativePath(stage.to)};
     CopyMoveRun run;
     CopyJob job(app, task, run, {[&screen] { screen.ProcessMessages(); }, [] {}});
-    while (job.Step()) {
+    while (job.Step(kFilesInStep)) {
     }
     return run.FilesCopied == static_cast<int>(stage.names.size()) ? 0 : 1;
 }

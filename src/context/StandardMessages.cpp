@@ -40,13 +40,16 @@ void ShowCannotLocate(App& app, Text& file) {
 
 void ShowCannotAccess(App& app, TextView file, FileAccess access) {
     // This is read before the box is shown, because what runs meanwhile may touch the disk.
-    const Text reason = QuotedReason(app.Files().LastErrorText());
+    ShowCannotAccess(app, file, access, app.Files().LastErrorText());
+}
+
+void ShowCannotAccess(App& app, TextView file, FileAccess access, TextView reason) {
     const Text shown(Trim(file).empty() ? u"( no name specified or name is empty ! )" : file);
     ShowBox(app,
             Text(u"Cannot ") + (access == FileAccess::Save ? u"save" : u"delete") + u" this file :" +
                 kBlankLine + shown + kBlankLine +
-                u"The error was probably triggered for the following reason : " + kBlankLine + reason +
-                kBlankLine,
+                u"The error was probably triggered for the following reason : " + kBlankLine +
+                QuotedReason(reason) + kBlankLine,
             MessageIcon::Stop);
 }
 
@@ -56,7 +59,11 @@ void ShowPasteHint(App& app) {
 }
 
 void DeleteFileQuietly(App& app, TextView file) {
-    if (!file.empty() && app.Files().FileExists(file)) app.Files().Remove(file);
+    DeleteFileQuietly(app.Files(), file);
+}
+
+void DeleteFileQuietly(FileSystem& files, TextView file) {
+    if (!file.empty() && files.FileExists(file)) files.Remove(file);
 }
 
 } // namespace korvane

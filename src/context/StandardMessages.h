@@ -7,6 +7,7 @@
 namespace korvane {
 
 class App;
+class FileSystem;
 
 /// Tells that a file can't be loaded, and which directory is the current one.
 void ShowCannotLoad(App& app, TextView file);
@@ -20,11 +21,14 @@ enum class FileAccess : std::uint8_t { Save, Delete };
 
 /// Tells that a file can't be written or deleted, with the words of the file system's last failure.
 void ShowCannotAccess(App& app, TextView file, FileAccess access = FileAccess::Save);
+/// The same with the words of an earlier failure.
+void ShowCannotAccess(App& app, TextView file, FileAccess access, TextView reason);
 
 /// Tells how to paste a text that was put in the clipboard.
 void ShowPasteHint(App& app);
 
 /// Deletes the file if it is there. A failure has no consequence.
 void DeleteFileQuietly(App& app, TextView file);
+void DeleteFileQuietly(FileSystem& files, TextView file);
 
 } // namespace korvane

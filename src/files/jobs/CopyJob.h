@@ -1,26 +1,24 @@
 #pragma once
 
 #include "files/jobs/CopyMoveRun.h"
+#include "files/jobs/CopyTask.h"
 
+#include <chrono>
+#include <cstddef>
 #include <functional>
-#include <vector>
+#include <memory>
 
 namespace korvane {
 
 class App;
+class CopyWork;
+class FileSystem;
 
-/// Copies or moves the files of one folder to another one, a file with each step.
+/// Copies or moves the files of one folder to another one, some files with each step. The work on the disk is
+/// done where it can be left alone when the disk falls silent.
 class CopyJob {
 public:
-    struct Task {
-        bool move = false;
-        Text sourceFolder;
-        /// The files' names.
-        std::vector<Text> items;
-        Text targetFolder;
-        /// Another name for the target of a single file; blank for the same one.
-        Text targetName{};
-    };
+    using Task = CopyTask;
     /// What the job leaves to whoever runs it.
     struct Host {
         /// Lets messages run, by which the job may be told to stop.
@@ -32,33 +30,31 @@ public:
     /// All outlive the job. `run` has its answers of earlier jobs cleared.
     CopyJob(App& app, Task task, CopyMoveRun& run, Host host);
 
-    /// Handles the next file; false when the job has ended.
-    bool Step();
+    /// Handles the next file, or so many; false when the job has ended. A job that is stopped ends after the
+    /// file at hand, or when the disk has done nothing for some seconds.
+    bool Step(std::size_t files = 1);
+    /// Which file is at hand, from 1 on.
+    std::size_t Number() const;
 
 private:
-    bool StopsAtYield();
-    void Handle(const Text& item);
-    void Decide(const Text& source, Text& target);
-    bool IsNewer(const Text& source, const Text& target) const;
-    void Transfer(const Text& source, const Text& target);
-    std::int64_t BytesNeeded(const Text& source, const Text& target) const;
-    bool HasRoomFor(std::int64_t bytes) const;
-    bool Copy(const Text& source, const Text& target);
-    void DeleteSource(const Text& source);
-    void ReportFullDrive(const Text& source);
+    bool GoOn(std::size_t files);
+    bool StillWaits();
+    bool IsSilent();
+    void TakeRun();
+    void ReportFullDrive();
 
     App& app_;
-    Task task_;
+    Text targetFolder_;
     CopyMoveRun& run_;
     Host host_;
-    /// As the report of a full drive names it.
-    Text drive_;
-    bool driveKnown_ = false;
-    std::size_t next_ = 0;
+    std::shared_ptr<CopyWork> work_;
     bool ended_ = false;
+    /// What the disk had done at a time.
+    int steps_ = 0;
+    std::chrono::milliseconds stepsSince_{};
 };
 
 /// Whether both paths lead to one folder.
-bool AreSameFolder(const App& app, TextView a, TextView b);
+bool AreSameFolder(const FileSystem& files, TextView a, TextView b);
 
 } // namespace korvane

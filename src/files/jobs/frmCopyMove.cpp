@@ -2,6 +2,8 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
+#include "context/FileChooser.h"
 #include "context/exchange/CopyMoveRequest.h"
 #include "context/exchange/FileOperation.h"
 #include "context/exchange/FolderPick.h"
@@ -14,6 +16,7 @@
 #include "files/jobs/frmAskCopyMove.h"
 #include "files/names/FieldKeys.h"
 #include "files/names/frmNewDir.h"
+#include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -27,6 +30,11 @@ namespace {
 
 constexpr std::int16_t kMove = 2;
 constexpr std::int16_t kForCopyWindow = 1;
+
+/// From this time on a wait for the disk is seen.
+constexpr std::chrono::milliseconds kLong{300};
+/// So many files are worked on at a time, since each time costs a turn to another thread and back.
+constexpr std::size_t kFilesInStep = 256;
 
 constexpr Twips kLeastWidth{6576};
 constexpr Twips kLeastHeight{6000};
@@ -87,6 +95,10 @@ void frmCopyMove::Wire() {
         // In an idle window the key closes it.
         if (running_) RunKey(Tables::kOkKeys, *this, key);
     };
+    folders_.Asks = [this](const DiskQuestion& question, const std::function<bool()>& wanted) {
+        return Ask(question, wanted);
+    };
+    folders_.AsksUnseen = [this](const DiskQuestion& question) { return AskDiskUnseen(app_, question); };
     folders_.FolderChanged = [this] { txtFullPath.Text = folders_.Folder(); };
     TreeView1.KeyDown = KeysOf(*this, Tables::kTreeKeys);
     txtTargetName.KeyDown = [this](KeyEvent& key) { txtTargetName_KeyDown(key); };
@@ -137,7 +149,8 @@ void frmCopyMove::ShowRequest() {
 
 void frmCopyMove::GoToStart() {
     const Text& last = Request().LastCopyTarget;
-    const Text start = app_.Files().DirExists(last) ? last : app_.Files().CurrentDir();
+    const bool there = HasFolderSoon(app_, last).value_or(false);
+    const Text start = there ? last : app_.Files().CurrentDir();
     txtFullPath.Text = start;
     folders_.SetTreePath(start);
 }
@@ -148,7 +161,8 @@ bool frmCopyMove::QueryUnload() {
 }
 
 void frmCopyMove::Unload() {
-    app_.Files().ChangeDir(savedDir_);
+    folders_.Abandon();
+    GoBackTo(app_, savedDir_);
     if (State == FormState::Minimised) return;
     auto& settings = app_.Settings;
     settings.CopyMoveGeo1 = Left.Get().Number();
@@ -169,14 +183,47 @@ void frmCopyMove::KeyDown(KeyEvent& key) {
     Close();
 }
 
+// The disk.
+
+/// A long wait is shown as a job is, with the same button to stop it.
+bool frmCopyMove::Ask(const DiskQuestion& question, const std::function<bool()>& wanted) {
+    if (running_) return false;
+    // The window can't be seen yet.
+    if (!Shown()) return AskDiskSoon(app_, question);
+    const auto start = app_.Clock().Uptime();
+    Control& focused = Focused() == nullptr ? TreeView1 : *Focused();
+    run_ = {};
+    const bool answered = AskDisk(app_, question, [&] {
+        if (app_.Clock().Uptime() - start < kLong) return wanted();
+        frmCopying.Caption = u" Waiting for the disk ";
+        if (!running_) SetRunning(true);
+        app_.Screen().Yield();
+        return run_.LastKey != Key::Escape && run_.CancelPressed == 0 && wanted();
+    });
+    if (running_) {
+        SetRunning(false);
+        focused.SetFocus();
+    }
+    return answered;
+}
+
+/// Nothing when the user stopped the wait.
+template <class AnswerT, class QuestionT>
+std::optional<AnswerT> frmCopyMove::AnswerOf(QuestionT question) {
+    return AnswerTo<AnswerT>([this](const DiskQuestion& asked) { return Ask(asked, [] { return true; }); },
+                             [question](FileSystem& files, const StillWaits&) { return question(files); });
+}
+
 // The job.
 
 void frmCopyMove::Proceed() {
+    const auto same =
+        AnswerOf<bool>([target = txtFullPath.Text.Get(), source = Request().CopySourceFolder](
+                           const FileSystem& files) { return AreSameFolder(files, target, source); });
+    if (!same) return;
     run_ = {};
     run_.UpdateOnly = chkUpdateOnly.Value;
-    if (AreSameFolder(app_, txtFullPath.Text.Get(), Request().CopySourceFolder)) {
-        return Warn(app_, u"Source and Target directories must be different!");
-    }
+    if (*same) return Warn(app_, u"Source and Target directories must be different!");
     {
         const Hourglass hourglass(app_.Screen());
         Run();
@@ -188,22 +235,29 @@ void frmCopyMove::Proceed() {
 
 void frmCopyMove::Run() {
     SetRunning(true);
-    const auto yield = [this] { app_.Screen().ProcessMessages(); };
     const auto ask = [this] { frmAskCopyMove(app_, run_).ShowModal(); };
     const CopyMoveRequest& request = Request();
-    const std::vector<Text>& marked = request.lstMarkedFiles;
+    const CopyJob* running = nullptr;
+    const auto yield = [this, &running] {
+        ShowNumber(running->Number());
+        app_.Screen().ProcessMessages();
+    };
     CopyJob job(app_,
                 {.move = request.CopyMoveKind == kMove,
                  .sourceFolder = request.CopySourceFolder,
-                 .items = marked,
+                 .items = request.lstMarkedFiles,
                  .targetFolder = txtFullPath.Text,
                  .targetName = txtTargetName.Text},
                 run_, {.yield = yield, .ask = ask});
-    int number = 0;
-    do {
-        frmCopying.Caption = u" File " + NumberText(++number) + u" of " + NumberText(marked.size()) + u" ";
-    } while (job.Step());
+    running = &job;
+    while (job.Step(kFilesInStep)) {
+    }
     SetRunning(false);
+}
+
+void frmCopyMove::ShowNumber(std::size_t number) {
+    const Text all = NumberText(Request().lstMarkedFiles.size());
+    frmCopying.Caption = u" File " + NumberText(number) + u" of " + all + u" ";
 }
 
 /// While a job runs, all it depends on is held still.
@@ -241,9 +295,9 @@ void frmCopyMove::ShowFolder(const Text& folder) {
 void frmCopyMove::NewFolder() {
     const Text folder = txtFullPath.Text;
     // The window makes the folder in the current directory.
-    if (!app_.Files().ChangeDir(folder)) {
-        return TellError(app_, u"Cannot locate this directory:\r\n\r\n" + folder);
-    }
+    const auto entered = AnswerOf<bool>([folder](FileSystem& files) { return files.ChangeDir(folder); });
+    if (!entered) return;
+    if (!*entered) return TellError(app_, u"Cannot locate this directory:\r\n\r\n" + folder);
     app_.DialogResult = 0;
     frmNewDir(app_).ShowModal();
     ShowFolder(app_.DialogResult == 1 ? app_.Exchange<FileOperation>().NewFolderResult : folder);
@@ -254,9 +308,10 @@ void frmCopyMove::DeleteFolder() {
     if (app_.Files().Style().IsRoot(folder)) {
         return TellError(app_, u"You cannot delete the root directory!");
     }
-    if (!app_.Files().FileNames(folder, u"*.*").empty()) {
-        return Warn(app_, u"You can only delete an empty directory!");
-    }
+    const auto names = AnswerOf<std::vector<Text>>(
+        [folder](const FileSystem& files) { return files.FileNames(folder, u"*.*"); });
+    if (!names) return;
+    if (!names->empty()) return Warn(app_, u"You can only delete an empty directory!");
     const Answer answer = app_.Messages().Show({u"Do you wish to delete this directory ?\r\n\r\n" + folder,
                                                 MessageIcon::Exclamation, MessageButtons::YesNo, 2});
     if (answer == Answer::Yes) RemoveFolder(folder);
@@ -265,8 +320,12 @@ void frmCopyMove::DeleteFolder() {
 void frmCopyMove::RemoveFolder(const Text& folder) {
     const PathStyle style = app_.Files().Style();
     const Text parent = style.DirectoryForChange(style.FolderPart(folder));
-    app_.Files().ChangeDir(parent);
-    if (!app_.Files().RemoveDir(folder)) {
+    const auto removed = AnswerOf<bool>([folder, parent](FileSystem& files) {
+        files.ChangeDir(parent);
+        return files.RemoveDir(folder);
+    });
+    if (!removed) return;
+    if (!*removed) {
         Warn(app_, u"There was an error attempting to remove the following directory.\r\n\r\n" + folder +
                        u"\r\n\r\nMaybe it is not a terminal node in the drive tree ?");
     }

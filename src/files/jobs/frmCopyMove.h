@@ -12,6 +12,9 @@
 #include "files/jobs/CopyMoveRun.h"
 #include "files/tree/FolderTree.h"
 
+#include <cstddef>
+#include <optional>
+
 namespace korvane {
 
 class App;
@@ -50,6 +53,9 @@ private:
     struct Tables;
 
     void Wire();
+    bool Ask(const DiskQuestion& question, const std::function<bool()>& wanted);
+    template <class AnswerT, class QuestionT>
+    std::optional<AnswerT> AnswerOf(QuestionT question);
     void Place();
     void ShowRequest();
     void GoToStart();
@@ -58,6 +64,7 @@ private:
     /// Returns when the job has ended.
     void Run();
     void SetRunning(bool running);
+    void ShowNumber(std::size_t number);
     void ReportEnd();
     void Stop();
     void txtTargetName_KeyDown(KeyEvent& key);

@@ -385,18 +385,19 @@ TEST_F(CopyJobTest, ADriveThatTellsNothingIsTakenAsItComes) {
 TEST_F(CopyJobTest, ADriveFullerThanItSaidIsReportedToo) {
     AddSource(u"a", std::string(3000, 'a'));
     AddSource(u"b", "b");
-    t.files.SetFreeBytes(2000, u"D:\\");
+    AddSource(u"none", "");
     SetRoom(90'000, 80'000);
-    CopyJob job = JobFor({u"a", u"b"});
-    run.DriveFree = 80'000;
+    CopyJob job = JobFor({u"none", u"a", u"b"});
+    ASSERT_TRUE(job.Step());
+    t.files.SetFreeBytes(2000, u"D:\\");
     t.user.Answer({u"Target drive full !\r\n\r\nTarget drive\tD:\\\r\nTotal space\t90,000\r\nFree "
                    u"space\t80,000\r\n\r\nHalted at\tC:\\FROM\\A\r\nSize\t3,000",
                    MessageIcon::Exclamation},
                   Answer::Ok);
     while (job.Step()) {
     }
-    EXPECT_EQ(run.FilesCopied, 0);
-    EXPECT_THAT(t.files.FileNames(u"D:\\To", u"*"), IsEmpty());
+    EXPECT_EQ(run.FilesCopied, 1);
+    EXPECT_THAT(t.files.FileNames(u"D:\\To", u"*"), ElementsAre(u"none"));
 }
 
 // Stopping.
@@ -571,9 +572,9 @@ TEST_F(CopyJobTest, AFolderInTheTargetsPlaceIsNotReplaced) {
 // Folders.
 
 TEST_F(CopyJobTest, TheSameFolderInAnotherCaseIsTheSame) {
-    EXPECT_TRUE(AreSameFolder(t.app, u"C:\\FROM", u"c:\\From"));
-    EXPECT_TRUE(AreSameFolder(t.app, u"C:\\Gone", u"c:\\gone"));
-    EXPECT_FALSE(AreSameFolder(t.app, u"C:\\From", u"D:\\To"));
+    EXPECT_TRUE(AreSameFolder(t.files, u"C:\\FROM", u"c:\\From"));
+    EXPECT_TRUE(AreSameFolder(t.files, u"C:\\Gone", u"c:\\gone"));
+    EXPECT_FALSE(AreSameFolder(t.files, u"C:\\From", u"D:\\To"));
 }
 
 // Where there are links.
@@ -608,9 +609,9 @@ TEST_F(PosixCopyJobTest, AShortFolderGetsItsSeparator) {
 
 TEST_F(PosixCopyJobTest, OneFolderByTwoPathsIsTheSame) {
     t.files.AddLink(u"/link", u"/from");
-    EXPECT_TRUE(AreSameFolder(t.app, u"/link", u"/from"));
-    EXPECT_FALSE(AreSameFolder(t.app, u"/From", u"/from"));
-    EXPECT_FALSE(AreSameFolder(t.app, u"/to", u"/from"));
+    EXPECT_TRUE(AreSameFolder(t.files, u"/link", u"/from"));
+    EXPECT_FALSE(AreSameFolder(t.files, u"/From", u"/from"));
+    EXPECT_FALSE(AreSameFolder(t.files, u"/to", u"/from"));
 }
 
 TEST_F(PosixCopyJobTest, AMovedLinkLeavesItsFileAlone) {

@@ -74,7 +74,7 @@ KORVANE_IN_BOTH_STYLES(JobsTest);
 TEST_P(JobsTest, AFolderInAnotherCaseIsTheSourceOnlyWhereTheDiskSaysSo) {
     t.files.AddFile(At(u"From/a"), "new");
     if (IsPosix()) t.files.AddDir(At(u"FROM"));
-    EXPECT_EQ(AreSameFolder(app, At(u"FROM"), At(u"From")), !IsPosix());
+    EXPECT_EQ(AreSameFolder(t.files, At(u"FROM"), At(u"From")), !IsPosix());
 }
 
 // Kept for compatibility: update-compares-minutes.
