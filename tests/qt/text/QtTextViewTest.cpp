@@ -322,6 +322,17 @@ TEST_F(QtTextViewTest, TheCursorJumpsOverPlacesThatAreNotInTheText) {
     EXPECT_EQ(control.SelStart(), last);
 }
 
+TEST_F(QtTextViewTest, AnEmptyParagraphBeforeATableHasRoom) {
+    control.SetAll(u"\r\n");
+    control.SetSelStart(2);
+    control.InsertTable(1, 1);
+    Settle();
+    ASSERT_EQ(control.Store().TableAt(0), std::nullopt);
+    ASSERT_NE(control.Store().TableAt(2), std::nullopt);
+    const QRectF before = view.CursorAt(0);
+    EXPECT_GE(view.CursorAt(2).top(), before.top() + before.height());
+}
+
 // Input methods.
 
 TEST_F(QtTextViewTest, AnInputMethodWritesThroughTheControl) {

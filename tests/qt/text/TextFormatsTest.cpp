@@ -78,7 +78,17 @@ TEST(TextFormats, TabsCountFromTheStartOfTheLine) {
     EXPECT_EQ(tabs[1].position, TextPixels(1400));
     EXPECT_EQ(tabs[1].type, QTextOption::RightTab);
     EXPECT_EQ(tabs[2].type, QTextOption::DelimiterTab);
-    EXPECT_EQ(tabs[2].delimiter, u',');
+}
+
+TEST(TextFormats, ADecimalTabIsForTheSignOfTheLanguage) {
+    doc::ParaFormat format;
+    format.tabs = {{3000, doc::TabType::Decimal}};
+    const QLocale before;
+    for (const auto& [language, sign] : {std::pair{QLocale::German, u','}, {QLocale::English, u'.'}}) {
+        QLocale::setDefault(QLocale(language));
+        EXPECT_EQ(ParagraphLook(format).tabPositions().at(0).delimiter, sign);
+    }
+    QLocale::setDefault(before);
 }
 
 TEST(TextFormats, LinesAreApartAsTheFormatSays) {

@@ -5,6 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QScreen>
 #include <algorithm>
 
@@ -47,7 +48,8 @@ QTextOption::Tab TabOf(const doc::TabStop& stop, std::int32_t lineStart) {
     constexpr QTextOption::TabType kTypes[] = {QTextOption::LeftTab, QTextOption::RightTab,
                                                QTextOption::CenterTab, QTextOption::DelimiterTab};
     const auto type = kTypes[static_cast<std::size_t>(stop.type) - 1];
-    return {TextPixels(stop.at - lineStart), type, type == QTextOption::DelimiterTab ? u',' : QChar()};
+    const bool decimal = type == QTextOption::DelimiterTab;
+    return {TextPixels(stop.at - lineStart), type, decimal ? QLocale().decimalPoint().front() : QChar()};
 }
 
 /// Qt counts tabs from the start of the line, files count them from the margin.
@@ -164,6 +166,8 @@ const QTextBlockFormat& TextFormats::OfParagraph(const doc::Paragraph& paragraph
     if (!look) {
         look = ParagraphLook(document_.paras[paragraph.format]);
         if (direction != Qt::LayoutDirectionAuto) look->setLayoutDirection(direction);
+        // Qt leaves no room for an empty block before a table unless the block says something of its ground.
+        if (paragraph.cell.table == 0) look->setBackground(Qt::NoBrush);
     }
     return *look;
 }
