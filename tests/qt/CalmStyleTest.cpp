@@ -136,13 +136,21 @@ TEST_F(CalmStyleTest, AListHasAFrameOnAllSides) {
         list.setStyle(&style);
         list.resize(120, 60);
         const QImage picture = list.grab().toImage();
-        for (const QPoint& place :
-             {QPoint(60, 0), QPoint(60, 59), QPoint(0, 30), QPoint(119, 30), QPoint(0, 0)}) {
-            EXPECT_EQ(QColor(picture.pixel(place)).name(),
-                      palette.color(QPalette::Window).darker(140).lighter(108).name());
-        }
+        const QColor frame = picture.pixelColor(60, 0);
+        for (const QPoint& place : {QPoint(60, 59), QPoint(0, 30), QPoint(119, 30), QPoint(0, 0)})
+            EXPECT_EQ(picture.pixelColor(place).name(), frame.name());
         EXPECT_EQ(QColor(picture.pixel(1, 1)).name(), palette.color(QPalette::Base).name());
+        if (!IsDark(palette))
+            EXPECT_EQ(frame.name(), palette.color(QPalette::Window).darker(140).lighter(108).name());
     }
+}
+
+TEST_F(CalmStyleTest, TheFrameOfATreeCanBeSeenOnADarkWindow) {
+    const test::UnderPalette under(DarkPalette());
+    QTreeView tree;
+    EXPECT_GE(EdgeOf(tree, {60, 0}), kReadable);
+    EXPECT_GE(Contrast(tree.grab().toImage().pixelColor(60, 0), DarkPalette().color(QPalette::Base)),
+              kReadable);
 }
 
 TEST_F(CalmStyleTest, OfALineWhatIsToBeSeenIsDrawn) {

@@ -69,11 +69,17 @@ void DrawField(const QStyleOption& option, QPainter& painter) {
     FillEdge(painter, option.rect, colour, 1);
 }
 
-/// The frame of a list or of a text, in the colour in which Fusion draws it.
-void DrawFrame(const QStyleOption& option, QPainter& painter) {
+/// The colour in which Fusion draws the frame of a list, which could hardly be seen on a dark window.
+QColor FrameColour(const QPalette& palette) {
     constexpr int kLighter = 108;
-    const QColor colour = option.palette.color(QPalette::Window).darker(kFieldEdge).lighter(kLighter);
-    FillEdge(painter, option.rect, colour, 0);
+    const QColor window = palette.color(QPalette::Window);
+    if (!IsDark(palette)) return window.darker(kFieldEdge).lighter(kLighter);
+    return WithContrast(EdgeOnDark(palette), {window, palette.color(QPalette::Base)}, kReadable);
+}
+
+/// The frame of a list, a tree or a text.
+void DrawFrame(const QStyleOption& option, QPainter& painter) {
+    FillEdge(painter, option.rect, FrameColour(option.palette), 0);
 }
 
 /// Whether the element is drawn as a hollow in its window. On a dark window it could not be seen without an
