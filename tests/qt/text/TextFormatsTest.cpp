@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QFontMetricsF>
+#include <QLocale>
 
 namespace korvane {
 namespace {
