@@ -3,6 +3,7 @@
 #include "common/text/Text.h"
 #include "platform/PatientDisk.h"
 
+#include <chrono>
 #include <optional>
 #include <vector>
 
@@ -24,5 +25,19 @@ std::optional<bool> HasFolderSoon(const App& app, const Text& folder);
 
 /// The same for many folders, of which the first that stays without an answer ends it.
 std::vector<std::optional<bool>> HasFoldersSoon(const App& app, const std::vector<Text>& folders);
+
+/// Watches a work on the disk, which counts its steps.
+class Standstill {
+public:
+    /// The App outlives the object.
+    explicit Standstill(const App& app);
+    /// Whether nothing has been done for some seconds. A disk that is only slow does something in that time.
+    bool Lasts(int steps);
+
+private:
+    const App& app_;
+    int steps_ = 0;
+    std::chrono::milliseconds since_;
+};
 
 } // namespace korvane

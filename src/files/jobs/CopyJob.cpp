@@ -9,19 +9,11 @@
 #include "controls/KeyEvent.h"
 #include "dialogs/Questions.h"
 #include "files/jobs/CopyWork.h"
-#include "platform/Clock.h"
 #include "platform/FileSystem.h"
 
 #include <utility>
 
 namespace korvane {
-
-namespace {
-
-/// A disk that is only slow takes a step in that time.
-constexpr std::chrono::milliseconds kSilence{3000};
-
-} // namespace
 
 CopyJob::CopyJob(App& app, Task task, CopyMoveRun& run, Host host)
     : app_(app),
@@ -49,13 +41,13 @@ bool CopyJob::Step(std::size_t files) {
 /// False when the disk didn't answer until the user stopped it.
 bool CopyJob::GoOn(std::size_t files) {
     work_->Run() = run_;
-    stepsSince_ = app_.Clock().Uptime();
+    Standstill standstill(app_);
     const bool answered = AskDisk(
         app_,
         [work = work_, files](FileSystem& disk, const korvane::StillWaits& stillWaits) {
             work->GoOn(disk, stillWaits, files);
         },
-        [this] { return StillWaits(); });
+        [&] { return StillWaits(standstill); });
     if (answered) {
         TakeRun();
     } else {
@@ -66,20 +58,13 @@ bool CopyJob::GoOn(std::size_t files) {
     return answered;
 }
 
-bool CopyJob::StillWaits() {
+bool CopyJob::StillWaits(Standstill& standstill) {
     host_.yield();
     CopyWork::Signs& signs = work_->TheSigns();
     signs.stops = run_.LastKey == Key::Escape;
     signs.cancels = run_.CancelPressed == 1;
-    const bool silent = IsSilent();
+    const bool silent = standstill.Lasts(signs.steps);
     return !(signs.stops || signs.cancels) || !silent;
-}
-
-bool CopyJob::IsSilent() {
-    const auto now = app_.Clock().Uptime();
-    const int steps = work_->TheSigns().steps;
-    if (std::exchange(steps_, steps) != steps) stepsSince_ = now;
-    return now - stepsSince_ >= kSilence;
 }
 
 /// The keys are the user's.

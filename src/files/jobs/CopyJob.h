@@ -3,7 +3,6 @@
 #include "files/jobs/CopyMoveRun.h"
 #include "files/jobs/CopyTask.h"
 
-#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -13,6 +12,7 @@ namespace korvane {
 class App;
 class CopyWork;
 class FileSystem;
+class Standstill;
 
 /// Copies or moves the files of one folder to another one, some files with each step. The work on the disk is
 /// done where it can be left alone when the disk falls silent.
@@ -38,8 +38,7 @@ public:
 
 private:
     bool GoOn(std::size_t files);
-    bool StillWaits();
-    bool IsSilent();
+    bool StillWaits(Standstill& standstill);
     void TakeRun();
     void ReportFullDrive();
 
@@ -49,9 +48,6 @@ private:
     Host host_;
     std::shared_ptr<CopyWork> work_;
     bool ended_ = false;
-    /// What the disk had done at a time.
-    int steps_ = 0;
-    std::chrono::milliseconds stepsSince_{};
 };
 
 /// Whether both paths lead to one folder.

@@ -28,6 +28,8 @@ protected:
     static constexpr Twips kUsualWidth{6840};
 
     virtual void Accept() = 0;
+    /// In which the name is to be given.
+    virtual Text FolderOfName() const;
     /// A key of one of the fields that neither accepts nor gives up.
     virtual void FieldKey(TextBox& /*field*/, KeyEvent& /*key*/) {}
 
@@ -38,11 +40,15 @@ protected:
     FileOperation& File() const;
 
 private:
+    void AcceptOnDisk();
+    bool DiskAnswers();
     void Cancel();
     void Field_KeyDown(TextBox& field, KeyEvent& key);
 
     App& app_;
     Twips leastWidth_;
+    /// While it waits for the disk.
+    bool asking_ = false;
 };
 
 } // namespace korvane

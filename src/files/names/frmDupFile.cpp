@@ -2,12 +2,16 @@
 
 #include "common/text/ScopedValue.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "context/StandardMessages.h"
 #include "context/exchange/FileOperation.h"
 #include "files/names/FieldKeys.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
+
+#include <atomic>
+#include <memory>
 
 namespace korvane {
 
@@ -52,6 +56,11 @@ void frmDupFile::FieldKey(TextBox&, KeyEvent& key) {
     AddDate(TheApp(), Text2);
 }
 
+bool frmDupFile::QueryUnload() {
+    left_ = copying_;
+    return !copying_;
+}
+
 void frmDupFile::Accept() {
     if (copying_) return;
     App& app = TheApp();
@@ -66,16 +75,39 @@ void frmDupFile::Accept() {
 }
 
 void frmDupFile::Copy(const Text& target) {
-    App& app = TheApp();
-    CopyOutcome outcome{};
+    std::optional<Copied> copied;
+    left_ = false;
     {
         const ScopedValue copying(copying_, true);
-        const Hourglass hourglass(app.Screen());
-        const CopyOptions options{.betweenSteps = [&app] { app.Screen().ProcessMessages(); }};
-        outcome = app.Files().Copy(File().FileOpName, target, options);
+        const Hourglass hourglass(TheApp().Screen());
+        copied = CopyOnDisk(target);
     }
-    if (outcome == CopyOutcome::Copied) return Done();
-    ShowCannotAccess(app, target);
+    if (!copied) {
+        Close();
+        return;
+    }
+    if (copied->outcome == CopyOutcome::Copied) return Done();
+    ShowCannotAccess(TheApp(), target, FileAccess::Save, copied->reason);
+}
+
+std::optional<frmDupFile::Copied> frmDupFile::CopyOnDisk(const Text& target) {
+    App& app = TheApp();
+    const auto steps = std::make_shared<std::atomic<int>>(0);
+    Standstill standstill(app);
+    const auto stillWaits = [&] {
+        app.Screen().ProcessMessages();
+        return !standstill.Lasts(*steps) || !left_;
+    };
+    return AnswerTo<Copied>([&](const DiskQuestion& question) { return AskDisk(app, question, stillWaits); },
+                            [steps, from = app.Files().FullPath(File().FileOpName),
+                             to = app.Files().FullPath(target)](FileSystem& files, const StillWaits& waits) {
+                                const auto step = [&] {
+                                    ++*steps;
+                                    waits();
+                                };
+                                const CopyOutcome outcome = files.Copy(from, to, {.betweenSteps = step});
+                                return Copied{outcome, files.LastErrorText()};
+                            });
 }
 
 } // namespace korvane

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "files/names/NameDialog.h"
+#include "platform/FileSystem.h"
+
+#include <optional>
 
 namespace korvane {
 
@@ -17,15 +20,24 @@ public:
     CommandButton cmdAddDate{*this, "cmdAddDate", u"Add da&te"};
 
     void Load() override;
-    /// A copy on its way isn't left alone.
-    bool QueryUnload() override { return !copying_; }
+    /// A copy on its way isn't left alone, unless its disk has fallen silent.
+    bool QueryUnload() override;
 
 private:
     void Accept() override;
     void FieldKey(TextBox& field, KeyEvent& key) override;
     void Copy(const Text& target);
+    struct Copied {
+        CopyOutcome outcome{};
+        /// The system's words for why it failed.
+        Text reason;
+    };
+    /// Nothing when the user gave up a disk that had fallen silent.
+    std::optional<Copied> CopyOnDisk(const Text& target);
 
     bool copying_ = false;
+    /// The user wanted to leave the copy.
+    bool left_ = false;
 };
 
 } // namespace korvane

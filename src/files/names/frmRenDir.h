@@ -20,6 +20,7 @@ public:
 
 private:
     void Accept() override;
+    Text FolderOfName() const override { return folder_; }
     void FieldKey(TextBox& field, KeyEvent& key) override;
     void cmdUnderscoreCaps_Click();
     void Rename(const Text& newPath);
