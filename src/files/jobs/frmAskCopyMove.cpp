@@ -2,11 +2,25 @@
 
 #include "common/number/Number.h"
 #include "context/App.h"
+#include "context/DiskQuestions.h"
 #include "files/names/FieldKeys.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PatientDisk.h"
+
+#include <cstdint>
+#include <optional>
 
 namespace korvane {
+
+namespace {
+
+struct Facts {
+    std::int64_t size = 0;
+    std::optional<DateTime> modified;
+};
+
+} // namespace
 
 frmAskCopyMove::frmAskCopyMove(App& app, CopyMoveRun& run)
     : Form(app.Forms(), "frmAskCopyMove", u"Please confirm . . ."), app_(app), run_(run) {
@@ -42,9 +56,14 @@ void frmAskCopyMove::ShowTarget() {
 }
 
 Text frmAskCopyMove::FactsOf(const Text& path) const {
-    const auto modified = app_.Files().Modified(path);
-    return u"Size:  " + FormatGrouped(app_.Files().Size(path).value_or(0)) + u"    Modified:  " +
-           (modified ? app_.Locale().GeneralDate(*modified) : Text());
+    const auto facts =
+        AnswerTo<Facts>([this](const DiskQuestion& question) { return AskDiskSoon(app_, question); },
+                        [path](const FileSystem& files, const StillWaits&) {
+                            return Facts{files.Size(path).value_or(0), files.Modified(path)};
+                        })
+            .value_or(Facts());
+    return u"Size:  " + FormatGrouped(facts.size) + u"    Modified:  " +
+           (facts.modified ? app_.Locale().GeneralDate(*facts.modified) : Text());
 }
 
 // Kept for compatibility: no-to-all-while-renaming.
@@ -85,7 +104,11 @@ void frmAskCopyMove::cmdRenameTarget_Click() {
 
 void frmAskCopyMove::cmdAcceptRename_Click() {
     const Text target = app_.Files().Style().JoinPath(lblTargetPath.Caption.Get(), txtTarget.Text.Get());
-    if (!app_.Files().FileExists(target)) {
+    const auto there = AnswerTo<bool>(
+        [this](const DiskQuestion& question) { return AskDiskSoon(app_, question); },
+        [target](const FileSystem& files, const StillWaits&) { return files.FileExists(target); });
+    if (!there) return;
+    if (!*there) {
         run_.AskTarget = target;
         run_.CopyThisFile = 1;
         Close();

@@ -3,6 +3,7 @@
 #include "context/exchange/CopyMoveRequest.h"
 #include "files/jobs/CopyJob.h"
 #include "files/jobs/CopyWork.h"
+#include "files/jobs/frmAskCopyMove.h"
 #include "files/jobs/frmCopyMove.h"
 #include "files/names/frmNewDir.h"
 #include "support/TestApp.h"
@@ -174,6 +175,22 @@ TEST_F(SilentCopyTest, AJobThatIsStoppedIsFollowedByTheClosingQuestion) {
     });
     frmCopyMove(t.app).ShowModal();
     EXPECT_FALSE(IsCopied(u"a"));
+}
+
+TEST_F(SilentCopyTest, TheQuestionWaitsOnlySomeSecondsForWhatItShows) {
+    run.AskSource = u"C:\\From\\a";
+    run.AskTarget = u"C:\\To\\a";
+    disk.Hold();
+    t.user.On<frmAskCopyMove>([](frmAskCopyMove& f) {
+        EXPECT_EQ(f.lblSourceFacts.Caption.Get(), u"Size:      Modified:  ");
+        f.cmdRenameTarget.Press();
+        f.cmdAcceptRename.Press();
+        EXPECT_TRUE(f.Shown());
+        f.Close();
+    });
+    frmAskCopyMove(t.app, run).ShowModal();
+    EXPECT_EQ(run.CopyThisFile, 0);
+    EXPECT_LE(t.clock.Uptime(), std::chrono::seconds(4));
 }
 
 TEST_F(SilentCopyTest, ALastTargetThatDoesntAnswerIsntBegunWith) {
