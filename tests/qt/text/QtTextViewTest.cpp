@@ -608,6 +608,33 @@ TEST_F(QtTextViewTest, AFlowingTextIsAsWideAsTheViewAtEveryZoom) {
     }
 }
 
+/// Counts the sizes that a widget gets.
+class CountedSizes final : public QObject {
+public:
+    explicit CountedSizes(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Resize) ++count;
+        return false;
+    }
+    int count = 0;
+};
+
+TEST_F(QtTextViewTest, ATextThatIsLargerByAPartOfAPointEndsTheSearchForASize) {
+    control.SetAll(u"a\r\nb\r\nc\r\nd\r\ne\r\nf");
+    control.SetIndentB(3);
+    for (const int zoom : kZoomSteps) {
+        control.ZoomFactor = zoom;
+        view.resize(600, 3000);
+        Settle();
+        const double height = view.Mirror().Current().size().height() * view.Zoom();
+        const CountedSizes sizes(*view.viewport());
+        view.resize(600, static_cast<int>(height) + view.height() - view.maximumViewportSize().height());
+        Settle();
+        // With a bar and without one, and that is all.
+        EXPECT_LT(sizes.count, 5) << zoom << ": " << height;
+    }
+}
+
 TEST_F(QtTextViewTest, WhatIsReadStaysWhereItIsWhenTheViewBecomesNarrower) {
     Text text;
     for (int i = 0; i < 3000; ++i)
@@ -736,6 +763,37 @@ TEST_F(QtTextViewTest, FramesAreDrawnAroundParagraphs) {
     control.SetFrameLineWidth(45);
     // Two lines, each three pixels high and nearly as long as the view is wide.
     EXPECT_GT(Painted(view, Qt::black) - before, 2 * 2 * (view.viewport()->width() - 40));
+}
+
+/// How many points of a column of the picture are black.
+int BlackIn(const QImage& image, int column) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        count += image.pixelColor(column, y) == Qt::black ? 1 : 0;
+    return count;
+}
+
+TEST_F(QtTextViewTest, ThinLinesAreSeenInASmallView) {
+    control.BackColor = Colour{0xFFFFFF};
+    const auto expectTwoLines = [this](const char* of) {
+        for (const int zoom : kZoomSteps) {
+            if (zoom > 100) return;
+            control.ZoomFactor = zoom;
+            Settle();
+            const int column = view.mapFromScene(TextPixels(3000), 0).x();
+            EXPECT_EQ(BlackIn(view.viewport()->grab().toImage(), column), 2) << of << " at " << zoom;
+        }
+    };
+    control.InsertTable(1, 1);
+    control.FormatCells(-1, [](int, int, doc::CellFormat& cell) {
+        cell.width = 6000;
+        cell.border.fill(5);
+    });
+    expectTwoLines("the table");
+    control.SetAll(u"a");
+    control.SetFrameStyle(doc::kFrameTop | doc::kFrameBottom | doc::kFrameSingle);
+    control.SetFrameLineWidth(15);
+    expectTwoLines("the frame");
 }
 
 TEST_F(QtTextViewTest, LinesOfTablesAreDrawn) {

@@ -46,6 +46,14 @@ doc::MemoryTextStore& StoreOf(TextControl& control) {
     return dynamic_cast<doc::MemoryTextStore&>(control.Store());
 }
 
+/// The size so that it is a little less than whole points of the screen. Qt makes room for a scroll bar when
+/// a part of a point is too much, then finds nothing to scroll, and takes the bar away again, on and on.
+QSizeF InWholePoints(const QSizeF& size, double zoom) {
+    constexpr double kLess = 0.01;
+    const auto whole = [zoom](double length) { return (std::round(length * zoom) - kLess) / zoom; };
+    return {whole(size.width()), whole(size.height())};
+}
+
 /// Qt takes the whole of a table into a selection that ends in it, and whole cells into one of several cells.
 QTextCursor Selecting(QTextDocument& document, int anchor, int position) {
     QTextCursor cursor(&document);
@@ -224,6 +232,7 @@ void QtTextView::FitScene() {
     } else {
         // A click below the text goes into it too.
         text.setHeight(std::max(text.height(), seen.height() - 1));
+        text.setSize(InWholePoints(text.size(), Zoom()));
         item_->SetLeast(text);
         scene_.setSceneRect(text);
     }

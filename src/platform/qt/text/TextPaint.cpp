@@ -25,7 +25,8 @@ public:
           document_(mirror.Current()),
           layout_(*document_.documentLayout()),
           exposed_(exposed),
-          colour_(colour) {}
+          colour_(colour),
+          point_(1 / painter.deviceTransform().m11()) {}
 
     void Paint() {
         QTextBlock block = BlockAtHeight(document_, exposed_.top());
@@ -123,21 +124,28 @@ private:
     void PaintTabLines(const doc::ParaFormat& format, double margin, double top, double height) {
         const double width = TextPixels(std::max(format.frameWidth, kTwipsPerPixel));
         for (const doc::TabStop& stop : format.tabs)
-            painter_.fillRect(QRectF(margin + TextPixels(stop.at), top, width, height), colour_);
+            Fill({margin + TextPixels(stop.at), top, width, height});
     }
 
     /// A line as long as the rectangle; a double one is two thinner lines.
     void Line(const QRectF& line, const doc::ParaFormat& format) {
         if ((format.frame & doc::kFrameDouble) == 0) {
-            painter_.fillRect(line, colour_);
+            Fill(line);
             return;
         }
         const bool upright = line.width() < line.height();
         const double third = (upright ? line.width() : line.height()) / 3;
         const QMarginsF first = upright ? QMarginsF(0, 0, 2 * third, 0) : QMarginsF(0, 0, 0, 2 * third);
         const QMarginsF second = upright ? QMarginsF(2 * third, 0, 0, 0) : QMarginsF(0, 2 * third, 0, 0);
-        painter_.fillRect(line - first, colour_);
-        painter_.fillRect(line - second, colour_);
+        Fill(line - first);
+        Fill(line - second);
+    }
+
+    /// A line has at least the thickness of a point of the screen. A thinner one is seen at some places only.
+    void Fill(QRectF line) {
+        line.setWidth(std::max(line.width(), point_));
+        line.setHeight(std::max(line.height(), point_));
+        painter_.fillRect(line, colour_);
     }
 
     // Lists.
@@ -210,7 +218,7 @@ private:
             return TextPixels(format.border[static_cast<std::size_t>(side)]);
         };
         const auto draw = [this](const QRectF& line) {
-            if (!line.isEmpty()) painter_.fillRect(line, colour_);
+            if (!line.isEmpty()) Fill(line);
         };
         draw({cell.left(), cell.top(), width(doc::Side::Left), cell.height()});
         draw({cell.right() - width(doc::Side::Right), cell.top(), width(doc::Side::Right), cell.height()});
@@ -224,6 +232,8 @@ private:
     const QAbstractTextDocumentLayout& layout_;
     QRectF exposed_;
     QColor colour_;
+    /// The size of a point of the screen.
+    double point_;
     /// The row that was drawn last.
     doc::CellPlace row_{};
 };
