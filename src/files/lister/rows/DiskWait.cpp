@@ -40,6 +40,8 @@ bool DiskWait::AskBetween(const DiskQuestion& question, const std::function<bool
     // First of all, because a button that goes gives the keyboard to the list, which would be read then.
     focused.SetFocus();
     Show(false);
+    // The list couldn't take it while it was hidden.
+    if (&focused == &parts_.list) focused.SetFocus();
     return answered;
 }
 

@@ -131,6 +131,32 @@ TEST_P(SilentCommandsTest, NoFileCommandGoesOnWhenItIsStopped) {
     EXPECT_THAT(t.user.Messages(), IsEmpty());
 }
 
+/// Notes whether a control could be seen when it was last given the keyboard.
+class FocusWatch final : public View {
+public:
+    explicit FocusWatch(Control& control) : control_(control) { control_.SetView(this); }
+    FocusWatch(const FocusWatch&) = delete;
+    FocusWatch& operator=(const FocusWatch&) = delete;
+    ~FocusWatch() override { control_.SetView(nullptr); }
+    void Follow(Observed&, Aspect aspect) override {
+        if (aspect == Aspect::Focus) couldTakeIt = control_.Visible;
+    }
+    std::optional<bool> couldTakeIt;
+
+private:
+    Control& control_;
+};
+
+TEST_P(SilentCommandsTest, TheListGetsTheKeyboardBackWhenItIsSeenAgain) {
+    Open([this](frmGetFileFromTree& f) {
+        f.ListView1.SetFocus();
+        const FocusWatch watch(f.ListView1);
+        StopIn(f, Menu("mnuEdit_Rename"));
+        EXPECT_EQ(f.Focused(), &f.ListView1);
+        EXPECT_EQ(watch.couldTakeIt, true);
+    });
+}
+
 TEST_P(SilentCommandsTest, AFileOnASlowDiskIsViewed) {
     Open([this](frmGetFileFromTree& f) { AnswerLateIn(f, Menu("mnuEdit_View")); });
     EXPECT_THAT(texts.viewed, ElementsAre(At(u"Data/a.txt")));
