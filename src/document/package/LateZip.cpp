@@ -102,6 +102,10 @@ zip_int64_t zip_source_read(zip_source_t* source, void* data, zip_uint64_t lengt
     return Call("zip_source_read", zip_source_read, source, data, length);
 }
 
+int zip_stat_index(zip_t* archive, zip_uint64_t index, zip_flags_t flags, zip_stat_t* stat) {
+    return Call("zip_stat_index", zip_stat_index, archive, index, flags, stat);
+}
+
 void zip_stat_init(zip_stat_t* stat) {
     Call("zip_stat_init", zip_stat_init, stat);
 }

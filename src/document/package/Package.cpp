@@ -44,6 +44,14 @@ std::string Resolved(const std::string& folder, std::string_view target) {
     return name;
 }
 
+/// How large the archive says that a part is; 0 if it doesn't say.
+std::size_t SizeToldOf(zip_t* archive, zip_uint64_t index) {
+    zip_stat_t stat;
+    zip_stat_init(&stat);
+    const bool told = zip_stat_index(archive, index, 0, &stat) == 0 && (stat.valid & ZIP_STAT_SIZE) != 0;
+    return told ? static_cast<std::size_t>(stat.size) : 0;
+}
+
 struct CloseFile {
     void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
@@ -82,11 +90,15 @@ std::optional<std::string> Package::Unpacked(const std::string& name) {
     if (archive_ == nullptr) return std::nullopt;
     const zip_int64_t index = zip_name_locate(archive_, name.c_str(), ZIP_FL_NOCASE);
     if (index < 0) return std::nullopt;
+    const std::size_t told = SizeToldOf(archive_, static_cast<zip_uint64_t>(index));
+    overLimit_ = overLimit_ || told > left_;
+    if (told > left_) return std::nullopt;
     const std::unique_ptr<zip_file_t, CloseFile> file(
         zip_fopen_index(archive_, static_cast<zip_uint64_t>(index), 0));
     if (!file) return std::nullopt;
     // The size that the archive tells may be wrong, so what comes out is counted.
     std::string bytes;
+    bytes.reserve(told);
     char buffer[1 << 16];
     while (true) {
         const zip_int64_t read = zip_fread(file.get(), buffer, sizeof buffer);

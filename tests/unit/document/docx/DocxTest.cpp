@@ -218,6 +218,39 @@ TEST(Docx, APartThatUnpacksToTooMuchIsLeftOut) {
     EXPECT_EQ(PlainText(read.document), u"");
 }
 
+/// Puts a size in place of those that an archive of one long part tells of it, in the part's head and in the
+/// directory.
+std::string WithSizeTold(std::string archive, std::uint32_t size, std::uint32_t told) {
+    const auto bytesOf = [](std::uint32_t number) {
+        std::string bytes;
+        for (int shift = 0; shift < 32; shift += 8)
+            bytes += static_cast<char>(number >> shift & 0xFF);
+        return bytes;
+    };
+    int places = 0;
+    for (std::size_t at = 0; (at = archive.find(bytesOf(size), at)) != std::string::npos; ++places)
+        archive.replace(at, 4, bytesOf(told));
+    EXPECT_GE(places, 1);
+    return archive;
+}
+
+TEST(Docx, APartThatTellsTooLargeASizeIsntUnpackedAtAll) {
+    const std::string body(1'234'567, 'a');
+    PackageWriter package;
+    package.Add("part", body);
+    const std::string whole = package.Write();
+    Limits limits;
+    limits.bytes = 2'000'000;
+    EXPECT_TRUE(Package(whole, limits).Part("part") == body);
+    const std::string larger = WithSizeTold(whole, 1'234'567, 900'000'000);
+    Package refused(larger, limits);
+    EXPECT_EQ(refused.Part("part"), std::nullopt);
+    EXPECT_TRUE(refused.OverLimit());
+    // One that tells less than it has is never more than the limit either.
+    const std::string smaller = WithSizeTold(whole, 1'234'567, 10);
+    EXPECT_LT(Package(smaller, limits).Part("part").value_or("").size(), body.size() + 1);
+}
+
 TEST(Docx, NestingHasALimit) {
     std::string deep;
     for (int i = 0; i < 100'000; ++i)
