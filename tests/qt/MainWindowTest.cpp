@@ -536,9 +536,10 @@ TEST_F(MainWindowTest, TabGoesThroughTheStripAboveTheTableAsItIsSeen) {
         const QWidget* const focused = QApplication::focusWidget();
         ASSERT_NE(focused, nullptr) << name;
         ASSERT_EQ(focused->objectName(), name);
-        const bool inStrip = focused != &Table();
-        if (inStrip) EXPECT_GT(focused->x(), std::exchange(left, focused->x())) << name;
-        if (inStrip) Key(Qt::Key_Tab);
+        // The table is below the strip.
+        if (focused == &Table()) continue;
+        EXPECT_GT(focused->x(), std::exchange(left, focused->x())) << name;
+        Key(Qt::Key_Tab);
     }
 }
 

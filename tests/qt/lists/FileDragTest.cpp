@@ -98,10 +98,17 @@ TEST_F(FileDragTest, RowsThatAreNoFilesAreNotDragged) {
 }
 
 TEST(DroppedFilesTest, AFolderIsNamedAsItStandsInPaths) {
+#ifdef _WIN32
+    const QString root = "file:///C:/";
+    const std::vector<Text> paths{u"C:\\data\\sub folder", u"C:\\data\\a.txt", u"C:\\"};
+#else
+    const QString root = "file:///";
+    const std::vector<Text> paths{u"/data/sub folder", u"/data/a.txt", u"/"};
+#endif
     QMimeData dragged;
-    dragged.setUrls({QUrl("file:///data/sub%20folder/"), QUrl("file:///data/a.txt"), QUrl("file:///"),
+    dragged.setUrls({QUrl(root + "data/sub%20folder/"), QUrl(root + "data/a.txt"), QUrl(root),
                      QUrl("http://example.org/a.txt")});
-    EXPECT_EQ(LocalFiles(dragged), (std::vector<Text>{u"/data/sub folder", u"/data/a.txt", u"/"}));
+    EXPECT_EQ(LocalFiles(dragged), paths);
 }
 
 } // namespace
