@@ -38,6 +38,14 @@ TEST(TextFormats, RaisedCharactersAreRaisedByTheirLength) {
     EXPECT_EQ(CharLook(format, u"Arial").verticalAlignment(), QTextCharFormat::AlignSuperScript);
 }
 
+TEST(TextFormats, CharactersOnAColourCanBeRead) {
+    const auto foreOn = [](Colour back) { return CharLook({.back = back}, u"Arial").foreground().color(); };
+    EXPECT_EQ(foreOn(Colour{0x00FFFF}), Qt::black);
+    EXPECT_EQ(foreOn(Colour{0x800000}), Qt::white);
+    EXPECT_EQ(CharLook({.fore = Colour{255}, .back = Colour{255}}, u"Arial").foreground().color(), Qt::red);
+    EXPECT_FALSE(CharLook({}, u"Arial").hasProperty(QTextFormat::ForegroundBrush));
+}
+
 TEST(TextFormats, LengthsComeBack) {
     for (const std::int32_t twips : {-36, 0, 1, 7, 15, 284, 567, 11906})
         EXPECT_EQ(TextTwips(TextPixels(twips)), twips);

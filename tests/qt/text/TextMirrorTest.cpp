@@ -7,6 +7,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontDatabase>
+#include <QTextBlock>
 #include <algorithm>
 #include <random>
 
@@ -155,6 +156,21 @@ TEST(TextMirror, ThePartsOfATableFollowEachOtherWithoutAGap) {
                   rect(parts[part - 1]).bottom());
         EXPECT_EQ(rect(parts[part]).top(), rect(parts[part - 1]).bottom());
     }
+}
+
+TEST(TextMirror, TextInAColouredCellCanBeRead) {
+    doc::MemoryTextStore store;
+    store.InsertTable(0, 1, 2);
+    store.Replace(0, 0, doc::FromPlainText(u"a"));
+    store.Replace(3, 3, doc::FromPlainText(u"b"));
+    store.FormatCells(1, [](const doc::CellPlace& place, doc::CellFormat& cell) {
+        if (place.column == 0) cell.back = Colour{0x800000};
+    });
+    TextMirror mirror(store);
+    mirror.Shown();
+    EXPECT_EQ(mirror.BlockOf(0).begin().fragment().charFormat().foreground().color(), Qt::white);
+    EXPECT_FALSE(mirror.BlockOf(1).begin().fragment().charFormat().hasProperty(QTextFormat::ForegroundBrush));
+    EXPECT_EQ(FaultOf(mirror), "");
 }
 
 TEST(TextMirror, TablesThatTouchAreApart) {

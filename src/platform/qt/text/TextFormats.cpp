@@ -1,6 +1,7 @@
 #include "platform/qt/text/TextFormats.h"
 
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/Contrast.h"
 #include "platform/qt/text/ShownDocument.h"
 
 #include <QFontMetricsF>
@@ -114,7 +115,10 @@ QTextCharFormat CharLook(const doc::CharFormat& format, TextView font) {
     look.setFontUnderline(format.underline);
     look.setFontStrikeOut(format.strike);
     look.setFontCapitalization(format.smallCaps ? QFont::SmallCaps : QFont::MixedCase);
-    if (format.fore != kNoColour) look.setForeground(ToQColor(format.fore));
+    if (format.fore != kNoColour)
+        look.setForeground(ToQColor(format.fore));
+    else if (format.back != kNoColour)
+        look.setForeground(BlackOrWhite(ToQColor(format.back)));
     if (format.back != kNoColour) look.setBackground(ToQColor(format.back));
     WriteScript(look, format);
     return look;

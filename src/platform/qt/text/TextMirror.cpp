@@ -3,6 +3,7 @@
 #include "common/text/SymbolFont.h"
 #include "document/model/ListNumbers.h"
 #include "platform/qt/base/Convert.h"
+#include "platform/qt/look/Contrast.h"
 #include "platform/qt/text/ListMarks.h"
 #include "platform/qt/text/ShownDocument.h"
 
@@ -215,10 +216,18 @@ void TextMirror::WriteEmptyLook(QTextCursor& cursor, std::size_t paragraph) {
         TableCellLook(cell, formats_.OfChars(written.emptyFormat)));
 }
 
+Colour TextMirror::GroundOf(const doc::CellPlace& cell) const {
+    return cell.table == 0 ? kNoColour : Text().tables.at(cell.table).rows[cell.row].cells[cell.column].back;
+}
+
 void TextMirror::PutText(QTextCursor& cursor, const doc::Paragraph& paragraph) {
+    const Colour ground = GroundOf(paragraph.cell);
     std::size_t at = 0;
     for (const doc::Run& run : paragraph.runs) {
-        const QTextCharFormat look = formats_.OfRun(run);
+        QTextCharFormat look = formats_.OfRun(run);
+        // The colour of the window's texts is for the window's ground.
+        if (ground != kNoColour && !look.hasProperty(QTextFormat::ForegroundBrush))
+            look.setForeground(BlackOrWhite(ToQColor(ground)));
         const TextView text = TextView(paragraph.text).substr(at, run.length);
         if (run.image != 0)
             cursor.insertText(QString(QChar::ObjectReplacementCharacter), look);

@@ -78,6 +78,8 @@ private:
     std::size_t PutCell(QTextCursor& cursor, QTextTable& table, std::size_t first,
                         const doc::CellFormat& format);
     void PutBlock(QTextCursor& cursor, std::size_t paragraph);
+    /// The background of a cell, if it has one.
+    Colour GroundOf(const doc::CellPlace& cell) const;
     void PutText(QTextCursor& cursor, const doc::Paragraph& paragraph);
     void WriteEmptyLook(QTextCursor& cursor, std::size_t paragraph);
 
