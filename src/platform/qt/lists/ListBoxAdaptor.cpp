@@ -6,6 +6,8 @@
 #include "platform/qt/look/DenseLines.h"
 
 #include <QApplication>
+#include <QFontMetricsF>
+#include <QtMath>
 
 namespace korvane {
 
@@ -13,6 +15,11 @@ namespace {
 
 /// Faces are of different heights. This share of the list's own leaves room for most of them.
 constexpr int kFaceHeight = 150;
+
+/// The height of a line in a text that is laid out in the widget's font.
+int LineHeight(const QWidget& widget) {
+    return qCeil(QFontMetricsF(widget.fontMetrics()).lineSpacing());
+}
 
 } // namespace
 
@@ -23,7 +30,7 @@ ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget)
 ListBoxAdaptor::ListBoxAdaptor(ListBox& list, QListView& widget, ListBoxModel& model)
     : RowsAdaptor(list, widget, model), list_(list), widget_(widget), model_(model) {
     widget.setUniformItemSizes(true);
-    if (widget.property(kDenseLines).toBool()) model.SetRowHeight(widget.fontMetrics().height());
+    if (widget.property(kDenseLines).toBool()) model.SetRowHeight(LineHeight(widget));
 }
 
 void ListBoxAdaptor::Write(Aspect aspect) {
