@@ -43,12 +43,13 @@ protected:
         return dialog.Choose(request);
     }
     static void Accept(QFileDialog& opened) { QMetaObject::invokeMethod(&opened, "accept"); }
+    Text PathOf(const char* name) const { return ToText(QDir::toNativeSeparators(dir.filePath(name))); }
     static QLineEdit& Name(QFileDialog& opened) { return *opened.findChild<QLineEdit*>("fileNameEdit"); }
 
     QTemporaryDir dir;
     QtSystemFileDialog dialog;
     SystemFileDialog::Request request{SystemFileDialog::Purpose::Save, u"Excel tables (*.xls)|*.xls",
-                                      u"Save table", ToText(dir.filePath("table.xls")), u"xls"};
+                                      u"Save table", PathOf("table.xls"), u"xls"};
 };
 
 TEST_F(QtSystemFileDialogTest, OffersWhatTheRequestAsksFor) {
@@ -64,7 +65,7 @@ TEST_F(QtSystemFileDialogTest, OffersWhatTheRequestAsksFor) {
 }
 
 TEST_F(QtSystemFileDialogTest, TellsTheChosenFile) {
-    EXPECT_EQ(Choose(&Accept), ToText(dir.filePath("table.xls")));
+    EXPECT_EQ(Choose(&Accept), PathOf("table.xls"));
 }
 
 TEST_F(QtSystemFileDialogTest, ANameWithoutAnExtensionGetsTheOneThatTheRequestNames) {
@@ -72,7 +73,7 @@ TEST_F(QtSystemFileDialogTest, ANameWithoutAnExtensionGetsTheOneThatTheRequestNa
         Name(opened).setText("other");
         Accept(opened);
     });
-    EXPECT_EQ(chosen, ToText(dir.filePath("other.xls")));
+    EXPECT_EQ(chosen, PathOf("other.xls"));
 }
 
 TEST_F(QtSystemFileDialogTest, OpensAFileThatIsThere) {
@@ -85,7 +86,7 @@ TEST_F(QtSystemFileDialogTest, OpensAFileThatIsThere) {
         Name(opened).setText("old.xls");
         Accept(opened);
     });
-    EXPECT_EQ(chosen, ToText(dir.filePath("old.xls")));
+    EXPECT_EQ(chosen, PathOf("old.xls"));
 }
 
 } // namespace
