@@ -54,8 +54,9 @@ protected:
         return Picture([this](QPainter& painter) { Paint(painter); });
     }
     QImage ByLetters() {
-        return Picture([this](QPainter& painter) {
-            letters_.Draw(painter, document_, [this](QPainter& inner) { Paint(inner); });
+        const QRectF area = area_.isNull() ? QRectF({}, document_.size()) : area_;
+        return Picture([&](QPainter& painter) {
+            letters_.Draw(painter, document_, area, [this](QPainter& inner) { Paint(inner); });
         });
     }
     /// The greatest difference of a colour of a pixel.
@@ -94,6 +95,8 @@ protected:
     QColor text_ = Qt::black;
     QColor page_ = Qt::white;
     QRect clip_;
+    /// All of the document if it is null.
+    QRectF area_;
     bool selected_ = false;
 };
 
@@ -135,6 +138,17 @@ TEST_F(LargeLettersTest, NothingIsDrawnBesideTheClip) {
     QImage outside = drawn;
     QPainter(&outside).fillRect(clip_, page_);
     EXPECT_FALSE(HasLetters(outside));
+}
+
+TEST_F(LargeLettersTest, LinesFarFromTheAreaAreLeftToQt) {
+    SetText("one\ntwo\nthree\nfour\nfive\nsix\nseven");
+    area_ = QRectF(0, 0, 180, document_.size().height() / document_.blockCount());
+    EXPECT_TRUE(HasLetters(ByLetters()));
+    const qsizetype ofTheArea = letters_.Kept();
+    EXPECT_GT(ofTheArea, 0);
+    area_ = {};
+    ByLetters();
+    EXPECT_GT(letters_.Kept(), ofTheArea);
 }
 
 TEST_F(LargeLettersTest, TheSecondPaintIsOfTheSamePictures) {

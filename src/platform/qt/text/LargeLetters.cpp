@@ -26,10 +26,11 @@ constexpr int kQuarters = 1 << kQuarterBits;
 /// Passes everything on to another painter, and draws the letters that are large there as pictures.
 class LetterEngine final : public QPaintEngine {
 public:
-    LetterEngine(QPainter& target, const QTextDocument& document, LargeLetters& letters)
+    LetterEngine(QPainter& target, const QTextDocument& document, const QRectF& ready, LargeLetters& letters)
         : QPaintEngine(AllFeatures),
           target_(target),
           document_(document),
+          ready_(ready),
           letters_(letters),
           ratio_(target.device()->devicePixelRatioF()),
           clips_(target.hasClipping()),
@@ -78,7 +79,7 @@ public:
         target_.drawImage(to, image, from, flags);
     }
     void drawTextItem(const QPointF& at, const QTextItem& item) override {
-        if (!IsLarge(item) || !DrawLetters(at, item)) target_.drawTextItem(at, item);
+        if (!IsLarge(item) || !IsReady(at, item) || !DrawLetters(at, item)) target_.drawTextItem(at, item);
     }
 
 private:
@@ -115,6 +116,11 @@ private:
                transform.m11() == transform.m22() && QFontInfo(item.font()).pixelSize() * Scale() > kLargest;
     }
 
+    /// Qt draws some lines beyond what it was asked for, too.
+    bool IsReady(const QPointF& at, const QTextItem& item) const {
+        return at.y() - item.ascent() >= ready_.top() && at.y() <= ready_.bottom();
+    }
+
     bool DrawLetters(const QPointF& at, const QTextItem& item) {
         const QList<QGlyphRun> runs = GlyphsOf(document_, at, item);
         return !runs.empty() &&
@@ -145,6 +151,8 @@ private:
 
     QPainter& target_;
     const QTextDocument& document_;
+    /// Where the document's glyphs may be asked for.
+    QRectF ready_;
     LargeLetters& letters_;
     double ratio_;
     bool clips_;
@@ -155,8 +163,8 @@ private:
 /// As large as the device of the painter.
 class LetterDevice final : public QPaintDevice {
 public:
-    LetterDevice(QPainter& target, const QTextDocument& document, LargeLetters& letters)
-        : device_(*target.device()), engine_(target, document, letters) {}
+    LetterDevice(QPainter& target, const QTextDocument& document, const QRectF& ready, LargeLetters& letters)
+        : device_(*target.device()), engine_(target, document, ready, letters) {}
 
     QPaintEngine* paintEngine() const override { return &engine_; }
 
@@ -226,10 +234,13 @@ const LargeLetters::Picture* LargeLetters::PictureOf(const Letter& letter) {
     return pictures_.object(letter);
 }
 
-void LargeLetters::Draw(QPainter& painter, const QTextDocument& document,
+void LargeLetters::Draw(QPainter& painter, const QTextDocument& document, const QRectF& area,
                         const std::function<void(QPainter&)>& draw) {
+    // Letters reach beyond their lines.
+    const QRectF ready = area.adjusted(0, -area.height(), 0, area.height());
+    PrepareGlyphs(document, ready);
     painter.save();
-    LetterDevice device(painter, document, *this);
+    LetterDevice device(painter, document, ready, *this);
     QPainter letters(&device);
     letters.setRenderHints(painter.renderHints());
     letters.setTransform(painter.transform());

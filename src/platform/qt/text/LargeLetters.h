@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPointF>
 #include <QRawFont>
+#include <QRectF>
 #include <functional>
 
 class QPainter;
@@ -15,8 +16,9 @@ namespace korvane {
 /// fills the outlines of larger ones with every paint.
 class LargeLetters {
 public:
-    /// Runs a drawing of the document, whose large letters are pictures that are kept.
-    void Draw(QPainter& painter, const QTextDocument& document, const std::function<void(QPainter&)>& draw);
+    /// Runs a drawing of the document within the area, whose large letters are pictures that are kept.
+    void Draw(QPainter& painter, const QTextDocument& document, const QRectF& area,
+              const std::function<void(QPainter&)>& draw);
 
     /// A letter in its look. Its place is in quarters of a pixel.
     struct Letter {

@@ -1,5 +1,7 @@
 #include "platform/qt/text/LineGlyphs.h"
 
+#include "platform/qt/text/BlockSearch.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -15,15 +17,30 @@ constexpr double kSame = 0.5;
 /// Letters that are raised or lowered are in their line at this part of their height too.
 constexpr double kWithinLine = 1.0 / 3;
 
-/// The line of the block at this height of it.
-QTextLine LineAt(const QTextLayout& layout, double y) {
+/// The number of the line of the block at this height of it.
+int LineNumberAt(const QTextLayout& layout, double y) {
     int first = 0;
     int end = layout.lineCount();
     while (end - first > 1) {
         const int middle = (first + end) / 2;
         (layout.lineAt(middle).y() <= y ? first : end) = middle;
     }
-    return layout.lineAt(first);
+    return first;
+}
+
+/// What Qt needs to find places in the text.
+void PrepareBreaks(const QTextLayout& layout) {
+    layout.isValidCursorPosition(0);
+}
+
+/// From the line above the area on, which Qt draws too.
+void PrepareLines(const QTextLayout& layout, double top, double bottom) {
+    for (int number = std::max(LineNumberAt(layout, top) - 1, 0); number < layout.lineCount(); ++number) {
+        const QTextLine line = layout.lineAt(number);
+        if (line.y() > bottom) return;
+        // This needs the widths of all that is in the line.
+        line.cursorToX(line.textStart());
+    }
 }
 
 /// Where the piece begins in the text of the block, or -1 if it isn't in the line at this place of it.
@@ -41,13 +58,26 @@ int StartOf(const QTextBlock& block, const QTextLine& line, double x, const QTex
 
 } // namespace
 
+void PrepareGlyphs(const QTextDocument& document, const QRectF& area) {
+    // A point between two paragraphs may belong to either of them.
+    const QTextBlock first = BlockAtHeight(document, area.top());
+    bool within = true;
+    for (QTextBlock block = first.previous().isValid() ? first.previous() : first; block.isValid() && within;
+         block = block.next()) {
+        within = TopOf(block) <= area.bottom();
+        const double top = document.documentLayout()->blockBoundingRect(block).top();
+        PrepareBreaks(*block.layout());
+        PrepareLines(*block.layout(), area.top() - top, area.bottom() - top);
+    }
+}
+
 QList<QGlyphRun> GlyphsOf(const QTextDocument& document, const QPointF& place, const QTextItem& piece) {
     const QAbstractTextDocumentLayout& layout = *document.documentLayout();
     const QPointF within = place - QPointF(-kSame, piece.ascent() * kWithinLine);
     const QTextBlock block = document.findBlock(layout.hitTest(within, Qt::FuzzyHit));
     if (!block.isValid() || block.layout()->lineCount() == 0) return {};
     const QPointF origin = layout.blockBoundingRect(block).topLeft();
-    const QTextLine line = LineAt(*block.layout(), within.y() - origin.y());
+    const QTextLine line = block.layout()->lineAt(LineNumberAt(*block.layout(), within.y() - origin.y()));
     const int start = StartOf(block, line, place.x() - origin.x(), piece);
     if (start < 0) return {};
     QList<QGlyphRun> runs = line.glyphRuns(start, static_cast<int>(piece.text().size()));

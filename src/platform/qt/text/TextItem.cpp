@@ -41,7 +41,7 @@ void TextItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, 
     // Qt draws a dashed line around an item that has the keyboard.
     plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
     if (view_.Zoom() > 1) {
-        letters_.Draw(*painter, *document(),
+        letters_.Draw(*painter, *document(), option->exposedRect,
                       [&](QPainter& letters) { QGraphicsTextItem::paint(&letters, &plain, widget); });
     } else {
         QGraphicsTextItem::paint(painter, &plain, widget);
