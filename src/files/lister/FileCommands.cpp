@@ -72,6 +72,7 @@ std::optional<std::vector<FileCommands::Seen>> FileCommands::LookAt(const std::v
         [this](const DiskQuestion& question) { return wait_.AskForCommand(question); },
         [paths](const FileSystem& files, const StillWaits&) {
             std::vector<Seen> seen;
+            seen.reserve(paths.size());
             for (const Text& path : paths)
                 seen.push_back({files.FileExists(path), files.IsLink(path), files.Size(path).has_value()});
             return seen;
@@ -170,6 +171,7 @@ void FileCommands::Delete() {
 
 bool FileCommands::Recycle(const std::vector<Text>& names) {
     std::vector<Text> paths;
+    paths.reserve(names.size());
     for (const Text& name : names)
         paths.push_back(folder_.PathOf(name));
     const auto seen = LookAt(paths);
